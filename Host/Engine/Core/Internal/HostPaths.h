@@ -1,0 +1,37 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include "Containers/Array.h"
+#include "Containers/UnrealString.h"
+
+/**
+ * Where the running editor finds its files. Set before anything reads a file; forgotten when the editor goes down.
+ * All folders are full paths with a trailing slash.
+ */
+namespace HostPaths
+{
+	/** The project to open; its folder becomes the project folder. File may be relative to the working directory. */
+	void SetProjectFile(const FString& File);
+
+	/** A project folder without a descriptor, as tests use it. */
+	void SetProjectDir(const FString& Directory);
+
+	/** Full path of the .uproject; empty when only a folder was set, or nothing. */
+	const FString& GetProjectFile();
+
+	/** Without a project this is the engine folder, as in an engine started without one. */
+	const FString& GetProjectDir();
+
+	/** The folder that holds Config/Base….ini; by default the one that this program was built from. */
+	void SetEngineDir(const FString& Directory);
+	const FString& GetEngineDir();
+
+	/** By default $XDG_CONFIG_HOME/velmorant/, else ~/.config/velmorant/. What is created in it is readable by its owner only. */
+	void SetUserSettingsDir(const FString& Directory);
+	const FString& GetUserSettingsDir();
+
+	/** Folders that hold plugins, each in a folder of its own, beside the project's Plugins folder, which always counts. */
+	void SetPluginDirs(const TArray<FString>& Directories);
+	TArray<FString> GetPluginDirs();
+}

@@ -1,0 +1,44 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "Containers/Array.h"
+
+namespace UE::Core::Private
+{
+	void OnArrayIndexOutOfRange(int64 Index, int64 Num)
+	{
+		checkf(false, TEXT("Array index out of bounds: %lld into an array of size %lld"), Index, Num);
+	}
+
+	void OnArrayRangeOutOfRange(int64 Index, int64 Count, int64 Num)
+	{
+		checkf(false, TEXT("Array range out of bounds: %lld elements from index %lld in an array of size %lld"), Count, Index, Num);
+	}
+
+	void OnArrayChangedDuringIteration()
+	{
+		ensureMsgf(false, TEXT("Array has changed during ranged-for iteration!"));
+	}
+
+	void OnElementOfSameContainer(const void* Element)
+	{
+		checkf(false, TEXT("Attempting to use a container element (%p) which already comes from the container being modified"), Element);
+	}
+
+	void OnContainerTooLarge(int64 Num)
+	{
+		checkf(false, TEXT("Trying to resize a container to an invalid size of %lld"), Num);
+	}
+
+	void* AllocateElements(int64 Num, std::size_t Size, std::size_t Alignment)
+	{
+		return Num == 0 ? nullptr : ::operator new(static_cast<std::size_t>(Num) * Size, std::align_val_t(Alignment));
+	}
+
+	void FreeElements(void* Elements, std::size_t Alignment)
+	{
+		if (Elements)
+		{
+			::operator delete(Elements, std::align_val_t(Alignment));
+		}
+	}
+}

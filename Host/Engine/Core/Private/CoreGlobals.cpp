@@ -1,0 +1,9 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "CoreGlobals.h"
+
+DEFINE_LOG_CATEGORY(LogTemp);
+DEFINE_LOG_CATEGORY(LogCore);
+DEFINE_LOG_CATEGORY(LogInit);
+
+bool GIsEditor = true;

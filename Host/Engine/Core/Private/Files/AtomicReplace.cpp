@@ -1,0 +1,146 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "Files/AtomicReplace.h"
+
+#include "Files/NativePath.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <dirent.h>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace AtomicReplace
+{
+	namespace
+	{
+		constexpr std::string_view TemporaryPrefix = ".velmorant-";
+		constexpr std::string_view TemporarySuffix = ".tmp";
+
+		void (*BeforeRename)(const char*, const char*) = nullptr;
+
+		/** Closes on every way out; errors of close() do not matter after fsync(). */
+		struct FDescriptor
+		{
+			int Value = -1;
+			~FDescriptor()
+			{
+				if (Value >= 0)
+				{
+					close(Value);
+				}
+			}
+		};
+
+		/** Not derived from the target's name, which may already be as long as names can be. */
+		std::string MakeTemporaryName(const std::string& Folder)
+		{
+			static unsigned Counter = 0;
+			const std::string Unique = std::to_string(getpid()) + "-" + std::to_string(++Counter);
+			return (Folder == "/" ? Folder : Folder + "/") + std::string(TemporaryPrefix) + Unique + std::string(TemporarySuffix);
+		}
+
+		int WriteAll(int File, std::string_view Bytes)
+		{
+			while (!Bytes.empty())
+			{
+				const ssize_t Written = write(File, Bytes.data(), Bytes.size());
+				if (Written < 0 && errno != EINTR)
+				{
+					return errno;
+				}
+				Bytes.remove_prefix(Written > 0 ? static_cast<size_t>(Written) : 0);
+			}
+			return 0;
+		}
+
+		int SetOwnerAndMode(int File, const struct stat* Existing, mode_t NewMode)
+		{
+			if (Existing == nullptr)
+			{
+				return fchmod(File, NewMode) == 0 ? 0 : errno;
+			}
+			struct stat Own;
+			if (fstat(File, &Own) == 0 && (Own.st_uid != Existing->st_uid || Own.st_gid != Existing->st_gid))
+			{
+				// Only root may give files away; the group can often be kept even so. Neither is worth failing for.
+				if (fchown(File, Existing->st_uid, Existing->st_gid) != 0 && fchown(File, static_cast<uid_t>(-1), Existing->st_gid) != 0)
+				{
+					errno = 0;
+				}
+			}
+			return fchmod(File, Existing->st_mode & 07777) == 0 ? 0 : errno;
+		}
+
+		int WriteTemporary(const std::string& Temporary, std::string_view Bytes, const struct stat* Existing, mode_t NewMode)
+		{
+			FDescriptor File{open(Temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600)};
+			if (File.Value < 0)
+			{
+				return errno;
+			}
+			int Error = WriteAll(File.Value, Bytes);
+			Error = Error != 0 ? Error : SetOwnerAndMode(File.Value, Existing, NewMode);
+			return Error != 0 ? Error : fsync(File.Value) == 0 ? 0 : errno;
+		}
+
+		/** Makes the rename itself last. A file system that cannot do this has done all it can. */
+		void FlushFolder(const std::string& Folder)
+		{
+			const FDescriptor Directory{open(Folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)};
+			if (Directory.Value >= 0)
+			{
+				fsync(Directory.Value);
+			}
+		}
+	}
+
+	bool IsTemporaryName(std::string_view Name)
+	{
+		return Name.starts_with(TemporaryPrefix) && Name.ends_with(TemporarySuffix);
+	}
+
+	void RemoveLeftovers(const std::string& Folder)
+	{
+		DIR* Directory = opendir(Folder.c_str());
+		if (Directory == nullptr)
+		{
+			return;
+		}
+		while (const dirent* Entry = readdir(Directory))
+		{
+			if (IsTemporaryName(Entry->d_name))
+			{
+				unlinkat(dirfd(Directory), Entry->d_name, 0);
+			}
+		}
+		closedir(Directory);
+	}
+
+	int Replace(const std::string& Target, std::string_view Bytes, const struct stat* Existing, mode_t NewMode)
+	{
+		const std::string Folder = NativePath::FolderOf(Target);
+		const std::string Temporary = MakeTemporaryName(Folder);
+		int Error = WriteTemporary(Temporary, Bytes, Existing, NewMode);
+		if (Error == 0)
+		{
+			if (BeforeRename != nullptr)
+			{
+				BeforeRename(Temporary.c_str(), Target.c_str());
+			}
+			Error = rename(Temporary.c_str(), Target.c_str()) == 0 ? 0 : errno;
+		}
+		if (Error != 0)
+		{
+			unlink(Temporary.c_str());
+			return Error;
+		}
+		FlushFolder(Folder);
+		return 0;
+	}
+
+	void SetBeforeRename(void (*Hook)(const char* TemporaryFile, const char* TargetFile))
+	{
+		BeforeRename = Hook;
+	}
+}

@@ -1,0 +1,28 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <sys/stat.h>
+
+/** One file in the place of another, as one step that a crash or a full disk cannot cut in half. Paths are resolved and full. */
+namespace AtomicReplace
+{
+	/** Whether a name is that of a file that Replace() had not finished. */
+	bool IsTemporaryName(std::string_view Name);
+
+	/**
+	 * Removes what interrupted writes left in Folder. To be called only while the folder is locked: nobody else writes there then, so every
+	 * temporary file is a leftover.
+	 */
+	void RemoveLeftovers(const std::string& Folder);
+
+	/**
+	 * @param Existing the file to be replaced, for its mode and owner; null for a new file, which gets NewMode
+	 * @return 0, or the errno of the step that failed; the target is untouched then and no temporary file remains.
+	 */
+	int Replace(const std::string& Target, std::string_view Bytes, const struct stat* Existing, mode_t NewMode);
+
+	void SetBeforeRename(void (*Hook)(const char* TemporaryFile, const char* TargetFile));
+}

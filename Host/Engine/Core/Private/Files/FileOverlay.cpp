@@ -1,0 +1,47 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "Files/FileOverlay.h"
+
+const FFileOverlay::FEntry* FFileOverlay::Find(const std::string& Path) const
+{
+	const auto Found = Entries.find(Path);
+	return Found != Entries.end() ? &Found->second : nullptr;
+}
+
+bool FFileOverlay::HasDirectory(const std::string& Path) const
+{
+	const std::string Prefix = Path + "/";
+	const auto IsBelow = [&Prefix](const std::string& Other) { return Other.starts_with(Prefix); };
+	const auto Directory = Directories.lower_bound(Prefix);
+	if (Directories.contains(Path) || (Directory != Directories.end() && IsBelow(*Directory)))
+	{
+		return true;
+	}
+	for (auto Entry = Entries.lower_bound(Prefix); Entry != Entries.end() && IsBelow(Entry->first); ++Entry)
+	{
+		if (!Entry->second.bDeleted)
+		{
+			return true;
+		}
+	}
+	return false;
+}
+
+void FFileOverlay::Write(const std::string& Path, std::string_view Bytes)
+{
+	FEntry& Entry = Entries[Path];
+	Entry.bDeleted = false;
+	Entry.Bytes = Bytes;
+}
+
+void FFileOverlay::Delete(const std::string& Path)
+{
+	FEntry& Entry = Entries[Path];
+	Entry.bDeleted = true;
+	Entry.Bytes.clear();
+}
+
+void FFileOverlay::MakeDirectory(const std::string& Path)
+{
+	Directories.insert(Path);
+}

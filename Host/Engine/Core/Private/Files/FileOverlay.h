@@ -1,0 +1,39 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include <map>
+#include <set>
+#include <string>
+#include <string_view>
+
+/** Files and folders that exist only in memory, laid over those on disk. Paths are resolved and full. */
+class FFileOverlay
+{
+public:
+	struct FEntry
+	{
+		bool bDeleted = false;
+		std::string Bytes;
+	};
+
+	using FEntries = std::map<std::string, FEntry, std::less<>>;
+
+	/** Null when the disk counts. */
+	const FEntry* Find(const std::string& Path) const;
+
+	/** Whether a folder stands at Path because something was created in it or it was created itself. */
+	bool HasDirectory(const std::string& Path) const;
+
+	void Write(const std::string& Path, std::string_view Bytes);
+	void Delete(const std::string& Path);
+	void MakeDirectory(const std::string& Path);
+
+	/** Sorted by path. */
+	const FEntries& GetEntries() const { return Entries; }
+	const std::set<std::string>& GetDirectories() const { return Directories; }
+
+private:
+	FEntries Entries;
+	std::set<std::string> Directories;
+};

@@ -1,0 +1,308 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "HostFiles.h"
+
+#include "Files/AtomicReplace.h"
+#include "Files/DirectoryLock.h"
+#include "Files/DiskFile.h"
+#include "Files/FileOverlay.h"
+#include "Files/FolderListing.h"
+#include "Files/NativePath.h"
+#include "Files/WriteRules.h"
+#include "HostState.h"
+
+#include <cerrno>
+#include <memory>
+#include <set>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <vector>
+
+namespace HostFiles
+{
+	using namespace WriteRules;
+
+	namespace
+	{
+		struct FState
+		{
+			std::unique_ptr<FFileOverlay> Overlay;
+			std::vector<std::string> Written;    // in order of the first write
+			std::set<std::string> WrittenLookup; // the same paths
+			std::set<std::string> TidiedFolders; // leftovers are looked for once in each
+		};
+
+		THostState<FState> State;
+
+		FFileOverlay* GetOverlay()
+		{
+			return State.IsSet() ? State.Get().Overlay.get() : nullptr;
+		}
+
+		EKind GetKindOf(const std::string& Resolved)
+		{
+			if (const FFileOverlay* Overlay = GetOverlay())
+			{
+				if (const FFileOverlay::FEntry* Entry = Overlay->Find(Resolved))
+				{
+					return Entry->bDeleted ? EKind::Missing : EKind::File;
+				}
+				if (Overlay->HasDirectory(Resolved))
+				{
+					return EKind::Directory;
+				}
+			}
+			const FOnDisk OnDisk(Resolved);
+			if (!OnDisk.bExists || S_ISREG(OnDisk.Status.st_mode))
+			{
+				return OnDisk.bExists ? EKind::File : EKind::Missing;
+			}
+			return S_ISDIR(OnDisk.Status.st_mode) ? EKind::Directory : EKind::Other;
+		}
+
+		/** In the locked folder of Path. */
+		bool WriteDisk(const std::string& Path, std::string_view Bytes, const FOnDisk& OnDisk)
+		{
+			const std::string Folder = NativePath::FolderOf(Path);
+			FState& Own = State.Get();
+			if (Own.TidiedFolders.insert(Folder).second)
+			{
+				AtomicReplace::RemoveLeftovers(Folder);
+			}
+			const int Error = AtomicReplace::Replace(Path, Bytes, OnDisk.bExists ? &OnDisk.Status : nullptr, GetModeOfNewFile(Path));
+			if (Error != 0)
+			{
+				Report(Path, Describe(TEXT("the file cannot be written and is as it was"), Error), TEXT("Check free space and the permissions of its folder."));
+				return false;
+			}
+			if (Own.WrittenLookup.insert(Path).second)
+			{
+				Own.Written.push_back(Path);
+			}
+			return true;
+		}
+
+		TArray<FString> ToStrings(const std::vector<std::string>& Paths)
+		{
+			TArray<FString> Result;
+			Result.Reserve(static_cast<int32>(Paths.size()));
+			for (const std::string& Path : Paths)
+			{
+				Result.Add(NativePath::ToString(Path));
+			}
+			return Result;
+		}
+	}
+
+	EKind GetKind(const FString& Path)
+	{
+		return GetKindOf(NativePath::Resolve(Path));
+	}
+
+	bool FileExists(const FString& Path)
+	{
+		return GetKind(Path) == EKind::File;
+	}
+
+	bool DirectoryExists(const FString& Path)
+	{
+		return GetKind(Path) == EKind::Directory;
+	}
+
+	ERead Read(const FString& Path, std::string& OutBytes)
+	{
+		OutBytes.clear();
+		if (const FFileOverlay* Overlay = GetOverlay())
+		{
+			if (const FFileOverlay::FEntry* Entry = Overlay->Find(NativePath::Resolve(Path)))
+			{
+				OutBytes = Entry->Bytes;
+				return Entry->bDeleted ? ERead::Missing : ERead::Done;
+			}
+		}
+		const std::string Full = NativePath::MakeFull(Path);
+		const int Error = DiskFile::Read(Full, OutBytes);
+		if (Error == 0 || Error == ENOENT || Error == ENOTDIR)
+		{
+			return Error == 0 ? ERead::Done : ERead::Missing;
+		}
+		if (Error == EISDIR)
+		{
+			Report(Full, TEXT("a folder stands where a file is to be read"), TEXT("Move the folder away."));
+		}
+		else
+		{
+			Report(Full, Describe(TEXT("the file cannot be read"), Error), TEXT("Check its permissions."));
+		}
+		return ERead::Failed;
+	}
+
+	bool Write(const FString& Path, std::string_view Bytes, EReadOnly ReadOnly)
+	{
+		const FLock Lock(Path);
+		const std::string Resolved = NativePath::Resolve(Path);
+		FFileOverlay* Overlay = GetOverlay();
+		if (Overlay != nullptr && Overlay->Find(Resolved) != nullptr)
+		{
+			Overlay->Write(Resolved, Bytes); // the disk had its say the first time
+			return true;
+		}
+		const FOnDisk OnDisk(Resolved);
+		if (OnDisk.bExists && DiskFile::Holds(Resolved, OnDisk.Status, Bytes))
+		{
+			return true;
+		}
+		if (!MayReplace(Resolved, OnDisk, ReadOnly))
+		{
+			return false;
+		}
+		if (Overlay != nullptr)
+		{
+			Overlay->Write(Resolved, Bytes);
+			return true;
+		}
+		return MakeFolderOrReport(NativePath::FolderOf(Resolved)) && WriteDisk(Resolved, Bytes, OnDisk);
+	}
+
+	bool Delete(const FString& Path, EReadOnly ReadOnly)
+	{
+		const std::string Resolved = NativePath::Resolve(Path);
+		if (GetKindOf(Resolved) == EKind::Missing)
+		{
+			return true;
+		}
+		const FLock Lock(Path);
+		FFileOverlay* Overlay = GetOverlay();
+		const bool bOnlyInOverlay = Overlay != nullptr && Overlay->Find(Resolved) != nullptr;
+		if (!bOnlyInOverlay && !MayReplace(Resolved, FOnDisk(Resolved), ReadOnly))
+		{
+			return false;
+		}
+		if (Overlay != nullptr)
+		{
+			Overlay->Delete(Resolved);
+			return true;
+		}
+		if (unlink(Resolved.c_str()) != 0 && errno != ENOENT)
+		{
+			Report(Resolved, Describe(TEXT("the file cannot be deleted"), errno), TEXT("Check the permissions of its folder."));
+			return false;
+		}
+		return true;
+	}
+
+	bool MakeDirectory(const FString& Path)
+	{
+		const std::string Resolved = NativePath::Resolve(Path);
+		FFileOverlay* Overlay = GetOverlay();
+		if (Overlay == nullptr)
+		{
+			return MakeFolderOrReport(Resolved);
+		}
+		const EKind Kind = GetKindOf(Resolved);
+		if (Kind == EKind::Missing)
+		{
+			Overlay->MakeDirectory(Resolved);
+		}
+		return Kind == EKind::Missing || Kind == EKind::Directory;
+	}
+
+	TArray<FString> FindFiles(const FString& Directory, const FString& Suffix)
+	{
+		return ToStrings(FolderListing::FindFiles(NativePath::MakeFull(Directory), NativePath::FromString(Suffix), FolderListing::EDepth::All, GetOverlay()));
+	}
+
+	TArray<FString> FindFilesIn(const FString& Directory, const FString& Suffix)
+	{
+		return ToStrings(FolderListing::FindFiles(NativePath::MakeFull(Directory), NativePath::FromString(Suffix), FolderListing::EDepth::ThisFolder, GetOverlay()));
+	}
+
+	TArray<FString> FindDirectories(const FString& Directory)
+	{
+		return ToStrings(FolderListing::FindDirectories(NativePath::MakeFull(Directory)));
+	}
+
+	bool CheckWritable(const FString& Path)
+	{
+		const std::string Resolved = NativePath::Resolve(Path);
+		if (!MayReplace(Resolved, FOnDisk(Resolved), EReadOnly::Refuse))
+		{
+			return false;
+		}
+		std::string Folder = NativePath::FolderOf(Resolved);
+		while (Folder != "/" && !FOnDisk(Folder).bExists)
+		{
+			Folder = NativePath::FolderOf(Folder);
+		}
+		const FOnDisk Nearest(Folder);
+		if (!S_ISDIR(Nearest.Status.st_mode) || access(Folder.c_str(), W_OK | X_OK) != 0)
+		{
+			Report(Resolved, TEXT("the file cannot be written, its folder does not permit it"), TEXT("Check the permissions of the folder."));
+			return false;
+		}
+		return true;
+	}
+
+	TArray<FString> GetWrittenFiles()
+	{
+		return ToStrings(State.Get().Written);
+	}
+
+	void BeginOverlay()
+	{
+		if (!HasOverlay())
+		{
+			State.Get().Overlay = std::make_unique<FFileOverlay>();
+		}
+	}
+
+	bool HasOverlay()
+	{
+		return GetOverlay() != nullptr;
+	}
+
+	TArray<FPendingWrite> GetPendingWrites()
+	{
+		TArray<FPendingWrite> Result;
+		if (const FFileOverlay* Overlay = GetOverlay())
+		{
+			for (const auto& [Path, Entry] : Overlay->GetEntries())
+			{
+				const FOnDisk OnDisk(Path);
+				const bool bSame = Entry.bDeleted ? !OnDisk.bExists : OnDisk.bExists && DiskFile::Holds(Path, OnDisk.Status, Entry.Bytes);
+				if (!bSame)
+				{
+					Result.Add(FPendingWrite{NativePath::ToString(Path), Entry.bDeleted, Entry.Bytes});
+				}
+			}
+		}
+		return Result;
+	}
+
+	FLock::FLock(const FString& Path)
+	{
+		if (HasOverlay())
+		{
+			return;
+		}
+		const std::string Folder = NativePath::FolderOf(NativePath::Resolve(Path));
+		// A missing folder is about to be written in; that write reports it when the folder cannot be created.
+		if (MakeFolder(Folder) == 0 && DirectoryLock::Acquire(Folder))
+		{
+			Directory = Folder;
+		}
+	}
+
+	FLock::~FLock()
+	{
+		if (!Directory.empty())
+		{
+			DirectoryLock::Release(Directory);
+		}
+	}
+
+	void SetBeforeRename(void (*Hook)(const char* TemporaryFile, const char* TargetFile))
+	{
+		AtomicReplace::SetBeforeRename(Hook);
+	}
+}

@@ -1,0 +1,47 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "HAL/FileManager.h"
+
+#include "Containers/UnrealString.h"
+#include "HostFiles.h"
+#include "Logging/LogMacros.h"
+#include "Misc/Paths.h"
+
+DEFINE_LOG_CATEGORY_STATIC(LogFileManager, Log, All);
+
+namespace FileManager
+{
+	namespace
+	{
+		class FHostFileManager final : public IFileManager
+		{
+		public:
+			//~ Begin IFileManager
+			bool FileExists(const TCHAR* Filename) override { return HostFiles::FileExists(Filename); }
+
+			bool DirectoryExists(const TCHAR* InDirectory) override { return HostFiles::DirectoryExists(InDirectory); }
+
+			bool Delete(const TCHAR* Filename, bool RequireExists, bool EvenReadOnly, bool Quiet) override
+			{
+				const bool bMissing = HostFiles::GetKind(Filename) == HostFiles::EKind::Missing;
+				const HostFiles::EReadOnly ReadOnly = EvenReadOnly ? HostFiles::EReadOnly::Override : HostFiles::EReadOnly::Refuse;
+				const bool bDeleted = bMissing ? !RequireExists : HostFiles::Delete(Filename, ReadOnly);
+				UE_CLOG(!bDeleted && !Quiet, LogFileManager, Warning, TEXT("Could not delete %s"), Filename);
+				return bDeleted;
+			}
+
+			bool MakeDirectory(const TCHAR* Path, bool Tree) override
+			{
+				const FString Full = FPaths::ConvertRelativePathToFull(Path);
+				return (Tree || HostFiles::DirectoryExists(FPaths::GetPath(Full))) && HostFiles::MakeDirectory(Full);
+			}
+			//~ End IFileManager
+		};
+	}
+}
+
+IFileManager& IFileManager::Get()
+{
+	static FileManager::FHostFileManager Manager;
+	return Manager;
+}

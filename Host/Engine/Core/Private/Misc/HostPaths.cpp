@@ -1,0 +1,121 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "HostPaths.h"
+
+#include "Files/NativePath.h"
+#include "HostState.h"
+#include "Misc/Paths.h"
+
+#include <cstdlib>
+#include <pwd.h>
+#include <string>
+#include <unistd.h>
+
+namespace HostPaths
+{
+	namespace
+	{
+		struct FState
+		{
+			FString ProjectFile;
+			FString ProjectDir;
+			FString EngineDir;
+			FString UserSettingsDir;
+			TArray<FString> PluginDirs;
+		};
+
+		THostState<FState> State;
+
+		FString MakeFolder(const FString& Directory)
+		{
+			const FString Full = FPaths::ConvertRelativePathToFull(Directory);
+			return Full.EndsWith(TEXT("/")) ? Full : Full + TEXT("/");
+		}
+
+		std::string GetHome()
+		{
+			const char* Home = std::getenv("HOME");
+			if (Home != nullptr && *Home != '\0')
+			{
+				return Home;
+			}
+			const passwd* User = getpwuid(getuid()); // services and containers come without HOME
+			return User != nullptr && User->pw_dir != nullptr ? std::string(User->pw_dir) : std::string("/");
+		}
+
+		FString MakeDefaultUserSettingsDir()
+		{
+			const char* Configured = std::getenv("XDG_CONFIG_HOME");
+			const bool bUsable = Configured != nullptr && *Configured == '/'; // relative ones are to be ignored
+			return MakeFolder(NativePath::ToString((bUsable ? std::string(Configured) : GetHome() + "/.config") + "/velmorant"));
+		}
+	}
+
+	void SetProjectFile(const FString& File)
+	{
+		State.Get().ProjectFile = FPaths::ConvertRelativePathToFull(File);
+		SetProjectDir(FPaths::GetPath(State.Get().ProjectFile));
+	}
+
+	void SetProjectDir(const FString& Directory)
+	{
+		State.Get().ProjectDir = MakeFolder(Directory);
+	}
+
+	const FString& GetProjectFile()
+	{
+		return State.Get().ProjectFile;
+	}
+
+	const FString& GetProjectDir()
+	{
+		return State.Get().ProjectDir.IsEmpty() ? GetEngineDir() : State.Get().ProjectDir;
+	}
+
+	void SetEngineDir(const FString& Directory)
+	{
+		State.Get().EngineDir = MakeFolder(Directory);
+	}
+
+	const FString& GetEngineDir()
+	{
+		FString& EngineDir = State.Get().EngineDir;
+		if (EngineDir.IsEmpty())
+		{
+			EngineDir = MakeFolder(FString(VELMORANT_ENGINE_DIR));
+		}
+		return EngineDir;
+	}
+
+	void SetUserSettingsDir(const FString& Directory)
+	{
+		State.Get().UserSettingsDir = MakeFolder(Directory);
+	}
+
+	const FString& GetUserSettingsDir()
+	{
+		FString& Directory = State.Get().UserSettingsDir;
+		if (Directory.IsEmpty())
+		{
+			Directory = MakeDefaultUserSettingsDir();
+		}
+		return Directory;
+	}
+
+	void SetPluginDirs(const TArray<FString>& Directories)
+	{
+		TArray<FString> Full;
+		for (const FString& Directory : Directories)
+		{
+			Full.Add(MakeFolder(Directory));
+		}
+		State.Get().PluginDirs = MoveTemp(Full);
+	}
+
+	TArray<FString> GetPluginDirs()
+	{
+		TArray<FString> Result = State.Get().PluginDirs;
+		Result.AddUnique(FPaths::ProjectPluginsDir());
+		return Result;
+	}
+}

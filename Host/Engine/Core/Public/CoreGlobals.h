@@ -1,0 +1,40 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include "Containers/UnrealString.h"
+#include "CoreTypes.h"
+#include "Logging/LogMacros.h"
+
+class FConfigCacheIni;
+class FFeedbackContext;
+class FOutputDeviceRedirector;
+
+DECLARE_LOG_CATEGORY_EXTERN(LogTemp, Log, All);
+DECLARE_LOG_CATEGORY_EXTERN(LogCore, Log, All);
+DECLARE_LOG_CATEGORY_EXTERN(LogInit, Log, All);
+
+extern FOutputDeviceRedirector* GLog;
+extern FFeedbackContext* GWarn;
+extern FConfigCacheIni* GConfig; // null while no editor is running
+
+// Files under which GConfig knows its branches; empty while no editor is running.
+extern FString GEngineIni;
+extern FString GGameIni;
+extern FString GEditorIni;
+extern FString GEditorPerProjectIni;
+
+/** Host: always true. */
+extern bool GIsEditor;
+
+/** Host: everything runs on one thread. */
+inline bool IsInGameThread()
+{
+	return true;
+}
+
+/** Host: programs of the host drive an editor; none of them is a commandlet. */
+inline bool IsRunningCommandlet()
+{
+	return false;
+}

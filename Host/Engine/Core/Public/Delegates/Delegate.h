@@ -1,0 +1,10 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include "Delegates/DelegateCombinations.h"
+#include "Delegates/DelegateSignatureImpl.h"
+#include "Delegates/IDelegateInstance.h"
+
+DECLARE_DELEGATE(FSimpleDelegate);
+DECLARE_MULTICAST_DELEGATE(FSimpleMulticastDelegate);

@@ -1,0 +1,220 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "Conditionals.h"
+
+#include "Diagnostics.h"
+
+#include <set>
+
+namespace HeaderTool
+{
+	namespace
+	{
+		enum class EBranch
+		{
+			On, // known to be compiled
+			Off, // known not to be compiled
+			Unknown, // compiled in some configurations
+		};
+
+		struct FCondition
+		{
+			std::string Text; // as written, for messages
+			int Line = 0;
+			EBranch Branch = EBranch::On;
+			bool bTaken = false; // a branch of this condition has been kept already
+			bool bKeeping = false;
+		};
+
+		/** The directive's first word and the rest. */
+		std::pair<std::string, std::string> SplitDirective(const std::string& Text)
+		{
+			size_t End = 0;
+			while (End < Text.size() && ((Text[End] >= 'a' && Text[End] <= 'z') || Text[End] == '_'))
+			{
+				++End;
+			}
+			const size_t Rest = Text.find_first_not_of(" \t", End);
+			return {Text.substr(0, End), Rest == std::string::npos ? "" : Text.substr(Rest)};
+		}
+
+		std::string WithoutBlanks(const std::string& Text)
+		{
+			std::string Result;
+			for (const char C : Text)
+			{
+				if (C != ' ' && C != '\t' && C != '(' && C != ')')
+				{
+					Result += C;
+				}
+			}
+			return Result;
+		}
+
+		EBranch Evaluate(const std::string& Keyword, const std::string& Condition)
+		{
+			static const std::set<std::string> AlwaysOn = {"WITH_EDITOR", "WITH_EDITORONLY_DATA", "1", "WITH_EDITOR&&WITH_EDITORONLY_DATA", "WITH_EDITORONLY_DATA&&WITH_EDITOR"};
+			static const std::set<std::string> AlwaysOff = {"!WITH_EDITOR", "!WITH_EDITORONLY_DATA", "0"};
+			if (Keyword != "if" && Keyword != "elif")
+			{
+				return EBranch::Unknown;
+			}
+			const std::string Text = WithoutBlanks(Condition);
+			return AlwaysOn.count(Text) ? EBranch::On : AlwaysOff.count(Text) ? EBranch::Off
+																			  : EBranch::Unknown;
+		}
+
+		class FConditionals
+		{
+		public:
+			FConditionals(const std::string& InPath, const std::vector<FToken>& InTokens, FDiagnostics& InDiagnostics)
+				: Path(InPath)
+				, Tokens(InTokens)
+				, Diagnostics(InDiagnostics)
+			{
+			}
+
+			FConditionedSource Run()
+			{
+				for (Index = 0; Index < Tokens.size(); ++Index)
+				{
+					const FToken& Token = Tokens[Index];
+					if (Token.Kind == ETokenKind::Directive)
+					{
+						Directive(Token);
+					}
+					else
+					{
+						Code(Token);
+					}
+				}
+				for (const FCondition& Condition : Stack)
+				{
+					Diagnostics.Error(Path, Condition.Line, "'#" + Condition.Text + "' is never closed; add the missing '#endif'.");
+				}
+				return Result;
+			}
+
+		private:
+			bool IsKeeping() const
+			{
+				return Stack.empty() || Stack.back().bKeeping;
+			}
+
+			void Code(const FToken& Token)
+			{
+				if (Token.Kind == ETokenKind::End)
+				{
+					Result.Tokens.push_back(Token);
+					return;
+				}
+				if (Token.IsIdentifier() && IsReflectionMacro(Token.Text))
+				{
+					for (const FCondition& Condition : Stack)
+					{
+						if (Condition.Branch == EBranch::Unknown)
+						{
+							Diagnostics.Error(Path, Token.Line, Token.Text + " must not stand inside '#" + Condition.Text + "' (line " + std::to_string(Condition.Line) + "): reflected code may only be surrounded by '#if WITH_EDITOR' or '#if WITH_EDITORONLY_DATA'; move it out.");
+							break;
+						}
+					}
+				}
+				if (IsKeeping())
+				{
+					Result.Tokens.push_back(Token);
+				}
+			}
+
+			void Directive(const FToken& Token)
+			{
+				const auto [Keyword, Rest] = SplitDirective(Token.Text);
+				if (Keyword == "if" || Keyword == "ifdef" || Keyword == "ifndef")
+				{
+					Open(Token, Keyword, Rest);
+				}
+				else if (Keyword == "elif" || Keyword == "else")
+				{
+					Alternative(Token, Keyword, Rest);
+				}
+				else if (Keyword == "endif")
+				{
+					if (Stack.empty())
+					{
+						Diagnostics.Error(Path, Token.Line, "'#endif' closes nothing; remove it or add the missing '#if'.");
+						return;
+					}
+					Stack.pop_back();
+				}
+				else if (Keyword == "include" && IsKeeping())
+				{
+					Include(Token, Rest);
+				}
+			}
+
+			void Open(const FToken& Token, const std::string& Keyword, const std::string& Rest)
+			{
+				FCondition Condition;
+				Condition.Text = Token.Text;
+				Condition.Line = Token.Line;
+				Condition.Branch = IsIncludeGuard(Keyword, Rest) ? EBranch::On : Evaluate(Keyword, Rest);
+				Condition.bKeeping = IsKeeping() && Condition.Branch != EBranch::Off;
+				Condition.bTaken = Condition.Branch != EBranch::Off;
+				Stack.push_back(Condition);
+			}
+
+			void Alternative(const FToken& Token, const std::string& Keyword, const std::string& Rest)
+			{
+				if (Stack.empty())
+				{
+					Diagnostics.Error(Path, Token.Line, "'#" + Keyword + "' belongs to no '#if'; remove it or add the missing '#if'.");
+					return;
+				}
+				FCondition Condition = Stack.back();
+				Stack.pop_back();
+				const bool bWasUnknown = Condition.Branch == EBranch::Unknown;
+				const EBranch Own = Keyword == "else" ? EBranch::On : Evaluate(Keyword, Rest);
+				Condition.Branch = bWasUnknown ? EBranch::Unknown : Condition.bTaken ? EBranch::Off
+																					 : Own;
+				Condition.bKeeping = IsKeeping() && !Condition.bTaken && Condition.Branch != EBranch::Off;
+				Condition.bTaken |= Condition.Branch != EBranch::Off;
+				Stack.push_back(Condition);
+			}
+
+			/** `#ifndef X` directly followed by `#define X`, before any code. */
+			bool IsIncludeGuard(const std::string& Keyword, const std::string& Rest) const
+			{
+				return Keyword == "ifndef" && Stack.empty() && Result.Tokens.empty() && Index + 1 < Tokens.size() && Tokens[Index + 1].Kind == ETokenKind::Directive && Tokens[Index + 1].Text == "define " + Rest;
+			}
+
+			void Include(const FToken& Token, const std::string& Rest)
+			{
+				const size_t First = Rest.find_first_of("\"<");
+				const size_t Last = Rest.find_last_of("\">");
+				if (First != std::string::npos && Last > First)
+				{
+					Result.Includes.push_back({Rest.substr(First + 1, Last - First - 1), Token.Line});
+				}
+			}
+
+			const std::string& Path;
+			const std::vector<FToken>& Tokens;
+			FDiagnostics& Diagnostics;
+			FConditionedSource Result;
+			std::vector<FCondition> Stack;
+			size_t Index = 0;
+		};
+	}
+
+	bool IsReflectionMacro(const std::string& Text)
+	{
+		static const std::set<std::string> Names = {
+			"UCLASS", "USTRUCT", "UENUM", "UINTERFACE", "UFUNCTION", "UPROPERTY", "UDELEGATE", "GENERATED_BODY", "GENERATED_UCLASS_BODY",
+			"GENERATED_USTRUCT_BODY", "GENERATED_UINTERFACE_BODY", "GENERATED_IINTERFACE_BODY"};
+		return Names.count(Text) > 0;
+	}
+
+	FConditionedSource ResolveConditionals(const std::string& Path, const std::vector<FToken>& Tokens, FDiagnostics& Diagnostics)
+	{
+		return FConditionals(Path, Tokens, Diagnostics).Run();
+	}
+}

@@ -1,0 +1,118 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "EnumParser.h"
+
+#include "SpecifierParser.h"
+#include "TypeParser.h"
+
+namespace HeaderTool
+{
+	namespace
+	{
+		/** `= …` up to what ends the enumerator. */
+		void SkipValue(FTokenCursor& Cursor)
+		{
+			while (!Cursor.AtEnd() && !Cursor.Is(",") && !Cursor.Is("}") && !Cursor.Is("UMETA"))
+			{
+				if (Cursor.Is("(") || Cursor.Is("{"))
+				{
+					Cursor.SkipBalanced();
+				}
+				else
+				{
+					Cursor.Next();
+				}
+			}
+		}
+
+		FEnumerator ParseEnumerator(FTokenCursor& Cursor, const std::string& Path)
+		{
+			FEnumerator Enumerator;
+			FSpecifierList List;
+			List.Path = Path;
+			const std::string Comment = Cursor.Peek().Comment;
+			Enumerator.Line = Cursor.Peek().Line;
+			Enumerator.Name = Cursor.ExpectIdentifier("the name of an enumerator");
+			SkipDecorations(Cursor);
+			if (Cursor.Is("UMETA"))
+			{
+				List = ParseSpecifiers(Cursor, Path);
+			}
+			if (Cursor.Accept("="))
+			{
+				SkipValue(Cursor);
+				if (Cursor.Is("UMETA"))
+				{
+					List = ParseSpecifiers(Cursor, Path);
+				}
+			}
+			List.Comment = Comment;
+			ApplyEnumeratorSpecifiers(List, Enumerator);
+			return Enumerator;
+		}
+
+		void ParseUnderlying(FTokenCursor& Cursor, FEnum& Enum)
+		{
+			if (Cursor.Accept(":"))
+			{
+				Enum.Underlying = ParseType(Cursor).Spell();
+			}
+		}
+
+		void ParseEnumerators(FTokenCursor& Cursor, const std::string& Path, FEnum& Enum)
+		{
+			Cursor.Expect("{", "to begin the enumerators of '" + Enum.Name + "'");
+			while (!Cursor.Is("}"))
+			{
+				Enum.Enumerators.push_back(ParseEnumerator(Cursor, Path));
+				if (!Cursor.Is("}"))
+				{
+					Cursor.Expect(",", "between the enumerators of '" + Enum.Name + "'");
+				}
+			}
+			Cursor.Next();
+			Cursor.Accept(";");
+		}
+	}
+
+	FEnum ParseEnum(FTokenCursor& Cursor, const FSpecifierList& List, FDiagnostics& Diagnostics)
+	{
+		FEnum Enum;
+		ApplyEnumSpecifiers(List, Enum, Diagnostics);
+		SkipDecorations(Cursor);
+		Enum.Line = Cursor.Peek().Line;
+		if (Cursor.Accept("namespace"))
+		{
+			Enum.Form = EEnumForm::Namespaced;
+			Enum.Name = Cursor.ExpectIdentifier("the name of the namespace after UENUM()");
+			Cursor.Expect("{", "after 'namespace " + Enum.Name + "'");
+			Cursor.Expect("enum", "in the namespace '" + Enum.Name + "' after UENUM()");
+			Enum.InnerName = Cursor.ExpectIdentifier("the name of the enum in '" + Enum.Name + "'");
+			ParseUnderlying(Cursor, Enum);
+			ParseEnumerators(Cursor, List.Path, Enum);
+			// Helpers may follow the enum in its namespace.
+			while (!Cursor.AtEnd() && !Cursor.Is("}"))
+			{
+				if (Cursor.Is("{") || Cursor.Is("("))
+				{
+					Cursor.SkipBalanced();
+				}
+				else
+				{
+					Cursor.Next();
+				}
+			}
+			Cursor.Next();
+			Cursor.Accept(";");
+			return Enum;
+		}
+		Cursor.Expect("enum", "after UENUM()");
+		Enum.Form = Cursor.Accept("class") || Cursor.Accept("struct") ? EEnumForm::Scoped : EEnumForm::Plain;
+		SkipDecorations(Cursor);
+		Enum.Line = Cursor.Peek().Line;
+		Enum.Name = Cursor.ExpectIdentifier("the name of the enum after UENUM()");
+		ParseUnderlying(Cursor, Enum);
+		ParseEnumerators(Cursor, List.Path, Enum);
+		return Enum;
+	}
+}

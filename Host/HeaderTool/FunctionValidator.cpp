@@ -1,0 +1,243 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "FunctionValidator.h"
+
+#include "Diagnostics.h"
+#include "TextTools.h"
+#include "TypeChecker.h"
+#include "TypeTable.h"
+
+namespace HeaderTool
+{
+	namespace
+	{
+		class FFunctionValidator
+		{
+		public:
+			FFunctionValidator(FClass& InClass, FFunction& InFunction, const FTypeTable& InTypes, FDiagnostics& InDiagnostics)
+				: Class(InClass)
+				, Function(InFunction)
+				, Types(InTypes)
+				, Diagnostics(InDiagnostics)
+				, Name("'" + InFunction.Name + "'")
+			{
+			}
+
+			void Run()
+			{
+				CheckName();
+				CheckInherited();
+				CheckEvent();
+				if (Class.Kind == EClassKind::Interface)
+				{
+					CheckInterface();
+				}
+				CheckTypes();
+				CheckParameterNames();
+				SetParameterFlags();
+				CheckPure();
+			}
+
+		private:
+			/** Functions are looked up by name alone, so a name means one function. */
+			void CheckName()
+			{
+				for (const FFunction& Other : Class.Functions)
+				{
+					if (&Other == &Function)
+					{
+						return;
+					}
+					if (EqualsIgnoringCase(Other.Name, Function.Name))
+					{
+						Error("UFUNCTION " + Name + " has the name of the UFUNCTION in line " + std::to_string(Other.Line) + " (case does not count): reflected functions cannot be overloaded; rename one, or reflect only one.");
+						return;
+					}
+				}
+			}
+
+			void CheckInherited()
+			{
+				for (const FClass* Owner : Types.GetChain(Class))
+				{
+					if (Owner != &Class && Has(*Owner))
+					{
+						Error("UFUNCTION " + Name + " is a UFUNCTION of '" + Owner->CppName + "' already; remove the macro here, overrides are found through the first declaration.");
+						return;
+					}
+					for (const FBaseSpecifier& Base : Owner->Bases)
+					{
+						const FClass* Interface = Types.FindInterface(Base.Name);
+						if (Interface && Has(*Interface))
+						{
+							Error("UFUNCTION " + Name + " belongs to the interface '" + Base.Name + "'; do not declare it again, override " + Function.Name + "_Implementation().");
+							return;
+						}
+					}
+				}
+			}
+
+			bool Has(const FClass& Owner) const
+			{
+				for (const FFunction& Other : Owner.Functions)
+				{
+					if (EqualsIgnoringCase(Other.Name, Function.Name))
+					{
+						return true;
+					}
+				}
+				return false;
+			}
+
+			void CheckEvent()
+			{
+				if (Function.Event == EFunctionEvent::None)
+				{
+					return;
+				}
+				const bool bNative = Function.Event == EFunctionEvent::Native;
+				const std::string Kind = bNative ? "BlueprintNativeEvent" : "BlueprintImplementableEvent";
+				if (Function.bStatic)
+				{
+					Error("the " + Kind + " " + Name + " cannot be static; remove 'static'.");
+				}
+				if (Function.bVirtual)
+				{
+					Error("the " + Kind + " " + Name + " cannot be virtual; remove 'virtual'" + std::string(bNative ? " and override " + Function.Name + "_Implementation()." : "."));
+				}
+				if (Function.bHasBody)
+				{
+					Error("the " + Kind + " " + Name + " cannot have a body, which is generated; " + (bNative ? "write " + Function.Name + "_Implementation() instead." : "remove it."));
+				}
+				if (Function.Access == EAccess::Private)
+				{
+					Error("the " + Kind + " " + Name + " cannot be private; Blueprints could not override it. Make it protected or public.");
+				}
+				if (!bNative && Class.Body.DeclaredFunctions.count(Function.Name + "_Implementation"))
+				{
+					Error("the BlueprintImplementableEvent " + Name + " has no native implementation; remove " + Function.Name + "_Implementation(), or make it a BlueprintNativeEvent.");
+				}
+			}
+
+			void CheckInterface()
+			{
+				if (Function.bStatic)
+				{
+					Error("UFUNCTION " + Name + " of an interface cannot be static; remove 'static' or the macro.");
+				}
+				else if (Function.Event == EFunctionEvent::None)
+				{
+					Error("UFUNCTION " + Name + " of an interface must be a BlueprintNativeEvent or a BlueprintImplementableEvent; add one of them, or remove the macro.");
+				}
+			}
+
+			void CheckTypes()
+			{
+				const bool bBlueprint = Function.Flags.Has("FUNC_BlueprintCallable") || Function.Flags.Has("FUNC_BlueprintEvent");
+				FTypeContext Context{Class.Header->Path, "return value of " + Name + ": type", ETypePlace::Return, &Class, bBlueprint};
+				CheckType(Function.Return, Context, Types, Diagnostics);
+				for (FProperty& Parameter : Function.Parameters)
+				{
+					Context.What = "parameter '" + Parameter.Name + "' of " + Name + ": type";
+					Context.Place = ETypePlace::Parameter;
+					CheckType(Parameter.Type, Context, Types, Diagnostics);
+				}
+			}
+
+			void CheckParameterNames()
+			{
+				std::set<std::string> Names = {"returnvalue"};
+				for (const FProperty& Parameter : Function.Parameters)
+				{
+					if (Parameter.Name.empty())
+					{
+						Error("a parameter of UFUNCTION " + Name + " (type '" + Parameter.Type.Spell() + "') has no name; give it one.", Parameter.Line);
+					}
+					else if (EqualsIgnoringCase(Parameter.Name, "ReturnValue"))
+					{
+						Error("parameter '" + Parameter.Name + "' of " + Name + " has the name that is kept for the result; rename it.", Parameter.Line);
+					}
+					else if (!Names.insert(ToLower(Parameter.Name)).second)
+					{
+						Error("UFUNCTION " + Name + " has two parameters named '" + Parameter.Name + "' (case does not count); rename one.", Parameter.Line);
+					}
+					CheckShadowing(Parameter);
+				}
+			}
+
+			void CheckShadowing(const FProperty& Parameter)
+			{
+				for (const FClass* Owner : Types.GetChain(Class))
+				{
+					for (const FProperty& Property : Owner->Properties)
+					{
+						if (EqualsIgnoringCase(Property.Name, Parameter.Name))
+						{
+							Error("parameter '" + Parameter.Name + "' of " + Name + " has the name of the UPROPERTY '" + Owner->CppName + "::" + Property.Name + "'; rename it, to 'In" + Parameter.Name + "' for example.", Parameter.Line);
+						}
+					}
+				}
+			}
+
+			void SetParameterFlags()
+			{
+				for (FProperty& Parameter : Function.Parameters)
+				{
+					const bool bConst = Parameter.Type.bConst && Parameter.Type.Pointers == 0;
+					Parameter.Flags.Add("CPF_Parm");
+					if (Parameter.Type.bReference)
+					{
+						Parameter.Flags.Add("CPF_OutParm");
+						if (bConst)
+						{
+							Parameter.Flags.Add("CPF_ReferenceParm");
+						}
+					}
+					if (bConst)
+					{
+						Parameter.Flags.Add("CPF_ConstParm");
+					}
+					bHasOutput |= Parameter.Type.bReference && !bConst;
+				}
+				if (bHasOutput)
+				{
+					Function.Flags.Add("FUNC_HasOutParms");
+				}
+			}
+
+			void CheckPure()
+			{
+				const bool bHasResult = Function.Returns() || bHasOutput;
+				if (Function.Flags.Has("FUNC_BlueprintPure") && !bHasResult)
+				{
+					Error("the BlueprintPure function " + Name + " returns nothing; give it a result, or make it BlueprintCallable.");
+				}
+				// A const function that only tells something needs no execution pin.
+				if (Function.Flags.Has("FUNC_BlueprintCallable") && Function.bConst && bHasResult && !Function.bForcedImpure)
+				{
+					Function.Flags.Add("FUNC_BlueprintPure");
+				}
+			}
+
+			void Error(const std::string& Message, int Line = 0)
+			{
+				Diagnostics.Error(Class.Header->Path, Line ? Line : Function.Line, Message);
+			}
+
+			FClass& Class;
+			FFunction& Function;
+			const FTypeTable& Types;
+			FDiagnostics& Diagnostics;
+			const std::string Name; // in quotes, for messages
+			bool bHasOutput = false; // a parameter that the function writes to
+		};
+	}
+
+	void ValidateFunctions(FClass& Class, const FTypeTable& Types, FDiagnostics& Diagnostics)
+	{
+		for (FFunction& Function : Class.Functions)
+		{
+			FFunctionValidator(Class, Function, Types, Diagnostics).Run();
+		}
+	}
+}

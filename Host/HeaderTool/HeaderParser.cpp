@@ -1,0 +1,261 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "HeaderParser.h"
+
+#include "Brackets.h"
+#include "ClassParser.h"
+#include "Conditionals.h"
+#include "DeclarationSkipper.h"
+#include "Diagnostics.h"
+#include "EnumParser.h"
+#include "MemberParser.h"
+#include "SpecifierParser.h"
+#include "TextTools.h"
+#include "TypeParser.h"
+
+namespace HeaderTool
+{
+	namespace
+	{
+		class FHeaderParser
+		{
+		public:
+			FHeaderParser(const std::vector<FToken>& Tokens, FHeader& InHeader, FDiagnostics& InDiagnostics)
+				: Cursor(Tokens)
+				, Header(InHeader)
+				, Diagnostics(InDiagnostics)
+			{
+			}
+
+			void Run()
+			{
+				while (!Cursor.AtEnd())
+				{
+					const size_t Start = Cursor.GetPosition();
+					try
+					{
+						Declaration();
+					}
+					catch (const FSyntaxError& Error)
+					{
+						Diagnostics.Error(Header.Path, Error.Line, Error.Message);
+						Cursor.SetPosition(Start);
+						Cursor.Next();
+						SkipDeclaration(Cursor);
+					}
+				}
+				for (const std::unique_ptr<FClass>& Class : Header.Classes)
+				{
+					if (Class->Kind == EClassKind::Interface && !Class->bHasNativeInterface)
+					{
+						Diagnostics.Error(Header.Path, Class->Line, "interface '" + Class->CppName + "' has no 'class " + Class->NativeInterfaceName() + "' in this header; add it with GENERATED_BODY().");
+					}
+				}
+			}
+
+		private:
+			void Declaration()
+			{
+				const FToken& Token = Cursor.Peek();
+				if (Token.Is("UCLASS") || Token.Is("USTRUCT") || Token.Is("UINTERFACE") || Token.Is("UENUM"))
+				{
+					Reflected();
+				}
+				else if (IsDelegateMacro(Token))
+				{
+					Delegate();
+				}
+				else if (Token.Is("UDELEGATE"))
+				{
+					ParseSpecifiers(Cursor, Header.Path);
+				}
+				else if (Token.IsIdentifier() && IsReflectionMacro(Token.Text))
+				{
+					throw FSyntaxError{Token.Line, Token.Text + " stands outside of a reflected class; move it into one."};
+				}
+				else if (Token.Is("namespace") || (Token.Is("inline") && Cursor.Peek(1).Is("namespace")))
+				{
+					Namespace();
+				}
+				else if (Token.Is("extern") && Cursor.Peek(1).Kind == ETokenKind::String && Cursor.Peek(2).Is("{"))
+				{
+					Cursor.SetPosition(Cursor.GetPosition() + 3);
+					NamespaceLines.push_back(0);
+				}
+				else if (Token.Is("}"))
+				{
+					Cursor.Next();
+					if (!NamespaceLines.empty()) // empty only behind a declaration that could not be read
+					{
+						NamespaceLines.pop_back();
+					}
+				}
+				else if (FClass* Interface = FindInterfaceFor())
+				{
+					NativeInterface(*Interface);
+				}
+				else
+				{
+					Unreflected();
+				}
+			}
+
+			void Reflected()
+			{
+				const FToken& Token = Cursor.Peek();
+				Header.FirstReflectedLine = Header.FirstReflectedLine ? Header.FirstReflectedLine : Token.Line;
+				for (const int Line : NamespaceLines)
+				{
+					if (Line > 0)
+					{
+						Diagnostics.Error(Header.Path, Token.Line, Token.Text + " inside of the namespace of line " + std::to_string(Line) + ": reflected types must stand at file scope; move it out.");
+						break;
+					}
+				}
+				const FSpecifierList List = ParseSpecifiers(Cursor, Header.Path);
+				if (List.Macro == "UENUM")
+				{
+					FEnum Enum = ParseEnum(Cursor, List, Diagnostics);
+					Enum.Header = &Header;
+					Header.Enums.push_back(std::make_unique<FEnum>(std::move(Enum)));
+					return;
+				}
+				Type(List);
+			}
+
+			void Type(const FSpecifierList& List)
+			{
+				const FClassHead Head = ParseClassHead(Cursor, "after " + List.Macro + "()");
+				std::unique_ptr<FClass> Class = std::make_unique<FClass>();
+				Class->CppName = Head.Name;
+				Class->Header = &Header;
+				Class->Line = Head.Line;
+				Class->bExported = Head.bExported;
+				Class->Bases = Head.Bases;
+				if ((List.Macro == "USTRUCT") != (Head.Keyword == "struct"))
+				{
+					Diagnostics.Error(Header.Path, Head.Line, List.Macro + "() must stand before a " + (List.Macro == "USTRUCT" ? "struct" : "class") + ", but '" + Head.Name + "' is a " + Head.Keyword + ".");
+				}
+				EBodySide Side = EBodySide::Class;
+				if (List.Macro == "USTRUCT")
+				{
+					Class->Kind = EClassKind::Struct;
+					Side = EBodySide::Struct;
+					ApplyStructSpecifiers(List, *Class, Diagnostics);
+				}
+				else if (List.Macro == "UINTERFACE")
+				{
+					Class->Kind = EClassKind::Interface;
+					Side = EBodySide::InterfaceUClass;
+					ApplyInterfaceSpecifiers(List, *Class, Diagnostics);
+				}
+				else
+				{
+					ApplyClassSpecifiers(List, *Class, Diagnostics);
+				}
+				ParseClassBody(Cursor, Header.Path, Side, *Class, Diagnostics);
+				Header.Classes.push_back(std::move(Class));
+			}
+
+			void Delegate()
+			{
+				Header.FirstReflectedLine = Header.FirstReflectedLine ? Header.FirstReflectedLine : Cursor.Peek().Line;
+				Header.Delegates.push_back(std::make_unique<FDelegateType>(ParseDelegate(Cursor)));
+			}
+
+			void Namespace()
+			{
+				const int Line = Cursor.Peek().Line;
+				while (!Cursor.AtEnd() && !Cursor.Is("{") && !Cursor.Is(";"))
+				{
+					Cursor.Next();
+				}
+				if (Cursor.Next().Is("{"))
+				{
+					NamespaceLines.push_back(Line);
+				}
+			}
+
+			/** The UINTERFACE whose I class is defined here; null if anything else stands here. */
+			FClass* FindInterfaceFor() const
+			{
+				size_t Offset = 1;
+				while (EndsWith(Cursor.Peek(Offset).Text, "_API"))
+				{
+					++Offset;
+				}
+				const FToken& Name = Cursor.Peek(Offset);
+				const FToken& After = Cursor.Peek(Offset + 1);
+				if (!Cursor.Is("class") || !Name.IsIdentifier() || !(After.Is("{") || After.Is(":") || After.Is("final")))
+				{
+					return nullptr;
+				}
+				for (const std::unique_ptr<FClass>& Class : Header.Classes)
+				{
+					if (Class->Kind == EClassKind::Interface && Class->NativeInterfaceName() == Name.Text)
+					{
+						return Class.get();
+					}
+				}
+				return nullptr;
+			}
+
+			void NativeInterface(FClass& Interface)
+			{
+				const FClassHead Head = ParseClassHead(Cursor, "of the interface");
+				Interface.bHasNativeInterface = true;
+				Interface.NativeInterfaceLine = Head.Line;
+				Interface.NativeInterfaceBases = Head.Bases;
+				ParseClassBody(Cursor, Header.Path, EBodySide::NativeInterface, Interface, Diagnostics);
+			}
+
+			void Unreflected()
+			{
+				const size_t Start = Cursor.GetPosition();
+				const FSkippedDeclaration Skipped = SkipDeclaration(Cursor);
+				if (Cursor.GetPosition() == Start)
+				{
+					Cursor.Next();
+				}
+				if (!Skipped.NestedMacro.empty())
+				{
+					Diagnostics.Error(Header.Path, Skipped.NestedMacroLine, Skipped.NestedMacro + " in a type that is not reflected; put UCLASS(), USTRUCT() or UINTERFACE() before the type.");
+				}
+			}
+
+			FTokenCursor Cursor;
+			FHeader& Header;
+			FDiagnostics& Diagnostics;
+			std::vector<int> NamespaceLines; // of the namespaces around; 0 for extern "C"
+		};
+
+		void NoteIncludes(const std::vector<FIncludeLine>& Includes, FHeader& Header)
+		{
+			for (const FIncludeLine& Include : Includes)
+			{
+				Header.LastInclude = Include.Path;
+				Header.LastIncludeLine = Include.Line;
+				if (EndsWith(Include.Path, ".generated.h"))
+				{
+					Header.GeneratedInclude = Include.Path;
+					Header.GeneratedIncludeLine = Include.Line;
+				}
+			}
+		}
+	}
+
+	void ParseHeader(const std::string& Source, FHeader& Header, FDiagnostics& Diagnostics)
+	{
+		std::vector<FToken> Tokens;
+		if (!Tokenize(Header.Path, Source, Tokens, Diagnostics))
+		{
+			return;
+		}
+		const FConditionedSource Conditioned = ResolveConditionals(Header.Path, Tokens, Diagnostics);
+		NoteIncludes(Conditioned.Includes, Header);
+		if (CheckBrackets(Header.Path, Conditioned.Tokens, Diagnostics))
+		{
+			FHeaderParser(Conditioned.Tokens, Header, Diagnostics).Run();
+		}
+	}
+}

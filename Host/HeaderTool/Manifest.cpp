@@ -1,0 +1,92 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "Manifest.h"
+
+#include "Diagnostics.h"
+#include "TextTools.h"
+
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+namespace HeaderTool
+{
+	namespace
+	{
+		/** The first word of Text, which keeps the rest. */
+		std::string TakeWord(std::string& Text)
+		{
+			const size_t End = Text.find_first_of(" \t");
+			const std::string Word = Text.substr(0, End);
+			Text = End == std::string::npos ? "" : Trim(Text.substr(End));
+			return Word;
+		}
+	}
+
+	bool ReadFile(const std::string& Path, std::string& OutText, FDiagnostics& Diagnostics)
+	{
+		std::error_code Code;
+		if (std::filesystem::is_directory(Path, Code))
+		{
+			Diagnostics.Error(Path, 0, "this is a folder; name a file.");
+			return false;
+		}
+		errno = 0;
+		std::ifstream Stream(Path, std::ios::binary);
+		std::ostringstream Text;
+		if (Stream && Stream.peek() != std::ifstream::traits_type::eof())
+		{
+			Text << Stream.rdbuf();
+		}
+		if (!Stream.is_open() || Stream.bad() || Text.bad())
+		{
+			Diagnostics.Error(Path, 0, std::string("cannot be read (") + std::strerror(errno) + "); check the path and its permissions.");
+			return false;
+		}
+		OutText = Text.str();
+		return true;
+	}
+
+	bool ReadManifest(const std::string& Path, FManifest& OutManifest, FDiagnostics& Diagnostics)
+	{
+		std::string Text;
+		if (!ReadFile(Path, Text, Diagnostics))
+		{
+			return false;
+		}
+		std::istringstream Stream(Text);
+		int Number = 0;
+		bool bGood = true;
+		for (std::string Line; std::getline(Stream, Line);)
+		{
+			++Number;
+			std::string Rest = Trim(Line);
+			if (Rest.empty())
+			{
+				continue;
+			}
+			const std::string Keyword = TakeWord(Rest);
+			if (Keyword == "module" && !Rest.empty())
+			{
+				OutManifest.Module = Rest;
+				continue;
+			}
+			const std::string IncludePath = Keyword == "header" ? TakeWord(Rest) : "";
+			if (Rest.empty() || IncludePath.empty())
+			{
+				Diagnostics.Error(Path, Number, "expected 'module NAME' or 'header INCLUDE_PATH FILE', but found '" + Trim(Line) + "'.");
+				bGood = false;
+				continue;
+			}
+			OutManifest.Headers.push_back({IncludePath, Rest, Number});
+		}
+		if (bGood && OutManifest.Module.empty())
+		{
+			Diagnostics.Error(Path, 0, "names no module; add a line 'module NAME'.");
+			bGood = false;
+		}
+		return bGood;
+	}
+}

@@ -1,0 +1,232 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "TypeParser.h"
+
+#include "SpecifierParser.h"
+#include "TextTools.h"
+
+#include <set>
+
+namespace HeaderTool
+{
+	namespace
+	{
+		bool IsBuiltInWord(const std::string& Text)
+		{
+			static const std::set<std::string> Words = {"unsigned", "signed", "long", "short", "int", "char", "double"};
+			return Words.count(Text) > 0;
+		}
+
+		/** `unsigned long long` and the like are one name. */
+		std::string ParseBuiltIn(FTokenCursor& Cursor)
+		{
+			std::string Name = Cursor.Next().Text;
+			while (Cursor.Peek().IsIdentifier() && IsBuiltInWord(Cursor.Peek().Text))
+			{
+				Name += " " + Cursor.Next().Text;
+			}
+			return Name;
+		}
+
+		std::string ParseQualifiedName(FTokenCursor& Cursor)
+		{
+			Cursor.Accept("::");
+			if (Cursor.Peek().IsIdentifier() && IsBuiltInWord(Cursor.Peek().Text))
+			{
+				return ParseBuiltIn(Cursor);
+			}
+			std::string Name = Cursor.ExpectIdentifier("a type");
+			while (Cursor.Is("::") && Cursor.Peek(1).IsIdentifier())
+			{
+				Cursor.Next();
+				Name += "::" + Cursor.Next().Text;
+			}
+			return Name;
+		}
+
+		/** Behind a type there is a place where the argument ends; anything else is raw text such as a function signature. */
+		FTypeUse ParseArgument(FTokenCursor& Cursor)
+		{
+			const size_t Start = Cursor.GetPosition();
+			if (Cursor.Peek().IsIdentifier() || Cursor.Is("::"))
+			{
+				const FTypeUse Type = ParseType(Cursor);
+				if (Cursor.Is(",") || Cursor.Is(">"))
+				{
+					return Type;
+				}
+				Cursor.SetPosition(Start);
+			}
+			FTypeUse Raw;
+			Raw.Line = Cursor.Peek().Line;
+			Raw.bUnparsed = true;
+			for (int Depth = 0; !Cursor.AtEnd() && !(Depth == 0 && (Cursor.Is(",") || Cursor.Is(">"))) && !Cursor.Is(";");)
+			{
+				if (Cursor.Is("(") || Cursor.Is("["))
+				{
+					Raw.Name += Cursor.Peek().Text;
+					const std::string Close = Cursor.Is("(") ? ")" : "]";
+					Raw.Name += Cursor.SkipBalanced() + Close;
+					continue;
+				}
+				Depth += Cursor.Is("<") ? 1 : Cursor.Is(">") ? -1
+															 : 0;
+				AppendToken(Raw.Name, Cursor.Next());
+			}
+			return Raw;
+		}
+
+		void ParseArguments(FTokenCursor& Cursor, FTypeUse& Type)
+		{
+			Cursor.Expect("<", "in the type");
+			while (!Cursor.Is(">"))
+			{
+				Type.Arguments.push_back(ParseArgument(Cursor));
+				if (!Cursor.Accept(",") && !Cursor.Is(">"))
+				{
+					throw FSyntaxError{Type.Line, "the template arguments of '" + Type.Name + "' are never closed; add the missing '>'."};
+				}
+			}
+			Cursor.Next();
+		}
+
+		/** The text up to the comma or parenthesis that ends a default argument. */
+		std::string ParseDefault(FTokenCursor& Cursor)
+		{
+			std::string Text;
+			for (int Angles = 0; !Cursor.AtEnd();)
+			{
+				if (Cursor.Is(")") || (Cursor.Is(",") && Angles == 0))
+				{
+					break;
+				}
+				if (Cursor.Is("(") || Cursor.Is("{") || Cursor.Is("["))
+				{
+					const std::string Open = Cursor.Peek().Text;
+					Text += Open + Cursor.SkipBalanced() + (Open == "(" ? ")" : Open == "{" ? "}"
+																							: "]");
+					continue;
+				}
+				Angles += Cursor.Is("<") ? 1 : Cursor.Is(">") && Angles > 0 ? -1
+																			: 0;
+				AppendToken(Text, Cursor.Next());
+			}
+			return Text;
+		}
+	}
+
+	FTypeUse ParseType(FTokenCursor& Cursor)
+	{
+		FTypeUse Type;
+		Type.Line = Cursor.Peek().Line;
+		for (;;)
+		{
+			if (Cursor.Accept("const"))
+			{
+				Type.bConst = true;
+			}
+			else if (!Cursor.Accept("class") && !Cursor.Accept("struct") && !Cursor.Accept("enum") && !Cursor.Accept("typename") && !Cursor.Accept("volatile"))
+			{
+				break;
+			}
+		}
+		Type.Name = ParseQualifiedName(Cursor);
+		if (Cursor.Is("<"))
+		{
+			ParseArguments(Cursor, Type);
+			if (Cursor.Is("::"))
+			{
+				throw FSyntaxError{Type.Line, "type '" + Type.Spell() + "::…' is not supported here; name the type directly."};
+			}
+		}
+		for (;;)
+		{
+			if (Cursor.Accept("const"))
+			{
+				Type.bConst = Type.bConst || Type.Pointers == 0;
+			}
+			else if (Cursor.Accept("*"))
+			{
+				++Type.Pointers;
+			}
+			else if (Cursor.Accept("&"))
+			{
+				Type.bRvalue = Type.bReference;
+				Type.bReference = true;
+			}
+			else
+			{
+				return Type;
+			}
+		}
+	}
+
+	std::vector<FProperty> ParseParameters(FTokenCursor& Cursor, const std::string& Path, FDiagnostics& Diagnostics)
+	{
+		std::vector<FProperty> Parameters;
+		Cursor.Expect("(", "before the parameters");
+		if (Cursor.Is("void") && Cursor.Peek(1).Is(")"))
+		{
+			Cursor.Next();
+		}
+		while (!Cursor.Is(")"))
+		{
+			FProperty Parameter;
+			Parameter.Line = Cursor.Peek().Line;
+			if (Cursor.Is("UPARAM"))
+			{
+				ApplyParameterSpecifiers(ParseSpecifiers(Cursor, Path), Parameter, Diagnostics);
+			}
+			Parameter.Type = ParseType(Cursor);
+			if (Cursor.Peek().IsIdentifier())
+			{
+				Parameter.Name = Cursor.Next().Text;
+			}
+			if (Cursor.Is("["))
+			{
+				throw FSyntaxError{Parameter.Line, "parameter '" + Parameter.Name + "' is a C array, which is not supported here; use TArray<" + Parameter.Type.Spell() + ">."};
+			}
+			if (Cursor.Accept("="))
+			{
+				Parameter.DefaultText = ParseDefault(Cursor);
+			}
+			Parameters.push_back(Parameter);
+			if (!Cursor.Is(")"))
+			{
+				Cursor.Expect(",", "between parameters");
+			}
+		}
+		Cursor.Next();
+		return Parameters;
+	}
+
+	bool SkipDecorations(FTokenCursor& Cursor)
+	{
+		bool bApi = false;
+		for (;;)
+		{
+			const FToken& Token = Cursor.Peek();
+			if (Token.Is("[") && Cursor.Peek(1).Is("["))
+			{
+				Cursor.SkipBalanced();
+			}
+			else if (Token.IsIdentifier() && EndsWith(Token.Text, "_API"))
+			{
+				Cursor.Next();
+				bApi = true;
+			}
+			else if (Token.IsIdentifier() && (Token.Is("UE_DEPRECATED") || Token.Is("alignas") || Token.Is("UE_INTERNAL") || Token.Is("UE_EXPERIMENTAL") || Token.Is("DEPRECATED")))
+			{
+				Cursor.Next();
+				if (Cursor.Is("("))
+				{
+					Cursor.SkipBalanced();
+				}
+			}
+			else
+			{
+				return bApi;
+			}
+		}
+	}
+}

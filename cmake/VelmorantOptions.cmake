@@ -1,0 +1,53 @@
+# Copyright Velmorant. All Rights Reserved.
+# Language level, warnings, sanitizers and coverage for every target, in one interface target.
+
+option(VELMORANT_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
+option(VELMORANT_COVERAGE "Build with coverage instrumentation" OFF)
+option(VELMORANT_DEV "Allow folders that do not exist yet (while the tree is being built up)" OFF)
+option(VELMORANT_PCH "Use precompiled headers" ON)
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+
+if(NOT CMAKE_BUILD_TYPE)
+	set(CMAKE_BUILD_TYPE Release)
+endif()
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM)
+	set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+endif()
+find_program(MOLD_PROGRAM mold)
+if(MOLD_PROGRAM)
+	add_link_options(-fuse-ld=mold)
+endif()
+
+add_library(VelmorantBuild INTERFACE)
+# Paths in messages (assertions, mainly) start at the project.
+target_compile_options(VelmorantBuild INTERFACE -Wall -Wextra -Wshadow -Werror -fmacro-prefix-map=${CMAKE_SOURCE_DIR}/=)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+	# The engine's compilers treat a missing 'override' as an error; -fpch-preprocess lets ccache see through precompiled headers.
+	# -Wrestrict reports the standard library's own strings when optimising.
+	target_compile_options(VelmorantBuild INTERFACE -Wsuggest-override -fpch-preprocess -Wno-restrict)
+	# Objects live in memory that is zeroed before their constructors run.
+	target_compile_options(VelmorantBuild INTERFACE -fno-lifetime-dse)
+else()
+	# Reflected members may be private and used by reflection alone.
+	target_compile_options(VelmorantBuild INTERFACE -Wsuggest-override -Winconsistent-missing-override -Wno-unused-private-field)
+endif()
+# Arrays of object pointers and of their wrappers are looked at as one another, as in the engine.
+target_compile_options(VelmorantBuild INTERFACE -fno-strict-aliasing)
+target_compile_definitions(VelmorantBuild INTERFACE
+	WITH_EDITOR=1 WITH_EDITORONLY_DATA=1 WITH_CASE_PRESERVING_NAME=1 DO_CHECK=1 UE_BUILD_DEVELOPMENT=1 PLATFORM_LINUX=1)
+
+if(VELMORANT_SANITIZE)
+	target_compile_options(VelmorantBuild INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+	add_link_options(-fsanitize=address,undefined)
+endif()
+if(VELMORANT_COVERAGE)
+	target_compile_options(VelmorantBuild INTERFACE --coverage)
+	add_link_options(--coverage)
+endif()
