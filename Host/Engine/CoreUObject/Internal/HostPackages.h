@@ -1,0 +1,140 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include "CoreMinimal.h"
+#include "Misc/Optional.h"
+#include "Templates/Function.h"
+#include "UObject/TopLevelAssetPath.h"
+
+class UObject;
+class UPackage;
+
+/**
+ * Storage of assets and levels: one readable JSON file per package below the folder of its mount point,
+ * `<Name>.uasset.json`, or `<Name>.umap.json` for a level.
+ *
+ * Nothing is read before somebody asks: mounting costs nothing, a look-up touches one file name, a scan reads only the heads
+ * of the files. Problems with files go to HostProblems with file, place in the document, reason and remedy.
+ * A `.uasset` or `.umap` of the real engine is an asset of unknown content: its name is taken, it cannot be loaded and is never written.
+ */
+namespace HostPackages
+{
+	/** What stands on disk under a package name. */
+	enum class EStored : uint8
+	{
+		Nothing,
+		Text,   // one of our JSON files
+		Binary, // a file of the real engine that this host cannot read
+	};
+
+	/** One asset found on disk without loading it. */
+	struct FStoredAsset
+	{
+		FName PackageName;
+		FName AssetName;
+		FTopLevelAssetPath ClassPath;
+		FString File;
+	};
+
+	//~ Mount points
+
+	/**
+	 * Makes the files below Directory reachable under Root, "/Game/" for one. Mounting a root again moves it.
+	 * The first mount of an editor also makes StaticLoadObject() and friends load through this storage.
+	 */
+	void Mount(const FString& Root, const FString& Directory);
+
+	/** Roots with leading and trailing slash, in order of mounting. */
+	TArray<FString> GetMountedRoots();
+
+	/** Whether the text can name a package: a mounted root, then non-empty parts without characters that file or object names forbid. */
+	bool IsValidPackageName(const FString& PackageName, FString* OutReason = nullptr);
+
+	/** Whether the text can be the name of an asset: not empty, no character that object names forbid. */
+	bool IsValidAssetName(const FString& AssetName, FString* OutReason = nullptr);
+
+	/** The characters that no object name may hold. */
+	const TCHAR* GetForbiddenNameCharacters();
+
+	//~ What is on disk
+
+	EStored GetStored(const FString& PackageName);
+
+	/** The file that holds the package, binary ones included; empty when there is none. */
+	FString FindFile(const FString& PackageName);
+
+	/** All text assets below the mounted folders, ordered by package name, ignoring case. Reads the head of every file. */
+	TArray<FStoredAsset> Scan();
+
+	/** Grows when what Scan() finds may have changed through this storage: on mounts and saves. Never 0. */
+	uint64 GetStorageVersion();
+
+	//~ Loading
+
+	/**
+	 * The package with everything in it, loaded when it is not in memory yet.
+	 * @return null when there is no such file or it was refused; a refused file leaves no object behind.
+	 */
+	UPackage* Load(const FString& PackageName);
+
+	/** The asset of a package: the object that bears the package's short name. Null when the package cannot be loaded. */
+	UObject* LoadAsset(const FString& PackageName);
+
+	//~ Saving
+
+	/** What one or more saves did. Paths are those of the host's file system, package names as in GetName(). */
+	struct FSaveReport
+	{
+		TArray<FString> WrittenFiles;
+		TArray<FString> SavedPackages;
+		TArray<FString> FailedPackages; // the reasons went to HostProblems
+
+		bool Succeeded() const { return FailedPackages.IsEmpty(); }
+	};
+
+	/** The asset that a package in memory is about; null for a package without one (a script package, or one still being filled). */
+	UObject* FindMainAsset(const UPackage* Package);
+
+	/** Writes the package whether dirty or not, and clears its dirty flag on success. */
+	FSaveReport Save(UPackage* Package);
+
+	/** Writes every dirty package that holds an asset, ordered by name. */
+	FSaveReport SaveAll();
+
+	/** Dirty packages that hold an asset, ordered by name: what would be lost if the editor went down now. */
+	TArray<UPackage*> GetDirtyPackages();
+
+	//~ Classes with a format of their own
+
+	/** A file as its class's own reader or writer sees it. */
+	struct FDocument
+	{
+		FString File;      // for messages
+		FString AssetName; // the package's short name
+		FString Json;      // the whole document; its "Class" member names the class
+	};
+
+	/** Makes the asset, named Document.AssetName, in Package. Reports problems itself and returns null when it refuses the document. */
+	using FReader = TFunction<UObject*(const FDocument& Document, UPackage* Package)>;
+
+	/** The JSON text of the asset, a whole document. Unset refuses to save. */
+	using FWriter = TFunction<TOptional<FString>(const UObject* Asset)>;
+
+	/**
+	 * Reads assets of exactly this class through Reader. Lasts as long as the process; registering again replaces.
+	 * Without a writer, assets of the class are never written back: their files are somebody's source.
+	 */
+	void RegisterReader(const FTopLevelAssetPath& ClassPath, FReader Reader, FWriter Writer = nullptr);
+
+	//~ Properties alone, for such readers and writers
+
+	/** The JSON object of those properties of Object that differ from Defaults, which is of Object's class or a parent of it. */
+	FString WriteProperties(const UObject* Object, const UObject* Defaults);
+
+	/**
+	 * Sets properties from a JSON object as WriteProperties() makes it. All or nothing: on a problem, which is reported for File,
+	 * Object stays as it was.
+	 */
+	bool ReadProperties(UObject* Object, const FString& Json, const FString& File);
+}

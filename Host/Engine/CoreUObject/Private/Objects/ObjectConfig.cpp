@@ -1,0 +1,341 @@
+// Copyright Velmorant. All Rights Reserved.
+// Config properties: read when the class default object is made, written to the user's layer or to the project's default file.
+
+#include "HostConfig.h"
+#include "HostPaths.h"
+#include "Logging/LogMacros.h"
+#include "Misc/ConfigCacheIni.h"
+#include "UObject/Class.h"
+#include "UObject/Object.h"
+#include "UObject/UnrealType.h"
+
+DEFINE_LOG_CATEGORY_STATIC(LogConfigObject, Log, All);
+
+namespace ObjectConfig
+{
+	using FLines = TArray<TPair<FString, FString>>;
+
+	static bool IsConfig(const FProperty* Property)
+	{
+		return Property->HasAnyPropertyFlags(CPF_Config);
+	}
+
+	/** Global values belong to the class that declares them, others to the class of the object. */
+	static const UClass* GetSectionClass(const FProperty* Property, const UClass* Class)
+	{
+		return Property->HasAnyPropertyFlags(CPF_GlobalConfig) ? Property->GetOwnerClass() : Class;
+	}
+
+	/** Values of an array, or the one value, as the lines of a config file say them. */
+	static TArray<FString> ExportValues(const FProperty* Property, const UObject* Object)
+	{
+		TArray<FString> Values;
+		const void* Value = Property->ContainerPtrToValuePtr(Object);
+		UObject* Parent = const_cast<UObject*>(Object);
+		if (const FArrayProperty* Array = CastField<FArrayProperty>(Property))
+		{
+			const FScriptArrayHelper Helper(Array, Value);
+			for (int32 Index = 0; Index < Helper.Num(); ++Index)
+			{
+				const void* Element = Helper.GetRawPtr(Index);
+				Array->Inner->ExportTextItem_Direct(Values.AddDefaulted_GetRef(), Element, Element, Parent, PPF_None);
+			}
+			return Values;
+		}
+		Property->ExportTextItem_Direct(Values.AddDefaulted_GetRef(), Value, Value, Parent, PPF_None);
+		return Values;
+	}
+
+	static void ReportUnreadable(const FProperty* Property, const FString& Section, const FString& Value)
+	{
+		UE_LOG(LogConfigObject, Warning, TEXT("[%s] %s: '%s' is no %s."), *Section, *Property->GetName(), *Value, *Property->GetCPPType());
+	}
+
+	static void ImportArray(const FArrayProperty* Array, UObject* Object, const TArray<FString>& Values, const FString& Section)
+	{
+		FScriptArrayHelper Helper(Array, Array->ContainerPtrToValuePtr(Object));
+		Helper.EmptyValues();
+		for (const FString& Value : Values)
+		{
+			const int32 Index = Helper.AddValue();
+			if (!Array->Inner->ImportText_Direct(*Value, Helper.GetRawPtr(Index), Object, PPF_None))
+			{
+				ReportUnreadable(Array->Inner, Section, Value);
+				Helper.RemoveValues(Index);
+			}
+		}
+	}
+
+	static void ReadProperty(const FProperty* Property, UObject* Object, const FString& Section, const FString& File)
+	{
+		if (const FArrayProperty* Array = CastField<FArrayProperty>(Property))
+		{
+			TArray<FString> Values;
+			if (GConfig->GetArray(*Section, *Property->GetName(), Values, File) > 0)
+			{
+				ImportArray(Array, Object, Values, Section);
+			}
+			return;
+		}
+		FString Value;
+		if (GConfig->GetString(*Section, *Property->GetName(), Value, File)
+			&& !Property->ImportText_InContainer(*Value, Object, Object, PPF_None))
+		{
+			ReportUnreadable(Property, Section, Value);
+		}
+	}
+
+	/** The same from every class in the chain, so that a section of a super class also speaks for those below. */
+	static void ReadChain(const FProperty* Property, UObject* Object, const UClass* Class, const TCHAR* Filename)
+	{
+		const UClass* Owner = Property->GetOwnerClass();
+		if (Class != Owner && !Property->HasAnyPropertyFlags(CPF_GlobalConfig))
+		{
+			ReadChain(Property, Object, Class->GetSuperClass(), Filename);
+		}
+		const UClass* SectionClass = GetSectionClass(Property, Class);
+		ReadProperty(Property, Object, SectionClass->GetPathName(), Filename ? FString(Filename) : SectionClass->GetConfigName());
+	}
+
+	/** What Key is in one file, read alone, on top of Values. */
+	static void ApplyLayer(const FString& File, const FString& Section, const FString& Key, TArray<FString>& Values)
+	{
+		FConfigCacheIni Layer; // one of its own: GConfig's copies of single files stay as the editor first saw them
+		TArray<FString> Entries;
+		Layer.GetSection(*Section, Entries, File);
+		for (const FString& Entry : Entries)
+		{
+			FString Name;
+			FString Value;
+			Entry.Split(TEXT("="), &Name, &Value, ESearchCase::CaseSensitive);
+			const TCHAR Operation = Name.IsEmpty() ? TEXT(' ') : Name[0];
+			const bool bOperation = FString(TEXT("+-.!")).Contains(FString::Chr(Operation));
+			if ((bOperation ? Name.RightChop(1) : Name) != Key)
+			{
+				continue;
+			}
+			switch (bOperation ? Operation : TEXT(' '))
+			{
+			case TEXT('+'):
+				Values.AddUnique(Value);
+				break;
+			case TEXT('.'):
+				Values.Add(Value);
+				break;
+			case TEXT('-'):
+				Values.Remove(Value);
+				break;
+			case TEXT('!'):
+				Values.Reset();
+				break;
+			default:
+				Values.Add(Value);
+			}
+		}
+	}
+
+	static FString GetBaseFile(const FString& Config)
+	{
+		return HostPaths::GetEngineDir() + TEXT("Config/Base") + Config + TEXT(".ini");
+	}
+
+	static bool Equal(const TArray<FString>& A, const TArray<FString>& B)
+	{
+		bool bEqual = A.Num() == B.Num();
+		for (int32 Index = 0; bEqual && Index < A.Num(); ++Index)
+		{
+			bEqual = A[Index].Equals(B[Index]);
+		}
+		return bEqual;
+	}
+
+	/** The project's default file: all values, arrays element by element, and the base's elements that are gone. */
+	static void AddDefaultLines(const FProperty* Property, const TArray<FString>& Values, const TArray<FString>& Base, FLines& Lines)
+	{
+		const FString Name = Property->GetName();
+		if (!Property->IsA<FArrayProperty>())
+		{
+			Lines.Emplace(Name, Values[0]);
+			return;
+		}
+		for (const FString& Value : Base)
+		{
+			if (!Values.ContainsByPredicate([&Value](const FString& Other) { return Other.Equals(Value); }))
+			{
+				Lines.Emplace(TEXT("-") + Name, Value);
+			}
+		}
+		for (const FString& Value : Values)
+		{
+			Lines.Emplace(TEXT("+") + Name, Value);
+		}
+	}
+
+	/** The user's file: only what differs from the layers below; arrays as a whole. */
+	static void AddUserLines(const FProperty* Property, const TArray<FString>& Values, const TArray<FString>& Below, FLines& Lines)
+	{
+		const FString Name = Property->GetName();
+		if (!Property->IsA<FArrayProperty>())
+		{
+			if (Below.IsEmpty() || !Below.Last().Equals(Values[0]))
+			{
+				Lines.Emplace(Name, Values[0]);
+			}
+			return;
+		}
+		if (Equal(Values, Below))
+		{
+			return;
+		}
+		Lines.Emplace(TEXT("!") + Name, FString(TEXT("ClearArray")));
+		for (const FString& Value : Values)
+		{
+			Lines.Emplace(TEXT(".") + Name, Value);
+		}
+	}
+
+	enum class ELayer
+	{
+		Default, // of the project
+		User
+	};
+
+	/** What to write of one object. */
+	struct FRequest
+	{
+		const UObject* Object;
+		ELayer Layer;
+		FString SpecificFile;       // empty: the file of the layer
+		uint64 RequiredFlags;       // of the properties
+		const FProperty* OnlyProperty; // null: all
+	};
+
+	/** One section: that of SectionClass, which owns its values or is the object's class. */
+	static bool WriteSection(const FRequest& Request, const UClass* SectionClass)
+	{
+		const UClass* Class = Request.Object->GetClass();
+		const FString Config = SectionClass->ClassConfigName.ToString();
+		const FString Section = SectionClass->GetPathName();
+		FLines Lines;
+		TArray<FString> OwnedKeys;
+		for (const FProperty* Property : Class->GetAllProperties())
+		{
+			const bool bWanted = IsConfig(Property) && Property->HasAnyPropertyFlags(Request.RequiredFlags)
+				&& GetSectionClass(Property, Class) == SectionClass && (!Request.OnlyProperty || Property == Request.OnlyProperty);
+			if (!bWanted)
+			{
+				continue;
+			}
+			OwnedKeys.Add(Property->GetName());
+			const TArray<FString> Values = ExportValues(Property, Request.Object);
+			TArray<FString> Below;
+			ApplyLayer(GetBaseFile(Config), Section, Property->GetName(), Below);
+			if (Request.Layer == ELayer::Default)
+			{
+				AddDefaultLines(Property, Values, Below, Lines);
+				continue;
+			}
+			ApplyLayer(HostConfig::GetDefaultFile(Config), Section, Property->GetName(), Below);
+			AddUserLines(Property, Values, Below, Lines);
+		}
+		const FString LayerFile = Request.Layer == ELayer::Default ? HostConfig::GetDefaultFile(Config) : HostConfig::GetBranchFile(Config);
+		const bool bWritten = HostConfig::UpdateSection(Request.SpecificFile.IsEmpty() ? LayerFile : Request.SpecificFile, Section, Lines, OwnedKeys);
+		HostConfig::ReloadBranch(Config);
+		return bWritten;
+	}
+
+	/** Writes the sections of all classes that own config values of the object. */
+	static bool Write(const FRequest& Request)
+	{
+		const UClass* Class = Request.Object->GetClass();
+		TArray<const UClass*> SectionClasses;
+		for (const FProperty* Property : Class->GetAllProperties())
+		{
+			if (IsConfig(Property) && (!Request.OnlyProperty || Property == Request.OnlyProperty))
+			{
+				SectionClasses.AddUnique(GetSectionClass(Property, Class));
+			}
+		}
+		bool bWritten = true;
+		for (const UClass* SectionClass : SectionClasses)
+		{
+			bWritten = WriteSection(Request, SectionClass) && bWritten;
+		}
+		return bWritten;
+	}
+
+	static void CopyToDefaultObject(const UObject* Object)
+	{
+		UObject* Default = Object->GetClass()->GetDefaultObject();
+		for (const FProperty* Property : Object->GetClass()->GetAllProperties())
+		{
+			if (Default != Object && IsConfig(Property))
+			{
+				Property->CopyCompleteValue_InContainer(Default, Object);
+			}
+		}
+	}
+}
+
+void UObject::LoadConfig(UClass* ConfigClass, const TCHAR* Filename, uint32, FProperty* PropertyToLoad)
+{
+	const UClass* Class = ConfigClass ? ConfigClass : GetClass();
+	if (!GConfig || !Class->HasAnyClassFlags(CLASS_Config))
+	{
+		return;
+	}
+	for (const FProperty* Property : Class->GetAllProperties())
+	{
+		if (ObjectConfig::IsConfig(Property) && (!PropertyToLoad || Property == PropertyToLoad))
+		{
+			ObjectConfig::ReadChain(Property, this, Class, Filename);
+		}
+	}
+}
+
+void UObject::ReloadConfig(UClass* ConfigClass, const TCHAR* Filename, uint32 PropagationFlags, FProperty* PropertyToLoad)
+{
+	LoadConfig(ConfigClass, Filename, PropagationFlags, PropertyToLoad);
+	PostReloadConfig(PropertyToLoad);
+}
+
+void UObject::SaveConfig(uint64 RequiredPropertyFlags, const TCHAR* Filename, FConfigCacheIni*, bool bAllowCopyToDefaultObject)
+{
+	if (!GetClass()->HasAnyClassFlags(CLASS_Config))
+	{
+		return;
+	}
+	ObjectConfig::Write({this, ObjectConfig::ELayer::User, Filename ? FString(Filename) : FString(), RequiredPropertyFlags, nullptr});
+	if (bAllowCopyToDefaultObject)
+	{
+		ObjectConfig::CopyToDefaultObject(this);
+	}
+}
+
+FString UObject::GetDefaultConfigFilename() const
+{
+	return GetClass()->ClassConfigName.IsNone() ? FString() : HostConfig::GetDefaultFile(GetClass()->ClassConfigName.ToString());
+}
+
+bool UObject::TryUpdateDefaultConfigFile(const FString& SpecificFileLocation, bool bWarnIfFail)
+{
+	if (!GetClass()->HasAnyClassFlags(CLASS_Config))
+	{
+		return false;
+	}
+	const bool bWritten = ObjectConfig::Write({this, ObjectConfig::ELayer::Default, SpecificFileLocation, CPF_Config, nullptr});
+	if (!bWritten && bWarnIfFail)
+	{
+		UE_LOG(LogConfigObject, Warning, TEXT("Failed to write the settings of %s to %s."), *GetClass()->GetPathName(),
+			SpecificFileLocation.IsEmpty() ? *GetDefaultConfigFilename() : *SpecificFileLocation);
+	}
+	return bWritten;
+}
+
+void UObject::UpdateSinglePropertyInConfigFile(const FProperty* InProperty, const FString InConfigIniName)
+{
+	if (GetClass()->HasAnyClassFlags(CLASS_Config) && InProperty && InProperty->HasAnyPropertyFlags(CPF_Config))
+	{
+		ObjectConfig::Write({this, ObjectConfig::ELayer::Default, InConfigIniName, CPF_Config, InProperty});
+	}
+}

@@ -1,0 +1,148 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "HostPackages.h"
+
+#include "HostProblems.h"
+#include "HostTextFiles.h"
+#include "PackageFormats.h"
+#include "PackageJson.h"
+#include "PackageReader.h"
+#include "PackageStorage.h"
+#include "PackageWriter.h"
+#include "PropertyReader.h"
+#include "PropertyWriter.h"
+#include "UObject/Class.h"
+#include "UObject/Package.h"
+
+namespace HostPackages
+{
+	/** Notes that a package's file is being read, for as long as it lives. */
+	class FLoadingScope
+	{
+	public:
+		explicit FLoadingScope(const FString& PackageName)
+			: Name(*PackageName)
+		{
+			FPackageStorage::Get().Loading.Add(Name);
+		}
+		~FLoadingScope() { FPackageStorage::Get().Loading.Remove(Name); }
+		FLoadingScope(const FLoadingScope&) = delete;
+		FLoadingScope& operator=(const FLoadingScope&) = delete;
+
+	private:
+		FName Name;
+	};
+
+	UPackage* LoadByReader(const FReader& Reader, const FString& File, const FString& PackageName, const std::string& Text)
+	{
+		UPackage* Package = CreatePackage(*PackageName);
+		UObject* Asset = Reader({File, PackageFiles::ShortNameOf(PackageName), PackageJson::ToString(Text)}, Package);
+		Package->SetDirtyFlag(false);
+		if (Asset == nullptr)
+		{
+			return nullptr;
+		}
+		Package->MarkAsFullyLoaded();
+		return Package;
+	}
+
+	void ReportUnresolved(const FString& File, UObject* Asset, const TArray<FJsonProblem>& Unresolved)
+	{
+		for (const FJsonProblem& Missing : Unresolved)
+		{
+			PackageJson::Report(File, Missing);
+			FPackageStorage::Get().MarkIncomplete(Asset, Missing.Pointer + TEXT(": ") + Missing.Message);
+		}
+	}
+
+	UPackage* LoadText(const FString& File, const FString& PackageName)
+	{
+		std::string Text;
+		if (HostTextFiles::ReadUtf8(File, Text) != HostFiles::ERead::Done)
+		{
+			return nullptr;
+		}
+		std::string ClassText;
+		const bool bHasClass = PackageJson::ReadClass(Text, ClassText);
+		const FPackageFormat* Format = bHasClass ? FPackageFormat::Find(PackageJson::ToString(ClassText)) : nullptr;
+		FJson Document;
+		FJsonProblem Problem;
+		if (!PackageJson::Parse(Text, Document, Problem))
+		{
+			PackageJson::Report(File, Problem);
+			return nullptr;
+		}
+		if (Format != nullptr)
+		{
+			return LoadByReader(Format->Reader, File, PackageName, Text);
+		}
+		FPackageReader Reader(PackageName, Document);
+		UPackage* Package = Reader.Read();
+		if (Package == nullptr)
+		{
+			PackageJson::Report(File, Reader.GetProblem());
+			return nullptr;
+		}
+		if (File.EndsWith(PackageFiles::LevelSuffix))
+		{
+			Package->SetPackageFlags(PKG_ContainsMap);
+		}
+		ReportUnresolved(File, FindMainAsset(Package), Reader.GetUnresolved());
+		return Package;
+	}
+}
+
+UPackage* HostPackages::Load(const FString& PackageName)
+{
+	FPackageStorage& Storage = FPackageStorage::Get();
+	UPackage* InMemory = FindPackage(nullptr, *PackageName);
+	if (InMemory != nullptr && (FindMainAsset(InMemory) != nullptr || Storage.Loading.Contains(InMemory->GetFName())))
+	{
+		return InMemory;
+	}
+	const FPackageStorage::FFound Found = Storage.Find(PackageName);
+	if (Found.Stored == EStored::Nothing)
+	{
+		return nullptr;
+	}
+	if (Found.Stored == EStored::Binary)
+	{
+		HostProblems::Report(Found.File, 0, TEXT("this is a binary asset of the engine, which this program cannot read"),
+			TEXT("Work on it in the engine; its name stays reserved here."));
+		return nullptr;
+	}
+	const FString StoredName = Storage.GetPackageName(Found.File);
+	if (!IsValidPackageName(StoredName))
+	{
+		return nullptr;
+	}
+	const FLoadingScope Scope(StoredName);
+	return LoadText(Found.File, StoredName);
+}
+
+FString HostPackages::WriteProperties(const UObject* Object, const UObject* Defaults)
+{
+	FPropertyWriter Writer;
+	std::string Text;
+	return PackageJson::Print(Writer.WriteDifferences(Object, Defaults), Text) ? PackageJson::ToString(Text) : FString();
+}
+
+bool HostPackages::ReadProperties(UObject* Object, const FString& Json, const FString& File)
+{
+	FJson Document;
+	FJsonProblem Problem;
+	if (!PackageJson::Parse(PackageJson::FromString(Json), Document, Problem))
+	{
+		PackageJson::Report(File, Problem);
+		return false;
+	}
+	FPropertyReader Reader;
+	if (!Reader.ReadProperties(Object->GetClass(), nullptr, Document, FJsonPlace()))
+	{
+		PackageJson::Report(File, Reader.GetProblem());
+		return false;
+	}
+	Reader.ReadProperties(Object->GetClass(), Object, Document, FJsonPlace());
+	ReportUnresolved(File, FindMainAsset(Object->GetPackage()), Reader.GetUnresolved());
+	return true;
+}

@@ -1,0 +1,23 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+class UClass;
+class UEnum;
+class UScriptStruct;
+
+/** The reflected enum; generated code specialises it for each UENUM. */
+template<typename EnumType>
+UEnum* StaticEnum();
+
+template<typename ClassType>
+UClass* StaticClass()
+{
+	return ClassType::StaticClass();
+}
+
+template<typename StructType>
+UScriptStruct* StaticStruct()
+{
+	return StructType::StaticStruct();
+}

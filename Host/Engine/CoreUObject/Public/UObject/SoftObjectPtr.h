@@ -1,0 +1,167 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include "Templates/Casts.h"
+#include "Templates/SubclassOf.h"
+#include "UObject/SoftObjectPath.h"
+#include "UObject/WeakObjectPtr.h"
+
+/** A soft path that remembers the object it led to. */
+struct FSoftObjectPtr
+{
+	FSoftObjectPtr() = default;
+	explicit FSoftObjectPtr(const FSoftObjectPath& InPath)
+		: ObjectID(InPath)
+	{
+	}
+	explicit FSoftObjectPtr(const UObject* Object)
+		: WeakPtr(Object)
+		, ObjectID(Object)
+	{
+	}
+	FSoftObjectPtr& operator=(const FSoftObjectPath& InPath);
+	FSoftObjectPtr& operator=(const UObject* Object);
+
+	/** The object if it is in memory; loads nothing. */
+	UObject* Get() const;
+	UObject* LoadSynchronous() const;
+
+	const FSoftObjectPath& ToSoftObjectPath() const { return ObjectID; }
+	const FSoftObjectPath& GetUniqueID() const { return ObjectID; }
+	FString ToString() const { return ObjectID.ToString(); }
+	FString GetLongPackageName() const { return ObjectID.GetLongPackageName(); }
+	FString GetAssetName() const { return ObjectID.GetAssetName(); }
+	bool IsNull() const { return ObjectID.IsNull(); }
+	/** Whether the object is in memory. */
+	bool IsValid() const { return Get() != nullptr; }
+	/** Not null, but not in memory. */
+	bool IsPending() const { return !IsNull() && Get() == nullptr; }
+	void Reset() { *this = FSoftObjectPtr(); }
+
+	bool operator==(const FSoftObjectPtr& Other) const { return ObjectID == Other.ObjectID; }
+	friend uint32 GetTypeHash(const FSoftObjectPtr& Ptr) { return GetTypeHash(Ptr.ObjectID); }
+
+private:
+	mutable FWeakObjectPtr WeakPtr;
+	FSoftObjectPath ObjectID;
+};
+
+/** A soft pointer to objects of class T. */
+template<class T = UObject>
+struct TSoftObjectPtr
+{
+	using ElementType = T;
+
+	TSoftObjectPtr() = default;
+	TSoftObjectPtr(std::nullptr_t) {}
+	template<class U>
+		requires std::is_convertible_v<U*, T*>
+	TSoftObjectPtr(U* Object)
+		: SoftObjectPtr(static_cast<const UObject*>(Object))
+	{
+	}
+	template<class U>
+		requires std::is_convertible_v<U*, T*>
+	TSoftObjectPtr(const TObjectPtr<U>& Object)
+		: TSoftObjectPtr(Object.Get())
+	{
+	}
+	template<class U>
+		requires(!std::is_same_v<T, U> && std::is_convertible_v<U*, T*>)
+	TSoftObjectPtr(const TSoftObjectPtr<U>& Other)
+		: SoftObjectPtr(Other.ToSoftObjectPath())
+	{
+	}
+	explicit TSoftObjectPtr(const FSoftObjectPath& InPath)
+		: SoftObjectPtr(InPath)
+	{
+	}
+	TSoftObjectPtr& operator=(const FSoftObjectPath& InPath)
+	{
+		SoftObjectPtr = InPath;
+		return *this;
+	}
+	TSoftObjectPtr& operator=(T* Object) { return *this = TSoftObjectPtr(Object); }
+	template<class U>
+		requires std::is_convertible_v<U*, T*>
+	TSoftObjectPtr& operator=(const TObjectPtr<U>& Object)
+	{
+		return *this = TSoftObjectPtr(Object.Get());
+	}
+
+	T* Get() const { return Cast<T>(SoftObjectPtr.Get()); }
+	T* LoadSynchronous() const { return Cast<T>(SoftObjectPtr.LoadSynchronous()); }
+	T* operator->() const { return Get(); }
+	T& operator*() const { return *Get(); }
+
+	const FSoftObjectPath& ToSoftObjectPath() const { return SoftObjectPtr.ToSoftObjectPath(); }
+	const FSoftObjectPath& GetUniqueID() const { return SoftObjectPtr.GetUniqueID(); }
+	FString ToString() const { return SoftObjectPtr.ToString(); }
+	FString GetLongPackageName() const { return SoftObjectPtr.GetLongPackageName(); }
+	FString GetAssetName() const { return SoftObjectPtr.GetAssetName(); }
+	bool IsNull() const { return SoftObjectPtr.IsNull(); }
+	bool IsValid() const { return Get() != nullptr; }
+	bool IsPending() const { return SoftObjectPtr.IsPending(); }
+	explicit operator bool() const { return IsValid(); }
+	void Reset() { SoftObjectPtr.Reset(); }
+
+	bool operator==(const TSoftObjectPtr& Other) const { return SoftObjectPtr == Other.SoftObjectPtr; }
+	friend uint32 GetTypeHash(const TSoftObjectPtr& Ptr) { return GetTypeHash(Ptr.SoftObjectPtr); }
+
+private:
+	FSoftObjectPtr SoftObjectPtr;
+};
+
+/** A soft pointer to T or a class derived from it. */
+template<class T = UObject>
+class TSoftClassPtr
+{
+public:
+	using ElementType = T;
+
+	TSoftClassPtr() = default;
+	TSoftClassPtr(std::nullptr_t) {}
+	TSoftClassPtr(const UClass* From)
+		: SoftObjectPtr(static_cast<const UObject*>(From))
+	{
+	}
+	template<class U>
+		requires(!std::is_same_v<T, U> && std::is_convertible_v<U*, T*>)
+	TSoftClassPtr(const TSoftClassPtr<U>& Other)
+		: SoftObjectPtr(Other.ToSoftObjectPath())
+	{
+	}
+	explicit TSoftClassPtr(const FSoftObjectPath& InPath)
+		: SoftObjectPtr(InPath)
+	{
+	}
+
+	/** Null when the class is not loaded, or no T. */
+	UClass* Get() const { return Checked(SoftObjectPtr.Get()); }
+	UClass* LoadSynchronous() const { return Checked(SoftObjectPtr.LoadSynchronous()); }
+	UClass* operator->() const { return Get(); }
+	UClass* operator*() const { return Get(); }
+
+	const FSoftObjectPath& ToSoftObjectPath() const { return SoftObjectPtr.ToSoftObjectPath(); }
+	FString ToString() const { return SoftObjectPtr.ToString(); }
+	FString GetLongPackageName() const { return SoftObjectPtr.GetLongPackageName(); }
+	FString GetAssetName() const { return SoftObjectPtr.GetAssetName(); }
+	bool IsNull() const { return SoftObjectPtr.IsNull(); }
+	bool IsValid() const { return Get() != nullptr; }
+	bool IsPending() const { return SoftObjectPtr.IsPending(); }
+	explicit operator bool() const { return IsValid(); }
+	void Reset() { SoftObjectPtr.Reset(); }
+
+	bool operator==(const TSoftClassPtr& Other) const { return SoftObjectPtr == Other.SoftObjectPtr; }
+	friend uint32 GetTypeHash(const TSoftClassPtr& Ptr) { return GetTypeHash(Ptr.SoftObjectPtr); }
+
+private:
+	static UClass* Checked(UObject* Object)
+	{
+		UClass* Class = Cast<UClass>(Object);
+		return Class && Class->IsChildOf(T::StaticClass()) ? Class : nullptr;
+	}
+
+	FSoftObjectPtr SoftObjectPtr;
+};
