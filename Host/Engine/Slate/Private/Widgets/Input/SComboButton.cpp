@@ -1,0 +1,100 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "Widgets/Input/SComboButton.h"
+
+#include "HostWidget.h"
+
+void SComboButton::Construct(const FArguments& InArgs)
+{
+	OnGetMenuContent = InArgs._OnGetMenuContent;
+	OnComboBoxOpened = InArgs._OnComboBoxOpened;
+	StaticMenuContent = InArgs._MenuContent.Widget;
+	ChildSlot[InArgs._ButtonContent.Widget];
+}
+
+void SComboButton::SetIsOpen(bool bInIsOpen)
+{
+	if (bIsOpen == bInIsOpen)
+	{
+		return;
+	}
+	bIsOpen = bInIsOpen;
+	OpenMenu.Empty();
+	if (bIsOpen)
+	{
+		const TSharedRef<FSlotBase> Slot = MakeShared<FSlotBase>();
+		Slot->AttachWidget(OnGetMenuContent.IsBound() ? OnGetMenuContent.Execute() : StaticMenuContent);
+		OpenMenu.AddSlot(Slot);
+		OnComboBoxOpened.ExecuteIfBound();
+	}
+}
+
+TSharedRef<SWidget> SComboButton::MakeOptionForHost(int32)
+{
+	return SNullWidget::NullWidget;
+}
+
+void SComboButton::PickOptionForHost(int32)
+{
+}
+
+void SComboButton::DescribeToHost(FHostWidgetDescription& OutDescription) const
+{
+	const FString Face = FHostWidgetAccess::TextOf(*ChildSlot.GetWidget());
+	const int32 NumOptions = CountOptionsForHost();
+	if (NumOptions < 0)
+	{
+		OutDescription.Role = TEXT("menu button");
+		OutDescription.Label = Face;
+		return;
+	}
+	OutDescription.Role = TEXT("combo");
+	OutDescription.Value = Face;
+	OutDescription.Notes.Add(FString::Printf(TEXT("%d %s"), NumOptions, NumOptions == 1 ? TEXT("option") : TEXT("options")));
+}
+
+void SComboButton::ListHostOptions(TArray<FString>& OutOptions)
+{
+	const bool bWasOpen = IsOpen();
+	SetIsOpen(true); // options may be filled in when the box opens
+	const int32 NumOptions = CountOptionsForHost();
+	for (int32 Index = 0; Index < NumOptions; ++Index)
+	{
+		OutOptions.Add(FHostWidgetAccess::TextOf(*MakeOptionForHost(Index)));
+	}
+	SetIsOpen(bWasOpen);
+}
+
+FHostInputResult SComboButton::TakeHostInput(const FHostInput& Input)
+{
+	if (Input.Kind == EHostInput::Click)
+	{
+		SetIsOpen(!IsOpen());
+		return FHostInputResult::Done();
+	}
+	if (Input.Kind == EHostInput::Choose && CountOptionsForHost() >= 0)
+	{
+		return ChooseOption(Input.Text);
+	}
+	return SCompoundWidget::TakeHostInput(Input);
+}
+
+FHostInputResult SComboButton::ChooseOption(const FString& Shown)
+{
+	SetIsOpen(true);
+	int32 Found = INDEX_NONE;
+	const int32 NumOptions = CountOptionsForHost();
+	for (int32 Index = 0; Index < NumOptions && Found == INDEX_NONE; ++Index)
+	{
+		if (FHostWidgetAccess::TextOf(*MakeOptionForHost(Index)).Equals(Shown))
+		{
+			Found = Index;
+		}
+	}
+	if (Found != INDEX_NONE)
+	{
+		PickOptionForHost(Found);
+	}
+	SetIsOpen(false);
+	return Found != INDEX_NONE ? FHostInputResult::Done() : FHostInputResult::Refused(FString::Printf(TEXT("has no option \"%s\""), *Shown));
+}

@@ -1,0 +1,104 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "Widgets/Input/SEditableText.h"
+
+#include "HostWidget.h"
+#include "Widgets/Input/SEditableTextBox.h"
+#include "Widgets/Input/SSearchBox.h"
+
+void SEditableText::Construct(const FArguments& InArgs)
+{
+	Text = InArgs._Text;
+	HintText = InArgs._HintText;
+	ReadOnly = InArgs._IsReadOnly;
+	Password = InArgs._IsPassword;
+	OnTextChanged = InArgs._OnTextChanged;
+	OnTextCommitted = InArgs._OnTextCommitted;
+}
+
+void SEditableText::SetText(const TAttribute<FText>& InText)
+{
+	const FText Old = GetText();
+	Text = InText;
+	const FText New = GetText();
+	if (!New.EqualTo(Old))
+	{
+		OnTextChanged.ExecuteIfBound(New);
+	}
+}
+
+void SEditableText::DescribeToHost(FHostWidgetDescription& OutDescription) const
+{
+	OutDescription.Role = TEXT("edit");
+	OutDescription.Value = GetText().ToString();
+	OutDescription.bReadOnly = IsTextReadOnly();
+	OutDescription.bPassword = IsTextPassword();
+	const FString Hint = GetHintText().ToString();
+	if (!Hint.IsEmpty())
+	{
+		OutDescription.Label = Hint;
+	}
+}
+
+FHostInputResult SEditableText::TakeHostInput(const FHostInput& Input)
+{
+	if (Input.Kind != EHostInput::Type)
+	{
+		return SLeafWidget::TakeHostInput(Input);
+	}
+	if (IsTextReadOnly())
+	{
+		return FHostInputResult::Refused(TEXT("is read-only"));
+	}
+	SetText(FText::FromString(Input.Text));
+	OnTextCommitted.ExecuteIfBound(GetText(), ETextCommit::OnEnter);
+	return FHostInputResult::Done();
+}
+
+void SEditableTextBox::Construct(const FArguments& InArgs)
+{
+	// clang-format off
+	SBorder::Construct(SBorder::FArguments()
+	[
+		SAssignNew(EditableText, SEditableText)
+		.Text(InArgs._Text)
+		.HintText(InArgs._HintText)
+		.Font(InArgs._Font)
+		.IsReadOnly(InArgs._IsReadOnly)
+		.IsPassword(InArgs._IsPassword)
+		.OnTextChanged(InArgs._OnTextChanged)
+		.OnTextCommitted(InArgs._OnTextCommitted)
+	]);
+	// clang-format on
+}
+
+void SEditableTextBox::DescribeToHost(FHostWidgetDescription& OutDescription) const
+{
+	const FHostWidgetDescription Inner = FHostWidgetAccess::Describe(*EditableText);
+	OutDescription.Role = TEXT("edit");
+	OutDescription.Label = Inner.Label;
+	OutDescription.Value = Inner.Value;
+	OutDescription.bReadOnly = Inner.bReadOnly;
+	OutDescription.bPassword = Inner.bPassword;
+	OutDescription.bSealed = true;
+}
+
+FHostInputResult SEditableTextBox::TakeHostInput(const FHostInput& Input)
+{
+	return FHostWidgetAccess::Give(EditableText.ToSharedRef(), Input);
+}
+
+void SSearchBox::Construct(const FArguments& InArgs)
+{
+	SEditableTextBox::Construct(SEditableTextBox::FArguments()
+									.Text(InArgs._InitialText)
+									.HintText(InArgs._HintText)
+									.OnTextChanged(InArgs._OnTextChanged)
+									.OnTextCommitted(InArgs._OnTextCommitted));
+}
+
+void SSearchBox::DescribeToHost(FHostWidgetDescription& OutDescription) const
+{
+	SEditableTextBox::DescribeToHost(OutDescription);
+	OutDescription.Role = TEXT("search");
+}

@@ -1,0 +1,73 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "HostWidget.h"
+#include "Widgets/Images/SThrobber.h"
+#include "Widgets/Layout/SBorder.h"
+#include "Widgets/Layout/SBox.h"
+#include "Widgets/Text/STextBlock.h"
+
+void STextBlock::Construct(const FArguments& InArgs)
+{
+	Text = InArgs._Text;
+	Font = InArgs._Font;
+	ColorAndOpacity = InArgs._ColorAndOpacity;
+}
+
+const FText& STextBlock::GetText() const
+{
+	LastText = Text.Get(FText::GetEmpty());
+	return LastText;
+}
+
+void STextBlock::DescribeToHost(FHostWidgetDescription& OutDescription) const
+{
+	OutDescription.Role = TEXT("text");
+	OutDescription.Value = GetText().ToString();
+}
+
+void SBox::Construct(const FArguments& InArgs)
+{
+	WidthOverride = InArgs._WidthOverride;
+	HeightOverride = InArgs._HeightOverride;
+	MinDesiredWidth = InArgs._MinDesiredWidth;
+	MinDesiredHeight = InArgs._MinDesiredHeight;
+	MaxDesiredWidth = InArgs._MaxDesiredWidth;
+	MaxDesiredHeight = InArgs._MaxDesiredHeight;
+	ChildSlot.HAlign(InArgs._HAlign).VAlign(InArgs._VAlign).Padding(InArgs._Padding)[InArgs._Content.Widget];
+}
+
+void SBox::DescribeToHost(FHostWidgetDescription& OutDescription) const
+{
+	SCompoundWidget::DescribeToHost(OutDescription);
+	OutDescription.Role = TEXT("box");
+}
+
+void SBorder::Construct(const FArguments& InArgs)
+{
+	BorderImage = InArgs._BorderImage;
+	BorderBackgroundColor = InArgs._BorderBackgroundColor;
+	ChildSlot.HAlign(InArgs._HAlign).VAlign(InArgs._VAlign).Padding(InArgs._Padding)[InArgs._Content.Widget];
+}
+
+void SBorder::DescribeToHost(FHostWidgetDescription& OutDescription) const
+{
+	SCompoundWidget::DescribeToHost(OutDescription);
+	OutDescription.Role = TEXT("border");
+	if (ChildSlot.GetWidget() == SNullWidget::NullWidget)
+	{
+		// An empty border shows nothing but its colour: a swatch.
+		OutDescription.Role = TEXT("swatch");
+		OutDescription.Value = GetBorderBackgroundColor().GetSpecifiedColor().ToString();
+		OutDescription.bTransparent = false;
+	}
+}
+
+void SThrobber::Construct(const FArguments&)
+{
+}
+
+void SThrobber::DescribeToHost(FHostWidgetDescription& OutDescription) const
+{
+	OutDescription.Role = TEXT("throbber");
+	OutDescription.bBusy = true;
+}

@@ -1,0 +1,142 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "Widgets/Views/STableViewBase.h"
+
+#include "Containers/Ticker.h"
+#include "HostWidget.h"
+#include "Widgets/Views/ITableRow.h"
+#include "Widgets/Views/STableRow.h"
+
+void STableViewBase::RequestListRefresh()
+{
+	if (!bRefreshPending)
+	{
+		bRefreshPending = true;
+		FTSTicker::GetCoreTicker().AddTicker(FTickerDelegate::CreateSP(this, &STableViewBase::HandleTick), 0.0f);
+	}
+}
+
+void STableViewBase::RequestScrollToIndex(int32 ItemIndex)
+{
+	ScrollTarget = ItemIndex;
+	RequestListRefresh();
+}
+
+bool STableViewBase::HandleTick(float)
+{
+	bRefreshPending = false; // first: making rows may ask for another refresh
+	GenerateRows();
+	return false;
+}
+
+void STableViewBase::GenerateRows()
+{
+	const int32 NumItems = CountItems();
+	if (ScrollTarget != INDEX_NONE && (ScrollTarget < FirstItemInView || ScrollTarget >= FirstItemInView + HostRowsInView))
+	{
+		FirstItemInView = ScrollTarget;
+	}
+	ScrollTarget = INDEX_NONE;
+	FirstItemInView = FMath::Max(0, FMath::Min(FirstItemInView, NumItems - HostRowsInView));
+	const int32 NumRows = FMath::Min(HostRowsInView, NumItems - FirstItemInView);
+
+	KeepRows(FirstItemInView, NumRows);
+	Rows.Empty();
+	for (int32 Row = 0; Row < NumRows; ++Row)
+	{
+		const TSharedRef<FSlotBase> Slot = MakeShared<FSlotBase>();
+		Slot->AttachWidget(MakeRow(FirstItemInView + Row)->AsWidget());
+		Rows.AddSlot(Slot);
+	}
+}
+
+void STableViewBase::DescribeToHost(FHostWidgetDescription& OutDescription) const
+{
+	const int32 NumItems = CountItems();
+	OutDescription.Role = GetHostRole();
+	OutDescription.Notes.Add(FString::Printf(TEXT("%d %s"), NumItems, NumItems == 1 ? TEXT("item") : TEXT("items")));
+	OutDescription.bBusy = bRefreshPending;
+}
+
+int32 STableViewBase::FindItemOfRow(const SWidget& Row) const
+{
+	TPanelChildren<FSlotBase>& Shown = const_cast<STableViewBase*>(this)->Rows;
+	for (int32 Index = 0; Index < Shown.Num(); ++Index)
+	{
+		if (&Shown.GetChildAt(Index).Get() == &Row)
+		{
+			return FirstItemInView + Index;
+		}
+	}
+	return INDEX_NONE;
+}
+
+void STableViewBase::DescribeRowToHost(const SWidget& Row, FHostWidgetDescription& OutDescription) const
+{
+	const int32 ItemIndex = FindItemOfRow(Row);
+	OutDescription.Role = TEXT("item");
+	OutDescription.bTransparent = false;
+	OutDescription.bSelected = ItemIndex != INDEX_NONE && ItemIndex < CountItems() && IsItemIndexSelected(ItemIndex);
+}
+
+FHostInputResult STableViewBase::GiveRowInput(const SWidget& Row, const FHostInput& Input)
+{
+	const int32 ItemIndex = FindItemOfRow(Row);
+	if (Input.Kind != EHostInput::Click)
+	{
+		return FHostInputResult::Refused(TEXT("takes no such input"));
+	}
+	if (bRefreshPending || ItemIndex == INDEX_NONE || ItemIndex >= CountItems())
+	{
+		return FHostInputResult::Refused(TEXT("is about to be replaced: the list has changed"));
+	}
+	ClickItem(ItemIndex);
+	return FHostInputResult::Done();
+}
+
+void STableViewBase::ListHostOptions(TArray<FString>& OutOptions)
+{
+	for (const TSharedRef<SWidget>& Row : FHostWidgetAccess::ChildrenOf(*this))
+	{
+		OutOptions.Add(FHostWidgetAccess::TextOf(*Row));
+	}
+}
+
+FHostInputResult STableViewBase::TakeHostInput(const FHostInput& Input)
+{
+	return Input.Kind == EHostInput::Choose ? ChooseItem(Input.Text) : SCompoundWidget::TakeHostInput(Input);
+}
+
+/** Scrolls through the items as a person would, a view at a time, until one shows the text. */
+FHostInputResult STableViewBase::ChooseItem(const FString& Shown)
+{
+	for (int32 First = 0; First < CountItems(); First += HostRowsInView)
+	{
+		FirstItemInView = First;
+		GenerateRows();
+		for (int32 Row = 0; Row < Rows.Num(); ++Row)
+		{
+			const TSharedRef<SWidget> RowWidget = Rows.GetChildAt(Row);
+			if (FHostWidgetAccess::TextOf(*RowWidget).Equals(Shown) || FHostWidgetAccess::Describe(*RowWidget).ToolTip.Equals(Shown))
+			{
+				ClickItem(FirstItemInView + Row);
+				return FHostInputResult::Done();
+			}
+		}
+	}
+	return FHostInputResult::Refused(FString::Printf(TEXT("has no item \"%s\""), *Shown));
+}
+
+void STableRowBorder::DescribeToHost(FHostWidgetDescription& OutDescription) const
+{
+	if (const TSharedPtr<STableViewBase> Owner = OwnerTable.Pin())
+	{
+		Owner->DescribeRowToHost(*this, OutDescription);
+	}
+}
+
+FHostInputResult STableRowBorder::TakeHostInput(const FHostInput& Input)
+{
+	const TSharedPtr<STableViewBase> Owner = OwnerTable.Pin();
+	return Owner ? Owner->GiveRowInput(*this, Input) : FHostInputResult::Refused(TEXT("belongs to a list that is gone"));
+}

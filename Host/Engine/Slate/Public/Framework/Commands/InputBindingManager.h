@@ -1,0 +1,37 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include "CoreMinimal.h"
+#include "Framework/Commands/UICommandInfo.h"
+
+/** All command contexts of the running editor with their commands. */
+class SLATE_API FInputBindingManager
+{
+public:
+	static FInputBindingManager& Get();
+
+	/** Null when there is no such context or command. */
+	TSharedPtr<FUICommandInfo> FindCommandInContext(const FName InBindingContext, const FName CommandName) const;
+
+	/** In order of registration. */
+	void GetCommandInfosFromContext(const FName InBindingContext, TArray<TSharedPtr<FUICommandInfo>>& OutCommandInfos) const;
+	TSharedPtr<FBindingContext> GetContextByName(const FName InContextName) const;
+	void GetKnownInputContexts(TArray<TSharedPtr<FBindingContext>>& OutInputContexts) const;
+
+	/** Keeps the context, and so its command set, until it is removed or the editor goes down. */
+	void AddContext(const TSharedRef<FBindingContext>& InContext);
+	void RemoveContextByName(const FName InContextName);
+	void AddCommand(const TSharedRef<FUICommandInfo>& InCommand);
+
+private:
+	struct FContextEntry
+	{
+		TSharedPtr<FBindingContext> Context;
+		TArray<TSharedPtr<FUICommandInfo>> Commands;
+	};
+
+	const FContextEntry* FindEntry(const FName InContextName) const;
+
+	TArray<FContextEntry> Contexts; // in order of registration
+};

@@ -1,0 +1,36 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include "CoreMinimal.h"
+#include "InputCoreTypes.h"
+
+namespace EModifierKey
+{
+	typedef uint8 Type;
+
+	constexpr Type None = 0;
+	constexpr Type Control = 1 << 0;
+	constexpr Type Alt = 1 << 1;
+	constexpr Type Shift = 1 << 2;
+	constexpr Type Command = 1 << 3;
+}
+
+/** A key with the modifier keys held down with it. Default-constructed: no chord. */
+struct SLATE_API FInputChord
+{
+	FInputChord() = default;
+	FInputChord(const FKey InKey) : Key(InKey) {}
+	FInputChord(const EModifierKey::Type InModifierKeys, const FKey InKey) : Key(InKey), Modifiers(InModifierKeys) {}
+
+	bool IsValidChord() const { return Key.IsValid(); }
+
+	/** "Ctrl+Shift+S"; empty for no chord. */
+	FText GetInputText() const;
+
+	bool operator==(const FInputChord& Other) const { return Key == Other.Key && Modifiers == Other.Modifiers; }
+	bool operator!=(const FInputChord& Other) const { return !(*this == Other); }
+
+	FKey Key;
+	EModifierKey::Type Modifiers = EModifierKey::None;
+};

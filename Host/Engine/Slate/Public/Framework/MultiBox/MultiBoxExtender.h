@@ -1,0 +1,9 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include "CoreMinimal.h"
+
+class FMenuBuilder;
+
+DECLARE_DELEGATE_OneParam(FNewMenuDelegate, FMenuBuilder&);

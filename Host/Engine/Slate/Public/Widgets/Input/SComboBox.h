@@ -1,0 +1,89 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include "Widgets/Input/SComboButton.h"
+
+/** A combo button over a list of options that its owner keeps alive. Options compare with ==. */
+template<typename OptionType>
+class SComboBox : public SComboButton
+{
+public:
+	typedef typename TSlateDelegates<OptionType>::FOnSelectionChanged FOnSelectionChanged;
+	typedef typename TSlateDelegates<OptionType>::FOnGenerateWidget FOnGenerateWidget;
+	typedef FSimpleDelegate FOnComboBoxOpening;
+
+	SLATE_BEGIN_ARGS(SComboBox<OptionType>)
+		: _OptionsSource(nullptr)
+		, _InitiallySelectedItem()
+		, _MaxListHeight(450.0f)
+		{}
+		SLATE_DEFAULT_SLOT(FArguments, Content)
+		SLATE_STYLE_ARGUMENT(FComboBoxStyle, ComboBoxStyle)
+		SLATE_STYLE_ARGUMENT(FTableRowStyle, ItemStyle)
+		SLATE_ATTRIBUTE(FMargin, ContentPadding)
+		SLATE_ARGUMENT(const TArray<OptionType>*, OptionsSource)
+		SLATE_EVENT(FOnSelectionChanged, OnSelectionChanged)
+		SLATE_EVENT(FOnGenerateWidget, OnGenerateWidget)
+		SLATE_ARGUMENT(OptionType, InitiallySelectedItem)
+		SLATE_EVENT(FOnComboBoxOpening, OnComboBoxOpening)
+		SLATE_ARGUMENT(float, MaxListHeight)
+	SLATE_END_ARGS()
+
+	void Construct(const FArguments& InArgs)
+	{
+		OptionsSource = InArgs._OptionsSource;
+		SelectedItem = InArgs._InitiallySelectedItem;
+		OnSelectionChanged = InArgs._OnSelectionChanged;
+		OnGenerateWidget = InArgs._OnGenerateWidget;
+		OnComboBoxOpening = InArgs._OnComboBoxOpening;
+		SComboButton::Construct(SComboButton::FArguments().ButtonContent()[InArgs._Content.Widget]);
+	}
+
+	OptionType GetSelectedItem() { return SelectedItem; }
+
+	/** Raises OnSelectionChanged when the item is another one. */
+	void SetSelectedItem(OptionType InSelectedItem, ESelectInfo::Type InSelectInfo = ESelectInfo::OnNavigation)
+	{
+		if (SelectedItem == InSelectedItem)
+		{
+			return;
+		}
+		SelectedItem = InSelectedItem;
+		OnSelectionChanged.ExecuteIfBound(SelectedItem, InSelectInfo);
+	}
+
+	void ClearSelection() { SetSelectedItem(OptionType(), ESelectInfo::Direct); }
+
+	/** The options are read each time they are shown, so there is nothing to keep in step. The selection stays. */
+	void RefreshOptions() {}
+	void SetItemsSource(const TArray<OptionType>* InListItemsSource) { OptionsSource = InListItemsSource; }
+
+	virtual void SetIsOpen(bool bInIsOpen) override
+	{
+		if (bInIsOpen && !IsOpen())
+		{
+			OnComboBoxOpening.ExecuteIfBound();
+		}
+		SComboButton::SetIsOpen(bInIsOpen);
+	}
+
+protected:
+	virtual int32 CountOptionsForHost() const override { return OptionsSource ? OptionsSource->Num() : 0; }
+	virtual TSharedRef<SWidget> MakeOptionForHost(int32 Index) override
+	{
+		return OnGenerateWidget.IsBound() ? OnGenerateWidget.Execute((*OptionsSource)[Index]) : SNullWidget::NullWidget;
+	}
+	virtual void PickOptionForHost(int32 Index) override
+	{
+		const OptionType Picked = (*OptionsSource)[Index]; // a copy: the handler may change the list
+		SetSelectedItem(Picked, ESelectInfo::OnMouseClick);
+	}
+
+private:
+	const TArray<OptionType>* OptionsSource = nullptr;
+	OptionType SelectedItem{};
+	FOnSelectionChanged OnSelectionChanged;
+	FOnGenerateWidget OnGenerateWidget;
+	FOnComboBoxOpening OnComboBoxOpening;
+};

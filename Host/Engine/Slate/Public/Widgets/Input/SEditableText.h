@@ -1,0 +1,51 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include "Fonts/SlateFontInfo.h"
+#include "Framework/SlateDelegates.h"
+#include "Widgets/SLeafWidget.h"
+
+/** One line of text to edit, without a frame. */
+class SLATE_API SEditableText : public SLeafWidget
+{
+public:
+	SLATE_BEGIN_ARGS(SEditableText)
+		: _IsReadOnly(false)
+		, _IsPassword(false)
+		{}
+		SLATE_ATTRIBUTE(FText, Text)
+		SLATE_ATTRIBUTE(FText, HintText)
+		SLATE_ATTRIBUTE(FSlateFontInfo, Font)
+		SLATE_ATTRIBUTE(bool, IsReadOnly)
+		SLATE_ATTRIBUTE(bool, IsPassword)
+		SLATE_ATTRIBUTE(float, MinDesiredWidth)
+		SLATE_EVENT(FOnTextChanged, OnTextChanged)
+		SLATE_EVENT(FOnTextCommitted, OnTextCommitted)
+	SLATE_END_ARGS()
+
+	void Construct(const FArguments& InArgs);
+
+	FText GetText() const { return Text.Get(FText::GetEmpty()); }
+
+	/** Raises OnTextChanged when the text is another one. */
+	void SetText(const TAttribute<FText>& InText);
+	void SetHintText(const TAttribute<FText>& InHintText) { HintText = InHintText; }
+	FText GetHintText() const { return HintText.Get(FText::GetEmpty()); }
+	void SetIsReadOnly(const TAttribute<bool>& InIsReadOnly) { ReadOnly = InIsReadOnly; }
+	bool IsTextReadOnly() const { return ReadOnly.Get(false); }
+	void SetIsPassword(const TAttribute<bool>& InIsPassword) { Password = InIsPassword; }
+	bool IsTextPassword() const { return Password.Get(false); }
+
+protected:
+	virtual void DescribeToHost(FHostWidgetDescription& OutDescription) const override;
+	virtual FHostInputResult TakeHostInput(const FHostInput& Input) override;
+
+private:
+	TAttribute<FText> Text;
+	TAttribute<FText> HintText;
+	TAttribute<bool> ReadOnly;
+	TAttribute<bool> Password;
+	FOnTextChanged OnTextChanged;
+	FOnTextCommitted OnTextCommitted;
+};

@@ -1,0 +1,177 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include "Containers/ArrayView.h"
+#include "Framework/Views/ITypedTableView.h"
+#include "Widgets/Views/ITableRow.h"
+#include "Widgets/Views/STableViewBase.h"
+
+/** Shows the items of an array that its owner keeps alive and in place. Items compare with ==; the default value is no item. */
+template<typename ItemType>
+class SListView : public STableViewBase, public ITypedTableView<ItemType>
+{
+public:
+	typedef ItemType NullableItemType;
+	typedef typename TSlateDelegates<ItemType>::FOnGenerateRow FOnGenerateRow;
+	typedef typename TSlateDelegates<NullableItemType>::FOnSelectionChanged FOnSelectionChanged;
+	typedef typename TSlateDelegates<ItemType>::FOnMouseButtonClick FOnMouseButtonClick;
+
+	SLATE_BEGIN_ARGS(SListView<ItemType>)
+		: _ListItemsSource(nullptr)
+		, _SelectionMode(ESelectionMode::Multi)
+		, _ClearSelectionOnClick(true)
+		{}
+		SLATE_EVENT(FOnGenerateRow, OnGenerateRow)
+		SLATE_ARGUMENT(const TArray<ItemType>*, ListItemsSource)
+		SLATE_EVENT(FOnSelectionChanged, OnSelectionChanged)
+		SLATE_EVENT(FOnMouseButtonClick, OnMouseButtonClick)
+		SLATE_ATTRIBUTE(ESelectionMode::Type, SelectionMode)
+		SLATE_ARGUMENT(bool, ClearSelectionOnClick)
+	SLATE_END_ARGS()
+
+	void Construct(const FArguments& InArgs)
+	{
+		OnGenerateRow = InArgs._OnGenerateRow;
+		OnSelectionChanged = InArgs._OnSelectionChanged;
+		OnMouseButtonClick = InArgs._OnMouseButtonClick;
+		SelectionMode = InArgs._SelectionMode;
+		ItemsSource = InArgs._ListItemsSource;
+		RequestListRefresh();
+	}
+
+	/** Takes another array; selection and rows start anew. */
+	void SetItemsSource(const TArray<ItemType>* InListItemsSource)
+	{
+		ItemsSource = InListItemsSource;
+		SelectedItems.Empty();
+		RebuildList();
+	}
+	void ClearItemsSource() { SetItemsSource(nullptr); }
+	bool HasValidItemsSource() const { return ItemsSource != nullptr; }
+	TArrayView<const ItemType> GetItems() const { return ItemsSource ? TArrayView<const ItemType>(*ItemsSource) : TArrayView<const ItemType>(); }
+
+	virtual void RebuildList() override
+	{
+		RowsByItem.Empty();
+		RequestListRefresh();
+	}
+
+	/** Makes the item the only selected one. Raises OnSelectionChanged, also when nothing changes. */
+	void SetSelection(ItemType SoleSelectedItem, ESelectInfo::Type SelectInfo = ESelectInfo::Direct)
+	{
+		SelectedItems.Empty();
+		SetItemSelection(SoleSelectedItem, true, SelectInfo);
+	}
+
+	void SetItemSelection(const ItemType& InItem, bool bSelected, ESelectInfo::Type SelectInfo = ESelectInfo::Direct)
+	{
+		if (SelectionMode.Get(ESelectionMode::Multi) == ESelectionMode::None)
+		{
+			return;
+		}
+		SelectedItems.Remove(InItem);
+		if (bSelected)
+		{
+			SelectedItems.Add(InItem);
+		}
+		OnSelectionChanged.ExecuteIfBound(bSelected ? InItem : NullableItemType(), SelectInfo);
+	}
+
+	/** Raises OnSelectionChanged with no item, if there was a selection. */
+	void ClearSelection()
+	{
+		if (SelectedItems.Num() > 0)
+		{
+			SelectedItems.Empty();
+			OnSelectionChanged.ExecuteIfBound(NullableItemType(), ESelectInfo::Direct);
+		}
+	}
+
+	bool IsItemSelected(const ItemType& InItem) const { return SelectedItems.Contains(InItem); }
+	TArray<ItemType> GetSelectedItems() const { return SelectedItems; }
+	int32 GetSelectedItems(TArray<ItemType>& OutItems) const
+	{
+		OutItems = SelectedItems;
+		return SelectedItems.Num();
+	}
+	int32 GetNumItemsSelected() const { return SelectedItems.Num(); }
+
+	/** At the next tick. An item that is not in the list is ignored. */
+	void RequestScrollIntoView(ItemType ItemToView, const uint32 = 0)
+	{
+		const int32 Index = ItemsSource ? ItemsSource->Find(ItemToView) : INDEX_NONE;
+		if (Index != INDEX_NONE)
+		{
+			RequestScrollToIndex(Index);
+		}
+	}
+
+protected:
+	virtual int32 CountItems() const override { return ItemsSource ? ItemsSource->Num() : 0; }
+	virtual const TCHAR* GetHostRole() const override { return TEXT("list"); }
+	virtual bool IsItemIndexSelected(int32 ItemIndex) const override { return IsItemSelected((*ItemsSource)[ItemIndex]); }
+
+	virtual TSharedRef<ITableRow> MakeRow(int32 ItemIndex) override
+	{
+		const ItemType Item = (*ItemsSource)[ItemIndex];
+		if (const TSharedRef<ITableRow>* Row = RowsByItem.Find(Item))
+		{
+			return *Row;
+		}
+		const TSharedRef<ITableRow> NewRow = OnGenerateRow.Execute(Item, StaticCastSharedRef<STableViewBase>(this->AsShared()));
+		RowsByItem.Add(Item, NewRow);
+		return NewRow;
+	}
+
+	virtual void KeepRows(int32 FirstItem, int32 NumItems) override
+	{
+		DropSelectionOfMissingItems();
+		TMap<ItemType, TSharedRef<ITableRow>> Kept;
+		for (int32 Index = FirstItem; Index < FirstItem + NumItems; ++Index)
+		{
+			const ItemType Item = (*ItemsSource)[Index];
+			if (const TSharedRef<ITableRow>* Row = RowsByItem.Find(Item))
+			{
+				const TSharedRef<ITableRow> Keep = *Row;
+				Kept.Add(Item, Keep);
+			}
+		}
+		RowsByItem = MoveTemp(Kept);
+	}
+
+	virtual void ClickItem(int32 ItemIndex) override
+	{
+		const ItemType Item = (*ItemsSource)[ItemIndex]; // a copy: handlers may change the list
+		const bool bToggleOff = SelectionMode.Get(ESelectionMode::Multi) == ESelectionMode::SingleToggle && IsItemSelected(Item);
+		if (bToggleOff)
+		{
+			SetItemSelection(Item, false, ESelectInfo::OnMouseClick);
+		}
+		else if (!IsItemSelected(Item) || SelectedItems.Num() > 1)
+		{
+			SetSelection(Item, ESelectInfo::OnMouseClick);
+		}
+		OnMouseButtonClick.ExecuteIfBound(Item);
+	}
+
+	FOnGenerateRow OnGenerateRow;
+
+private:
+	/** Items that left the array cannot stay selected; whoever listens is told once. */
+	void DropSelectionOfMissingItems()
+	{
+		const int32 NumGone = SelectedItems.RemoveAll([this](const ItemType& Item) { return !ItemsSource || !ItemsSource->Contains(Item); });
+		if (NumGone > 0)
+		{
+			OnSelectionChanged.ExecuteIfBound(NullableItemType(), ESelectInfo::Direct);
+		}
+	}
+
+	const TArray<ItemType>* ItemsSource = nullptr;
+	TArray<ItemType> SelectedItems; // in order of selection
+	TMap<ItemType, TSharedRef<ITableRow>> RowsByItem; // of the items in view
+	TAttribute<ESelectionMode::Type> SelectionMode;
+	FOnSelectionChanged OnSelectionChanged;
+	FOnMouseButtonClick OnMouseButtonClick;
+};

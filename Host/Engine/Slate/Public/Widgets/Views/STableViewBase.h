@@ -1,0 +1,61 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include "Framework/SlateDelegates.h"
+#include "Widgets/SCompoundWidget.h"
+
+class ITableRow;
+
+/**
+ * What lists and tile views share: rows exist only for the items that show, and are made anew at the tick after a refresh was asked for.
+ *
+ * Host: the view shows up to HostRowsInView items from the first one in view on.
+ */
+class SLATE_API STableViewBase : public SCompoundWidget
+{
+public:
+	static constexpr int32 HostRowsInView = 32;
+
+	/** Brings the rows in step with the items at the next tick; any number of requests until then make one. */
+	virtual void RequestListRefresh();
+	bool IsPendingRefresh() const { return bRefreshPending; }
+
+	/** Drops all rows, so that even those of unchanged items are made anew. */
+	virtual void RebuildList() = 0;
+
+	virtual FChildren* GetChildren() override { return &Rows; }
+
+	//~ Host: for rows
+	void DescribeRowToHost(const SWidget& Row, FHostWidgetDescription& OutDescription) const;
+	FHostInputResult GiveRowInput(const SWidget& Row, const FHostInput& Input);
+
+protected:
+	virtual void DescribeToHost(FHostWidgetDescription& OutDescription) const override;
+	virtual FHostInputResult TakeHostInput(const FHostInput& Input) override;
+	virtual void ListHostOptions(TArray<FString>& OutOptions) override;
+
+	virtual int32 CountItems() const = 0;
+	/** The row of an item, reused or made. */
+	virtual TSharedRef<ITableRow> MakeRow(int32 ItemIndex) = 0;
+	/** Rows of items outside the range are no longer needed. */
+	virtual void KeepRows(int32 FirstItem, int32 NumItems) = 0;
+	virtual bool IsItemIndexSelected(int32 ItemIndex) const = 0;
+	/** What a click on the item's row does. */
+	virtual void ClickItem(int32 ItemIndex) = 0;
+	virtual const TCHAR* GetHostRole() const = 0;
+
+	/** Moves the view so that the item shows, at the next tick. */
+	void RequestScrollToIndex(int32 ItemIndex);
+
+private:
+	bool HandleTick(float DeltaTime);
+	void GenerateRows();
+	FHostInputResult ChooseItem(const FString& Shown);
+	int32 FindItemOfRow(const SWidget& Row) const;
+
+	TPanelChildren<FSlotBase> Rows;
+	int32 FirstItemInView = 0;
+	int32 ScrollTarget = INDEX_NONE;
+	bool bRefreshPending = false;
+};

@@ -1,0 +1,145 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "Widgets/SWidget.h"
+
+#include "HostWidget.h"
+#include "Widgets/SCompoundWidget.h"
+#include "Widgets/SLeafWidget.h"
+#include "Widgets/SPanel.h"
+
+namespace SlateWidget
+{
+	class SNullWidgetContent : public SLeafWidget
+	{
+	public:
+		SLATE_BEGIN_ARGS(SNullWidgetContent) {}
+		SLATE_END_ARGS()
+
+		void Construct(const FArguments&) {}
+
+	protected:
+		virtual void DescribeToHost(FHostWidgetDescription& OutDescription) const override { OutDescription.bTransparent = true; }
+	};
+
+	static void AppendText(SWidget& Widget, FString& InOutText)
+	{
+		const FHostWidgetDescription Description = FHostWidgetAccess::Describe(Widget);
+		if (!Description.bVisible || Description.bPassword)
+		{
+			return;
+		}
+		const FString Own = Description.Value.IsSet() ? Description.Value.GetValue() : Description.Label;
+		if (!Own.IsEmpty())
+		{
+			InOutText += InOutText.IsEmpty() ? Own : TEXT(" ") + Own;
+		}
+		if (Description.bSealed)
+		{
+			return;
+		}
+		for (const TSharedRef<SWidget>& Child : FHostWidgetAccess::ChildrenOf(Widget))
+		{
+			AppendText(*Child, InOutText);
+		}
+	}
+}
+
+TSharedRef<SWidget> SNullWidget::NullWidget = MakeShared<SlateWidget::SNullWidgetContent>();
+
+FNoChildren FNoChildren::NoChildrenInstance;
+
+TSharedRef<SWidget> FNoChildren::GetChildAt(int32)
+{
+	checkf(false, TEXT("A widget without children was asked for one."));
+	return SNullWidget::NullWidget;
+}
+
+TSharedRef<SWidget> FSingleWidgetChildrenWithBasicLayoutSlot::GetChildAt(int32)
+{
+	return GetWidget();
+}
+
+SWidget::SWidget() = default;
+SWidget::~SWidget() = default;
+
+void SWidget::SWidgetConstruct(const FSlateBaseNamedArgs& Args, const ANSICHAR* InTypeName)
+{
+	ToolTipText = Args._ToolTipText;
+	EnabledState = Args._IsEnabled;
+	Visibility = Args._Visibility;
+	RenderOpacity = Args._RenderOpacity;
+	Tag = Args._Tag;
+	TypeOfWidget = FName(InTypeName);
+}
+
+void SWidget::DescribeToHost(FHostWidgetDescription&) const
+{
+}
+
+FHostInputResult SWidget::TakeHostInput(const FHostInput&)
+{
+	return FHostInputResult::Refused(TEXT("takes no such input"));
+}
+
+void SWidget::ListHostOptions(TArray<FString>&)
+{
+}
+
+void SPanel::DescribeToHost(FHostWidgetDescription& OutDescription) const
+{
+	OutDescription.Role = TEXT("panel");
+	OutDescription.bTransparent = true;
+}
+
+void SCompoundWidget::DescribeToHost(FHostWidgetDescription& OutDescription) const
+{
+	OutDescription.Role = TEXT("group");
+	OutDescription.bTransparent = true;
+}
+
+FHostWidgetDescription FHostWidgetAccess::Describe(const SWidget& Widget)
+{
+	FHostWidgetDescription Description;
+	Description.Name = Widget.Tag;
+	Description.ToolTip = Widget.ToolTipText.Get(FText::GetEmpty()).ToString();
+	Description.bEnabled = Widget.IsEnabled();
+	Description.bVisible = Widget.GetVisibility().IsVisible();
+	Widget.DescribeToHost(Description);
+	if (!Description.Name.IsNone())
+	{
+		Description.bTransparent = false; // somebody gave it a name to be found by
+	}
+	return Description;
+}
+
+FHostInputResult FHostWidgetAccess::Give(const TSharedRef<SWidget>& Widget, const FHostInput& Input)
+{
+	const TSharedRef<SWidget> HeldWhileHandling = Widget;
+	return HeldWhileHandling->TakeHostInput(Input);
+}
+
+TArray<FString> FHostWidgetAccess::OptionsOf(const TSharedRef<SWidget>& Widget)
+{
+	const TSharedRef<SWidget> HeldWhileHandling = Widget;
+	TArray<FString> Options;
+	HeldWhileHandling->ListHostOptions(Options);
+	return Options;
+}
+
+FString FHostWidgetAccess::TextOf(SWidget& Widget)
+{
+	FString Text;
+	SlateWidget::AppendText(Widget, Text);
+	return Text;
+}
+
+TArray<TSharedRef<SWidget>> FHostWidgetAccess::ChildrenOf(SWidget& Widget)
+{
+	TArray<TSharedRef<SWidget>> Result;
+	FChildren* Children = Widget.GetChildren();
+	for (int32 Index = 0; Index < Children->Num(); ++Index)
+	{
+		Result.Add(Children->GetChildAt(Index));
+	}
+	return Result;
+}

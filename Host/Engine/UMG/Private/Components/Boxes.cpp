@@ -1,0 +1,156 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "Components/CanvasPanel.h"
+#include "Components/HorizontalBox.h"
+#include "Components/SizeBox.h"
+#include "Components/VerticalBox.h"
+#include "Widgets/Layout/SBox.h"
+#include "Widgets/SBoxPanel.h"
+
+namespace UMGBoxes
+{
+	/** The Slate box of a panel that is shown gets the panel's children anew. */
+	template<typename BoxType>
+	static void FillBox(BoxType& Box, const UPanelWidget& Panel)
+	{
+		Box.ClearChildren();
+		for (UWidget* Child : Panel.GetAllChildren())
+		{
+			Box.AddSlot()[Child->TakeWidget()];
+		}
+	}
+
+	template<typename BoxType>
+	static TSharedRef<SWidget> MakeBox(const UPanelWidget& Panel)
+	{
+		const TSharedRef<BoxType> Box = SNew(BoxType);
+		FillBox(*Box, Panel);
+		return Box;
+	}
+
+	template<typename BoxType>
+	static void Refresh(const TWeakPtr<SWidget>& Widget, const UPanelWidget& Panel)
+	{
+		if (const TSharedPtr<SWidget> Box = Widget.Pin())
+		{
+			FillBox(static_cast<BoxType&>(*Box), Panel);
+		}
+	}
+
+	static FOptionalSize SizeIf(bool bSet, float Value)
+	{
+		return bSet ? FOptionalSize(Value) : FOptionalSize();
+	}
+}
+
+TSharedRef<SWidget> UVerticalBox::RebuildWidget()
+{
+	return UMGBoxes::MakeBox<SVerticalBox>(*this);
+}
+
+void UVerticalBox::RefreshChildren()
+{
+	UMGBoxes::Refresh<SVerticalBox>(MyWidget, *this);
+}
+
+TSharedRef<SWidget> UHorizontalBox::RebuildWidget()
+{
+	return UMGBoxes::MakeBox<SHorizontalBox>(*this);
+}
+
+void UHorizontalBox::RefreshChildren()
+{
+	UMGBoxes::Refresh<SHorizontalBox>(MyWidget, *this);
+}
+
+TSharedRef<SWidget> UCanvasPanel::RebuildWidget()
+{
+	return UMGBoxes::MakeBox<SVerticalBox>(*this);
+}
+
+void UCanvasPanel::RefreshChildren()
+{
+	UMGBoxes::Refresh<SVerticalBox>(MyWidget, *this);
+}
+
+TSharedRef<SWidget> USizeBox::RebuildWidget()
+{
+	return SNew(SBox)[TakeContent()];
+}
+
+void USizeBox::RefreshChildren()
+{
+	if (const TSharedPtr<SBox> Box = GetBox())
+	{
+		Box->SetContent(TakeContent());
+	}
+}
+
+TSharedPtr<SBox> USizeBox::GetBox() const
+{
+	return StaticCastSharedPtr<SBox>(MyWidget.Pin());
+}
+
+void USizeBox::SynchronizeProperties()
+{
+	Super::SynchronizeProperties();
+	if (const TSharedPtr<SBox> Box = GetBox())
+	{
+		Box->SetWidthOverride(UMGBoxes::SizeIf(bOverride_WidthOverride, WidthOverride));
+		Box->SetHeightOverride(UMGBoxes::SizeIf(bOverride_HeightOverride, HeightOverride));
+		Box->SetMinDesiredWidth(UMGBoxes::SizeIf(bOverride_MinDesiredWidth, MinDesiredWidth));
+		Box->SetMinDesiredHeight(UMGBoxes::SizeIf(bOverride_MinDesiredHeight, MinDesiredHeight));
+	}
+}
+
+void USizeBox::SetWidthOverride(float InWidthOverride)
+{
+	bOverride_WidthOverride = true;
+	WidthOverride = InWidthOverride;
+	SynchronizeProperties();
+}
+
+void USizeBox::ClearWidthOverride()
+{
+	bOverride_WidthOverride = false;
+	SynchronizeProperties();
+}
+
+void USizeBox::SetHeightOverride(float InHeightOverride)
+{
+	bOverride_HeightOverride = true;
+	HeightOverride = InHeightOverride;
+	SynchronizeProperties();
+}
+
+void USizeBox::ClearHeightOverride()
+{
+	bOverride_HeightOverride = false;
+	SynchronizeProperties();
+}
+
+void USizeBox::SetMinDesiredWidth(float InMinDesiredWidth)
+{
+	bOverride_MinDesiredWidth = true;
+	MinDesiredWidth = InMinDesiredWidth;
+	SynchronizeProperties();
+}
+
+void USizeBox::ClearMinDesiredWidth()
+{
+	bOverride_MinDesiredWidth = false;
+	SynchronizeProperties();
+}
+
+void USizeBox::SetMinDesiredHeight(float InMinDesiredHeight)
+{
+	bOverride_MinDesiredHeight = true;
+	MinDesiredHeight = InMinDesiredHeight;
+	SynchronizeProperties();
+}
+
+void USizeBox::ClearMinDesiredHeight()
+{
+	bOverride_MinDesiredHeight = false;
+	SynchronizeProperties();
+}

@@ -1,0 +1,131 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include "CoreMinimal.h"
+#include "Misc/Optional.h"
+#include "UObject/StrongObjectPtr.h"
+
+class UClass;
+struct FLayoutValue;
+
+/** "ListCount", "Item.DisplayName", "UserName.Text": a parameter, a widget or the panel, and members from there on. */
+struct FLayoutPath
+{
+	TArray<FString> Parts; // never empty
+	bool bNot = false;     // the opposite, as a truth value
+
+	FString ToString() const { return FString::Join(Parts, TEXT(".")); }
+};
+
+/** A stretch of a text: as written, or what a path leads to. */
+struct FLayoutPiece
+{
+	FString Literal;
+	TOptional<FLayoutPath> Path;
+};
+
+/** Whether a value is true; with Is, whether it reads the same as that. */
+struct FLayoutCondition
+{
+	TSharedPtr<const FLayoutValue> Value;
+	TSharedPtr<const FLayoutValue> Is; // may be null
+};
+
+/** Something that is worked out when it is needed: a text with paths in it, a list of values, or one of two values. */
+struct FLayoutValue
+{
+	enum class EKind : uint8
+	{
+		Text,
+		List,
+		Choice,
+	};
+
+	EKind Kind = EKind::Text;
+	FString Pointer; // where it stands in the document
+
+	TArray<FLayoutPiece> Pieces;
+	TArray<TSharedRef<const FLayoutValue>> Elements;
+	FLayoutCondition If;
+	TSharedPtr<const FLayoutValue> Then;
+	TSharedPtr<const FLayoutValue> Else;
+
+	/** The path when the value is nothing but one, so that it can be passed on with its type. */
+	const FLayoutPath* GetSolePath() const
+	{
+		return Kind == EKind::Text && Pieces.Num() == 1 && Pieces[0].Path.IsSet() && !Pieces[0].Path.GetValue().bNot ? &Pieces[0].Path.GetValue() : nullptr;
+	}
+
+	/** Whether it is a text without paths. */
+	bool IsConstantText() const
+	{
+		return Kind == EKind::Text && !Pieces.ContainsByPredicate([](const FLayoutPiece& Piece) { return Piece.Path.IsSet(); });
+	}
+};
+
+/** A property of the panel or of a widget with the value to give it. */
+struct FLayoutAssignment
+{
+	FName Property;
+	TSharedPtr<const FLayoutValue> Value;
+};
+
+/** One step of what an event does. */
+struct FLayoutAction
+{
+	enum class EKind : uint8
+	{
+		Set,
+		Call,
+		CallParent,
+	};
+
+	EKind Kind = EKind::Set;
+	TOptional<FLayoutCondition> When;
+	FName Widget; // None: the panel itself
+	FName Member; // property or function
+
+	TSharedPtr<const FLayoutValue> To;      // Set
+	TArray<FLayoutAssignment> Arguments;    // Call
+	bool bPassArgumentsOn = false;          // Call: those of the event, by position
+};
+
+struct FLayoutWidget
+{
+	UClass* Class = nullptr;
+	FName Name; // None: the widget cannot be named by anybody
+	FString Pointer;
+	TArray<FLayoutAssignment> Properties;
+	TArray<FLayoutWidget> Children;
+};
+
+/** What happens when a widget (None: the panel itself) raises an event. */
+struct FLayoutCall
+{
+	FName Widget;
+	FName Event;
+	TArray<FLayoutAction> Actions;
+
+	FName GetListenerName() const
+	{
+		return FName(*FString::Printf(TEXT("BndEvt__%s_%s"), Widget.IsNone() ? TEXT("self") : *Widget.ToString(), *Event.ToString()));
+	}
+};
+
+struct FLayoutEvent
+{
+	FName Name;
+	TArray<FLayoutAction> Actions;
+};
+
+/** A layout that was read and found sound. */
+struct FWidgetLayout
+{
+	UClass* ParentClass = nullptr;
+	TArray<FLayoutAssignment> Properties; // of the panel
+	FLayoutWidget Tree;
+	TArray<FLayoutEvent> Events;
+	TArray<FLayoutCall> Calls;
+	TArray<TStrongObjectPtr<UClass>> UsedClasses; // those of widget blueprints would go otherwise
+};

@@ -1,0 +1,223 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "Layout/LayoutReader.h"
+
+#include "Blueprint/UserWidget.h"
+#include "HostObjects.h"
+#include "Layout/LayoutValues.h"
+#include "UObject/Package.h"
+
+namespace LayoutReader
+{
+	using FJson = FLayoutReader::FJson;
+
+	static FString ToString(const std::string& Utf8)
+	{
+		return FString(UTF8_TO_TCHAR(Utf8.c_str()));
+	}
+
+	static const FJson* Find(const FJson& Object, const char* Key)
+	{
+		const auto Found = Object.find(Key);
+		return Found != Object.end() ? &*Found : nullptr;
+	}
+
+	/** "Widget.Event" or "Event" of the panel, which is None. */
+	static void SplitTarget(const FString& Text, FName& OutWidget, FName& OutMember)
+	{
+		FString Widget;
+		FString Member;
+		if (!Text.Split(TEXT("."), &Widget, &Member))
+		{
+			Member = Text;
+		}
+		OutWidget = Widget == TEXT("self") ? FName() : FName(*Widget);
+		OutMember = FName(*Member);
+	}
+}
+
+FString LayoutPointer::Child(const FString& Pointer, const std::string& Key)
+{
+	FString Escaped = LayoutReader::ToString(Key).Replace(TEXT("~"), TEXT("~0")).Replace(TEXT("/"), TEXT("~1"));
+	return Pointer + TEXT("/") + Escaped;
+}
+
+FString LayoutPointer::Child(const FString& Pointer, std::size_t Index)
+{
+	return Pointer + TEXT("/") + FString::FromInt(static_cast<int32>(Index));
+}
+
+void FLayoutReader::Complain(const FString& Pointer, const FString& Message, const FString& Remedy)
+{
+	Problems.Add({Pointer.IsEmpty() ? FString(TEXT("/")) : Pointer, Message, Remedy});
+}
+
+bool FLayoutReader::CheckKeys(const FJson& Json, const FString& Pointer, std::initializer_list<const char*> Known)
+{
+	bool bSound = true;
+	for (const auto& Member : Json.items())
+	{
+		const bool bKnown = std::find_if(Known.begin(), Known.end(), [&Member](const char* Key) { return Member.key() == Key; }) != Known.end();
+		if (!bKnown)
+		{
+			TArray<FString> Names;
+			for (const char* Key : Known)
+			{
+				Names.Add(FString(Key));
+			}
+			Complain(LayoutPointer::Child(Pointer, Member.key()), TEXT("this member is not known here"),
+				FString::Printf(TEXT("Known ones are %s."), *FString::Join(Names, TEXT(", "))));
+			bSound = false;
+		}
+	}
+	return bSound;
+}
+
+TOptional<FString> FLayoutReader::ReadString(const FJson& Json, const char* Key, const FString& Pointer)
+{
+	const FJson* Value = LayoutReader::Find(Json, Key);
+	if (!Value || !Value->is_string())
+	{
+		Complain(Value ? LayoutPointer::Child(Pointer, std::string(Key)) : Pointer, FString::Printf(TEXT("a text '%s' is needed"), *FString(Key)));
+		return {};
+	}
+	return LayoutReader::ToString(Value->get<std::string>());
+}
+
+TSharedPtr<FWidgetLayout> FLayoutReader::Read(const FString& Text)
+{
+	FJson Document;
+	try
+	{
+		Document = FJson::parse(TCHAR_TO_UTF8(*Text));
+	}
+	catch (const FJson::parse_error& Error)
+	{
+		Complain(FString(), FString::Printf(TEXT("this is not JSON: %s"), *LayoutReader::ToString(Error.what())));
+		return nullptr;
+	}
+	if (!Document.is_object())
+	{
+		Complain(FString(), TEXT("a layout is a JSON object"));
+		return nullptr;
+	}
+	Layout = MakeShared<FWidgetLayout>();
+	CheckKeys(Document, FString(), {"Class", "Comment", "ParentClass", "Properties", "Tree", "Events", "Calls"});
+	if (!ReadParentClass(Document))
+	{
+		return nullptr;
+	}
+	ReadTree(Document);
+	if (Problems.Num() == 0)
+	{
+		// With a broken tree, every name in it would be complained about once more.
+		CheckBindings();
+		CheckAssignments(Layout->Properties, *Layout->ParentClass);
+		CheckWidgetValues(Layout->Tree);
+		ReadEvents(Document);
+		ReadCalls(Document);
+	}
+	return Problems.Num() == 0 ? Layout : nullptr;
+}
+
+bool FLayoutReader::ReadParentClass(const FJson& Document)
+{
+	const TOptional<FString> Path = ReadString(Document, "ParentClass", FString());
+	FString Reason;
+	UClass* Class = Path.IsSet() ? HostWidgetLayout::FindClass(Path.GetValue(), Reason) : nullptr;
+	if (!Class)
+	{
+		if (Path.IsSet())
+		{
+			Complain(TEXT("/ParentClass"), Reason);
+		}
+		return false;
+	}
+	if (!Class->IsChildOf<UUserWidget>() || !Class->HasAnyClassFlags(CLASS_Native))
+	{
+		Complain(TEXT("/ParentClass"), FString::Printf(TEXT("%s is not a native user widget"), *Class->GetName()), TEXT("Name a C++ class that derives from UUserWidget."));
+		return false;
+	}
+	Layout->ParentClass = Class;
+	Layout->UsedClasses.Add(TStrongObjectPtr<UClass>(Class));
+	Types.PanelClass = Class;
+	Scratch = HostObjects::DeriveClass(Class, MakeUniqueObjectName(GetTransientPackage(), UClass::StaticClass(), FName(TEXT("LayoutCheck"))), GetTransientPackage());
+	return true;
+}
+
+void FLayoutReader::ReadTree(const FJson& Document)
+{
+	if (const FJson* Properties = LayoutReader::Find(Document, "Properties"))
+	{
+		ReadAssignments(*Properties, TEXT("/Properties"), Layout->Properties);
+	}
+	const FJson* Tree = LayoutReader::Find(Document, "Tree");
+	if (!Tree)
+	{
+		Complain(FString(), TEXT("the layout has no 'Tree'"));
+		return;
+	}
+	ReadWidget(*Tree, TEXT("/Tree"), Layout->Tree);
+}
+
+void FLayoutReader::ReadEvents(const FJson& Document)
+{
+	const FJson* Events = LayoutReader::Find(Document, "Events");
+	if (!Events)
+	{
+		return;
+	}
+	if (!Events->is_object())
+	{
+		Complain(TEXT("/Events"), TEXT("events are a JSON object: from the name of an event to a list of actions"));
+		return;
+	}
+	for (const auto& Member : Events->items())
+	{
+		const FString Pointer = LayoutPointer::Child(TEXT("/Events"), Member.key());
+		const FName Name(*LayoutReader::ToString(Member.key()));
+		UFunction* Function = Layout->ParentClass->FindFunctionByName(Name);
+		if (!Function || !Function->HasAnyFunctionFlags(FUNC_BlueprintEvent))
+		{
+			Complain(Pointer, FString::Printf(TEXT("panel %s has no event '%s'"), *Layout->ParentClass->GetName(), *Name.ToString()),
+				Function ? TEXT("It is a function of the panel, which cannot be answered here.") : TEXT(""));
+			continue;
+		}
+		Layout->Events.Add({Name, ReadActions(Member.value(), Pointer, *Function, true)});
+	}
+}
+
+void FLayoutReader::ReadCalls(const FJson& Document)
+{
+	const FJson* Calls = LayoutReader::Find(Document, "Calls");
+	if (!Calls)
+	{
+		return;
+	}
+	if (!Calls->is_object())
+	{
+		Complain(TEXT("/Calls"), TEXT("calls are a JSON object: from 'Widget.Event' to a list of actions"));
+		return;
+	}
+	for (const auto& Member : Calls->items())
+	{
+		const FString Pointer = LayoutPointer::Child(TEXT("/Calls"), Member.key());
+		FLayoutCall Call;
+		LayoutReader::SplitTarget(LayoutReader::ToString(Member.key()), Call.Widget, Call.Event);
+		UClass* Class = Types.FindTarget(Call.Widget);
+		if (!Class)
+		{
+			Complain(Pointer, FString::Printf(TEXT("the layout has no widget '%s'"), *Call.Widget.ToString()));
+			continue;
+		}
+		const FMulticastDelegateProperty* Event = FindFProperty<FMulticastDelegateProperty>(Class, Call.Event);
+		UFunction* Listener = Event ? HostObjects::AddScriptListener(Scratch, Call.GetListenerName(), *Event, nullptr) : nullptr;
+		if (!Listener)
+		{
+			Complain(Pointer, FString::Printf(TEXT("%s raises no event '%s'"), *Class->GetName(), *Call.Event.ToString()));
+			continue;
+		}
+		Call.Actions = ReadActions(Member.value(), Pointer, *Listener, false);
+		Layout->Calls.Add(MoveTemp(Call));
+	}
+}

@@ -1,0 +1,77 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include "HostWidgetLayout.h"
+#include "Layout/LayoutTypes.h"
+
+#include <initializer_list>
+#include <string>
+
+#include <nlohmann/json.hpp>
+
+/** Reads one layout document. Goes on after a problem, so that one reading tells all of them. */
+class FLayoutReader
+{
+public:
+	using FJson = nlohmann::ordered_json;
+
+	explicit FLayoutReader(TArray<HostWidgetLayout::FProblem>& InProblems) : Problems(InProblems) {}
+
+	/** Null when there were problems. */
+	TSharedPtr<FWidgetLayout> Read(const FString& Text);
+
+private:
+	//~ The document
+	bool ReadParentClass(const FJson& Document);
+	void ReadTree(const FJson& Document);
+	void CheckBindings();
+	void ReadEvents(const FJson& Document);
+	void ReadCalls(const FJson& Document);
+
+	//~ Widgets
+	bool ReadWidget(const FJson& Json, const FString& Pointer, FLayoutWidget& OutWidget);
+	UClass* ReadWidgetClass(const FJson& Json, const FString& Pointer);
+	void ReadWidgetName(const FJson& Json, const FString& Pointer, FLayoutWidget& OutWidget);
+	void ReadChildren(const FJson& Json, const FString& Pointer, FLayoutWidget& OutWidget);
+	/** Values are checked once all widgets are known. */
+	void ReadAssignments(const FJson& Json, const FString& Pointer, TArray<FLayoutAssignment>& OutAssignments);
+	void CheckAssignments(const TArray<FLayoutAssignment>& Assignments, UClass& Class);
+	void CheckWidgetValues(const FLayoutWidget& Widget);
+
+	//~ Actions
+	TArray<FLayoutAction> ReadActions(const FJson& Json, const FString& Pointer, const UFunction& Event, bool bCanCallParent);
+	bool ReadAction(const FJson& Json, const FString& Pointer, bool bCanCallParent, FLayoutAction& OutAction);
+	bool ReadSet(const FJson& Json, const FString& Pointer, FLayoutAction& OutAction);
+	bool ReadCall(const FJson& Json, const FString& Pointer, FLayoutAction& OutAction);
+	bool ReadArguments(const FJson& Json, const FString& Pointer, UFunction& Function, FLayoutAction& OutAction);
+	/** "Widget.Member", or "Member" of the panel. Null when there is no such widget. */
+	UClass* ReadTarget(const FJson& Json, const FString& Pointer, FLayoutAction& OutAction);
+
+	//~ Values
+	TSharedPtr<FLayoutValue> ReadValue(const FJson& Json, const FString& Pointer);
+	bool ReadText(const FString& Text, FLayoutValue& OutValue);
+	bool ReadChoice(const FJson& Json, FLayoutValue& OutValue);
+	bool ReadList(const FJson& Json, FLayoutValue& OutValue);
+	bool ReadCondition(const FJson& Json, const FString& Pointer, FLayoutCondition& OutCondition);
+	void CheckValue(const FLayoutValue& Value, const FProperty* Property);
+	void CheckCondition(const FLayoutCondition& Condition);
+
+	//~ Complaints
+	void Complain(const FString& Pointer, const FString& Message, const FString& Remedy = FString());
+	bool CheckKeys(const FJson& Json, const FString& Pointer, std::initializer_list<const char*> Known);
+	/** The string member of an object; unset when it is missing or no string, which is a problem. */
+	TOptional<FString> ReadString(const FJson& Json, const char* Key, const FString& Pointer);
+
+	TArray<HostWidgetLayout::FProblem>& Problems;
+	TSharedPtr<FWidgetLayout> Layout;
+	FLayoutTypes Types;
+	UClass* Scratch = nullptr; // derived from the parent class, to try events out on
+};
+
+/** JSON pointers: "/Tree/Children/2". */
+namespace LayoutPointer
+{
+	FString Child(const FString& Pointer, const std::string& Key);
+	FString Child(const FString& Pointer, std::size_t Index);
+}

@@ -1,0 +1,90 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include "Components/ListViewBase.h"
+
+#include "ListView.generated.h"
+
+class ITableRow;
+class STableViewBase;
+template<typename ItemType>
+class SListView;
+
+DECLARE_DYNAMIC_MULTICAST_DELEGATE_OneParam(FSimpleListItemEventDynamic, UObject*, Item);
+
+/** A list of objects. */
+UCLASS()
+class UMG_API UListView : public UListViewBase
+{
+	GENERATED_BODY()
+
+public:
+	DECLARE_MULTICAST_DELEGATE_OneParam(FSimpleListItemEvent, UObject*);
+	DECLARE_MULTICAST_DELEGATE_OneParam(FOnItemSelectionChanged, UObject*);
+
+	UFUNCTION(BlueprintCallable, Category = "ListView")
+	void AddItem(UObject* Item);
+
+	UFUNCTION(BlueprintCallable, Category = "ListView")
+	void RemoveItem(UObject* Item);
+
+	UFUNCTION(BlueprintCallable, Category = "ListView")
+	void ClearListItems();
+
+	/** All items, whether they show or not. */
+	UFUNCTION(BlueprintCallable, Category = "ListView")
+	int32 GetNumItems() const { return ListItems.Num(); }
+
+	/** Null for an index that is none. */
+	UFUNCTION(BlueprintCallable, Category = "ListView")
+	UObject* GetItemAt(int32 Index) const { return ListItems.IsValidIndex(Index) ? ListItems[Index] : nullptr; }
+
+	const TArray<UObject*>& GetListItems() const { return ListItems; }
+
+	/** Replaces all items; a selected one that is not among the new ones is deselected. Takes arrays of raw and of object pointers. */
+	template<typename ItemObjectT>
+	void SetListItems(const TArray<ItemObjectT>& InListItems)
+	{
+		ListItems.Empty();
+		for (const ItemObjectT& Item : InListItems)
+		{
+			if (Item != nullptr)
+			{
+				ListItems.Add(Item);
+			}
+		}
+		OnItemsChanged();
+	}
+
+	/** Null clears the selection. */
+	void SetSelectedItem(const UObject* Item);
+	UObject* GetSelectedItem() const;
+
+	virtual void RegenerateAllEntries() override;
+	virtual void RequestRefresh() override;
+
+	virtual FSimpleListItemEvent& OnItemClicked() const { return OnItemClickedEvent; }
+	virtual FOnItemSelectionChanged& OnItemSelectionChanged() const { return OnItemSelectionChangedEvent; }
+
+protected:
+	virtual TSharedRef<SWidget> RebuildWidget() override;
+	virtual void OnItemsChanged();
+
+	TSharedRef<ITableRow> HandleGenerateRow(UObject* Item, const TSharedRef<STableViewBase>& OwnerTable);
+	void HandleItemClicked(UObject* Item);
+	void HandleSelectionChanged(UObject* Item, ESelectInfo::Type SelectInfo);
+
+private:
+	TSharedPtr<SListView<UObject*>> GetList() const;
+	TSharedRef<SWidget> MakeEntry(UObject* Item);
+
+	UPROPERTY(Transient)
+	TArray<UObject*> ListItems;
+
+	UPROPERTY(BlueprintAssignable, Category = "Events", meta = (DisplayName = "On Item Clicked", AllowPrivateAccess = "true"))
+	FSimpleListItemEventDynamic BP_OnItemClicked;
+
+	mutable FSimpleListItemEvent OnItemClickedEvent;
+	mutable FOnItemSelectionChanged OnItemSelectionChangedEvent;
+};
