@@ -1,0 +1,21 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include "CoreMinimal.h"
+
+class UAssetDefinition;
+class UClass;
+
+/** The asset definitions of the loaded modules. */
+namespace HostAssetDefinitions
+{
+	/** The default objects of all asset definition classes that are not abstract, ordered by class path. */
+	TArray<const UAssetDefinition*> GetAll();
+
+	/** The definition of the class itself, else of its nearest parent that has one; null without any. */
+	const UAssetDefinition* FindForClass(const UClass* AssetClass);
+
+	/** The definition of exactly this class; null without one. */
+	const UAssetDefinition* FindExact(const UClass* AssetClass);
+}

@@ -1,0 +1,46 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include "AssetTypeCategories.h"
+#include "CoreMinimal.h"
+#include "Templates/Function.h"
+
+class UClass;
+class UFactory;
+class UObject;
+
+/** Looks into the asset tools of the running editor, and the seams to modules above them. */
+namespace HostAssetTools
+{
+	/** A category registered at run time. */
+	struct FAdvancedCategory
+	{
+		FName Key;
+		FText DisplayName;
+		EAssetTypeCategories::Type Bit;
+	};
+
+	/** In order of registration. */
+	TArray<FAdvancedCategory> GetAdvancedCategories();
+
+	/** One line of the menu of new assets. */
+	struct FNewAssetItem
+	{
+		FText DisplayName;
+		FText Category;    // what the menu shows
+		FText SubCategory; // empty without one
+		FLinearColor Color;
+		UClass* AssetClass;     // what the factory supports
+		UFactory* DefaultFactory; // the default object; make a new one to create with
+	};
+
+	/** All kinds of asset that a user can make: one per factory and category, ordered by category, sub-category and name. */
+	TArray<FNewAssetItem> GetNewAssetMenu();
+
+	/** Makes an asset as a pick from that menu does: with a new factory of the item's class, asking for name and folder. */
+	UObject* CreateFromMenu(const FNewAssetItem& Item);
+
+	/** Who shows a new asset to the user; the content browser sets this when it starts up. Holds until the editor goes down. */
+	void SetAssetShower(TFunction<void(const TArray<UObject*>&)> InShower);
+}

@@ -1,0 +1,91 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "AssetDefinition.h"
+#include "AssetToolsImpl.h"
+#include "AssetToolsModule.h"
+#include "Factories/Factory.h"
+#include "HostAssetDefinitions.h"
+#include "HostAssetTools.h"
+#include "IAssetTypeActions.h"
+#include "UObject/Class.h"
+#include "UObject/Package.h"
+#include "UObject/UObjectHash.h"
+
+namespace NewAssetMenu
+{
+	const FAssetToolsImpl& GetTools()
+	{
+		return static_cast<const FAssetToolsImpl&>(IAssetTools::Get());
+	}
+
+	TArray<UFactory*> GetFactories()
+	{
+		TArray<UClass*> Classes;
+		GetDerivedClasses(UFactory::StaticClass(), Classes, true);
+		TArray<UFactory*> Factories;
+		for (const UClass* Class : Classes)
+		{
+			UFactory* Factory = Class->HasAnyClassFlags(CLASS_Abstract) ? nullptr : Class->GetDefaultObject<UFactory>();
+			if (Factory != nullptr && Factory->ShouldShowInNewMenu() && Factory->GetSupportedClass() != nullptr)
+			{
+				Factories.Add(Factory);
+			}
+		}
+		return Factories;
+	}
+
+	/** A definition of the class wins over type actions, these over what the factory says of itself. */
+	void AddItems(UFactory* Factory, TArray<HostAssetTools::FNewAssetItem>& Items)
+	{
+		UClass* AssetClass = Factory->GetSupportedClass();
+		if (const UAssetDefinition* Definition = HostAssetDefinitions::FindExact(AssetClass))
+		{
+			for (const FAssetCategoryPath& Category : Definition->GetAssetCategories())
+			{
+				Items.Add({Definition->GetAssetDisplayName(), Category.GetCategoryText(), Category.GetSubCategoryText(), Definition->GetAssetColor(),
+					AssetClass, Factory});
+			}
+			return;
+		}
+		const TSharedPtr<IAssetTypeActions> Actions = GetTools().GetAssetTypeActionsForClass(AssetClass).Pin();
+		const bool bOwnActions = Actions.IsValid() && Actions->GetSupportedClass() == AssetClass;
+		const uint32 Mask = bOwnActions ? Actions->GetCategories() : uint32(EAssetTypeCategories::Misc);
+		for (const FText& Category : GetTools().GetCategories().GetDisplayNames(Mask))
+		{
+			Items.Add({bOwnActions ? Actions->GetName() : Factory->GetDisplayName(), Category, FText::GetEmpty(),
+				bOwnActions ? FLinearColor(Actions->GetTypeColor()) : FLinearColor::White, AssetClass, Factory});
+		}
+	}
+
+	FString SortKey(const HostAssetTools::FNewAssetItem& Item)
+	{
+		const FString Separator(TEXT("\n")); // below every character of a name
+		return (Item.Category.ToString() + Separator + Item.SubCategory.ToString() + Separator + Item.DisplayName.ToString() + Separator +
+				Item.DefaultFactory->GetClass()->GetName())
+			.ToLower();
+	}
+}
+
+TArray<HostAssetTools::FAdvancedCategory> HostAssetTools::GetAdvancedCategories()
+{
+	return NewAssetMenu::GetTools().GetCategories().GetAll();
+}
+
+TArray<HostAssetTools::FNewAssetItem> HostAssetTools::GetNewAssetMenu()
+{
+	TArray<FNewAssetItem> Items;
+	for (UFactory* Factory : NewAssetMenu::GetFactories())
+	{
+		NewAssetMenu::AddItems(Factory, Items);
+	}
+	Items.Sort([](const FNewAssetItem& Left, const FNewAssetItem& Right) {
+		return NewAssetMenu::SortKey(Left).Compare(NewAssetMenu::SortKey(Right)) < 0;
+	});
+	return Items;
+}
+
+UObject* HostAssetTools::CreateFromMenu(const FNewAssetItem& Item)
+{
+	UFactory* Factory = NewObject<UFactory>(GetTransientPackage(), Item.DefaultFactory->GetClass());
+	return IAssetTools::Get().CreateAssetWithDialog(Item.AssetClass, Factory);
+}

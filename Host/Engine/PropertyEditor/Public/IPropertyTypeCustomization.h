@@ -1,0 +1,27 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include "CoreMinimal.h"
+#include "Templates/SharedPointer.h"
+
+class FDetailWidgetRow;
+class IDetailChildrenBuilder;
+class IPropertyHandle;
+class IPropertyTypeCustomizationUtils;
+
+/** Shows the values of one property type in its own way. One instance per property that is shown. */
+class IPropertyTypeCustomization : public TSharedFromThis<IPropertyTypeCustomization>
+{
+public:
+	virtual ~IPropertyTypeCustomization() = default;
+
+	/** Fills the row of the property itself; a row left empty is not shown. */
+	virtual void CustomizeHeader(TSharedRef<IPropertyHandle> PropertyHandle, FDetailWidgetRow& HeaderRow, IPropertyTypeCustomizationUtils& CustomizationUtils) = 0;
+
+	/** Adds the rows below it. */
+	virtual void CustomizeChildren(TSharedRef<IPropertyHandle> PropertyHandle, IDetailChildrenBuilder& ChildBuilder, IPropertyTypeCustomizationUtils& CustomizationUtils) = 0;
+
+	/** Whether a map's key of this type stands in the row of its value. */
+	virtual bool ShouldInlineKey() const { return false; }
+};

@@ -1,0 +1,112 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "Editor/EditorEngine.h"
+
+#include "Editor.h"
+#include "EditorViewports.h"
+#include "Engine/World.h"
+#include "GameFramework/Actor.h"
+#include "HostState.h"
+#include "Selection.h"
+
+namespace EditorEngine
+{
+	THostState<FEditorViewports> Viewports;
+}
+
+void UEditorEngine::Init(IEngineLoop* InEngineLoop)
+{
+	EditorWorldContext.WorldType = EWorldType::Editor;
+	SelectedActors = NewObject<USelection>(this, TEXT("SelectedActors"));
+	EditorWorldContext.SetCurrentWorld(UWorld::CreateWorld(EWorldType::Editor, true));
+	Super::Init(InEngineLoop);
+	EditorSubsystemCollection = MakeUnique<FObjectSubsystemCollection<UEditorSubsystem>>();
+	EditorSubsystemCollection->Initialize(this);
+}
+
+void UEditorEngine::PreExit()
+{
+	if (EditorSubsystemCollection)
+	{
+		EditorSubsystemCollection->Deinitialize();
+		EditorSubsystemCollection.Reset();
+	}
+	Super::PreExit();
+}
+
+FWorldContext& UEditorEngine::GetEditorWorldContext(bool)
+{
+	return EditorWorldContext;
+}
+
+void UEditorEngine::SelectNone(bool bNoteSelectionChange, bool, bool)
+{
+	SelectedActors->DeselectAll();
+	if (bNoteSelectionChange)
+	{
+		NoteSelectionChange();
+	}
+}
+
+void UEditorEngine::SelectActor(AActor* Actor, bool bInSelected, bool bNotify, bool bSelectEvenIfHidden, bool bForceRefresh)
+{
+	if (Actor == nullptr || (bInSelected && Actor->IsHidden() && !bSelectEvenIfHidden))
+	{
+		return;
+	}
+	const bool bChanges = SelectedActors->IsSelected(Actor) != bInSelected;
+	if (bChanges && bInSelected)
+	{
+		SelectedActors->Select(Actor);
+	}
+	else if (bChanges)
+	{
+		SelectedActors->Deselect(Actor);
+	}
+	if (bNotify && (bChanges || bForceRefresh))
+	{
+		NoteSelectionChange();
+	}
+}
+
+void UEditorEngine::NoteSelectionChange(bool bNotify)
+{
+	if (bNotify)
+	{
+		SelectedActors->NoteSelectionChanged();
+	}
+}
+
+int32 UEditorEngine::GetSelectedActorCount() const
+{
+	return SelectedActors->Num();
+}
+
+void UEditorEngine::MoveViewportCamerasToActor(AActor& Actor, bool bActiveViewportOnly)
+{
+	const TArray<AActor*> Actors = {&Actor};
+	MoveViewportCamerasToActor(Actors, bActiveViewportOnly);
+}
+
+void UEditorEngine::MoveViewportCamerasToActor(const TArray<AActor*>& Actors, bool bActiveViewportOnly)
+{
+	FVector Sum = FVector::ZeroVector;
+	TArray<FString> Labels;
+	for (const AActor* Actor : Actors)
+	{
+		if (IsValid(Actor))
+		{
+			Sum = Sum + Actor->GetActorLocation();
+			Labels.Add(Actor->GetActorLabel());
+		}
+	}
+	if (!Labels.IsEmpty())
+	{
+		EditorEngine::Viewports.Get().LookAt(Sum * (1.0 / Labels.Num()), Labels, bActiveViewportOnly);
+	}
+}
+
+const TArray<HostEditor::FViewport>& HostEditor::GetViewports()
+{
+	return EditorEngine::Viewports.Get().Get();
+}

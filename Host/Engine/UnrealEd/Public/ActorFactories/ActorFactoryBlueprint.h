@@ -1,0 +1,14 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include "ActorFactories/ActorFactory.h"
+#include "CoreMinimal.h"
+#include "ActorFactoryBlueprint.generated.h"
+
+/** For actors whose class is a Blueprint. */
+UCLASS()
+class UNREALED_API UActorFactoryBlueprint : public UActorFactory
+{
+	GENERATED_BODY()
+};

@@ -1,0 +1,39 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "Variant.h"
+
+#include "VariantList.h"
+#include "VariantSet.h"
+
+#define LOCTEXT_NAMESPACE "VariantManagerContent"
+
+UVariant::UVariant(const FObjectInitializer& ObjectInitializer)
+	: Super(ObjectInitializer)
+	, DisplayText(LOCTEXT("DefaultVariantText", "Variant"))
+{
+}
+
+UVariantSet* UVariant::GetParent()
+{
+	return Cast<UVariantSet>(GetOuter());
+}
+
+void UVariant::SetDisplayText(const FText& NewDisplayText)
+{
+	Modify();
+	DisplayText = NewDisplayText;
+	if (UVariantSet* Parent = GetParent())
+	{
+		Parent->List->NoteTextChanged(*this);
+	}
+}
+
+void VariantList::LeaveParent(UVariant& Variant)
+{
+	if (UVariantSet* Parent = Variant.GetParent())
+	{
+		Parent->RemoveVariants({&Variant});
+	}
+}
+
+#undef LOCTEXT_NAMESPACE

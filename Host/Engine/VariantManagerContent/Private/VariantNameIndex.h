@@ -1,0 +1,45 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include "CoreMinimal.h"
+
+class UObject;
+
+/**
+ * Finds the elements of a list by text and by address without walking over the list.
+ * Texts that differ only in case are the same text; of equal ones the first in the list is found.
+ */
+class FVariantNameIndex
+{
+public:
+	void Reset();
+
+	int32 Num() const { return Entries.Num(); }
+
+	/** For the element that was put behind all others. */
+	void Append(const UObject* Element, const FString& Text);
+
+	/** For an element whose text has changed. One that is not here is ignored. */
+	void ChangeText(const UObject* Element, const FString& NewText);
+
+	/** Position in the list; -1 when no element has the text. */
+	int32 FindText(const FString& Text) const;
+
+	/** Position in the list; -1 when it is not in it. */
+	int32 FindElement(const UObject* Element) const;
+
+	/** Prefix when that is free, otherwise with a blank and the lowest free number from 1 on behind it. */
+	FString MakeUniqueText(const FString& Prefix);
+
+private:
+	struct FEntry
+	{
+		FString Text;
+		int32 Position;
+	};
+
+	TMap<const UObject*, FEntry> Entries;
+	TMap<FString, TArray<int32>> Positions; // of the elements with that text, ascending; never empty
+	TMap<FString, int32> LowestNumbers;     // by prefix: no lower number is free
+};
