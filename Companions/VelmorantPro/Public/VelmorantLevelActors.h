@@ -1,0 +1,42 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include "CoreMinimal.h"
+#include "GameFramework/Actor.h"
+#include "VelmorantLevelActors.generated.h"
+
+/** Level-wide settings of the model. */
+UCLASS(Blueprintable)
+class VELMORANTPRO_API AVelmorantLevelConfiguration : public AActor
+{
+	GENERATED_BODY()
+};
+
+/** Looks after all unit volumes of the level. */
+UCLASS(Blueprintable)
+class VELMORANTPRO_API AUnitVolumesManager : public AActor
+{
+	GENERATED_BODY()
+};
+
+/** A place in the model that a visitor can click. */
+UCLASS(Blueprintable)
+class VELMORANTPRO_API AVlmInteractiveSpot : public AActor
+{
+	GENERATED_BODY()
+};
+
+/** Cuts the building open along a plane. */
+UCLASS(Blueprintable)
+class VELMORANTPRO_API ACuttingSectionScene : public AActor
+{
+	GENERATED_BODY()
+};
+
+/** Marks one floor for the minimap's pictures. */
+UCLASS(Blueprintable)
+class VELMORANTPRO_API AMinimapFloorAnchor : public AActor
+{
+	GENERATED_BODY()
+};

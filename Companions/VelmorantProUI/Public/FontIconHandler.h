@@ -1,0 +1,29 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include "CoreMinimal.h"
+#include "UObject/Object.h"
+#include "VelmorantColorHandler.h"
+#include "FontIconHandler.generated.h"
+
+/** An icon of an icon font: which font, which of its styles, which icon, in what colour. */
+USTRUCT(BlueprintType)
+struct VELMORANTPROUI_API FFontIconHandler
+{
+	GENERATED_BODY()
+
+	/** The icon font's ID. */
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Velmorant|Icon")
+	FName FontIconName;
+
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Velmorant|Icon")
+	FName IconStyle;
+
+	/** The icon's row in the font's icon table. */
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Velmorant|Icon")
+	FName IconName;
+
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Velmorant|Icon")
+	FVelmorantColorHandler IconColor;
+};

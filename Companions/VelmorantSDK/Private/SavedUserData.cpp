@@ -1,0 +1,61 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "SavedUserData.h"
+
+#include "HAL/FileManager.h"
+#include "HAL/PlatformProcess.h"
+#include "Misc/FileHelper.h"
+#include "Misc/Paths.h"
+#include "PrivateFile.h"
+#include "VelmorantSDKLog.h"
+#include "VelmorantSDKTypes.h"
+
+#include <nlohmann/json.hpp>
+
+namespace SavedUserData
+{
+	FString GetPath()
+	{
+		return FPaths::Combine(FPlatformProcess::UserSettingsDir(), TEXT("VelmorantUser.json"));
+	}
+}
+
+bool SavedUserData::Load(FVelmorantUserInformation& OutUserInformation)
+{
+	FString Text;
+	if (!FPaths::FileExists(GetPath()) || !FFileHelper::LoadFileToString(Text, *GetPath()))
+	{
+		return false;
+	}
+
+	const nlohmann::json Document = nlohmann::json::parse(TCHAR_TO_UTF8(*Text), nullptr, false);
+	const bool bComplete = Document.is_object() && Document.contains("userName") && Document["userName"].is_string() && Document.contains("password") && Document["password"].is_string();
+	if (!bComplete)
+	{
+		UE_LOG(LogVelmorantSDK, Warning, TEXT("%s is damaged and is not used; sign in again to replace it."), *GetPath());
+		return false;
+	}
+
+	OutUserInformation.bRememberMe = true;
+	OutUserInformation.UserName = UTF8_TO_TCHAR(Document["userName"].get<std::string>().c_str());
+	OutUserInformation.Password = UTF8_TO_TCHAR(Document["password"].get<std::string>().c_str());
+	return true;
+}
+
+void SavedUserData::Save(const FVelmorantUserInformation& UserInformation)
+{
+	nlohmann::json Document;
+	Document["userName"] = TCHAR_TO_UTF8(*UserInformation.UserName);
+	Document["password"] = TCHAR_TO_UTF8(*UserInformation.Password);
+
+	FString Error;
+	if (!PrivateFile::Write(GetPath(), Document.dump(), Error))
+	{
+		UE_LOG(LogVelmorantSDK, Error, TEXT("The user could not be remembered in %s: %s"), *GetPath(), *Error);
+	}
+}
+
+void SavedUserData::Forget()
+{
+	IFileManager::Get().Delete(*GetPath(), false, false, true);
+}

@@ -1,0 +1,62 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "VelmorantUser.h"
+
+#include "IVelmorantService.h"
+#include "Misc/App.h"
+#include "VelmorantProjectRequestManager.h"
+#include "VelmorantSDKEngineSubsystem.h"
+
+void UVelmorantUser::PostInitProperties()
+{
+	Super::PostInitProperties();
+	if (!HasAnyFlags(RF_ClassDefaultObject))
+	{
+		ProjectRequestManager = NewObject<UVelmorantProjectRequestManager>(this);
+	}
+}
+
+UVelmorantProjectRequestManager* UVelmorantUser::GetProjectRequestManager() const
+{
+	return ProjectRequestManager;
+}
+
+void UVelmorantUser::RequestUserLogin(const FVelmorantUserInformation& InUserInformation)
+{
+	UserInformation = InUserInformation;
+	UVelmorantSDKEngineSubsystem::Get()->GetService().RequestLogin(UserInformation, [WeakThis = TWeakObjectPtr<UVelmorantUser>(this)](const FVelmorantLoginAnswer& Answer)
+	{
+		if (UVelmorantUser* This = WeakThis.Get())
+		{
+			This->ReceiveLoginAnswer(Answer);
+		}
+	});
+}
+
+void UVelmorantUser::RequestUserLogout()
+{
+	if (!Token.IsEmpty())
+	{
+		UVelmorantSDKEngineSubsystem::Get()->GetService().RequestLogout(Token);
+	}
+	Token.Empty();
+	LoginInfo = FLoginInfo();
+}
+
+bool UVelmorantUser::HasValidToken() const
+{
+	return !Token.IsEmpty() && FApp::GetCurrentTime() < TokenExpiry;
+}
+
+void UVelmorantUser::ReceiveLoginAnswer(const FVelmorantLoginAnswer& Answer)
+{
+	// A failed login signs nobody in, but nobody out either.
+	if (Answer.bSuccess)
+	{
+		LoginInfo = Answer.LoginInfo;
+		Token = Answer.Token;
+		TokenExpiry = FApp::GetCurrentTime() + Answer.TokenSeconds;
+		HandleLoggedIn();
+	}
+	OnLoginResult.Broadcast(Answer.bSuccess, Answer.LoginInfo);
+}

@@ -1,0 +1,54 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include "CoreMinimal.h"
+#include "VelmorantUser.h"
+#include "VelmorantDeveloperUser.generated.h"
+
+/** The answer to a request for the developer's projects. Native: handlers are added with AddUObject and accumulate. */
+DECLARE_MULTICAST_DELEGATE_TwoParams(FOnEditorProjectsResponse, bool /*bSuccess*/, TArray<FProject> /*Projects*/);
+
+/** The user who works in the editor: knows the projects, which one is selected, and whether they also act when the model runs in the editor. */
+UCLASS(BlueprintType)
+class VELMORANTSDK_API UVelmorantDeveloperUser : public UVelmorantUser
+{
+	GENERATED_BODY()
+
+public:
+	/** The projects last received; empty before the first successful request. */
+	TArray<FProject> GetEditorUserProjects() const { return EditorUserProjects; }
+
+	/** Asks the service for the projects; the answer arrives at GetOnProjectsResponse(), never within this call. */
+	void RequestEditorUserProjects();
+
+	FOnEditorProjectsResponse& GetOnProjectsResponse() { return OnProjectsResponse; }
+
+	/**
+	 * Makes a project the one that the request manager serves.
+	 * @param bForceUpdate fetch its data anew even when it is the project already selected.
+	 */
+	void SetSelectedProject(const FProject& Project, bool bForceUpdate);
+
+	/** Whether user data was saved in an earlier session; GetUserInfo() holds it from creation on. */
+	virtual bool HasSavedUserData() const;
+
+	/** Keeps the user information in the user's own configuration folder, readable by nobody else. */
+	virtual void SaveUserData() const;
+
+	bool ShouldUseAtRuntime() const { return bUseAtRuntime; }
+	void SetDevAsRuntimeUser(bool bInUseAtRuntime) { bUseAtRuntime = bInUseAtRuntime; }
+
+	virtual void PostInitProperties() override;
+
+protected:
+	virtual void HandleLoggedIn() override;
+
+private:
+	void ReceiveProjects(bool bSuccess, const TArray<FProject>& Projects);
+
+	FOnEditorProjectsResponse OnProjectsResponse;
+	TArray<FProject> EditorUserProjects;
+	bool bHasSavedUserData = false;
+	bool bUseAtRuntime = false;
+};
