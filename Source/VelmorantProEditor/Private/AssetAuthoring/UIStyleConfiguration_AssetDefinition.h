@@ -1,0 +1,22 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include "CoreMinimal.h"
+#include "AssetDefinitionDefault.h"
+#include "UIStyleConfiguration_AssetDefinition.generated.h"
+
+/** How the content browser shows UI style configurations. */
+UCLASS()
+class UUIStyleConfiguration_AssetDefinition : public UAssetDefinitionDefault
+{
+	GENERATED_BODY()
+
+public:
+	//~ Begin UAssetDefinition
+	virtual TConstArrayView<FAssetCategoryPath> GetAssetCategories() const override;
+	virtual TSoftClassPtr<UObject> GetAssetClass() const override;
+	virtual FLinearColor GetAssetColor() const override;
+	virtual FText GetAssetDisplayName() const override;
+	//~ End UAssetDefinition
+};

@@ -1,0 +1,39 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include "CoreMinimal.h"
+#include "UObject/Object.h"
+#include "CheckCollisionNotification.generated.h"
+
+class SNotificationItem;
+struct FNotificationInfo;
+
+/**
+ * Asks the designer whether to add the missing unit-volume collision profile and, once added, whether to restart.
+ *
+ * One object per failed check, in the transient package. It is rooted while it asks, because nothing else refers to it, and
+ * released by "Skip" and "Later".
+ */
+UCLASS()
+class UCheckCollisionNotification : public UObject
+{
+	GENERATED_BODY()
+
+public:
+	void ShowMissingProfileNotification();
+
+private:
+	void OnAddToProjectConfig();
+	void OnDismiss();
+	void OnRestartEditor();
+
+	void ShowProfilesAddedNotification();
+	void ShowRestartNotification();
+
+	/** Adds a notification that stays until one of its buttons is pressed, and makes it the current one. */
+	void ShowQuestion(FNotificationInfo& Info);
+
+	/** The question on screen; empty until the first one is shown. */
+	TSharedPtr<SNotificationItem> NotificationItem;
+};

@@ -1,0 +1,77 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "VelmorantEditorUtilitiesLibrary.h"
+
+#include "Framework/Notifications/NotificationManager.h"
+#include "HAL/PlatformApplicationMisc.h"
+#include "Interfaces/IPluginManager.h"
+
+#define LOCTEXT_NAMESPACE "FVelmorantProEditor"
+
+namespace VelmorantEditorUtilities
+{
+	const float CopiedSeconds = 3.0f;
+	const float VersionCopiedSeconds = 4.0f;
+
+	SNotificationItem::ECompletionState ToNotificationState(EEditorNotificationCompletionState State)
+	{
+		switch (State)
+		{
+			case EEditorNotificationCompletionState::CS_Pending:
+				return SNotificationItem::CS_Pending;
+			case EEditorNotificationCompletionState::CS_Success:
+				return SNotificationItem::CS_Success;
+			case EEditorNotificationCompletionState::CS_Fail:
+				return SNotificationItem::CS_Fail;
+			default:
+				return SNotificationItem::CS_None; // Blueprints can pass any byte
+		}
+	}
+
+	FString GetPluginVersionName(const TCHAR* PluginName)
+	{
+		// No fallback on purpose: without the companion plugin the toolkit cannot work at all.
+		return IPluginManager::Get().FindPlugin(PluginName)->GetDescriptor().VersionName;
+	}
+}
+
+void UVelmorantEditorUtilitiesLibrary::NotifyPopup(const FString& Title, const FString& SubText, SNotificationItem::ECompletionState State, float Duration)
+{
+	FNotificationInfo Info(FText::AsCultureInvariant(Title));
+	Info.SubText = FText::AsCultureInvariant(SubText);
+	Info.ExpireDuration = Duration;
+	FSlateNotificationManager::Get().AddNotification(Info)->SetCompletionState(State);
+}
+
+void UVelmorantEditorUtilitiesLibrary::PushEditorNotification(const FString& Title, const FString& SubText, EEditorNotificationCompletionState State, float Duration)
+{
+	NotifyPopup(Title, SubText, VelmorantEditorUtilities::ToNotificationState(State), Duration);
+}
+
+void UVelmorantEditorUtilitiesLibrary::CopyToClipboard(const FString& Text, const FString& SubText)
+{
+	FPlatformApplicationMisc::ClipboardCopy(*Text);
+	NotifyPopup(TEXT("Copied to Clipboard"), SubText, SNotificationItem::CS_Success, VelmorantEditorUtilities::CopiedSeconds);
+}
+
+FString UVelmorantEditorUtilitiesLibrary::GetVelmorantProVersion()
+{
+	return VelmorantEditorUtilities::GetPluginVersionName(TEXT("VelmorantPro"));
+}
+
+FString UVelmorantEditorUtilitiesLibrary::GetVelmorantSDKVersion()
+{
+	return VelmorantEditorUtilities::GetPluginVersionName(TEXT("VelmorantSDK"));
+}
+
+void UVelmorantEditorUtilitiesLibrary::CopyVersionToClipboard(const FString& Version)
+{
+	FPlatformApplicationMisc::ClipboardCopy(*Version);
+
+	FNotificationInfo Info(FText::Format(LOCTEXT("VelmorantVersionCopied", "Velmorant version {0} copied to clipboard."), FText::FromString(Version)));
+	Info.bUseSuccessFailIcons = true;
+	Info.ExpireDuration = VelmorantEditorUtilities::VersionCopiedSeconds;
+	FSlateNotificationManager::Get().AddNotification(Info)->SetCompletionState(SNotificationItem::CS_Success);
+}
+
+#undef LOCTEXT_NAMESPACE

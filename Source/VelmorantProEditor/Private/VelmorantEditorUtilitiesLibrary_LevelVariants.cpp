@@ -1,0 +1,222 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "VelmorantEditorUtilitiesLibrary.h"
+
+#include "AssetRegistry/AssetData.h"
+#include "Editor.h"
+#include "Engine/World.h"
+#include "EngineUtils.h"
+#include "IAssetTools.h"
+#include "LevelVariantSets.h"
+#include "Misc/Paths.h"
+#include "UObject/Package.h"
+#include "Variant.h"
+#include "VariantSet.h"
+#include "VelmorantAssetQueries.h"
+#include "VelmorantConfiguratorDataAsset.h"
+#include "VelmorantLevelVariantSetsActor.h"
+#include "VelmorantProEditor.h"
+#include "VelmorantVariantHandler.h"
+
+namespace VelmorantLevelVariants
+{
+	const float OutcomeSeconds = 7.0f;
+	const FVector SpawnLocation(0.0, 0.0, 500.0); // whatever the level holds
+	const TCHAR* const NameSeparator = TEXT("_");
+
+	/** Finds level variant sets whose asset name ends in "_" and the configurator's name, and assigns them to the data asset. */
+	ULevelVariantSets* AdoptExisting(UVelmorantConfiguratorDataAsset& DataAsset)
+	{
+		for (const FAssetData& Asset : VelmorantAssetQueries::FindAssetsOfClass(*ULevelVariantSets::StaticClass()))
+		{
+			FString Tail; // stays empty for a name without "_", which matches no real name
+			Asset.AssetName.ToString().Split(NameSeparator, nullptr, &Tail, ESearchCase::CaseSensitive, ESearchDir::FromEnd);
+			if (FName(*Tail) != DataAsset.ConfiguratorName)
+			{
+				continue;
+			}
+
+			ULevelVariantSets* LevelVariantSets = Cast<ULevelVariantSets>(Asset.GetAsset());
+			if (LevelVariantSets)
+			{
+				DataAsset.LevelVariantSets.SetPath(LevelVariantSets->GetPathName());
+				UVelmorantEditorUtilitiesLibrary::NotifyPopup(TEXT("Success Configuration Assigned Existing Asset"), TEXT("It exits an LevelVariantSets with the suffix and had been assigned to configurator"), SNotificationItem::CS_Success, OutcomeSeconds);
+			}
+			return LevelVariantSets;
+		}
+		return nullptr;
+	}
+
+	/** Null when the path names nothing that is loaded. The message is shown all the same, on purpose. */
+	ULevelVariantSets* ResolveAssigned(const UVelmorantConfiguratorDataAsset& DataAsset)
+	{
+		ULevelVariantSets* LevelVariantSets = Cast<ULevelVariantSets>(DataAsset.LevelVariantSets.ResolveObject());
+		UVelmorantEditorUtilitiesLibrary::NotifyPopup(TEXT("Success Configuration LevelVariantSets Updated"), TEXT("Configurator already has a LevelVariantSet. It had been updated"), SNotificationItem::CS_Success, OutcomeSeconds);
+		return LevelVariantSets;
+	}
+
+	ULevelVariantSets* CreateBeside(UVelmorantConfiguratorDataAsset& DataAsset, const FString& CleanName)
+	{
+		FString Folder;
+		FString FileName;
+		FString Extension;
+		FPaths::Split(DataAsset.GetPathName(), Folder, FileName, Extension);
+
+		ULevelVariantSets* LevelVariantSets = Cast<ULevelVariantSets>(IAssetTools::Get().CreateAsset(TEXT("LevelVariant_") + CleanName, Folder, ULevelVariantSets::StaticClass(), nullptr));
+		if (LevelVariantSets)
+		{
+			DataAsset.LevelVariantSets.SetPath(LevelVariantSets->GetPathName());
+			UVelmorantEditorUtilitiesLibrary::NotifyPopup(TEXT("Success Configuration Create LevelVariantSet"), TEXT(""), SNotificationItem::CS_Success, OutcomeSeconds);
+		}
+		return LevelVariantSets;
+	}
+
+	void AddMissingVariants(UVariantSet& VariantSet, const FVelmorantConfigGroup& Group)
+	{
+		// New variants join the set after the loop, so a product named twice must be looked for among them too. Names ignore case.
+		TArray<UVariant*> NewVariants;
+		TSet<FString> NewNames;
+		for (const FVelmorantConfigProduct& Product : Group.Products)
+		{
+			if (VariantSet.GetVariantByName(Product.Name) || NewNames.Contains(Product.Name))
+			{
+				continue;
+			}
+
+			UVariant* Variant = NewObject<UVariant>(GetTransientPackage());
+			Variant->SetDisplayText(FText::FromString(Product.Name));
+			NewVariants.Add(Variant);
+			NewNames.Add(Product.Name);
+		}
+		VariantSet.AddVariants(NewVariants);
+	}
+
+	void AddMissingGroup(ULevelVariantSets& LevelVariantSets, const FVelmorantConfigRoom& Room, const FVelmorantConfigGroup& Group)
+	{
+		const FString Name = UVelmorantVariantHandler::CombineVariantSet(Room.Name, Group.Name);
+
+		UVariantSet* VariantSet = LevelVariantSets.GetVariantSetByName(Name);
+		const bool bNewSet = VariantSet == nullptr;
+		if (bNewSet)
+		{
+			VariantSet = NewObject<UVariantSet>(GetTransientPackage());
+		}
+
+		AddMissingVariants(*VariantSet, Group);
+		VariantSet->SetDisplayText(FText::FromString(Name));
+		if (bNewSet)
+		{
+			LevelVariantSets.AddVariantSets({VariantSet});
+		}
+	}
+
+	AVelmorantLevelVariantSetsActor* FindActor(UWorld* World)
+	{
+		TActorIterator<AVelmorantLevelVariantSetsActor> Actor(World);
+		return Actor ? *Actor : nullptr; // further ones are ignored
+	}
+
+	AVelmorantLevelVariantSetsActor* SpawnActor(UWorld* World)
+	{
+		return Cast<AVelmorantLevelVariantSetsActor>(World->SpawnActor(AVelmorantLevelVariantSetsActor::StaticClass(), &SpawnLocation, &FRotator::ZeroRotator, FActorSpawnParameters()));
+	}
+
+	AVelmorantLevelVariantSetsActor* FindOrSpawnActor()
+	{
+		UWorld* World = GEditor->GetEditorWorldContext(false).World();
+		AVelmorantLevelVariantSetsActor* Actor = World ? FindActor(World) : nullptr;
+		if (Actor)
+		{
+			UVelmorantEditorUtilitiesLibrary::NotifyPopup(TEXT("Found LevelVariant at Current Level"), TEXT("Updated current Actor with Configurator Data"), SNotificationItem::CS_Success, OutcomeSeconds);
+			return Actor;
+		}
+
+		Actor = World ? SpawnActor(World) : nullptr;
+		if (!Actor)
+		{
+			UVelmorantEditorUtilitiesLibrary::NotifyPopup(TEXT("Failed Configuration Create LevelVariantActor"), TEXT("Couldn't create a LevelVariantActor in current level"), SNotificationItem::CS_Fail, OutcomeSeconds);
+		}
+		return Actor;
+	}
+
+	void ShowToDesigner(AActor& Actor)
+	{
+		GEditor->SelectNone(false, true);
+		GEditor->SelectActor(&Actor, true, true);
+		GEditor->NoteSelectionChange();
+		GEditor->MoveViewportCamerasToActor(Actor, true);
+	}
+}
+
+void UVelmorantEditorUtilitiesLibrary::CreateVariantSetFromConfigurator(UVelmorantConfiguratorDataAsset* ConfiguratorData)
+{
+	if (!ConfiguratorData)
+	{
+		return;
+	}
+
+	// IsValid() is meant, not "is None": a None name is a valid entry and passes.
+	if (!ConfiguratorData->ConfiguratorName.IsValid() && ConfiguratorData->ConfiguratorUnit.Rooms.IsEmpty())
+	{
+		// The blank at the title's end is intended.
+		NotifyPopup(TEXT("Failed Configuration LevelVariantSet Creation "), TEXT("Configurator data not valid to create LevelVariantSet"), SNotificationItem::CS_Fail, VelmorantLevelVariants::OutcomeSeconds);
+		return;
+	}
+
+	ULevelVariantSets* LevelVariantSets = ConfiguratorData->LevelVariantSets.IsNull()
+		? VelmorantLevelVariants::AdoptExisting(*ConfiguratorData)
+		: VelmorantLevelVariants::ResolveAssigned(*ConfiguratorData);
+	if (!LevelVariantSets)
+	{
+		const FString CleanName = ConfiguratorData->ConfiguratorName.ToString().Replace(TEXT(" "), TEXT("_"));
+		LevelVariantSets = VelmorantLevelVariants::CreateBeside(*ConfiguratorData, CleanName);
+	}
+
+	if (!FillOutLevelVariantWithConfigurator(ConfiguratorData, LevelVariantSets))
+	{
+		// The format names the other operation on purpose: both failures are found by the same search in the log.
+		const FString Message = TEXT("Configurator ID doesn't match");
+		UE_LOG(LogVelmorantProEditor, Warning, TEXT("UVelmorantEditorUtilitiesLibrary::CreateConfiguratorDataAssetFromConfigurator :: Failed \n %s"), *Message);
+		NotifyPopup(TEXT("Failed Configuration LevelVariantSet Creation"), Message, SNotificationItem::CS_Fail, VelmorantLevelVariants::OutcomeSeconds);
+	}
+}
+
+bool UVelmorantEditorUtilitiesLibrary::FillOutLevelVariantWithConfigurator(UVelmorantConfiguratorDataAsset* ConfiguratorData, ULevelVariantSets* LevelVariantSets)
+{
+	const TArray<FVelmorantConfigRoom> Rooms = ConfiguratorData ? ConfiguratorData->ConfiguratorUnit.Rooms : TArray<FVelmorantConfigRoom>();
+	if (!LevelVariantSets)
+	{
+		NotifyPopup(TEXT("Fail to Fill Out Level Variant"), TEXT("Level variant is null"), SNotificationItem::CS_Fail, VelmorantLevelVariants::OutcomeSeconds);
+		return false;
+	}
+
+	for (const FVelmorantConfigRoom& Room : Rooms)
+	{
+		for (const FVelmorantConfigGroup& Group : Room.Groups)
+		{
+			VelmorantLevelVariants::AddMissingGroup(*LevelVariantSets, Room, Group);
+		}
+	}
+	return true;
+}
+
+void UVelmorantEditorUtilitiesLibrary::CreateLevelVariantActorInLevel(UVelmorantConfiguratorDataAsset* ConfiguratorData)
+{
+	if (!ConfiguratorData)
+	{
+		return;
+	}
+
+	if (ConfiguratorData->LevelVariantSets.IsNull())
+	{
+		CreateVariantSetFromConfigurator(ConfiguratorData);
+	}
+
+	AVelmorantLevelVariantSetsActor* Actor = VelmorantLevelVariants::FindOrSpawnActor();
+	if (Actor)
+	{
+		Actor->LevelVariantSets = ConfiguratorData->LevelVariantSets;
+		Actor->ConfiguratorData = ConfiguratorData;
+		VelmorantLevelVariants::ShowToDesigner(*Actor);
+	}
+}

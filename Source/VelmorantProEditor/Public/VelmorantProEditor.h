@@ -1,0 +1,46 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include "CoreMinimal.h"
+#include "AssetTypeCategories.h"
+#include "Modules/ModuleInterface.h"
+
+class FUICommandList;
+class IAssetTools;
+class IAssetTypeActions;
+
+DECLARE_LOG_CATEGORY_EXTERN(LogVelmorantProEditor, Log, All);
+
+/**
+ * Joins the toolkit's editor tools to the editor: style, commands, asset types, details sections, placement category and
+ * the deferred check of the project's collision set-up. Holds no logic of its own; game thread only.
+ */
+class FVelmorantProEditorModule : public IModuleInterface
+{
+public:
+	//~ Begin IModuleInterface
+	virtual void StartupModule() override;
+	virtual void ShutdownModule() override;
+	//~ End IModuleInterface
+
+private:
+	void MapSettingsCommands();
+	void OpenProSettings();
+	void OpenProUISettings();
+	void OpenSDKSettings();
+	void RegisterAssetTypes();
+	void RegisterAssetTypeActions(IAssetTools& AssetTools, const TSharedRef<IAssetTypeActions>& Actions);
+	void RegisterDetailsSection();
+	void RegisterPlacementCategory();
+	void DeferCollisionProfileCheck();
+
+	FName SettingsSectionName;
+	FName DeveloperSectionName;
+
+	/** The three settings commands; the toolbar menu takes them from here. */
+	TSharedPtr<FUICommandList> PluginCommands;
+
+	/** Stay registered until the editor process ends. */
+	TArray<TSharedPtr<IAssetTypeActions>> RegisteredAssetTypeActions;
+};
