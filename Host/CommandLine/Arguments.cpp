@@ -1,0 +1,82 @@
+// Copyright Velmorant. All Rights Reserved.
+
+// Before the engine's headers: those define a macro named check, and the library has functions of that name.
+#include <CLI/App.hpp>
+#include <CLI/Config.hpp>
+#include <CLI/Formatter.hpp>
+
+#include "Arguments.h"
+#include "Containers/StringConv.h"
+
+#include <iostream>
+#include <string>
+
+namespace Arguments
+{
+	/** As they stand on the command line, UTF-8. */
+	struct FRaw
+	{
+		std::string Project;
+		std::string Script;
+		std::string Service;
+		bool bRepair = false;
+		bool bJson = false;
+	};
+
+	FString ToText(const std::string& Text)
+	{
+		return FString(UTF8_TO_TCHAR(Text.c_str()));
+	}
+
+	CLI::App* AddCheck(CLI::App& App, FRaw& Raw)
+	{
+		CLI::App* const Check = App.add_subcommand("check", "Look for the unit volumes' collision profile in a project's configuration");
+		Check->add_option("PROJECT", Raw.Project, "A .uproject file, or the folder that holds one")->required();
+		Check->add_flag("--repair", Raw.bRepair, "Add what is missing; without this nothing on disk changes");
+		Check->add_flag("--json", Raw.bJson, "Report as one JSON object");
+		Check->footer("Ends with 0 when the profile is there or was added, 1 when it is missing,\n2 for bad usage or no such project, 3 when a file could not be read or written.");
+		return Check;
+	}
+
+	CLI::App* AddRun(CLI::App& App, FRaw& Raw)
+	{
+		CLI::App* const Run = App.add_subcommand("run", "Do in a project what a person would do, as a script says");
+		Run->add_option("PROJECT", Raw.Project, "A .uproject file, or the folder that holds one")->required();
+		Run->add_option("SCRIPT", Raw.Script, "The script, one command a line")->required();
+		Run->add_option("--service", Raw.Service, "The data file that the toolkit's service answers from");
+		Run->add_flag("--json", Raw.bJson, "Report each step as a JSON object in a line of its own");
+		Run->footer("Ends with 0 when all went well, 1 when an expectation did not hold, 2 for bad usage or\nno such project, 3 when the script is wrong or could not go on, or a file could not be\nread or written.");
+		return Run;
+	}
+
+	TOptional<EExitStatus> Parse(int Count, const char* const* Values, FArguments& OutArguments)
+	{
+		CLI::App App("Checks and drives Unreal projects that use the Velmorant toolkit, without the engine.", "velmorant");
+		App.set_version_flag("--version", std::string("velmorant ") + VELMORANT_VERSION);
+		App.require_subcommand(1);
+		FRaw Raw;
+		const CLI::App* const Check = AddCheck(App, Raw);
+		AddRun(App, Raw);
+		try
+		{
+			App.parse(Count, Values);
+		}
+		catch (const CLI::ParseError& Error)
+		{
+			if (App.get_subcommands().empty() && Error.get_exit_code() == static_cast<int>(CLI::ExitCodes::RequiredError) && Count > 1)
+			{
+				std::cerr << "There is no command " << Values[1] << ".\n";
+			}
+			return App.exit(Error, std::cout, std::cerr) == 0 ? EExitStatus::Done : EExitStatus::Usage;
+		}
+		if (Check->parsed())
+		{
+			OutArguments.Check = FCheckArguments{ToText(Raw.Project), Raw.bRepair, Raw.bJson};
+		}
+		else
+		{
+			OutArguments.Run = FRunArguments{ToText(Raw.Project), ToText(Raw.Script), ToText(Raw.Service), Raw.bJson};
+		}
+		return TOptional<EExitStatus>();
+	}
+}

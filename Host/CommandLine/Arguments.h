@@ -1,0 +1,37 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include "Containers/UnrealString.h"
+#include "ExitStatus.h"
+#include "Misc/Optional.h"
+
+/** velmorant check PROJECT [--repair] [--json] */
+struct FCheckArguments
+{
+	FString Project; // a .uproject, or a folder with one in it
+	bool bRepair = false;
+	bool bJson = false;
+};
+
+/** velmorant run PROJECT SCRIPT [--service FILE] [--json] */
+struct FRunArguments
+{
+	FString Project;
+	FString Script;
+	FString Service; // the service's data file; empty: the one that the project names
+	bool bJson = false;
+};
+
+/** What the program was asked to do: exactly one of these is set. */
+struct FArguments
+{
+	TOptional<FCheckArguments> Check;
+	TOptional<FRunArguments> Run;
+};
+
+namespace Arguments
+{
+	/** @return unset to go on with OutArguments; else how to end, after help or what is wrong has been printed. */
+	TOptional<EExitStatus> Parse(int Count, const char* const* Values, FArguments& OutArguments);
+}

@@ -1,0 +1,85 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "Run/RunCommand.h"
+
+#include "Console.h"
+#include "Containers/StringConv.h"
+#include "HostFiles.h"
+#include "HostProject.h"
+#include "HostTextFiles.h"
+#include "Misc/Paths.h"
+#include "Run/Script.h"
+#include "Run/ScriptReport.h"
+#include "Run/ScriptRunner.h"
+
+#include <string>
+
+namespace RunCommand
+{
+	namespace
+	{
+		/** Tells what is wrong with the files that were named. */
+		bool CheckFiles(const FRunArguments& Arguments)
+		{
+			if (!Arguments.Service.IsEmpty() && !HostFiles::FileExists(Arguments.Service))
+			{
+				HostProblems::Report(FPaths::ConvertRelativePathToFull(Arguments.Service), 0, TEXT("there is no such data file"), TEXT("Name the file that the service answers from."));
+			}
+			Console::PrintProblems(HostProblems::GetAll());
+			return HostProblems::GetAll().IsEmpty();
+		}
+
+		/** The script's text; false when it cannot be read, which is reported. */
+		bool ReadScript(const FString& Path, FString& OutText)
+		{
+			std::string Text;
+			const HostFiles::ERead Read = HostTextFiles::ReadUtf8(Path, Text);
+			if (Read == HostFiles::ERead::Missing)
+			{
+				HostProblems::Report(FPaths::ConvertRelativePathToFull(Path), 0, TEXT("there is no such script"));
+			}
+			OutText = UTF8_TO_TCHAR(Text.c_str());
+			return Read == HostFiles::ERead::Done;
+		}
+
+		FEditorHostOptions MakeOptions(const FString& Project, const FRunArguments& Arguments)
+		{
+			FEditorHostOptions Options;
+			Options.Project = Project;
+			if (!Arguments.Service.IsEmpty())
+			{
+				Options.CommandLine = FString::Printf(TEXT("-VelmorantService=\"%s\""), *FPaths::ConvertRelativePathToFull(Arguments.Service));
+			}
+			return Options;
+		}
+	}
+
+	EExitStatus Run(const FRunArguments& Arguments)
+	{
+		const FString Project = HostProject::Find(Arguments.Project);
+		if (Project.IsEmpty())
+		{
+			Console::PrintProblems(HostProblems::GetAll());
+			return EExitStatus::Usage;
+		}
+		FString Text;
+		ReadScript(Arguments.Script, Text);
+		if (!CheckFiles(Arguments))
+		{
+			return EExitStatus::Trouble;
+		}
+		TArray<FScriptProblem> Problems;
+		const FScript Script = Script::Parse(Text, Problems);
+		for (const FScriptProblem& Problem : Problems)
+		{
+			Console::PrintError(Problem.ToString(Arguments.Script));
+		}
+		if (!Problems.IsEmpty())
+		{
+			return EExitStatus::Trouble;
+		}
+		const TUniquePtr<IScriptReport> Report = ScriptReport::Make(Arguments.Script, Arguments.bJson);
+		FScriptRunner Runner(MakeOptions(Project, Arguments), *Report);
+		return Runner.Run(Script);
+	}
+}

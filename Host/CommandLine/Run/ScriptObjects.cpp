@@ -1,0 +1,102 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "Run/ScriptObjects.h"
+
+#include "Blueprint/UserWidget.h"
+#include "Editor.h"
+#include "Engine/World.h"
+#include "EngineUtils.h"
+#include "HostPackages.h"
+#include "Run/ScriptContext.h"
+#include "UObject/Class.h"
+
+namespace ScriptObjects
+{
+	namespace
+	{
+		const TCHAR* const ActorPrefix = TEXT("actor:");
+		const TCHAR* const DefaultPrefix = TEXT("default:");
+
+		UObject* FindActor(const FString& ClassName, FString& OutReason)
+		{
+			UClass* Class = FindClass(ClassName, OutReason);
+			if (Class == nullptr)
+			{
+				return nullptr;
+			}
+			if (!Class->IsChildOf(AActor::StaticClass()))
+			{
+				OutReason = FString::Printf(TEXT("%s is no class of actors"), *ClassName);
+				return nullptr;
+			}
+			const FActorIterator Actors(GetWorld(), Class);
+			if (!Actors)
+			{
+				OutReason = FString::Printf(TEXT("no actor of the class %s stands in the open level"), *ClassName);
+				return nullptr;
+			}
+			return *Actors;
+		}
+
+		UObject* FindPanel(FScriptContext& Context, const FString& Name, FString& OutReason)
+		{
+			const FPanelHost::FPanel* Panel = Context.Session.GetPanels().Find(Name);
+			if (Panel == nullptr)
+			{
+				OutReason = FString::Printf(TEXT("no panel named %s is open"), *Name);
+				return nullptr;
+			}
+			return Panel->Widget.Get();
+		}
+	}
+
+	UObject* Find(FScriptContext& Context, const FString& Text, FString& OutReason)
+	{
+		FString Rest = Text;
+		if (Text.StartsWith(TEXT("/")))
+		{
+			return FindAsset(Text, OutReason);
+		}
+		if (Rest.RemoveFromStart(ActorPrefix))
+		{
+			return FindActor(Rest, OutReason);
+		}
+		if (Rest.RemoveFromStart(DefaultPrefix))
+		{
+			const UClass* Class = FindClass(Rest, OutReason);
+			return Class != nullptr ? Class->GetDefaultObject() : nullptr;
+		}
+		return FindPanel(Context, Text, OutReason);
+	}
+
+	UObject* FindAsset(const FString& Path, FString& OutReason)
+	{
+		FString Package = Path;
+		Path.Split(TEXT("."), &Package, nullptr);
+		UObject* Asset = HostPackages::IsValidPackageName(Package, &OutReason) ? HostPackages::LoadAsset(Package) : nullptr;
+		if (Asset == nullptr && OutReason.IsEmpty())
+		{
+			OutReason = FString::Printf(TEXT("there is no asset %s, or it cannot be read"), *Package);
+		}
+		return Asset;
+	}
+
+	UClass* FindClass(const FString& Name, FString& OutReason)
+	{
+		UClass* Class = UClass::TryFindTypeSlow<UClass>(Name);
+		if (Class == nullptr && Name.Len() > 1 && (Name[0] == TEXT('U') || Name[0] == TEXT('A')))
+		{
+			Class = UClass::TryFindTypeSlow<UClass>(Name.RightChop(1));
+		}
+		if (Class == nullptr)
+		{
+			OutReason = FString::Printf(TEXT("there is no class %s"), *Name);
+		}
+		return Class;
+	}
+
+	UWorld* GetWorld()
+	{
+		return GEditor->GetEditorWorldContext().World();
+	}
+}

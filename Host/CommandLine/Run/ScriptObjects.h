@@ -1,0 +1,33 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include "Containers/UnrealString.h"
+
+class FScriptContext;
+class UClass;
+class UObject;
+class UWorld;
+
+/** How scripts name objects and classes of the running editor. */
+namespace ScriptObjects
+{
+	/**
+	 * "/Game/Folder/Asset"  an asset, loaded when it is not yet
+	 * "actor:Class"         the first actor of that class in the open level
+	 * "default:Class"       the class's default object, which holds its settings
+	 * anything else         an open panel
+	 *
+	 * @return null with a reason
+	 */
+	UObject* Find(FScriptContext& Context, const FString& Text, FString& OutReason);
+
+	/** An asset by path, with or without ".Name" at its end. Null with a reason. */
+	UObject* FindAsset(const FString& Path, FString& OutReason);
+
+	/** By its name, with or without the letter that C++ puts in front, or by path. Null with a reason. */
+	UClass* FindClass(const FString& Name, FString& OutReason);
+
+	/** The open level's world; null when there is none. */
+	UWorld* GetWorld();
+}

@@ -1,0 +1,162 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "Run/ScriptRunner.h"
+
+#include "Containers/StringConv.h"
+#include "HostAssertions.h"
+#include "Run/ScriptContext.h"
+
+namespace ScriptRunner
+{
+	namespace
+	{
+		const TCHAR* const Bullets = TEXT("\"\u2022\u2022\u2022\u2022\u2022\u2022\u2022\u2022\""); // as many whatever was typed
+
+		/** The line as the script has it, with bullets in the place of secrets. */
+		FString GetShownText(const FScriptStep& Step, const FScriptContext& Context)
+		{
+			FString Text = Step.Line.Source;
+			for (int32 Index = Step.Line.Words.Num() - 1; Index >= 0; --Index)
+			{
+				const FScriptWord& Word = Step.Line.Words[Index];
+				if (Context.IsMasked(Index))
+				{
+					Text = Text.Left(Word.Begin) + Bullets + Text.RightChop(Word.End);
+				}
+			}
+			return Text;
+		}
+
+		FStepResult Look(const FScriptStep& Step, FScriptContext& Context)
+		{
+			const FExpectation Seen = Step.Expectation->Look(Context, Step.GetArguments());
+			if (!Seen.Error.IsEmpty())
+			{
+				return FStepResult::Error(Seen.Error);
+			}
+			if (Seen.bHolds != Step.bNegated)
+			{
+				return FStepResult::Done();
+			}
+			FStepResult Result;
+			Result.Outcome = EStepOutcome::Failed;
+			Result.Message = GetShownText(Step, Context);
+			if (!Step.bNegated && !Seen.Found.IsEmpty())
+			{
+				Result.Message += TEXT(", but ") + Seen.Found;
+			}
+			return Result;
+		}
+
+		/** What the engine would not survive ends the script, not the program. */
+		FStepResult RunGuarded(const FScriptStep& Step, FScriptContext& Context)
+		{
+			try
+			{
+				const FStepResult Result = Step.Command != nullptr ? Step.Command->Run(Context, Step.GetArguments()) : Look(Step, Context);
+				if (Step.Command != nullptr)
+				{
+					Context.Session.GetEditor().Tick(0.0); // a person sees the result before going on
+				}
+				return Result;
+			}
+			catch (const FHostAssertionFailure& Failure)
+			{
+				return FStepResult::Error(FString(TEXT("the editor could not go on: ")) + UTF8_TO_TCHAR(Failure.what()));
+			}
+		}
+	}
+}
+
+EExitStatus FScriptRunner::Run(const FScript& Script)
+{
+	EStepOutcome Outcome = EStepOutcome::Done;
+	int32 NumSteps = 0;
+	for (; NumSteps < Script.Steps.Num() && Outcome == EStepOutcome::Done; ++NumSteps)
+	{
+		const FScriptStep& Step = Script.Steps[NumSteps];
+		if (!Step.IsHeading() && !Session.IsRunning())
+		{
+			StartEditor();
+		}
+		Outcome = RunStep(Step).Outcome;
+	}
+	const FRunSummary Summary = SumUp(Outcome, Outcome == EStepOutcome::Done ? NumSteps : NumSteps - 1);
+	Report.TellEnd(Summary);
+	return Summary.Status;
+}
+
+void FScriptRunner::StartEditor()
+{
+	FStepRecord Record;
+	Record.Text = TEXT("(the editor starts)");
+	Session.Start();
+	Record.Events = Session.GetEvents().Take();
+	Report.TellStep(Record);
+}
+
+FStepResult FScriptRunner::RunStep(const FScriptStep& Step)
+{
+	FStepRecord Record;
+	Record.Line = Step.Line.Number;
+	if (Step.IsHeading())
+	{
+		Record.Text = Step.Line.Source;
+		Record.Heading = Step.GetArguments()[0];
+		Report.TellStep(Record);
+		return Record.Result;
+	}
+	Record.Result = Do(Step, Record);
+	Report.TellStep(Record);
+	return Record.Result;
+}
+
+FStepResult FScriptRunner::Do(const FScriptStep& Step, FStepRecord& Record)
+{
+	FScriptContext Context(Session, Step.Line.Number);
+	FStepResult Result = ScriptRunner::RunGuarded(Step, Context);
+	const FString AnswerTrouble = Session.TakeAnswerTrouble();
+	if (Result.Outcome == EStepOutcome::Done && !AnswerTrouble.IsEmpty())
+	{
+		Result = FStepResult::Error(AnswerTrouble);
+	}
+	if (Session.WantsRestart()) { Session.Restart(); }
+	Session.GetEvents().Collect();
+	Record.Text = ScriptRunner::GetShownText(Step, Context);
+	Record.Output = Context.GetOutput();
+	Record.Events = Session.GetEvents().Take();
+	return Result;
+}
+
+void FScriptRunner::RestartIfWanted(FStepResult& Result)
+{
+	if (Result.Outcome != EStepOutcome::Done || !Session.WantsRestart())
+	{
+		return;
+	}
+	const TArray<FString> Unsaved = Session.GetUnsaved();
+	if (Unsaved.IsEmpty())
+	{
+		Session.Restart();
+		return;
+	}
+	Result = FStepResult::Error(FString::Printf(TEXT("the editor would restart and lose unsaved changes: %s; save or discard them first"), *FString::Join(Unsaved, TEXT(", "))));
+}
+
+FRunSummary FScriptRunner::SumUp(EStepOutcome Outcome, int32 NumSteps)
+{
+	FRunSummary Summary;
+	Summary.NumSteps = NumSteps;
+	Summary.WrittenFiles = Session.GetWrittenFiles();
+	Summary.Unsaved = Session.GetUnsaved();
+	Summary.UnusedAnswers = Session.GetUnusedAnswers();
+	if (Outcome == EStepOutcome::Error || Session.GetNumProblems() > 0)
+	{
+		Summary.Status = EExitStatus::Trouble;
+	}
+	else if (Outcome == EStepOutcome::Failed)
+	{
+		Summary.Status = EExitStatus::Failed;
+	}
+	return Summary;
+}

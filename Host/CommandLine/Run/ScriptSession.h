@@ -1,0 +1,91 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include "EditorHost.h"
+#include "HostQuestions.h"
+#include "PanelHost.h"
+#include "Run/StepEvents.h"
+#include "Templates/UniquePtr.h"
+
+#include <map>
+#include <string>
+
+/**
+ * The editor that a script works in, over restarts: panels, prepared answers, what happened, which files were written.
+ * The editor comes up with the first Start(); until then nothing but the constructor's arguments is known.
+ */
+class FScriptSession
+{
+public:
+	explicit FScriptSession(const FEditorHostOptions& InOptions);
+	~FScriptSession();
+	FScriptSession(const FScriptSession&) = delete;
+	FScriptSession& operator=(const FScriptSession&) = delete;
+
+	/** Brings the editor up unless it runs. */
+	void Start();
+	bool IsRunning() const { return Editor.IsValid(); }
+
+	/** Takes the editor down and another one up. Unsaved changes are lost: ask GetUnsaved() first. */
+	void Restart();
+
+	/** Whether the editor asked for a restart that did not come yet. */
+	bool WantsRestart() const;
+
+	FEditorHost& GetEditor() { return *Editor; }
+	FPanelHost& GetPanels() { return Panels; }
+	FEventWatch& GetEvents() { return Events; }
+
+	/** Packages that would be lost if the editor went down now, by name. */
+	TArray<FString> GetUnsaved() const;
+
+	/** By all editors so far, in order of the first write; relative to the project where they are in it. */
+	TArray<FString> GetWrittenFiles() const;
+
+	/** Of all editors so far. */
+	int32 GetNumProblems() const;
+
+	/** Answers the next question of this kind that has no answer yet. Prepared answers survive a restart. */
+	void PrepareAnswer(FName Kind, const FHostAnswer& Answer, int32 ScriptLine);
+
+	/** What a prepared answer failed at since the last call; empty when nothing did. */
+	FString TakeAnswerTrouble();
+
+	/** Script lines of prepared answers that nothing asked for. */
+	TArray<int32> GetUnusedAnswers() const;
+
+	/** Full path of a file of the project; empty for one outside. */
+	FString FindProjectFile(const FString& Relative) const;
+	FString MakeRelative(const FString& Path) const;
+
+	/** The text of a file in Config as it was when the session began; empty for one that was not there. UTF-8. */
+	const std::string& GetFirstText(const FString& Path);
+
+	/** What the last call gave, as text. */
+	FString LastResult;
+
+private:
+	struct FPreparedAnswer
+	{
+		FName Kind;
+		FHostAnswer Answer;
+		int32 ScriptLine = 0;
+	};
+
+	void BringUp();
+	void TakeDown();
+	void ReadConfiguration();
+	TOptional<FHostAnswer> Answer(const FHostQuestion& Question);
+
+	const FEditorHostOptions Options;
+	const FString ProjectDir; // full path with a slash at the end
+	TUniquePtr<FEditorHost> Editor;
+	FPanelHost Panels; // empty while no editor runs
+	FEventWatch Events;
+	TArray<FPreparedAnswer> Answers; // not asked for yet
+	FString AnswerTrouble;
+	TArray<FString> EarlierWrites;
+	int32 NumEarlierProblems = 0;
+	std::map<std::string, std::string> FirstTexts; // by full path
+};

@@ -1,0 +1,21 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include "Run/ScriptCommand.h"
+
+/** All that a script can say, by topic; each topic has a source file of its own. */
+namespace ScriptTopics
+{
+	FScriptTopic GetPanels();
+	FScriptTopic GetNotifications();
+	FScriptTopic GetQuestions();
+	FScriptTopic GetAssets();
+	FScriptTopic GetCalls();
+	FScriptTopic GetLevel();
+	FScriptTopic GetFiles();
+	FScriptTopic GetEditor();
+
+	/** Topics in the order of the documentation. */
+	TConstArrayView<FScriptTopic> GetAll();
+}

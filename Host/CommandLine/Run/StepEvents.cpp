@@ -1,0 +1,107 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "Run/StepEvents.h"
+
+#include "HostLog.h"
+#include "HostNotifications.h"
+#include "HostQuestions.h"
+
+namespace StepEvents
+{
+	const TCHAR* GetStateWord(int32 CompletionState)
+	{
+		switch (CompletionState)
+		{
+			case SNotificationItem::CS_Pending:
+				return TEXT("pending");
+			case SNotificationItem::CS_Success:
+				return TEXT("success");
+			case SNotificationItem::CS_Fail:
+				return TEXT("fail");
+			default:
+				return TEXT("none");
+		}
+	}
+
+	static bool IsShown(const FHostLogLine& Line)
+	{
+		return Line.Verbosity <= ELogVerbosity::Warning || Line.Category.ToString().StartsWith(TEXT("LogVelmorant"));
+	}
+}
+
+void FEventWatch::Collect()
+{
+	CollectNotifications();
+	CollectQuestions();
+	CollectLog();
+	CollectProblems();
+}
+
+void FEventWatch::CollectNotifications()
+{
+	const TArray<HostNotifications::FRecord> History = HostNotifications::GetHistory();
+	for (; NumNotifications < History.Num(); ++NumNotifications)
+	{
+		const FHostNotification& Shown = *History[NumNotifications];
+		FStepEvents::FNotification& Event = Events.Notifications.AddDefaulted_GetRef();
+		Event.Title = Shown.Text.ToString();
+		Event.SubText = Shown.SubText.ToString();
+		Event.State = StepEvents::GetStateWord(Shown.State);
+		Event.Seconds = Shown.ExpireDuration;
+		Event.Buttons = HostNotifications::GetVisibleButtons(Shown);
+	}
+}
+
+void FEventWatch::CollectQuestions()
+{
+	const TArray<FAskedQuestion>& Asked = HostQuestions::GetAsked();
+	for (; NumQuestions < Asked.Num(); ++NumQuestions)
+	{
+		const FAskedQuestion& Question = Asked[NumQuestions];
+		FStepEvents::FQuestion& Event = Events.Questions.AddDefaulted_GetRef();
+		Event.Kind = Question.Question.Kind.ToString();
+		Event.Message = Question.Question.Message.ToString();
+		Event.Choice = Question.Answer.Choice;
+		Event.bUnattended = Question.Source == EHostAnswerSource::Unattended;
+		for (const TPair<FString, FString>& Field : Question.Answer.Fields)
+		{
+			Event.Fields.Add(Field.Key + TEXT("=") + Field.Value);
+		}
+	}
+}
+
+void FEventWatch::CollectLog()
+{
+	const TArray<FHostLogLine>& Lines = HostLog::GetLines();
+	for (; NumLogLines < Lines.Num(); ++NumLogLines)
+	{
+		if (StepEvents::IsShown(Lines[NumLogLines]))
+		{
+			Events.Log.Add(Lines[NumLogLines].ToString());
+		}
+	}
+}
+
+void FEventWatch::CollectProblems()
+{
+	const TArray<FHostProblem>& Problems = HostProblems::GetAll();
+	for (; NumProblems < Problems.Num(); ++NumProblems)
+	{
+		Events.Problems.Add(Problems[NumProblems]);
+	}
+}
+
+FStepEvents FEventWatch::Take()
+{
+	FStepEvents Taken = MoveTemp(Events);
+	Events = FStepEvents();
+	return Taken;
+}
+
+void FEventWatch::StartAnew()
+{
+	NumNotifications = 0;
+	NumQuestions = 0;
+	NumLogLines = 0;
+	NumProblems = 0;
+}

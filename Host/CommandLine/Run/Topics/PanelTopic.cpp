@@ -1,0 +1,233 @@
+// Copyright Velmorant. All Rights Reserved.
+// Panels: opening them, and a person's hands and eyes on their widgets.
+
+#include "HostSnapshot.h"
+#include "Run/ScriptContext.h"
+#include "Run/ScriptTopics.h"
+
+namespace PanelTopic
+{
+	namespace
+	{
+		/** The panel that the first argument names; null with a message. */
+		const FPanelHost::FPanel* FindPanel(FScriptContext& Context, const FString& Name, FString& OutError)
+		{
+			const FPanelHost::FPanel* Panel = Context.Session.GetPanels().Find(Name);
+			if (Panel == nullptr)
+			{
+				OutError = FString::Printf(TEXT("no panel named %s is open"), *Name);
+			}
+			return Panel;
+		}
+
+		/** Has a person do something to the widget of the first two arguments. */
+		template<typename InputType>
+		FStepResult GiveInput(FScriptContext& Context, const FScriptArguments& Arguments, InputType Input)
+		{
+			FString Error;
+			const FPanelHost::FPanel* Panel = FindPanel(Context, Arguments[0], Error);
+			if (Panel == nullptr)
+			{
+				return FStepResult::Error(Error);
+			}
+			const FHostInputResult Result = Input(Panel->Content.ToSharedRef(), Arguments[1]);
+			return Result.bDone ? FStepResult::Done() : FStepResult::Error(Result.Reason);
+		}
+
+		FStepResult Open(FScriptContext& Context, const FScriptArguments& Arguments)
+		{
+			const FString* Name = Arguments.FindOption(1, TEXT("as"));
+			FString Reason;
+			const bool bOpened = Context.Session.GetPanels().Open(Arguments[0], Name != nullptr ? *Name : FString(), Reason) != nullptr;
+			return bOpened ? FStepResult::Done() : FStepResult::Error(Reason);
+		}
+
+		FStepResult Close(FScriptContext& Context, const FScriptArguments& Arguments)
+		{
+			FString Error;
+			if (FindPanel(Context, Arguments[0], Error) == nullptr)
+			{
+				return FStepResult::Error(Error);
+			}
+			Context.Session.GetPanels().Close(Arguments[0]);
+			return FStepResult::Done();
+		}
+
+		FStepResult Click(FScriptContext& Context, const FScriptArguments& Arguments)
+		{
+			return GiveInput(Context, Arguments, [](const TSharedRef<SWidget>& Root, const FString& Widget) { return HostSnapshot::Click(Root, Widget); });
+		}
+
+		/** What is typed shows only where it would show on the screen: a word that goes nowhere might have been a password, too. */
+		FStepResult Type(FScriptContext& Context, const FScriptArguments& Arguments)
+		{
+			
+			return GiveInput(Context, Arguments, [&](const TSharedRef<SWidget>& Root, const FString& Widget)
+			{
+				FString Reason;
+				const TOptional<FHostWidgetDescription> Seen = HostSnapshot::Describe(Root, Widget, Reason);
+				if (Seen.IsSet() && !Seen->bPassword)
+				{
+					Context.Unmask(Arguments.GetWordIndex(2));
+				}
+				return HostSnapshot::Type(Root, Widget, Arguments[2]);
+			});
+		}
+
+		FStepResult Choose(FScriptContext& Context, const FScriptArguments& Arguments)
+		{
+			return GiveInput(Context, Arguments, [&Arguments](const TSharedRef<SWidget>& Root, const FString& Widget) { return HostSnapshot::Choose(Root, Widget, Arguments[2]); });
+		}
+
+		FStepResult Check(FScriptContext& Context, const FScriptArguments& Arguments)
+		{
+			return GiveInput(Context, Arguments, [](const TSharedRef<SWidget>& Root, const FString& Widget) { return HostSnapshot::Check(Root, Widget, true); });
+		}
+
+		FStepResult Uncheck(FScriptContext& Context, const FScriptArguments& Arguments)
+		{
+			return GiveInput(Context, Arguments, [](const TSharedRef<SWidget>& Root, const FString& Widget) { return HostSnapshot::Check(Root, Widget, false); });
+		}
+
+		FStepResult PrintSnapshot(FScriptContext& Context, const FScriptArguments& Arguments)
+		{
+			FString Error;
+			const FPanelHost::FPanel* Panel = FindPanel(Context, Arguments[0], Error);
+			if (Panel == nullptr)
+			{
+				return FStepResult::Error(Error);
+			}
+			Context.Print(HostSnapshot::Take(Panel->Content.ToSharedRef()).TrimEnd());
+			return FStepResult::Done();
+		}
+
+		FStepResult PrintOptions(FScriptContext& Context, const FScriptArguments& Arguments)
+		{
+			FString Error;
+			const FPanelHost::FPanel* Panel = FindPanel(Context, Arguments[0], Error);
+			if (Panel == nullptr)
+			{
+				return FStepResult::Error(Error);
+			}
+			for (const FString& Option : HostSnapshot::GetOptions(Panel->Content.ToSharedRef(), Arguments[1], Error))
+			{
+				Context.Print(Option);
+			}
+			return Error.IsEmpty() ? FStepResult::Done() : FStepResult::Error(Error);
+		}
+
+		/** A word for something that can be seen of a widget. */
+		struct FFact
+		{
+			const TCHAR* Word;
+			bool (*Holds)(const FHostWidgetDescription& Seen);
+		};
+
+		const FFact Facts[] = {
+			{TEXT("enabled"), [](const FHostWidgetDescription& Seen) { return Seen.bEnabled; }},
+			{TEXT("disabled"), [](const FHostWidgetDescription& Seen) { return !Seen.bEnabled; }},
+			{TEXT("visible"), [](const FHostWidgetDescription& Seen) { return Seen.bVisible; }},
+			{TEXT("hidden"), [](const FHostWidgetDescription& Seen) { return !Seen.bVisible; }},
+			{TEXT("checked"), [](const FHostWidgetDescription& Seen) { return Seen.Checked == ECheckBoxState::Checked; }},
+			{TEXT("unchecked"), [](const FHostWidgetDescription& Seen) { return Seen.Checked == ECheckBoxState::Unchecked; }},
+			{TEXT("read-only"), [](const FHostWidgetDescription& Seen) { return Seen.bReadOnly; }},
+			{TEXT("selected"), [](const FHostWidgetDescription& Seen) { return Seen.bSelected; }},
+			{TEXT("busy"), [](const FHostWidgetDescription& Seen) { return Seen.bBusy; }},
+		};
+
+		FExpectation LookAtState(const FHostWidgetDescription& Seen, const FString& Word)
+		{
+			for (const FFact& Fact : Facts)
+			{
+				if (Word.Equals(Fact.Word))
+				{
+					return {Fact.Holds(Seen), TEXT("it is not"), FString()};
+				}
+			}
+			return FExpectation::Unanswerable(TEXT("a widget is enabled, disabled, visible, hidden, checked, unchecked, read-only, selected or busy"));
+		}
+
+		FExpectation LookAtOption(const FHostWidgetDescription& Seen, const FString& Option, const FString& Value)
+		{
+			if (Option == TEXT("state"))
+			{
+				return LookAtState(Seen, Value);
+			}
+			const FString Shown = Option == TEXT("value") ? Seen.Value.Get(FString()) : Option == TEXT("label") ? Seen.Label : Seen.ToolTip;
+			return {Shown.Equals(Value), FString::Printf(TEXT("its %s is \"%s\""), *Option, *Shown), FString()};
+		}
+
+		/** All that follows the widget must hold. */
+		FExpectation ExpectWidget(FScriptContext& Context, const FScriptArguments& Arguments)
+		{
+			for (int32 Index = 3; Index < Arguments.Num(); Index += 2)
+			{
+				Context.Mask(Arguments.GetWordIndex(Index)); // until it is known not to be a guess at a password
+			}
+			FExpectation Result;
+			const FPanelHost::FPanel* Panel = FindPanel(Context, Arguments[0], Result.Error);
+			if (Panel == nullptr)
+			{
+				return Result;
+			}
+			const TOptional<FHostWidgetDescription> Seen = HostSnapshot::Describe(Panel->Content.ToSharedRef(), Arguments[1], Result.Found);
+			if (!Seen.IsSet())
+			{
+				return Result;
+			}
+			Result.bHolds = true;
+			for (int32 Index = 2; Index < Arguments.Num() && Result.bHolds; Index += 2)
+			{
+				if (Seen->bPassword && Arguments[Index] == TEXT("value"))
+				{
+					return FExpectation::Unanswerable(TEXT("the value of a password field cannot be looked at"));
+				}
+				Context.Unmask(Arguments.GetWordIndex(Index + 1));
+				Result = LookAtOption(*Seen, Arguments[Index], Arguments[Index + 1]);
+			}
+			return Result;
+		}
+
+		FExpectation ExpectOption(FScriptContext& Context, const FScriptArguments& Arguments)
+		{
+			FExpectation Result;
+			const FPanelHost::FPanel* Panel = FindPanel(Context, Arguments[0], Result.Error);
+			if (Panel == nullptr)
+			{
+				return Result;
+			}
+			const TArray<FString> Options = HostSnapshot::GetOptions(Panel->Content.ToSharedRef(), Arguments[1], Result.Error);
+			Result.bHolds = Options.ContainsByPredicate([&Arguments](const FString& Option) { return Option.Equals(Arguments[2]); });
+			Result.Found = FString(TEXT("the options are: ")) + FString::Join(Options, TEXT(", "));
+			return Result;
+		}
+
+		FExpectation ExpectPanel(FScriptContext& Context, const FScriptArguments& Arguments)
+		{
+			return {Context.Session.GetPanels().Find(Arguments[0]) != nullptr, TEXT("it is not open"), FString()};
+		}
+
+		const FScriptCommand Commands[] = {
+			{{TEXT("open"), TEXT("PANEL-ASSET [as NAME]"), 1, 1, TEXT("as")}, &Open},
+			{{TEXT("close"), TEXT("PANEL"), 1, 1, TEXT("")}, &Close},
+			{{TEXT("click"), TEXT("PANEL WIDGET"), 2, 2, TEXT("")}, &Click},
+			{{TEXT("type"), TEXT("PANEL WIDGET TEXT"), 3, 3, TEXT("")}, &Type},
+			{{TEXT("choose"), TEXT("PANEL WIDGET OPTION"), 3, 3, TEXT("")}, &Choose},
+			{{TEXT("check"), TEXT("PANEL WIDGET"), 2, 2, TEXT("")}, &Check},
+			{{TEXT("uncheck"), TEXT("PANEL WIDGET"), 2, 2, TEXT("")}, &Uncheck},
+			{{TEXT("print snapshot"), TEXT("PANEL"), 1, 1, TEXT("")}, &PrintSnapshot},
+			{{TEXT("print options"), TEXT("PANEL WIDGET"), 2, 2, TEXT("")}, &PrintOptions},
+		};
+
+		const FScriptExpectation Expectations[] = {
+			{{TEXT("panel"), TEXT("PANEL"), 1, 1, TEXT("")}, &ExpectPanel},
+			{{TEXT("widget"), TEXT("PANEL WIDGET [value TEXT] [label TEXT] [tooltip TEXT] [state STATE]"), 2, 2, TEXT("value label tooltip state")}, &ExpectWidget},
+			{{TEXT("option"), TEXT("PANEL WIDGET OPTION"), 3, 3, TEXT("")}, &ExpectOption},
+		};
+	}
+}
+
+FScriptTopic ScriptTopics::GetPanels()
+{
+	return {PanelTopic::Commands, PanelTopic::Expectations};
+}
