@@ -1,0 +1,49 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "MeasuredProcess.h"
+#include "TemporaryFolder.h"
+
+#include <benchmark/benchmark.h>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+/** The header tool over every reflected header of the build, one run for each module, writing to a fresh folder. */
+static void ReflectAllHeaders(benchmark::State& State)
+{
+	std::vector<std::filesystem::path> Manifests;
+	for (const auto& Entry : std::filesystem::directory_iterator(VELMORANT_GENERATED_DIR))
+	{
+		if (Entry.path().extension() == ".manifest")
+		{
+			Manifests.push_back(Entry.path());
+		}
+	}
+
+	for (auto Iteration : State)
+	{
+		const FTemporaryFolder Folder;
+		double Seconds = 0.0;
+		for (const std::filesystem::path& Manifest : Manifests)
+		{
+			std::vector<std::string> Arguments = {VELMORANT_BINARY_DIR "/VelmorantHeaderTool", "--module", Manifest.stem().string(), "--output", Folder.GetNative(Manifest.stem().string()).string(), "--manifest", Manifest.string()};
+			for (const std::filesystem::path& Reference : Manifests)
+			{
+				if (Reference != Manifest)
+				{
+					Arguments.insert(Arguments.end(), {"--reference", Reference.string()});
+				}
+			}
+			const FMeasuredProcess Process = MeasureProcess(Arguments);
+			if (Process.ExitStatus != 0)
+			{
+				State.SkipWithError(("the header tool failed on " + Manifest.string()).c_str());
+				return;
+			}
+			Seconds += Process.Seconds;
+		}
+		State.SetIterationTime(Seconds);
+	}
+	State.counters["modules"] = static_cast<double>(Manifests.size());
+}
+BENCHMARK(ReflectAllHeaders)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(5);

@@ -1,0 +1,87 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "CollisionIni.h"
+#include "ProjectOnDisk.h"
+
+#include <nlohmann/json.hpp>
+
+class FCheckSample : public FProjectOnDisk
+{
+protected:
+	FCheckSample() { CopySample(); }
+};
+
+TEST_F(FCheckSample, FindsTheProfileMissingAndChangesNothing)
+{
+	const FFolderState Before = LookAtFolder(Folder.GetNative());
+	const FProgramResult Result = Check();
+	EXPECT_EQ(Result.ExitStatus, 1) << Result.Errors;
+	EXPECT_NE(Result.Output.find("Velmorant: Missing UnitVolume Profile"), std::string::npos) << Result.Output;
+	EXPECT_EQ(Result.Errors, "");
+	EXPECT_EQ(LookAtFolder(Folder.GetNative()), Before);
+}
+
+TEST_F(FCheckSample, RepairAddsExactlyTheTwoLinesBehindTheLastProfile)
+{
+	const std::string Before = ReadIni();
+	const FProgramResult Result = Check({"--repair"});
+	EXPECT_EQ(Result.ExitStatus, 0) << Result.Output << Result.Errors;
+	const size_t LastProfile = Before.rfind("+Profiles=");
+	ASSERT_NE(LastProfile, std::string::npos);
+	std::string Expected = Before;
+	Expected.insert(Before.find('\n', LastProfile) + 1, CollisionIni::ProfileLine + CollisionIni::ChannelLine);
+	EXPECT_EQ(ReadIni(), Expected);
+}
+
+TEST_F(FCheckSample, ARepairedProjectIsSoundAndLeftAlone)
+{
+	ASSERT_EQ(Check({"--repair"}).ExitStatus, 0);
+	const FFolderState Before = LookAtFolder(Folder.GetNative("Project"));
+	EXPECT_EQ(Check().ExitStatus, 0);
+	EXPECT_EQ(LookAtFolder(Folder.GetNative("Project")), Before);
+	const FProgramResult Again = Check({"--repair"});
+	EXPECT_EQ(Again.ExitStatus, 0) << Again.Errors;
+	EXPECT_EQ(LookAtFolder(Folder.GetNative("Project")), Before);
+}
+
+TEST_F(FCheckSample, RepairKeepsTheModeOfTheFile)
+{
+	const std::filesystem::path Ini = Folder.GetNative(IniFile);
+	const auto Mode = std::filesystem::perms(0640);
+	std::filesystem::permissions(Ini, Mode);
+	ASSERT_EQ(Check({"--repair"}).ExitStatus, 0);
+	EXPECT_EQ(std::filesystem::status(Ini).permissions(), Mode);
+}
+
+TEST_F(FCheckSample, TheProjectMayBeNamedByItsFileOrItsFolder)
+{
+	EXPECT_EQ(FProgramRun::Run({"check", GetProject() + "/HarborTower.uproject"}, GetEnvironment()).ExitStatus, 1);
+	EXPECT_EQ(FProgramRun::Run({"check", GetProject() + "/"}, GetEnvironment()).ExitStatus, 1);
+}
+
+TEST_F(FCheckSample, JsonTellsWhatWasWritten)
+{
+	const FProgramResult Result = Check({"--repair", "--json"});
+	const nlohmann::json Report = nlohmann::json::parse(Result.Output, nullptr, false);
+	ASSERT_TRUE(Report.is_object()) << Result.Output;
+	EXPECT_EQ(Report.value("status", -1), 0);
+	EXPECT_EQ(Report.value("verdict", ""), "repaired");
+	EXPECT_EQ(Report.value("project", ""), GetProject() + "/HarborTower.uproject");
+	EXPECT_TRUE(Report["pendingWrites"].empty());
+	EXPECT_TRUE(Report["problems"].empty());
+	ASSERT_EQ(Report["writtenFiles"].size(), 1u) << Result.Output;
+	EXPECT_EQ(Report["writtenFiles"][0].value("path", ""), Folder.GetNative(IniFile).string());
+	ASSERT_EQ(Report["writtenFiles"][0]["addedLines"].size(), 2u);
+	EXPECT_EQ(Report["writtenFiles"][0]["addedLines"][0].get<std::string>() + "\n", CollisionIni::ProfileLine);
+	EXPECT_EQ(Report["writtenFiles"][0]["addedLines"][1].get<std::string>() + "\n", CollisionIni::ChannelLine);
+}
+
+TEST_F(FCheckSample, UnreadableMapsDoNotSpoilTheVerdict)
+{
+	// What a project made with the engine has there.
+	Folder.Write(IniFile, "[/Script/EngineSettings.GameMapsSettings]\nEditorStartupMap=/Game/Maps/Binary.Binary\n\n" + CollisionIni::Section + CollisionIni::OtherProfile);
+	Folder.Write("Project/Content/Maps/Binary.umap", std::string("\xC1\x83\x2A\x9E\0\0", 6));
+	const FProgramResult Result = Check();
+	EXPECT_EQ(Result.ExitStatus, 1) << Result.Errors;
+	EXPECT_EQ(Result.Errors, "");
+}

@@ -1,0 +1,66 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "ProjectOnDisk.h"
+
+class FCommandLineUse : public FProjectOnDisk
+{
+};
+
+TEST_F(FCommandLineUse, BadUsageEndsWithTwo)
+{
+	MakeProject();
+	Folder.Write("test.velscript", "");
+	Folder.Write("Two/A.uproject", "{}");
+	Folder.Write("Two/B.uproject", "{}");
+	std::filesystem::create_directories(Folder.GetNative("Empty"));
+	const std::string Root = Folder.GetNative().string();
+	const struct
+	{
+		const char* Behaviour;
+		std::vector<std::string> Arguments;
+		const char* Message;
+	} Cases[] = {
+		{"nothing at all", {}, "subcommand"},
+		{"an unknown command", {"chek", GetProject()}, "chek"},
+		{"no project named", {"check"}, "PROJECT"},
+		{"an unknown option", {"check", GetProject(), "--fix"}, "--fix"},
+		{"too many arguments", {"check", GetProject(), GetProject()}, ""},
+		{"no such project", {"check", Root + "/None"}, "there is no such project"},
+		{"a folder without a project", {"check", Root + "/Empty"}, "there is no .uproject"},
+		{"a folder with two", {"check", Root + "/Two"}, "more than one"},
+		{"a file that is no project", {"check", GetScript()}, "no .uproject"},
+		{"run without a script", {"run", GetProject()}, "SCRIPT"},
+		{"run in no project", {"run", Root + "/None", GetScript()}, "there is no such project"},
+	};
+	for (const auto& Case : Cases)
+	{
+		SCOPED_TRACE(Case.Behaviour);
+		const FProgramResult Result = FProgramRun::Run(Case.Arguments, GetEnvironment());
+		EXPECT_EQ(Result.ExitStatus, 2) << Result.Output;
+		EXPECT_NE(Result.Errors.find(Case.Message), std::string::npos) << Result.Errors;
+		EXPECT_EQ(Result.Output, "");
+	}
+}
+
+TEST_F(FCommandLineUse, HelpIsNoError)
+{
+	for (const std::vector<std::string>& Arguments : {std::vector<std::string>{"--help"}, {"check", "--help"}, {"run", "--help"}, {"--version"}})
+	{
+		const FProgramResult Result = FProgramRun::Run(Arguments);
+		EXPECT_EQ(Result.ExitStatus, 0);
+		EXPECT_NE(Result.Output, "");
+	}
+}
+
+TEST_F(FCommandLineUse, MissingFilesOfRunAreNamed)
+{
+	MakeProject();
+	const FProgramResult Script = FProgramRun::Run({"run", GetProject(), GetScript()}, GetEnvironment());
+	EXPECT_EQ(Script.ExitStatus, 3);
+	EXPECT_NE(Script.Errors.find(GetScript()), std::string::npos) << Script.Errors;
+
+	const std::string Service = Folder.GetNative("none.json").string();
+	const FProgramResult Data = RunScript("wait 0\n", {"--service", Service});
+	EXPECT_EQ(Data.ExitStatus, 3);
+	EXPECT_NE(Data.Errors.find(Service), std::string::npos) << Data.Errors;
+}

@@ -1,0 +1,38 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include <string>
+#include <sys/types.h>
+#include <utility>
+#include <vector>
+
+/** What a finished program left behind. */
+struct FProgramResult
+{
+	int ExitStatus = -1; // -1 when a signal ended it
+	std::string Output;
+	std::string Errors;
+};
+
+/** The built velmorant program as a process of its own. */
+class FProgramRun
+{
+public:
+	using FEnvironment = std::vector<std::pair<std::string, std::string>>;
+
+	/** Starts it; both outputs go to files that are removed with this object. */
+	explicit FProgramRun(const std::vector<std::string>& Arguments, const FEnvironment& Environment = {});
+	~FProgramRun();
+	FProgramRun(const FProgramRun&) = delete;
+	FProgramRun& operator=(const FProgramRun&) = delete;
+
+	FProgramResult Wait();
+
+	/** Starts it and waits. */
+	static FProgramResult Run(const std::vector<std::string>& Arguments, const FEnvironment& Environment = {});
+
+private:
+	std::string Folder;
+	pid_t Process = -1;
+};

@@ -1,0 +1,90 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include "ProgramRun.h"
+#include "TemporaryFolder.h"
+
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <iterator>
+#include <map>
+#include <string>
+#include <utility>
+
+/** Every file below a folder, with its bytes and the time it was changed last. */
+using FFolderState = std::map<std::string, std::pair<std::string, std::filesystem::file_time_type>>;
+
+inline FFolderState LookAtFolder(const std::filesystem::path& Folder)
+{
+	FFolderState State;
+	for (const auto& Entry : std::filesystem::recursive_directory_iterator(Folder))
+	{
+		std::string Bytes;
+		if (Entry.is_regular_file())
+		{
+			std::ifstream Stream(Entry.path(), std::ios::binary);
+			Bytes.assign(std::istreambuf_iterator<char>(Stream), std::istreambuf_iterator<char>());
+		}
+		State[Entry.path().string()] = {Bytes, Entry.last_write_time()};
+	}
+	return State;
+}
+
+/** A project in a folder of its own, and the program run on it. User settings stay beside it. */
+class FProjectOnDisk : public testing::Test
+{
+protected:
+	static inline const std::filesystem::path Sample = VELMORANT_SOURCE_DIR "/Samples/HarborTower";
+	static inline const std::string IniFile = "Project/Config/DefaultEngine.ini";
+
+	/** An empty project, nothing but a descriptor. */
+	void MakeProject() const
+	{
+		Folder.Write("Project/Test.uproject", "{ \"FileVersion\": 3, \"EngineAssociation\": \"5.6\" }\n");
+	}
+
+	void CopySample() const
+	{
+		std::filesystem::copy(Sample, Folder.GetNative("Project"), std::filesystem::copy_options::recursive);
+	}
+
+	void WriteIni(const std::string& Bytes) const { Folder.Write(IniFile, Bytes); }
+	std::string ReadIni() const { return Folder.Read(IniFile); }
+
+	std::string GetProject() const { return Folder.GetNative("Project").string(); }
+
+	FProgramRun::FEnvironment GetEnvironment() const { return {{"XDG_CONFIG_HOME", Folder.GetNative("UserConfig").string()}}; }
+
+	FProgramResult Check(const std::vector<std::string>& Options = {}) const
+	{
+		std::vector<std::string> Arguments = {"check", GetProject()};
+		Arguments.insert(Arguments.end(), Options.begin(), Options.end());
+		return FProgramRun::Run(Arguments, GetEnvironment());
+	}
+
+	/** Writes the lines to "test.velscript" beside the project and runs that. */
+	FProgramResult RunScript(const std::string& Lines, const std::vector<std::string>& Options = {}) const
+	{
+		Folder.Write("test.velscript", Lines);
+		std::vector<std::string> Arguments = {"run", GetProject(), GetScript()};
+		Arguments.insert(Arguments.end(), Options.begin(), Options.end());
+		return FProgramRun::Run(Arguments, GetEnvironment());
+	}
+
+	std::string GetScript() const { return Folder.GetNative("test.velscript").string(); }
+
+	FTemporaryFolder Folder;
+};
+
+inline size_t CountOf(const std::string& Text, const std::string& Part)
+{
+	size_t Count = 0;
+	for (size_t Found = Text.find(Part); Found != std::string::npos; Found = Text.find(Part, Found + Part.size()))
+	{
+		++Count;
+	}
+	return Count;
+}

@@ -1,0 +1,125 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "ProjectOnDisk.h"
+
+class FScriptErrors : public FProjectOnDisk
+{
+protected:
+	FScriptErrors() { MakeProject(); }
+};
+
+TEST_F(FScriptErrors, MalformedLinesAreNamedBeforeAnythingRuns)
+{
+	const struct
+	{
+		const char* Behaviour;
+		std::string Script;
+		std::string Line;
+		std::string Message;
+	} Cases[] = {
+		{"an unknown command", "wait 0\n# note\nclik A B\n", "(3)", "there is no command \"clik\""},
+		{"an unknown expectation", "expect weather sunny\n", "(1)", "nothing called \"weather\" can be expected"},
+		{"nothing expected", "expect no\n", "(1)", "nothing called \"\" can be expected"},
+		{"too few words", "\n\nclick Panel\n", "(3)", "this is written: click PANEL WIDGET"},
+		{"too many words", "save all\n", "(1)", "this is written: save"},
+		{"an unknown option", "expect notification \"A\" colour red\n", "(1)", "this is written: expect [no] notification TITLE"},
+		{"an option without value", "press \"A\" on\n", "(1)", "this is written: press BUTTON"},
+		{"an open quote", "wait 0\nheading \"Start\n", "(2)", "a quote is opened and not closed"},
+		{"an unknown escape", "heading \"a\\b\"\n", "(1)", "after a backslash"},
+	};
+	for (const auto& Case : Cases)
+	{
+		SCOPED_TRACE(Case.Behaviour);
+		const FProgramResult Result = RunScript(Case.Script);
+		EXPECT_EQ(Result.ExitStatus, 3);
+		EXPECT_EQ(Result.Errors.rfind(GetScript() + Case.Line + ": error: ", 0), 0u) << Result.Errors;
+		EXPECT_NE(Result.Errors.find(Case.Message), std::string::npos) << Result.Errors;
+		EXPECT_EQ(Result.Output, "");
+	}
+}
+
+TEST_F(FScriptErrors, AllMalformedLinesAreTold)
+{
+	const FProgramResult Result = RunScript("first\nwait 0\nsecond\nheading \"\n");
+	EXPECT_EQ(CountOf(Result.Errors, ": error: "), 3u) << Result.Errors;
+	EXPECT_LT(Result.Errors.find("(1)"), Result.Errors.find("(3)"));
+	EXPECT_LT(Result.Errors.find("(3)"), Result.Errors.find("(4)"));
+}
+
+TEST_F(FScriptErrors, StepsThatCannotBeDoneEndTheScriptWithThree)
+{
+	const struct
+	{
+		const char* Behaviour;
+		std::string Step;
+		std::string Message;
+	} Cases[] = {
+		{"no such panel asset", "open /VelmorantPro/Nowhere", "/VelmorantPro/Nowhere"},
+		{"no such panel", "click Login SummitButton", "no panel named Login is open"},
+		{"no such button", "press \"Whatever\"", "\"Whatever\" cannot be pressed"},
+		{"no such notification", "press \"Skip\" on \"Nothing\"", "no notification \"Nothing\""},
+		{"no such asset", "select /Game/Nothing", "/Game/Nothing"},
+		{"no such class", "call Nothing.Anything", "neither an open panel nor a class"},
+		{"no such function", "call VelmorantEditorUtilitiesLibrary.Anything", "no function Anything"},
+		{"not for Blueprints", "call VelmorantEditorUtilitiesLibrary.NotifyPopup a b c d", "no function NotifyPopup"},
+		{"wrong number of arguments", "call VelmorantEditorUtilitiesLibrary.CopyToClipboard a", "Text: FString, SubText: FString"},
+		{"an argument of another type", "call VelmorantEditorUtilitiesLibrary.PushEditorNotification a b CS_Success soon", "Duration: "},
+		{"no asset for an argument", "call VelmorantEditorUtilitiesLibrary.CreateVariantSetFromConfigurator /Game/Nothing", "/Game/Nothing"},
+		{"no time", "wait soon", "seconds are a number"},
+		{"time does not run backwards", "wait -1", "seconds are a number"},
+		{"no such kind of question", "answer Weather Yes", "SaveAsset"},
+		{"files elsewhere", "print file ../../etc/passwd", "stand in it"},
+		{"no such file", "print file Config/None.ini", "Config/None.ini"},
+	};
+	for (const auto& Case : Cases)
+	{
+		SCOPED_TRACE(Case.Behaviour);
+		const FProgramResult Result = RunScript("wait 0\n" + Case.Step + "\nheading \"Not reached\"\n");
+		EXPECT_EQ(Result.ExitStatus, 3) << Result.Errors;
+		EXPECT_NE(Result.Errors.find(GetScript() + "(2): error: "), std::string::npos) << Result.Errors;
+		EXPECT_NE(Result.Errors.find(Case.Message), std::string::npos) << Result.Errors;
+		EXPECT_EQ(Result.Output.find("Not reached"), std::string::npos);
+	}
+}
+
+TEST_F(FScriptErrors, ExpectationsThatDoNotHoldEndTheScriptWithOne)
+{
+	const struct
+	{
+		const char* Step;
+		const char* Message;
+	} Cases[] = {
+		{"expect notification \"Nothing\"", "there were: pending: Velmorant: Missing UnitVolume Profile"},
+		{"expect no notification \"Velmorant: Missing UnitVolume Profile\"", "failed: expect no notification"},
+		{"expect notification \"Velmorant: Missing UnitVolume Profile\" state success", "pending"},
+		{"expect log \"Nothing\"", "no line of the log"},
+		{"expect clipboard \"Nothing\"", "it holds \"\""},
+		{"expect asset /Game/Nothing", "/Game/Nothing"},
+		{"expect panel Login", "it is not open"},
+		{"expect file Config/DefaultEngine.ini line Nothing", "that is not in it"},
+		{"expect actors Actor 5", "there are 0"},
+		{"expect unsaved", "nothing is unsaved"},
+		{"expect property default:VelmorantSDKSettings ApiKey Nothing", "it is \"\""},
+	};
+	for (const auto& Case : Cases)
+	{
+		SCOPED_TRACE(Case.Step);
+		const FProgramResult Result = RunScript(std::string("\n") + Case.Step + "\n");
+		EXPECT_EQ(Result.ExitStatus, 1) << Result.Errors;
+		EXPECT_NE(Result.Errors.find(GetScript() + "(2): failed: "), std::string::npos) << Result.Errors;
+		EXPECT_NE(Result.Errors.find(Case.Message), std::string::npos) << Result.Errors;
+	}
+}
+
+TEST_F(FScriptErrors, PasswordsStayHiddenWhenTheirStepFails)
+{
+	const std::string Open = "open /VelmorantPro/EditorHelpers/DeveloperPanel/LoginPanel as Login\n";
+	for (const char* Step : {"type Login NoSuchField s3cret-77", "type Nowhere UserPassword s3cret-77", "expect widget Login UserPassword value s3cret-77", "type Login UserPassword s3cret-77 again",
+			 "type Login UserPassword \"s3cret-77"})
+	{
+		SCOPED_TRACE(Step);
+		const FProgramResult Result = RunScript(Open + Step + "\n");
+		EXPECT_EQ(Result.ExitStatus, 3) << Result.Errors;
+		EXPECT_EQ((Result.Output + Result.Errors).find("s3cret-77"), std::string::npos) << Result.Output << Result.Errors;
+	}
+}

@@ -1,0 +1,184 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "ProjectOnDisk.h"
+
+/** Scripts that work on the sample. */
+class FScriptSteps : public FProjectOnDisk
+{
+protected:
+	FScriptSteps() { CopySample(); }
+
+	/** Runs the script and expects that all of it is done. */
+	FProgramResult Do(const std::string& Script, const std::vector<std::string>& Options = {}) const
+	{
+		const FProgramResult Result = RunScript(Script, Options);
+		EXPECT_EQ(Result.ExitStatus, 0) << Result.Output << Result.Errors;
+		return Result;
+	}
+
+	/** Signed in, with the project's data there. */
+	static inline const std::string SignIn =
+		"open /VelmorantPro/EditorHelpers/DeveloperPanel/VelmorantDeveloperPanel as Dev\n"
+		"type Dev UserName lucia\n"
+		"type Dev UserPassword harbor-2026\n"
+		"click Dev SummitButton\n"
+		"wait 1\n"
+		"choose Dev ProjectSelection \"Harbor Tower\"\n"
+		"wait 1\n";
+
+	static inline const std::string CreateAsset = "call VelmorantEditorUtilitiesLibrary.CreateConfiguratorDataAssetFromConfigurator \"Garden Flat\"\n";
+};
+
+TEST_F(FScriptSteps, WrongCredentialsShowAndEndTheBusyState)
+{
+	Do("open /VelmorantPro/EditorHelpers/DeveloperPanel/VelmorantDeveloperPanel as Dev\n"
+	   "type Dev UserName lucia\n"
+	   "type Dev UserPassword wrong\n"
+	   "click Dev SummitButton\n"
+	   "expect widget Dev SummitButton state disabled\n"
+	   "wait 1\n"
+	   "expect widget Dev SummitButton state enabled\n"
+	   "expect no widget Dev LoginStatus value \"Signed in as lucia\"\n"
+	   "expect no option Dev ProjectSelection \"Harbor Tower\"\n");
+}
+
+TEST_F(FScriptSteps, CopiesTheKeyOfTheChosenProject)
+{
+	Do(SignIn + "click Dev CopyApyKey\nexpect clipboard ht-7f3c-91d2-demo\nexpect widget Dev ProjectName value \"Harbor Tower\" state read-only\n");
+}
+
+TEST_F(FScriptSteps, ACancelledDialogMakesNoAsset)
+{
+	Do(SignIn + "answer SaveAsset Cancel\n" + CreateAsset +
+		"expect question SaveAsset choice Cancel\n"
+		"expect notification \"Cancelled Configuration Creation\" state fail\n"
+		"expect no asset /Game/Velmorant/Configurator/Configurator_GardenFlat\n"
+		"expect no unsaved\n");
+}
+
+TEST_F(FScriptSteps, AnswersMayNameFolderAndAsset)
+{
+	Do(SignIn + "answer SaveAsset Save Name=Mine Path=/Game/Elsewhere\n" + CreateAsset + "save\nexpect asset /Game/Elsewhere/Mine class VelmorantConfiguratorDataAsset\n"
+		"expect property /Game/Elsewhere/Mine ConfiguratorName \"Garden Flat\"\n"
+		"expect property /Game/Elsewhere/Mine ConfiguratorUnit.Rooms.Num 4\n"
+		"expect property /Game/Elsewhere/Mine ConfiguratorUnit.Rooms[1].Name Kitchen\n"
+		"restart\n"
+		"expect property /Game/Elsewhere/Mine ConfiguratorUnit.Rooms[1].Groups[2].Products[2].Name \"Pro: steam oven\"\n");
+	EXPECT_TRUE(Folder.Exists("Project/Content/Elsewhere/Mine.uasset.json"));
+}
+
+TEST_F(FScriptSteps, AnAnswerThatWasNotOfferedIsAnError)
+{
+	const FProgramResult Result = RunScript(SignIn + "answer SaveAsset Maybe\n" + CreateAsset);
+	EXPECT_EQ(Result.ExitStatus, 3);
+	EXPECT_NE(Result.Errors.find("the answer of line 8, \"Maybe\", is not one of: Save, Cancel"), std::string::npos) << Result.Errors;
+}
+
+TEST_F(FScriptSteps, AnAnswerThatNothingAskedForIsToldAtTheEnd)
+{
+	const FProgramResult Result = Do("answer SaveAsset Save\nwait 0\n");
+	EXPECT_NE(Result.Errors.find("(1): warning: nothing asked for this answer"), std::string::npos) << Result.Errors;
+}
+
+TEST_F(FScriptSteps, UnsavedAssetsAreNeverDroppedSilently)
+{
+	const std::string Asset = "/Game/Velmorant/Configurator/Configurator_GardenFlat";
+	const FProgramResult Ended = Do(SignIn + CreateAsset + "expect unsaved " + Asset + "\n");
+	EXPECT_NE(Ended.Errors.find("not saved: " + Asset), std::string::npos) << Ended.Errors;
+
+	for (const char* Restart : {"restart\n", "press \"Add to Project Config\"\npress \"Restart Editor\"\n"})
+	{
+		const FProgramResult Restarted = RunScript(SignIn + CreateAsset + Restart);
+		EXPECT_EQ(Restarted.ExitStatus, 3);
+		EXPECT_NE(Restarted.Errors.find("unsaved changes"), std::string::npos) << Restarted.Errors;
+		EXPECT_NE(Restarted.Errors.find(Asset), std::string::npos) << Restarted.Errors;
+	}
+
+	const FProgramResult Discarded = Do(SignIn + CreateAsset + "discard\nrestart\nexpect no asset " + Asset + "\n");
+	EXPECT_NE(Discarded.Output.find("not to be saved: " + Asset), std::string::npos) << Discarded.Output;
+	EXPECT_EQ(Discarded.Errors, "");
+}
+
+TEST_F(FScriptSteps, TheLevelIsSavedAndOpenedAgain)
+{
+	Do(SignIn + CreateAsset +
+		"select /Game/Velmorant/Configurator/Configurator_GardenFlat\n"
+		"action ConfiguratorDataAsset_CreateLevelVariantActor\n"
+		"expect actors VelmorantLevelVariantSetsActor 1\n"
+		"expect unsaved /Game/Maps/HarborTower\n"
+		"save\n"
+		"restart\n"
+		"expect level /Game/Maps/HarborTower\n"
+		"expect actors VelmorantLevelVariantSetsActor 1\n"
+		"expect property actor:VelmorantLevelVariantSetsActor LevelVariantSets /Game/Velmorant/Configurator/LevelVariant_Garden_Flat.LevelVariant_Garden_Flat\n"
+		"expect property actor:VelmorantLevelVariantSetsActor ActorLocation.Z 500\n"
+		"expect variant /Game/Velmorant/Configurator/LevelVariant_Garden_Flat \"Kitchen - Appliances\" \"Pro: steam oven\"\n"
+		"expect no variant /Game/Velmorant/Configurator/LevelVariant_Garden_Flat \"Kitchen - Appliances\" Golden\n");
+}
+
+TEST_F(FScriptSteps, AnUntitledLevelNeedsANameToBeSaved)
+{
+	const std::string Placed = SignIn + CreateAsset +
+		"save\nnew level\nselect /Game/Velmorant/Configurator/Configurator_GardenFlat\naction \"Place LevelVariantActor into Level\"\n";
+	const FProgramResult Nameless = RunScript(Placed + "save\n");
+	EXPECT_EQ(Nameless.ExitStatus, 3);
+	EXPECT_NE(Nameless.Errors.find("save level /Game/FOLDER/NAME"), std::string::npos) << Nameless.Errors;
+
+	std::filesystem::remove_all(Folder.GetNative("Project"));
+	CopySample();
+	Do(Placed + "save level /Game/Maps/Second\nsave\nrestart\nopen level /Game/Maps/Second\nexpect actors VelmorantLevelVariantSetsActor 1\n");
+	EXPECT_TRUE(Folder.Exists("Project/Content/Maps/Second.umap.json"));
+}
+
+TEST_F(FScriptSteps, CallsGiveTheirResult)
+{
+	const FProgramResult Result = Do(
+		"call VelmorantEditorUtilitiesLibrary.GetVelmorantProVersion\n"
+		"expect result 3.1.0\n"
+		"call UVelmorantEditorUtilitiesLibrary.CopyToClipboard \"one two\" \"Copied\"\n"
+		"expect clipboard \"one two\"\n"
+		"call VelmorantEditorUtilitiesLibrary.PushEditorNotification \"Floors\" \"\" CS_Success 2.5\n"
+		"expect notification Floors state success times 1\n"
+		"wait 5\n"
+		"expect no standing Floors\n");
+	EXPECT_NE(Result.Output.find("= 3.1.0"), std::string::npos) << Result.Output;
+}
+
+TEST_F(FScriptSteps, TheServiceCanComeFromAnotherFile)
+{
+	std::string Data = Folder.Read("Project/VelmorantService.json");
+	Data.replace(Data.find("harbor-2026"), 11, "other-pass!");
+	Folder.Write("My Service.json", Data);
+	std::string Script = SignIn;
+	Script.replace(Script.find("harbor-2026"), 11, "\"other-pass!\"");
+	Do(Script + "expect widget Dev LoginStatus value \"Signed in as lucia\"\n", {"--service", Folder.GetNative("My Service.json").string()});
+}
+
+TEST_F(FScriptSteps, AMalformedServiceFileIsNamed)
+{
+	const std::string Service = Folder.GetNative("Service.json").string();
+	const struct
+	{
+		const char* Behaviour;
+		std::string Data;
+	} Cases[] = {
+		{"no JSON", "{ \"users\": [ "},
+		{"a user without password", "{ \"users\": [ { \"userName\": \"lucia\" } ], \"projects\": [] }"},
+	};
+	for (const auto& Case : Cases)
+	{
+		SCOPED_TRACE(Case.Behaviour);
+		Folder.Write("Service.json", Case.Data);
+		const FProgramResult Result = RunScript(SignIn, {"--service", Service});
+		EXPECT_NE(Result.Output.find(Service), std::string::npos) << Result.Output;
+		EXPECT_NE(Result.ExitStatus, 0) << "there are no projects to choose from";
+	}
+}
+
+TEST_F(FScriptSteps, WordsMayHoldBlanksQuotesAndLineEnds)
+{
+	Do("call VelmorantEditorUtilitiesLibrary.CopyToClipboard \"a \\\"b\\\"\\n\\tc\\\\\" x # a comment\n"
+	   "expect clipboard \"a \\\"b\\\"\\n\\tc\\\\\"\n"
+	   "call VelmorantEditorUtilitiesLibrary.CopyToClipboard Ático#1 x\n"
+	   "expect clipboard \"Ático#1\"\n");
+}

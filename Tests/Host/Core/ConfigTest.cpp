@@ -1,0 +1,295 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "EditorFilesFixture.h"
+#include "HostFiles.h"
+#include "Misc/ConfigCacheIni.h"
+
+#include <algorithm>
+
+namespace
+{
+	class Config : public FEditorFilesTest
+	{
+	protected:
+		/** The section of a file read by path; one line says so when there is none. */
+		std::vector<std::string> GetSection(const FString& Filename, const TCHAR* Section)
+		{
+			TArray<FString> Lines{TEXT("left over")};
+			const bool bFound = GConfig->GetSection(Section, Lines, Filename);
+			return bFound ? ToUtf8(Lines) : std::vector<std::string>{"no such section"};
+		}
+
+		std::vector<std::string> GetArray(const FString& Filename, const TCHAR* Key)
+		{
+			TArray<FString> Values;
+			GConfig->GetArray(TEXT("S"), Key, Values, Filename);
+			return ToUtf8(Values);
+		}
+
+		FString File = Folder.Get("Config/DefaultEngine.ini");
+	};
+
+	TEST_F(Config, AFileReadByPathKeepsItsLinesAsTheyAre)
+	{
+		struct FCase
+		{
+			const char* Behaviour;
+			std::string Text;
+			std::vector<std::string> Expected;
+		};
+		const FCase Cases[] = {
+			{"operations stay in front of keys", "[S]\n+A=1\n-A=2\n.A=3\n!A=4\n@A=5\n*A=6\n", {"+A=1", "-A=2", ".A=3", "!A=4", "@A=5", "*A=6"}},
+			{"duplicates stay, in order", "[S]\n+A=1\nB=2\n+A=1\n", {"+A=1", "B=2", "+A=1"}},
+			{"blanks around line, key and value go", "[S]\n \t+A \t=  1  \n", {"+A=1"}},
+			{"blanks and quotes inside a value stay", "[S]\n+A=(N=\"x y\", R=1)\n", {"+A=(N=\"x y\", R=1)"}},
+			{"quotes around the whole value go", "[S]\nA=\" x \\\"y\\\" \\\\ \\n\"\n", {"A= x \"y\" \\ \n"}},
+			{"comments and lines without '=' are ignored", "[S]\n; A=1\n  ;A=2\nnothing\nA=3 ; no comment\n// B=4\n", {"A=3 ; no comment", "// B=4"}},
+			{"a value may hold '='", "[S]\nA=b=c\n", {"A=b=c"}},
+			{"a value may be empty", "[S]\nA=\n=b\n", {"A="}},
+			{"a repeated header goes on with the section", "[S]\nA=1\n[T]\nB=2\n[s]\nC=3\n", {"A=1", "C=3"}},
+			{"blanks around a header", "  [S]  \nA=1\n", {"A=1"}},
+			{"entries before the first header belong to none", "A=1\n[S]\nB=2\n", {"B=2"}},
+			{"a backslash at the end joins the next line", "[S]\nA=1\\\n2\\\n[T]\nB=3\n", {"A=12[T]", "B=3"}},
+			{"CRLF", "[S]\r\nA=1\r\nB=2", {"A=1", "B=2"}},
+			{"a lone CR", "[S]\rA=1\rB=2\r", {"A=1", "B=2"}},
+			{"a mark in front", "\xEF\xBB\xBF[S]\nA=\xC3\xBC\n", {"A=\xC3\xBC"}},
+			{"a key may look numbered", "[S]\nA_01=1\nA_1=2\nA_0=3\n", {"A_01=1", "A_1=2", "A_0=3"}},
+			{"what is too long for a key is none", "[S]\n" + std::string(2000, 'k') + "=1\nA=2\n", {"A=2"}},
+			{"an empty section", "[S]\n[T]\nA=1\n", {}},
+			{"no such section", "[T]\nA=1\n", {"no such section"}},
+		};
+		for (const FCase& Case : Cases)
+		{
+			SCOPED_TRACE(Case.Behaviour);
+			Folder.Write("Config/DefaultEngine.ini", Case.Text);
+			GConfig->UnloadFile(File);
+			EXPECT_EQ(GetSection(File, TEXT("s")), Case.Expected);
+		}
+	}
+
+	TEST_F(Config, AFileReadByPathStaysAsItWasUntilItIsUnloaded)
+	{
+		Folder.Write("Config/DefaultEngine.ini", "[S]\nA=1\n");
+		ASSERT_TRUE(GConfig->DoesSectionExist(TEXT("S"), File));
+		Folder.Write("Config/DefaultEngine.ini", "[S]\nA=2\n[T]\n");
+		EXPECT_EQ(GetSection(File, TEXT("S")), std::vector<std::string>{"A=1"});
+		EXPECT_FALSE(GConfig->DoesSectionExist(TEXT("T"), File));
+		GConfig->UnloadFile(File);
+		EXPECT_EQ(GetSection(File, TEXT("S")), std::vector<std::string>{"A=2"});
+		EXPECT_TRUE(GConfig->DoesSectionExist(TEXT("t"), File));
+	}
+
+	TEST_F(Config, AMissingFileHasNoSectionsUntilItTurnsUp)
+	{
+		EXPECT_FALSE(GConfig->DoesSectionExist(TEXT("S"), File));
+		EXPECT_EQ(GConfig->GetSection(TEXT("S"), false, File), nullptr);
+		Folder.Write("Config/DefaultEngine.ini", "[S]\nA=1\n");
+		EXPECT_TRUE(GConfig->DoesSectionExist(TEXT("S"), File));
+		EXPECT_EQ(GetProblems(), "");
+	}
+
+	TEST_F(Config, AnUnreadableFileIsReportedAndHasNoSections)
+	{
+		Folder.Write("Config/DefaultEngine.ini", "[S]\nA=T\xFCr\n");
+		EXPECT_FALSE(GConfig->DoesSectionExist(TEXT("S"), File));
+		EXPECT_EQ(HostProblems::GetAll().Num(), 1);
+	}
+
+	TEST_F(Config, ABranchMergesEngineProjectAndUser)
+	{
+		struct FCase
+		{
+			const char* Behaviour;
+			std::string Base;
+			std::string Project;
+			std::string User;
+			std::vector<std::string> Expected;
+		};
+		const FCase Cases[] = {
+			{"a plain key replaces", "A=1", "A=2", "", {"2"}},
+			{"a plain key replaces a whole list", "+A=1\n+A=2", "A=3", "", {"3"}},
+			{"plus adds", "+A=1", "+A=2", "+A=3", {"1", "2", "3"}},
+			{"plus adds no value twice", "+A=1", "+A=1\n+A=2", "+A=2", {"1", "2"}},
+			{"case makes another value", "+A=x", "+A=X", "", {"x", "X"}},
+			{"a dot adds in any case", "+A=1", ".A=1", "", {"1", "1"}},
+			{"minus removes the value", "+A=1\n+A=2", "-A=1", "", {"2"}},
+			{"minus of an unknown value does nothing", "+A=1", "-A=2", "", {"1"}},
+			{"what was removed can be added at the end", "+A=1\n+A=2", "-A=1\n+A=1", "", {"2", "1"}},
+			{"an exclamation mark removes all", "+A=1\n+A=2", "!A=ClearArray\n+A=3", "", {"3"}},
+			{"keys ignore case", "+a=1", "+A=2", "", {"1", "2"}},
+			{"the user has the last word", "A=1", "A=2", "A=3", {"3"}},
+			{"no layer has the key", "", "", "", {}},
+		};
+		HostPaths::SetEngineDir(Folder.Get("Engine"));
+		for (const FCase& Case : Cases)
+		{
+			SCOPED_TRACE(Case.Behaviour);
+			Folder.Write("Engine/Config/BaseEngine.ini", "[S]\n" + Case.Base);
+			Folder.Write("Config/DefaultEngine.ini", "[S]\n" + Case.Project);
+			Folder.Write("Saved/Config/LinuxEditor/Engine.ini", "[S]\n" + Case.User);
+			HostConfig::ReloadBranch(TEXT("Engine"));
+			EXPECT_EQ(GetArray(GEngineIni, TEXT("A")), Case.Expected);
+		}
+	}
+
+	TEST_F(Config, AnyNameIsABranchAndAnyLayerMayBeMissing)
+	{
+		Folder.Write("Config/DefaultVelmorant.ini", "[S]\n+A=1\n");
+		EXPECT_EQ(GetArray(HostConfig::GetBranchFile(TEXT("Velmorant")), TEXT("A")), std::vector<std::string>{"1"});
+		EXPECT_FALSE(GConfig->DoesSectionExist(TEXT("S"), HostConfig::GetBranchFile(TEXT("Unheard")))) << "nothing is written for it anywhere";
+	}
+
+	TEST_F(Config, MacrosInValuesStandForFolders)
+	{
+		Folder.Write("Config/DefaultGame.ini", "[S]\nA=%GAMEDIR%Content\nB=100%\n");
+		FString Value;
+		ASSERT_TRUE(GConfig->GetString(TEXT("S"), TEXT("A"), Value, GGameIni));
+		EXPECT_EQ(ToUtf8(Value), ToUtf8(Folder.Get("Content")));
+		ASSERT_TRUE(GConfig->GetString(TEXT("S"), TEXT("B"), Value, GGameIni));
+		EXPECT_EQ(ToUtf8(Value), "100%");
+		EXPECT_FALSE(GConfig->GetString(TEXT("S"), TEXT("C"), Value, GGameIni));
+	}
+
+	TEST_F(Config, TheHostBringsTheStockCollisionProfiles)
+	{
+		TArray<FString> Profiles;
+		EXPECT_EQ(GConfig->GetArray(TEXT("/Script/Engine.CollisionProfile"), TEXT("Profiles"), Profiles, GEngineIni), 18);
+		ASSERT_FALSE(Profiles.IsEmpty());
+		EXPECT_TRUE(Profiles[0].StartsWith(TEXT("(Name=\"NoCollision\",CollisionEnabled=NoCollision,")));
+		for (const FString& Profile : Profiles)
+		{
+			EXPECT_EQ(Profile.Contains(TEXT("UnitVolume")), false);
+			EXPECT_TRUE(Profile.EndsWith(TEXT("\")"))) << ToUtf8(Profile);
+		}
+	}
+
+	TEST_F(Config, GoesWithItsEditor)
+	{
+		EXPECT_TRUE(GEngineIni.EndsWith(TEXT("/Saved/Config/LinuxEditor/Engine.ini")));
+		HostState::DestroyAll();
+		EXPECT_EQ(GConfig, nullptr);
+		EXPECT_TRUE(GEngineIni.IsEmpty());
+	}
+
+	class SectionUpdate : public Config
+	{
+	protected:
+		struct FLine
+		{
+			const char* Key;
+			const char* Value;
+		};
+
+		bool Update(const std::vector<FLine>& Wanted, const std::vector<const char*>& Owned = {"A", "List"})
+		{
+			TArray<TPair<FString, FString>> Lines;
+			for (const FLine& Line : Wanted)
+			{
+				Lines.Add(TPair<FString, FString>(FString(Line.Key), FString(UTF8_TO_TCHAR(Line.Value))));
+			}
+			TArray<FString> Keys;
+			for (const char* Key : Owned)
+			{
+				Keys.Add(FString(Key));
+			}
+			return HostConfig::UpdateSection(File, TEXT("S"), Lines, Keys);
+		}
+	};
+
+	TEST_F(SectionUpdate, ChangesItsOwnKeysAndNothingElse)
+	{
+		struct FCase
+		{
+			const char* Behaviour;
+			std::string Before;
+			std::vector<FLine> Wanted;
+			std::string After;
+		};
+		const FCase Cases[] = {
+			{"a changed value changes in place", "; c\n[S]\nX=1\nA=old ; text\nY=2\n[T]\nA=old\n", {{"A", "new"}}, "; c\n[S]\nX=1\nA=new\nY=2\n[T]\nA=old\n"},
+			{"a new key ends the section, before blank lines", "[S]\nX=1\n\n[T]\nB=2\n", {{"A", "1"}}, "[S]\nX=1\nA=1\n\n[T]\nB=2\n"},
+			{"a section without entries", "[S]\n\n[T]\n", {{"A", "1"}}, "[S]\nA=1\n\n[T]\n"},
+			{"a new section ends the file", "[T]\nB=2\n", {{"A", "1"}}, "[T]\nB=2\n\n[S]\nA=1\n"},
+			{"a list keeps its place and grows there", "[S]\n+List=1\n; about X\nX=1\n", {{"+List", "1"}, {"+List", "2"}}, "[S]\n+List=1\n+List=2\n; about X\nX=1\n"},
+			{"a list shrinks", "[S]\n+List=1\n+List=2\nX=1\n+List=3\n", {{"+List", "1"}}, "[S]\n+List=1\nX=1\n"},
+			{"all own lines may go", "[S]\nA=1\nX=2\n+List=3\n", {}, "[S]\nX=2\n"},
+			{"whatever the operation in front of an own key", "[S]\n.List=1\n!List=x\n", {{"+List", "1"}}, "[S]\n+List=1\n"},
+			{"foreign keys that begin alike stay", "[S]\nAB=1\nA=1\n", {{"A", "2"}}, "[S]\nAB=1\nA=2\n"},
+			{"case of section and key does not count", "[s]\na=1\n", {{"A", "2"}}, "[s]\nA=2\n"},
+			{"a section in two parts", "[S]\nA=1\n[T]\n[S]\nX=1\n", {{"A", "2"}, {"+List", "1"}}, "[S]\nA=2\n[T]\n[S]\nX=1\n+List=1\n"},
+			{"line ends stay", "[S]\r\nA=1\r\nX=1\n[T]\r\n", {{"A", "2"}, {"+List", "1"}}, "[S]\r\nA=2\r\nX=1\n+List=1\r\n[T]\r\n"},
+			{"a missing last line end stays missing", "[S]\nX=1", {{"A", "2"}}, "[S]\nX=1\nA=2"},
+			{"an entry on several lines is one", "[S]\nA=1\\\n2\nX=1\n", {{"A", "3"}}, "[S]\nA=3\nX=1\n"},
+			{"a comment that looks like an entry", "[S]\n;A=1\n", {{"A", "2"}}, "[S]\n;A=1\nA=2\n"},
+			{"values are quoted where they must be", "[S]\n", {{"+List", " x "}, {"+List", "\"q\""}, {"+List", "(a=\"b\")"}, {"+List", "c\\"}}, "[S]\n+List=\" x \"\n+List=\"\\\"q\\\"\"\n+List=(a=\"b\")\n+List=\"c\\\\\"\n"},
+			{"a mark stays", "\xEF\xBB\xBF[S]\nA=1\n", {{"A", "\xC3\xBC"}}, "\xEF\xBB\xBF[S]\nA=\xC3\xBC\n"},
+		};
+		for (const FCase& Case : Cases)
+		{
+			SCOPED_TRACE(Case.Behaviour);
+			Folder.Write("Config/DefaultEngine.ini", Case.Before);
+			EXPECT_TRUE(Update(Case.Wanted));
+			EXPECT_EQ(Folder.Read("Config/DefaultEngine.ini"), Case.After);
+		}
+	}
+
+	TEST_F(SectionUpdate, LeavesAFileAloneThatSaysAllThisAlready)
+	{
+		for (const std::string Text : {"[S]\r\n a = 1\r\n+List=\"x\"\r\n\r\nX=y", "\xEF\xBB\xBF[s]\nA=\"1\"\n+LIST=x\n"})
+		{
+			Folder.Write("Config/DefaultEngine.ini", Text);
+			const auto Before = Age("Config/DefaultEngine.ini");
+			EXPECT_TRUE(Update({{"A", "1"}, {"+List", "x"}}));
+			EXPECT_EQ(Folder.Read("Config/DefaultEngine.ini"), Text);
+			EXPECT_EQ(std::filesystem::last_write_time(Folder.GetNative("Config/DefaultEngine.ini")), Before);
+		}
+	}
+
+	TEST_F(SectionUpdate, CreatesFileAndFolderOnlyWhenThereIsSomethingToSay)
+	{
+		EXPECT_TRUE(Update({}));
+		EXPECT_FALSE(Folder.Exists("Config/DefaultEngine.ini"));
+		EXPECT_TRUE(Update({{"A", "1"}}));
+		EXPECT_EQ(Folder.Read("Config/DefaultEngine.ini"), "[S]\nA=1\n");
+	}
+
+	TEST_F(SectionUpdate, WhatIsWrittenReadsBackAfterAReload)
+	{
+		const std::vector<FLine> Lines = {{"+List", "  blanks  "}, {"+List", "say \"hi\""}, {"+List", "\"quoted\" \\ and \n broken"}, {"+List", "T\xC3\xBCr"}};
+		EXPECT_EQ(GetArray(GEngineIni, TEXT("List")), std::vector<std::string>{});
+		ASSERT_TRUE(Update(Lines));
+		EXPECT_EQ(GetArray(GEngineIni, TEXT("List")), std::vector<std::string>{}) << "a branch changes when it is reloaded, not before";
+		HostConfig::ReloadBranch(TEXT("Engine"));
+		EXPECT_EQ(GetArray(GEngineIni, TEXT("List")), (std::vector<std::string>{"  blanks  ", "say \"hi\"", "\"quoted\" \\ and \n broken", "T\xC3\xBCr"}));
+	}
+
+	TEST_F(SectionUpdate, RefusesFilesThatItCannotReadOrWrite)
+	{
+		Folder.Write("Config/DefaultEngine.ini", "[S]\nA=T\xFCr\n");
+		EXPECT_FALSE(Update({{"A", "1"}}));
+		EXPECT_EQ(Folder.Read("Config/DefaultEngine.ini"), "[S]\nA=T\xFCr\n");
+		Folder.Write("Config/DefaultEngine.ini", "[S]\n");
+		std::filesystem::permissions(Folder.GetNative("Config/DefaultEngine.ini"), std::filesystem::perms::owner_read);
+		EXPECT_FALSE(Update({{"A", "1"}}));
+		EXPECT_EQ(HostProblems::GetAll().Num(), 2) << GetProblems();
+	}
+
+	TEST_F(SectionUpdate, TwoProcessesAtOnceKeepEachOthersKeys)
+	{
+		constexpr int Rounds = 40;
+		const auto Write = [this](const FString& Key)
+		{
+			for (int32 Round = 1; Round <= Rounds; ++Round)
+			{
+				HostConfig::UpdateSection(File, TEXT("S"), {TPair<FString, FString>(Key, FString::FromInt(Round))}, {});
+			}
+		};
+		const pid_t First = Fork([&] { Write(TEXT("First")); });
+		const pid_t Second = Fork([&] { Write(TEXT("Second")); });
+		ASSERT_EQ(Wait(First), 0);
+		ASSERT_EQ(Wait(Second), 0);
+		std::vector<std::string> Lines = GetSection(File, TEXT("S"));
+		std::sort(Lines.begin(), Lines.end());
+		EXPECT_EQ(Lines, (std::vector<std::string>{"First=40", "Second=40"}));
+	}
+}

@@ -1,0 +1,132 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "UObject/NameTypes.h"
+
+#include "HostAssertions.h"
+#include "Internationalization/Text.h"
+#include "TestPrinters.h"
+
+#include <type_traits>
+
+static_assert(sizeof(FName) == 12 && std::is_trivially_copyable_v<FName>);
+
+namespace
+{
+	// Built before main, when the name table may not exist yet.
+	const FName NameOfAStaticObject(TEXT("StaticNameTest_4"));
+}
+
+TEST(Name, ComparesIgnoringCaseAndPrintsAsWritten)
+{
+	const FName Lower(TEXT("türmchen ñ"));
+	const FName Mixed(TEXT("Türmchen Ñ"));
+	EXPECT_EQ(Lower, Mixed);
+	EXPECT_EQ(GetTypeHash(Lower), GetTypeHash(Mixed));
+	EXPECT_TRUE(Lower.ToString().Equals(TEXT("türmchen ñ")));
+	EXPECT_TRUE(Mixed.ToString().Equals(TEXT("Türmchen Ñ")));
+	EXPECT_TRUE(FName(TEXT("türmchen ñ")).ToString().Equals(TEXT("türmchen ñ"))) << "an old spelling is kept";
+	EXPECT_FALSE(Lower.IsEqual(Mixed, ENameCase::CaseSensitive));
+	EXPECT_TRUE(Lower == TEXT("TÜRMCHEN Ñ"));
+	EXPECT_FALSE(Lower == TEXT("turmchen n"));
+}
+
+TEST(Name, SplitsANumberOffOnlyWhenPrintingGivesItBack)
+{
+	struct FCase
+	{
+		const char* Behaviour;
+		const TCHAR* Text;
+		const TCHAR* Plain;
+		int32 Number;
+	};
+	const FCase Cases[] = {
+		{"a number", TEXT("Unit_1"), TEXT("Unit"), 2},
+		{"zero alone", TEXT("Unit_0"), TEXT("Unit"), 1},
+		{"leading zeros are text", TEXT("Unit_01"), TEXT("Unit_01"), 0},
+		{"no digits", TEXT("Unit_"), TEXT("Unit_"), 0},
+		{"nothing before the underscore", TEXT("_5"), TEXT("_5"), 0},
+		{"no underscore", TEXT("Unit5"), TEXT("Unit5"), 0},
+		{"only the last one", TEXT("Unit_1_2"), TEXT("Unit_1"), 3},
+		{"the largest", TEXT("Unit_2147483646"), TEXT("Unit"), MAX_int32},
+		{"too large", TEXT("Unit_2147483647"), TEXT("Unit_2147483647"), 0},
+		{"far too large", TEXT("Unit_99999999999999999999"), TEXT("Unit_99999999999999999999"), 0},
+	};
+	for (const FCase& Case : Cases)
+	{
+		SCOPED_TRACE(Case.Behaviour);
+		const FName Name(Case.Text);
+		EXPECT_TRUE(Name.GetPlainNameString().Equals(Case.Plain)) << testing::PrintToString(Name.GetPlainNameString());
+		EXPECT_EQ(Name.GetNumber(), Case.Number);
+		EXPECT_TRUE(Name.ToString().Equals(Case.Text));
+	}
+	EXPECT_EQ(FName(TEXT("A_1")), FName(TEXT("a_1")));
+	EXPECT_FALSE(FName(TEXT("A_1")) == FName(TEXT("A_2")));
+	EXPECT_EQ(FName(TEXT("Unit"), NAME_EXTERNAL_TO_INTERNAL(7)), FName(TEXT("Unit_7")));
+	EXPECT_EQ(FName(FName(TEXT("Unit_3")), NAME_NO_NUMBER_INTERNAL), FName(TEXT("Unit")));
+}
+
+TEST(Name, IsNoneForEmptyTextAndNoneInAnyCase)
+{
+	for (const FName Name : {FName(), FName(NAME_None), FName(TEXT("")), FName(static_cast<const TCHAR*>(nullptr)), FName(TEXT("none")), FName("NONE")})
+	{
+		EXPECT_TRUE(Name.IsNone());
+		EXPECT_TRUE(Name == NAME_None);
+		EXPECT_TRUE(Name.IsValid()) << "None is a valid name too";
+	}
+	EXPECT_EQ(FName().ToString(), TEXT("None"));
+	EXPECT_TRUE(FName() == TEXT("none"));
+	EXPECT_FALSE(FName() == TEXT("A name that nobody has made"));
+	EXPECT_FALSE(FName(TEXT("None_1")).IsNone());
+}
+
+TEST(Name, FindDoesNotAdd)
+{
+	EXPECT_TRUE(FName(TEXT("NameThatOnlyThisTestAsksFor_3"), FNAME_Find).IsNone());
+	EXPECT_TRUE(FName(TEXT("NameThatOnlyThisTestAsksFor_3"), FNAME_Find).IsNone());
+	const FName Added(TEXT("NameThatOnlyThisTestAsksFor"));
+	const FName Found(TEXT("NAMETHATONLYTHISTESTASKSFOR_3"), FNAME_Find);
+	EXPECT_EQ(Found.GetComparisonIndex(), Added.GetComparisonIndex());
+	EXPECT_EQ(Found.GetNumber(), 4);
+}
+
+TEST(Name, KeepsAllNamesWhileTheTableGrows)
+{
+	constexpr int32 Num = 20000;
+	TArray<FName> Names;
+	for (int32 Index = 0; Index < Num; ++Index)
+	{
+		Names.Add(FName(*FString::Printf(TEXT("Growing%dName"), Index)));
+	}
+	for (int32 Index = 0; Index < Num; ++Index)
+	{
+		const FString Text = FString::Printf(TEXT("Growing%dName"), Index);
+		ASSERT_TRUE(Names[Index].ToString().Equals(Text));
+		ASSERT_EQ(FName(*Text.ToUpper(), FNAME_Find), Names[Index]);
+	}
+}
+
+TEST(Name, SortsByLettersThenByNumber)
+{
+	TArray<FName> Names = {TEXT("b"), TEXT("a_10"), TEXT("C"), TEXT("a_9"), TEXT("A")};
+	Names.Sort(FNameLexicalLess());
+	EXPECT_EQ(Names, (TArray<FName>{TEXT("A"), TEXT("a_9"), TEXT("a_10"), TEXT("b"), TEXT("C")}));
+}
+
+TEST(Name, ServesStaticObjects)
+{
+	EXPECT_EQ(NameOfAStaticObject, FName(TEXT("staticnametest_4")));
+}
+
+TEST(Name, RefusesMoreThan1023Characters)
+{
+	EXPECT_EQ(FName(*FString::ChrN(NAME_SIZE - 1, 'x')).GetStringLength(), 1023u);
+	EXPECT_THROW(FName(*FString::ChrN(NAME_SIZE, 'x')), FHostAssertionFailure);
+}
+
+TEST(Name, SaysWhichCharactersAnObjectNameMayNotHave)
+{
+	FText Reason;
+	EXPECT_TRUE(FName(TEXT("Tower_A1")).IsValidObjectName(Reason));
+	EXPECT_FALSE(FName(TEXT("Tower A:1")).IsValidObjectName(Reason));
+	EXPECT_TRUE(Reason.ToString().EndsWith(TEXT(" :"))) << testing::PrintToString(Reason);
+}

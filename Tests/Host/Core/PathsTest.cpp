@@ -1,0 +1,105 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "EditorFilesFixture.h"
+#include "HAL/PlatformApplicationMisc.h"
+#include "HAL/PlatformProcess.h"
+#include "HostClipboard.h"
+#include "HostProcess.h"
+#include "Misc/Paths.h"
+
+namespace
+{
+	class Paths : public FEditorFilesTest
+	{
+	};
+
+	TEST_F(Paths, FoldersOfTheProjectEndWithASlash)
+	{
+		HostPaths::SetProjectFile(Folder.Get("x/../Tower.uproject"));
+		const std::string Root = ToUtf8(Folder.Get());
+		EXPECT_EQ(ToUtf8(FPaths::GetProjectFilePath()), Root + "/Tower.uproject");
+		EXPECT_EQ(ToUtf8(FPaths::ProjectDir()), Root + "/");
+		EXPECT_EQ(ToUtf8(FPaths::ProjectConfigDir()), Root + "/Config/");
+		EXPECT_EQ(ToUtf8(FPaths::SourceConfigDir()), Root + "/Config/");
+		EXPECT_EQ(ToUtf8(FPaths::ProjectContentDir()), Root + "/Content/");
+		EXPECT_EQ(ToUtf8(FPaths::GeneratedConfigDir()), Root + "/Saved/Config/");
+	}
+
+	TEST_F(Paths, SplitsFolderNameAndExtension)
+	{
+		struct FCase
+		{
+			FString Path;
+			const char* Folder;
+			const char* Name;
+			const char* Extension;
+		};
+		const FCase Cases[] = {
+			{TEXT("/Game/A/X.X"), "/Game/A", "X", "X"},
+			{TEXT("/Game/A/X"), "/Game/A", "X", ""},
+			{TEXT("X.tar.gz"), "", "X.tar", "gz"},
+			{TEXT("/Game.Dir/X"), "/Game.Dir", "X", ""},
+			{TEXT("C:\\Dir\\X.ini"), "C:\\Dir", "X", "ini"},
+			{TEXT("/Game/A/"), "/Game/A", "", ""},
+			{TEXT(""), "", "", ""},
+		};
+		for (const FCase& Case : Cases)
+		{
+			SCOPED_TRACE(ToUtf8(Case.Path));
+			FString PathPart;
+			FString Name;
+			FString Extension;
+			FPaths::Split(Case.Path, PathPart, Name, Extension);
+			EXPECT_EQ(ToUtf8(PathPart), Case.Folder);
+			EXPECT_EQ(ToUtf8(Name), Case.Name);
+			EXPECT_EQ(ToUtf8(Extension), Case.Extension);
+		}
+	}
+
+	TEST_F(Paths, CombineSetsOneSlashAtEachSeam)
+	{
+		EXPECT_EQ(ToUtf8(FPaths::Combine(TEXT("/a"), FString(TEXT("b/")), TEXT("/c"), TEXT(""), TEXT("d"))), "/a/b/c/d");
+		EXPECT_EQ(ToUtf8(FPaths::Combine(FString(), TEXT("b"))), "b");
+	}
+
+	TEST_F(Paths, FullPathsHaveNoDots)
+	{
+		EXPECT_EQ(ToUtf8(FPaths::ConvertRelativePathToFull(TEXT("/a/./b//../c/"))), "/a/c/");
+		EXPECT_EQ(ToUtf8(FPaths::ConvertRelativePathToFull(TEXT("/../.."))), "/");
+		EXPECT_EQ(ToUtf8(FPaths::ConvertRelativePathToFull(TEXT("a/b"))), (std::filesystem::current_path() / "a/b").string());
+	}
+
+	TEST_F(Paths, UserSettingsFollowTheDesktopsConvention)
+	{
+		HostState::DestroyAll();
+		setenv("XDG_CONFIG_HOME", Folder.GetNative("xdg").c_str(), 1);
+		EXPECT_EQ(ToUtf8(FString(FPlatformProcess::UserSettingsDir())), ToUtf8(Folder.Get("xdg/velmorant/")));
+		HostState::DestroyAll();
+		unsetenv("XDG_CONFIG_HOME");
+		const char* Home = std::getenv("HOME");
+		const std::string OldHome = Home != nullptr ? Home : "";
+		setenv("HOME", Folder.GetNative("home").c_str(), 1);
+		EXPECT_EQ(ToUtf8(FString(FPlatformProcess::UserSettingsDir())), ToUtf8(Folder.Get("home/.config/velmorant/")));
+		setenv("HOME", OldHome.c_str(), 1);
+	}
+
+	TEST_F(Paths, OpenedAddressesAndCopiedTextsBelongToOneEditor)
+	{
+		FString Error = TEXT("old");
+		FPlatformProcess::LaunchURL(TEXT("https://example.com/a"), nullptr, &Error);
+		FPlatformProcess::LaunchURL(TEXT("https://example.com/b"), nullptr, nullptr);
+		EXPECT_EQ(ToUtf8(HostProcess::GetOpenedUrls()), (std::vector<std::string>{"https://example.com/a", "https://example.com/b"}));
+		EXPECT_TRUE(Error.IsEmpty());
+
+		FPlatformApplicationMisc::ClipboardCopy(TEXT("text"));
+		FPlatformApplicationMisc::ClipboardCopy(TEXT(""));
+		FString Pasted = TEXT("old");
+		FPlatformApplicationMisc::ClipboardPaste(Pasted);
+		EXPECT_TRUE(Pasted.IsEmpty());
+		EXPECT_EQ(ToUtf8(HostClipboard::GetHistory()), (std::vector<std::string>{"text", ""}));
+
+		Restart();
+		EXPECT_TRUE(HostProcess::GetOpenedUrls().IsEmpty());
+		EXPECT_TRUE(HostClipboard::GetHistory().IsEmpty());
+	}
+}

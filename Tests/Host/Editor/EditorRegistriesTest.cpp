@@ -1,0 +1,157 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "ActorFactories/ActorFactoryBlueprint.h"
+#include "HostPlacement.h"
+#include "HostPropertyEditor.h"
+#include "HostSettings.h"
+#include "IPlacementModeModule.h"
+#include "IPropertyTypeCustomization.h"
+#include "ISettingsModule.h"
+#include "LevelTestEditor.h"
+#include "Modules/ModuleManager.h"
+#include "PropertyEditorModule.h"
+#include "TestActors.h"
+#include "UObject/Class.h"
+
+class EditorRegistries : public FLevelTestEditor
+{
+protected:
+	static TSharedRef<FPlaceableItem> MakeItem(UClass* Class)
+	{
+		return MakeShareable(new FPlaceableItem(nullptr, FAssetData(Class)));
+	}
+
+	static std::string NamesOf(const TArray<TSharedRef<FPlaceableItem>>& Items)
+	{
+		std::string Names;
+		for (const TSharedRef<FPlaceableItem>& Item : Items)
+		{
+			Names += Utf8(Item->NativeName) + ";";
+		}
+		return Names;
+	}
+};
+
+namespace EditorRegistriesTest
+{
+	class FCustomization : public IPropertyTypeCustomization
+	{
+	public:
+		static TSharedRef<IPropertyTypeCustomization> MakeInstance()
+		{
+			++NumMade;
+			return MakeShareable(new FCustomization);
+		}
+
+		virtual void CustomizeHeader(TSharedRef<IPropertyHandle>, FDetailWidgetRow&, IPropertyTypeCustomizationUtils&) override {}
+		virtual void CustomizeChildren(TSharedRef<IPropertyHandle>, IDetailChildrenBuilder&, IPropertyTypeCustomizationUtils&) override {}
+
+		static inline int32 NumMade = 0;
+	};
+}
+
+TEST_F(EditorRegistries, NothingIsPlaceableUntilThePlacementModuleIsLoaded)
+{
+	EXPECT_FALSE(IPlacementModeModule::IsAvailable());
+	EXPECT_TRUE(HostPlacement::GetCategories().IsEmpty());
+	IPlacementModeModule::Get();
+	EXPECT_TRUE(IPlacementModeModule::IsAvailable());
+}
+
+TEST_F(EditorRegistries, APlacementHandleBelongsToItsFirstCategory)
+{
+	IPlacementModeModule& Placement = IPlacementModeModule::Get();
+	EXPECT_TRUE(Placement.RegisterPlacementCategory(FPlacementCategoryInfo(INVTEXT("First"), TEXT("Tower"), TEXT("Tag"), 40)));
+	EXPECT_FALSE(Placement.RegisterPlacementCategory(FPlacementCategoryInfo(INVTEXT("Second"), TEXT("tower"))));
+	EXPECT_TRUE(Placement.RegisterPlacementCategory(FPlacementCategoryInfo(INVTEXT("Above"), FSlateIcon("Style", "Icon"), TEXT("Above"), FString(), 10)));
+	const FPlacementCategoryInfo* Info = Placement.GetRegisteredPlacementCategory(TEXT("Tower"));
+	ASSERT_NE(Info, nullptr);
+	EXPECT_EQ(Utf8(Info->DisplayName.ToString()), "First");
+	EXPECT_EQ(Utf8(Info->TagMetaData), "Tag");
+	EXPECT_EQ(Placement.GetRegisteredPlacementCategory(TEXT("Above"))->DisplayIcon.GetStyleName(), FName("Icon"));
+	EXPECT_EQ(HostPlacement::GetCategories(), (TArray<FName>{TEXT("Above"), TEXT("Tower")}));
+}
+
+TEST_F(EditorRegistries, PlacementItemsComeAndGoWithTheirCategory)
+{
+	IPlacementModeModule& Placement = IPlacementModeModule::Get();
+	EXPECT_FALSE(Placement.RegisterPlaceableItem(TEXT("Tower"), MakeItem(ATestActor::StaticClass())).IsSet());
+	Placement.RegisterPlacementCategory(FPlacementCategoryInfo(INVTEXT("Tower"), TEXT("Tower"), FString(), 0, false));
+	Placement.RegisterPlaceableItem(TEXT("Tower"), MakeItem(ATestSpecialActor::StaticClass()));
+	const TOptional<FPlacementModeID> ID = Placement.RegisterPlaceableItem(TEXT("tower"), MakeItem(ATestActor::StaticClass()));
+	ASSERT_TRUE(ID.IsSet());
+	EXPECT_EQ(NamesOf(HostPlacement::GetItems(TEXT("Tower"))), "TestSpecialActor;TestActor;");
+	Placement.UnregisterPlaceableItem(ID.GetValue());
+	EXPECT_EQ(NamesOf(HostPlacement::GetItems(TEXT("Tower"))), "TestSpecialActor;");
+	Placement.UnregisterPlacementCategory(TEXT("Tower"));
+	EXPECT_EQ(Placement.GetRegisteredPlacementCategory(TEXT("Tower")), nullptr);
+	EXPECT_TRUE(HostPlacement::GetItems(TEXT("Tower")).IsEmpty());
+}
+
+TEST_F(EditorRegistries, ASortableCategoryShowsItsItemsByName)
+{
+	IPlacementModeModule& Placement = IPlacementModeModule::Get();
+	Placement.RegisterPlacementCategory(FPlacementCategoryInfo(INVTEXT("Tower"), TEXT("Tower")));
+	Placement.RegisterPlaceableItem(TEXT("Tower"), MakeItem(ATestSpecialActor::StaticClass()));
+	Placement.RegisterPlaceableItem(TEXT("Tower"), MakeItem(ATestActor::StaticClass()));
+	EXPECT_EQ(NamesOf(HostPlacement::GetItems(TEXT("Tower"))), "TestActor;TestSpecialActor;");
+}
+
+TEST_F(EditorRegistries, APlaceableItemIsNamedAfterItsAssetUnlessToldOtherwise)
+{
+	const FAssetData SunSky(TEXT("/Game/SunSky"), TEXT("/Game"), TEXT("SunSky"), FTopLevelAssetPath(TEXT("/Script/Engine"), TEXT("Blueprint")));
+	const FPlaceableItem Plain(*UActorFactoryBlueprint::StaticClass(), SunSky);
+	EXPECT_EQ(Utf8(Plain.DisplayName.ToString()), "SunSky");
+	EXPECT_EQ(Utf8(Plain.NativeName), "SunSky");
+	EXPECT_TRUE(Plain.Factory->IsA<UActorFactoryBlueprint>());
+	const FPlaceableItem Named(*UActorFactoryBlueprint::StaticClass(), SunSky, "Sun.Thumbnail", "Sun.Icon", TOptional<FLinearColor>(), TOptional<int32>(), INVTEXT("Sun Sky Velmorant"));
+	EXPECT_EQ(Utf8(Named.DisplayName.ToString()), "Sun Sky Velmorant");
+	EXPECT_EQ(Named.ClassThumbnailBrushOverride, FName("Sun.Thumbnail"));
+	EXPECT_EQ(Named.ClassIconBrushOverride, FName("Sun.Icon"));
+}
+
+TEST_F(EditorRegistries, TheNewestLayoutOfAPropertyTypeCounts)
+{
+	using EditorRegistriesTest::FCustomization;
+	FPropertyEditorModule& Editor = FModuleManager::LoadModuleChecked<FPropertyEditorModule>("PropertyEditor");
+	bool bOldUsed = false;
+	Editor.RegisterCustomPropertyTypeLayout("Finish", FOnGetPropertyTypeCustomizationInstance::CreateLambda([&bOldUsed]
+	{
+		bOldUsed = true;
+		return FCustomization::MakeInstance();
+	}));
+	Editor.RegisterCustomPropertyTypeLayout("Finish", FOnGetPropertyTypeCustomizationInstance::CreateStatic(&FCustomization::MakeInstance));
+	Editor.NotifyCustomizationModuleChanged();
+	EXPECT_EQ(HostPropertyEditor::GetCustomizedTypes(), TArray<FName>{"Finish"});
+	EXPECT_EQ(HostPropertyEditor::GetNumChangeNotes(), 1);
+	const int32 NumMade = FCustomization::NumMade;
+	EXPECT_TRUE(HostPropertyEditor::MakeCustomization("finish").IsValid());
+	EXPECT_EQ(FCustomization::NumMade, NumMade + 1);
+	EXPECT_FALSE(bOldUsed);
+	Editor.UnregisterCustomPropertyTypeLayout("Finish");
+	EXPECT_FALSE(HostPropertyEditor::MakeCustomization("Finish").IsValid());
+}
+
+TEST_F(EditorRegistries, ADetailsSectionKeepsItsFirstDisplayName)
+{
+	FPropertyEditorModule& Editor = FModuleManager::LoadModuleChecked<FPropertyEditorModule>("PropertyEditor");
+	const TSharedRef<FPropertySection> Section = Editor.FindOrCreateSection("Object", "Velmorant", INVTEXT("Velmorant"));
+	Section->AddCategory("Velmorant|Icon");
+	EXPECT_EQ(Editor.FindOrCreateSection("object", "velmorant", INVTEXT("Other")), Section);
+	EXPECT_NE(Editor.FindOrCreateSection("Actor", "Velmorant", INVTEXT("Velmorant")), Section);
+	const TSharedPtr<FPropertySection> Found = HostPropertyEditor::FindSection("Object", "Velmorant");
+	ASSERT_TRUE(Found.IsValid());
+	EXPECT_EQ(Utf8(Found->GetDisplayName().ToString()), "Velmorant");
+	EXPECT_TRUE(Found->HasAddedCategory("velmorant|icon"));
+	EXPECT_FALSE(Found->HasAddedCategory("Icon"));
+}
+
+TEST_F(EditorRegistries, SettingsPagesThatSomebodyAskedForAreRecorded)
+{
+	FModuleManager::LoadModuleChecked<ISettingsModule>("Settings").ShowViewer("Project", "Plugins", "VelmorantSDKSettings");
+	const TArray<HostSettings::FShownPage> Pages = HostSettings::GetShownPages();
+	ASSERT_EQ(Pages.Num(), 1);
+	EXPECT_TRUE((Pages[0] == HostSettings::FShownPage{"Project", "Plugins", "VelmorantSDKSettings"}));
+	Restart();
+	EXPECT_TRUE(HostSettings::GetShownPages().IsEmpty());
+}

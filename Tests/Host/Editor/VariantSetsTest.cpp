@@ -1,0 +1,232 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "HostPackages.h"
+#include "LevelTestEditor.h"
+#include "LevelVariantSets.h"
+#include "LevelVariantSetsActor.h"
+#include "UObject/Package.h"
+#include "UObject/UObjectGlobals.h"
+#include "Variant.h"
+#include "VariantSet.h"
+
+class VariantSets : public FLevelTestEditor
+{
+protected:
+	VariantSets()
+	{
+		UPackage* Package = CreatePackage(TEXT("/Game/Sets"));
+		Asset = NewObject<ULevelVariantSets>(Package, TEXT("Sets"), RF_Public | RF_Standalone | RF_Transactional);
+	}
+
+	static UVariant* MakeVariant(const TCHAR* Text)
+	{
+		UVariant* Variant = NewObject<UVariant>(GetTransientPackage());
+		Variant->SetDisplayText(FText::FromString(Text));
+		return Variant;
+	}
+
+	static UVariantSet* MakeSet(const TCHAR* Text)
+	{
+		UVariantSet* Set = NewObject<UVariantSet>(GetTransientPackage());
+		Set->SetDisplayText(FText::FromString(Text));
+		return Set;
+	}
+
+	static std::string TextsOf(const UVariantSet& Set)
+	{
+		std::string Texts;
+		for (const UVariant* Variant : Set.GetVariants())
+		{
+			Texts += Utf8(Variant->GetDisplayText().ToString()) + ";";
+		}
+		return Texts;
+	}
+
+	/** A set with variants A, B and C. */
+	static UVariantSet* MakeAbc()
+	{
+		UVariantSet* Set = MakeSet(TEXT("Set"));
+		Set->AddVariants({MakeVariant(TEXT("A")), MakeVariant(TEXT("B")), MakeVariant(TEXT("C"))});
+		return Set;
+	}
+
+	/** The by-name look-up must always tell what a walk over the list would. */
+	static void ExpectLookUpsAgree(UVariantSet& Set)
+	{
+		for (UVariant* Variant : Set.GetVariants())
+		{
+			const FString Text = Variant->GetDisplayText().ToString();
+			UVariant* const* First = Set.GetVariants().FindByPredicate([&Text](UVariant* Other) { return Other->GetDisplayText().ToString() == Text; });
+			ASSERT_NE(First, nullptr);
+			EXPECT_EQ(Set.GetVariantByName(Text), *First) << Utf8(Text);
+			EXPECT_EQ(Set.GetVariant(Set.GetVariantIndex(Variant)), Variant) << Utf8(Text);
+		}
+	}
+
+	ULevelVariantSets* Asset = nullptr;
+};
+
+TEST_F(VariantSets, TakesOverWhatWasMadeInTheTransientPackage)
+{
+	UVariant* Variant = MakeVariant(TEXT("Oak"));
+	UVariantSet* Set = MakeSet(TEXT("Floor"));
+	Asset->GetPackage()->SetDirtyFlag(false);
+	Set->AddVariants({Variant});
+	EXPECT_FALSE(Asset->GetPackage()->IsDirty());
+	Asset->AddVariantSets({Set});
+	EXPECT_EQ(Variant->GetParent(), Set);
+	EXPECT_EQ(Set->GetParent(), Asset);
+	EXPECT_EQ(Variant->GetPackage(), Asset->GetPackage());
+	EXPECT_TRUE(Asset->GetPackage()->IsDirty());
+}
+
+TEST_F(VariantSets, FindsByDisplayTextIgnoringCase)
+{
+	UVariantSet* Set = MakeAbc();
+	EXPECT_EQ(Set->GetVariantByName(TEXT("b")), Set->GetVariant(1));
+	EXPECT_EQ(Set->GetVariantByName(TEXT("B ")), nullptr);
+	EXPECT_EQ(Set->GetVariantByName(TEXT("")), nullptr);
+	Asset->AddVariantSets({Set});
+	EXPECT_EQ(Asset->GetVariantSetByName(TEXT("SET")), Set);
+	EXPECT_EQ(Asset->GetVariantSetByName(TEXT("Variant Set")), nullptr);
+}
+
+TEST_F(VariantSets, LookUpsFollowEveryChangeOfText)
+{
+	UVariantSet* Set = MakeAbc();
+	ASSERT_NE(Set->GetVariantByName(TEXT("B")), nullptr); // makes the index
+	UVariant* B = Set->GetVariant(1);
+	B->SetDisplayText(FText::FromString(TEXT("Z")));
+	EXPECT_EQ(Set->GetVariantByName(TEXT("B")), nullptr);
+	EXPECT_EQ(Set->GetVariantByName(TEXT("z")), B);
+
+	UVariant* C = Set->GetVariant(2);
+	UVariant* A = Set->GetVariant(0);
+	C->SetDisplayText(FText::FromString(TEXT("Same")));
+	A->SetDisplayText(FText::FromString(TEXT("same")));
+	EXPECT_EQ(Set->GetVariantByName(TEXT("SAME")), A) << "the first in the list, not the first that got the text";
+	A->SetDisplayText(FText::FromString(TEXT("Other")));
+	EXPECT_EQ(Set->GetVariantByName(TEXT("SAME")), C);
+}
+
+TEST_F(VariantSets, LookUpsFollowEveryChangeOfMembership)
+{
+	UVariantSet* Set = MakeAbc();
+	ASSERT_NE(Set->GetVariantByName(TEXT("B")), nullptr);
+	UVariant* A = Set->GetVariant(0);
+	Set->AddVariants({MakeVariant(TEXT("First")), MakeVariant(TEXT("Second"))}, 0);
+	EXPECT_EQ(TextsOf(*Set), "First;Second;A;B;C;");
+	ExpectLookUpsAgree(*Set);
+	Set->RemoveVariants({A});
+	EXPECT_EQ(TextsOf(*Set), "First;Second;B;C;");
+	EXPECT_EQ(Set->GetVariantByName(TEXT("A")), nullptr);
+	EXPECT_EQ(Set->GetVariantIndex(A), INDEX_NONE);
+	EXPECT_EQ(A->GetParent(), nullptr);
+	ExpectLookUpsAgree(*Set);
+}
+
+TEST_F(VariantSets, PutsNewcomersWhereTheIndexSays)
+{
+	struct FCase
+	{
+		const char* Behaviour;
+		int32 Index;
+		const char* Expected;
+	};
+	const FCase Cases[] = {
+		{"-1 appends", INDEX_NONE, "A;B;C;X;"},
+		{"0 puts in front", 0, "X;A;B;C;"},
+		{"in between", 2, "A;B;X;C;"},
+		{"behind the last", 3, "A;B;C;X;"},
+		{"too large appends", 99, "A;B;C;X;"},
+	};
+	for (const FCase& Case : Cases)
+	{
+		SCOPED_TRACE(Case.Behaviour);
+		UVariantSet* Set = MakeAbc();
+		Set->AddVariants({MakeVariant(TEXT("X"))}, Case.Index);
+		EXPECT_EQ(TextsOf(*Set), Case.Expected);
+		ExpectLookUpsAgree(*Set);
+	}
+}
+
+TEST_F(VariantSets, MovesWhatIsAlreadyAMember)
+{
+	UVariantSet* Set = MakeAbc();
+	Set->AddVariants({Set->GetVariant(0)});
+	EXPECT_EQ(TextsOf(*Set), "B;C;A;");
+	Set->AddVariants({Set->GetVariant(2), Set->GetVariant(2)}, 1);
+	EXPECT_EQ(TextsOf(*Set), "B;A;C;") << "given twice, it still stands there once, under its own text";
+	ExpectLookUpsAgree(*Set);
+}
+
+TEST_F(VariantSets, TakesAVariantOutOfTheSetItWasIn)
+{
+	UVariantSet* From = MakeAbc();
+	UVariantSet* To = MakeSet(TEXT("To"));
+	UVariant* B = From->GetVariantByName(TEXT("B"));
+	To->AddVariants({B, nullptr});
+	EXPECT_EQ(TextsOf(*From), "A;C;");
+	EXPECT_EQ(TextsOf(*To), "B;");
+	EXPECT_EQ(From->GetVariantByName(TEXT("B")), nullptr);
+	EXPECT_EQ(B->GetParent(), To);
+}
+
+TEST_F(VariantSets, GivesANewcomerAUniqueTextWhenItsOwnIsTaken)
+{
+	UVariantSet* Set = MakeAbc();
+	Set->AddVariants({MakeVariant(TEXT("a")), MakeVariant(TEXT("New")), MakeVariant(TEXT("new")), MakeVariant(TEXT("A"))});
+	EXPECT_EQ(TextsOf(*Set), "A;B;C;a 1;New;new 1;A 2;");
+	ExpectLookUpsAgree(*Set);
+	EXPECT_EQ(Utf8(Set->GetUniqueVariantName(TEXT("Free"))), "Free");
+	EXPECT_EQ(Utf8(Set->GetUniqueVariantName(TEXT("a"))), "a 3");
+	Set->GetVariantByName(TEXT("A 2"))->SetDisplayText(FText::FromString(TEXT("Other")));
+	EXPECT_EQ(Utf8(Set->GetUniqueVariantName(TEXT("a"))), "a 2") << "a number that a change of text made free";
+	Set->RemoveVariants({Set->GetVariantByName(TEXT("a 1"))});
+	EXPECT_EQ(Utf8(Set->GetUniqueVariantName(TEXT("A"))), "A 1") << "a number that a removal made free";
+}
+
+TEST_F(VariantSets, ObjectNamesThatClashDoNotStandInTheWay)
+{
+	UVariantSet* Set = MakeSet(TEXT("Set"));
+	UVariant* Mine = NewObject<UVariant>(Set, TEXT("Oak"));
+	UVariant* Other = NewObject<UVariant>(GetTransientPackage(), TEXT("Oak"));
+	Set->AddVariants({Mine, Other});
+	EXPECT_EQ(Set->GetNumVariants(), 2);
+	EXPECT_EQ(Other->GetOuter(), Set);
+	EXPECT_NE(Mine->GetFName(), Other->GetFName());
+}
+
+TEST_F(VariantSets, SaveAndLoadKeepOrderTextsAndLookUps)
+{
+	UVariantSet* Kitchen = MakeAbc();
+	Kitchen->SetDisplayText(FText::FromString(TEXT("Küche - Front")));
+	Asset->AddVariantSets({Kitchen, MakeSet(TEXT("Bath"))});
+	ASSERT_TRUE(HostPackages::Save(Asset->GetPackage()).Succeeded());
+	Restart();
+	ULevelVariantSets* Loaded = Cast<ULevelVariantSets>(HostPackages::LoadAsset(TEXT("/Game/Sets")));
+	ASSERT_NE(Loaded, nullptr);
+	ASSERT_EQ(Loaded->GetNumVariantSets(), 2);
+	UVariantSet* LoadedKitchen = Loaded->GetVariantSetByName(TEXT("küche - front"));
+	ASSERT_NE(LoadedKitchen, nullptr);
+	EXPECT_EQ(LoadedKitchen->GetParent(), Loaded);
+	EXPECT_EQ(TextsOf(*LoadedKitchen), "A;B;C;");
+	ExpectLookUpsAgree(*LoadedKitchen);
+	EXPECT_EQ(Loaded->GetVariantSetIndex(Loaded->GetVariantSetByName(TEXT("Bath"))), 1);
+}
+
+TEST_F(VariantSets, ActorLoadsItsAssetOnlyWhenAsked)
+{
+	Asset->AddVariantSets({MakeAbc()});
+	ASSERT_TRUE(HostPackages::Save(Asset->GetPackage()).Succeeded());
+	Restart();
+	ALevelVariantSetsActor* Actor = GetWorld().SpawnActor<ALevelVariantSetsActor>();
+	EXPECT_EQ(Actor->GetLevelVariantSets(true), nullptr) << "no path yet";
+	Actor->LevelVariantSets = FSoftObjectPath(FString(TEXT("/Game/Sets.Sets")));
+	EXPECT_EQ(Actor->GetLevelVariantSets(), nullptr);
+	ULevelVariantSets* Loaded = Actor->GetLevelVariantSets(true);
+	ASSERT_NE(Loaded, nullptr);
+	EXPECT_EQ(Actor->GetLevelVariantSets(), Loaded);
+	Actor->SetLevelVariantSets(nullptr);
+	EXPECT_TRUE(Actor->LevelVariantSets.IsNull());
+}

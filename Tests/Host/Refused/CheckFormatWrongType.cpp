@@ -1,0 +1,9 @@
+// refused: a text where the format of a check says %s
+// Copyright Velmorant. All Rights Reserved.
+
+#include "CoreMinimal.h"
+
+void Describe(const FText& Text)
+{
+	checkf(!Text.IsEmpty(), TEXT("%s"), Text);
+}

@@ -1,0 +1,13 @@
+// refused: TEnumAsByte over a scoped enum
+// Copyright Velmorant. All Rights Reserved.
+
+#include "Containers/EnumAsByte.h"
+#include "CoreMinimal.h"
+
+enum class EFinish : uint8
+{
+	Matt,
+	Gloss
+};
+
+TEnumAsByte<EFinish> Finish;

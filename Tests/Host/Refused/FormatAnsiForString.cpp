@@ -1,0 +1,9 @@
+// refused: an 8-bit string where the format says %s
+// Copyright Velmorant. All Rights Reserved.
+
+#include "CoreMinimal.h"
+
+FString Describe(const ANSICHAR* Text)
+{
+	return FString::Printf(TEXT("%s"), Text);
+}

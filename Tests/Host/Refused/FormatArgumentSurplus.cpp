@@ -1,0 +1,9 @@
+// refused: more arguments than directives
+// Copyright Velmorant. All Rights Reserved.
+
+#include "CoreMinimal.h"
+
+FString Describe(int32 Value)
+{
+	return FString::Printf(TEXT("%d"), Value, Value);
+}

@@ -1,0 +1,9 @@
+// refused: a directive that does not exist
+// Copyright Velmorant. All Rights Reserved.
+
+#include "CoreMinimal.h"
+
+FString Describe(int32 Value)
+{
+	return FString::Printf(TEXT("%y"), Value);
+}

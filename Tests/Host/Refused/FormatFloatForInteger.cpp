@@ -1,0 +1,9 @@
+// refused: a floating point number where the format says %d
+// Copyright Velmorant. All Rights Reserved.
+
+#include "CoreMinimal.h"
+
+FString Describe(double Value)
+{
+	return FString::Printf(TEXT("%d"), Value);
+}

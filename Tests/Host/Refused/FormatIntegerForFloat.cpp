@@ -1,0 +1,9 @@
+// refused: an integer where the format says %f
+// Copyright Velmorant. All Rights Reserved.
+
+#include "CoreMinimal.h"
+
+FString Describe(int32 Value)
+{
+	return FString::Printf(TEXT("%f"), Value);
+}

@@ -1,0 +1,11 @@
+// refused: a const override of a function that is not const
+// Copyright Velmorant. All Rights Reserved.
+
+#include "CoreMinimal.h"
+#include "Modules/ModuleInterface.h"
+
+class FFinishModule : public IModuleInterface
+{
+public:
+	virtual void StartupModule() const override;
+};

@@ -1,0 +1,9 @@
+// refused: an FString as an argument of a text format
+// Copyright Velmorant. All Rights Reserved.
+
+#include "CoreMinimal.h"
+
+FText Describe(const FString& Name)
+{
+	return FText::Format(INVTEXT("{0}"), Name);
+}

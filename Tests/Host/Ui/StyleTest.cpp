@@ -1,0 +1,75 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "Brushes/SlateImageBrush.h"
+#include "HostStyles.h"
+#include "Styling/AppStyle.h"
+#include "Styling/SlateStyle.h"
+#include "Styling/SlateStyleRegistry.h"
+#include "Textures/SlateIcon.h"
+#include "UiTestEditor.h"
+
+using FStyleTest = FUiTestEditor;
+
+TEST_F(FStyleTest, JoinsContentPathsWithOneSlash)
+{
+	struct FCase
+	{
+		const char* Root;
+		const TCHAR* Relative;
+		const char* Expected;
+	};
+	const FCase Cases[] = {
+		{"/Plugin/Resources", TEXT("Logo"), "/Plugin/Resources/Logo.png"},
+		{"/Plugin/Resources", TEXT("/ClassIcons/Spot"), "/Plugin/Resources/ClassIcons/Spot.png"},
+		{"/Plugin/Resources/", TEXT("Logo"), "/Plugin/Resources/Logo.png"},
+	};
+	for (const FCase& Case : Cases)
+	{
+		SCOPED_TRACE(Case.Expected);
+		FSlateStyleSet Style(FName(TEXT("TestStyle")));
+		Style.SetContentRoot(FString(Case.Root));
+		EXPECT_EQ(Utf8(Style.RootToContentDir(Case.Relative, TEXT(".png"))), Case.Expected);
+	}
+}
+
+TEST_F(FStyleTest, TheLaterBrushOfAKeyReplacesTheEarlierAndBothAreOnRecord)
+{
+	FSlateStyleSet Style(FName(TEXT("TestStyle")));
+	Style.Set(FName(TEXT("Logo")), new FSlateImageBrush(TEXT("First"), FVector2D(20.0, 20.0)));
+	const FSlateBrush* First = Style.GetBrush(FName(TEXT("Logo")));
+	Style.Set(FName(TEXT("Logo")), new FSlateImageBrush(TEXT("Second"), FVector2D(40.0, 16.0)));
+	FSlateStyleRegistry::RegisterSlateStyle(Style);
+
+	EXPECT_EQ(Style.GetBrush(FName(TEXT("logo")))->GetResourceName(), FName(TEXT("Second")));
+	EXPECT_EQ(First->GetResourceName(), FName(TEXT("First"))) << "who holds the replaced brush can go on using it";
+	const TArray<FHostBrushRegistration> Registrations = HostStyles::GetBrushRegistrations(FName(TEXT("TestStyle")));
+	ASSERT_EQ(Registrations.Num(), 2);
+	EXPECT_EQ(Registrations[1].Brush->GetImageSize().X, 40.0f);
+	EXPECT_EQ(Registrations[1].Brush->GetImageSize().Y, 16.0f);
+	FSlateStyleRegistry::UnRegisterSlateStyle(Style);
+}
+
+TEST_F(FStyleTest, UnknownKeysGiveABrushThatIsNotNull)
+{
+	const FSlateStyleSet Style(FName(TEXT("TestStyle")));
+	ASSERT_NE(Style.GetBrush(FName(TEXT("NoSuchKey"))), nullptr);
+	EXPECT_EQ(Style.GetOptionalBrush(FName(TEXT("NoSuchKey")), nullptr, nullptr), nullptr);
+	EXPECT_NE(FAppStyle::GetBrush(FName(TEXT("NoSuchKey"))), nullptr);
+}
+
+TEST_F(FStyleTest, IconsFindStyleSetsThatAreRegisteredLater)
+{
+	const FSlateIcon Icon(FName(TEXT("LateStyle")), FName(TEXT("Logo")));
+	const FSlateBrush* Missing = Icon.GetIcon();
+	ASSERT_NE(Missing, nullptr);
+
+	FSlateStyleSet Style(FName(TEXT("LateStyle")));
+	Style.Set(FName(TEXT("Logo")), new FSlateImageBrush(TEXT("Logo"), FVector2f(16.0f, 16.0f)));
+	FSlateStyleRegistry::RegisterSlateStyle(Style);
+	EXPECT_EQ(Icon.GetIcon()->GetResourceName(), FName(TEXT("Logo")));
+	EXPECT_EQ(HostStyles::FindBrush(FName(TEXT("Logo"))), Icon.GetIcon());
+
+	FSlateStyleRegistry::UnRegisterSlateStyle(Style);
+	EXPECT_EQ(Icon.GetIcon(), Missing);
+	EXPECT_EQ(FSlateStyleRegistry::FindSlateStyle(FName(TEXT("LateStyle"))), nullptr);
+}

@@ -1,0 +1,145 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "HostSnapshot.h"
+#include "HostToolMenus.h"
+#include "TestToolPanel.h"
+#include "ToolMenus.h"
+#include "UiTestEditor.h"
+
+class FToolMenusTest : public FUiTestEditor
+{
+protected:
+	static FText Text(const TCHAR* String) { return FText::FromString(String); }
+
+	FToolUIAction Noting(const TCHAR* What)
+	{
+		FToolUIAction Action;
+		Action.ExecuteAction = FToolMenuExecuteAction::CreateLambda([this, What](const FToolMenuContext& Context)
+		{
+			const UTestListItem* Item = Context.FindContext<UTestListItem>();
+			Ran.Add(FString(What) + TEXT(" ") + (Item ? *Item->DisplayName : TEXT("nothing")));
+		});
+		return Action;
+	}
+
+	static std::string LabelsOf(FName Menu, const FToolMenuContext& Context = FToolMenuContext())
+	{
+		std::string Labels;
+		for (const FHostMenuEntry& Entry : HostToolMenus::List(Menu, Context))
+		{
+			Labels += (Labels.empty() ? "" : ", ") + Utf8(Entry.Section.ToString()) + ":" + Utf8(Entry.Label);
+		}
+		return Labels;
+	}
+
+	TArray<FString> Ran;
+};
+
+TEST_F(FToolMenusTest, RunsStartUpCallbacksOnceMenusAreReady)
+{
+	HostToolMenus::Stop();
+	const auto Note = [this](const TCHAR* What) { return FSimpleMulticastDelegate::FDelegate::CreateLambda([this, What] { Ran.Add(What); }); };
+	UToolMenus::RegisterStartupCallback(Note(TEXT("early")));
+	const FDelegateHandle Removed = UToolMenus::RegisterStartupCallback(Note(TEXT("removed")));
+	UToolMenus::UnRegisterStartupCallback(Removed);
+	EXPECT_TRUE(Ran.IsEmpty());
+	HostToolMenus::Start();
+	HostToolMenus::Start();
+	EXPECT_EQ(Ran, TArray<FString>{TEXT("early")});
+	UToolMenus::RegisterStartupCallback(Note(TEXT("late")));
+	EXPECT_EQ(Ran, (TArray<FString>{TEXT("early"), TEXT("late")}));
+	Restart();
+	EXPECT_EQ(Ran.Num(), 2) << "callbacks belong to one editor";
+}
+
+TEST_F(FToolMenusTest, KeepsSectionsAndEntriesInOrderAndReplacesEntriesOfTheSameName)
+{
+	UToolMenu* Menu = UToolMenus::Get()->ExtendMenu("Test.Menu");
+	FToolMenuSection& First = Menu->FindOrAddSection("First", Text(TEXT("The First")));
+	First.AddMenuEntry("A", Text(TEXT("Alpha")), FText(), FSlateIcon(), Noting(TEXT("A")));
+	First.AddMenuEntry("B", Text(TEXT("Beta")), FText(), FSlateIcon(), Noting(TEXT("B")));
+	FToolMenuEntry Front = FToolMenuEntry::InitMenuEntry("C", Text(TEXT("Gamma")), FText(), FSlateIcon(), Noting(TEXT("C")));
+	Front.InsertPosition = FToolMenuInsert("B", EToolMenuInsertType::Before);
+	First.AddEntry(Front);
+	First.AddMenuEntry("A", Text(TEXT("Alpha again")), FText(), FSlateIcon(), Noting(TEXT("A2")));
+	Menu->AddSection("Zero", FText(), FToolMenuInsert("First", EToolMenuInsertType::Before)).AddMenuEntry("Z", Text(TEXT("Zed")), FText(), FSlateIcon(), FExecuteAction());
+	EXPECT_EQ(LabelsOf("Test.Menu"), "Zero:Zed, First:Alpha again, First:Gamma, First:Beta");
+	EXPECT_EQ(Utf8(HostToolMenus::List("Test.Menu", FToolMenuContext())[1].SectionLabel), "The First");
+}
+
+TEST_F(FToolMenusTest, MakesDynamicEntriesForEachContext)
+{
+	FToolMenuSection& Section = UToolMenus::Get()->ExtendMenu("Test.Menu")->FindOrAddSection("GetAssetActions");
+	Section.AddDynamicEntry(NAME_None, FNewToolMenuSectionDelegate::CreateLambda([this](FToolMenuSection& InSection)
+	{
+		if (const UTestListItem* Item = InSection.FindContext<UTestListItem>())
+		{
+			InSection.AddMenuEntry("Open", Text(*(TEXT("Open ") + Item->DisplayName)), FText(), FSlateIcon(), Noting(TEXT("open")));
+		}
+	}));
+	EXPECT_EQ(LabelsOf("Test.Menu"), "");
+	UTestListItem* Item = NewObject<UTestListItem>();
+	Item->DisplayName = TEXT("Oak");
+	EXPECT_EQ(LabelsOf("Test.Menu", FToolMenuContext(Item)), "GetAssetActions:Open Oak");
+	EXPECT_EQ(LabelsOf("Test.Menu", FToolMenuContext(Item)), "GetAssetActions:Open Oak") << "made anew, not added once more";
+	EXPECT_TRUE(HostToolMenus::Run("Test.Menu", FToolMenuContext(Item), TEXT("Open Oak")).bDone);
+	EXPECT_EQ(Ran, TArray<FString>{TEXT("open Oak")});
+}
+
+TEST_F(FToolMenusTest, ShowsWhatItsParentsHoldFirst)
+{
+	UToolMenus* Menus = UToolMenus::Get();
+	Menus->ExtendMenu("Test.Child")->FindOrAddSection("S").AddMenuEntry("C", Text(TEXT("child")), FText(), FSlateIcon(), FExecuteAction());
+	Menus->RegisterMenu("Test.Parent")->FindOrAddSection("S").AddMenuEntry("P", Text(TEXT("parent")), FText(), FSlateIcon(), FExecuteAction());
+	EXPECT_EQ(LabelsOf("Test.Child"), "S:child");
+	Menus->RegisterMenu("Test.Child", "Test.Parent");
+	EXPECT_EQ(LabelsOf("Test.Child"), "S:parent, S:child");
+}
+
+TEST_F(FToolMenusTest, RefusesEntriesThatCannotRun)
+{
+	FToolMenuSection& Section = UToolMenus::Get()->ExtendMenu("Test.Menu")->FindOrAddSection("S");
+	FToolUIAction Never = Noting(TEXT("never"));
+	Never.CanExecuteAction = FToolMenuCanExecuteAction::CreateLambda([](const FToolMenuContext&) { return false; });
+	FToolUIAction Hidden = Noting(TEXT("hidden"));
+	Hidden.IsActionVisibleDelegate = FToolMenuIsActionButtonVisible::CreateLambda([](const FToolMenuContext&) { return false; });
+	Section.AddMenuEntry("Never", Text(TEXT("Never")), FText(), FSlateIcon(), Never);
+	Section.AddMenuEntry("Hidden", Text(TEXT("Hidden")), FText(), FSlateIcon(), Hidden);
+	Section.AddMenuEntry("Empty", Text(TEXT("Empty")), FText(), FSlateIcon(), FUIAction());
+	const FToolMenuContext Context;
+	EXPECT_EQ(Refusal(HostToolMenus::Run("Test.Menu", Context, TEXT("Never"))), "The menu entry \"Never\" is disabled.");
+	EXPECT_EQ(Refusal(HostToolMenus::Run("Test.Menu", Context, TEXT("Hidden"))), "The menu Test.Menu has no entry \"Hidden\".");
+	EXPECT_EQ(Refusal(HostToolMenus::Run("Test.Menu", Context, TEXT("Empty"))), "The menu entry \"Empty\" does nothing by itself.");
+	EXPECT_TRUE(Ran.IsEmpty());
+}
+
+TEST_F(FToolMenusTest, AnOwnerTakesItsEntriesAway)
+{
+	UToolMenu* Menu = UToolMenus::Get()->ExtendMenu("Test.Menu");
+	Menu->FindOrAddSection("S").AddMenuEntry("Mine", Text(TEXT("Mine")), FText(), FSlateIcon(), FExecuteAction());
+	{
+		FToolMenuOwnerScoped OwnerScoped(this);
+		Menu->FindOrAddSection("S").AddMenuEntry("Theirs", Text(TEXT("Theirs")), FText(), FSlateIcon(), FExecuteAction());
+	}
+	UToolMenus::UnregisterOwner(this);
+	EXPECT_EQ(LabelsOf("Test.Menu"), "S:Mine");
+}
+
+TEST_F(FToolMenusTest, OpensMenusOfComboButtons)
+{
+	FToolMenuSection& Section = UToolMenus::Get()->ExtendMenu("Test.ToolBar")->FindOrAddSection("PluginTools");
+	Section.AddEntry(FToolMenuEntry::InitComboButton("Tools", FUIAction(), FNewToolMenuDelegate::CreateLambda([this](UToolMenu* SubMenu)
+	{
+		SubMenu->AddSection("Inner", Text(TEXT("Inner"))).AddMenuEntry("Go", Text(TEXT("Go")), FText(), FSlateIcon(), Noting(TEXT("go")));
+	}), Text(TEXT("Tools")), Text(TEXT("Opens tools"))));
+	const TSharedRef<SWidget> ToolBar = HostToolMenus::Open("Test.ToolBar", FToolMenuContext());
+	EXPECT_TRUE(HostSnapshot::Click(ToolBar, TEXT("Tools")).bDone);
+	EXPECT_EQ(Utf8(HostSnapshot::Take(ToolBar)),
+		"vertical\n"
+		"  menu button Tools [Tools] (tip: Opens tools)\n"
+		"    vertical\n"
+		"      text \"Inner\"\n"
+		"      button Go [Go]\n");
+	EXPECT_TRUE(HostSnapshot::Click(ToolBar, TEXT("Go")).bDone);
+	EXPECT_EQ(Ran, TArray<FString>{TEXT("go nothing")});
+}

@@ -1,0 +1,281 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "CollisionIni.h"
+#include "HostEditor.h"
+#include "HostObjects.h"
+#include "ToolkitTest.h"
+#include "UObject/Class.h"
+#include "UObject/Package.h"
+#include "UObject/UObjectHash.h"
+#include "VelmorantEditorUtilitiesLibrary.h"
+
+#include <filesystem>
+#include <map>
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+namespace
+{
+	const char* const EngineIni = "Config/DefaultEngine.ini";
+	const TCHAR* const MissingTitle = TEXT("Velmorant: Missing UnitVolume Profile");
+	const TCHAR* const RestartTitle = TEXT("Restart Editor Required");
+	const char* const CheckedLine = "Log: Checked UnitVolume DefaultChannelResponses and profile exist.";
+	const char* const WrittenLine = "Log: Collision profiles force to be load";
+
+	/** A collision section with these lines in it. */
+	std::string MakeIni(const std::string& Profile, const std::string& Channel)
+	{
+		return CollisionIni::Section + "\n" + Profile + "\n" + Channel + "\n";
+	}
+
+	/** The objects that ask about missing profiles and still live after a collection. */
+	TArray<UObject*> FindDialogues()
+	{
+		HostObjects::CollectGarbage();
+		TArray<UObject*> Dialogues;
+		GetObjectsOfClass(FindObject<UClass>(nullptr, TEXT("/Script/VelmorantProEditor.CheckCollisionNotification")), Dialogues);
+		return Dialogues;
+	}
+
+	std::vector<std::string> LabelsOf(const FHostNotification& Notification)
+	{
+		std::vector<std::string> Labels;
+		for (const FHostNotificationButton& Button : Notification.Buttons)
+		{
+			EXPECT_TRUE(Button.ToolTip.IsEmpty());
+			EXPECT_TRUE(Button.ShownIn == TArray<SNotificationItem::ECompletionState>{SNotificationItem::CS_Pending});
+			Labels.push_back(ToUtf8(Button.Label));
+		}
+		return Labels;
+	}
+
+	/** How questions look: they stay until one of their buttons is pressed. */
+	void ExpectQuestion(const FHostNotification& Notification)
+	{
+		EXPECT_EQ(Notification.State, SNotificationItem::CS_Pending);
+		EXPECT_THAT(ToUtf8(Notification.ImageName), testing::EndsWith("VelmorantPro/Resources/Vlm_Grey_128x.png"));
+		EXPECT_EQ(Notification.FadeOutDuration, 0.0f);
+		EXPECT_FALSE(Notification.bUseThrobber);
+		EXPECT_FALSE(Notification.bFireAndForget);
+		EXPECT_EQ(Notification.Width, TOptional<float>(450.0f));
+		EXPECT_FALSE(Notification.ExpiresAt.IsSet());
+	}
+}
+
+class CollisionCheck : public FToolkitTest
+{
+protected:
+	/** Starts the editor on a project without the unit volumes' profile. */
+	void StartWithMissingProfile()
+	{
+		WriteProjectFile(EngineIni, MakeIni(CollisionIni::Glass, ""));
+		StartEditor();
+	}
+
+	static void Press(const TCHAR* Label)
+	{
+		const FHostInputResult Result = HostNotifications::PressButton(Label);
+		ASSERT_TRUE(Result.bDone) << ToUtf8(Result.Reason);
+	}
+};
+
+TEST_F(CollisionCheck, TellsSoundProjectsFromThoseThatMissSomething)
+{
+	struct FCase
+	{
+		const char* Behaviour;
+		std::string Ini;
+		bool bSound;
+	};
+	const std::string& Profile = CollisionIni::Profile;
+	const std::string& Channel = CollisionIni::Channel;
+	const FCase Cases[] = {
+		{"both lines", MakeIni(Profile, Channel), true},
+		{"order of the lines does not count", MakeIni(Channel, Profile), true},
+		{"letter case of the channel does not count", MakeIni(Profile, CollisionIni::Replace(Channel, "UnitVolume", "UNITVOLUME")), true},
+		{"letter case of its key and values does not count", MakeIni(Profile, CollisionIni::Replace(Channel, "DefaultChannelResponses=(Channel", "defaultchannelresponses=(channel")), true},
+		{"letter case of the profile's name does not count", MakeIni(CollisionIni::Replace(Profile, "Name=\"UnitVolume\"", "Name=\"unitvolume\""), Channel), true},
+		{"a channel without blanks after commas is another line", MakeIni(Profile, CollisionIni::Replace(Channel, ", ", ",")), false},
+		{"a channel with one blank more is another line", MakeIni(Profile, CollisionIni::Replace(Channel, ", ", ",  ")), false},
+		{"the channel added with another prefix", MakeIni(Profile, "." + Channel.substr(1)), false},
+		{"only the profile", MakeIni(Profile, ""), false},
+		{"only the channel", MakeIni(CollisionIni::Glass, Channel), false},
+		{"an empty section", CollisionIni::Section + "\nComment=here\n", false},
+	};
+	for (const FCase& Case : Cases)
+	{
+		SCOPED_TRACE(Case.Behaviour);
+		WriteProjectFile(EngineIni, Case.Ini);
+		StartEditor();
+		EXPECT_EQ(NotificationTitles().Num(), Case.bSound ? 0 : 1);
+		const std::vector<std::string> Log = TakeModuleLog();
+		EXPECT_EQ(std::count(Log.begin(), Log.end(), CheckedLine), Case.bSound ? 1 : 0);
+		EXPECT_EQ(ReadProjectFile(EngineIni), Case.Ini);
+	}
+}
+
+TEST_F(CollisionCheck, WritesTheEnginesProfilesWhenTheProjectHasNoCollisionSection)
+{
+	const std::string Other = "[/Script/Engine.RendererSettings]\r\nr.Shadow.Virtual.Enable=1\r\n";
+	WriteProjectFile(EngineIni, Other);
+	StartEditor();
+
+	const std::string Written = ReadProjectFile(EngineIni);
+	EXPECT_THAT(Written, StartsWith(Other));
+	EXPECT_THAT(Written, HasSubstr(CollisionIni::Section + "\r\n"));
+	EXPECT_THAT(Written, HasSubstr("\n+Profiles=(Name=\"BlockAll\","));
+	EXPECT_THAT(TakeModuleLog(), Contains(WrittenLine));
+	EXPECT_EQ(NotificationTitles(), TArray<FString>{MissingTitle});
+}
+
+TEST_F(CollisionCheck, TreatsAMissingFileLikeAMissingSection)
+{
+	std::filesystem::remove(Folder.GetNative("Project/Config/DefaultEngine.ini"));
+	StartEditor();
+	EXPECT_THAT(ReadProjectFile(EngineIni), HasSubstr("+Profiles=(Name=\"BlockAll\","));
+	EXPECT_THAT(TakeModuleLog(), Contains(WrittenLine));
+	EXPECT_EQ(NotificationTitles(), TArray<FString>{MissingTitle});
+}
+
+TEST_F(CollisionCheck, AsksWhetherToAddAMissingProfile)
+{
+	StartWithMissingProfile();
+	const TSharedPtr<const FHostNotification> Question = FindNotification(MissingTitle);
+	ASSERT_TRUE(Question.IsValid());
+	EXPECT_EQ(ToUtf8(Question->SubText),
+		"The UnitVolume profile was not found. This profile is required for UnitVolumes. Make sure to add it to your project to avoid issues. \n\n"
+		" Do you want to add this configuration to the project?");
+	EXPECT_THAT(LabelsOf(*Question), ElementsAre("Add to Project Config", "Skip"));
+	ExpectQuestion(*Question);
+
+	Wait(3600.0);
+	EXPECT_FALSE(Question->IsGone()) << "nobody has answered";
+	EXPECT_EQ(FindDialogues().Num(), 1) << "the question's object must stay alive";
+	EXPECT_EQ(FindDialogues()[0]->GetOuter(), GetTransientPackage());
+}
+
+TEST_F(CollisionCheck, SkipTakesTheQuestionAwayAndChangesNothing)
+{
+	StartWithMissingProfile();
+	Press(TEXT("Skip"));
+	EXPECT_EQ(FindDialogues().Num(), 0);
+
+	Wait(2.0);
+	EXPECT_TRUE(FindNotification(MissingTitle)->IsGone());
+	EXPECT_EQ(NotificationTitles().Num(), 1);
+	EXPECT_EQ(ReadProjectFile(EngineIni), MakeIni(CollisionIni::Glass, ""));
+}
+
+TEST_F(CollisionCheck, AddWritesTheLinesThenConfirmsThenAsksForARestart)
+{
+	StartWithMissingProfile();
+	Press(TEXT("Add to Project Config"));
+	EXPECT_EQ(ReadProjectFile(EngineIni), MakeIni(CollisionIni::Glass + "\n" + CollisionIni::Profile + "\n" + CollisionIni::Channel, ""));
+
+	const TArray<FString> Titles = NotificationTitles();
+	ASSERT_EQ(Titles, (TArray<FString>{MissingTitle, TEXT("UnitVolume Collision Profiles Added"), RestartTitle}));
+	EXPECT_TRUE(FindNotification(MissingTitle)->ExpiresAt.IsSet()) << "the first question goes";
+
+	const TSharedPtr<const FHostNotification> Added = FindNotification(TEXT("UnitVolume Collision Profiles Added"));
+	EXPECT_EQ(Added->State, SNotificationItem::CS_Success);
+	EXPECT_TRUE(Added->bUseSuccessFailIcons);
+	EXPECT_TRUE(Added->bFireAndForget);
+	EXPECT_EQ(Added->Width, TOptional<float>(450.0f));
+	EXPECT_EQ(Added->ExpireDuration, 2.0f);
+	EXPECT_EQ(Added->Buttons.Num(), 0);
+
+	const TSharedPtr<const FHostNotification> Restart = FindNotification(RestartTitle);
+	EXPECT_EQ(ToUtf8(Restart->SubText),
+		"A restart is required to apply the changes properly. Save your work and restart the project. \n\n Do you want to restart the editor now?");
+	EXPECT_THAT(LabelsOf(*Restart), ElementsAre("Restart Editor", "Later"));
+	ExpectQuestion(*Restart);
+	EXPECT_EQ(FindDialogues().Num(), 1);
+}
+
+TEST_F(CollisionCheck, LaterTakesTheRestartQuestionAway)
+{
+	StartWithMissingProfile();
+	Press(TEXT("Add to Project Config"));
+	Wait(10.0);
+	EXPECT_FALSE(FindNotification(RestartTitle)->IsGone());
+
+	Press(TEXT("Later"));
+	EXPECT_EQ(FindDialogues().Num(), 0);
+	Wait(2.0);
+	EXPECT_TRUE(FindNotification(RestartTitle)->IsGone());
+	EXPECT_EQ(HostEditor::GetRestartRequests().Num(), 0);
+}
+
+TEST_F(CollisionCheck, RestartIsRequestedWithoutAPromptAndNothingIsReleased)
+{
+	StartWithMissingProfile();
+	Press(TEXT("Add to Project Config"));
+	Press(TEXT("Restart Editor"));
+
+	ASSERT_EQ(HostEditor::GetRestartRequests().Num(), 1);
+	EXPECT_FALSE(HostEditor::GetRestartRequests()[0].bWarn);
+	EXPECT_FALSE(HostEditor::GetRestartRequests()[0].NewCommandLine.IsSet());
+	Wait(10.0);
+	EXPECT_FALSE(FindNotification(RestartTitle)->IsGone());
+	EXPECT_EQ(FindDialogues().Num(), 1);
+}
+
+TEST_F(CollisionCheck, ARepairCountsAfterARestartOnly)
+{
+	StartWithMissingProfile();
+	Press(TEXT("Add to Project Config"));
+	UVelmorantEditorUtilitiesLibrary::CheckForUnitVolumeCollisionProfile();
+	EXPECT_EQ(NotificationTitles().Last(), MissingTitle) << "the live profiles are still the old ones";
+
+	StartEditor();
+	EXPECT_EQ(NotificationTitles().Num(), 0);
+	EXPECT_THAT(TakeModuleLog(), Contains(CheckedLine));
+}
+
+TEST_F(CollisionCheck, AProjectWithoutSectionIsSoundAfterTheRepair)
+{
+	WriteProjectFile(EngineIni, "");
+	StartEditor();
+	Press(TEXT("Add to Project Config"));
+	StartEditor();
+	EXPECT_THAT(TakeModuleLog(), Contains(CheckedLine));
+}
+
+TEST_F(CollisionCheck, EveryFailedCheckAsksByItself)
+{
+	StartWithMissingProfile();
+	UVelmorantEditorUtilitiesLibrary::CheckForUnitVolumeCollisionProfile();
+	EXPECT_EQ(NotificationTitles(), (TArray<FString>{MissingTitle, MissingTitle}));
+	EXPECT_EQ(FindDialogues().Num(), 2);
+
+	Press(TEXT("Skip"));
+	Wait(2.0);
+	EXPECT_EQ(HostNotifications::GetStanding().Num(), 1);
+	EXPECT_EQ(FindDialogues().Num(), 1);
+}
+
+TEST_F(CollisionCheck, StartingASoundProjectTouchesNoFile)
+{
+	WriteProjectFile(EngineIni, CollisionIni::Replace(MakeIni(CollisionIni::Profile, CollisionIni::Channel), "\n", "\r\n"));
+	const auto DescribeFiles = [this]
+	{
+		std::map<std::string, std::pair<std::string, std::filesystem::file_time_type>> Files;
+		for (const std::filesystem::directory_entry& Entry : std::filesystem::recursive_directory_iterator(Folder.GetNative("Project")))
+		{
+			const std::string Relative = std::filesystem::relative(Entry.path(), Folder.GetNative()).string();
+			Files[Relative] = {Entry.is_directory() ? "" : Folder.Read(Relative), Entry.last_write_time()};
+		}
+		return Files;
+	};
+	const auto Before = DescribeFiles();
+	for (int32 Start = 0; Start < 5; ++Start)
+	{
+		StartEditor();
+		Wait(1.0);
+		StopEditor();
+	}
+	EXPECT_TRUE(DescribeFiles() == Before);
+}

@@ -1,0 +1,221 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "AssetTypeActions_Base.h"
+#include "Editor.h"
+#include "Framework/Commands/InputBindingManager.h"
+#include "HostAssertions.h"
+#include "HostAssetTools.h"
+#include "HostEditor.h"
+#include "HostPlacement.h"
+#include "HostPropertyEditor.h"
+#include "HostStyles.h"
+#include "IAssetTools.h"
+#include "Modules/ModuleManager.h"
+#include "ToolkitTest.h"
+
+using testing::AllOf;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::Not;
+
+namespace
+{
+	const char* const CheckedLine = "Log: Checked UnitVolume DefaultChannelResponses and profile exist.";
+
+	std::vector<std::string> ToStrings(const TArray<FName>& Names)
+	{
+		std::vector<std::string> Strings;
+		for (const FName Name : Names)
+		{
+			Strings.push_back(ToUtf8(Name));
+		}
+		return Strings;
+	}
+
+	std::vector<std::string> NewAssetNames()
+	{
+		std::vector<std::string> Names;
+		for (const HostAssetTools::FNewAssetItem& Item : HostAssetTools::GetNewAssetMenu())
+		{
+			Names.push_back(ToUtf8(Item.DisplayName));
+		}
+		return Names;
+	}
+
+	/** Everything that the module has registered, one line each, to compare two editors. */
+	std::vector<std::string> DescribeRegistrations()
+	{
+		std::vector<std::string> Lines;
+		for (const FName Style : HostStyles::GetRegisteredStyles())
+		{
+			Lines.push_back("style " + ToUtf8(Style) + " " + std::to_string(HostStyles::GetBrushRegistrations(Style).Num()));
+		}
+		TArray<TSharedPtr<FUICommandInfo>> Commands;
+		FInputBindingManager::Get().GetCommandInfosFromContext("VelmorantProEdCommands", Commands);
+		for (const TSharedPtr<FUICommandInfo>& Command : Commands)
+		{
+			Lines.push_back("command " + ToUtf8(Command->GetCommandName()));
+		}
+		for (const HostAssetTools::FAdvancedCategory& Category : HostAssetTools::GetAdvancedCategories())
+		{
+			Lines.push_back("asset category " + ToUtf8(Category.Key));
+		}
+		for (const std::string& Name : NewAssetNames())
+		{
+			Lines.push_back("new asset " + Name);
+		}
+		for (const TSharedRef<FPlaceableItem>& Item : HostPlacement::GetItems("VelmorantActors"))
+		{
+			Lines.push_back("placeable " + ToUtf8(Item->DisplayName));
+		}
+		return Lines;
+	}
+}
+
+class ModuleStartup : public FToolkitTest
+{
+};
+
+TEST_F(ModuleStartup, TellsOfItsLifeInTheLogAsWarnings)
+{
+	StartEditor();
+	EXPECT_THAT(TakeModuleLog(), ElementsAre("Warning: VelmorantProEditor module has been loaded", CheckedLine));
+
+	StopEditor();
+	EXPECT_THAT(TakeModuleLog(), ElementsAre("Warning: LogVelmorantProEditor module has been unloaded"));
+}
+
+TEST_F(ModuleStartup, RegistersFourCommandsWithTheirTexts)
+{
+	StartEditor();
+	const TSharedPtr<FBindingContext> Context = FInputBindingManager::Get().GetContextByName("VelmorantProEdCommands");
+	ASSERT_TRUE(Context.IsValid());
+	EXPECT_EQ(ToUtf8(Context->GetContextDesc()), "VelmorantProEdCommands Settings");
+
+	std::vector<std::string> Texts;
+	TArray<TSharedPtr<FUICommandInfo>> Commands;
+	FInputBindingManager::Get().GetCommandInfosFromContext("VelmorantProEdCommands", Commands);
+	for (const TSharedPtr<FUICommandInfo>& Command : Commands)
+	{
+		EXPECT_EQ(Command->GetUserInterfaceType(), EUserInterfaceActionType::Button);
+		EXPECT_TRUE(Command->GetInputText().IsEmpty());
+		EXPECT_EQ(ToUtf8(*FTextInspector::GetNamespace(Command->GetDescription())), "FVelmorantProEditor");
+		EXPECT_EQ(ToUtf8(*FTextInspector::GetKey(Command->GetDescription())), ToUtf8(Command->GetCommandName()) + "_ToolTip");
+		Texts.push_back(ToUtf8(Command->GetCommandName()) + ": " + ToUtf8(Command->GetLabel()) + " | " + ToUtf8(Command->GetDescription()));
+	}
+	EXPECT_THAT(Texts, ElementsAre(
+		"VelmorantCommand_OpenMenu: Register User | Open Velmorant Options",
+		"VelmorantPro_OpenProSettings: Velmorant Pro Settings | Open Velmorant Pro Settings panel",
+		"VelmorantPro_OpenProUISettings: Velmorant Pro UI Settings | Open Velmorant Pro UI Settings panel",
+		"VelmorantSDK_OpenSDKSettings: Velmorant SDK Settings | Open Velmorant SDK Settings panel"));
+}
+
+TEST_F(ModuleStartup, RegistersItsAssetCategory)
+{
+	StartEditor();
+	const TArray<HostAssetTools::FAdvancedCategory> Categories = HostAssetTools::GetAdvancedCategories();
+	ASSERT_EQ(Categories.Num(), 1);
+	EXPECT_EQ(ToUtf8(Categories[0].Key), "VelmorantAsset");
+	EXPECT_EQ(ToUtf8(Categories[0].DisplayName), "Velmorant Assets");
+}
+
+TEST_F(ModuleStartup, GroupsTheRuntimeClassesCategoriesInOneDetailsSection)
+{
+	StartEditor();
+	const TSharedPtr<FPropertySection> Section = HostPropertyEditor::FindSection("Object", "Velmorant");
+	ASSERT_TRUE(Section.IsValid());
+	EXPECT_EQ(ToUtf8(Section->GetDisplayName()), "Velmorant");
+	EXPECT_EQ(ToUtf8(*FTextInspector::GetNamespace(Section->GetDisplayName())), "FVelmorantProEditor");
+	EXPECT_EQ(ToUtf8(*FTextInspector::GetKey(Section->GetDisplayName())), "Velmorant");
+	for (const TCHAR* Category : {TEXT("VelmorantLevelConfiguration"), TEXT("VelmorantCharacter"), TEXT("VelmorantPanoramicChar"), TEXT("VelmorantPlayerController"),
+			 TEXT("UnitVolumeConfig"), TEXT("UnitVolumesManager"), TEXT("ControllerSwitchPawn"), TEXT("MinimapLevelController")})
+	{
+		EXPECT_TRUE(Section->HasAddedCategory(Category)) << ToUtf8(FString(Category));
+	}
+}
+
+TEST_F(ModuleStartup, OffersItsActorsForPlacement)
+{
+	StartEditor();
+	const FPlacementCategoryInfo* Category = IPlacementModeModule::Get().GetRegisteredPlacementCategory("VelmorantActors");
+	ASSERT_NE(Category, nullptr);
+	EXPECT_EQ(ToUtf8(Category->DisplayName), "Velmorant Actors");
+	EXPECT_EQ(ToUtf8(Category->DisplayIcon.GetStyleSetName()) + " " + ToUtf8(Category->DisplayIcon.GetStyleName()), "VelmorantEditorStyle Velmorant.Editor.LogoRamp");
+
+	const TArray<TSharedRef<FPlaceableItem>> Items = HostPlacement::GetItems("VelmorantActors");
+	const TSharedRef<FPlaceableItem>* SunSky = Items.FindByPredicate([](const TSharedRef<FPlaceableItem>& Item) { return ToUtf8(Item->DisplayName) == "Sun Sky Velmorant"; });
+	ASSERT_NE(SunSky, nullptr);
+	EXPECT_EQ(ToUtf8((*SunSky)->AssetData.PackageName), "/VelmorantPro/Features/SunAndLights/SunSkyVlm");
+	EXPECT_EQ(ToUtf8((*SunSky)->ClassThumbnailBrushOverride), "SunPosition.ModesThumbnail");
+	EXPECT_EQ(ToUtf8((*SunSky)->ClassIconBrushOverride), "SunPosition.ModesIcon");
+	EXPECT_GT(Items.Num(), 1) << "the toolkit's own actors are missing";
+}
+
+TEST_F(ModuleStartup, RegistersTheSameInEveryEditorOfOneProcess)
+{
+	StartEditor();
+	const std::vector<std::string> First = DescribeRegistrations();
+	const std::vector<std::string> FirstLog = TakeModuleLog();
+	EXPECT_THAT(First, Contains("placeable Sun Sky Velmorant"));
+
+	StartEditor();
+	EXPECT_EQ(DescribeRegistrations(), First);
+	EXPECT_EQ(TakeModuleLog(), FirstLog);
+}
+
+TEST_F(ModuleStartup, ChecksOncePerMapRequestedBeforeInitialisationEnds)
+{
+	int32 FurtherRequests = 2;
+	FEditorDelegates::OnMapLoad.AddLambda([&FurtherRequests](const FString& Filename, FCanLoadMap& CanLoad)
+	{
+		if (FurtherRequests > 0)
+		{
+			--FurtherRequests;
+			FEditorDelegates::OnMapLoad.Broadcast(Filename, CanLoad);
+		}
+	});
+	StartEditor();
+	EXPECT_THAT(TakeModuleLog(), ElementsAre("Warning: VelmorantProEditor module has been loaded", CheckedLine, CheckedLine, CheckedLine));
+}
+
+TEST_F(ModuleStartup, ChecksOnceAlthoughTheStartupMapCannotBeOpened)
+{
+	WriteProjectFile("Config/DefaultEngine.ini", std::string(SoundEngineIni) + "\n[/Script/EngineSettings.GameMapsSettings]\nEditorStartupMap=/Game/Maps/Tower.Tower\n");
+	WriteProjectFile("Content/Maps/Tower.umap", "made by the engine");
+	StartEditor();
+	EXPECT_THAT(TakeModuleLog(), ElementsAre("Warning: VelmorantProEditor module has been loaded", CheckedLine));
+	EXPECT_NE(GEditor->GetEditorWorldContext().World(), nullptr);
+}
+
+TEST_F(ModuleStartup, ChecksNothingWhenAMapIsOpenedLater)
+{
+	StartEditor();
+	TakeModuleLog();
+	ASSERT_EQ(HostEditor::OpenMap(FString()), HostEditor::EOpenMap::Opened);
+	Wait(1.0);
+	EXPECT_THAT(TakeModuleLog(), ElementsAre());
+}
+
+TEST_F(ModuleStartup, ShutsDownWithoutThePlacementModule)
+{
+	StartEditor();
+	TakeModuleLog();
+	ASSERT_TRUE(FModuleManager::Get().UnloadModule("PlacementMode"));
+	EXPECT_TRUE(FModuleManager::Get().UnloadModule("VelmorantProEditor"));
+	EXPECT_FALSE(FModuleManager::Get().IsModuleLoaded("PlacementMode"));
+	EXPECT_THAT(TakeModuleLog(), ElementsAre("Warning: LogVelmorantProEditor module has been unloaded"));
+}
+
+TEST_F(ModuleStartup, LeavesAllButStyleAndPlacementRegisteredAtShutdown)
+{
+	StartEditor();
+	ASSERT_TRUE(FModuleManager::Get().UnloadModule("VelmorantProEditor"));
+
+	EXPECT_THAT(ToStrings(HostStyles::GetRegisteredStyles()), Not(Contains("VelmorantEditorStyle")));
+	EXPECT_THAT(ToStrings(HostPlacement::GetCategories()), Not(Contains("VelmorantActors")));
+
+	EXPECT_TRUE(FInputBindingManager::Get().FindCommandInContext("VelmorantProEdCommands", "VelmorantSDK_OpenSDKSettings").IsValid());
+	EXPECT_EQ(HostAssetTools::GetAdvancedCategories().Num(), 1);
+	EXPECT_TRUE(HostPropertyEditor::FindSection("Object", "Velmorant").IsValid());
+	EXPECT_THAT(NewAssetNames(), AllOf(Contains("Maps Linker Asset"), Contains("Minimap Config Asset")));
+}

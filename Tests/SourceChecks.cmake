@@ -1,0 +1,43 @@
+# Copyright Velmorant. All Rights Reserved.
+# What the compiler itself says of the sources: the product as one unity file, each of its headers alone, and code that the real
+# engine refuses and so must this host.
+
+get_target_property(ModuleIncludes VelmorantProEditor INCLUDE_DIRECTORIES)
+
+# The product's sources in one translation unit: helpers and macros of one file must not get into the way of another's.
+file(GLOB_RECURSE ModuleSources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/Source/VelmorantProEditor/Private/*.cpp)
+set(UnityText "// Generated: every source of the module in one file.\n")
+foreach(Source ${ModuleSources})
+	string(APPEND UnityText "#include \"${Source}\"\n")
+endforeach()
+file(CONFIGURE OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/ModuleUnity.cpp CONTENT "${UnityText}" @ONLY)
+
+# Each header alone, before anything else.
+set(HeaderSources "")
+file(GLOB_RECURSE ModuleHeaders CONFIGURE_DEPENDS
+	${CMAKE_SOURCE_DIR}/Source/VelmorantProEditor/Public/*.h ${CMAKE_SOURCE_DIR}/Source/VelmorantProEditor/Private/*.h)
+foreach(Header ${ModuleHeaders})
+	string(MAKE_C_IDENTIFIER ${Header} Identifier)
+	string(REGEX REPLACE "^.*_VelmorantProEditor_" "" Identifier ${Identifier})
+	set(HeaderSource ${CMAKE_CURRENT_BINARY_DIR}/HeaderAlone_${Identifier}.cpp)
+	file(CONFIGURE OUTPUT ${HeaderSource} CONTENT "// Generated: the header compiles alone.\n#include \"${Header}\"\n" @ONLY)
+	list(APPEND HeaderSources ${HeaderSource})
+endforeach()
+
+add_library(ModuleSourceChecks OBJECT ${CMAKE_CURRENT_BINARY_DIR}/ModuleUnity.cpp ${HeaderSources})
+target_link_libraries(ModuleSourceChecks PRIVATE VelmorantBuild)
+target_include_directories(ModuleSourceChecks PRIVATE
+	$<TARGET_PROPERTY:VelmorantProEditor,INCLUDE_DIRECTORIES> $<TARGET_PROPERTY:VelmorantProEditor,INTERFACE_INCLUDE_DIRECTORIES>)
+target_compile_definitions(ModuleSourceChecks PRIVATE $<TARGET_PROPERTY:VelmorantProEditor,COMPILE_DEFINITIONS>)
+add_dependencies(ModuleSourceChecks VelmorantProEditor)
+
+# Each file must be refused, for the reason that its first line gives as a regular expression after "refused: ".
+file(GLOB RefusedSources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/Host/Refused/*.cpp)
+set(RefusedIncludes "$<TARGET_PROPERTY:UMG,INTERFACE_INCLUDE_DIRECTORIES>")
+set(RefusedDefinitions "$<TARGET_PROPERTY:UMG,INTERFACE_COMPILE_DEFINITIONS>")
+add_test(NAME RefusedSources COMMAND ${CMAKE_COMMAND}
+	"-DCOMPILER=${CMAKE_CXX_COMPILER}"
+	"-DINCLUDES=$<JOIN:${RefusedIncludes},|>"
+	"-DDEFINITIONS=$<JOIN:${RefusedDefinitions},|>"
+	"-DSOURCES=$<JOIN:${RefusedSources},|>"
+	-P ${CMAKE_CURRENT_SOURCE_DIR}/RefusedSources.cmake)

@@ -1,0 +1,124 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "TestPanel.h"
+
+#include "Blueprint/WidgetBlueprintGeneratedClass.h"
+#include "HostObjects.h"
+#include "HostUserWidgets.h"
+#include "HostWidgetLayout.h"
+#include "TestPrinters.h"
+#include "ToolkitTest.h"
+#include "UObject/Package.h"
+#include "UObject/UnrealType.h"
+
+#include <gtest/gtest.h>
+
+namespace TestPanel
+{
+	using FEvents = std::shared_ptr<std::vector<std::string>>;
+
+	/** @param Name as it is to be recorded. */
+	UFunction::FScriptBody MakeRecorder(const FEvents& Events, const std::string& Name)
+	{
+		return [Events, Name](UObject*, FFrame& Stack, void*)
+		{
+			const TArray<FProperty*> Parameters = Stack.Node->GetOwnProperties();
+			const FBoolProperty* Flag = Parameters.IsEmpty() ? nullptr : CastField<FBoolProperty>(Parameters[0]);
+			Events->push_back(!Flag ? Name : Name + (*Flag->ContainerPtrToValuePtr<bool>(Stack.Locals) ? "(true)" : "(false)"));
+		};
+	}
+
+	UClass* MakeClass(const char* LayoutText)
+	{
+		TArray<HostWidgetLayout::FProblem> Problems;
+		const TSharedPtr<const FWidgetLayout> Layout = HostWidgetLayout::Read(UTF8_TO_TCHAR(LayoutText), Problems);
+		for (const HostWidgetLayout::FProblem& Problem : Problems)
+		{
+			ADD_FAILURE() << ToUtf8(Problem.Pointer) << ": " << ToUtf8(Problem.Message);
+		}
+		check(Layout.IsValid());
+		return HostWidgetLayout::MakeClass(Layout.ToSharedRef(), MakeUniqueObjectName(GetTransientPackage(), UClass::StaticClass(), TEXT("TestPanel_C")), GetTransientPackage());
+	}
+}
+
+FTestPanel::FTestPanel(const char* Layout, std::initializer_list<const TCHAR*> EventNames)
+	: Class(TestPanel::MakeClass(Layout))
+{
+	for (const TCHAR* Name : EventNames)
+	{
+		HostObjects::AddScriptFunction(Class.Get(), Name, TestPanel::MakeRecorder(Events, ToUtf8(FString(Name))));
+	}
+	Panel = TStrongObjectPtr<UUserWidget>(FHostUserWidgets::Create(nullptr, Class.Get()));
+}
+
+void FTestPanel::Show()
+{
+	Screen = Panel->TakeWidget();
+}
+
+void FTestPanel::Hide()
+{
+	Screen.Reset();
+}
+
+void FTestPanel::Expect(const FHostInputResult& Result) const
+{
+	EXPECT_TRUE(Result.bDone) << ToUtf8(Result.Reason);
+}
+
+void FTestPanel::Click(const TCHAR* Widget)
+{
+	Expect(HostSnapshot::Click(Screen.ToSharedRef(), Widget));
+}
+
+void FTestPanel::Type(const TCHAR* Widget, const TCHAR* Text)
+{
+	Expect(HostSnapshot::Type(Screen.ToSharedRef(), Widget, Text));
+}
+
+void FTestPanel::Choose(const TCHAR* Widget, const TCHAR* Option)
+{
+	Expect(HostSnapshot::Choose(Screen.ToSharedRef(), Widget, Option));
+}
+
+void FTestPanel::Check(const TCHAR* Widget, bool bOn)
+{
+	Expect(HostSnapshot::Check(Screen.ToSharedRef(), Widget, bOn));
+}
+
+std::string FTestPanel::Read(const TCHAR* Widget) const
+{
+	FString Reason;
+	const TOptional<FString> Text = HostSnapshot::Read(Screen.ToSharedRef(), Widget, Reason);
+	EXPECT_TRUE(Text.IsSet()) << ToUtf8(Reason);
+	return Text.IsSet() ? ToUtf8(Text.GetValue()) : std::string();
+}
+
+std::vector<std::string> FTestPanel::Options(const TCHAR* Widget) const
+{
+	FString Reason;
+	std::vector<std::string> Options;
+	for (const FString& Option : HostSnapshot::GetOptions(Screen.ToSharedRef(), Widget, Reason))
+	{
+		Options.push_back(ToUtf8(Option));
+	}
+	EXPECT_TRUE(Reason.IsEmpty()) << ToUtf8(Reason);
+	return Options;
+}
+
+std::vector<std::string> FTestPanel::TakeEvents()
+{
+	return std::exchange(*Events, {});
+}
+
+void FTestPanel::ListenTo(const TCHAR* Delegate)
+{
+	const FMulticastDelegateProperty* Property = FindFProperty<FMulticastDelegateProperty>(Class.Get(), Delegate);
+	ASSERT_NE(Property, nullptr);
+	const FName Listener(*(FString(TEXT("Heard_")) + Delegate));
+	ASSERT_NE(HostObjects::AddScriptListener(Class.Get(), Listener, *Property, TestPanel::MakeRecorder(Events, ToUtf8(FString(Delegate)))), nullptr);
+
+	FScriptDelegate Binding;
+	Binding.BindUFunction(Panel.Get(), Listener);
+	Property->AddDelegate(Binding, Panel.Get());
+}

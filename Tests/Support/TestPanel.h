@@ -1,0 +1,71 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include "Blueprint/UserWidget.h"
+#include "HostSnapshot.h"
+#include "UObject/StrongObjectPtr.h"
+#include "Widgets/SWidget.h"
+
+#include <initializer_list>
+#include <memory>
+#include <string>
+#include <vector>
+
+/**
+ * A panel of a layout of the test's own, on screen, with a person's hands on it.
+ *
+ * Its class is derived at run time, as a widget blueprint's is. The given Blueprint events are answered by recording them: "Name", or
+ * "Name(true)" for one with a flag.
+ */
+class FTestPanel
+{
+public:
+	/** The test fails when the layout does not fit its panel class. Nothing shows before Show(). */
+	FTestPanel(const char* Layout, std::initializer_list<const TCHAR*> Events);
+
+	/** Makes the Slate widget, which constructs the panel. */
+	void Show();
+
+	/** Lets the Slate widget go, which destructs the panel; the object stays. */
+	void Hide();
+
+	template<typename PanelT>
+	PanelT* Get() const
+	{
+		return CastChecked<PanelT>(Panel.Get());
+	}
+
+	UUserWidget* Get() const { return Panel.Get(); }
+
+	template<typename WidgetT>
+	WidgetT* Find(const TCHAR* Name) const
+	{
+		return CastChecked<WidgetT>(Panel->GetWidgetFromName(FName(Name)));
+	}
+
+	//~ What a person does. The test fails when the panel does not let them.
+	void Click(const TCHAR* Widget);
+	void Type(const TCHAR* Widget, const TCHAR* Text);
+	void Choose(const TCHAR* Widget, const TCHAR* Option);
+	void Check(const TCHAR* Widget, bool bOn);
+
+	/** What a person reads in a widget. */
+	std::string Read(const TCHAR* Widget) const;
+	std::vector<std::string> Options(const TCHAR* Widget) const;
+
+	/** Events since the last call. */
+	std::vector<std::string> TakeEvents();
+
+	/** Records every call of a delegate of the panel as "Name(true)", from its first parameter, a flag. */
+	void ListenTo(const TCHAR* Delegate);
+
+private:
+	void Expect(const FHostInputResult& Result) const;
+
+	// Shared with the recording scripts, which may outlive this object.
+	std::shared_ptr<std::vector<std::string>> Events = std::make_shared<std::vector<std::string>>();
+	TStrongObjectPtr<UClass> Class;
+	TStrongObjectPtr<UUserWidget> Panel;
+	TSharedPtr<SWidget> Screen;
+};
