@@ -34,8 +34,7 @@ namespace CheckBenchmark
 	void WriteLargeProject(const FTemporaryFolder& Folder)
 	{
 		std::string Settings;
-		const auto AddSections = [&Settings](const char* Name, size_t UntilSize)
-		{
+		const auto AddSections = [&Settings](const char* Name, size_t UntilSize) {
 			for (int Section = 0; Settings.size() < UntilSize; ++Section)
 			{
 				Settings += "[/Script/Plugin" + std::string(Name) + ".Settings" + std::to_string(Section) + "]\n";

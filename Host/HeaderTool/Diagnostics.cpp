@@ -22,8 +22,7 @@ namespace HeaderTool
 			FileOrder.emplace(Diagnostic.Path, FileOrder.size());
 		}
 		std::vector<FDiagnostic> Sorted = Errors;
-		std::stable_sort(Sorted.begin(), Sorted.end(), [&FileOrder](const FDiagnostic& A, const FDiagnostic& B)
-			{
+		std::stable_sort(Sorted.begin(), Sorted.end(), [&FileOrder](const FDiagnostic& A, const FDiagnostic& B) {
 			const size_t FileA = FileOrder[A.Path];
 			const size_t FileB = FileOrder[B.Path];
 			return FileA != FileB ? FileA < FileB : A.Line < B.Line; });

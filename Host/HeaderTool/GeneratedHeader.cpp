@@ -95,8 +95,7 @@ namespace HeaderTool
 					{
 						Names.insert(Class->CppName);
 					}
-					VisitTypes(*Class, [&Names](const FTypeUse& Type)
-						{
+					VisitTypes(*Class, [&Names](const FTypeUse& Type) {
 						if (!Type.ReferencedClassName.empty())
 						{
 							Names.insert(Type.ReferencedClassName);

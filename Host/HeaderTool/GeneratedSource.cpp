@@ -52,8 +52,7 @@ namespace HeaderTool
 				std::set<std::string> Values;
 				for (const std::unique_ptr<FClass>& Class : Header.Classes)
 				{
-					VisitTypes(*Class, [this, &Values](const FTypeUse& Type)
-						{
+					VisitTypes(*Class, [this, &Values](const FTypeUse& Type) {
 						if (Type.ValueHeader && Type.ValueHeader != &Header)
 						{
 							Values.insert(Type.ValueHeader->IncludePath);
@@ -96,8 +95,7 @@ namespace HeaderTool
 					{
 						Classes.insert(Interface->CppName);
 					}
-					VisitTypes(*Class, [&Classes, &Enums](const FTypeUse& Type)
-						{
+					VisitTypes(*Class, [&Classes, &Enums](const FTypeUse& Type) {
 						if (Type.ReferencedClass)
 						{
 							Classes.insert(Type.ReferencedClassName);

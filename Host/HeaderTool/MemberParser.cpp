@@ -140,8 +140,7 @@ namespace HeaderTool
 		FDelegateMacro ReadDelegateMacro(const FToken& Token)
 		{
 			std::string Rest = Token.Text.substr(std::string("DECLARE_DYNAMIC_").size());
-			const auto Take = [&Rest](const std::string& Prefix)
-			{
+			const auto Take = [&Rest](const std::string& Prefix) {
 				const bool bFound = StartsWith(Rest, Prefix);
 				Rest = bFound ? Rest.substr(Prefix.size()) : Rest;
 				return bFound;

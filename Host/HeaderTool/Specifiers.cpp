@@ -145,14 +145,12 @@ namespace HeaderTool
 	void ApplyClassSpecifiers(const FSpecifierList& List, FClass& Class, FDiagnostics& Diagnostics)
 	{
 		const FRules Rules = {
-			{"Blueprintable", {}, "IsBlueprintBase", "true", [&Class](const FSpecifier&)
-				{ Class.Meta.Set("BlueprintType", "true"); }},
+			{"Blueprintable", {}, "IsBlueprintBase", "true", [&Class](const FSpecifier&) { Class.Meta.Set("BlueprintType", "true"); }},
 			{"NotBlueprintable", {}, "IsBlueprintBase", "false"},
 			{"BlueprintType", {}, "BlueprintType", "true"},
 			{"NotBlueprintType", {}, "NotBlueprintType", "true"},
 			{"Abstract", {"CLASS_Abstract"}},
-			{"Config", {"CLASS_Config"}, nullptr, nullptr, [&Class](const FSpecifier& Specifier)
-				{ Class.ConfigName = Specifier.JoinedValue(); }},
+			{"Config", {"CLASS_Config"}, nullptr, nullptr, [&Class](const FSpecifier& Specifier) { Class.ConfigName = Specifier.JoinedValue(); }},
 			{"DefaultConfig", {"CLASS_DefaultConfig"}},
 			{"GlobalUserConfig", {"CLASS_GlobalUserConfig"}},
 			{"ProjectUserConfig", {"CLASS_ProjectUserConfig"}},
@@ -191,10 +189,8 @@ namespace HeaderTool
 	void ApplyInterfaceSpecifiers(const FSpecifierList& List, FClass& Class, FDiagnostics& Diagnostics)
 	{
 		const FRules Rules = {
-			{"Blueprintable", {}, "IsBlueprintBase", "true", [&Class](const FSpecifier&)
-				{ Class.Meta.Set("BlueprintType", "true"); }},
-			{"NotBlueprintable", {}, "IsBlueprintBase", "false", [&Class](const FSpecifier&)
-				{ Class.Meta.Set("CannotImplementInterfaceInBlueprint", "true"); }},
+			{"Blueprintable", {}, "IsBlueprintBase", "true", [&Class](const FSpecifier&) { Class.Meta.Set("BlueprintType", "true"); }},
+			{"NotBlueprintable", {}, "IsBlueprintBase", "false", [&Class](const FSpecifier&) { Class.Meta.Set("CannotImplementInterfaceInBlueprint", "true"); }},
 			{"BlueprintType", {}, "BlueprintType", "true"},
 			{"MinimalAPI", {"CLASS_MinimalAPI"}},
 			{"ConversionRoot", {}, "IsConversionRoot", "true"},
@@ -218,8 +214,7 @@ namespace HeaderTool
 	void ApplyEnumSpecifiers(const FSpecifierList& List, FEnum& Enum, FDiagnostics& Diagnostics)
 	{
 		const FRules Rules = {
-			{"BlueprintType", {}, "BlueprintType", "true", [&Enum](const FSpecifier&)
-				{ Enum.bBlueprintType = true; }},
+			{"BlueprintType", {}, "BlueprintType", "true", [&Enum](const FSpecifier&) { Enum.bBlueprintType = true; }},
 			{"NotBlueprintType", {}, "NotBlueprintType", "true"},
 			{"Flags", {}, "Flags", "true"},
 		};
@@ -239,8 +234,7 @@ namespace HeaderTool
 
 	void ApplyFunctionSpecifiers(const FSpecifierList& List, FFunction& Function, FDiagnostics& Diagnostics)
 	{
-		const auto SetEvent = [&List, &Function, &Diagnostics](EFunctionEvent Event, int Line)
-		{
+		const auto SetEvent = [&List, &Function, &Diagnostics](EFunctionEvent Event, int Line) {
 			if (Function.Event != EFunctionEvent::None && Function.Event != Event)
 			{
 				Diagnostics.Error(List.Path, Line, "a function is either a BlueprintNativeEvent or a BlueprintImplementableEvent; keep one of the two.");
@@ -249,22 +243,19 @@ namespace HeaderTool
 		};
 		const FRules Rules = {
 			{"BlueprintCallable", {"FUNC_BlueprintCallable"}},
-			{"BlueprintPure", {}, nullptr, nullptr, [&Function](const FSpecifier& Specifier)
-				{
-			Function.Flags.Add("FUNC_BlueprintCallable");
-			if (IsFalse(Specifier))
-			{
-				Function.bForcedImpure = true;
-			}
-			else
-			{
-				Function.Flags.Add("FUNC_BlueprintPure");
-			}
+			{"BlueprintPure", {}, nullptr, nullptr, [&Function](const FSpecifier& Specifier) {
+				 Function.Flags.Add("FUNC_BlueprintCallable");
+				 if (IsFalse(Specifier))
+				 {
+					 Function.bForcedImpure = true;
+				 }
+				 else
+				 {
+					 Function.Flags.Add("FUNC_BlueprintPure");
+				 }
 			 }},
-			{"BlueprintImplementableEvent", {"FUNC_Event", "FUNC_BlueprintEvent"}, nullptr, nullptr, [&SetEvent](const FSpecifier& Specifier)
-				{ SetEvent(EFunctionEvent::Implementable, Specifier.Line); }},
-			{"BlueprintNativeEvent", {"FUNC_Event", "FUNC_BlueprintEvent"}, nullptr, nullptr, [&SetEvent](const FSpecifier& Specifier)
-				{ SetEvent(EFunctionEvent::Native, Specifier.Line); }},
+			{"BlueprintImplementableEvent", {"FUNC_Event", "FUNC_BlueprintEvent"}, nullptr, nullptr, [&SetEvent](const FSpecifier& Specifier) { SetEvent(EFunctionEvent::Implementable, Specifier.Line); }},
+			{"BlueprintNativeEvent", {"FUNC_Event", "FUNC_BlueprintEvent"}, nullptr, nullptr, [&SetEvent](const FSpecifier& Specifier) { SetEvent(EFunctionEvent::Native, Specifier.Line); }},
 			{"BlueprintGetter", {"FUNC_BlueprintCallable", "FUNC_BlueprintPure"}, "BlueprintGetter", ""},
 			{"BlueprintSetter", {"FUNC_BlueprintCallable"}, "BlueprintSetter", ""},
 			{"BlueprintInternalUseOnly", {}, "BlueprintInternalUseOnly", "true"},

@@ -70,8 +70,7 @@ namespace HeaderTool
 
 	bool EqualsIgnoringCase(const std::string& A, const std::string& B)
 	{
-		return A.size() == B.size() && std::equal(A.begin(), A.end(), B.begin(), [](char X, char Y)
-										   { return Lower(X) == Lower(Y); });
+		return A.size() == B.size() && std::equal(A.begin(), A.end(), B.begin(), [](char X, char Y) { return Lower(X) == Lower(Y); });
 	}
 
 	std::string ToLower(const std::string& Text)

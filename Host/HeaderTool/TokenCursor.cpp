@@ -66,8 +66,7 @@ namespace HeaderTool
 
 	void AppendToken(std::string& Text, const FToken& Token)
 	{
-		const auto IsWord = [](char C)
-		{ return C == '_' || (C >= '0' && C <= '9') || (C >= 'a' && C <= 'z') || (C >= 'A' && C <= 'Z'); };
+		const auto IsWord = [](char C) { return C == '_' || (C >= '0' && C <= '9') || (C >= 'a' && C <= 'z') || (C >= 'A' && C <= 'Z'); };
 		const bool bWords = !Text.empty() && !Token.Text.empty() && IsWord(Text.back()) && IsWord(Token.Text.front());
 		const bool bAfterComma = !Text.empty() && Text.back() == ',';
 		Text += (bWords || bAfterComma ? " " : "") + Token.Text;

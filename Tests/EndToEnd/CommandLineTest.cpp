@@ -64,3 +64,17 @@ TEST_F(FCommandLineUse, MissingFilesOfRunAreNamed)
 	EXPECT_EQ(Data.ExitStatus, 3);
 	EXPECT_NE(Data.Errors.find(Service), std::string::npos) << Data.Errors;
 }
+
+TEST_F(FCommandLineUse, AMalformedProjectFileIsNamed)
+{
+	Folder.Write("Project/Test.uproject", "{ \"FileVersion\": 3,\n  broken\n");
+	Folder.Write("test.velscript", "wait 0\n");
+	for (const std::vector<std::string>& Arguments : {std::vector<std::string>{"check", GetProject()}, {"check", GetProject(), "--repair"}, {"run", GetProject(), GetScript()}})
+	{
+		SCOPED_TRACE(Arguments[0]);
+		const FProgramResult Result = FProgramRun::Run(Arguments, GetEnvironment());
+		EXPECT_EQ(Result.ExitStatus, 3);
+		EXPECT_NE(Result.Errors.find(GetProject() + "/Test.uproject(2): "), std::string::npos) << Result.Errors;
+		EXPECT_FALSE(Folder.Exists(IniFile));
+	}
+}

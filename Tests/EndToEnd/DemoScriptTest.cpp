@@ -27,7 +27,8 @@ TEST_F(FDemoScript, GoesFromTheMissingProfileToTheActorInTheLevel)
 	for (const char* Shown : {"Velmorant: Missing UnitVolume Profile", "Restart Editor Required", "Checked UnitVolume DefaultChannelResponses and profile exist.", "Signed in as lucia",
 			 "Success Configuration Creation", "Success Configuration Create LevelVariantSet", "Kitchen - Worktop", "Pro: steam oven"})
 	{
-		EXPECT_NE(Result.Output.find(Shown), std::string::npos) << Shown << " is missing in:\n" << Result.Output;
+		EXPECT_NE(Result.Output.find(Shown), std::string::npos) << Shown << " is missing in:\n"
+																<< Result.Output;
 	}
 	EXPECT_EQ(CountOf(ReadIni(), CollisionIni::ProfileLine + CollisionIni::ChannelLine), 1u);
 	EXPECT_TRUE(Folder.Exists("Project/Content/Velmorant/Configurator/Configurator_GardenFlat.uasset.json"));

@@ -59,11 +59,11 @@ TEST_F(FScriptSteps, ACancelledDialogMakesNoAsset)
 TEST_F(FScriptSteps, AnswersMayNameFolderAndAsset)
 {
 	Do(SignIn + "answer SaveAsset Save Name=Mine Path=/Game/Elsewhere\n" + CreateAsset + "save\nexpect asset /Game/Elsewhere/Mine class VelmorantConfiguratorDataAsset\n"
-		"expect property /Game/Elsewhere/Mine ConfiguratorName \"Garden Flat\"\n"
-		"expect property /Game/Elsewhere/Mine ConfiguratorUnit.Rooms.Num 4\n"
-		"expect property /Game/Elsewhere/Mine ConfiguratorUnit.Rooms[1].Name Kitchen\n"
-		"restart\n"
-		"expect property /Game/Elsewhere/Mine ConfiguratorUnit.Rooms[1].Groups[2].Products[2].Name \"Pro: steam oven\"\n");
+																						 "expect property /Game/Elsewhere/Mine ConfiguratorName \"Garden Flat\"\n"
+																						 "expect property /Game/Elsewhere/Mine ConfiguratorUnit.Rooms.Num 4\n"
+																						 "expect property /Game/Elsewhere/Mine ConfiguratorUnit.Rooms[1].Name Kitchen\n"
+																						 "restart\n"
+																						 "expect property /Game/Elsewhere/Mine ConfiguratorUnit.Rooms[1].Groups[2].Products[2].Name \"Pro: steam oven\"\n");
 	EXPECT_TRUE(Folder.Exists("Project/Content/Elsewhere/Mine.uasset.json"));
 }
 
@@ -181,4 +181,26 @@ TEST_F(FScriptSteps, WordsMayHoldBlanksQuotesAndLineEnds)
 	   "expect clipboard \"a \\\"b\\\"\\n\\tc\\\\\"\n"
 	   "call VelmorantEditorUtilitiesLibrary.CopyToClipboard Ático#1 x\n"
 	   "expect clipboard \"Ático#1\"\n");
+}
+
+TEST_F(FScriptSteps, RemembersTheUserOverRestartsAndLogins)
+{
+	const std::string Open = "open /VelmorantPro/EditorHelpers/DeveloperPanel/LoginPanel as Login\n";
+	const std::string Remembered = Open +
+		"expect widget Login UserName value lucia\n"
+		"expect widget Login RememberUserCheckBox state checked\n"
+		"print snapshot Login\n"
+		"click Login SummitButton\n"
+		"wait 1\n"
+		"expect widget Login LoginStatus value \"Signed in as lucia\"\n";
+	const FProgramResult Result = Do(Open +
+		"check Login RememberUserCheckBox\n"
+		"type Login UserName lucia\n"
+		"type Login UserPassword harbor-2026\n"
+		"click Login SummitButton\n"
+		"wait 1\n"
+		"restart\n" +
+		Remembered + "restart\n" + Remembered);
+	EXPECT_EQ(Result.Output.find("harbor-2026"), std::string::npos) << Result.Output;
+	EXPECT_TRUE(std::filesystem::exists(Folder.GetNative("UserConfig")));
 }

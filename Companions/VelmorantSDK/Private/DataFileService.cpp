@@ -76,8 +76,7 @@ const FServiceProject* FDataFileService::FindProject(const FServiceData& Data, c
 
 void FDataFileService::AnswerLater(double DelaySeconds, TFunction<void()> Answer) const
 {
-	FTSTicker::GetCoreTicker().AddTicker(FTickerDelegate::CreateLambda([WeakAlive = TWeakPtr<bool>(Alive), Answer = MoveTemp(Answer)](float)
-	{
+	FTSTicker::GetCoreTicker().AddTicker(FTickerDelegate::CreateLambda([WeakAlive = TWeakPtr<bool>(Alive), Answer = MoveTemp(Answer)](float) {
 		if (WeakAlive.IsValid())
 		{
 			Answer();
@@ -91,8 +90,7 @@ void FDataFileService::RequestLogin(const FVelmorantUserInformation& UserInforma
 {
 	FVelmorantLoginAnswer Answer;
 	const TOptional<FServiceData> Data = ReadFor(EServiceRequest::Login);
-	const FServiceUser* User = !Data.IsSet() ? nullptr : Data.GetValue().Users.FindByPredicate([&UserInformation](const FServiceUser& Candidate)
-	{
+	const FServiceUser* User = !Data.IsSet() ? nullptr : Data.GetValue().Users.FindByPredicate([&UserInformation](const FServiceUser& Candidate) {
 		return Candidate.UserName == UserInformation.UserName && Candidate.Password.Equals(UserInformation.Password, ESearchCase::CaseSensitive);
 	});
 	if (User)

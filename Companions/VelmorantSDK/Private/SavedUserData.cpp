@@ -42,17 +42,19 @@ bool SavedUserData::Load(FVelmorantUserInformation& OutUserInformation)
 	return true;
 }
 
-void SavedUserData::Save(const FVelmorantUserInformation& UserInformation)
+bool SavedUserData::Save(const FVelmorantUserInformation& UserInformation)
 {
 	nlohmann::json Document;
 	Document["userName"] = TCHAR_TO_UTF8(*UserInformation.UserName);
 	Document["password"] = TCHAR_TO_UTF8(*UserInformation.Password);
 
 	FString Error;
-	if (!PrivateFile::Write(GetPath(), Document.dump(), Error))
+	const bool bSaved = PrivateFile::Write(GetPath(), Document.dump(), Error);
+	if (!bSaved)
 	{
 		UE_LOG(LogVelmorantSDK, Error, TEXT("The user could not be remembered in %s: %s"), *GetPath(), *Error);
 	}
+	return bSaved;
 }
 
 void SavedUserData::Forget()

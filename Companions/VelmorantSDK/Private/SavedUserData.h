@@ -15,7 +15,8 @@ namespace SavedUserData
 	/** @return false, leaving the record alone, when nothing was saved or the file is damaged. */
 	bool Load(FVelmorantUserInformation& OutUserInformation);
 
-	void Save(const FVelmorantUserInformation& UserInformation);
+	/** @return whether it was kept. */
+	bool Save(const FVelmorantUserInformation& UserInformation);
 
 	/** Deletes the file; it may be missing. */
 	void Forget();

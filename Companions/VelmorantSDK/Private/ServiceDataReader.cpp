@@ -54,8 +54,7 @@ namespace ServiceDataReader
 		User.LoginInfo.LastName = Value.GetString("lastName", FString());
 		User.LoginInfo.Email = Value.GetString("email", FString());
 		User.LoginInfo.Picture = ReadPicture(Value, Folder);
-		Value.ForEach("projects", [&](const FServiceDocumentValue& KeyCode)
-		{
+		Value.ForEach("projects", [&](const FServiceDocumentValue& KeyCode) {
 			if (!ProjectKeyCodes.Contains(KeyCode.AsString()))
 			{
 				KeyCode.Fail("there is no project with this key code");
@@ -72,8 +71,7 @@ namespace ServiceDataReader
 		Record.Group.KeyCode = Value.GetName("keyCode");
 		Record.Group.Name = Value.GetString("name");
 		FUniqueNames KeyCodes;
-		Value.ForEach("units", [&](const FServiceDocumentValue& Unit)
-		{
+		Value.ForEach("units", [&](const FServiceDocumentValue& Unit) {
 			Unit.AllowMembers({"keyCode", "name", "unitID"});
 			FUnitData& Data = Record.Units.AddDefaulted_GetRef();
 			Data.KeyCode = Unit.GetName("keyCode");
@@ -87,18 +85,15 @@ namespace ServiceDataReader
 	FVelmorantConfigUnit ReadRooms(const FServiceDocumentValue& Configurator)
 	{
 		FVelmorantConfigUnit Unit;
-		Configurator.ForEach("rooms", [&](const FServiceDocumentValue& RoomValue)
-		{
+		Configurator.ForEach("rooms", [&](const FServiceDocumentValue& RoomValue) {
 			RoomValue.AllowMembers({"name", "groups"});
 			FVelmorantConfigRoom& Room = Unit.Rooms.AddDefaulted_GetRef();
 			Room.Name = RoomValue.GetString("name");
-			RoomValue.ForEach("groups", [&](const FServiceDocumentValue& GroupValue)
-			{
+			RoomValue.ForEach("groups", [&](const FServiceDocumentValue& GroupValue) {
 				GroupValue.AllowMembers({"name", "products"});
 				FVelmorantConfigGroup& Group = Room.Groups.AddDefaulted_GetRef();
 				Group.Name = GroupValue.GetString("name");
-				GroupValue.ForEach("products", [&](const FServiceDocumentValue& Product)
-				{
+				GroupValue.ForEach("products", [&](const FServiceDocumentValue& Product) {
 					Group.Products.AddDefaulted_GetRef().Name = Product.AsString();
 				});
 			});
@@ -113,10 +108,8 @@ namespace ServiceDataReader
 		const FString Name = Value.GetName("name");
 		Record.Name = FName(Name);
 		Record.Units.Add(FName(Value.GetString("recordName", Name)), ReadRooms(Value));
-		Value.ForEach("unitGroups", [&](const FServiceDocumentValue& KeyCode)
-		{
-			const FVelmorantUnitGroupRecord* UnitGroup = UnitGroups.FindByPredicate([&KeyCode](const FVelmorantUnitGroupRecord& Candidate)
-			{
+		Value.ForEach("unitGroups", [&](const FServiceDocumentValue& KeyCode) {
+			const FVelmorantUnitGroupRecord* UnitGroup = UnitGroups.FindByPredicate([&KeyCode](const FVelmorantUnitGroupRecord& Candidate) {
 				return Candidate.Group.KeyCode == KeyCode.AsString();
 			});
 			if (!UnitGroup)
@@ -139,15 +132,13 @@ namespace ServiceDataReader
 		Result.Project.ProjectName = Value.GetName("name");
 
 		FUniqueNames KeyCodes;
-		Value.ForEach("unitGroups", [&](const FServiceDocumentValue& UnitGroup)
-		{
+		Value.ForEach("unitGroups", [&](const FServiceDocumentValue& UnitGroup) {
 			Result.UnitGroups.Add(ReadUnitGroup(UnitGroup));
 			KeyCodes.Add(Result.UnitGroups.Last().Group.KeyCode, UnitGroup.Get("keyCode"));
 		});
 
 		FUniqueNames Names;
-		Value.ForEach("configurators", [&](const FServiceDocumentValue& Configurator)
-		{
+		Value.ForEach("configurators", [&](const FServiceDocumentValue& Configurator) {
 			Result.Configurators.Add(ReadConfigurator(Configurator, Result.UnitGroups));
 			Names.Add(Configurator.GetString("name"), Configurator.Get("name"));
 		});
@@ -177,15 +168,13 @@ namespace ServiceDataReader
 		Data.TokenSeconds = Document.GetSeconds("tokenSeconds", 8.0 * 3600.0);
 
 		FUniqueNames KeyCodes;
-		Document.ForEach("projects", [&](const FServiceDocumentValue& Project)
-		{
+		Document.ForEach("projects", [&](const FServiceDocumentValue& Project) {
 			Data.Projects.Add(ReadProject(Project));
 			KeyCodes.Add(Data.Projects.Last().Project.KeyCode, Project.Get("keyCode"));
 		});
 
 		FUniqueNames UserNames;
-		Document.ForEach("users", [&](const FServiceDocumentValue& User)
-		{
+		Document.ForEach("users", [&](const FServiceDocumentValue& User) {
 			Data.Users.Add(ReadUser(User, KeyCodes, Folder));
 			UserNames.Add(Data.Users.Last().UserName, User.Get("userName"));
 		});

@@ -21,28 +21,27 @@ bool UVelmorantDeveloperUser::HasSavedUserData() const
 	return bHasSavedUserData;
 }
 
-void UVelmorantDeveloperUser::SaveUserData() const
+void UVelmorantDeveloperUser::SaveUserData()
 {
-	SavedUserData::Save(UserInformation);
+	bHasSavedUserData = SavedUserData::Save(UserInformation);
 }
 
 void UVelmorantDeveloperUser::HandleLoggedIn()
 {
 	if (!UserInformation.bRememberMe)
 	{
+		bHasSavedUserData = false;
 		SavedUserData::Forget(); // whoever signs in without the option does not want to be remembered
 	}
 }
 
 void UVelmorantDeveloperUser::RequestEditorUserProjects()
 {
-	UVelmorantSDKEngineSubsystem::Get()->GetService().RequestProjects(GetToken(), [WeakThis = TWeakObjectPtr<UVelmorantDeveloperUser>(this)](bool bSuccess, const TArray<FProject>& Projects)
-	{
+	UVelmorantSDKEngineSubsystem::Get()->GetService().RequestProjects(GetToken(), [WeakThis = TWeakObjectPtr<UVelmorantDeveloperUser>(this)](bool bSuccess, const TArray<FProject>& Projects) {
 		if (UVelmorantDeveloperUser* This = WeakThis.Get())
 		{
 			This->ReceiveProjects(bSuccess, Projects);
-		}
-	});
+		} });
 }
 
 void UVelmorantDeveloperUser::ReceiveProjects(bool bSuccess, const TArray<FProject>& Projects)

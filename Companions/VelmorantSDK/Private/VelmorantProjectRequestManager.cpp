@@ -29,8 +29,7 @@ void UVelmorantProjectRequestManager::SelectProject(const FProject& Project, boo
 void UVelmorantProjectRequestManager::RequestProjectData()
 {
 	const TWeakObjectPtr<UProjectWrapper> Requested(ProjectWrapper.Get());
-	UVelmorantSDKEngineSubsystem::Get()->GetService().RequestProjectData(GetToken(), ProjectWrapper->ProjectData.KeyCode, [WeakThis = TWeakObjectPtr<UVelmorantProjectRequestManager>(this), Requested](const FVelmorantProjectAnswer& Answer)
-	{
+	UVelmorantSDKEngineSubsystem::Get()->GetService().RequestProjectData(GetToken(), ProjectWrapper->ProjectData.KeyCode, [WeakThis = TWeakObjectPtr<UVelmorantProjectRequestManager>(this), Requested](const FVelmorantProjectAnswer& Answer) {
 		// An answer for a project that is no longer the selected one comes too late to be of use.
 		UVelmorantProjectRequestManager* This = WeakThis.Get();
 		if (This && This->ProjectWrapper && This->ProjectWrapper == Requested.Get())
@@ -106,8 +105,7 @@ void UVelmorantProjectRequestManager::RequestConfigurator(FName ConfiguratorName
 	}
 
 	const TWeakObjectPtr<UProjectWrapper> Requested(ProjectWrapper.Get());
-	UVelmorantSDKEngineSubsystem::Get()->GetService().RequestConfigurator(GetToken(), ProjectWrapper->ProjectData.KeyCode, ConfiguratorName, [WeakThis = TWeakObjectPtr<UVelmorantProjectRequestManager>(this), Requested](const TOptional<FVelmorantConfiguratorRecord>& Record)
-	{
+	UVelmorantSDKEngineSubsystem::Get()->GetService().RequestConfigurator(GetToken(), ProjectWrapper->ProjectData.KeyCode, ConfiguratorName, [WeakThis = TWeakObjectPtr<UVelmorantProjectRequestManager>(this), Requested](const TOptional<FVelmorantConfiguratorRecord>& Record) {
 		UVelmorantProjectRequestManager* This = WeakThis.Get();
 		if (This && This->ProjectWrapper && This->ProjectWrapper == Requested.Get())
 		{

@@ -24,8 +24,7 @@ UVelmorantProjectRequestManager* UVelmorantUser::GetProjectRequestManager() cons
 void UVelmorantUser::RequestUserLogin(const FVelmorantUserInformation& InUserInformation)
 {
 	UserInformation = InUserInformation;
-	UVelmorantSDKEngineSubsystem::Get()->GetService().RequestLogin(UserInformation, [WeakThis = TWeakObjectPtr<UVelmorantUser>(this)](const FVelmorantLoginAnswer& Answer)
-	{
+	UVelmorantSDKEngineSubsystem::Get()->GetService().RequestLogin(UserInformation, [WeakThis = TWeakObjectPtr<UVelmorantUser>(this)](const FVelmorantLoginAnswer& Answer) {
 		if (UVelmorantUser* This = WeakThis.Get())
 		{
 			This->ReceiveLoginAnswer(Answer);

@@ -30,11 +30,11 @@ public:
 	 */
 	void SetSelectedProject(const FProject& Project, bool bForceUpdate);
 
-	/** Whether user data was saved in an earlier session; GetUserInfo() holds it from creation on. */
+	/** Whether user data is saved, in this session or an earlier one; GetUserInfo() holds what was saved from creation on. */
 	virtual bool HasSavedUserData() const;
 
 	/** Keeps the user information in the user's own configuration folder, readable by nobody else. */
-	virtual void SaveUserData() const;
+	virtual void SaveUserData();
 
 	bool ShouldUseAtRuntime() const { return bUseAtRuntime; }
 	void SetDevAsRuntimeUser(bool bInUseAtRuntime) { bUseAtRuntime = bInUseAtRuntime; }

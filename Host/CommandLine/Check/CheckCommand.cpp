@@ -5,16 +5,15 @@
 #include "Check/CheckReport.h"
 #include "Check/CollisionCheck.h"
 #include "Console.h"
-#include "HostProblems.h"
-#include "HostProject.h"
+#include "ProjectArgument.h"
 
 EExitStatus CheckCommand::Run(const FCheckArguments& Arguments)
 {
-	const FString Project = HostProject::Find(Arguments.Project);
-	if (Project.IsEmpty())
+	FString Project;
+	const TOptional<EExitStatus> End = ProjectArgument::Find(Arguments.Project, Project);
+	if (End.IsSet())
 	{
-		Console::PrintProblems(HostProblems::GetAll());
-		return EExitStatus::Usage;
+		return End.GetValue();
 	}
 	const FCheckReport Report = Arguments.bRepair ? CollisionCheck::Repair(Project) : CollisionCheck::Look(Project);
 	if (Arguments.bJson)

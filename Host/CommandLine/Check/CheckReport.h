@@ -13,7 +13,7 @@ enum class ECheckStatus : uint8
 	Repaired,
 	Missing,
 	StillMissing, // after the repair
-	Trouble,      // files, or no verdict
+	Trouble, // files, or no verdict
 };
 
 /** A file, and what a write put into it or would have put. */
@@ -28,11 +28,11 @@ struct FFileChange
 struct FCheckReport
 {
 	ECheckStatus Status = ECheckStatus::Trouble;
-	FString Project;                   // full path of the .uproject
-	TArray<FString> Messages;          // what the toolkit said, in order
+	FString Project; // full path of the .uproject
+	TArray<FString> Messages; // what the toolkit said, in order
 	TArray<FFileChange> PendingWrites; // without repair: what would have been written
-	TArray<FFileChange> WrittenFiles;  // by the repair
-	TArray<FString> LinesToAdd;        // by hand, when the repair did not help
+	TArray<FFileChange> WrittenFiles; // by the repair
+	TArray<FString> LinesToAdd; // by hand, when the repair did not help
 	TArray<FHostProblem> Problems;
 };
 

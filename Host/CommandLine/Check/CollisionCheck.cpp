@@ -65,7 +65,7 @@ namespace CollisionCheck
 		bool PressRepairButtons()
 		{
 			return HostNotifications::PressButton(TEXT("Add to Project Config")).bDone &&
-				   HostNotifications::PressButton(TEXT("Restart Editor")).bDone && !HostEditor::GetRestartRequests().IsEmpty();
+				HostNotifications::PressButton(TEXT("Restart Editor")).bDone && !HostEditor::GetRestartRequests().IsEmpty();
 		}
 
 		ECheckStatus Judge(const FCheckReport& Report, EToolkitVerdict Verdict, ECheckStatus WhenSound, ECheckStatus WhenMissing)
@@ -118,17 +118,15 @@ namespace CollisionCheck
 			Report.Problems = HostProblems::GetAll();
 			return Report;
 		}
-		// mutant
+		const HostFiles::FLock Lock(IniFile); // until the second check is done
 		std::string IniBefore;
 		HostTextFiles::ReadUtf8(IniFile, IniBefore);
 
 		TArray<FString> Written;
 		bool bRestart = false;
-		EToolkitVerdict Verdict = RunEditor(Report, false, [&](EToolkitVerdict First)
-		{
+		EToolkitVerdict Verdict = RunEditor(Report, false, [&](EToolkitVerdict First) {
 			bRestart = First == EToolkitVerdict::Missing && HostProblems::GetAll().IsEmpty() && PressRepairButtons();
-			Written = HostFiles::GetWrittenFiles();
-		});
+			Written = HostFiles::GetWrittenFiles(); });
 		if (bRestart)
 		{
 			Verdict = RunEditor(Report, false, [&Written](EToolkitVerdict) { Written.Append(HostFiles::GetWrittenFiles()); });

@@ -16,16 +16,14 @@ namespace ToolkitVerdict
 		bool SaysSound()
 		{
 			const FName CategoryName(Category);
-			return HostLog::GetLines().ContainsByPredicate([CategoryName](const FHostLogLine& Line)
-			{
+			return HostLog::GetLines().ContainsByPredicate([CategoryName](const FHostLogLine& Line) {
 				return Line.Category == CategoryName && Line.Text.Equals(SoundLine);
 			});
 		}
 
 		bool AsksAboutMissing()
 		{
-			return HostNotifications::GetStanding().ContainsByPredicate([](const HostNotifications::FRecord& Notification)
-			{
+			return HostNotifications::GetStanding().ContainsByPredicate([](const HostNotifications::FRecord& Notification) {
 				return Notification->Text.ToString().Equals(MissingTitle);
 			});
 		}

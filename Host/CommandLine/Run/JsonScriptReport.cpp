@@ -11,7 +11,8 @@ namespace JsonScriptReport
 	{
 		const char* GetOutcomeWord(EStepOutcome Outcome)
 		{
-			return Outcome == EStepOutcome::Done ? "done" : Outcome == EStepOutcome::Failed ? "failed" : "error";
+			return Outcome == EStepOutcome::Done ? "done" : Outcome == EStepOutcome::Failed ? "failed"
+																							: "error";
 		}
 
 		FJson Make(const FStepEvents::FNotification& Notification)

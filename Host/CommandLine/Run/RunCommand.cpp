@@ -5,9 +5,10 @@
 #include "Console.h"
 #include "Containers/StringConv.h"
 #include "HostFiles.h"
-#include "HostProject.h"
+#include "HostProblems.h"
 #include "HostTextFiles.h"
 #include "Misc/Paths.h"
+#include "ProjectArgument.h"
 #include "Run/Script.h"
 #include "Run/ScriptReport.h"
 #include "Run/ScriptRunner.h"
@@ -56,11 +57,11 @@ namespace RunCommand
 
 	EExitStatus Run(const FRunArguments& Arguments)
 	{
-		const FString Project = HostProject::Find(Arguments.Project);
-		if (Project.IsEmpty())
+		FString Project;
+		const TOptional<EExitStatus> End = ProjectArgument::Find(Arguments.Project, Project);
+		if (End.IsSet())
 		{
-			Console::PrintProblems(HostProblems::GetAll());
-			return EExitStatus::Usage;
+			return End.GetValue();
 		}
 		FString Text;
 		ReadScript(Arguments.Script, Text);

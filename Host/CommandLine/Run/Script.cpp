@@ -52,8 +52,14 @@ namespace Script
 			return Best;
 		}
 
-		TConstArrayView<FScriptCommand> GetCommands(const FScriptTopic& Topic) { return Topic.Commands; }
-		TConstArrayView<FScriptExpectation> GetExpectations(const FScriptTopic& Topic) { return Topic.Expectations; }
+		TConstArrayView<FScriptCommand> GetCommands(const FScriptTopic& Topic)
+		{
+			return Topic.Commands;
+		}
+		TConstArrayView<FScriptExpectation> GetExpectations(const FScriptTopic& Topic)
+		{
+			return Topic.Expectations;
+		}
 
 		bool IsOption(const FScriptSyntax& Syntax, const FString& Word)
 		{

@@ -8,10 +8,10 @@
 struct FScriptStep
 {
 	FScriptLine Line;
-	const FScriptCommand* Command = nullptr;         // exactly one of the two is set
+	const FScriptCommand* Command = nullptr; // exactly one of the two is set
 	const FScriptExpectation* Expectation = nullptr;
-	bool bNegated = false;                           // "expect no …"
-	int32 FirstArgument = 0;                         // which word
+	bool bNegated = false; // "expect no …"
+	int32 FirstArgument = 0; // which word
 
 	FScriptArguments GetArguments() const { return FScriptArguments(Line, FirstArgument); }
 

@@ -38,7 +38,7 @@ enum class EStepOutcome : uint8
 {
 	Done,
 	Failed, // an expectation did not hold
-	Error,  // the step could not be done
+	Error, // the step could not be done
 };
 
 struct FStepResult
@@ -63,10 +63,10 @@ struct FExpectation
 /** How a command is written; the part that commands and expectations have in common. */
 struct FScriptSyntax
 {
-	const TCHAR* Name;    // one or two words
-	const TCHAR* Usage;   // what follows the name
+	const TCHAR* Name; // one or two words
+	const TCHAR* Usage; // what follows the name
 	int32 MinArguments;
-	int32 MaxArguments;   // those that are not options; Any without limit
+	int32 MaxArguments; // those that are not options; Any without limit
 	const TCHAR* Options; // words that may follow in pairs with a value, separated by blanks; may be empty
 
 	static constexpr int32 Any = -1;

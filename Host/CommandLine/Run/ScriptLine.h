@@ -17,7 +17,7 @@ struct FScriptWord
 struct FScriptLine
 {
 	int32 Number = 0; // one-based
-	FString Source;   // without surrounding blanks and comment
+	FString Source; // without surrounding blanks and comment
 	TArray<FScriptWord> Words;
 };
 

@@ -120,7 +120,7 @@ FStepResult FScriptRunner::Do(const FScriptStep& Step, FStepRecord& Record)
 	{
 		Result = FStepResult::Error(AnswerTrouble);
 	}
-	if (Session.WantsRestart()) { Session.Restart(); }
+	RestartIfWanted(Result);
 	Session.GetEvents().Collect();
 	Record.Text = ScriptRunner::GetShownText(Step, Context);
 	Record.Output = Context.GetOutput();

@@ -10,7 +10,7 @@
 struct FStepRecord
 {
 	int32 Line = 0; // of the script, one-based; 0 for the start of the editor
-	FString Text;   // as it stands in the script
+	FString Text; // as it stands in the script
 	FString Heading; // of a step that only is a title
 	FStepResult Result;
 	TArray<FString> Output;
@@ -21,8 +21,8 @@ struct FStepRecord
 struct FRunSummary
 {
 	EExitStatus Status = EExitStatus::Done;
-	int32 NumSteps = 0;              // that were done
-	TArray<FString> WrittenFiles;    // relative to the project where they are in it
-	TArray<FString> Unsaved;         // packages that were lost
-	TArray<int32> UnusedAnswers;     // script lines of answers that nothing asked for
+	int32 NumSteps = 0; // that were done
+	TArray<FString> WrittenFiles; // relative to the project where they are in it
+	TArray<FString> Unsaved; // packages that were lost
+	TArray<int32> UnusedAnswers; // script lines of answers that nothing asked for
 };

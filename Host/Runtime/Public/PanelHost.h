@@ -25,7 +25,7 @@ public:
 		FString Name;
 		TStrongObjectPtr<UUserWidget> Widget;
 		TSharedPtr<SWidget> Content; // never null
-		FName Tab;                   // of a panel that stands in an editor tab; None for others
+		FName Tab; // of a panel that stands in an editor tab; None for others
 	};
 
 	FPanelHost() = default;

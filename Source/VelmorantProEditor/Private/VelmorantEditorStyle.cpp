@@ -15,7 +15,7 @@ namespace VelmorantEditorStyle
 	{
 		const TCHAR* Key;
 		const TCHAR* Path; // below the content root, without extension
-		FVector2D Size;	   // Slate units
+		FVector2D Size; // Slate units
 	};
 
 	const FVector2D Icon16(16.0f, 16.0f);

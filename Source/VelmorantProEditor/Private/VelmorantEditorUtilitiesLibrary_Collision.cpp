@@ -50,8 +50,7 @@ namespace VelmorantUnitVolumeCollision
 		GConfig->GetSection(ConfigSection, Lines, MakeSourcePath());
 
 		const FString ExpectedLine = MakeChannelLine();
-		return Lines.ContainsByPredicate([&ExpectedLine](const FString& Line)
-		{
+		return Lines.ContainsByPredicate([&ExpectedLine](const FString& Line) {
 			return Line.Equals(ExpectedLine, ESearchCase::IgnoreCase);
 		});
 	}

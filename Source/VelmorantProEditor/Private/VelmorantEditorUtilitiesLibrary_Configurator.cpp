@@ -171,10 +171,9 @@ bool UVelmorantEditorUtilitiesLibrary::UpdateConfiguratorDataAssetInfo(UVelmoran
 	// Never removed on purpose: each successful call adds a handler, and all of them run on every later configurator update.
 	// Weak: asset and wrapper may be gone by then.
 	EditorUser->GetProjectRequestManager()->GetOnUpdateRequest().AddLambda(
-		[WeakDataAsset = TWeakObjectPtr<UVelmorantConfiguratorDataAsset>(ConfiguratorData), WeakConfigurator = TWeakObjectPtr<UConfiguratorWrapper>(Configurator), ConfiguratorName](EUpdateRequestDataType DataType, EUpdateRequestType)
-	{
-		VelmorantConfiguratorAssets::ReceiveUpdateRequest(DataType, WeakDataAsset.Get(), WeakConfigurator.Get(), ConfiguratorName);
-	});
+		[WeakDataAsset = TWeakObjectPtr<UVelmorantConfiguratorDataAsset>(ConfiguratorData), WeakConfigurator = TWeakObjectPtr<UConfiguratorWrapper>(Configurator), ConfiguratorName](EUpdateRequestDataType DataType, EUpdateRequestType) {
+			VelmorantConfiguratorAssets::ReceiveUpdateRequest(DataType, WeakDataAsset.Get(), WeakConfigurator.Get(), ConfiguratorName);
+		});
 
 	// Tells that the refresh was requested, not that data has arrived.
 	NotifyPopup(TEXT("Success Configuration Updated"), TEXT(""), SNotificationItem::CS_Success, VelmorantConfiguratorAssets::OutcomeSeconds);

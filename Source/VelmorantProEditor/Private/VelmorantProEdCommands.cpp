@@ -8,10 +8,10 @@
 
 FVelmorantProEdCommands::FVelmorantProEdCommands()
 	: TCommands<FVelmorantProEdCommands>(
-		TEXT("VelmorantProEdCommands"),
-		LOCTEXT("VelmorantProEdCommands_Desc", "VelmorantProEdCommands Settings"),
-		NAME_None,
-		FVelmorantEditorStyle::GetStyleSetName())
+		  TEXT("VelmorantProEdCommands"),
+		  LOCTEXT("VelmorantProEdCommands_Desc", "VelmorantProEdCommands Settings"),
+		  NAME_None,
+		  FVelmorantEditorStyle::GetStyleSetName())
 {
 }
 

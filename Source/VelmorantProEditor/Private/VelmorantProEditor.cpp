@@ -130,10 +130,8 @@ void FVelmorantProEditorModule::DeferCollisionProfileCheck()
 {
 	// Two subscriptions on purpose: editor initialisation completes after the start-up map was requested, and the check needs
 	// that map. A map loaded later only adds a handler to an event that does not fire again.
-	FEditorDelegates::OnMapLoad.AddLambda([](const FString&, FCanLoadMap&)
-	{
-		FEditorDelegates::OnEditorInitialized.AddLambda([](double)
-		{
+	FEditorDelegates::OnMapLoad.AddLambda([](const FString&, FCanLoadMap&) {
+		FEditorDelegates::OnEditorInitialized.AddLambda([](double) {
 			UVelmorantEditorUtilitiesLibrary::CheckForUnitVolumeCollisionProfile();
 		});
 	});

@@ -197,8 +197,7 @@ TEST(Array, SortsAwkwardOrdersWithoutComparingTooOften)
 	{
 		int64 NumCompared = 0;
 		TArray<int32> Array = *Order;
-		Array.Sort([&NumCompared](int32 A, int32 B)
-		{
+		Array.Sort([&NumCompared](int32 A, int32 B) {
 			++NumCompared;
 			return A < B;
 		});

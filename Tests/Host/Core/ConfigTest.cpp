@@ -277,8 +277,7 @@ namespace
 	TEST_F(SectionUpdate, TwoProcessesAtOnceKeepEachOthersKeys)
 	{
 		constexpr int Rounds = 40;
-		const auto Write = [this](const FString& Key)
-		{
+		const auto Write = [this](const FString& Key) {
 			for (int32 Round = 1; Round <= Rounds; ++Round)
 			{
 				HostConfig::UpdateSection(File, TEXT("S"), {TPair<FString, FString>(Key, FString::FromInt(Round))}, {});

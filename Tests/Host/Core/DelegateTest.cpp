@@ -51,13 +51,19 @@ namespace DelegateTest
 	};
 
 	template<typename EventType>
-	concept CAnybodyCanFire = requires(EventType& Event) { Event.Broadcast(1); };
+	concept CAnybodyCanFire = requires(EventType& Event)
+	{
+		Event.Broadcast(1);
+	};
 
 	static_assert(!CAnybodyCanFire<FOwner::FValueEvent>);
 	static_assert(CAnybodyCanFire<FOnValues>);
 
 	template<typename MethodType>
-	concept CBindable = requires(FOnValue& Delegate, FListener* Listener, MethodType Method) { Delegate.BindRaw(Listener, Method); };
+	concept CBindable = requires(FOnValue& Delegate, FListener* Listener, MethodType Method)
+	{
+		Delegate.BindRaw(Listener, Method);
+	};
 
 	static_assert(CBindable<void (FListener::*)(int32)>);
 	static_assert(!CBindable<void (FListener::*)(int64)>, "parameter types match exactly");
@@ -75,7 +81,8 @@ TEST(Delegate, CallsWhatItIsBoundTo)
 	Delegate.Execute(2);
 	Delegate.BindSP(&Listener.Get(), &FListener::Overloaded);
 	Delegate.Execute(100);
-	Delegate.BindSPLambda(Listener, [Raw = &Listener.Get()](int32 Value, int32 Extra) { Raw->Sum += Value + Extra; }, 1000);
+	Delegate.BindSPLambda(
+		Listener, [Raw = &Listener.Get()](int32 Value, int32 Extra) { Raw->Sum += Value + Extra; }, 1000);
 	Delegate.Execute(2000);
 	EXPECT_EQ(Listener->Sum, 3121);
 
@@ -106,8 +113,7 @@ TEST(Delegate, KeepsItsSharedObjectAliveDuringTheCall)
 {
 	TSharedPtr<FListener> Listener = MakeShared<FListener>();
 	int32 SumAfterReset = 0;
-	FOnValue Delegate = FOnValue::CreateSPLambda(Listener.ToSharedRef(), [&, Raw = Listener.Get()](int32 Value)
-	{
+	FOnValue Delegate = FOnValue::CreateSPLambda(Listener.ToSharedRef(), [&, Raw = Listener.Get()](int32 Value) {
 		Listener.Reset();
 		Raw->Receive(Value);
 		SumAfterReset = Raw->Sum;
@@ -181,8 +187,7 @@ TEST(MulticastDelegate, WhatIsAddedDuringABroadcastWaitsForTheNext)
 {
 	FOnStep Step;
 	int32 NumLate = 0;
-	Step.AddLambda([&]
-	{
+	Step.AddLambda([&] {
 		for (int32 Index = 0; Index < 50; ++Index)
 		{
 			Step.AddLambda([&NumLate] { ++NumLate; });
@@ -201,8 +206,7 @@ TEST(MulticastDelegate, WhatIsRemovedDuringABroadcastIsNotCalled)
 	FDelegateHandle Oldest = Step.AddLambda([&Calls] { Calls += 'o'; });
 	const TSharedRef<int32> Captured = MakeShared<int32>(0);
 	FDelegateHandle Middle = Step.AddLambda([&Calls, Captured] { Calls += 'm'; });
-	Step.AddLambda([&]
-	{
+	Step.AddLambda([&] {
 		Calls += 'n';
 		Step.Remove(Oldest);
 		Step.Remove(Middle);
@@ -220,8 +224,7 @@ TEST(MulticastDelegate, CanRemoveTheBindingThatRunsAndClearItself)
 	std::string Calls;
 	FDelegateHandle Self;
 	Step.AddLambda([&Calls] { Calls += 'a'; });
-	Self = Step.AddLambda([&Step, &Self, &Calls]
-	{
+	Self = Step.AddLambda([&Step, &Self, &Calls] {
 		Calls += 's';
 		Step.Remove(Self);
 	});
@@ -239,8 +242,7 @@ TEST(MulticastDelegate, BroadcastsFromInsideABroadcast)
 	FOnValues Values;
 	std::string Calls;
 	FDelegateHandle Victim = Values.AddLambda([&Calls](int32 Depth) { Calls += std::to_string(Depth); });
-	Values.AddLambda([&](int32 Depth)
-	{
+	Values.AddLambda([&](int32 Depth) {
 		if (Depth < 2)
 		{
 			Values.Broadcast(Depth + 1);

@@ -162,7 +162,10 @@ namespace
 			{"behind a last line without end", "a", "a\nnew"},
 			{"mixed line ends stay mixed, the new line has the usual one", "a\r\nb\nc\r\n", "a\r\nnew\r\nb\nc\r\n"},
 			{"UTF-8 stays UTF-8", "\xC3\xBC\nb\n", "\xC3\xBC\nnew\nb\n"},
-			{"UTF-8 with mark keeps its mark", "\xEF\xBB\xBF" "a\r\nb\r\n", "\xEF\xBB\xBF" "a\r\nnew\r\nb\r\n"},
+			{"UTF-8 with mark keeps its mark", "\xEF\xBB\xBF"
+											   "a\r\nb\r\n",
+				"\xEF\xBB\xBF"
+				"a\r\nnew\r\nb\r\n"},
 			{"UTF-16 little endian", "\xFF\xFE" + Utf16("a\r\nb"), "\xFF\xFE" + Utf16("a\r\nnew\r\nb")},
 			{"UTF-16 big endian", "\xFE\xFF" + SwapBytes(Utf16("a\nb\n")), "\xFE\xFF" + SwapBytes(Utf16("a\nnew\nb\n"))},
 		};
@@ -280,8 +283,7 @@ namespace
 	{
 		constexpr int Rounds = 40;
 		Folder.Write("File.ini", "[Section]\n+Profiles=last\n[Other]\n");
-		const auto AddLines = [this](const std::string& Name)
-		{
+		const auto AddLines = [this](const std::string& Name) {
 			Restart(); // what the parent process knows of the file is not this one's knowledge
 			for (int Round = 0; Round < Rounds; ++Round)
 			{

@@ -5,8 +5,7 @@
 
 TEST(Format, PrintsAsTheCLibraryDoes)
 {
-	const auto ExpectExactly = [](const FString& Actual, const TCHAR* Expected)
-	{
+	const auto ExpectExactly = [](const FString& Actual, const TCHAR* Expected) {
 		EXPECT_TRUE(Actual.Equals(Expected)) << "is " << testing::PrintToString(Actual) << ", should be " << testing::PrintToString(FString(Expected));
 	};
 	ExpectExactly(FString::Printf(TEXT("%d|%5d|%-5d|%05d|%+d"), 7, 7, 7, 7, 7), TEXT("7|    7|7    |00007|+7"));

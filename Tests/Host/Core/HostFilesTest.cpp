@@ -146,8 +146,7 @@ namespace
 	TEST_F(HostFilesTest, ACrashBetweenWriteAndRenameLeavesTheOldFileAndIsTidiedUp)
 	{
 		Folder.Write("sub/File", "old");
-		const int Status = Wait(Fork([this]
-		{
+		const int Status = Wait(Fork([this] {
 			HostFiles::SetBeforeRename([](const char*, const char*) { _exit(77); });
 			Write("sub/File", "new");
 		}));
@@ -165,8 +164,7 @@ namespace
 		static std::string Seen;
 		Seen.clear();
 		Folder.Write("File", "old");
-		HostFiles::SetBeforeRename([](const char* Temporary, const char* Target)
-		{
+		HostFiles::SetBeforeRename([](const char* Temporary, const char* Target) {
 			for (const char* Path : {Temporary, Target})
 			{
 				std::ifstream Stream(Path);
@@ -260,10 +258,8 @@ namespace
 
 	TEST_F(HostFilesTest, ALockKeepsOtherProcessesOutUntilTheLastOfItsNestedLocksGoes)
 	{
-		const auto IsFreeForOthers = [this]
-		{
-			return Wait(Fork([this]
-			{
+		const auto IsFreeForOthers = [this] {
+			return Wait(Fork([this] {
 				const int Directory = open(Folder.GetNative().c_str(), O_RDONLY | O_DIRECTORY);
 				_exit(flock(Directory, LOCK_EX | LOCK_NB) == 0 ? 0 : 1);
 			})) == 0;

@@ -53,8 +53,7 @@ TEST_F(Questions, QueuedAnswersServeTheirKindInOrderAndKeepFieldsTheyLeaveOut)
 TEST_F(Questions, TheResponderIsAskedAfterTheQueueAndMayPass)
 {
 	int32 NumAsked = 0;
-	HostQuestions::SetResponder([&NumAsked](const FHostQuestion&) -> TOptional<FHostAnswer>
-	{
+	HostQuestions::SetResponder([&NumAsked](const FHostQuestion&) -> TOptional<FHostAnswer> {
 		return ++NumAsked == 1 ? TOptional<FHostAnswer>(FHostAnswer{TEXT("Cancel"), {}}) : NullOpt;
 	});
 	HostQuestions::Enqueue(FName(TEXT("SaveAsset")), {TEXT("Save"), {}});

@@ -121,16 +121,15 @@ TEST_F(DelayedRegistration, RunsAtOnceWhenThePhaseHasPassed)
 TEST_F(Ticker, FiresWhenItsDelayHasPassedUntilItReturnsFalse)
 {
 	std::string Fired;
-	FTSTicker::GetCoreTicker().AddTicker(FTickerDelegate::CreateLambda([&Fired](float DeltaTime)
-	{
+	FTSTicker::GetCoreTicker().AddTicker(FTickerDelegate::CreateLambda([&Fired](float DeltaTime) {
 		Fired += std::to_string(static_cast<int32>(DeltaTime * 10.f)) + " ";
 		return Fired.size() < 6;
 	}));
-	FTSTicker::GetCoreTicker().AddTicker(FTickerDelegate::CreateLambda([&Fired](float)
-	{
+	FTSTicker::GetCoreTicker().AddTicker(FTickerDelegate::CreateLambda([&Fired](float) {
 		Fired += "delayed ";
 		return false;
-	}), 0.8f);
+	}),
+		0.8f);
 	HostClock::Advance(0.5);
 	EXPECT_EQ(Fired, "5 ");
 	HostClock::Advance(0.5);
@@ -146,18 +145,15 @@ TEST_F(Ticker, WhatIsRemovedDuringATickIsNotCalledAndWhatIsAddedWaits)
 	FTSTicker& Core = FTSTicker::GetCoreTicker();
 	std::string Fired;
 	FTSTicker::FDelegateHandle Victim;
-	Core.AddTicker(FTickerDelegate::CreateLambda([&](float)
-	{
+	Core.AddTicker(FTickerDelegate::CreateLambda([&](float) {
 		FTSTicker::RemoveTicker(Victim);
-		Core.AddTicker(FTickerDelegate::CreateLambda([&Fired](float)
-		{
+		Core.AddTicker(FTickerDelegate::CreateLambda([&Fired](float) {
 			Fired += "added ";
 			return false;
 		}));
 		return false;
 	}));
-	Victim = Core.AddTicker(FTickerDelegate::CreateLambda([&Fired](float)
-	{
+	Victim = Core.AddTicker(FTickerDelegate::CreateLambda([&Fired](float) {
 		Fired += "victim ";
 		return true;
 	}));
@@ -172,8 +168,7 @@ TEST_F(Ticker, WhatIsRemovedDuringATickIsNotCalledAndWhatIsAddedWaits)
 TEST_F(Ticker, BelongsToOneEditor)
 {
 	int32 NumTicks = 0;
-	FTSTicker::GetCoreTicker().AddTicker(FTickerDelegate::CreateLambda([&NumTicks](float)
-	{
+	FTSTicker::GetCoreTicker().AddTicker(FTickerDelegate::CreateLambda([&NumTicks](float) {
 		++NumTicks;
 		return true;
 	}));

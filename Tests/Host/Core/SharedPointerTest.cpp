@@ -185,8 +185,7 @@ TEST(Scope, PutsThingsBackWhicheverWayItIsLeft)
 {
 	int32 Value = 1;
 	bool bLeft = false;
-	const auto Fail = [&Value, &bLeft]
-	{
+	const auto Fail = [&Value, &bLeft] {
 		const TGuardValue<int32> Guard(Value, 2);
 		ON_SCOPE_EXIT
 		{

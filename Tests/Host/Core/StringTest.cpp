@@ -103,8 +103,7 @@ TEST(String, SearchAgreesWithComparingAtEveryPlace)
 {
 	// All texts and needles over a small alphabet in which letters differ in case or lie beyond ASCII.
 	const TCHAR Letters[] = {'a', 'A', u'ä', u'Ä'};
-	const auto Make = [&Letters](int32 Number, int32 Len)
-	{
+	const auto Make = [&Letters](int32 Number, int32 Len) {
 		FString Result;
 		for (int32 Index = 0; Index < Len; ++Index, Number /= 4)
 		{

@@ -107,5 +107,5 @@ int32 FAssetTestEditor::CountAsked(const char* Kind) const
 std::string MakeTestAssetFile(const std::string& Name, const std::string& Properties)
 {
 	return "{\"Class\": \"/Script/TestAssets.TestAsset\", \"Format\": 1, \"Objects\": [{\"Name\": \"" + Name +
-		   "\", \"Class\": \"/Script/TestAssets.TestAsset\", \"Properties\": {" + Properties + "}}]}";
+		"\", \"Class\": \"/Script/TestAssets.TestAsset\", \"Properties\": {" + Properties + "}}]}";
 }

@@ -90,13 +90,13 @@ TEST_F(CollisionProfile, ALaterLineOfTheSameNameReplacesTheFirst)
 TEST_F(CollisionProfile, FollowsRedirectsOfProfilesAndChannels)
 {
 	RestartWithConfig(std::string(Section) + CabinChannel + "\n"
-		"+Profiles=(Name=\"Door\",CollisionEnabled=QueryOnly,bCanModify=True,ObjectTypeName=\"\",CustomResponses=((Channel=\"OldCabin\",Response=ECR_Block)),HelpMessage=\"\")\n"
-		"+EditProfiles=(Name=\"Hatch\",CustomResponses=((Channel=\"Camera\",Response=ECR_Overlap)))\n"
-		"+ProfileRedirects=(OldName=\"Gate\",NewName=\"Hatch\")\n"
-		"+ProfileRedirects=(OldName=\"Hatch\",NewName=\"Door\")\n"
-		"+ProfileRedirects=(OldName=\"Loop\",NewName=\"Pool\")\n"
-		"+ProfileRedirects=(OldName=\"Pool\",NewName=\"Loop\")\n"
-		"+CollisionChannelRedirects=(OldName=\"OldCabin\",NewName=\"Cabin\")\n");
+															"+Profiles=(Name=\"Door\",CollisionEnabled=QueryOnly,bCanModify=True,ObjectTypeName=\"\",CustomResponses=((Channel=\"OldCabin\",Response=ECR_Block)),HelpMessage=\"\")\n"
+															"+EditProfiles=(Name=\"Hatch\",CustomResponses=((Channel=\"Camera\",Response=ECR_Overlap)))\n"
+															"+ProfileRedirects=(OldName=\"Gate\",NewName=\"Hatch\")\n"
+															"+ProfileRedirects=(OldName=\"Hatch\",NewName=\"Door\")\n"
+															"+ProfileRedirects=(OldName=\"Loop\",NewName=\"Pool\")\n"
+															"+ProfileRedirects=(OldName=\"Pool\",NewName=\"Loop\")\n"
+															"+CollisionChannelRedirects=(OldName=\"OldCabin\",NewName=\"Cabin\")\n");
 	const FCollisionResponseTemplate* Door = Find(TEXT("Gate"));
 	ASSERT_NE(Door, nullptr) << "over two redirects";
 	EXPECT_EQ(Utf8(Door->Name.ToString()), "Door");
@@ -124,14 +124,16 @@ TEST_F(CollisionProfile, WritesItsSectionInTheEnginesForm)
 	const std::vector<std::string> Profiles = LinesStarting(Text, "+Profiles=");
 	ASSERT_EQ(Profiles.size(), 18u);
 	EXPECT_EQ(Profiles[0].find("+Profiles=(Name=\"NoCollision\",CollisionEnabled=NoCollision,bCanModify=False,ObjectTypeName=\"WorldStatic\","
-			"CustomResponses=((Channel=\"Visibility\",Response=ECR_Ignore),(Channel=\"Camera\",Response=ECR_Ignore)),HelpMessage=\""), 0u) << Profiles[0];
+							   "CustomResponses=((Channel=\"Visibility\",Response=ECR_Ignore),(Channel=\"Camera\",Response=ECR_Ignore)),HelpMessage=\""),
+		0u)
+		<< Profiles[0];
 	EXPECT_NE(Profiles[1].find(",CustomResponses=,"), std::string::npos) << Profiles[1];
 }
 
 TEST_F(CollisionProfile, NormalisesAChannelLineThatWasWrittenByHand)
 {
 	RestartWithConfig(std::string(Section) + LiftProfile + "\n"
-		"+DefaultChannelResponses=(Channel=ECC_GameTraceChannel18, Name=\"Cabin\", DefaultResponse=ECR_Ignore, bTraceType=True, bStaticObject=False)\n");
+														   "+DefaultChannelResponses=(Channel=ECC_GameTraceChannel18, Name=\"Cabin\", DefaultResponse=ECR_Ignore, bTraceType=True, bStaticObject=False)\n");
 	ASSERT_TRUE(UCollisionProfile::Get()->TryUpdateDefaultConfigFile());
 	const std::string Text = ReadConfig();
 	EXPECT_EQ(LinesStarting(Text, "+DefaultChannelResponses="), std::vector<std::string>{CabinChannel});

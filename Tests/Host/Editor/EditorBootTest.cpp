@@ -22,8 +22,7 @@ protected:
 	/** Writes what happens into Events. */
 	void Listen()
 	{
-		FEditorDelegates::OnMapLoad.AddLambda([this](const FString& Filename, FCanLoadMap& CanLoad)
-		{
+		FEditorDelegates::OnMapLoad.AddLambda([this](const FString& Filename, FCanLoadMap& CanLoad) {
 			Events.push_back("load " + Utf8(Filename));
 			if (bForbid)
 			{
@@ -66,8 +65,7 @@ TEST_F(EditorBoot, IsInitialisedOnceHoweverOftenItIsSaid)
 TEST_F(EditorBoot, AHandlerAddedWhileTheMapLoadsIsInTimeAndALaterOneIsNot)
 {
 	int32 Calls = 0;
-	FEditorDelegates::OnMapLoad.AddLambda([&Calls](const FString&, FCanLoadMap&)
-	{
+	FEditorDelegates::OnMapLoad.AddLambda([&Calls](const FString&, FCanLoadMap&) {
 		FEditorDelegates::OnEditorInitialized.AddLambda([&Calls](double) { ++Calls; });
 	});
 	HostEditor::OpenMap(TEXT(""));

@@ -115,8 +115,7 @@ TEST_F(EditorRegistries, TheNewestLayoutOfAPropertyTypeCounts)
 	using EditorRegistriesTest::FCustomization;
 	FPropertyEditorModule& Editor = FModuleManager::LoadModuleChecked<FPropertyEditorModule>("PropertyEditor");
 	bool bOldUsed = false;
-	Editor.RegisterCustomPropertyTypeLayout("Finish", FOnGetPropertyTypeCustomizationInstance::CreateLambda([&bOldUsed]
-	{
+	Editor.RegisterCustomPropertyTypeLayout("Finish", FOnGetPropertyTypeCustomizationInstance::CreateLambda([&bOldUsed] {
 		bOldUsed = true;
 		return FCustomization::MakeInstance();
 	}));

@@ -190,16 +190,12 @@ TEST_F(ReflectedFunctions, OfEventsAreTakenOverByScripts)
 {
 	UClass* Class = Derive(UFixtureDerivedEvents::StaticClass());
 	int32 NumShown = 0;
-	HostObjects::AddScriptFunction(Class, TEXT("OnShown"), [&NumShown](UObject*, FFrame&, void*)
-		{ ++NumShown; });
-	HostObjects::AddScriptFunction(Class, TEXT("Judge"), [](UObject*, FFrame& Stack, void* Result)
-		{ *static_cast<int32*>(Result) = Stack.Node->FindPropertyByName(TEXT("Point"))->ContainerPtrToValuePtr<FFixturePoint>(Stack.Locals)->Y; });
-	HostObjects::AddScriptFunction(Class, TEXT("Fill"), [](UObject*, FFrame& Stack, void*)
-		{
+	HostObjects::AddScriptFunction(Class, TEXT("OnShown"), [&NumShown](UObject*, FFrame&, void*) { ++NumShown; });
+	HostObjects::AddScriptFunction(Class, TEXT("Judge"), [](UObject*, FFrame& Stack, void* Result) { *static_cast<int32*>(Result) = Stack.Node->FindPropertyByName(TEXT("Point"))->ContainerPtrToValuePtr<FFixturePoint>(Stack.Locals)->Y; });
+	HostObjects::AddScriptFunction(Class, TEXT("Fill"), [](UObject*, FFrame& Stack, void*) {
 		*Stack.Node->FindPropertyByName(TEXT("OutText"))->ContainerPtrToValuePtr<FString>(Stack.Locals) = TEXT("filled");
 		Stack.Node->FindPropertyByName(TEXT("Numbers"))->ContainerPtrToValuePtr<TArray<int32>>(Stack.Locals)->Add(2); });
-	HostObjects::AddScriptFunction(Class, TEXT("Greet"), [](UObject*, FFrame&, void* Result)
-		{ *static_cast<FString*>(Result) = TEXT("scripted"); });
+	HostObjects::AddScriptFunction(Class, TEXT("Greet"), [](UObject*, FFrame&, void* Result) { *static_cast<FString*>(Result) = TEXT("scripted"); });
 
 	UFixtureDerivedEvents* Events = NewObject<UFixtureDerivedEvents>(GetTransientPackage(), Class);
 	Events->OnShown();

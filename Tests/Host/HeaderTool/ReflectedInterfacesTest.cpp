@@ -48,10 +48,8 @@ TEST_F(ReflectedInterfaces, DispatchToScripts)
 {
 	int32 NumWaves = 0;
 	UClass* Native = Derive(UFixtureGreeterObject::StaticClass());
-	HostObjects::AddScriptFunction(Native, TEXT("GetAge"), [](UObject*, FFrame&, void* Result)
-		{ *static_cast<int32*>(Result) = 99; });
-	HostObjects::AddScriptFunction(Native, TEXT("Wave"), [&NumWaves](UObject*, FFrame&, void*)
-		{ ++NumWaves; });
+	HostObjects::AddScriptFunction(Native, TEXT("GetAge"), [](UObject*, FFrame&, void* Result) { *static_cast<int32*>(Result) = 99; });
+	HostObjects::AddScriptFunction(Native, TEXT("Wave"), [&NumWaves](UObject*, FFrame&, void*) { ++NumWaves; });
 	UObject* Object = NewObject<UObject>(GetTransientPackage(), Native);
 	EXPECT_EQ(IFixtureGreeter::Execute_GetAge(Object), 99);
 	IFixtureGreeter::Execute_Wave(Object, Object);
@@ -59,8 +57,7 @@ TEST_F(ReflectedInterfaces, DispatchToScripts)
 
 	UClass* Script = HostObjects::DeriveClass(UFixtureSilentObject::StaticClass(), TEXT("Script_C"), GetTransientPackage());
 	HostObjects::AddScriptInterface(Script, UFixtureGreeter::StaticClass());
-	HostObjects::AddScriptFunction(Script, TEXT("GetAge"), [](UObject*, FFrame&, void* Result)
-		{ *static_cast<int32*>(Result) = 7; });
+	HostObjects::AddScriptFunction(Script, TEXT("GetAge"), [](UObject*, FFrame&, void* Result) { *static_cast<int32*>(Result) = 7; });
 	UObject* Scripted = NewObject<UObject>(GetTransientPackage(), Script);
 	EXPECT_TRUE(Scripted->Implements<UFixtureGreeter>());
 	EXPECT_EQ(Cast<IFixtureGreeter>(Scripted), nullptr);
@@ -93,17 +90,13 @@ TEST_F(ReflectedInterfaces, RefuseWhatWouldPassTheScriptBy)
 		std::string Expression;
 	};
 	const FCase Cases[] = {
-		{"direct call", [&]()
-			{ Greeter->Greet(TEXT("Ann"), Length); },
+		{"direct call", [&]() { Greeter->Greet(TEXT("Ann"), Length); },
 			"0 && \"Do not directly call Event functions in Interfaces. Call Execute_Greet instead.\""},
-		{"direct call of an event without native body", [&]()
-			{ Greeter->Wave(nullptr); },
+		{"direct call of an event without native body", [&]() { Greeter->Wave(nullptr); },
 			"0 && \"Do not directly call Event functions in Interfaces. Call Execute_Wave instead.\""},
-		{"no object", []()
-			{ IFixtureGreeter::Execute_GetAge(nullptr); },
+		{"no object", []() { IFixtureGreeter::Execute_GetAge(nullptr); },
 			"O != NULL"},
-		{"object of another kind", [&]()
-			{ IFixtureGreeter::Execute_GetAge(Silent); },
+		{"object of another kind", [&]() { IFixtureGreeter::Execute_GetAge(Silent); },
 			"O->GetClass()->ImplementsInterface(UFixtureGreeter::StaticClass())"},
 	};
 	for (const FCase& Case : Cases)

@@ -116,8 +116,7 @@ TEST(RejectedHeaders, HaveUnknownSpecifiers)
 
 TEST(RejectedHeaders, HavePropertiesOfUnsupportedTypes)
 {
-	const auto Property = [](const std::string& Declaration)
-	{ return ClassWith("UPROPERTY()\n" + Declaration); };
+	const auto Property = [](const std::string& Declaration) { return ClassWith("UPROPERTY()\n" + Declaration); };
 	Check({
 		{"standard vector", Property("std::vector<FName> A;"), "X.h(9): error: UPROPERTY type 'std::vector<FName>' is not supported here; use TArray<FName>."},
 		{"standard string", Property("std::string A;"), "X.h(9): error: UPROPERTY type 'std::string' is not supported here; use FString."},
@@ -166,8 +165,7 @@ TEST(RejectedHeaders, ShowBlueprintsWhatTheyCannotUse)
 
 TEST(RejectedHeaders, HaveFunctionsThatCannotBeReflected)
 {
-	const auto Function = [](const std::string& Declaration)
-	{ return ClassWith("UFUNCTION()\n" + Declaration); };
+	const auto Function = [](const std::string& Declaration) { return ClassWith("UFUNCTION()\n" + Declaration); };
 	Check({
 		{"overloads", ClassWith("UFUNCTION()\nvoid A();\nUFUNCTION()\nvoid a(int32 B);"), "X.h(11): error: UFUNCTION 'a' has the name of the UFUNCTION in line 9 (case does not count): reflected functions cannot be overloaded; rename one, or reflect only one."},
 		{"function of the super class", FileWith("UCLASS()\nclass UX : public UBase\n{\nGENERATED_BODY()\npublic:\nUFUNCTION()\nvoid FromBase();\n};"), "X.h(9): error: UFUNCTION 'FromBase' is a UFUNCTION of 'UBase' already; remove the macro here, overrides are found through the first declaration."},
@@ -191,8 +189,7 @@ TEST(RejectedHeaders, HaveFunctionsThatCannotBeReflected)
 
 TEST(RejectedHeaders, HaveEventsThatCannotBeGenerated)
 {
-	const auto Event = [](const std::string& Kind, const std::string& Declaration)
-	{ return ClassWith("UFUNCTION(" + Kind + ")\n" + Declaration); };
+	const auto Event = [](const std::string& Kind, const std::string& Declaration) { return ClassWith("UFUNCTION(" + Kind + ")\n" + Declaration); };
 	Check({
 		{"virtual implementable event", Event("BlueprintImplementableEvent", "virtual void A();"), "X.h(9): error: the BlueprintImplementableEvent 'A' cannot be virtual; remove 'virtual'."},
 		{"virtual native event", Event("BlueprintNativeEvent", "virtual void A();"), "X.h(9): error: the BlueprintNativeEvent 'A' cannot be virtual; remove 'virtual' and override A_Implementation()."},

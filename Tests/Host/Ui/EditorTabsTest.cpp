@@ -20,7 +20,8 @@ protected:
 		{
 			WriteLayout(Name, R"("ParentClass": "/Script/TestPanels.TestToolPanel",
 				"Tree": {"Class": "Button", "Name": "Close", "Children": [{"Class": "TextBlock", "Properties": {"Text": "Close"}}]},
-				"Calls": {"Close.OnClicked": [{"Call": "CloseMyTab"}]})", "/Script/Blutility.EditorUtilityWidgetBlueprint");
+				"Calls": {"Close.OnClicked": [{"Call": "CloseMyTab"}]})",
+				"/Script/Blutility.EditorUtilityWidgetBlueprint");
 		}
 		UTestToolPanel::NumDestructed = 0;
 	}

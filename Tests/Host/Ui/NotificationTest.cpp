@@ -28,7 +28,8 @@ protected:
 	static std::string Phase(const FHostNotification& Notification)
 	{
 		HostNotifications::GetStanding(); // brings the records up to date
-		return Notification.IsGone() ? "gone" : Notification.FadeOutAt.IsSet() ? "fading" : "standing";
+		return Notification.IsGone() ? "gone" : Notification.FadeOutAt.IsSet() ? "fading"
+																			   : "standing";
 	}
 };
 
@@ -189,12 +190,12 @@ TEST_F(FNotificationTest, AButtonMayTakeItsOwnNotificationAway)
 {
 	FNotificationInfo Info = MakeInfo(60.0f, 0.0f);
 	TSharedPtr<SNotificationItem> Item;
-	Info.ButtonDetails.Add(FNotificationButtonInfo(FText::FromString(TEXT("Close")), FText::GetEmpty(), FSimpleDelegate::CreateLambda([&Item]
-	{
+	Info.ButtonDetails.Add(FNotificationButtonInfo(FText::FromString(TEXT("Close")), FText::GetEmpty(), FSimpleDelegate::CreateLambda([&Item] {
 		Item->Fadeout();
 		HostNotifications::GetStanding();
 		Item.Reset();
-	}), SNotificationItem::CS_None));
+	}),
+		SNotificationItem::CS_None));
 	Item = Show(Info);
 	EXPECT_TRUE(HostNotifications::PressButton(TEXT("Close")).bDone);
 	EXPECT_EQ(Phase(Newest()), "gone");

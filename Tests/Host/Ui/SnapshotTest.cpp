@@ -54,8 +54,7 @@ TEST_F(FSnapshotTest, ShowsOneWidgetALineAsAPersonSeesIt)
 
 TEST_F(FSnapshotTest, TellsNeitherTheTextNorTheLengthOfAPassword)
 {
-	const auto LineOf = [](const TCHAR* Password)
-	{
+	const auto LineOf = [](const TCHAR* Password) {
 		return Utf8(HostSnapshot::Take(SNew(SEditableText).Tag(FName(TEXT("Secret"))).IsPassword(true).Text(Text(Password))));
 	};
 	EXPECT_EQ(LineOf(TEXT("")), "edit Secret \"\"\n");
@@ -72,10 +71,8 @@ TEST_F(FSnapshotTest, TellsNeitherTheTextNorTheLengthOfAPassword)
 TEST_F(FSnapshotTest, RefusesWhatAPersonCouldNotDo)
 {
 	int32 NumClicks = 0;
-	const auto Button = [&NumClicks](const TCHAR* Label)
-	{
-		return SNew(SButton).Text(Text(Label)).OnClicked_Lambda([&NumClicks]
-		{
+	const auto Button = [&NumClicks](const TCHAR* Label) {
+		return SNew(SButton).Text(Text(Label)).OnClicked_Lambda([&NumClicks] {
 			++NumClicks;
 			return FReply::Handled();
 		});
@@ -102,10 +99,8 @@ TEST_F(FSnapshotTest, RefusesWhatAPersonCouldNotDo)
 TEST_F(FSnapshotTest, PrefersNamesToLabelsAndWhatShowsToWhatDoesNot)
 {
 	TArray<FString> Clicked;
-	const auto Button = [&Clicked](const TCHAR* Name, const TCHAR* Label, EVisibility Visibility)
-	{
-		return SNew(SButton).Tag(FName(Name)).Text(Text(Label)).Visibility(Visibility).OnClicked_Lambda([&Clicked, Name]
-		{
+	const auto Button = [&Clicked](const TCHAR* Name, const TCHAR* Label, EVisibility Visibility) {
+		return SNew(SButton).Tag(FName(Name)).Text(Text(Label)).Visibility(Visibility).OnClicked_Lambda([&Clicked, Name] {
 			Clicked.Add(Name);
 			return FReply::Handled();
 		});

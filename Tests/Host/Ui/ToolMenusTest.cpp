@@ -14,8 +14,7 @@ protected:
 	FToolUIAction Noting(const TCHAR* What)
 	{
 		FToolUIAction Action;
-		Action.ExecuteAction = FToolMenuExecuteAction::CreateLambda([this, What](const FToolMenuContext& Context)
-		{
+		Action.ExecuteAction = FToolMenuExecuteAction::CreateLambda([this, What](const FToolMenuContext& Context) {
 			const UTestListItem* Item = Context.FindContext<UTestListItem>();
 			Ran.Add(FString(What) + TEXT(" ") + (Item ? *Item->DisplayName : TEXT("nothing")));
 		});
@@ -70,8 +69,7 @@ TEST_F(FToolMenusTest, KeepsSectionsAndEntriesInOrderAndReplacesEntriesOfTheSame
 TEST_F(FToolMenusTest, MakesDynamicEntriesForEachContext)
 {
 	FToolMenuSection& Section = UToolMenus::Get()->ExtendMenu("Test.Menu")->FindOrAddSection("GetAssetActions");
-	Section.AddDynamicEntry(NAME_None, FNewToolMenuSectionDelegate::CreateLambda([this](FToolMenuSection& InSection)
-	{
+	Section.AddDynamicEntry(NAME_None, FNewToolMenuSectionDelegate::CreateLambda([this](FToolMenuSection& InSection) {
 		if (const UTestListItem* Item = InSection.FindContext<UTestListItem>())
 		{
 			InSection.AddMenuEntry("Open", Text(*(TEXT("Open ") + Item->DisplayName)), FText(), FSlateIcon(), Noting(TEXT("open")));
@@ -128,10 +126,10 @@ TEST_F(FToolMenusTest, AnOwnerTakesItsEntriesAway)
 TEST_F(FToolMenusTest, OpensMenusOfComboButtons)
 {
 	FToolMenuSection& Section = UToolMenus::Get()->ExtendMenu("Test.ToolBar")->FindOrAddSection("PluginTools");
-	Section.AddEntry(FToolMenuEntry::InitComboButton("Tools", FUIAction(), FNewToolMenuDelegate::CreateLambda([this](UToolMenu* SubMenu)
-	{
+	Section.AddEntry(FToolMenuEntry::InitComboButton("Tools", FUIAction(), FNewToolMenuDelegate::CreateLambda([this](UToolMenu* SubMenu) {
 		SubMenu->AddSection("Inner", Text(TEXT("Inner"))).AddMenuEntry("Go", Text(TEXT("Go")), FText(), FSlateIcon(), Noting(TEXT("go")));
-	}), Text(TEXT("Tools")), Text(TEXT("Opens tools"))));
+	}),
+		Text(TEXT("Tools")), Text(TEXT("Opens tools"))));
 	const TSharedRef<SWidget> ToolBar = HostToolMenus::Open("Test.ToolBar", FToolMenuContext());
 	EXPECT_TRUE(HostSnapshot::Click(ToolBar, TEXT("Tools")).bDone);
 	EXPECT_EQ(Utf8(HostSnapshot::Take(ToolBar)),

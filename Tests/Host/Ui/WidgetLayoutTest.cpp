@@ -24,8 +24,8 @@ protected:
 				{"Class": "TextBlock", "Name": "Status", "Properties": {"Text": "Welcome"}},
 				{"Class": "EditableText", "Name": "UserName", "Properties": {"HintText": "User"}},
 				{"Class": "CheckBox", "Name": "RememberUser", "Children": [{"Class": "TextBlock", "Properties": {"Text": "Remember"}}]},
-				{"Class": "Button", "Name": "Submit", "Children": [{"Class": "TextBlock", "Properties": {"Text": "Sign in"}}]})"
-				+ MoreWidgets + "]}" + (Members.empty() ? "" : ", " + Members));
+				{"Class": "Button", "Name": "Submit", "Children": [{"Class": "TextBlock", "Properties": {"Text": "Sign in"}}]})" +
+				MoreWidgets + "]}" + (Members.empty() ? "" : ", " + Members));
 	}
 
 	UTestLoginPanel* Open()
@@ -196,9 +196,9 @@ TEST_F(FWidgetLayoutTest, RowsOfAListAreEntriesOfALayout)
 	List->SetListItems(Items);
 	EXPECT_EQ(List->GetNumItems(), 2);
 	Wait();
-	EXPECT_NE(Utf8(HostSnapshot::Take(Root.ToSharedRef())).find(
-		"    list Items (2 items)\n      item\n        panel (Entry)\n          text Label \"* Oak\"\n      item\n        panel (Entry)\n          text Label \"* Ash\"\n"),
-		std::string::npos) << Utf8(HostSnapshot::Take(Root.ToSharedRef()));
+	EXPECT_NE(Utf8(HostSnapshot::Take(Root.ToSharedRef())).find("    list Items (2 items)\n      item\n        panel (Entry)\n          text Label \"* Oak\"\n      item\n        panel (Entry)\n          text Label \"* Ash\"\n"),
+		std::string::npos)
+		<< Utf8(HostSnapshot::Take(Root.ToSharedRef()));
 	EXPECT_EQ(Refusal(HostSnapshot::Choose(Root.ToSharedRef(), TEXT("Items"), TEXT("* Ash"))), "");
 	EXPECT_EQ(Panel->Happened.Last(), TEXT("Ash 0"));
 	EXPECT_EQ(List->GetSelectedItem(), Items[1]);
@@ -242,7 +242,8 @@ protected:
 	std::string ProblemsWithRest(const std::string& Members)
 	{
 		return ProblemsWith(R"("ParentClass": "/Script/TestPanels.TestLoginPanel", "Tree": {"Class": "VerticalBox", "Children": [
-			{"Class": "EditableText", "Name": "UserName"}, {"Class": "Button", "Name": "Submit"}, {"Class": "TextBlock", "Name": "Status"}]}, )" + Members);
+			{"Class": "EditableText", "Name": "UserName"}, {"Class": "Button", "Name": "Submit"}, {"Class": "TextBlock", "Name": "Status"}]}, )" +
+			Members);
 	}
 };
 

@@ -123,10 +123,9 @@ namespace EditorTopic
 		{
 			const FString* Category = Arguments.FindOption(1, TEXT("category"));
 			const FString* Verbosity = Arguments.FindOption(1, TEXT("verbosity"));
-			const bool bFound = HostLog::GetLines().ContainsByPredicate([&](const FHostLogLine& Line)
-			{
+			const bool bFound = HostLog::GetLines().ContainsByPredicate([&](const FHostLogLine& Line) {
 				return Line.Text.Contains(Arguments[0], ESearchCase::CaseSensitive) && (Category == nullptr || Line.Category == FName(**Category)) &&
-					   (Verbosity == nullptr || Verbosity->Equals(::ToString(Line.Verbosity)));
+					(Verbosity == nullptr || Verbosity->Equals(::ToString(Line.Verbosity)));
 			});
 			return {bFound, TEXT("no line of the log is like this"), FString()};
 		}

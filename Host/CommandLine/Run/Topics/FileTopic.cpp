@@ -93,7 +93,7 @@ namespace FileTopic
 			const FString* Line = Arguments.FindOption(1, TEXT("line"));
 			const FString* Part = Arguments.FindOption(1, TEXT("part"));
 			Result.bHolds = (Line == nullptr || LinesOf(Text).ContainsByPredicate([Line](const FString& Each) { return Each.Equals(*Line); })) &&
-							(Part == nullptr || FString(UTF8_TO_TCHAR(Text.c_str())).Contains(*Part, ESearchCase::CaseSensitive));
+				(Part == nullptr || FString(UTF8_TO_TCHAR(Text.c_str())).Contains(*Part, ESearchCase::CaseSensitive));
 			Result.Found = TEXT("that is not in it");
 			return Result;
 		}

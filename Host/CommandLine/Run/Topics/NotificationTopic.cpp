@@ -60,9 +60,9 @@ namespace NotificationTopic
 			const FString* State = Arguments.FindOption(1, TEXT("state"));
 			const FString* Button = Arguments.FindOption(1, TEXT("button"));
 			return Notification.Text.ToString().Equals(Arguments[0]) &&
-				   (SubText == nullptr || Notification.SubText.ToString().Equals(*SubText)) &&
-				   (State == nullptr || State->Equals(StepEvents::GetStateWord(Notification.State))) &&
-				   (Button == nullptr || HostNotifications::GetVisibleButtons(Notification).Contains(*Button));
+				(SubText == nullptr || Notification.SubText.ToString().Equals(*SubText)) &&
+				(State == nullptr || State->Equals(StepEvents::GetStateWord(Notification.State))) &&
+				(Button == nullptr || HostNotifications::GetVisibleButtons(Notification).Contains(*Button));
 		}
 
 		FExpectation ExpectNotification(FScriptContext&, const FScriptArguments& Arguments)

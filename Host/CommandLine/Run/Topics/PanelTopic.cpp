@@ -61,17 +61,15 @@ namespace PanelTopic
 		/** What is typed shows only where it would show on the screen: a word that goes nowhere might have been a password, too. */
 		FStepResult Type(FScriptContext& Context, const FScriptArguments& Arguments)
 		{
-			
-			return GiveInput(Context, Arguments, [&](const TSharedRef<SWidget>& Root, const FString& Widget)
-			{
+			Context.Mask(Arguments.GetWordIndex(2));
+			return GiveInput(Context, Arguments, [&](const TSharedRef<SWidget>& Root, const FString& Widget) {
 				FString Reason;
 				const TOptional<FHostWidgetDescription> Seen = HostSnapshot::Describe(Root, Widget, Reason);
 				if (Seen.IsSet() && !Seen->bPassword)
 				{
 					Context.Unmask(Arguments.GetWordIndex(2));
 				}
-				return HostSnapshot::Type(Root, Widget, Arguments[2]);
-			});
+				return HostSnapshot::Type(Root, Widget, Arguments[2]); });
 		}
 
 		FStepResult Choose(FScriptContext& Context, const FScriptArguments& Arguments)
@@ -153,7 +151,8 @@ namespace PanelTopic
 			{
 				return LookAtState(Seen, Value);
 			}
-			const FString Shown = Option == TEXT("value") ? Seen.Value.Get(FString()) : Option == TEXT("label") ? Seen.Label : Seen.ToolTip;
+			const FString Shown = Option == TEXT("value") ? Seen.Value.Get(FString()) : Option == TEXT("label") ? Seen.Label
+																												: Seen.ToolTip;
 			return {Shown.Equals(Value), FString::Printf(TEXT("its %s is \"%s\""), *Option, *Shown), FString()};
 		}
 

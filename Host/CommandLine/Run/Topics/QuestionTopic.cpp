@@ -59,7 +59,7 @@ namespace QuestionTopic
 			for (const FAskedQuestion& Asked : HostQuestions::GetAsked())
 			{
 				Result.bHolds |= Asked.Question.Kind == FName(*Arguments[0]) && (Choice == nullptr || Asked.Answer.Choice.Equals(*Choice)) &&
-								 (Text == nullptr || Asked.Question.Message.ToString().Contains(*Text, ESearchCase::CaseSensitive));
+					(Text == nullptr || Asked.Question.Message.ToString().Contains(*Text, ESearchCase::CaseSensitive));
 				Result.Found += TEXT(" ") + Describe(Asked) + TEXT(";");
 			}
 			return Result;

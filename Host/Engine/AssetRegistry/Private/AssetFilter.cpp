@@ -38,8 +38,10 @@ namespace AssetFilter
 }
 
 FAssetFilter::FAssetFilter(const FARFilter& Filter)
-	: PackageNames(AssetFilter::ToSet(Filter.PackageNames)), PackagePaths(AssetFilter::ToSet(Filter.PackagePaths)),
-	  bRecursivePaths(Filter.bRecursivePaths), bByClass(!Filter.ClassPaths.IsEmpty())
+	: PackageNames(AssetFilter::ToSet(Filter.PackageNames))
+	, PackagePaths(AssetFilter::ToSet(Filter.PackagePaths))
+	, bRecursivePaths(Filter.bRecursivePaths)
+	, bByClass(!Filter.ClassPaths.IsEmpty())
 {
 	for (const FSoftObjectPath& ObjectPath : Filter.SoftObjectPaths)
 	{
@@ -68,8 +70,8 @@ FAssetFilter::FAssetFilter(const FARFilter& Filter)
 bool FAssetFilter::Fits(const FAssetData& Asset) const
 {
 	return (PackageNames.IsEmpty() || PackageNames.Contains(Asset.PackageName)) && (PackagePaths.IsEmpty() || FitsPath(Asset.PackagePath)) &&
-		   (ObjectPaths.IsEmpty() || ObjectPaths.Contains(Asset.GetObjectPathString())) &&
-		   (!bByClass || ClassPaths.Contains(Asset.AssetClassPath));
+		(ObjectPaths.IsEmpty() || ObjectPaths.Contains(Asset.GetObjectPathString())) &&
+		(!bByClass || ClassPaths.Contains(Asset.AssetClassPath));
 }
 
 bool FAssetFilter::FitsPath(FName PackagePath) const

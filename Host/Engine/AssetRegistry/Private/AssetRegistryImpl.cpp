@@ -26,7 +26,7 @@ namespace AssetRegistryImpl
 	bool IsAsset(const UObject* Object)
 	{
 		return IsValid(Object) && Object->GetOuter() != nullptr && Object->GetOuter() == Object->GetPackage() && !Object->IsA<UClass>() &&
-			   Object->HasAnyFlags(RF_Public) && !Object->HasAnyFlags(RF_Transient | RF_ClassDefaultObject);
+			Object->HasAnyFlags(RF_Public) && !Object->HasAnyFlags(RF_Transient | RF_ClassDefaultObject);
 	}
 }
 

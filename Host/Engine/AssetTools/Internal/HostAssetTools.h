@@ -28,10 +28,10 @@ namespace HostAssetTools
 	struct FNewAssetItem
 	{
 		FText DisplayName;
-		FText Category;    // what the menu shows
+		FText Category; // what the menu shows
 		FText SubCategory; // empty without one
 		FLinearColor Color;
-		UClass* AssetClass;     // what the factory supports
+		UClass* AssetClass; // what the factory supports
 		UFactory* DefaultFactory; // the default object; make a new one to create with
 	};
 

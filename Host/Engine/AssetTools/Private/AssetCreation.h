@@ -14,7 +14,7 @@ struct FAssetRequest
 	FString AssetName;
 	FString PackagePath;
 	UClass* AssetClass = nullptr; // null takes the factory's
-	UFactory* Factory = nullptr;  // null makes a plain new object
+	UFactory* Factory = nullptr; // null makes a plain new object
 	FName CallingContext;
 };
 

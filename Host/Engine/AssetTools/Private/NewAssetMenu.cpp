@@ -61,7 +61,7 @@ namespace NewAssetMenu
 	{
 		const FString Separator(TEXT("\n")); // below every character of a name
 		return (Item.Category.ToString() + Separator + Item.SubCategory.ToString() + Separator + Item.DisplayName.ToString() + Separator +
-				Item.DefaultFactory->GetClass()->GetName())
+			Item.DefaultFactory->GetClass()->GetName())
 			.ToLower();
 	}
 }

@@ -30,7 +30,7 @@ namespace HostFiles
 	{
 		Done,
 		Missing, // not reported: callers decide whether the file had to be there
-		Failed   // there, but it could not be read; reported
+		Failed // there, but it could not be read; reported
 	};
 
 	enum class EReadOnly : uint8

@@ -9,10 +9,10 @@
 /** Something wrong with a file that the host read or was asked to write, told so that a person can put it right. */
 struct FHostProblem
 {
-	FString File;    // full path, or empty when no single file is to blame
-	int32 Line = 0;  // one-based; 0 when the file as a whole is meant
+	FString File; // full path, or empty when no single file is to blame
+	int32 Line = 0; // one-based; 0 when the file as a whole is meant
 	FString Message; // what is wrong, a sentence without its full stop
-	FString Remedy;  // what to do about it, may be empty
+	FString Remedy; // what to do about it, may be empty
 };
 
 /**

@@ -16,15 +16,15 @@ struct FHostQuestion
 	FName Kind; // "Message", "SaveAsset", "ReplaceAsset": what the choices and fields mean
 	FText Title;
 	FText Message;
-	TArray<FString> Choices;        // as on the buttons, first one first
-	FString DefaultChoice;          // taken when nobody answers; one of Choices
-	TMap<FString, FString> Fields;  // what else is asked or told, with the proposed values
+	TArray<FString> Choices; // as on the buttons, first one first
+	FString DefaultChoice; // taken when nobody answers; one of Choices
+	TMap<FString, FString> Fields; // what else is asked or told, with the proposed values
 };
 
 struct FHostAnswer
 {
-	FString Choice;                 // one of the question's choices; empty for the default
-	TMap<FString, FString> Fields;  // fields that are left out keep the proposed values
+	FString Choice; // one of the question's choices; empty for the default
+	TMap<FString, FString> Fields; // fields that are left out keep the proposed values
 };
 
 /** Who an answer came from. */

@@ -28,10 +28,10 @@ namespace HostObjects
 
 	struct FCounts
 	{
-		int32 Native = 0;   // types of linked modules, their packages and functions
-		int32 Editor = 0;   // all other objects
+		int32 Native = 0; // types of linked modules, their packages and functions
+		int32 Editor = 0; // all other objects
 		int32 Defaults = 0; // class default objects among them
-		int32 Rooted = 0;   // in the root set, or held by strong pointers
+		int32 Rooted = 0; // in the root set, or held by strong pointers
 	};
 	FCounts GetCounts();
 

@@ -24,7 +24,7 @@ namespace HostPackages
 	enum class EStored : uint8
 	{
 		Nothing,
-		Text,   // one of our JSON files
+		Text, // one of our JSON files
 		Binary, // a file of the real engine that this host cannot read
 	};
 
@@ -110,9 +110,9 @@ namespace HostPackages
 	/** A file as its class's own reader or writer sees it. */
 	struct FDocument
 	{
-		FString File;      // for messages
+		FString File; // for messages
 		FString AssetName; // the package's short name
-		FString Json;      // the whole document; its "Class" member names the class
+		FString Json; // the whole document; its "Class" member names the class
 	};
 
 	/** Makes the asset, named Document.AssetName, in Package. Reports problems itself and returns null when it refuses the document. */

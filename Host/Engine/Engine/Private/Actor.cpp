@@ -13,7 +13,7 @@ namespace Actor
 	{
 		FString Label = Actor.GetClass()->GetName();
 		Label.RemoveFromEnd(TEXT("_C"), ESearchCase::CaseSensitive); // a Blueprint's class
-		const int32 Number = Actor.GetFName().GetNumber();           // one more than the number that shows, 0 for none
+		const int32 Number = Actor.GetFName().GetNumber(); // one more than the number that shows, 0 for none
 		return Number > 1 ? Label + FString::FromInt(Number) : Label;
 	}
 }

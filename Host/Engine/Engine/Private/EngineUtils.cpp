@@ -40,7 +40,5 @@ bool FActorIteratorBase::IsSuitable(const ULevel& Level) const
 
 bool FActorIteratorBase::IsSuitable(const AActor* Actor) const
 {
-	return Actor != nullptr && Actor->IsA(Class)
-		&& (IsValid(Actor) || !EnumHasAnyFlags(Flags, EActorIteratorFlags::SkipPendingKill))
-		&& (Actor->IsSelected() || !EnumHasAnyFlags(Flags, EActorIteratorFlags::OnlySelectedActors));
+	return Actor != nullptr && Actor->IsA(Class) && (IsValid(Actor) || !EnumHasAnyFlags(Flags, EActorIteratorFlags::SkipPendingKill)) && (Actor->IsSelected() || !EnumHasAnyFlags(Flags, EActorIteratorFlags::OnlySelectedActors));
 }

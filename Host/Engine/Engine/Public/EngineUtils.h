@@ -12,9 +12,9 @@
 enum class EActorIteratorFlags
 {
 	AllActors = 0x00000000,
-	SkipPendingKill = 0x00000001,    // not those marked as garbage
+	SkipPendingKill = 0x00000001, // not those marked as garbage
 	OnlySelectedActors = 0x00000002, // only those selected in the editor
-	OnlyActiveLevels = 0x00000004,   // not those of levels that do not show
+	OnlyActiveLevels = 0x00000004, // not those of levels that do not show
 };
 ENUM_CLASS_FLAGS(EActorIteratorFlags)
 

@@ -8,9 +8,18 @@
 struct INPUTCORE_API FKey
 {
 	FKey() = default;
-	FKey(const FName InName) : KeyName(InName) {}
-	FKey(const TCHAR* InName) : KeyName(InName) {}
-	FKey(const ANSICHAR* InName) : KeyName(InName) {}
+	FKey(const FName InName)
+		: KeyName(InName)
+	{
+	}
+	FKey(const TCHAR* InName)
+		: KeyName(InName)
+	{
+	}
+	FKey(const ANSICHAR* InName)
+		: KeyName(InName)
+	{
+	}
 
 	bool IsValid() const { return KeyName != NAME_None; }
 	FName GetFName() const { return KeyName; }

@@ -92,8 +92,7 @@ TArray<TSharedRef<FPlaceableItem>> HostPlacement::GetItems(FName Handle)
 			Items.Add(Item.Item);
 		}
 		const bool bByName = Category->Info.bSortable;
-		Items.StableSort([bByName](const TSharedRef<FPlaceableItem>& Left, const TSharedRef<FPlaceableItem>& Right)
-		{
+		Items.StableSort([bByName](const TSharedRef<FPlaceableItem>& Left, const TSharedRef<FPlaceableItem>& Right) {
 			return bByName ? Left->DisplayName.CompareTo(Right->DisplayName) < 0 : Left->SortOrder.Get(0) < Right->SortOrder.Get(0);
 		});
 	}

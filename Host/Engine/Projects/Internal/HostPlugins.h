@@ -11,7 +11,7 @@ namespace HostPlugins
 	/** Where assets whose paths begin with Root are stored. */
 	struct FContentMount
 	{
-		FString Root;      // with slashes at both ends: "/Game/"
+		FString Root; // with slashes at both ends: "/Game/"
 		FString Directory; // full path with a trailing slash
 	};
 

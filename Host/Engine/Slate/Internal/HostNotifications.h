@@ -46,9 +46,9 @@ struct FHostNotification
 	SNotificationItem::ECompletionState State = SNotificationItem::CS_None;
 
 	double ShownAt = 0.0;
-	TOptional<double> ExpiresAt;  // when its expire time ends; unset while nothing made it run
-	TOptional<double> FadeOutAt;  // when it began, or will begin, to fade; unset while it stands
-	TOptional<double> GoneAt;     // set once it no longer shows
+	TOptional<double> ExpiresAt; // when its expire time ends; unset while nothing made it run
+	TOptional<double> FadeOutAt; // when it began, or will begin, to fade; unset while it stands
+	TOptional<double> GoneAt; // set once it no longer shows
 	TArray<FString> PressedButtons;
 
 	bool IsGone() const { return GoneAt.IsSet(); }

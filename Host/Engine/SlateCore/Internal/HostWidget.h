@@ -41,9 +41,9 @@ struct FHostWidgetDescription
 enum class EHostInput : uint8
 {
 	Click,
-	Type,   // replaces the whole text, then leaves the field with Enter
+	Type, // replaces the whole text, then leaves the field with Enter
 	Choose, // the option or row that shows Text
-	Check,  // sets a check box to bOn
+	Check, // sets a check box to bOn
 };
 
 /** One thing that a person does to a widget. */

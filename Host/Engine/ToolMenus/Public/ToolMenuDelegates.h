@@ -26,9 +26,13 @@ DECLARE_DELEGATE_RetVal_OneParam(bool, FToolMenuIsActionButtonVisible, const FTo
 struct FToolUIAction
 {
 	FToolUIAction() = default;
-	FToolUIAction(const FToolMenuExecuteAction& InExecuteAction) : ExecuteAction(InExecuteAction) {}
+	FToolUIAction(const FToolMenuExecuteAction& InExecuteAction)
+		: ExecuteAction(InExecuteAction)
+	{
+	}
 	FToolUIAction(const FToolMenuExecuteAction& InExecuteAction, const FToolMenuCanExecuteAction& InCanExecuteAction)
-		: ExecuteAction(InExecuteAction), CanExecuteAction(InCanExecuteAction)
+		: ExecuteAction(InExecuteAction)
+		, CanExecuteAction(InCanExecuteAction)
 	{
 	}
 
@@ -42,10 +46,22 @@ struct FToolUIAction
 struct TOOLMENUS_API FToolUIActionChoice
 {
 	FToolUIActionChoice() = default;
-	FToolUIActionChoice(const FUIAction& InAction) : Action(InAction) {}
-	FToolUIActionChoice(const FExecuteAction& InExecuteAction) : Action(FUIAction(InExecuteAction)) {}
-	FToolUIActionChoice(const FToolUIAction& InAction) : ToolAction(InAction) {}
-	FToolUIActionChoice(const FToolMenuExecuteAction& InExecuteAction) : ToolAction(FToolUIAction(InExecuteAction)) {}
+	FToolUIActionChoice(const FUIAction& InAction)
+		: Action(InAction)
+	{
+	}
+	FToolUIActionChoice(const FExecuteAction& InExecuteAction)
+		: Action(FUIAction(InExecuteAction))
+	{
+	}
+	FToolUIActionChoice(const FToolUIAction& InAction)
+		: ToolAction(InAction)
+	{
+	}
+	FToolUIActionChoice(const FToolMenuExecuteAction& InExecuteAction)
+		: ToolAction(FToolUIAction(InExecuteAction))
+	{
+	}
 	FToolUIActionChoice(const TSharedPtr<const FUICommandInfo>& InCommand, const FUICommandList& InCommandList);
 
 	const FUIAction* GetUIAction() const { return Action.IsSet() ? &Action.GetValue() : nullptr; }
@@ -60,10 +76,22 @@ private:
 struct FNewToolMenuChoice
 {
 	FNewToolMenuChoice() = default;
-	FNewToolMenuChoice(const FOnGetContent& InOnGetContent) : OnGetContent(InOnGetContent) {}
-	FNewToolMenuChoice(const FNewToolMenuDelegate& InNewToolMenu) : NewToolMenu(InNewToolMenu) {}
-	FNewToolMenuChoice(const FNewToolMenuWidget& InNewToolMenuWidget) : NewToolMenuWidget(InNewToolMenuWidget) {}
-	FNewToolMenuChoice(const FNewMenuDelegate& InNewMenu) : NewMenu(InNewMenu) {}
+	FNewToolMenuChoice(const FOnGetContent& InOnGetContent)
+		: OnGetContent(InOnGetContent)
+	{
+	}
+	FNewToolMenuChoice(const FNewToolMenuDelegate& InNewToolMenu)
+		: NewToolMenu(InNewToolMenu)
+	{
+	}
+	FNewToolMenuChoice(const FNewToolMenuWidget& InNewToolMenuWidget)
+		: NewToolMenuWidget(InNewToolMenuWidget)
+	{
+	}
+	FNewToolMenuChoice(const FNewMenuDelegate& InNewMenu)
+		: NewMenu(InNewMenu)
+	{
+	}
 
 	FOnGetContent OnGetContent;
 	FNewToolMenuDelegate NewToolMenu;

@@ -15,7 +15,12 @@
 struct TOOLMENUS_API FToolMenuEntry
 {
 	FToolMenuEntry() = default;
-	FToolMenuEntry(const FToolMenuOwner InOwner, const FName InName, EMultiBlockType InType) : Name(InName), Owner(InOwner), Type(InType) {}
+	FToolMenuEntry(const FToolMenuOwner InOwner, const FName InName, EMultiBlockType InType)
+		: Name(InName)
+		, Owner(InOwner)
+		, Type(InType)
+	{
+	}
 
 	static FToolMenuEntry InitMenuEntry(const FName InName, const TAttribute<FText>& InLabel, const TAttribute<FText>& InToolTip, const TAttribute<FSlateIcon>& InIcon,
 		const FToolUIActionChoice& InAction, const EUserInterfaceActionType UserInterfaceActionType = EUserInterfaceActionType::Button,

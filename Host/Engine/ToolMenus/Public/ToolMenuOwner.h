@@ -8,10 +8,22 @@
 struct FToolMenuOwner
 {
 	FToolMenuOwner() = default;
-	FToolMenuOwner(const void* InPointer) : Pointer(InPointer) {}
-	FToolMenuOwner(const FName InName) : Name(InName) {}
-	FToolMenuOwner(const TCHAR* InName) : Name(InName) {}
-	FToolMenuOwner(const ANSICHAR* InName) : Name(InName) {}
+	FToolMenuOwner(const void* InPointer)
+		: Pointer(InPointer)
+	{
+	}
+	FToolMenuOwner(const FName InName)
+		: Name(InName)
+	{
+	}
+	FToolMenuOwner(const TCHAR* InName)
+		: Name(InName)
+	{
+	}
+	FToolMenuOwner(const ANSICHAR* InName)
+		: Name(InName)
+	{
+	}
 
 	bool IsSet() const { return Pointer != nullptr || Name != NAME_None; }
 

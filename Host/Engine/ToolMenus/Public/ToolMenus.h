@@ -71,7 +71,11 @@ private:
 class TOOLMENUS_API FToolMenuOwnerScoped
 {
 public:
-	FToolMenuOwnerScoped(const FToolMenuOwner InOwner) : Owner(InOwner) { UToolMenus::Get()->PushOwner(InOwner); }
+	FToolMenuOwnerScoped(const FToolMenuOwner InOwner)
+		: Owner(InOwner)
+	{
+		UToolMenus::Get()->PushOwner(InOwner);
+	}
 	~FToolMenuOwnerScoped() { UToolMenus::Get()->PopOwner(Owner); }
 
 	FToolMenuOwnerScoped(const FToolMenuOwnerScoped&) = delete;

@@ -20,7 +20,7 @@ namespace HostWidgetLayout
 	{
 		FString Pointer; // JSON pointer into the document
 		FString Message; // a sentence without its full stop
-		FString Remedy;  // may be empty
+		FString Remedy; // may be empty
 	};
 
 	/**

@@ -54,8 +54,7 @@ namespace WidgetBlueprint
 
 void HostWidgetBlueprints::RegisterReader(const TCHAR* ClassPath, UClass* (*AssetClass)(), FCheckParent CheckParent)
 {
-	HostPackages::RegisterReader(FTopLevelAssetPath(ClassPath), [AssetClass, CheckParent](const HostPackages::FDocument& Document, UPackage* Package)
-	{
+	HostPackages::RegisterReader(FTopLevelAssetPath(ClassPath), [AssetClass, CheckParent](const HostPackages::FDocument& Document, UPackage* Package) {
 		return WidgetBlueprint::Read(Document, Package, AssetClass(), CheckParent);
 	});
 }

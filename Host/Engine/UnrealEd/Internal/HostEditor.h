@@ -25,8 +25,8 @@ namespace HostEditor
 	{
 		Opened,
 		Forbidden, // a handler of FEditorDelegates::OnMapLoad said no; the world that was open stays
-		Failed,    // there is no such level, or it cannot be read; reported to HostProblems. The open world stays; only one that
-		           // was asked for again has been closed already, and an untitled one is open.
+		Failed, // there is no such level, or it cannot be read; reported to HostProblems. The open world stays; only one that
+				// was asked for again has been closed already, and an untitled one is open.
 	};
 
 	/**
@@ -70,7 +70,7 @@ namespace HostEditor
 	struct FViewport
 	{
 		FString Name;
-		FVector ViewDirection = FVector::ZeroVector;  // of length one; it never turns
+		FVector ViewDirection = FVector::ZeroVector; // of length one; it never turns
 		FVector CameraLocation = FVector::ZeroVector; // centimetres
 		FVector Target = FVector::ZeroVector;
 		TArray<FString> FocusedActors; // labels of what it was last moved to

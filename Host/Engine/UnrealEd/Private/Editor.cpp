@@ -14,8 +14,7 @@ FEditorDelegates::FOnEditorInitialized FEditorDelegates::OnEditorInitialized;
 
 namespace Editor
 {
-	const FHostStateReset Reset([]
-	{
+	const FHostStateReset Reset([] {
 		FEditorDelegates::OnMapLoad.Clear();
 		FEditorDelegates::OnEditorInitialized.Clear();
 		GEditor = nullptr;

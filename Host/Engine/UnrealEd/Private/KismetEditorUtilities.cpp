@@ -25,8 +25,7 @@ namespace KismetEditorUtilities
 bool FKismetEditorUtilities::CanCreateBlueprintOfClass(const UClass* Class)
 {
 	check(Class != nullptr);
-	return !Class->HasAnyClassFlags(CLASS_Deprecated | CLASS_NewerVersionExists)
-		&& (Class == UObject::StaticClass() || KismetEditorUtilities::IsBlueprintBase(*Class));
+	return !Class->HasAnyClassFlags(CLASS_Deprecated | CLASS_NewerVersionExists) && (Class == UObject::StaticClass() || KismetEditorUtilities::IsBlueprintBase(*Class));
 }
 
 UBlueprint* FKismetEditorUtilities::CreateBlueprint(UClass* ParentClass, UObject* Outer, const FName NewBPName, EBlueprintType BlueprintType,

@@ -41,5 +41,5 @@ private:
 
 	TMap<const UObject*, FEntry> Entries;
 	TMap<FString, TArray<int32>> Positions; // of the elements with that text, ascending; never empty
-	TMap<FString, int32> LowestNumbers;     // by prefix: no lower number is free
+	TMap<FString, int32> LowestNumbers; // by prefix: no lower number is free
 };

@@ -71,8 +71,7 @@ namespace ConfiguratorDataAssetMenu
 		Menu->FindOrAddSection("GetAssetActions").AddDynamicEntry(NAME_None, FNewToolMenuSectionDelegate::CreateStatic(&AddEntries));
 	}
 
-	static FDelayedAutoRegisterHelper DelayedAutoRegister(EDelayedRegisterRunPhase::EndOfEngineInit, []
-	{
+	static FDelayedAutoRegisterHelper DelayedAutoRegister(EDelayedRegisterRunPhase::EndOfEngineInit, [] {
 		UToolMenus::RegisterStartupCallback(FSimpleMulticastDelegate::FDelegate::CreateStatic(&ExtendMenu));
 	});
 }

@@ -64,7 +64,7 @@ void UVlmEWLoginUser::ReceivedClickSummit(FName)
 
 	if (bRememberMe)
 	{
-		if (const UVelmorantDeveloperUser* EditorUser = UVelmorantSDKEngineSubsystem::GetVelmorantEditorUser(false))
+		if (UVelmorantDeveloperUser* EditorUser = UVelmorantSDKEngineSubsystem::GetVelmorantEditorUser(false))
 		{
 			EditorUser->SaveUserData();
 		}

@@ -161,8 +161,7 @@ void UVlmEWProjectSelector::Received_SelectionChanged(FString SelectedItem, ESel
 FProject UVlmEWProjectSelector::GetProjectByKeyCode(FName KeyCode) const
 {
 	const FString KeyCodeString = KeyCode.ToString();
-	const FProject* Project = UserProjectList.FindByPredicate([&KeyCodeString](const FProject& Candidate)
-	{
+	const FProject* Project = UserProjectList.FindByPredicate([&KeyCodeString](const FProject& Candidate) {
 		return Candidate.KeyCode.Equals(KeyCodeString, ESearchCase::IgnoreCase);
 	});
 	return Project ? *Project : FProject();
@@ -171,8 +170,7 @@ FProject UVlmEWProjectSelector::GetProjectByKeyCode(FName KeyCode) const
 FProject UVlmEWProjectSelector::GetProjectByName(FName Name) const
 {
 	const FString NameString = Name.ToString();
-	const FProject* Project = UserProjectList.FindByPredicate([&NameString](const FProject& Candidate)
-	{
+	const FProject* Project = UserProjectList.FindByPredicate([&NameString](const FProject& Candidate) {
 		return Candidate.ProjectName.Equals(NameString, ESearchCase::IgnoreCase);
 	});
 	return Project ? *Project : FProject();

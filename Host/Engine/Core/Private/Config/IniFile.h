@@ -20,7 +20,7 @@ class FIniFile
 public:
 	struct FEntry
 	{
-		std::string Key;   // with its prefix, UTF-8
+		std::string Key; // with its prefix, UTF-8
 		std::string Value; // without quotes
 	};
 

@@ -103,7 +103,7 @@ namespace IniMerge
 			}
 
 			std::unordered_map<std::string, FKey> Keys; // by folded name
-			std::vector<FValue> Values;                 // in order, removed ones included
+			std::vector<FValue> Values; // in order, removed ones included
 		};
 	}
 

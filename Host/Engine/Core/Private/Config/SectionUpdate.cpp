@@ -222,10 +222,10 @@ namespace SectionUpdate
 
 			FString Section;
 			std::u16string FoldedSection;
-			std::map<std::u16string, FPendingKey> Pending;  // all keys of the caller
-			std::vector<std::u16string> Order;              // their names as the caller's lines come
+			std::map<std::u16string, FPendingKey> Pending; // all keys of the caller
+			std::vector<std::u16string> Order; // their names as the caller's lines come
 			std::map<const FPendingKey*, size_t> LastLines; // of those that have lines in the file
-			size_t SectionEnd = NoLine;                     // the last line of the section that is not blank
+			size_t SectionEnd = NoLine; // the last line of the section that is not blank
 			bool bInSection = false;
 			std::deque<std::u16string> Texts; // of new lines; a deque, because lines point into it
 			std::vector<FTextLine> Result;

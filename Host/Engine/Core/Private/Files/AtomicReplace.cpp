@@ -81,7 +81,8 @@ namespace AtomicReplace
 			}
 			int Error = WriteAll(File.Value, Bytes);
 			Error = Error != 0 ? Error : SetOwnerAndMode(File.Value, Existing, NewMode);
-			return Error != 0 ? Error : fsync(File.Value) == 0 ? 0 : errno;
+			return Error != 0 ? Error : fsync(File.Value) == 0 ? 0
+															   : errno;
 		}
 
 		/** Makes the rename itself last. A file system that cannot do this has done all it can. */

@@ -96,8 +96,7 @@ namespace DiskFile
 
 	mode_t GetNewFileMode()
 	{
-		static const mode_t Mask = []
-		{
+		static const mode_t Mask = [] {
 			const mode_t Current = umask(0); // there is no other way to ask
 			umask(Current);
 			return Current;

@@ -23,7 +23,7 @@ namespace FileHelper
 			FString Path;
 			LineMerge::FLines Texts;
 			std::vector<FTextLine> TextsForNewFile; // with line ends of their own; empty when the caller only knows lines
-			std::optional<bool> LastLineEnds;       // not set: as in the file that is there
+			std::optional<bool> LastLineEnds; // not set: as in the file that is there
 			bool bKeepForeignChanges = false;
 			EOptions Options = EOptions::AutoDetect;
 			HostFiles::EReadOnly ReadOnly = HostFiles::EReadOnly::Refuse;

@@ -27,7 +27,7 @@ namespace HostFiles
 		struct FState
 		{
 			std::unique_ptr<FFileOverlay> Overlay;
-			std::vector<std::string> Written;    // in order of the first write
+			std::vector<std::string> Written; // in order of the first write
 			std::set<std::string> WrittenLookup; // the same paths
 			std::set<std::string> TidiedFolders; // leftovers are looked for once in each
 		};

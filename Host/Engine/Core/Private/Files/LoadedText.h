@@ -13,8 +13,8 @@ namespace LoadedText
 	enum class EState
 	{
 		Unknown, // not loaded since the last save
-		Seen,    // Bytes are what was there; none for a missing file
-		Failed   // could not be read or decoded
+		Seen, // Bytes are what was there; none for a missing file
+		Failed // could not be read or decoded
 	};
 
 	struct FRecord

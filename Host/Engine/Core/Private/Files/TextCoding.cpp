@@ -34,7 +34,10 @@ namespace TextCoding
 				OutCode = First;
 				return 1;
 			}
-			const size_t Length = First < 0xC2 ? 0 : First < 0xE0 ? 2 : First < 0xF0 ? 3 : First < 0xF5 ? 4 : 0;
+			const size_t Length = First < 0xC2 ? 0 : First < 0xE0 ? 2
+				: First < 0xF0									  ? 3
+				: First < 0xF5									  ? 4
+																  : 0;
 			if (Length == 0 || At + Length > Bytes.size())
 			{
 				return 0;

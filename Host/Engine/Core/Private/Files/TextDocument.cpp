@@ -18,8 +18,7 @@ namespace TextDocument
 		/** Takes the byte-order mark, if any, off Bytes. */
 		ETextEncoding Detect(std::string_view& Bytes)
 		{
-			const auto Take = [&Bytes](std::string_view Mark)
-			{
+			const auto Take = [&Bytes](std::string_view Mark) {
 				const bool bFound = Bytes.starts_with(Mark);
 				Bytes.remove_prefix(bFound ? Mark.size() : 0);
 				return bFound;
@@ -256,7 +255,8 @@ std::vector<FTextLine> FTextDocument::SplitLines(std::u16string_view Text)
 			continue;
 		}
 		const bool bPair = Unit == u'\r' && At + 1 < Text.size() && Text[At + 1] == u'\n';
-		const ELineEnd End = bPair ? ELineEnd::CrLf : Unit == u'\n' ? ELineEnd::Lf : ELineEnd::Cr;
+		const ELineEnd End = bPair ? ELineEnd::CrLf : Unit == u'\n' ? ELineEnd::Lf
+																	: ELineEnd::Cr;
 		Result.push_back(FTextLine{Text.substr(Start, At - Start), End});
 		At += bPair ? 1 : 0;
 		Start = At + 1;

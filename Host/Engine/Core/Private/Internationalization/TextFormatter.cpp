@@ -129,14 +129,12 @@ void FTextFormat::GetFormatArgumentNames(TArray<FString>& OutArgumentNames) cons
 
 FText FText::Format(FTextFormat Fmt, const FFormatNamedArguments& InArguments)
 {
-	return MakeGenerated(TextFormatter::Format(Fmt.GetSourceString(), [&InArguments](FStringView Name)
-		{ return InArguments.Find(FString(Name)); }));
+	return MakeGenerated(TextFormatter::Format(Fmt.GetSourceString(), [&InArguments](FStringView Name) { return InArguments.Find(FString(Name)); }));
 }
 
 FText FText::Format(FTextFormat Fmt, const FFormatOrderedArguments& InArguments)
 {
-	return MakeGenerated(TextFormatter::Format(Fmt.GetSourceString(), [&InArguments](FStringView Name) -> const FFormatArgumentValue*
-		{
+	return MakeGenerated(TextFormatter::Format(Fmt.GetSourceString(), [&InArguments](FStringView Name) -> const FFormatArgumentValue* {
 		const int32 Index = TextFormatter::ToIndex(Name);
 		return InArguments.IsValidIndex(Index) ? &InArguments[Index] : nullptr; }));
 }

@@ -54,8 +54,7 @@ FColor FLinearColor::ToFColor(bool bSRGB) const
 	{
 		return QuantizeRound();
 	}
-	const auto Channel = [](float Value)
-	{ return Color::Quantize(Color::ToSRGB(FMath::Clamp(Value, 0.f, 1.f))); };
+	const auto Channel = [](float Value) { return Color::Quantize(Color::ToSRGB(FMath::Clamp(Value, 0.f, 1.f))); };
 	return FColor(Channel(R), Channel(G), Channel(B), Color::Quantize(A));
 }
 

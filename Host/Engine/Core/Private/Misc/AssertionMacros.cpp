@@ -13,8 +13,7 @@ namespace AssertionMacros
 {
 	// Which editor is running, so that every editor reports its own failed conditions once.
 	uint32 EditorNumber = 1;
-	const FHostStateReset CountEditors([]
-		{ ++EditorNumber; });
+	const FHostStateReset CountEditors([] { ++EditorNumber; });
 
 	FString Describe(const TCHAR* What, const ANSICHAR* Expression, const ANSICHAR* File, int32 Line)
 	{

@@ -13,8 +13,7 @@ namespace CharTables
 	/** Unicode's character classes, independent of the locale of the process. Null where the system has none. */
 	locale_t CharClasses()
 	{
-		static const locale_t Locale = []
-		{
+		static const locale_t Locale = [] {
 			for (const char* Name : {"C.UTF-8", "C.utf8", "en_US.UTF-8"})
 			{
 				if (const locale_t Found = newlocale(LC_CTYPE_MASK, Name, nullptr))

@@ -13,8 +13,7 @@ namespace HostProblems
 
 	void Report(const FString& File, int32 Line, const FString& Message, const FString& Remedy)
 	{
-		const bool bKnown = Problems.Get().ContainsByPredicate([&](const FHostProblem& Problem)
-		{
+		const bool bKnown = Problems.Get().ContainsByPredicate([&](const FHostProblem& Problem) {
 			return Problem.Line == Line && Problem.File.Equals(File) && Problem.Message.Equals(Message);
 		});
 		if (!bKnown)

@@ -23,7 +23,8 @@ namespace Algo
 	template<typename RangeType, typename ValueType>
 	auto Find(RangeType&& Range, const ValueType& Value) -> decltype(&*Range.begin())
 	{
-		return FindBy(Range, Value, [](const auto& Element) -> const auto& { return Element; });
+		return FindBy(
+			Range, Value, [](const auto& Element) -> const auto& { return Element; });
 	}
 
 	template<typename RangeType, typename PredicateType>

@@ -121,8 +121,7 @@ public:
 
 	/** Converts element by element. */
 	template<typename OtherElementType>
-		requires(!std::is_same_v<std::remove_const_t<OtherElementType>, ElementType>)
-	explicit TArray(const TArray<OtherElementType>& Other)
+	requires(!std::is_same_v<std::remove_const_t<OtherElementType>, ElementType>) explicit TArray(const TArray<OtherElementType>& Other)
 	{
 		AppendConverted(Other.GetData(), Other.Num());
 	}
@@ -424,8 +423,7 @@ public:
 	}
 
 	template<typename ContainerType>
-		requires(requires(const ContainerType& C) { ::GetData(C); ::GetNum(C); })
-	void Append(const ContainerType& Source)
+	requires(requires(const ContainerType& C) { ::GetData(C); ::GetNum(C); }) void Append(const ContainerType& Source)
 	{
 		AppendConverted(::GetData(Source), static_cast<SizeType>(::GetNum(Source)));
 	}

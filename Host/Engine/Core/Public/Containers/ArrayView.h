@@ -53,16 +53,14 @@ public:
 	}
 
 	template<typename ContainerType>
-		requires(!std::is_same_v<std::remove_cvref_t<ContainerType>, TArrayView>
-			&& requires(ContainerType& C) { ::GetNum(C); requires std::is_convertible_v<std::remove_pointer_t<decltype(::GetData(C))> (*)[], ElementType (*)[]>; })
-	TArrayView(ContainerType&& Container)
+	requires(!std::is_same_v<std::remove_cvref_t<ContainerType>, TArrayView> && requires(ContainerType & C) { ::GetNum(C); requires std::is_convertible_v<std::remove_pointer_t<decltype(::GetData(C))> (*)[], ElementType (*)[]>; })
+		TArrayView(ContainerType&& Container)
 		: Data(::GetData(Container))
 		, ArrayNum(static_cast<SizeType>(::GetNum(Container)))
 	{
 	}
 
-	TArrayView(std::initializer_list<std::remove_const_t<ElementType>> List)
-		requires(std::is_const_v<ElementType>)
+	TArrayView(std::initializer_list<std::remove_const_t<ElementType>> List) requires(std::is_const_v<ElementType>)
 		: Data(List.begin())
 		, ArrayNum(static_cast<SizeType>(List.size()))
 	{

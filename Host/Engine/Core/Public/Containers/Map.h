@@ -379,8 +379,7 @@ public:
 	void MultiFind(const KeyType& Key, TArray<ValueType>& OutValues, bool bMaintainOrder = false) const
 	{
 		const int32 Start = OutValues.Num();
-		this->Pairs.VisitMatches(Key, [this, &OutValues](FSetElementId Id)
-		{
+		this->Pairs.VisitMatches(Key, [this, &OutValues](FSetElementId Id) {
 			OutValues.Add(this->Pairs[Id].Value);
 			return true;
 		});
@@ -394,8 +393,7 @@ public:
 	int32 Num(const KeyType& Key) const
 	{
 		int32 Result = 0;
-		this->Pairs.VisitMatches(Key, [&Result](FSetElementId)
-		{
+		this->Pairs.VisitMatches(Key, [&Result](FSetElementId) {
 			++Result;
 			return true;
 		});
@@ -450,8 +448,7 @@ private:
 	FSetElementId FindPairId(const KeyType& Key, const ValueType& Value) const
 	{
 		FSetElementId Found;
-		this->Pairs.VisitMatches(Key, [this, &Found, &Value](FSetElementId Id)
-		{
+		this->Pairs.VisitMatches(Key, [this, &Found, &Value](FSetElementId Id) {
 			Found = this->Pairs[Id].Value == Value ? Id : FSetElementId();
 			return !Found.IsValidId();
 		});

@@ -15,13 +15,13 @@
 	typedef TMulticastDelegate<ReturnType(__VA_ARGS__)> MulticastDelegateName;
 
 // An event is a multicast delegate that only its owner may broadcast.
-#define FUNC_DECLARE_EVENT(OwningType, EventName, ReturnType, ...)            \
-	class EventName : public TMulticastDelegate<ReturnType(__VA_ARGS__)>      \
-	{                                                                         \
-		friend class OwningType;                                              \
-                                                                              \
-	private:                                                                  \
-		using TMulticastDelegate<ReturnType(__VA_ARGS__)>::Broadcast;         \
+#define FUNC_DECLARE_EVENT(OwningType, EventName, ReturnType, ...) \
+	class EventName : public TMulticastDelegate<ReturnType(__VA_ARGS__)> \
+	{ \
+		friend class OwningType; \
+\
+	private: \
+		using TMulticastDelegate<ReturnType(__VA_ARGS__)>::Broadcast; \
 	};
 
 #define DECLARE_DELEGATE(DelegateName) FUNC_DECLARE_DELEGATE(DelegateName, void)

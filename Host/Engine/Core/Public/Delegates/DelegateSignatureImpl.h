@@ -10,56 +10,56 @@
 #define UE_PRIVATE_DELEGATE_METHOD(DelegateType, bConst) typename DelegateType::template TMethod<bConst, UserClass, VarTypes...>
 
 /** Declares Prefix##Lambda, Prefix##Raw, Prefix##SP ...: each makes a DelegateType, with the function of the same ending, and hands it to Sink. */
-#define UE_PRIVATE_DELEGATE_BINDERS(ResultType, Prefix, DelegateType, Sink)                                                                         \
-	template<typename FunctorType, typename... VarTypes>                                                                                            \
-	ResultType Prefix##Lambda(FunctorType&& InFunctor, VarTypes&&... Vars)                                                                          \
-	{                                                                                                                                               \
-		return Sink(DelegateType::CreateLambda(Forward<FunctorType>(InFunctor), Forward<VarTypes>(Vars)...));                                       \
-	}                                                                                                                                               \
-	template<typename UserClass, typename FunctorType, typename... VarTypes>                                                                        \
-	ResultType Prefix##WeakLambda(UserClass* InUserObject, FunctorType&& InFunctor, VarTypes&&... Vars)                                             \
-	{                                                                                                                                               \
-		return Sink(DelegateType::CreateWeakLambda(InUserObject, Forward<FunctorType>(InFunctor), Forward<VarTypes>(Vars)...));                     \
-	}                                                                                                                                               \
-	template<typename OwnerType, typename FunctorType, typename... VarTypes>                                                                        \
-	ResultType Prefix##SPLambda(const OwnerType& InOwner, FunctorType&& InFunctor, VarTypes&&... Vars)                                              \
-	{                                                                                                                                               \
-		return Sink(DelegateType::CreateSPLambda(InOwner, Forward<FunctorType>(InFunctor), Forward<VarTypes>(Vars)...));                            \
-	}                                                                                                                                               \
-	template<typename... VarTypes>                                                                                                                  \
-	ResultType Prefix##Static(typename DelegateType::template TStaticFunction<VarTypes...> InFunc, VarTypes&&... Vars)                              \
-	{                                                                                                                                               \
-		return Sink(DelegateType::CreateStatic(InFunc, Forward<VarTypes>(Vars)...));                                                                \
-	}                                                                                                                                               \
-	UE_PRIVATE_DELEGATE_METHOD_BINDERS(ResultType, Prefix, DelegateType, Sink, Raw)                                                                 \
-	UE_PRIVATE_DELEGATE_METHOD_BINDERS(ResultType, Prefix, DelegateType, Sink, SP)                                                                  \
-	UE_PRIVATE_DELEGATE_METHOD_BINDERS(ResultType, Prefix, DelegateType, Sink, UObject)                                                             \
-	template<typename UserClass, ESPMode Mode, typename... VarTypes>                                                                                \
+#define UE_PRIVATE_DELEGATE_BINDERS(ResultType, Prefix, DelegateType, Sink) \
+	template<typename FunctorType, typename... VarTypes> \
+	ResultType Prefix##Lambda(FunctorType&& InFunctor, VarTypes&&... Vars) \
+	{ \
+		return Sink(DelegateType::CreateLambda(Forward<FunctorType>(InFunctor), Forward<VarTypes>(Vars)...)); \
+	} \
+	template<typename UserClass, typename FunctorType, typename... VarTypes> \
+	ResultType Prefix##WeakLambda(UserClass* InUserObject, FunctorType&& InFunctor, VarTypes&&... Vars) \
+	{ \
+		return Sink(DelegateType::CreateWeakLambda(InUserObject, Forward<FunctorType>(InFunctor), Forward<VarTypes>(Vars)...)); \
+	} \
+	template<typename OwnerType, typename FunctorType, typename... VarTypes> \
+	ResultType Prefix##SPLambda(const OwnerType& InOwner, FunctorType&& InFunctor, VarTypes&&... Vars) \
+	{ \
+		return Sink(DelegateType::CreateSPLambda(InOwner, Forward<FunctorType>(InFunctor), Forward<VarTypes>(Vars)...)); \
+	} \
+	template<typename... VarTypes> \
+	ResultType Prefix##Static(typename DelegateType::template TStaticFunction<VarTypes...> InFunc, VarTypes&&... Vars) \
+	{ \
+		return Sink(DelegateType::CreateStatic(InFunc, Forward<VarTypes>(Vars)...)); \
+	} \
+	UE_PRIVATE_DELEGATE_METHOD_BINDERS(ResultType, Prefix, DelegateType, Sink, Raw) \
+	UE_PRIVATE_DELEGATE_METHOD_BINDERS(ResultType, Prefix, DelegateType, Sink, SP) \
+	UE_PRIVATE_DELEGATE_METHOD_BINDERS(ResultType, Prefix, DelegateType, Sink, UObject) \
+	template<typename UserClass, ESPMode Mode, typename... VarTypes> \
 	ResultType Prefix##SP(const TSharedRef<UserClass, Mode>& InUserObject, UE_PRIVATE_DELEGATE_METHOD(DelegateType, false) InFunc, VarTypes&&... Vars) \
-	{                                                                                                                                               \
-		return Sink(DelegateType::CreateSP(InUserObject, InFunc, Forward<VarTypes>(Vars)...));                                                      \
-	}                                                                                                                                               \
-	template<typename UserClass, ESPMode Mode, typename... VarTypes>                                                                                \
+	{ \
+		return Sink(DelegateType::CreateSP(InUserObject, InFunc, Forward<VarTypes>(Vars)...)); \
+	} \
+	template<typename UserClass, ESPMode Mode, typename... VarTypes> \
 	ResultType Prefix##SP(const TSharedRef<UserClass, Mode>& InUserObject, UE_PRIVATE_DELEGATE_METHOD(DelegateType, true) InFunc, VarTypes&&... Vars) \
-	{                                                                                                                                               \
-		return Sink(DelegateType::CreateSP(InUserObject, InFunc, Forward<VarTypes>(Vars)...));                                                      \
-	}                                                                                                                                               \
-	template<typename UserClass, typename NameType, typename... VarTypes>                                                                           \
-	ResultType Prefix##UFunction(UserClass* InUserObject, const NameType& InFunctionName, VarTypes&&... Vars)                                       \
-	{                                                                                                                                               \
-		return Sink(DelegateType::CreateUFunction(InUserObject, InFunctionName, Forward<VarTypes>(Vars)...));                                       \
+	{ \
+		return Sink(DelegateType::CreateSP(InUserObject, InFunc, Forward<VarTypes>(Vars)...)); \
+	} \
+	template<typename UserClass, typename NameType, typename... VarTypes> \
+	ResultType Prefix##UFunction(UserClass* InUserObject, const NameType& InFunctionName, VarTypes&&... Vars) \
+	{ \
+		return Sink(DelegateType::CreateUFunction(InUserObject, InFunctionName, Forward<VarTypes>(Vars)...)); \
 	}
 
-#define UE_PRIVATE_DELEGATE_METHOD_BINDERS(ResultType, Prefix, DelegateType, Sink, Kind)                                                            \
-	template<typename UserClass, typename... VarTypes>                                                                                              \
-	ResultType Prefix##Kind(UserClass* InUserObject, UE_PRIVATE_DELEGATE_METHOD(DelegateType, false) InFunc, VarTypes&&... Vars)                    \
-	{                                                                                                                                               \
-		return Sink(DelegateType::Create##Kind(InUserObject, InFunc, Forward<VarTypes>(Vars)...));                                                  \
-	}                                                                                                                                               \
-	template<typename UserClass, typename... VarTypes>                                                                                              \
-	ResultType Prefix##Kind(const UserClass* InUserObject, UE_PRIVATE_DELEGATE_METHOD(DelegateType, true) InFunc, VarTypes&&... Vars)               \
-	{                                                                                                                                               \
-		return Sink(DelegateType::Create##Kind(InUserObject, InFunc, Forward<VarTypes>(Vars)...));                                                  \
+#define UE_PRIVATE_DELEGATE_METHOD_BINDERS(ResultType, Prefix, DelegateType, Sink, Kind) \
+	template<typename UserClass, typename... VarTypes> \
+	ResultType Prefix##Kind(UserClass* InUserObject, UE_PRIVATE_DELEGATE_METHOD(DelegateType, false) InFunc, VarTypes&&... Vars) \
+	{ \
+		return Sink(DelegateType::Create##Kind(InUserObject, InFunc, Forward<VarTypes>(Vars)...)); \
+	} \
+	template<typename UserClass, typename... VarTypes> \
+	ResultType Prefix##Kind(const UserClass* InUserObject, UE_PRIVATE_DELEGATE_METHOD(DelegateType, true) InFunc, VarTypes&&... Vars) \
+	{ \
+		return Sink(DelegateType::Create##Kind(InUserObject, InFunc, Forward<VarTypes>(Vars)...)); \
 	}
 
 /**
@@ -270,8 +270,7 @@ public:
 
 	void Broadcast(ParamTypes... Params) const
 	{
-		auto CallOne = [&Params...](IDelegateInstance* Instance)
-		{
+		auto CallOne = [&Params...](IDelegateInstance* Instance) {
 			static_cast<IBaseDelegateInstance<void(ParamTypes...)>*>(Instance)->Execute(Params...);
 		};
 		this->BroadcastTo([](IDelegateInstance* Instance, void* Context) { (*static_cast<decltype(CallOne)*>(Context))(Instance); }, &CallOne);

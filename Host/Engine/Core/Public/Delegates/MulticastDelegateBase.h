@@ -52,6 +52,6 @@ private:
 	void Compact() const;
 
 	mutable TArray<IDelegateInstance*> Invocations; // owned; null where a binding was removed during a broadcast
-	mutable int32 NumBroadcasts = 0;                // that are running now
+	mutable int32 NumBroadcasts = 0; // that are running now
 	mutable bool bNeedsCompaction = false;
 };

@@ -31,49 +31,49 @@ namespace UE::Logging::Private
 }
 
 /** In a header; MODULE_API may stand before it. */
-#define DECLARE_LOG_CATEGORY_EXTERN(CategoryName, DefaultVerbosity, CompileTimeVerbosity)                                               \
+#define DECLARE_LOG_CATEGORY_EXTERN(CategoryName, DefaultVerbosity, CompileTimeVerbosity) \
 	extern class FLogCategory##CategoryName : public FLogCategory<ELogVerbosity::DefaultVerbosity, ELogVerbosity::CompileTimeVerbosity> \
-	{                                                                                                                                   \
-	public:                                                                                                                             \
-		FLogCategory##CategoryName()                                                                                                    \
-			: FLogCategory(TEXT(#CategoryName))                                                                                         \
-		{                                                                                                                               \
-		}                                                                                                                               \
+	{ \
+	public: \
+		FLogCategory##CategoryName() \
+			: FLogCategory(TEXT(#CategoryName)) \
+		{ \
+		} \
 	} CategoryName
 
 /** In exactly one .cpp. */
 #define DEFINE_LOG_CATEGORY(CategoryName) FLogCategory##CategoryName CategoryName
 
 /** A category of one .cpp. */
-#define DEFINE_LOG_CATEGORY_STATIC(CategoryName, DefaultVerbosity, CompileTimeVerbosity)                                                \
+#define DEFINE_LOG_CATEGORY_STATIC(CategoryName, DefaultVerbosity, CompileTimeVerbosity) \
 	static class FLogCategory##CategoryName : public FLogCategory<ELogVerbosity::DefaultVerbosity, ELogVerbosity::CompileTimeVerbosity> \
-	{                                                                                                                                   \
-	public:                                                                                                                             \
-		FLogCategory##CategoryName()                                                                                                    \
-			: FLogCategory(TEXT(#CategoryName))                                                                                         \
-		{                                                                                                                               \
-		}                                                                                                                               \
+	{ \
+	public: \
+		FLogCategory##CategoryName() \
+			: FLogCategory(TEXT(#CategoryName)) \
+		{ \
+		} \
 	} CategoryName
 
 #define UE_LOG_ACTIVE(CategoryName, Verbosity) (!CategoryName.IsSuppressed(ELogVerbosity::Verbosity))
 
-#define UE_PRIVATE_LOG(Condition, CategoryName, Verbosity, Format, ...)                                                   \
-	do                                                                                                                    \
-	{                                                                                                                     \
-		if constexpr (ELogVerbosity::Verbosity == ELogVerbosity::Fatal)                                                   \
-		{                                                                                                                 \
-			if (Condition)                                                                                                \
-			{                                                                                                             \
-				::UE::Logging::Private::LogFatal(CategoryName, __FILE__, __LINE__, Format __VA_OPT__(, ) __VA_ARGS__);    \
-			}                                                                                                             \
-		}                                                                                                                 \
+#define UE_PRIVATE_LOG(Condition, CategoryName, Verbosity, Format, ...) \
+	do \
+	{ \
+		if constexpr (ELogVerbosity::Verbosity == ELogVerbosity::Fatal) \
+		{ \
+			if (Condition) \
+			{ \
+				::UE::Logging::Private::LogFatal(CategoryName, __FILE__, __LINE__, Format __VA_OPT__(, ) __VA_ARGS__); \
+			} \
+		} \
 		else if constexpr (ELogVerbosity::Verbosity <= std::remove_cvref_t<decltype(CategoryName)>::CompileTimeVerbosity) \
-		{                                                                                                                 \
-			if (!CategoryName.IsSuppressed(ELogVerbosity::Verbosity) && (Condition))                                      \
-			{                                                                                                             \
-				::UE::Logging::Private::Log(CategoryName, ELogVerbosity::Verbosity, Format __VA_OPT__(, ) __VA_ARGS__);   \
-			}                                                                                                             \
-		}                                                                                                                 \
+		{ \
+			if (!CategoryName.IsSuppressed(ELogVerbosity::Verbosity) && (Condition)) \
+			{ \
+				::UE::Logging::Private::Log(CategoryName, ELogVerbosity::Verbosity, Format __VA_OPT__(, ) __VA_ARGS__); \
+			} \
+		} \
 	} while (0)
 
 /** One line of the log. Format is a literal that must fit the arguments, which are evaluated only when the line is written. */

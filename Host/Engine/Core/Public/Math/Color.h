@@ -58,8 +58,7 @@ struct FLinearColor
 	friend constexpr bool operator==(const FLinearColor& C, const FLinearColor& D) { return C.R == D.R && C.G == D.G && C.B == D.B && C.A == D.A; }
 	constexpr bool Equals(const FLinearColor& C, float Tolerance = 1.e-4f) const
 	{
-		const auto Near = [Tolerance](float X, float Y)
-		{ return (X < Y ? Y - X : X - Y) < Tolerance; };
+		const auto Near = [Tolerance](float X, float Y) { return (X < Y ? Y - X : X - Y) < Tolerance; };
 		return Near(R, C.R) && Near(G, C.G) && Near(B, C.B) && Near(A, C.A);
 	}
 

@@ -45,8 +45,7 @@ namespace UE::Math
 		/** A rotation has two quaternions; both count as equal. */
 		constexpr bool Equals(const TQuat& Q, T Tolerance = UE_KINDA_SMALL_NUMBER) const
 		{
-			const auto Near = [this, &Q, Tolerance](T Sign)
-			{
+			const auto Near = [this, &Q, Tolerance](T Sign) {
 				return FMath::Abs(X - Sign * Q.X) <= Tolerance && FMath::Abs(Y - Sign * Q.Y) <= Tolerance && FMath::Abs(Z - Sign * Q.Z) <= Tolerance && FMath::Abs(W - Sign * Q.W) <= Tolerance;
 			};
 			return Near(T(1)) || Near(T(-1));

@@ -35,12 +35,12 @@ namespace UE::Assert::Private
 }
 
 #define UE_PRIVATE_CHECK(Expression, Report) \
-	do                                       \
-	{                                        \
-		if (UNLIKELY(!(Expression)))         \
-		{                                    \
-			Report;                          \
-		}                                    \
+	do \
+	{ \
+		if (UNLIKELY(!(Expression))) \
+		{ \
+			Report; \
+		} \
 	} while (0)
 
 #define check(...) UE_PRIVATE_CHECK((__VA_ARGS__), ::UE::Assert::Private::CheckFailed(#__VA_ARGS__, __FILE__, __LINE__))

@@ -23,8 +23,8 @@ public:
 	TAttribute() = default;
 
 	template<typename OtherType>
-		requires(std::is_convertible_v<OtherType &&, ObjectType> && !std::is_base_of_v<TAttribute, std::remove_cvref_t<OtherType>>)
-	TAttribute(OtherType&& InInitialValue)
+	requires(std::is_convertible_v<OtherType&&, ObjectType> && !std::is_base_of_v<TAttribute, std::remove_cvref_t<OtherType>>)
+		TAttribute(OtherType&& InInitialValue)
 		: Value(Forward<OtherType>(InInitialValue))
 		, bIsSet(true)
 	{
@@ -54,8 +54,8 @@ public:
 
 	/** From a lambda or TFunction. */
 	template<typename FunctorType>
-		requires(std::is_invocable_r_v<ObjectType, std::decay_t<FunctorType>&>)
-	[[nodiscard]] static TAttribute Create(FunctorType&& InGetter)
+	requires(std::is_invocable_r_v<ObjectType, std::decay_t<FunctorType>&>)
+		[[nodiscard]] static TAttribute Create(FunctorType&& InGetter)
 	{
 		return CreateLambda(Forward<FunctorType>(InGetter));
 	}

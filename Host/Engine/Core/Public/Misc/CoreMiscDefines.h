@@ -24,9 +24,9 @@ enum ENoInit
 
 #define ANONYMOUS_VARIABLE(Name) PREPROCESSOR_JOIN(Name, __LINE__)
 
-#define UE_NONCOPYABLE(TypeName)                   \
-	TypeName(TypeName&&) = delete;                 \
-	TypeName(const TypeName&) = delete;            \
+#define UE_NONCOPYABLE(TypeName) \
+	TypeName(TypeName&&) = delete; \
+	TypeName(const TypeName&) = delete; \
 	TypeName& operator=(const TypeName&) = delete; \
 	TypeName& operator=(TypeName&&) = delete
 
@@ -42,7 +42,7 @@ namespace UE::Assert::Private
 }
 
 /** The body of a UObject virtual that every subclass must override: UObject classes cannot be abstract to the compiler. Fatal when called. */
-#define PURE_VIRTUAL(Function, ...)                          \
-	{                                                        \
+#define PURE_VIRTUAL(Function, ...) \
+	{ \
 		::UE::Assert::Private::PureVirtualCalled(#Function); \
 	}

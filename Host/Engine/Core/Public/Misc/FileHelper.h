@@ -25,10 +25,10 @@ struct FFileHelper
 
 	enum class EEncodingOptions
 	{
-		AutoDetect,         // a new file: single-byte when all characters are ASCII, else UTF-16, little endian, with byte-order mark
-		ForceAnsi,          // Host: characters beyond ASCII are refused rather than replaced
-		ForceUnicode,       // UTF-16, little endian, with byte-order mark
-		ForceUTF8,          // with byte-order mark
+		AutoDetect, // a new file: single-byte when all characters are ASCII, else UTF-16, little endian, with byte-order mark
+		ForceAnsi, // Host: characters beyond ASCII are refused rather than replaced
+		ForceUnicode, // UTF-16, little endian, with byte-order mark
+		ForceUTF8, // with byte-order mark
 		ForceUTF8WithoutBOM
 	};
 

@@ -110,4 +110,6 @@ class FDefaultModuleImpl : public IModuleInterface
 #define IMPLEMENT_MODULE(ModuleImplClass, ModuleName) \
 	static FStaticallyLinkedModuleRegistrant<ModuleImplClass> ModuleRegistrant##ModuleName(#ModuleName); \
 	extern "C" void IMPLEMENT_MODULE_##ModuleName(); \
-	extern "C" void IMPLEMENT_MODULE_##ModuleName() {}
+	extern "C" void IMPLEMENT_MODULE_##ModuleName() \
+	{ \
+	}

@@ -179,16 +179,14 @@ namespace UE::Core
 		constexpr void CheckFormatString(const TCHAR* Format, const EFormatArg* Args, int32 NumArgs)
 		{
 			int32 Next = 0;
-			const auto Take = [&Next, Args, NumArgs]() -> EFormatArg
-			{
+			const auto Take = [&Next, Args, NumArgs]() -> EFormatArg {
 				if (Next >= NumArgs)
 				{
 					FormatStringHasMoreDirectivesThanArguments();
 				}
 				return Args[Next++];
 			};
-			const auto SkipNumber = [&Format, &Take]()
-			{
+			const auto SkipNumber = [&Format, &Take]() {
 				if (*Format == '*')
 				{
 					CheckFormatInteger(Take(), 0, false);

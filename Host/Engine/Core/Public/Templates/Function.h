@@ -167,8 +167,7 @@ namespace UE::Core::Private::Function
 	protected:
 		TFunctionBase() = default;
 
-		TFunctionBase(const TFunctionBase& Other)
-			requires(bCopyable)
+		TFunctionBase(const TFunctionBase& Other) requires(bCopyable)
 		{
 			CopyFrom(Other);
 		}
@@ -183,8 +182,7 @@ namespace UE::Core::Private::Function
 			Reset();
 		}
 
-		TFunctionBase& operator=(const TFunctionBase& Other)
-			requires(bCopyable)
+		TFunctionBase& operator=(const TFunctionBase& Other) requires(bCopyable)
 		{
 			if (this != &Other)
 			{
@@ -215,8 +213,7 @@ namespace UE::Core::Private::Function
 			}
 			FStored::Construct(Storage, ::Forward<FunctorType>(Functor));
 			Operations = FStored::Operations(bCopyable);
-			Call = [](void* InStorage, ParamTypes&&... Params) -> RetType
-			{
+			Call = [](void* InStorage, ParamTypes&&... Params) -> RetType {
 				if constexpr (std::is_void_v<RetType>)
 				{
 					::Invoke(FStored::Get(InStorage), ::Forward<ParamTypes>(Params)...);
@@ -277,8 +274,8 @@ public:
 	TFunction& operator=(TFunction&&) = default;
 
 	template<typename FunctorType>
-		requires(!std::is_same_v<std::decay_t<FunctorType>, TFunction> && UE::Core::Private::Function::TIsInvocable<std::decay_t<FunctorType>, FuncType>::Value)
-	TFunction(FunctorType&& Functor)
+	requires(!std::is_same_v<std::decay_t<FunctorType>, TFunction> && UE::Core::Private::Function::TIsInvocable<std::decay_t<FunctorType>, FuncType>::Value)
+		TFunction(FunctorType&& Functor)
 	{
 		this->Bind(::Forward<FunctorType>(Functor));
 	}
@@ -295,8 +292,8 @@ public:
 	TUniqueFunction& operator=(TUniqueFunction&&) = default;
 
 	template<typename FunctorType>
-		requires(!std::is_same_v<std::decay_t<FunctorType>, TUniqueFunction> && UE::Core::Private::Function::TIsInvocable<std::decay_t<FunctorType>, FuncType>::Value)
-	TUniqueFunction(FunctorType&& Functor)
+	requires(!std::is_same_v<std::decay_t<FunctorType>, TUniqueFunction> && UE::Core::Private::Function::TIsInvocable<std::decay_t<FunctorType>, FuncType>::Value)
+		TUniqueFunction(FunctorType&& Functor)
 	{
 		this->Bind(::Forward<FunctorType>(Functor));
 	}
@@ -308,8 +305,8 @@ class TFunctionRef<RetType(ParamTypes...)> final
 {
 public:
 	template<typename FunctorType>
-		requires(!std::is_same_v<std::remove_cvref_t<FunctorType>, TFunctionRef> && UE::Core::Private::Function::TIsInvocable<std::remove_reference_t<FunctorType>, RetType(ParamTypes...)>::Value)
-	TFunctionRef(FunctorType&& Functor)
+	requires(!std::is_same_v<std::remove_cvref_t<FunctorType>, TFunctionRef> && UE::Core::Private::Function::TIsInvocable<std::remove_reference_t<FunctorType>, RetType(ParamTypes...)>::Value)
+		TFunctionRef(FunctorType&& Functor)
 	{
 		using Type = std::remove_reference_t<FunctorType>;
 		if constexpr (std::is_function_v<Type>)

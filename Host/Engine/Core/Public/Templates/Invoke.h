@@ -12,8 +12,7 @@ constexpr auto Invoke(FuncType&& Func, ArgTypes&&... Args) -> decltype(Forward<F
 }
 
 template<typename ValueType, typename ClassType, typename TargetType>
-	requires(!std::is_function_v<ValueType>)
-constexpr auto Invoke(ValueType ClassType::*Member, TargetType&& Target) -> decltype(auto)
+requires(!std::is_function_v<ValueType>) constexpr auto Invoke(ValueType ClassType::*Member, TargetType&& Target) -> decltype(auto)
 {
 	if constexpr (std::is_base_of_v<ClassType, std::remove_cvref_t<TargetType>>)
 	{
@@ -26,8 +25,7 @@ constexpr auto Invoke(ValueType ClassType::*Member, TargetType&& Target) -> decl
 }
 
 template<typename FunctionType, typename ClassType, typename TargetType, typename... ArgTypes>
-	requires(std::is_function_v<FunctionType>)
-constexpr auto Invoke(FunctionType ClassType::*Method, TargetType&& Target, ArgTypes&&... Args) -> decltype(auto)
+requires(std::is_function_v<FunctionType>) constexpr auto Invoke(FunctionType ClassType::*Method, TargetType&& Target, ArgTypes&&... Args) -> decltype(auto)
 {
 	if constexpr (std::is_base_of_v<ClassType, std::remove_cvref_t<TargetType>>)
 	{

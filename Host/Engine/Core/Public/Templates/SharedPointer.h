@@ -25,22 +25,21 @@ public:
 
 	/** Takes ownership of InObject, which must not be null. */
 	template<class OtherType>
-		requires(std::is_convertible_v<OtherType*, ObjectType*>)
-	explicit TSharedRef(OtherType* InObject)
+	requires(std::is_convertible_v<OtherType*, ObjectType*>) explicit TSharedRef(OtherType* InObject)
 		: TSharedRef(SharedPointerInternals::TRawPtrProxy<OtherType>{InObject, nullptr})
 	{
 	}
 
 	template<class OtherType, typename DeleterType>
-		requires(std::is_convertible_v<OtherType*, ObjectType*>)
-	TSharedRef(OtherType* InObject, DeleterType&& InDeleter)
+	requires(std::is_convertible_v<OtherType*, ObjectType*>)
+		TSharedRef(OtherType* InObject, DeleterType&& InDeleter)
 		: TSharedRef(SharedPointerInternals::TRawPtrProxy<OtherType>{InObject, SharedPointerInternals::NewController(InObject, Forward<DeleterType>(InDeleter))})
 	{
 	}
 
 	template<class OtherType>
-		requires(std::is_convertible_v<OtherType*, ObjectType*>)
-	TSharedRef(const SharedPointerInternals::TRawPtrProxy<OtherType>& InProxy)
+	requires(std::is_convertible_v<OtherType*, ObjectType*>)
+		TSharedRef(const SharedPointerInternals::TRawPtrProxy<OtherType>& InProxy)
 		: Object(InProxy.Object)
 		, Referencer(InProxy.Controller ? InProxy.Controller : SharedPointerInternals::NewController(InProxy.Object))
 	{
@@ -58,8 +57,8 @@ public:
 	}
 
 	template<class OtherType>
-		requires(std::is_convertible_v<OtherType*, ObjectType*>)
-	TSharedRef(const TSharedRef<OtherType, Mode>& InSharedRef)
+	requires(std::is_convertible_v<OtherType*, ObjectType*>)
+		TSharedRef(const TSharedRef<OtherType, Mode>& InSharedRef)
 		: Object(InSharedRef.Object)
 		, Referencer(InSharedRef.Referencer)
 	{
@@ -94,8 +93,9 @@ public:
 	}
 
 	template<class OtherType>
-		requires(std::is_convertible_v<OtherType*, ObjectType*>)
-	TSharedRef& operator=(const SharedPointerInternals::TRawPtrProxy<OtherType>& InProxy)
+	requires(std::is_convertible_v<OtherType*, ObjectType*>)
+		TSharedRef&
+		operator=(const SharedPointerInternals::TRawPtrProxy<OtherType>& InProxy)
 	{
 		return *this = TSharedRef(InProxy);
 	}
@@ -152,22 +152,21 @@ public:
 
 	/** Takes ownership of InObject; null gives a null pointer. */
 	template<class OtherType>
-		requires(std::is_convertible_v<OtherType*, ObjectType*>)
-	explicit TSharedPtr(OtherType* InObject)
+	requires(std::is_convertible_v<OtherType*, ObjectType*>) explicit TSharedPtr(OtherType* InObject)
 		: TSharedPtr(SharedPointerInternals::TRawPtrProxy<OtherType>{InObject, nullptr})
 	{
 	}
 
 	template<class OtherType, typename DeleterType>
-		requires(std::is_convertible_v<OtherType*, ObjectType*>)
-	TSharedPtr(OtherType* InObject, DeleterType&& InDeleter)
+	requires(std::is_convertible_v<OtherType*, ObjectType*>)
+		TSharedPtr(OtherType* InObject, DeleterType&& InDeleter)
 		: TSharedPtr(SharedPointerInternals::TRawPtrProxy<OtherType>{InObject, SharedPointerInternals::NewController(InObject, Forward<DeleterType>(InDeleter))})
 	{
 	}
 
 	template<class OtherType>
-		requires(std::is_convertible_v<OtherType*, ObjectType*>)
-	TSharedPtr(const SharedPointerInternals::TRawPtrProxy<OtherType>& InProxy)
+	requires(std::is_convertible_v<OtherType*, ObjectType*>)
+		TSharedPtr(const SharedPointerInternals::TRawPtrProxy<OtherType>& InProxy)
 		: Object(InProxy.Object)
 		, Referencer(InProxy.Controller || !InProxy.Object ? InProxy.Controller : SharedPointerInternals::NewController(InProxy.Object))
 	{
@@ -186,16 +185,16 @@ public:
 	}
 
 	template<class OtherType>
-		requires(std::is_convertible_v<OtherType*, ObjectType*>)
-	TSharedPtr(const TSharedPtr<OtherType, Mode>& InSharedPtr)
+	requires(std::is_convertible_v<OtherType*, ObjectType*>)
+		TSharedPtr(const TSharedPtr<OtherType, Mode>& InSharedPtr)
 		: Object(InSharedPtr.Object)
 		, Referencer(InSharedPtr.Referencer)
 	{
 	}
 
 	template<class OtherType>
-		requires(std::is_convertible_v<OtherType*, ObjectType*>)
-	TSharedPtr(TSharedPtr<OtherType, Mode>&& InSharedPtr)
+	requires(std::is_convertible_v<OtherType*, ObjectType*>)
+		TSharedPtr(TSharedPtr<OtherType, Mode>&& InSharedPtr)
 		: Object(InSharedPtr.Object)
 		, Referencer(MoveTemp(InSharedPtr.Referencer))
 	{
@@ -203,8 +202,8 @@ public:
 	}
 
 	template<class OtherType>
-		requires(std::is_convertible_v<OtherType*, ObjectType*>)
-	TSharedPtr(const TSharedRef<OtherType, Mode>& InSharedRef)
+	requires(std::is_convertible_v<OtherType*, ObjectType*>)
+		TSharedPtr(const TSharedRef<OtherType, Mode>& InSharedRef)
 		: Object(InSharedRef.Object)
 		, Referencer(InSharedRef.Referencer)
 	{
@@ -257,8 +256,9 @@ public:
 	}
 
 	template<class OtherType>
-		requires(std::is_convertible_v<OtherType*, ObjectType*>)
-	TSharedPtr& operator=(const SharedPointerInternals::TRawPtrProxy<OtherType>& InProxy)
+	requires(std::is_convertible_v<OtherType*, ObjectType*>)
+		TSharedPtr&
+		operator=(const SharedPointerInternals::TRawPtrProxy<OtherType>& InProxy)
 	{
 		return *this = TSharedPtr(InProxy);
 	}
@@ -299,8 +299,7 @@ public:
 
 private:
 	template<class OtherType>
-		requires(std::is_convertible_v<OtherType*, ObjectType*>)
-	explicit TSharedPtr(const TWeakPtr<OtherType, Mode>& InWeakPtr)
+	requires(std::is_convertible_v<OtherType*, ObjectType*>) explicit TSharedPtr(const TWeakPtr<OtherType, Mode>& InWeakPtr)
 		: Referencer(InWeakPtr.Referencer)
 	{
 		if (Referencer.IsValid())
@@ -329,24 +328,24 @@ public:
 	TWeakPtr(std::nullptr_t = nullptr) {}
 
 	template<class OtherType>
-		requires(std::is_convertible_v<OtherType*, ObjectType*>)
-	TWeakPtr(const TSharedRef<OtherType, Mode>& InSharedRef)
+	requires(std::is_convertible_v<OtherType*, ObjectType*>)
+		TWeakPtr(const TSharedRef<OtherType, Mode>& InSharedRef)
 		: Object(InSharedRef.Object)
 		, Referencer(InSharedRef.Referencer)
 	{
 	}
 
 	template<class OtherType>
-		requires(std::is_convertible_v<OtherType*, ObjectType*>)
-	TWeakPtr(const TSharedPtr<OtherType, Mode>& InSharedPtr)
+	requires(std::is_convertible_v<OtherType*, ObjectType*>)
+		TWeakPtr(const TSharedPtr<OtherType, Mode>& InSharedPtr)
 		: Object(InSharedPtr.Object)
 		, Referencer(InSharedPtr.Referencer)
 	{
 	}
 
 	template<class OtherType>
-		requires(std::is_convertible_v<OtherType*, ObjectType*>)
-	TWeakPtr(const TWeakPtr<OtherType, Mode>& InWeakPtr)
+	requires(std::is_convertible_v<OtherType*, ObjectType*>)
+		TWeakPtr(const TWeakPtr<OtherType, Mode>& InWeakPtr)
 		: Object(InWeakPtr.Object)
 		, Referencer(InWeakPtr.Referencer)
 	{

@@ -221,5 +221,7 @@ namespace SharedPointerInternals
 	template<class SharedType, class OtherType, ESPMode Mode>
 	void EnableSharedFromThis(const TSharedPtr<SharedType, Mode>* InSharedPtr, SharedType* Object, const TSharedFromThis<OtherType, Mode>* Shareable);
 
-	inline void EnableSharedFromThis(...) {}
+	inline void EnableSharedFromThis(...)
+	{
+	}
 }

@@ -93,8 +93,8 @@ public:
 	TTuple() = default;
 
 	template<typename... ArgTypes>
-		requires(sizeof...(ArgTypes) == sizeof...(Types) && sizeof...(Types) > 0 && (... && std::is_constructible_v<Types, ArgTypes&&>))
-	TTuple(ArgTypes&&... Args)
+	requires(sizeof...(ArgTypes) == sizeof...(Types) && sizeof...(Types) > 0 && (... && std::is_constructible_v<Types, ArgTypes&&>))
+		TTuple(ArgTypes&&... Args)
 		: Storage(0, ::Forward<ArgTypes>(Args)...)
 	{
 	}
@@ -151,17 +151,16 @@ public:
 	}
 
 	template<typename ArgKeyType = InKeyType, typename ArgValueType = InValueType>
-		requires(std::is_constructible_v<InKeyType, ArgKeyType &&> && std::is_constructible_v<InValueType, ArgValueType &&>)
-	TTuple(ArgKeyType&& InKey, ArgValueType&& InValue)
+	requires(std::is_constructible_v<InKeyType, ArgKeyType&&>&& std::is_constructible_v<InValueType, ArgValueType&&>)
+		TTuple(ArgKeyType&& InKey, ArgValueType&& InValue)
 		: Key(::Forward<ArgKeyType>(InKey))
 		, Value(::Forward<ArgValueType>(InValue))
 	{
 	}
 
 	template<typename OtherKeyType, typename OtherValueType>
-		requires(!(std::is_same_v<OtherKeyType, InKeyType> && std::is_same_v<OtherValueType, InValueType>)
-			&& std::is_constructible_v<InKeyType, const OtherKeyType&> && std::is_constructible_v<InValueType, const OtherValueType&>)
-	TTuple(const TTuple<OtherKeyType, OtherValueType>& Other)
+	requires(!(std::is_same_v<OtherKeyType, InKeyType> && std::is_same_v<OtherValueType, InValueType>)&&std::is_constructible_v<InKeyType, const OtherKeyType&> && std::is_constructible_v<InValueType, const OtherValueType&>)
+		TTuple(const TTuple<OtherKeyType, OtherValueType>& Other)
 		: Key(Other.Key)
 		, Value(Other.Value)
 	{

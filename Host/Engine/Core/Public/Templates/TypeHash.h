@@ -38,15 +38,15 @@ namespace UE::Core::Private
 }
 
 template<typename T>
-	requires(std::is_integral_v<T> || std::is_enum_v<T>)
-[[nodiscard]] constexpr uint32 GetTypeHash(T Value)
+requires(std::is_integral_v<T> || std::is_enum_v<T>)
+	[[nodiscard]] constexpr uint32 GetTypeHash(T Value)
 {
 	return UE::Core::Private::HashInteger(static_cast<uint64>(Value));
 }
 
 template<typename T>
-	requires(std::is_floating_point_v<T>)
-[[nodiscard]] uint32 GetTypeHash(T Value)
+requires(std::is_floating_point_v<T>)
+	[[nodiscard]] uint32 GetTypeHash(T Value)
 {
 	const double Wide = Value == T(0) ? 0.0 : static_cast<double>(Value); // both zeros are equal, so they hash alike
 	uint64 Bits = 0;
@@ -55,8 +55,8 @@ template<typename T>
 }
 
 template<typename T>
-	requires(std::is_pointer_v<T>)
-[[nodiscard]] uint32 GetTypeHash(T Value)
+requires(std::is_pointer_v<T>)
+	[[nodiscard]] uint32 GetTypeHash(T Value)
 {
 	return PointerHash(reinterpret_cast<const void*>(Value));
 }

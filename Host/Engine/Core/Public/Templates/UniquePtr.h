@@ -11,8 +11,8 @@ struct TDefaultDelete
 	TDefaultDelete() = default;
 
 	template<typename OtherType>
-		requires(std::is_convertible_v<OtherType*, T*>)
-	TDefaultDelete(const TDefaultDelete<OtherType>&)
+	requires(std::is_convertible_v<OtherType*, T*>)
+		TDefaultDelete(const TDefaultDelete<OtherType>&)
 	{
 	}
 
@@ -54,8 +54,8 @@ public:
 	}
 
 	template<typename OtherT, typename OtherDeleter>
-		requires(std::is_convertible_v<OtherT*, T*>)
-	TUniquePtr(TUniquePtr<OtherT, OtherDeleter>&& Other)
+	requires(std::is_convertible_v<OtherT*, T*>)
+		TUniquePtr(TUniquePtr<OtherT, OtherDeleter>&& Other)
 		: Deleter(MoveTemp(Other.GetDeleter()))
 		, Ptr(Other.Release())
 	{
@@ -77,8 +77,9 @@ public:
 	}
 
 	template<typename OtherT, typename OtherDeleter>
-		requires(std::is_convertible_v<OtherT*, T*>)
-	TUniquePtr& operator=(TUniquePtr<OtherT, OtherDeleter>&& Other)
+	requires(std::is_convertible_v<OtherT*, T*>)
+		TUniquePtr&
+		operator=(TUniquePtr<OtherT, OtherDeleter>&& Other)
 	{
 		Reset(Other.Release());
 		GetDeleter() = MoveTemp(Other.GetDeleter());

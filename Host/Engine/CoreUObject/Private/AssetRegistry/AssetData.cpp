@@ -25,12 +25,17 @@ namespace AssetDataPaths
 }
 
 FAssetData::FAssetData(FName InPackageName, FName InPackagePath, FName InAssetName, FTopLevelAssetPath InAssetClassPathName)
-	: PackageName(InPackageName), PackagePath(InPackagePath), AssetName(InAssetName), AssetClassPath(InAssetClassPathName)
+	: PackageName(InPackageName)
+	, PackagePath(InPackagePath)
+	, AssetName(InAssetName)
+	, AssetClassPath(InAssetClassPathName)
 {
 }
 
 FAssetData::FAssetData(const FString& InLongPackageName, const FString& InObjectPath, FTopLevelAssetPath InAssetClassPathName)
-	: PackageName(*InLongPackageName), PackagePath(AssetDataPaths::FolderOf(InLongPackageName)), AssetClassPath(InAssetClassPathName)
+	: PackageName(*InLongPackageName)
+	, PackagePath(AssetDataPaths::FolderOf(InLongPackageName))
+	, AssetClassPath(InAssetClassPathName)
 {
 	FString ObjectName = InObjectPath;
 	InObjectPath.Split(TEXT("."), nullptr, &ObjectName, ESearchCase::CaseSensitive, ESearchDir::FromEnd);

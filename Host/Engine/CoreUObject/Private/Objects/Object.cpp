@@ -89,8 +89,7 @@ bool UObject::IsTemplate(EObjectFlags TemplateTypes) const
 
 bool UObject::IsAsset() const
 {
-	return HasAnyFlags(RF_Public) && !HasAnyFlags(RF_Transient | RF_ClassDefaultObject) && IsValid(this)
-		&& OuterPrivate && OuterPrivate->GetClass() == UPackage::StaticClass() && OuterPrivate != ::GetTransientPackage();
+	return HasAnyFlags(RF_Public) && !HasAnyFlags(RF_Transient | RF_ClassDefaultObject) && IsValid(this) && OuterPrivate && OuterPrivate->GetClass() == UPackage::StaticClass() && OuterPrivate != ::GetTransientPackage();
 }
 
 UObject* UObject::GetArchetype() const

@@ -78,8 +78,7 @@ namespace ObjectConfig
 			return;
 		}
 		FString Value;
-		if (GConfig->GetString(*Section, *Property->GetName(), Value, File)
-			&& !Property->ImportText_InContainer(*Value, Object, Object, PPF_None))
+		if (GConfig->GetString(*Section, *Property->GetName(), Value, File) && !Property->ImportText_InContainer(*Value, Object, Object, PPF_None))
 		{
 			ReportUnreadable(Property, Section, Value);
 		}
@@ -116,20 +115,20 @@ namespace ObjectConfig
 			}
 			switch (bOperation ? Operation : TEXT(' '))
 			{
-			case TEXT('+'):
-				Values.AddUnique(Value);
-				break;
-			case TEXT('.'):
-				Values.Add(Value);
-				break;
-			case TEXT('-'):
-				Values.Remove(Value);
-				break;
-			case TEXT('!'):
-				Values.Reset();
-				break;
-			default:
-				Values.Add(Value);
+				case TEXT('+'):
+					Values.AddUnique(Value);
+					break;
+				case TEXT('.'):
+					Values.Add(Value);
+					break;
+				case TEXT('-'):
+					Values.Remove(Value);
+					break;
+				case TEXT('!'):
+					Values.Reset();
+					break;
+				default:
+					Values.Add(Value);
 			}
 		}
 	}
@@ -205,8 +204,8 @@ namespace ObjectConfig
 	{
 		const UObject* Object;
 		ELayer Layer;
-		FString SpecificFile;       // empty: the file of the layer
-		uint64 RequiredFlags;       // of the properties
+		FString SpecificFile; // empty: the file of the layer
+		uint64 RequiredFlags; // of the properties
 		const FProperty* OnlyProperty; // null: all
 	};
 
@@ -220,8 +219,7 @@ namespace ObjectConfig
 		TArray<FString> OwnedKeys;
 		for (const FProperty* Property : Class->GetAllProperties())
 		{
-			const bool bWanted = IsConfig(Property) && Property->HasAnyPropertyFlags(Request.RequiredFlags)
-				&& GetSectionClass(Property, Class) == SectionClass && (!Request.OnlyProperty || Property == Request.OnlyProperty);
+			const bool bWanted = IsConfig(Property) && Property->HasAnyPropertyFlags(Request.RequiredFlags) && GetSectionClass(Property, Class) == SectionClass && (!Request.OnlyProperty || Property == Request.OnlyProperty);
 			if (!bWanted)
 			{
 				continue;

@@ -44,8 +44,7 @@ void GetObjectsOfClass(const UClass* ClassToLookFor, TArray<UObject*>& Results, 
 	for (int32 Index = 0; Index < Table.NumSlots(); ++Index)
 	{
 		const FObjectItem& Item = Table.GetItem(Index);
-		if (Item.Object && !Item.bGarbage && !Item.bUnreachable && (Item.Object->GetFlags() & ExclusionFlags) == 0
-			&& (Item.Object->GetClass() == ClassToLookFor || (bIncludeDerivedClasses && Item.Object->IsA(ClassToLookFor))))
+		if (Item.Object && !Item.bGarbage && !Item.bUnreachable && (Item.Object->GetFlags() & ExclusionFlags) == 0 && (Item.Object->GetClass() == ClassToLookFor || (bIncludeDerivedClasses && Item.Object->IsA(ClassToLookFor))))
 		{
 			Results.Add(Item.Object);
 		}
@@ -68,7 +67,8 @@ void ForEachObjectWithOuter(const UObject* Outer, TFunctionRef<void(UObject*)> O
 
 void GetObjectsWithOuter(const UObject* Outer, TArray<UObject*>& Results, bool bIncludeNestedObjects, EObjectFlags ExclusionFlags)
 {
-	ForEachObjectWithOuter(Outer, [&Results](UObject* Object) { Results.Add(Object); }, bIncludeNestedObjects, ExclusionFlags);
+	ForEachObjectWithOuter(
+		Outer, [&Results](UObject* Object) { Results.Add(Object); }, bIncludeNestedObjects, ExclusionFlags);
 }
 
 void GetObjectsWithPackage(const UPackage* Package, TArray<UObject*>& Results, bool bIncludeNestedObjects, EObjectFlags ExclusionFlags)

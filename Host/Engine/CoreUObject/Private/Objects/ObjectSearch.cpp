@@ -102,9 +102,7 @@ UObject* StaticFindFirstObject(UClass* Class, const TCHAR* Name, EFindFirstObjec
 	for (int32 Index = 0; Index < Table.NumSlots(); ++Index)
 	{
 		const FObjectItem& Item = Table.GetItem(Index);
-		if (Item.Object && !Item.bUnreachable && Item.Object->GetFName() == Wanted
-			&& (!Class || Item.Object->GetClass() == Class || (!bExact && Item.Object->IsA(Class)))
-			&& (!First || Item.SerialNumber < First->SerialNumber))
+		if (Item.Object && !Item.bUnreachable && Item.Object->GetFName() == Wanted && (!Class || Item.Object->GetClass() == Class || (!bExact && Item.Object->IsA(Class))) && (!First || Item.SerialNumber < First->SerialNumber))
 		{
 			First = &Item;
 		}

@@ -132,8 +132,7 @@ UObject* FObjectTable::Find(const UClass* Class, const UObject* Outer, FName Nam
 	for (int32 Index = Buckets[BucketOf(Outer, Name)]; Index != INDEX_NONE; Index = Items[Index].HashNext)
 	{
 		UObject* Object = Items[Index].Object;
-		if (Object->GetFName() == Name && Object->GetOuter() == Outer && !Items[Index].bUnreachable
-			&& (!Class || Object->GetClass() == Class || (!bExactClass && Object->IsA(Class))))
+		if (Object->GetFName() == Name && Object->GetOuter() == Outer && !Items[Index].bUnreachable && (!Class || Object->GetClass() == Class || (!bExactClass && Object->IsA(Class))))
 		{
 			return Object;
 		}

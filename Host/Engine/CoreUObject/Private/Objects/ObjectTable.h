@@ -25,9 +25,9 @@ struct FNextNumber
 struct FObjectItem
 {
 	UObject* Object = nullptr; // null: free
-	int32 SerialNumber = 0;    // order of creation over the whole process
-	int32 StrongCount = 0;     // of TStrongObjectPtr
-	uint32 Mark = 0;           // the last collection that reached it
+	int32 SerialNumber = 0; // order of creation over the whole process
+	int32 StrongCount = 0; // of TStrongObjectPtr
+	uint32 Mark = 0; // the last collection that reached it
 	int32 HashNext = INDEX_NONE;
 	int32 FirstInner = INDEX_NONE; // ring of objects with this outer, oldest first
 	int32 NextInner = INDEX_NONE;

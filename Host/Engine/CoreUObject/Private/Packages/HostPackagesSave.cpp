@@ -61,7 +61,7 @@ namespace HostPackages
 		if (Format == nullptr)
 		{
 			return PackageJson::Print(PackageWriter::Write(Asset), OutText) ||
-				   Refuse(Package->GetName(), TEXT("a text in it is not valid Unicode"), TEXT("Enter the text again."));
+				Refuse(Package->GetName(), TEXT("a text in it is not valid Unicode"), TEXT("Enter the text again."));
 		}
 		const TOptional<FString> Json = Format->Writer ? Format->Writer(Asset) : TOptional<FString>();
 		if (!Json.IsSet())

@@ -18,11 +18,13 @@ class FJsonPlace
 public:
 	FJsonPlace() = default;
 	FJsonPlace(const FJsonPlace& InParent, const std::string& InKey)
-		: Parent(&InParent), Key(&InKey)
+		: Parent(&InParent)
+		, Key(&InKey)
 	{
 	}
 	FJsonPlace(const FJsonPlace& InParent, size_t InIndex)
-		: Parent(&InParent), Index(InIndex)
+		: Parent(&InParent)
+		, Index(InIndex)
 	{
 	}
 
@@ -38,7 +40,7 @@ private:
 /** What is wrong with a document. */
 struct FJsonProblem
 {
-	int32 Line = 0;  // one-based; 0 when the place says more
+	int32 Line = 0; // one-based; 0 when the place says more
 	FString Pointer; // JSON pointer
 	FString Message; // a sentence without its full stop
 	FString Remedy;

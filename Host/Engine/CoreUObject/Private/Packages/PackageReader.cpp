@@ -18,7 +18,7 @@ namespace PackageReader
 	bool IsObjectName(const FString& Name)
 	{
 		return !Name.IsEmpty() && Name.Len() < 1024 && !Name.Contains(TEXT(".")) && !Name.Contains(TEXT(":")) && !Name.Contains(TEXT("/")) &&
-			   Name != TEXT("None");
+			Name != TEXT("None");
 	}
 
 	FString Join(const FString& Outer, const FString& Name)
@@ -216,8 +216,7 @@ bool FPackageReader::MakeObjects(UPackage* Package)
 		UObject* Existing = StaticFindObjectFast(nullptr, Outer, Entry.Name);
 		if (IsValid(Existing) && Existing->GetClass() != Entry.Class)
 		{
-			return RefuseEntry(Entry, FString::Printf(TEXT("its owner makes \"%s\" itself, of class \"%s\""), *Entry.Name.ToString(),
-				*Existing->GetClass()->GetPathName()), TEXT("Correct the class, or rename the object."));
+			return RefuseEntry(Entry, FString::Printf(TEXT("its owner makes \"%s\" itself, of class \"%s\""), *Entry.Name.ToString(), *Existing->GetClass()->GetPathName()), TEXT("Correct the class, or rename the object."));
 		}
 		Entry.bCreated = !IsValid(Existing);
 		Entry.Object = Entry.bCreated ? NewObject<UObject>(Outer, Entry.Class, Entry.Name, Entry.Flags) : Existing;

@@ -20,7 +20,8 @@ class FPackageReader
 public:
 	/** PackageName as the file has it. Document must outlive the reader. */
 	FPackageReader(const FString& InPackageName, const FJson& InDocument)
-		: PackageName(InPackageName), Document(InDocument)
+		: PackageName(InPackageName)
+		, Document(InDocument)
 	{
 	}
 

@@ -50,7 +50,7 @@ public:
 private:
 	struct FMount
 	{
-		FString Root;      // "/Game/"
+		FString Root; // "/Game/"
 		FString Directory; // with trailing slash
 	};
 

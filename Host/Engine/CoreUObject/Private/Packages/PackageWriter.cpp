@@ -84,7 +84,8 @@ namespace PackageWriter
 	{
 	public:
 		explicit FEntries(UObject* MainAsset)
-			: Package(MainAsset->GetPackage()), Writer([this](UObject* Object) { Add(Object); })
+			: Package(MainAsset->GetPackage())
+			, Writer([this](UObject* Object) { Add(Object); })
 		{
 			Add(MainAsset);
 		}
@@ -165,7 +166,7 @@ namespace PackageWriter
 		FPropertyWriter Writer;
 		TSet<const UObject*> Known;
 		std::vector<UObject*> Objects; // grows while it is walked
-		std::vector<FJson> Entries;    // one per object; null once dropped
+		std::vector<FJson> Entries; // one per object; null once dropped
 	};
 }
 

@@ -22,7 +22,7 @@ namespace PropertyReader
 	{
 		const int32 Bits = Property->GetElementSize() * 8;
 		const bool bUnsigned = Property->IsA<FByteProperty>() || Property->IsA<FUInt16Property>() || Property->IsA<FUInt32Property>() ||
-							   Property->IsA<FUInt64Property>();
+			Property->IsA<FUInt64Property>();
 		if (bUnsigned)
 		{
 			return {0, Bits == 64 ? std::numeric_limits<uint64>::max() : (uint64(1) << Bits) - 1};

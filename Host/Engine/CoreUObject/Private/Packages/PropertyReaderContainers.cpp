@@ -15,8 +15,9 @@ namespace PropertyReaderContainers
 	{
 	public:
 		explicit FScratch(const FProperty* InProperty)
-			: Property(InProperty), Alignment{static_cast<size_t>(FMath::Max(InProperty->GetMinAlignment(), 1))},
-			  Memory(::operator new(static_cast<size_t>(FMath::Max(InProperty->GetSize(), 1)), Alignment))
+			: Property(InProperty)
+			, Alignment{static_cast<size_t>(FMath::Max(InProperty->GetMinAlignment(), 1))}
+			, Memory(::operator new(static_cast<size_t>(FMath::Max(InProperty->GetSize(), 1)), Alignment))
 		{
 			Property->InitializeValue(Memory);
 		}

@@ -63,8 +63,7 @@ UObject* FPropertyReader::Resolve(const FString& Path, const UClass* WantedClass
 	{
 		return Object;
 	}
-	NoteUnresolved(Place, IsValid(Object) ? FString::Printf(TEXT("\"%s\" is no %s"), *Path, *WantedClass->GetName())
-										  : FString::Printf(TEXT("\"%s\" does not exist or could not be loaded"), *Path));
+	NoteUnresolved(Place, IsValid(Object) ? FString::Printf(TEXT("\"%s\" is no %s"), *Path, *WantedClass->GetName()) : FString::Printf(TEXT("\"%s\" does not exist or could not be loaded"), *Path));
 	return nullptr;
 }
 

@@ -75,9 +75,11 @@ FScriptMapHelper::FScriptMapHelper(const FMapProperty* InProperty, const void* I
 void FScriptMapHelper::Refresh()
 {
 	Pairs.Reset();
-	Property->GetOps().ForEach(Map, [](void* Context, const void* Key, void* Value) {
-		static_cast<TArray<FPair>*>(Context)->Add(FPair{static_cast<uint8*>(const_cast<void*>(Key)), static_cast<uint8*>(Value)});
-	}, &Pairs);
+	Property->GetOps().ForEach(
+		Map, [](void* Context, const void* Key, void* Value) {
+			static_cast<TArray<FPair>*>(Context)->Add(FPair{static_cast<uint8*>(const_cast<void*>(Key)), static_cast<uint8*>(Value)});
+		},
+		&Pairs);
 }
 
 void FScriptMapHelper::AddPair(const void* KeyPtr, const void* ValuePtr)
@@ -108,9 +110,11 @@ FScriptSetHelper::FScriptSetHelper(const FSetProperty* InProperty, const void* I
 void FScriptSetHelper::Refresh()
 {
 	Elements.Reset();
-	Property->GetOps().ForEach(Set, [](void* Context, const void* Element, void*) {
-		static_cast<TArray<uint8*>*>(Context)->Add(static_cast<uint8*>(const_cast<void*>(Element)));
-	}, &Elements);
+	Property->GetOps().ForEach(
+		Set, [](void* Context, const void* Element, void*) {
+			static_cast<TArray<uint8*>*>(Context)->Add(static_cast<uint8*>(const_cast<void*>(Element)));
+		},
+		&Elements);
 }
 
 void FScriptSetHelper::AddElement(const void* ElementPtr)
@@ -354,7 +358,7 @@ const TCHAR* FMapProperty::ImportText_Internal(const TCHAR* Buffer, void* Value,
 		const TCHAR* Rest = *Text != TEXT('(') ? nullptr : ContainerProperties::ImportList(Text, [&](const TCHAR* Piece) -> const TCHAR* {
 			++Part;
 			return Part == 1 ? KeyProp->ImportText_Direct(Piece, Key.Get(), OwnerObject, PortFlags | PPF_Delimited, ErrorText)
-				: Part == 2  ? ValueProp->ImportText_Direct(Piece, Mapped.Get(), OwnerObject, PortFlags | PPF_Delimited, ErrorText)
+				: Part == 2	 ? ValueProp->ImportText_Direct(Piece, Mapped.Get(), OwnerObject, PortFlags | PPF_Delimited, ErrorText)
 							 : nullptr;
 		});
 		if (!Rest || Part != 2)

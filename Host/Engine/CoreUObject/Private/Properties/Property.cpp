@@ -242,9 +242,7 @@ bool FTextProperty::Identical(const void* A, const void* B, uint32) const
 	const auto Same = [](const TOptional<FString>& X, const TOptional<FString>& Y) {
 		return X.IsSet() == Y.IsSet() && (!X.IsSet() || X.GetValue().Equals(Y.GetValue()));
 	};
-	return Left.ToString().Equals(Right.ToString()) && Left.IsCultureInvariant() == Right.IsCultureInvariant()
-		&& Same(FTextInspector::GetNamespace(Left), FTextInspector::GetNamespace(Right))
-		&& Same(FTextInspector::GetKey(Left), FTextInspector::GetKey(Right));
+	return Left.ToString().Equals(Right.ToString()) && Left.IsCultureInvariant() == Right.IsCultureInvariant() && Same(FTextInspector::GetNamespace(Left), FTextInspector::GetNamespace(Right)) && Same(FTextInspector::GetKey(Left), FTextInspector::GetKey(Right));
 }
 
 void FTextProperty::ExportText_Internal(FString& ValueStr, const void* Value, const void*, UObject*, int32 PortFlags, UObject*) const

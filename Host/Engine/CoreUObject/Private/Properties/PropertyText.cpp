@@ -19,26 +19,26 @@ namespace PropertyText
 		{
 			switch (Character)
 			{
-			case TEXT('"'):
-				Out += TEXT("\\\"");
-				break;
-			case TEXT('\\'):
-				Out += TEXT("\\\\");
-				break;
-			case TEXT('\''):
-				Out += TEXT("\\'");
-				break;
-			case TEXT('\n'):
-				Out += TEXT("\\n");
-				break;
-			case TEXT('\r'):
-				Out += TEXT("\\r");
-				break;
-			case TEXT('\t'):
-				Out += TEXT("\\t");
-				break;
-			default:
-				Out += Character;
+				case TEXT('"'):
+					Out += TEXT("\\\"");
+					break;
+				case TEXT('\\'):
+					Out += TEXT("\\\\");
+					break;
+				case TEXT('\''):
+					Out += TEXT("\\'");
+					break;
+				case TEXT('\n'):
+					Out += TEXT("\\n");
+					break;
+				case TEXT('\r'):
+					Out += TEXT("\\r");
+					break;
+				case TEXT('\t'):
+					Out += TEXT("\\t");
+					break;
+				default:
+					Out += Character;
 			}
 		}
 		Out += TEXT('"');
@@ -59,7 +59,9 @@ namespace PropertyText
 				continue;
 			}
 			++Buffer;
-			OutText += *Buffer == TEXT('n') ? TEXT('\n') : *Buffer == TEXT('r') ? TEXT('\r') : *Buffer == TEXT('t') ? TEXT('\t') : *Buffer;
+			OutText += *Buffer == TEXT('n') ? TEXT('\n') : *Buffer == TEXT('r') ? TEXT('\r')
+				: *Buffer == TEXT('t')											? TEXT('\t')
+																				: *Buffer;
 		}
 		return nullptr;
 	}

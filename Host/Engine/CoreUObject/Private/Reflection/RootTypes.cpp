@@ -38,7 +38,8 @@ namespace UE::Reflection
 
 #define HOST_ROOT_CLASS(TClass, Flags) \
 	static FClassRecord G##TClass##Record = RootTypes::MakeRecord<TClass>(#TClass, Flags); \
-	template<> UClass* ClassOf<TClass>() \
+	template<> \
+	UClass* ClassOf<TClass>() \
 	{ \
 		return GetClass(G##TClass##Record); \
 	}
@@ -61,12 +62,39 @@ namespace UE::Reflection
 	}
 }
 
-UClass* UObject::StaticClass() { return UE::Reflection::ClassOf<UObject>(); }
-UClass* UField::StaticClass() { return UE::Reflection::ClassOf<UField>(); }
-UClass* UStruct::StaticClass() { return UE::Reflection::ClassOf<UStruct>(); }
-UClass* UScriptStruct::StaticClass() { return UE::Reflection::ClassOf<UScriptStruct>(); }
-UClass* UClass::StaticClass() { return UE::Reflection::ClassOf<UClass>(); }
-UClass* UEnum::StaticClass() { return UE::Reflection::ClassOf<UEnum>(); }
-UClass* UFunction::StaticClass() { return UE::Reflection::ClassOf<UFunction>(); }
-UClass* UPackage::StaticClass() { return UE::Reflection::ClassOf<UPackage>(); }
-UClass* UInterface::StaticClass() { return UE::Reflection::ClassOf<UInterface>(); }
+UClass* UObject::StaticClass()
+{
+	return UE::Reflection::ClassOf<UObject>();
+}
+UClass* UField::StaticClass()
+{
+	return UE::Reflection::ClassOf<UField>();
+}
+UClass* UStruct::StaticClass()
+{
+	return UE::Reflection::ClassOf<UStruct>();
+}
+UClass* UScriptStruct::StaticClass()
+{
+	return UE::Reflection::ClassOf<UScriptStruct>();
+}
+UClass* UClass::StaticClass()
+{
+	return UE::Reflection::ClassOf<UClass>();
+}
+UClass* UEnum::StaticClass()
+{
+	return UE::Reflection::ClassOf<UEnum>();
+}
+UClass* UFunction::StaticClass()
+{
+	return UE::Reflection::ClassOf<UFunction>();
+}
+UClass* UPackage::StaticClass()
+{
+	return UE::Reflection::ClassOf<UPackage>();
+}
+UClass* UInterface::StaticClass()
+{
+	return UE::Reflection::ClassOf<UInterface>();
+}

@@ -20,7 +20,7 @@ struct FARFilter
 	/** With bRecursiveClasses: these classes are left out, with all below them. */
 	TSet<FTopLevelAssetPath> RecursiveClassPathsExclusionSet;
 
-	bool bRecursivePaths = false;   // folders below PackagePaths count too
+	bool bRecursivePaths = false; // folders below PackagePaths count too
 	bool bRecursiveClasses = false; // classes below ClassPaths count too
 	bool bIncludeOnlyOnDiskAssets = false;
 

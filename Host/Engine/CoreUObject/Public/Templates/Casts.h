@@ -22,7 +22,11 @@ namespace ECastCheckedType
 namespace UE::CoreUObject::Private
 {
 	template<typename T>
-	concept CInterface = requires { typename T::UClassType; } && !std::is_base_of_v<UObject, T>;
+	concept CInterface = requires
+	{
+		typename T::UClassType;
+	}
+	&&!std::is_base_of_v<UObject, T>;
 
 	template<typename From>
 	UObject* ToObject(From* Src)

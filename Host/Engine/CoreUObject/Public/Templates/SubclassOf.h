@@ -19,14 +19,14 @@ public:
 	{
 	}
 	template<typename U>
-		requires std::is_convertible_v<U*, UClass*>
+	requires std::is_convertible_v<U*, UClass*>
 	TSubclassOf(const TObjectPtr<U>& From)
 		: Class(From.Get())
 	{
 	}
 	template<typename U>
-		requires(!std::is_same_v<T, U> && std::is_base_of_v<T, U>)
-	TSubclassOf(const TSubclassOf<U>& Other)
+	requires(!std::is_same_v<T, U> && std::is_base_of_v<T, U>)
+		TSubclassOf(const TSubclassOf<U>& Other)
 		: Class(Other.Get())
 	{
 	}

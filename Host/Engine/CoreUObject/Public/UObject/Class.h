@@ -185,9 +185,9 @@ public:
 
 	enum class ECppForm
 	{
-		Regular,    // enum E { A }
+		Regular, // enum E { A }
 		Namespaced, // namespace E { enum Type { A } }
-		EnumClass   // enum class E { A }
+		EnumClass // enum class E { A }
 	};
 
 	/** As written in C++: "EFoo" or "EFoo::Type". */
@@ -282,8 +282,8 @@ public:
 	explicit UClass(const FObjectInitializer& ObjectInitializer = FObjectInitializer::Get());
 
 	EClassFlags ClassFlags = CLASS_None;
-	FName ClassConfigName;                   // "Engine", "Game", …; None without config
-	UObject* ClassGeneratedBy = nullptr;     // the asset that a run-time class was made from
+	FName ClassConfigName; // "Engine", "Game", …; None without config
+	UObject* ClassGeneratedBy = nullptr; // the asset that a run-time class was made from
 	TArray<FImplementedInterface> Interfaces; // own ones, not the super classes'
 
 	UClass* GetSuperClass() const { return static_cast<UClass*>(SuperStruct); }

@@ -94,7 +94,7 @@ public:
 
 private:
 	FName Name;
-	uint64 Id;        // this class's own bit
+	uint64 Id; // this class's own bit
 	uint64 CastFlags; // its bit and those of its bases
 };
 

@@ -65,7 +65,7 @@ namespace UE::Reflection
 		const char* Name;
 		const char* Package;
 		const char* ConfigName; // null or empty: no config class of its own
-		uint32 Flags;           // EClassFlags
+		uint32 Flags; // EClassFlags
 		uint32 Size;
 		uint32 Align;
 		UClass* (*Super)();
@@ -149,15 +149,24 @@ namespace UE::Reflection
 	template<typename T>
 	UClass* ClassOf();
 
-	template<> UClass* ClassOf<UObject>();
-	template<> UClass* ClassOf<UField>();
-	template<> UClass* ClassOf<UStruct>();
-	template<> UClass* ClassOf<UScriptStruct>();
-	template<> UClass* ClassOf<UClass>();
-	template<> UClass* ClassOf<UEnum>();
-	template<> UClass* ClassOf<UFunction>();
-	template<> UClass* ClassOf<UPackage>();
-	template<> UClass* ClassOf<UInterface>();
+	template<>
+	UClass* ClassOf<UObject>();
+	template<>
+	UClass* ClassOf<UField>();
+	template<>
+	UClass* ClassOf<UStruct>();
+	template<>
+	UClass* ClassOf<UScriptStruct>();
+	template<>
+	UClass* ClassOf<UClass>();
+	template<>
+	UClass* ClassOf<UEnum>();
+	template<>
+	UClass* ClassOf<UFunction>();
+	template<>
+	UClass* ClassOf<UPackage>();
+	template<>
+	UClass* ClassOf<UInterface>();
 
 	/**
 	 * Static objects of generated code. They only link the record into a list while the program loads;

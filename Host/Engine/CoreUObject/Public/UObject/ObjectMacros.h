@@ -11,19 +11,19 @@
 enum EObjectFlags : uint32
 {
 	RF_NoFlags = 0x00000000,
-	RF_Public = 0x00000001,             // visible outside its package
-	RF_Standalone = 0x00000002,         // kept for editing even when nothing refers to it
-	RF_MarkAsNative = 0x00000004,       // lives as long as the process
-	RF_Transactional = 0x00000008,      // takes part in undo
+	RF_Public = 0x00000001, // visible outside its package
+	RF_Standalone = 0x00000002, // kept for editing even when nothing refers to it
+	RF_MarkAsNative = 0x00000004, // lives as long as the process
+	RF_Transactional = 0x00000008, // takes part in undo
 	RF_ClassDefaultObject = 0x00000010, // the template of its class
-	RF_ArchetypeObject = 0x00000020,    // a template for other objects
-	RF_Transient = 0x00000040,          // never saved
+	RF_ArchetypeObject = 0x00000020, // a template for other objects
+	RF_Transient = 0x00000040, // never saved
 	RF_NeedInitialization = 0x00000200, // its constructor has not finished
 	RF_NeedLoad = 0x00000400,
 	RF_NeedPostLoad = 0x00001000,
 	RF_BeginDestroyed = 0x00008000,
 	RF_FinishDestroyed = 0x00010000,
-	RF_DefaultSubObject = 0x00040000,   // made by its owner's constructor
+	RF_DefaultSubObject = 0x00040000, // made by its owner's constructor
 	RF_WasLoaded = 0x00080000,
 	RF_TextExportTransient = 0x00100000,
 	RF_LoadCompleted = 0x00200000,
@@ -188,7 +188,10 @@ public: \
 	using Super = TSuper; \
 	using ThisClass = TClass; \
 	static UClass* StaticClass(); \
-	static const TCHAR* StaticPackage() { return TEXT("/Script/CoreUObject"); } \
+	static const TCHAR* StaticPackage() \
+	{ \
+		return TEXT("/Script/CoreUObject"); \
+	} \
 	static constexpr const char* ReflectedFunctionNames[] = {nullptr}; \
 	TClass(const TClass&) = delete; \
 	TClass& operator=(const TClass&) = delete; \

@@ -23,8 +23,8 @@ struct TObjectPtr
 	{
 	}
 	template<typename U>
-		requires(!std::is_same_v<T, U> && std::is_convertible_v<U*, T*>)
-	TObjectPtr(const TObjectPtr<U>& Other)
+	requires(!std::is_same_v<T, U> && std::is_convertible_v<U*, T*>)
+		TObjectPtr(const TObjectPtr<U>& Other)
 		: Object(ToObject(Other.Get()))
 	{
 	}
@@ -36,8 +36,9 @@ struct TObjectPtr
 		return *this;
 	}
 	template<typename U>
-		requires(!std::is_same_v<T, U> && std::is_convertible_v<U*, T*>)
-	TObjectPtr& operator=(const TObjectPtr<U>& Other)
+	requires(!std::is_same_v<T, U> && std::is_convertible_v<U*, T*>)
+		TObjectPtr&
+		operator=(const TObjectPtr<U>& Other)
 	{
 		return *this = static_cast<T*>(Other.Get());
 	}

@@ -17,7 +17,10 @@ class FReferenceCollector;
 public: \
 	using Super = TSuperClass; \
 	static FFieldClass* StaticClass(); \
-	FFieldClass* GetClass() const override { return StaticClass(); }
+	FFieldClass* GetClass() const override \
+	{ \
+		return StaticClass(); \
+	}
 
 /**
  * A reflected member of a struct or class, a parameter of a function, or the element of a container.

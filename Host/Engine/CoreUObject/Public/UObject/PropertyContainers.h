@@ -98,7 +98,7 @@ class FMapProperty : public FProperty
 	DECLARE_FIELD(FMapProperty, FProperty)
 
 public:
-	FProperty* KeyProp;   // owned
+	FProperty* KeyProp; // owned
 	FProperty* ValueProp; // owned
 
 	FMapProperty(FProperty* InKeyProp, FProperty* InValueProp, const UE::Reflection::FKeyedOps& InOps)

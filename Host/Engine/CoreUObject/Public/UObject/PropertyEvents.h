@@ -35,7 +35,7 @@ struct FPropertyChangedEvent
 	FName GetPropertyName() const { return Property ? Property->GetFName() : FName(); }
 	FName GetMemberPropertyName() const { return MemberProperty ? MemberProperty->GetFName() : FName(); }
 
-	FProperty* Property;       // what changed
+	FProperty* Property; // what changed
 	FProperty* MemberProperty; // the member of the object in which it lies
 	EPropertyChangeType::Type ChangeType;
 	int32 ObjectIteratorIndex = INDEX_NONE;

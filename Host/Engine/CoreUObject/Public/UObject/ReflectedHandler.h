@@ -48,7 +48,9 @@ namespace UE::Reflection
 	}
 
 	/** Not a constant expression: calling it is what makes the compiler stop, with its name in the message. */
-	inline void TheHandlerOfADynamicDelegateMustBeAUFunction() {}
+	inline void TheHandlerOfADynamicDelegateMustBeAUFunction()
+	{
+	}
 
 	/** The name after the last "::" of the source text of a method pointer. */
 	template<typename TMethod>

@@ -46,7 +46,7 @@ public:
 	TScriptInterface() = default;
 	TScriptInterface(std::nullptr_t) {}
 	template<typename U>
-		requires std::is_base_of_v<UObject, U>
+	requires std::is_base_of_v<UObject, U>
 	TScriptInterface(U* Source)
 		: FScriptInterface(Source, Cast<InterfaceType>(Source))
 	{

@@ -56,20 +56,20 @@ struct TSoftObjectPtr
 	TSoftObjectPtr() = default;
 	TSoftObjectPtr(std::nullptr_t) {}
 	template<class U>
-		requires std::is_convertible_v<U*, T*>
+	requires std::is_convertible_v<U*, T*>
 	TSoftObjectPtr(U* Object)
 		: SoftObjectPtr(static_cast<const UObject*>(Object))
 	{
 	}
 	template<class U>
-		requires std::is_convertible_v<U*, T*>
+	requires std::is_convertible_v<U*, T*>
 	TSoftObjectPtr(const TObjectPtr<U>& Object)
 		: TSoftObjectPtr(Object.Get())
 	{
 	}
 	template<class U>
-		requires(!std::is_same_v<T, U> && std::is_convertible_v<U*, T*>)
-	TSoftObjectPtr(const TSoftObjectPtr<U>& Other)
+	requires(!std::is_same_v<T, U> && std::is_convertible_v<U*, T*>)
+		TSoftObjectPtr(const TSoftObjectPtr<U>& Other)
 		: SoftObjectPtr(Other.ToSoftObjectPath())
 	{
 	}
@@ -84,8 +84,8 @@ struct TSoftObjectPtr
 	}
 	TSoftObjectPtr& operator=(T* Object) { return *this = TSoftObjectPtr(Object); }
 	template<class U>
-		requires std::is_convertible_v<U*, T*>
-	TSoftObjectPtr& operator=(const TObjectPtr<U>& Object)
+	requires std::is_convertible_v<U*, T*>
+		TSoftObjectPtr& operator=(const TObjectPtr<U>& Object)
 	{
 		return *this = TSoftObjectPtr(Object.Get());
 	}
@@ -127,8 +127,8 @@ public:
 	{
 	}
 	template<class U>
-		requires(!std::is_same_v<T, U> && std::is_convertible_v<U*, T*>)
-	TSoftClassPtr(const TSoftClassPtr<U>& Other)
+	requires(!std::is_same_v<T, U> && std::is_convertible_v<U*, T*>)
+		TSoftClassPtr(const TSoftClassPtr<U>& Other)
 		: SoftObjectPtr(Other.ToSoftObjectPath())
 	{
 	}

@@ -42,8 +42,8 @@ public:
 	{
 	}
 	template<typename U>
-		requires(!std::is_same_v<T, U> && std::is_convertible_v<U*, T*>)
-	TStrongObjectPtr(const TStrongObjectPtr<U>& Other)
+	requires(!std::is_same_v<T, U> && std::is_convertible_v<U*, T*>)
+		TStrongObjectPtr(const TStrongObjectPtr<U>& Other)
 		: TStrongObjectPtr(static_cast<T*>(Other.Get()))
 	{
 	}

@@ -106,7 +106,7 @@ private:
 	FObjectInitializer* Previous;
 	int32 ReusedIndex = INDEX_NONE; // the object's place in the table when it is rebuilt in place
 	bool bCopyTransients = false;
-	int32 UncaughtExceptions;          // before the construction
+	int32 UncaughtExceptions; // before the construction
 	mutable bool bIsRegistered = false; // the constructor of UObject ran
 	bool bIsDeferred = false; // types of the object system itself are not initialised from templates
 };
@@ -238,7 +238,7 @@ public:
 
 	/** Anything that wraps one object pointer, such as TObjectPtr and TSubclassOf. */
 	template<class TPointer>
-		requires requires(TPointer& Pointer) { Pointer.GetReferenceForCollector(); }
+	requires requires(TPointer& Pointer) { Pointer.GetReferenceForCollector(); }
 	void AddReferencedObject(TPointer& Pointer, const UObject* = nullptr)
 	{
 		UObject*& Object = Pointer.GetReferenceForCollector();

@@ -16,20 +16,20 @@ struct TWeakObjectPtr : private FWeakObjectPtr
 	TWeakObjectPtr() = default;
 	TWeakObjectPtr(std::nullptr_t) {}
 	template<typename U>
-		requires std::is_convertible_v<U*, T*>
+	requires std::is_convertible_v<U*, T*>
 	TWeakObjectPtr(U* Object)
 		: FWeakObjectPtr(reinterpret_cast<const UObject*>(Object))
 	{
 	}
 	template<typename U>
-		requires std::is_convertible_v<U*, T*>
+	requires std::is_convertible_v<U*, T*>
 	TWeakObjectPtr(const TObjectPtr<U>& Object)
 		: TWeakObjectPtr(Object.Get())
 	{
 	}
 	template<typename U>
-		requires(!std::is_same_v<T, U> && std::is_convertible_v<U*, T*>)
-	TWeakObjectPtr(const TWeakObjectPtr<U>& Other)
+	requires(!std::is_same_v<T, U> && std::is_convertible_v<U*, T*>)
+		TWeakObjectPtr(const TWeakObjectPtr<U>& Other)
 		: FWeakObjectPtr(Other.AsBase())
 	{
 	}
@@ -54,7 +54,7 @@ struct TWeakObjectPtr : private FWeakObjectPtr
 		return AsBase() == Other.AsBase();
 	}
 	template<typename U>
-		requires std::is_convertible_v<const volatile U*, const volatile UObject*>
+	requires std::is_convertible_v<const volatile U*, const volatile UObject*>
 	bool operator==(const U* Other) const
 	{
 		return AsBase() == FWeakObjectPtr(Other);

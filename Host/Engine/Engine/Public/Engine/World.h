@@ -21,10 +21,10 @@ struct ENGINE_API FActorSpawnParameters
 		Requested, // then another name is made up
 	};
 
-	FName Name;                       // None makes one up
-	AActor* Template = nullptr;       // copied instead of the class's default object; must be of the class
-	AActor* Owner = nullptr;          // what AActor::GetOwner() tells
-	ULevel* OverrideLevel = nullptr;  // instead of the current level
+	FName Name; // None makes one up
+	AActor* Template = nullptr; // copied instead of the class's default object; must be of the class
+	AActor* Owner = nullptr; // what AActor::GetOwner() tells
+	ULevel* OverrideLevel = nullptr; // instead of the current level
 	ESpawnActorCollisionHandlingMethod SpawnCollisionHandlingOverride = ESpawnActorCollisionHandlingMethod::Undefined;
 	ESpawnActorNameMode NameMode = ESpawnActorNameMode::Required_Fatal;
 	EObjectFlags ObjectFlags = RF_Transactional;

@@ -45,7 +45,8 @@ namespace HostSnapshotText
 		if (Description.Checked.IsSet())
 		{
 			const ECheckBoxState State = Description.Checked.GetValue();
-			Facts.Add(State == ECheckBoxState::Checked ? TEXT("checked") : State == ECheckBoxState::Unchecked ? TEXT("unchecked") : TEXT("undetermined"));
+			Facts.Add(State == ECheckBoxState::Checked ? TEXT("checked") : State == ECheckBoxState::Unchecked ? TEXT("unchecked")
+																											  : TEXT("undetermined"));
 		}
 		if (Description.bSelected)
 		{

@@ -11,7 +11,9 @@ class SButton;
 class SNotificationItemWidget : public SNotificationItem
 {
 public:
-	SLATE_BEGIN_ARGS(SNotificationItemWidget) {}
+	SLATE_BEGIN_ARGS(SNotificationItemWidget)
+		{
+		}
 	SLATE_END_ARGS()
 
 	void Construct(const FArguments& InArgs, const FNotificationInfo& Info, const TSharedRef<FHostNotification>& InRecord);

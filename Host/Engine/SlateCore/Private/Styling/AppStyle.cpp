@@ -13,7 +13,11 @@ namespace AppStyle
 	/** A built-in style set, registered for as long as the editor runs. */
 	struct FBuiltInStyle
 	{
-		explicit FBuiltInStyle(const TCHAR* Name) : Style(FName(Name)) { FSlateStyleRegistry::RegisterSlateStyle(Style); }
+		explicit FBuiltInStyle(const TCHAR* Name)
+			: Style(FName(Name))
+		{
+			FSlateStyleRegistry::RegisterSlateStyle(Style);
+		}
 		~FBuiltInStyle() { FSlateStyleRegistry::UnRegisterSlateStyle(Style); }
 
 		FSlateStyleSet Style;
@@ -21,7 +25,8 @@ namespace AppStyle
 
 	struct FAppStyleSet : public FBuiltInStyle
 	{
-		FAppStyleSet() : FBuiltInStyle(TEXT("EditorStyle"))
+		FAppStyleSet()
+			: FBuiltInStyle(TEXT("EditorStyle"))
 		{
 			static const TCHAR* const Icons[] = {
 				TEXT("Icons.Settings"), TEXT("Icons.Help"), TEXT("Icons.Documentation"), TEXT("Icons.MakeStaticMesh"), TEXT("Icons.Refresh"),
@@ -39,7 +44,8 @@ namespace AppStyle
 
 	struct FCoreStyleSet : public FBuiltInStyle
 	{
-		FCoreStyleSet() : FBuiltInStyle(TEXT("CoreStyle"))
+		FCoreStyleSet()
+			: FBuiltInStyle(TEXT("CoreStyle"))
 		{
 			for (const TCHAR* Brush : {TEXT("Border"), TEXT("WhiteBrush"), TEXT("GenericWhiteBox")})
 			{

@@ -12,7 +12,9 @@ namespace SlateWidget
 	class SNullWidgetContent : public SLeafWidget
 	{
 	public:
-		SLATE_BEGIN_ARGS(SNullWidgetContent) {}
+		SLATE_BEGIN_ARGS(SNullWidgetContent)
+			{
+			}
 		SLATE_END_ARGS()
 
 		void Construct(const FArguments&) {}

@@ -16,7 +16,9 @@ struct SLATECORE_API FSlateFontInfo
 
 	FSlateFontInfo() = default;
 	FSlateFontInfo(const UObject* InFontObject, const float InSize, const FName& InTypefaceFontName = NAME_None)
-		: FontObject(const_cast<UObject*>(InFontObject)), TypefaceFontName(InTypefaceFontName), Size(InSize)
+		: FontObject(const_cast<UObject*>(InFontObject))
+		, TypefaceFontName(InTypefaceFontName)
+		, Size(InSize)
 	{
 	}
 

@@ -42,7 +42,10 @@ template<typename SlotType, typename ArgumentsType>
 class TSlotArguments
 {
 public:
-	TSlotArguments() : NewSlot(MakeShared<SlotType>()) {}
+	TSlotArguments()
+		: NewSlot(MakeShared<SlotType>())
+	{
+	}
 
 	ArgumentsType& operator[](const TSharedRef<SWidget>& InChild)
 	{

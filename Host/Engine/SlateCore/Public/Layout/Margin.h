@@ -14,9 +14,27 @@ struct SLATECORE_API FMargin
 	GENERATED_BODY()
 
 	FMargin() = default;
-	FMargin(float Uniform) : Left(Uniform), Top(Uniform), Right(Uniform), Bottom(Uniform) {}
-	FMargin(float Horizontal, float Vertical) : Left(Horizontal), Top(Vertical), Right(Horizontal), Bottom(Vertical) {}
-	FMargin(float InLeft, float InTop, float InRight, float InBottom) : Left(InLeft), Top(InTop), Right(InRight), Bottom(InBottom) {}
+	FMargin(float Uniform)
+		: Left(Uniform)
+		, Top(Uniform)
+		, Right(Uniform)
+		, Bottom(Uniform)
+	{
+	}
+	FMargin(float Horizontal, float Vertical)
+		: Left(Horizontal)
+		, Top(Vertical)
+		, Right(Horizontal)
+		, Bottom(Vertical)
+	{
+	}
+	FMargin(float InLeft, float InTop, float InRight, float InBottom)
+		: Left(InLeft)
+		, Top(InTop)
+		, Right(InRight)
+		, Bottom(InBottom)
+	{
+	}
 
 	bool operator==(const FMargin& Other) const { return Left == Other.Left && Top == Other.Top && Right == Other.Right && Bottom == Other.Bottom; }
 	bool operator!=(const FMargin& Other) const { return !(*this == Other); }

@@ -38,7 +38,10 @@ private:
 		SelfHitTestInvisible,
 	};
 
-	constexpr explicit EVisibility(EValue InValue) : Value(InValue) {}
+	constexpr explicit EVisibility(EValue InValue)
+		: Value(InValue)
+	{
+	}
 
 	EValue Value = EValue::Visible;
 };

@@ -15,8 +15,16 @@ struct SLATECORE_API FSlateColor
 
 	/** Default: magenta, as a sign that nobody set it. */
 	FSlateColor() = default;
-	FSlateColor(const FLinearColor& InColor) : SpecifiedColor(InColor), bSpecified(true) {}
-	FSlateColor(const FColor& InColor) : SpecifiedColor(InColor), bSpecified(true) {}
+	FSlateColor(const FLinearColor& InColor)
+		: SpecifiedColor(InColor)
+		, bSpecified(true)
+	{
+	}
+	FSlateColor(const FColor& InColor)
+		: SpecifiedColor(InColor)
+		, bSpecified(true)
+	{
+	}
 
 	/** The given colour; only meaningful while IsColorSpecified(). */
 	FLinearColor GetSpecifiedColor() const { return SpecifiedColor; }

@@ -31,7 +31,7 @@ public:
 
 	/** Takes ownership of a brush made with `new`. */
 	template<typename BrushType>
-		requires std::is_base_of_v<FSlateBrush, BrushType>
+	requires std::is_base_of_v<FSlateBrush, BrushType>
 	void Set(const FName PropertyName, BrushType* InBrush)
 	{
 		SetBrush(PropertyName, InBrush);

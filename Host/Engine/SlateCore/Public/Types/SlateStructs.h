@@ -8,7 +8,11 @@
 struct FOptionalSize
 {
 	FOptionalSize() = default;
-	FOptionalSize(const float InSize) : Size(InSize), bSet(true) {}
+	FOptionalSize(const float InSize)
+		: Size(InSize)
+		, bSet(true)
+	{
+	}
 
 	bool IsSet() const { return bSet; }
 	float Get() const { return Size; }

@@ -191,7 +191,11 @@ struct FNamedSlotContent
 template<typename DeclarationType>
 struct TNamedSlotProperty
 {
-	TNamedSlotProperty(DeclarationType& InOwner, FNamedSlotContent& InContent) : Owner(InOwner), Content(InContent) {}
+	TNamedSlotProperty(DeclarationType& InOwner, FNamedSlotContent& InContent)
+		: Owner(InOwner)
+		, Content(InContent)
+	{
+	}
 
 	DeclarationType& operator[](const TSharedRef<SWidget>& InChild)
 	{
@@ -244,7 +248,9 @@ namespace SlateDeclaration
 	{
 	public:
 		TDeclaration(const ANSICHAR* InTypeName, ExtraTuple&& InExtra)
-			: Widget(MakeShared<WidgetType>()), TypeName(InTypeName), Extra(std::move(InExtra))
+			: Widget(MakeShared<WidgetType>())
+			, TypeName(InTypeName)
+			, Extra(std::move(InExtra))
 		{
 		}
 

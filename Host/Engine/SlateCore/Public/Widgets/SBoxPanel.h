@@ -38,7 +38,11 @@ public:
 	class FScopedWidgetSlotArguments : public SlotType::FSlotArguments
 	{
 	public:
-		FScopedWidgetSlotArguments(TPanelChildren<SlotType>& InChildren, int32 InIndex) : Children(InChildren), Index(InIndex) {}
+		FScopedWidgetSlotArguments(TPanelChildren<SlotType>& InChildren, int32 InIndex)
+			: Children(InChildren)
+			, Index(InIndex)
+		{
+		}
 		~FScopedWidgetSlotArguments() { Children.AddSlot(this->GetSlot(), Index); }
 
 		FScopedWidgetSlotArguments(const FScopedWidgetSlotArguments&) = delete;
@@ -112,7 +116,9 @@ public:
 class SLATECORE_API SHorizontalBox : public TBoxPanel<FHorizontalBoxSlot>
 {
 public:
-	SLATE_BEGIN_ARGS(SHorizontalBox) {}
+	SLATE_BEGIN_ARGS(SHorizontalBox)
+		{
+		}
 		SLATE_SLOT_ARGUMENT(FHorizontalBoxSlot, Slots)
 	SLATE_END_ARGS()
 
@@ -125,7 +131,9 @@ protected:
 class SLATECORE_API SVerticalBox : public TBoxPanel<FVerticalBoxSlot>
 {
 public:
-	SLATE_BEGIN_ARGS(SVerticalBox) {}
+	SLATE_BEGIN_ARGS(SVerticalBox)
+		{
+		}
 		SLATE_SLOT_ARGUMENT(FVerticalBoxSlot, Slots)
 	SLATE_END_ARGS()
 

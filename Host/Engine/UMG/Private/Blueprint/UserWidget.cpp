@@ -184,8 +184,7 @@ void UWidgetTree::GetAllWidgets(TArray<UWidget*>& Widgets) const
 UWidget* UWidgetTree::FindWidget(const FName& Name) const
 {
 	UWidget* Found = nullptr;
-	ForEachWidget([&Found, &Name](UWidget* Widget)
-	{
+	ForEachWidget([&Found, &Name](UWidget* Widget) {
 		if (!Found && Widget->GetFName() == Name)
 		{
 			Found = Widget;

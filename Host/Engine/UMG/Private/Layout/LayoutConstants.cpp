@@ -167,8 +167,7 @@ namespace LayoutValues
 		std::size_t Space = static_cast<std::size_t>(Scratch.Num());
 		void* Value = std::align(alignof(std::max_align_t), static_cast<std::size_t>(Property.GetElementSize()), Place, Space);
 		Property.InitializeValue(Value);
-		const auto FindWidget = [&Types](const FString& Name) -> UObject*
-		{
+		const auto FindWidget = [&Types](const FString& Name) -> UObject* {
 			UClass* const* Class = Types.Widgets.Find(FName(*Name));
 			return Class ? (*Class)->GetDefaultObject() : nullptr; // stands for the widget: only its class matters here
 		};
@@ -194,15 +193,13 @@ namespace LayoutValues
 		OutPointer = Value.Pointer;
 		if (Value.Kind == FLayoutValue::EKind::Choice)
 		{
-			return Check(Value.If, Types, OutPointer, OutReason) && Check(*Value.Then, Types, Property, OutPointer, OutReason)
-				&& Check(*Value.Else, Types, Property, OutPointer, OutReason);
+			return Check(Value.If, Types, OutPointer, OutReason) && Check(*Value.Then, Types, Property, OutPointer, OutReason) && Check(*Value.Else, Types, Property, OutPointer, OutReason);
 		}
 		const FArrayProperty* Array = Property ? CastField<FArrayProperty>(Property) : nullptr;
 		if (Value.Kind == FLayoutValue::EKind::List)
 		{
 			OutReason = TEXT("a list fits only where a list is wanted");
-			return Array && !Value.Elements.ContainsByPredicate([&](const TSharedRef<const FLayoutValue>& Element)
-			{
+			return Array && !Value.Elements.ContainsByPredicate([&](const TSharedRef<const FLayoutValue>& Element) {
 				return !Check(*Element, Types, Array->Inner, OutPointer, OutReason);
 			});
 		}
@@ -215,7 +212,6 @@ namespace LayoutValues
 
 	bool Check(const FLayoutCondition& Condition, const FLayoutTypes& Types, FString& OutPointer, FString& OutReason)
 	{
-		return Check(*Condition.Value, Types, nullptr, OutPointer, OutReason)
-			&& (!Condition.Is.IsValid() || Check(*Condition.Is, Types, nullptr, OutPointer, OutReason));
+		return Check(*Condition.Value, Types, nullptr, OutPointer, OutReason) && (!Condition.Is.IsValid() || Check(*Condition.Is, Types, nullptr, OutPointer, OutReason));
 	}
 }

@@ -13,7 +13,7 @@ struct FLayoutValue;
 struct FLayoutPath
 {
 	TArray<FString> Parts; // never empty
-	bool bNot = false;     // the opposite, as a truth value
+	bool bNot = false; // the opposite, as a truth value
 
 	FString ToString() const { return FString::Join(Parts, TEXT(".")); }
 };
@@ -86,9 +86,9 @@ struct FLayoutAction
 	FName Widget; // None: the panel itself
 	FName Member; // property or function
 
-	TSharedPtr<const FLayoutValue> To;      // Set
-	TArray<FLayoutAssignment> Arguments;    // Call
-	bool bPassArgumentsOn = false;          // Call: those of the event, by position
+	TSharedPtr<const FLayoutValue> To; // Set
+	TArray<FLayoutAssignment> Arguments; // Call
+	bool bPassArgumentsOn = false; // Call: those of the event, by position
 };
 
 struct FLayoutWidget

@@ -16,7 +16,10 @@ class FLayoutReader
 public:
 	using FJson = nlohmann::ordered_json;
 
-	explicit FLayoutReader(TArray<HostWidgetLayout::FProblem>& InProblems) : Problems(InProblems) {}
+	explicit FLayoutReader(TArray<HostWidgetLayout::FProblem>& InProblems)
+		: Problems(InProblems)
+	{
+	}
 
 	/** Null when there were problems. */
 	TSharedPtr<FWidgetLayout> Read(const FString& Text);

@@ -181,14 +181,12 @@ void FLayoutReader::CheckBindings()
 		UClass* const* Class = Types.Widgets.Find(Property.GetFName());
 		if (!Class && !bOptional)
 		{
-			Complain(TEXT("/Tree"), FString::Printf(TEXT("panel %s needs a widget named '%s' of class %s, and the layout has none"),
-				*Layout->ParentClass->GetName(), *Property.GetName(), *Property.PropertyClass->GetName()),
+			Complain(TEXT("/Tree"), FString::Printf(TEXT("panel %s needs a widget named '%s' of class %s, and the layout has none"), *Layout->ParentClass->GetName(), *Property.GetName(), *Property.PropertyClass->GetName()),
 				TEXT("Add it to the tree."));
 		}
 		else if (Class && !(*Class)->IsChildOf(Property.PropertyClass))
 		{
-			Complain(TEXT("/Tree"), FString::Printf(TEXT("panel %s binds the widget '%s' as a %s, but here it is a %s"), *Layout->ParentClass->GetName(),
-				*Property.GetName(), *Property.PropertyClass->GetName(), *(*Class)->GetName()));
+			Complain(TEXT("/Tree"), FString::Printf(TEXT("panel %s binds the widget '%s' as a %s, but here it is a %s"), *Layout->ParentClass->GetName(), *Property.GetName(), *Property.PropertyClass->GetName(), *(*Class)->GetName()));
 		}
 	}
 }

@@ -12,8 +12,8 @@ class UWidget;
 struct FLayoutType
 {
 	const FProperty* Property = nullptr; // null for the panel and its widgets
-	const UStruct* Struct = nullptr;     // what has members: a class or a struct; null for plain values
-	bool bOpen = false;                  // a member of an object of any class: nothing more is known before it runs
+	const UStruct* Struct = nullptr; // what has members: a class or a struct; null for plain values
+	bool bOpen = false; // a member of an object of any class: nothing more is known before it runs
 };
 
 /** The names that values and actions can use, and their types. */

@@ -14,7 +14,7 @@ namespace LayoutValues
 	/** What a path led to; keeps what it had to make on the way. */
 	struct FDatum
 	{
-		UObject* Object = nullptr;           // the panel or a widget, or what an object property holds
+		UObject* Object = nullptr; // the panel or a widget, or what an object property holds
 		const FProperty* Property = nullptr; // null for the panel and its widgets
 		const void* Value = nullptr;
 		TArray<TSharedPtr<FLayoutParameterBlock>> Blocks;
@@ -158,6 +158,7 @@ namespace LayoutValues
 			}
 		}
 		FString Reason;
-		SetFromText(Property, Dest, EvaluateText(Value, Scope), [&Scope](const FString& Name) { return Scope.FindTarget(FName(*Name)); }, Reason);
+		SetFromText(
+			Property, Dest, EvaluateText(Value, Scope), [&Scope](const FString& Name) { return Scope.FindTarget(FName(*Name)); }, Reason);
 	}
 }

@@ -12,7 +12,9 @@ class UUserWidget;
 class UMG_API SObjectWidget : public SCompoundWidget
 {
 public:
-	SLATE_BEGIN_ARGS(SObjectWidget) {}
+	SLATE_BEGIN_ARGS(SObjectWidget)
+		{
+		}
 		SLATE_DEFAULT_SLOT(FArguments, Content)
 	SLATE_END_ARGS()
 

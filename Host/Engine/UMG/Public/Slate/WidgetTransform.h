@@ -13,9 +13,18 @@ struct UMG_API FWidgetTransform
 {
 	GENERATED_BODY()
 
-	FWidgetTransform() : Translation(0.0, 0.0), Scale(1.0, 1.0), Shear(0.0, 0.0), Angle(0.0f) {}
+	FWidgetTransform()
+		: Translation(0.0, 0.0)
+		, Scale(1.0, 1.0)
+		, Shear(0.0, 0.0)
+		, Angle(0.0f)
+	{
+	}
 	FWidgetTransform(const FVector2D& InTranslation, const FVector2D& InScale, const FVector2D& InShear, float InAngle)
-		: Translation(InTranslation), Scale(InScale), Shear(InShear), Angle(InAngle)
+		: Translation(InTranslation)
+		, Scale(InScale)
+		, Shear(InShear)
+		, Angle(InAngle)
 	{
 	}
 

@@ -20,8 +20,15 @@ namespace EModifierKey
 struct SLATE_API FInputChord
 {
 	FInputChord() = default;
-	FInputChord(const FKey InKey) : Key(InKey) {}
-	FInputChord(const EModifierKey::Type InModifierKeys, const FKey InKey) : Key(InKey), Modifiers(InModifierKeys) {}
+	FInputChord(const FKey InKey)
+		: Key(InKey)
+	{
+	}
+	FInputChord(const EModifierKey::Type InModifierKeys, const FKey InKey)
+		: Key(InKey)
+		, Modifiers(InModifierKeys)
+	{
+	}
 
 	bool IsValidChord() const { return Key.IsValid(); }
 

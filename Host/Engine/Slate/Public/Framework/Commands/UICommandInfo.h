@@ -23,7 +23,10 @@ class SLATE_API FBindingContext : public TSharedFromThis<FBindingContext>
 {
 public:
 	FBindingContext(const FName InContextName, const FText& InContextDesc, const FName InContextParent, const FName InStyleSetName)
-		: ContextName(InContextName), ContextParent(InContextParent), ContextDesc(InContextDesc), StyleSetName(InStyleSetName)
+		: ContextName(InContextName)
+		, ContextParent(InContextParent)
+		, ContextDesc(InContextDesc)
+		, StyleSetName(InStyleSetName)
 	{
 	}
 	virtual ~FBindingContext() = default;

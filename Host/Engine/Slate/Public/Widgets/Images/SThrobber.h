@@ -10,7 +10,8 @@ class SLATE_API SThrobber : public SLeafWidget
 public:
 	SLATE_BEGIN_ARGS(SThrobber)
 		: _NumPieces(3)
-		{}
+		{
+		}
 		SLATE_ARGUMENT(int32, NumPieces)
 	SLATE_END_ARGS()
 

@@ -15,7 +15,8 @@ public:
 		, _VAlign(VAlign_Fill)
 		, _ButtonColorAndOpacity(FSlateColor(FLinearColor::White))
 		, _IsFocusable(true)
-		{}
+		{
+		}
 		SLATE_DEFAULT_SLOT(FArguments, Content)
 		SLATE_STYLE_ARGUMENT(FButtonStyle, ButtonStyle)
 		SLATE_STYLE_ARGUMENT(FTextBlockStyle, TextStyle)

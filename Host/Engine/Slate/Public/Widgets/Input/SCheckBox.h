@@ -12,7 +12,8 @@ class SLATE_API SCheckBox : public SCompoundWidget
 public:
 	SLATE_BEGIN_ARGS(SCheckBox)
 		: _IsChecked(ECheckBoxState::Unchecked)
-		{}
+		{
+		}
 		SLATE_DEFAULT_SLOT(FArguments, Content)
 		SLATE_STYLE_ARGUMENT(FCheckBoxStyle, Style)
 		SLATE_EVENT(FOnCheckStateChanged, OnCheckStateChanged)

@@ -17,7 +17,8 @@ public:
 		: _OptionsSource(nullptr)
 		, _InitiallySelectedItem()
 		, _MaxListHeight(450.0f)
-		{}
+		{
+		}
 		SLATE_DEFAULT_SLOT(FArguments, Content)
 		SLATE_STYLE_ARGUMENT(FComboBoxStyle, ComboBoxStyle)
 		SLATE_STYLE_ARGUMENT(FTableRowStyle, ItemStyle)

@@ -12,7 +12,8 @@ class SLATE_API SComboButton : public SCompoundWidget
 public:
 	SLATE_BEGIN_ARGS(SComboButton)
 		: _HasDownArrow(true)
-		{}
+		{
+		}
 		SLATE_STYLE_ARGUMENT(FComboBoxStyle, ComboButtonStyle)
 		SLATE_STYLE_ARGUMENT(FButtonStyle, ButtonStyle)
 		SLATE_NAMED_SLOT(FArguments, ButtonContent)

@@ -12,7 +12,8 @@ public:
 	SLATE_BEGIN_ARGS(SEditableTextBox)
 		: _IsReadOnly(false)
 		, _IsPassword(false)
-		{}
+		{
+		}
 		SLATE_ATTRIBUTE(FText, Text)
 		SLATE_ATTRIBUTE(FText, HintText)
 		SLATE_ATTRIBUTE(FSlateFontInfo, Font)

@@ -20,7 +20,8 @@ public:
 		: _HintText(NSLOCTEXT("SearchBox", "SearchHint", "Search"))
 		, _SelectAllTextWhenFocused(true)
 		, _DelayChangeNotificationsWhileTyping(false)
-		{}
+		{
+		}
 		SLATE_ATTRIBUTE(FText, HintText)
 		SLATE_ATTRIBUTE(FText, InitialText)
 		SLATE_EVENT(FOnTextChanged, OnTextChanged)

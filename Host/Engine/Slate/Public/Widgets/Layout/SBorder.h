@@ -18,7 +18,8 @@ public:
 		, _BorderImage(FCoreStyle::Get().GetBrush(FName(TEXT("Border"))))
 		, _BorderBackgroundColor(FSlateColor(FLinearColor::White))
 		, _ColorAndOpacity(FLinearColor::White)
-		{}
+		{
+		}
 		SLATE_DEFAULT_SLOT(FArguments, Content)
 		SLATE_ARGUMENT(EHorizontalAlignment, HAlign)
 		SLATE_ARGUMENT(EVerticalAlignment, VAlign)

@@ -13,7 +13,8 @@ public:
 		: _HAlign(HAlign_Fill)
 		, _VAlign(VAlign_Fill)
 		, _Padding(FMargin(0.0f))
-		{}
+		{
+		}
 		SLATE_DEFAULT_SLOT(FArguments, Content)
 		SLATE_ARGUMENT(EHorizontalAlignment, HAlign)
 		SLATE_ARGUMENT(EVerticalAlignment, VAlign)

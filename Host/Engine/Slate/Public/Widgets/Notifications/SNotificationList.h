@@ -73,8 +73,14 @@ struct SLATE_API FNotificationButtonInfo
 /** What a notification shows and for how long. */
 struct SLATE_API FNotificationInfo
 {
-	FNotificationInfo(const FText& InText) : Text(InText) {}
-	FNotificationInfo(TSharedPtr<INotificationWidget> InContentWidget) : ContentWidget(InContentWidget) {}
+	FNotificationInfo(const FText& InText)
+		: Text(InText)
+	{
+	}
+	FNotificationInfo(TSharedPtr<INotificationWidget> InContentWidget)
+		: ContentWidget(InContentWidget)
+	{
+	}
 
 	TSharedPtr<INotificationWidget> ContentWidget;
 	TAttribute<FText> Text;

@@ -15,7 +15,8 @@ public:
 	SLATE_BEGIN_ARGS(STextBlock)
 		: _TextStyle(nullptr)
 		, _AutoWrapText(false)
-		{}
+		{
+		}
 		SLATE_ATTRIBUTE(FText, Text)
 		SLATE_STYLE_ARGUMENT(FTextBlockStyle, TextStyle)
 		SLATE_ATTRIBUTE(FSlateFontInfo, Font)

@@ -21,7 +21,8 @@ public:
 		: _ListItemsSource(nullptr)
 		, _SelectionMode(ESelectionMode::Multi)
 		, _ClearSelectionOnClick(true)
-		{}
+		{
+		}
 		SLATE_EVENT(FOnGenerateRow, OnGenerateRow)
 		SLATE_ARGUMENT(const TArray<ItemType>*, ListItemsSource)
 		SLATE_EVENT(FOnSelectionChanged, OnSelectionChanged)

@@ -24,7 +24,8 @@ class STableRow : public ITableRow, public STableRowBorder
 public:
 	SLATE_BEGIN_ARGS(STableRow<ItemType>)
 		: _ShowSelection(true)
-		{}
+		{
+		}
 		SLATE_DEFAULT_SLOT(FArguments, Content)
 		SLATE_STYLE_ARGUMENT(FTableRowStyle, Style)
 		SLATE_ATTRIBUTE(FMargin, Padding)

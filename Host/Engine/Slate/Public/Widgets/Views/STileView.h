@@ -20,7 +20,8 @@ public:
 		, _ItemWidth(128.0f)
 		, _SelectionMode(ESelectionMode::Multi)
 		, _ClearSelectionOnClick(true)
-		{}
+		{
+		}
 		SLATE_EVENT(FOnGenerateRow, OnGenerateTile)
 		SLATE_ARGUMENT(const TArray<ItemType>*, ListItemsSource)
 		SLATE_EVENT(FOnSelectionChanged, OnSelectionChanged)

@@ -10,7 +10,8 @@ class SLATECORE_API SImage : public SLeafWidget
 public:
 	SLATE_BEGIN_ARGS(SImage)
 		: _ColorAndOpacity(FSlateColor(FLinearColor::White))
-		{}
+		{
+		}
 		SLATE_ATTRIBUTE(const FSlateBrush*, Image)
 		SLATE_ATTRIBUTE(FSlateColor, ColorAndOpacity)
 		SLATE_ATTRIBUTE(TOptional<FVector2D>, DesiredSizeOverride)

@@ -1,0 +1,16 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include "Containers/UnrealString.h"
+#include "ExitStatus.h"
+#include "Misc/Optional.h"
+
+namespace ProjectArgument
+{
+	/**
+	 * Finds the project that the user named and makes sure that its descriptor can be read.
+	 * @return unset to go on with OutProject, the full path of its .uproject; else how to end, after the reason has been printed.
+	 */
+	TOptional<EExitStatus> Find(const FString& FileOrFolder, FString& OutProject);
+}

@@ -1,0 +1,194 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "EditorWidgets/VlmEWLoginUser.h"
+#include "EditorWidgets/VlmEWProjectSelector.h"
+#include "HostAssertions.h"
+#include "HostObjects.h"
+#include "HostWidgetLayout.h"
+#include "PanelLayouts.h"
+#include "TestPanel.h"
+#include "ToolkitTest.h"
+#include "UObject/Package.h"
+#include "UObject/UnrealType.h"
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+namespace
+{
+	/** The condition of the assertion that the call fails; empty when it does not. */
+	template<typename CallT>
+	std::string FailedCondition(CallT&& Call)
+	{
+		try
+		{
+			Call();
+		}
+		catch (const FHostAssertionFailure& Failure)
+		{
+			return Failure.GetExpression();
+		}
+		return "";
+	}
+
+	/** Uses the interface's defaults. */
+	class FDefaultPanel : public IVlmEditorPanelInterface
+	{
+	};
+
+	std::vector<std::string> ParametersOf(const UFunction& Function)
+	{
+		std::vector<std::string> Names;
+		for (const FProperty* Parameter : Function.GetOwnProperties())
+		{
+			Names.push_back(ToUtf8(Parameter->GetName()));
+		}
+		return Names;
+	}
+
+	std::vector<std::string> PropertiesOf(const UClass* Class)
+	{
+		std::vector<std::string> Names;
+		for (const FProperty* Property : Class->GetOwnProperties())
+		{
+			Names.push_back(ToUtf8(Property->GetName()) + (Property->HasMetaData(TEXT("BindWidget")) ? "*" : ""));
+		}
+		return Names;
+	}
+}
+
+class PanelInterface : public FToolkitTest
+{
+};
+
+TEST_F(PanelInterface, ReachesOverridesOfDerivedPanels)
+{
+	StartEditor();
+	SignIn();
+	FTestPanel Panel(PanelLayouts::ProjectSelector, {TEXT("ActivateDataPanel"), TEXT("RefreshPanelData"), TEXT("OnRequestingUserProjectsProcess")});
+	IVlmEditorPanelInterface::Execute_ActivateDataPanel(Panel.Get());
+	IVlmEditorPanelInterface::Execute_RefreshPanelData(Panel.Get());
+	EXPECT_THAT(Panel.TakeEvents(), ElementsAre("ActivateDataPanel", "RefreshPanelData")) << "the native activation must not run beside the override";
+}
+
+TEST_F(PanelInterface, ReachesTheNativePanelWithoutAnOverride)
+{
+	StartEditor();
+	SignIn();
+	FTestPanel Panel(PanelLayouts::ProjectSelector, {TEXT("OnRequestingUserProjectsProcess")});
+	IVlmEditorPanelInterface::Execute_RefreshPanelData(Panel.Get());
+	EXPECT_THAT(Panel.TakeEvents(), IsEmpty()) << "refreshing does nothing by default";
+	IVlmEditorPanelInterface::Execute_ActivateDataPanel(Panel.Get());
+	EXPECT_THAT(Panel.TakeEvents(), ElementsAre("OnRequestingUserProjectsProcess(true)"));
+	EXPECT_FALSE(Panel.Get<UVlmEWProjectSelector>()->bPanelActivated);
+}
+
+TEST_F(PanelInterface, ReachesObjectsThatImplementItInScriptOnly)
+{
+	StartEditor();
+	UClass* Class = HostObjects::DeriveClass(UObject::StaticClass(), TEXT("ScriptPanel"), GetTransientPackage());
+	HostObjects::AddScriptInterface(Class, UVlmEditorPanelInterface::StaticClass());
+	int32 NumCalls = 0;
+	HostObjects::AddScriptFunction(Class, TEXT("ActivateDataPanel"), [&NumCalls](UObject*, FFrame&, void*) { ++NumCalls; });
+	IVlmEditorPanelInterface::Execute_ActivateDataPanel(NewObject<UObject>(GetTransientPackage(), Class));
+	EXPECT_EQ(NumCalls, 1);
+}
+
+TEST_F(PanelInterface, ActivatesByDefault)
+{
+	FDefaultPanel Panel;
+	EXPECT_FALSE(Panel.bPanelActivated);
+	Panel.RefreshPanelData_Implementation();
+	EXPECT_FALSE(Panel.bPanelActivated);
+	Panel.ActivateDataPanel_Implementation();
+	EXPECT_TRUE(Panel.bPanelActivated);
+}
+
+TEST_F(PanelInterface, RefusesWhatIsNoPanel)
+{
+	StartEditor();
+	UObject* NoPanel = GetTransientPackage();
+	EXPECT_EQ(FailedCondition([] { IVlmEditorPanelInterface::Execute_ActivateDataPanel(nullptr); }), "O != NULL");
+	EXPECT_EQ(FailedCondition([NoPanel] { IVlmEditorPanelInterface::Execute_ActivateDataPanel(NoPanel); }), "O->GetClass()->ImplementsInterface(UVlmEditorPanelInterface::StaticClass())");
+	EXPECT_EQ(FailedCondition([NoPanel] { IVlmEditorPanelInterface::Execute_RefreshPanelData(NoPanel); }), "O->GetClass()->ImplementsInterface(UVlmEditorPanelInterface::StaticClass())");
+}
+
+TEST_F(PanelInterface, RefusesDirectCallsOfItsEvents)
+{
+	FDefaultPanel Panel;
+	EXPECT_EQ(FailedCondition([&Panel] { Panel.ActivateDataPanel(); }), "0 && \"Do not directly call Event functions in Interfaces. Call Execute_ActivateDataPanel instead.\"");
+	EXPECT_EQ(FailedCondition([&Panel] { Panel.RefreshPanelData(); }), "0 && \"Do not directly call Event functions in Interfaces. Call Execute_RefreshPanelData instead.\"");
+}
+
+TEST_F(PanelInterface, KnowsItsObject)
+{
+	StartEditor();
+	FTestPanel Panel(PanelLayouts::ProjectSelector, {});
+	const IVlmEditorPanelInterface* Interface = Cast<IVlmEditorPanelInterface>(Panel.Get());
+	ASSERT_NE(Interface, nullptr);
+	EXPECT_EQ(Interface->_getUObject(), Panel.Get());
+}
+
+TEST_F(PanelInterface, CanBeCalledInTheEditor)
+{
+	StartEditor();
+	for (const TCHAR* Name : {TEXT("ActivateDataPanel"), TEXT("RefreshPanelData")})
+	{
+		const UFunction* Function = UVlmEditorPanelInterface::StaticClass()->FindFunctionByName(Name);
+		ASSERT_NE(Function, nullptr);
+		EXPECT_TRUE(Function->HasAllFunctionFlags(static_cast<EFunctionFlags>(FUNC_BlueprintEvent | FUNC_Native)));
+		EXPECT_TRUE(Function->HasMetaData(TEXT("CallInEditor")));
+		EXPECT_EQ(ToUtf8(Function->GetMetaData(TEXT("Category"))), "VlmPanelData");
+	}
+}
+
+// Blueprints of panels bind to these names.
+TEST_F(PanelInterface, PanelsHaveTheNamesThatBlueprintsBindTo)
+{
+	StartEditor();
+	EXPECT_THAT(PropertiesOf(UVlmEWPanelData::StaticClass()), ElementsAre("bRefreshOnActivation"));
+	EXPECT_THAT(PropertiesOf(UVlmEWLoginUser::StaticClass()), ElementsAre("OnLoginResult", "UserName*", "UserPassword*", "SummitButton*", "RememberUserCheckBox*"));
+	EXPECT_THAT(PropertiesOf(UVlmEWProjectSelector::StaticClass()), ElementsAre("ProjectKeyCode*", "ProjectName*", "ProjectSelection*", "ForceUpdateCheckBox*", "SetAsDefault*", "CopyApyKey*", "UserProjectList"));
+
+	const struct
+	{
+		UClass* Class;
+		const TCHAR* Function;
+		std::vector<std::string> Parameters;
+		bool bEvent;
+	} Cases[] = {
+		{UVlmEWLoginUser::StaticClass(), TEXT("ReceivedClickSummit"), {"ButtonID"}, false},
+		{UVlmEWLoginUser::StaticClass(), TEXT("Received_LoginResult"), {"bSuccess", "UserLogInfo"}, false},
+		{UVlmEWLoginUser::StaticClass(), TEXT("SetRememberMeOption"), {"InChecked"}, false},
+		{UVlmEWLoginUser::StaticClass(), TEXT("OnLoginInProcess"), {"bInProgress"}, true},
+		{UVlmEWLoginUser::StaticClass(), TEXT("OnLoginResultReceived"), {"bSuccessful"}, true},
+		{UVlmEWLoginUser::StaticClass(), TEXT("OnRememberMeOption"), {"InChecked"}, true},
+		{UVlmEWProjectSelector::StaticClass(), TEXT("GetProjectByKeyCode"), {"KeyCode", "ReturnValue"}, false},
+		{UVlmEWProjectSelector::StaticClass(), TEXT("GetSelectedProject"), {"ReturnValue"}, false},
+		{UVlmEWProjectSelector::StaticClass(), TEXT("RequestEditorUserProjects"), {}, false},
+		{UVlmEWProjectSelector::StaticClass(), TEXT("SetUpdateInformationOnChange"), {"bForce"}, false},
+		{UVlmEWProjectSelector::StaticClass(), TEXT("Received_SelectionChanged"), {"SelectedItem", "SelectionType"}, false},
+		{UVlmEWProjectSelector::StaticClass(), TEXT("GenerateComboContentWidget"), {"Item", "ReturnValue"}, false},
+		{UVlmEWProjectSelector::StaticClass(), TEXT("GenerateComboItemWidget"), {"Item", "ReturnValue"}, false},
+		{UVlmEWProjectSelector::StaticClass(), TEXT("OnRequestingUserProjectsProcess"), {"bInProcess"}, true},
+	};
+	for (const auto& Case : Cases)
+	{
+		const UFunction* Function = Case.Class->FindFunctionByName(Case.Function);
+		ASSERT_NE(Function, nullptr) << ToUtf8(FString(Case.Function));
+		EXPECT_EQ(ParametersOf(*Function), Case.Parameters) << ToUtf8(FString(Case.Function));
+		EXPECT_EQ(Function->HasAnyFunctionFlags(FUNC_BlueprintEvent), Case.bEvent) << ToUtf8(FString(Case.Function));
+	}
+}
+
+TEST_F(PanelInterface, LayoutsMustHaveEveryBoundWidget)
+{
+	StartEditor();
+	TArray<HostWidgetLayout::FProblem> Problems;
+	EXPECT_FALSE(HostWidgetLayout::Read(TEXT(R"({"ParentClass": "/Script/VelmorantProEditor.VlmEWLoginUser", "Tree": {"Class": "VerticalBox", "Children": [
+		{"Class": "EditableText", "Name": "UserName"}, {"Class": "EditableText", "Name": "UserPassword"}, {"Class": "EditableText", "Name": "RememberUserCheckBox"}]}})"), Problems).IsValid());
+	ASSERT_EQ(Problems.Num(), 2);
+	EXPECT_THAT(ToUtf8(Problems[0].Message), testing::AllOf(HasSubstr("VlmEWLoginUser"), HasSubstr("SummitButton")));
+	EXPECT_THAT(ToUtf8(Problems[1].Message), testing::AllOf(HasSubstr("VlmEWLoginUser"), HasSubstr("RememberUserCheckBox")));
+}
