@@ -26,8 +26,7 @@ namespace
 	/** The lines of the menu of new assets that make assets of the toolkit. */
 	TArray<HostAssetTools::FNewAssetItem> GetToolkitItems()
 	{
-		return HostAssetTools::GetNewAssetMenu().FilterByPredicate([](const HostAssetTools::FNewAssetItem& Item)
-		{
+		return HostAssetTools::GetNewAssetMenu().FilterByPredicate([](const HostAssetTools::FNewAssetItem& Item) {
 			return Item.AssetClass->GetPathName().StartsWith(TEXT("/Script/Velmorant"));
 		});
 	}
@@ -69,14 +68,7 @@ TEST_F(AssetTypes, AreSevenInTheMenuOfNewAssets)
 	{
 		Lines.push_back(ToUtf8(Item.Category) + "/" + ToUtf8(Item.SubCategory) + "/" + ToUtf8(Item.DisplayName) + ": " + ToUtf8(Item.AssetClass->GetName()) + " by " + ToUtf8(Item.DefaultFactory->GetClass()->GetName()));
 	}
-	EXPECT_THAT(Lines, UnorderedElementsAre(
-		"Velmorant Assets//Maps Linker Asset: VelmorantMapsLinkerConfig by MapLinkerAssetFactory",
-		"Velmorant Assets//Minimap Config Asset: MinimapConfigAsset by MinimapDataAssetFactory",
-		"VelmorantAsset/Actions/InteractiveSpotPlacement Action: VlmISPActionsBase by ISPActionBaseFactory",
-		"VelmorantAsset/Actions/UnitVolume Action: UnitVolumeAction by UnitVolumeActionFactory",
-		"VelmorantAsset/Configurator/Configurator Data Asset: VelmorantConfiguratorDataAsset by ConfiguratorDataAssetFactory",
-		"VelmorantAsset/Configurator/Configurator Items Override: VelmorantConfiguratorItemOverride by ConfiguratorItemOverrideFactory",
-		"VelmorantAsset/UI/UI Style Configuration: VelmorantUIStyleConfiguration by UIStyleConfigurationAssetFactory"));
+	EXPECT_THAT(Lines, UnorderedElementsAre("Velmorant Assets//Maps Linker Asset: VelmorantMapsLinkerConfig by MapLinkerAssetFactory", "Velmorant Assets//Minimap Config Asset: MinimapConfigAsset by MinimapDataAssetFactory", "VelmorantAsset/Actions/InteractiveSpotPlacement Action: VlmISPActionsBase by ISPActionBaseFactory", "VelmorantAsset/Actions/UnitVolume Action: UnitVolumeAction by UnitVolumeActionFactory", "VelmorantAsset/Configurator/Configurator Data Asset: VelmorantConfiguratorDataAsset by ConfiguratorDataAssetFactory", "VelmorantAsset/Configurator/Configurator Items Override: VelmorantConfiguratorItemOverride by ConfiguratorItemOverrideFactory", "VelmorantAsset/UI/UI Style Configuration: VelmorantUIStyleConfiguration by UIStyleConfigurationAssetFactory"));
 }
 
 TEST_F(AssetTypes, HaveTheirColours)

@@ -260,8 +260,7 @@ TEST_F(CollisionCheck, EveryFailedCheckAsksByItself)
 TEST_F(CollisionCheck, StartingASoundProjectTouchesNoFile)
 {
 	WriteProjectFile(EngineIni, CollisionIni::Replace(MakeIni(CollisionIni::Profile, CollisionIni::Channel), "\n", "\r\n"));
-	const auto DescribeFiles = [this]
-	{
+	const auto DescribeFiles = [this] {
 		std::map<std::string, std::pair<std::string, std::filesystem::file_time_type>> Files;
 		for (const std::filesystem::directory_entry& Entry : std::filesystem::recursive_directory_iterator(Folder.GetNative("Project")))
 		{

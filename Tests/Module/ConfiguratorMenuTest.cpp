@@ -84,10 +84,7 @@ TEST_F(ConfiguratorMenu, HasThreeEntriesInOneSection)
 			Entries.push_back(ToUtf8(Entry.Name) + ": " + ToUtf8(Entry.Label) + " | " + ToUtf8(Entry.ToolTip));
 		}
 	}
-	EXPECT_THAT(Entries, ElementsAre(
-		"ConfiguratorDataAsset_CreateLevelVariantSet: Create LevelVariantSet | Create a LevelVariantSet with data configurator in the same folder",
-		"ConfiguratorDataAsset_UpdateLevelVariantSetData: Update LevelVariantSet Data | Update Configurator Data from lastest updated request data",
-		"ConfiguratorDataAsset_CreateLevelVariantActor: Place LevelVariantActor into Level | Place a LevelVariantActor in current level with the data of configurator"));
+	EXPECT_THAT(Entries, ElementsAre("ConfiguratorDataAsset_CreateLevelVariantSet: Create LevelVariantSet | Create a LevelVariantSet with data configurator in the same folder", "ConfiguratorDataAsset_UpdateLevelVariantSetData: Update LevelVariantSet Data | Update Configurator Data from lastest updated request data", "ConfiguratorDataAsset_CreateLevelVariantActor: Place LevelVariantActor into Level | Place a LevelVariantActor in current level with the data of configurator"));
 }
 
 TEST_F(ConfiguratorMenu, CanBeTranslated)
@@ -112,8 +109,7 @@ TEST_F(ConfiguratorMenu, CanBeTranslated)
 			}
 		}
 	}
-	EXPECT_THAT(Keys, ElementsAre("ConfiguratorDataAsset_CreateLevelVariantSet", "ConfiguratorDataAsset_CreateLevelVariantSetTooltip", "ConfiguratorDataAsset_UpdateLevelVariantSetData",
-		"ConfiguratorDataAsset_UpdateLevelVariantSetDataTooltip", "ConfiguratorDataAsset_CreateLevelVariantActor", "ConfiguratorDataAsset_CreateLevelVariantActorTooltip"));
+	EXPECT_THAT(Keys, ElementsAre("ConfiguratorDataAsset_CreateLevelVariantSet", "ConfiguratorDataAsset_CreateLevelVariantSetTooltip", "ConfiguratorDataAsset_UpdateLevelVariantSetData", "ConfiguratorDataAsset_UpdateLevelVariantSetDataTooltip", "ConfiguratorDataAsset_CreateLevelVariantActor", "ConfiguratorDataAsset_CreateLevelVariantActorTooltip"));
 }
 
 TEST_F(ConfiguratorMenu, IsForConfiguratorDataAssetsOnly)

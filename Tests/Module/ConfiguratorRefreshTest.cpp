@@ -144,8 +144,7 @@ TEST_F(ConfiguratorRefresh, RunsOncePerRefreshOnEveryLaterUpdate)
 	// A handler of its own between those of the two refreshes sees what the first one did, and undoes it.
 	std::vector<std::string> Between;
 	Refresh(Asset);
-	GetRequests()->GetOnUpdateRequest().AddLambda([&Between, Asset, LevelVariantSets](EUpdateRequestDataType, EUpdateRequestType)
-	{
+	GetRequests()->GetOnUpdateRequest().AddLambda([&Between, Asset, LevelVariantSets](EUpdateRequestDataType, EUpdateRequestType) {
 		Between = Describe(LevelVariantSets);
 		LevelVariantSets->RemoveVariantSets(LevelVariantSets->GetVariantSets());
 		Asset->ConfiguratorUnit.Rooms.Empty();
@@ -159,6 +158,20 @@ TEST_F(ConfiguratorRefresh, RunsOncePerRefreshOnEveryLaterUpdate)
 	EXPECT_THAT(Between, ElementsAre("Kitchen - Fronts: Oak, Lacquer, Steel"));
 	EXPECT_THAT(Describe(LevelVariantSets), ElementsAre("Kitchen - Fronts: Oak, Lacquer, Steel"));
 	EXPECT_THAT(DescribeRooms(Asset), ElementsAre("Kitchen/Fronts: Oak, Lacquer, Steel"));
+}
+
+TEST_F(ConfiguratorRefresh, ChangesNothingWhenTheRecordIsGone)
+{
+	UVelmorantConfiguratorDataAsset* Asset = StartWithGrownConfigurator();
+	UVelmorantEditorUtilitiesLibrary::CreateVariantSetFromConfigurator(Asset);
+	ULevelVariantSets* LevelVariantSets = CastChecked<ULevelVariantSets>(Asset->LevelVariantSets.ResolveObject());
+	LevelVariantSets->RemoveVariantSets(LevelVariantSets->GetVariantSets()); // shows whether they are filled again
+
+	WriteConfigurators(R"({"name": "Tower", "recordName": "Other", "rooms": [{"name": "Bath"}]})");
+	Refresh(Asset);
+	Wait(0.0);
+	EXPECT_THAT(DescribeRooms(Asset), ElementsAre("Kitchen/Fronts: Oak, Lacquer"));
+	EXPECT_THAT(Describe(LevelVariantSets), IsEmpty());
 }
 
 TEST_F(ConfiguratorRefresh, StaysHarmlessWhenTheAssetIsGone)

@@ -77,8 +77,7 @@ TEST_F(LevelVariantActor, IsSelectedAloneAndInView)
 	AActor* Other = GetWorld()->SpawnActor(AActor::StaticClass());
 	GEditor->SelectActor(Other, true, true);
 	bool bToldOfSelection = false;
-	USelection::SelectionChangedEvent.AddLambda([&bToldOfSelection](UObject* Selection)
-	{
+	USelection::SelectionChangedEvent.AddLambda([&bToldOfSelection](UObject* Selection) {
 		bToldOfSelection = CastChecked<USelection>(Selection)->GetTop<AVelmorantLevelVariantSetsActor>() != nullptr;
 	});
 	Place(MakeDataAsset(TEXT("Tower")));
@@ -153,9 +152,7 @@ TEST_F(LevelVariantActor, IsPlacedWithoutSetsWhenNoneCouldBeMade)
 	Asset->ConfiguratorName = TEXT("Tower:A");
 	Asset->LevelVariantSets.Reset();
 	Place(Asset);
-	EXPECT_THAT(TakeOutcomes(), ElementsAre(
-		FOutcome{"Fail to Fill Out Level Variant", "Level variant is null", SNotificationItem::CS_Fail, 7.0f},
-		FOutcome{"Failed Configuration LevelVariantSet Creation", "Configurator ID doesn't match", SNotificationItem::CS_Fail, 7.0f}));
+	EXPECT_THAT(TakeOutcomes(), ElementsAre(FOutcome{"Fail to Fill Out Level Variant", "Level variant is null", SNotificationItem::CS_Fail, 7.0f}, FOutcome{"Failed Configuration LevelVariantSet Creation", "Configurator ID doesn't match", SNotificationItem::CS_Fail, 7.0f}));
 	ASSERT_EQ(FindActors().size(), 1u);
 	EXPECT_TRUE(FindActors()[0]->LevelVariantSets.IsNull());
 	EXPECT_EQ(FindActors()[0]->ConfiguratorData, Asset);

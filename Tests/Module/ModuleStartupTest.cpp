@@ -103,11 +103,7 @@ TEST_F(ModuleStartup, RegistersFourCommandsWithTheirTexts)
 		EXPECT_EQ(ToUtf8(*FTextInspector::GetKey(Command->GetDescription())), ToUtf8(Command->GetCommandName()) + "_ToolTip");
 		Texts.push_back(ToUtf8(Command->GetCommandName()) + ": " + ToUtf8(Command->GetLabel()) + " | " + ToUtf8(Command->GetDescription()));
 	}
-	EXPECT_THAT(Texts, ElementsAre(
-		"VelmorantCommand_OpenMenu: Register User | Open Velmorant Options",
-		"VelmorantPro_OpenProSettings: Velmorant Pro Settings | Open Velmorant Pro Settings panel",
-		"VelmorantPro_OpenProUISettings: Velmorant Pro UI Settings | Open Velmorant Pro UI Settings panel",
-		"VelmorantSDK_OpenSDKSettings: Velmorant SDK Settings | Open Velmorant SDK Settings panel"));
+	EXPECT_THAT(Texts, ElementsAre("VelmorantCommand_OpenMenu: Register User | Open Velmorant Options", "VelmorantPro_OpenProSettings: Velmorant Pro Settings | Open Velmorant Pro Settings panel", "VelmorantPro_OpenProUISettings: Velmorant Pro UI Settings | Open Velmorant Pro UI Settings panel", "VelmorantSDK_OpenSDKSettings: Velmorant SDK Settings | Open Velmorant SDK Settings panel"));
 }
 
 TEST_F(ModuleStartup, RegistersItsAssetCategory)
@@ -166,8 +162,7 @@ TEST_F(ModuleStartup, RegistersTheSameInEveryEditorOfOneProcess)
 TEST_F(ModuleStartup, ChecksOncePerMapRequestedBeforeInitialisationEnds)
 {
 	int32 FurtherRequests = 2;
-	FEditorDelegates::OnMapLoad.AddLambda([&FurtherRequests](const FString& Filename, FCanLoadMap& CanLoad)
-	{
+	FEditorDelegates::OnMapLoad.AddLambda([&FurtherRequests](const FString& Filename, FCanLoadMap& CanLoad) {
 		if (FurtherRequests > 0)
 		{
 			--FurtherRequests;

@@ -187,7 +187,9 @@ TEST_F(PanelInterface, LayoutsMustHaveEveryBoundWidget)
 	StartEditor();
 	TArray<HostWidgetLayout::FProblem> Problems;
 	EXPECT_FALSE(HostWidgetLayout::Read(TEXT(R"({"ParentClass": "/Script/VelmorantProEditor.VlmEWLoginUser", "Tree": {"Class": "VerticalBox", "Children": [
-		{"Class": "EditableText", "Name": "UserName"}, {"Class": "EditableText", "Name": "UserPassword"}, {"Class": "EditableText", "Name": "RememberUserCheckBox"}]}})"), Problems).IsValid());
+		{"Class": "EditableText", "Name": "UserName"}, {"Class": "EditableText", "Name": "UserPassword"}, {"Class": "EditableText", "Name": "RememberUserCheckBox"}]}})"),
+		Problems)
+					 .IsValid());
 	ASSERT_EQ(Problems.Num(), 2);
 	EXPECT_THAT(ToUtf8(Problems[0].Message), testing::AllOf(HasSubstr("VlmEWLoginUser"), HasSubstr("SummitButton")));
 	EXPECT_THAT(ToUtf8(Problems[1].Message), testing::AllOf(HasSubstr("VlmEWLoginUser"), HasSubstr("RememberUserCheckBox")));

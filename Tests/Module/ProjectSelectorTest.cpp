@@ -1,5 +1,6 @@
 // Copyright Velmorant. All Rights Reserved.
 
+#include "Components/ComboBoxString.h"
 #include "Components/EditableText.h"
 #include "Components/SizeBox.h"
 #include "EditorWidgets/VlmEWProjectSelector.h"
@@ -136,6 +137,15 @@ TEST_F(ProjectSelector, NoSelectionEmptiesTheFieldsAndTellsNobody)
 	EXPECT_EQ(UsersKeyCode(), "HT");
 }
 
+TEST_F(ProjectSelector, AnEmptyChoiceIsNone)
+{
+	FTestPanel Panel = MakeFilledPanel();
+	Panel.Choose(TEXT("ProjectSelection"), TEXT("Harbor Tower"));
+	Panel.Find<UComboBoxString>(TEXT("ProjectSelection"))->ClearSelection(); // raises an empty selection
+	EXPECT_EQ(SelectedKeyCode(Panel), "HT");
+	EXPECT_EQ(Panel.Read(TEXT("ProjectName")), "Harbor Tower");
+}
+
 TEST_F(ProjectSelector, OfTwoProjectsWithOneNameTheFirstIsMeant)
 {
 	WriteService(R"({"users": [{"userName": "ada", "password": "sesame-77", "projects": ["A", "B"]}], "projects": [{"keyCode": "A", "apiKey": "key-a", "name": "Twin"}, {"keyCode": "B", "apiKey": "key-b", "name": "TWIN"}]})");
@@ -265,12 +275,10 @@ TEST_F(ProjectSelector, FetchesAProjectAnewOnlyWhenToldTo)
 {
 	FTestPanel Panel = MakeFilledPanel();
 	int32 NumFetched = 0;
-	GetRequests()->GetOnUpdateRequest().AddLambda([&NumFetched](EUpdateRequestDataType DataType, EUpdateRequestType)
-	{
+	GetRequests()->GetOnUpdateRequest().AddLambda([&NumFetched](EUpdateRequestDataType DataType, EUpdateRequestType) {
 		NumFetched += DataType == EUpdateRequestDataType::ProjectData ? 1 : 0;
 	});
-	const auto ChooseAgain = [&Panel, this]
-	{
+	const auto ChooseAgain = [&Panel, this] {
 		Panel.Choose(TEXT("ProjectSelection"), TEXT("No Selection"));
 		Panel.Choose(TEXT("ProjectSelection"), TEXT("Harbor Tower"));
 		Wait(0.0);
@@ -313,8 +321,7 @@ TEST_F(ProjectSelector, ItsFieldsAreForReading)
 TEST_F(ProjectSelector, MakesTheWidgetsOfItsComboBox)
 {
 	const FTestPanel Panel = MakeFilledPanel();
-	const auto ExpectText = [](const UWidget* Widget)
-	{
+	const auto ExpectText = [](const UWidget* Widget) {
 		const UVlmText* Text = Cast<UVlmText>(Widget);
 		ASSERT_NE(Text, nullptr);
 		EXPECT_EQ(ToUtf8(Text->GetText()), "Harbor Tower");

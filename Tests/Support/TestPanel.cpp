@@ -20,8 +20,7 @@ namespace TestPanel
 	/** @param Name as it is to be recorded. */
 	UFunction::FScriptBody MakeRecorder(const FEvents& Events, const std::string& Name)
 	{
-		return [Events, Name](UObject*, FFrame& Stack, void*)
-		{
+		return [Events, Name](UObject*, FFrame& Stack, void*) {
 			const TArray<FProperty*> Parameters = Stack.Node->GetOwnProperties();
 			const FBoolProperty* Flag = Parameters.IsEmpty() ? nullptr : CastField<FBoolProperty>(Parameters[0]);
 			Events->push_back(!Flag ? Name : Name + (*Flag->ContainerPtrToValuePtr<bool>(Stack.Locals) ? "(true)" : "(false)"));

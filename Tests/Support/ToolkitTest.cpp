@@ -56,8 +56,7 @@ void FToolkitTest::WriteServiceWith(std::string_view Members) const
 
 void FToolkitTest::WriteConfigurators(std::string_view Configurators) const
 {
-	WriteService(std::string("{") + ToolkitTest::Users + R"(, "projects": [{"keyCode": "HT", "apiKey": "api-ht", "name": "Harbor Tower", "configurators": [)" + std::string(Configurators)
-		+ R"(]}, {"keyCode": "QV", "name": "Quay View"}]})");
+	WriteService(std::string("{") + ToolkitTest::Users + R"(, "projects": [{"keyCode": "HT", "apiKey": "api-ht", "name": "Harbor Tower", "configurators": [)" + std::string(Configurators) + R"(]}, {"keyCode": "QV", "name": "Quay View"}]})");
 }
 
 UVelmorantDeveloperUser* FToolkitTest::GetUser()

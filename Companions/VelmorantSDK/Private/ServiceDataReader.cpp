@@ -210,6 +210,10 @@ TOptional<FServiceData> ServiceDataReader::Read(const FString& Path, FString& Ou
 	{
 		OutError = FString::Printf(TEXT("%s: %s"), *Path, *DescribeParseError(Text, Error));
 	}
+	catch (const nlohmann::json::out_of_range& Error)
+	{
+		OutError = FString::Printf(TEXT("%s: this is not JSON: %s"), *Path, UTF8_TO_TCHAR(Error.what())); // a number that no type can hold
+	}
 	catch (const FServiceDocumentError& Error)
 	{
 		OutError = FString::Printf(TEXT("%s: %s"), *Path, UTF8_TO_TCHAR(Error.what()));

@@ -48,7 +48,12 @@ FString FServiceDocumentValue::AsString() const
 	{
 		Fail("must be a text");
 	}
-	return FString(UTF8_TO_TCHAR(Value.get_ref<const std::string&>().c_str()));
+	const FString Result(UTF8_TO_TCHAR(Value.get_ref<const std::string&>().c_str()));
+	if (Result.Len() > MaxTextLength)
+	{
+		Fail("must not be longer than " + std::to_string(MaxTextLength) + " characters");
+	}
+	return Result;
 }
 
 FString FServiceDocumentValue::GetName(const char* Name) const

@@ -71,6 +71,8 @@ public:
 	[[noreturn]] void Fail(const std::string& Problem) const;
 
 private:
+	static constexpr int32 MaxTextLength = 1000; // key codes and names are looked up as FName, which holds 1023 characters
+
 	void RequireObject() const;
 
 	const nlohmann::json& Value;

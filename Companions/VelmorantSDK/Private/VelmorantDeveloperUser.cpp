@@ -41,7 +41,8 @@ void UVelmorantDeveloperUser::RequestEditorUserProjects()
 		if (UVelmorantDeveloperUser* This = WeakThis.Get())
 		{
 			This->ReceiveProjects(bSuccess, Projects);
-		} });
+		}
+	});
 }
 
 void UVelmorantDeveloperUser::ReceiveProjects(bool bSuccess, const TArray<FProject>& Projects)

@@ -126,7 +126,8 @@ namespace CollisionCheck
 		bool bRestart = false;
 		EToolkitVerdict Verdict = RunEditor(Report, false, [&](EToolkitVerdict First) {
 			bRestart = First == EToolkitVerdict::Missing && HostProblems::GetAll().IsEmpty() && PressRepairButtons();
-			Written = HostFiles::GetWrittenFiles(); });
+			Written = HostFiles::GetWrittenFiles();
+		});
 		if (bRestart)
 		{
 			Verdict = RunEditor(Report, false, [&Written](EToolkitVerdict) { Written.Append(HostFiles::GetWrittenFiles()); });

@@ -69,7 +69,8 @@ namespace PanelTopic
 				{
 					Context.Unmask(Arguments.GetWordIndex(2));
 				}
-				return HostSnapshot::Type(Root, Widget, Arguments[2]); });
+				return HostSnapshot::Type(Root, Widget, Arguments[2]);
+			});
 		}
 
 		FStepResult Choose(FScriptContext& Context, const FScriptArguments& Arguments)
