@@ -2,6 +2,40 @@
 
 #include "VariantNameIndex.h"
 
+void FVariantNameIndex::FPositions::Add(int32 Position)
+{
+	if (First == INDEX_NONE || Position < First)
+	{
+		Swap(First, Position);
+	}
+	if (Position == INDEX_NONE)
+	{
+		return;
+	}
+	int32 At = Others.Num();
+	while (At > 0 && Others[At - 1] > Position)
+	{
+		--At;
+	}
+	Others.Insert(Position, At);
+}
+
+bool FVariantNameIndex::FPositions::Remove(int32 Position)
+{
+	if (Position != First)
+	{
+		Others.RemoveSingle(Position);
+		return false;
+	}
+	if (Others.IsEmpty())
+	{
+		return true;
+	}
+	First = Others[0];
+	Others.RemoveAt(0);
+	return false;
+}
+
 void FVariantNameIndex::Reset()
 {
 	Entries.Reset();
@@ -23,27 +57,19 @@ void FVariantNameIndex::ChangeText(const UObject* Element, const FString& NewTex
 	{
 		return;
 	}
-	TArray<int32>& OldPositions = Positions.FindOrAdd(Entry->Text);
-	OldPositions.RemoveSingle(Entry->Position);
-	if (OldPositions.IsEmpty())
+	if (Positions.FindOrAdd(Entry->Text).Remove(Entry->Position))
 	{
 		Positions.Remove(Entry->Text);
 		LowestNumbers.Reset(); // a number may have become free
 	}
-	TArray<int32>& NewPositions = Positions.FindOrAdd(NewText);
-	int32 At = NewPositions.Num();
-	while (At > 0 && NewPositions[At - 1] > Entry->Position)
-	{
-		--At;
-	}
-	NewPositions.Insert(Entry->Position, At);
+	Positions.FindOrAdd(NewText).Add(Entry->Position);
 	Entry->Text = NewText;
 }
 
 int32 FVariantNameIndex::FindText(const FString& Text) const
 {
-	const TArray<int32>* Found = Positions.Find(Text);
-	return Found != nullptr ? (*Found)[0] : INDEX_NONE;
+	const FPositions* Found = Positions.Find(Text);
+	return Found != nullptr ? Found->First : INDEX_NONE;
 }
 
 int32 FVariantNameIndex::FindElement(const UObject* Element) const

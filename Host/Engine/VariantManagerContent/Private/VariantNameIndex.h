@@ -40,6 +40,18 @@ private:
 	};
 
 	TMap<const UObject*, FEntry> Entries;
-	TMap<FString, TArray<int32>> Positions; // of the elements with that text, ascending; never empty
+	/** Positions of the elements with one text, ascending. Nearly always there is one only, and it is found without another step. */
+	struct FPositions
+	{
+		void Add(int32 Position);
+
+		/** @return whether none is left. */
+		bool Remove(int32 Position);
+
+		int32 First = INDEX_NONE;
+		TArray<int32> Others;
+	};
+
+	TMap<FString, FPositions> Positions; // never without a first one
 	TMap<FString, int32> LowestNumbers; // by prefix: no lower number is free
 };
