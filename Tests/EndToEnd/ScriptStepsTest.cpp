@@ -149,6 +149,7 @@ TEST_F(FScriptSteps, TheServiceCanComeFromAnotherFile)
 	std::string Data = Folder.Read("Project/VelmorantService.json");
 	Data.replace(Data.find("harbor-2026"), 11, "other-pass!");
 	Folder.Write("My Service.json", Data);
+	Folder.Write("Lucia.png", Folder.Read("Project/Lucia.png")); // the data file names it
 	std::string Script = SignIn;
 	Script.replace(Script.find("harbor-2026"), 11, "\"other-pass!\"");
 	Do(Script + "expect widget Dev LoginStatus value \"Signed in as lucia\"\n", {"--service", Folder.GetNative("My Service.json").string()});

@@ -23,4 +23,27 @@ namespace PanelLayouts
 			{"Class": "CheckBox", "Name": "ForceUpdateCheckBox"},
 			{"Class": "VlmButton", "Name": "SetAsDefault", "Properties": {"Label": "Set as default"}},
 			{"Class": "VlmButton", "Name": "CopyApyKey", "Properties": {"Label": "Copy"}}]}})";
+
+	inline const char* const DeveloperInfo = R"({
+		"ParentClass": "/Script/VelmorantProEditor.VlmEWDevInfo",
+		"Tree": {"Class": "VerticalBox", "Children": [
+			{"Class": "VlmImage", "Name": "DevImage"},
+			{"Class": "TextBlock", "Name": "DevName"},
+			{"Class": "TextBlock", "Name": "DevEmail"},
+			{"Class": "VlmButton", "Name": "LogoutButton", "Properties": {"Label": "Sign out"}}]}})";
+
+	inline const char* const ListDisplayer = R"({
+		"ParentClass": "/Script/VelmorantProEditor.VlmEWListDisplayer",
+		"Tree": {"Class": "VerticalBox", "Children": [
+			{"Class": "VlmButton", "Name": "HomeButton", "Properties": {"Label": "Home"}},
+			{"Class": "VlmButton", "Name": "SubSelectionButton", "Properties": {"Label": "Sub"}},
+			{"Class": "ComboBoxString", "Name": "ModeSelector"},
+			{"Class": "EditableText", "Name": "SearchText"},
+			{"Class": "VlmButton", "Name": "NavUnits", "Properties": {"Label": "Units", "bSelectable": true}},
+			{"Class": "VlmButton", "Name": "NavConfigurators", "Properties": {"Label": "Configurators", "bSelectable": true}},
+			{"Class": "ListView", "Name": "ItemList"}]}})";
+
+	inline const char* const MinimapTool = R"({
+		"ParentClass": "/Script/VelmorantProEditor.VlmEWMinimapTool",
+		"Tree": {"Class": "VerticalBox"}})";
 }

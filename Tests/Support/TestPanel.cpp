@@ -17,13 +17,29 @@ namespace TestPanel
 {
 	using FEvents = std::shared_ptr<std::vector<std::string>>;
 
+	/** The first argument as text, in parentheses; nothing for an event without, or with one that has no short text. */
+	std::string Describe(const FFrame& Stack)
+	{
+		const TArray<FProperty*> Parameters = Stack.Node->GetOwnProperties();
+		FProperty* First = Parameters.IsEmpty() ? nullptr : Parameters[0];
+		if (const FBoolProperty* Flag = CastField<FBoolProperty>(First))
+		{
+			return *Flag->ContainerPtrToValuePtr<bool>(Stack.Locals) ? "(true)" : "(false)";
+		}
+		if (!CastField<FIntProperty>(First) && !CastField<FStrProperty>(First) && !CastField<FEnumProperty>(First))
+		{
+			return "";
+		}
+		FString Text;
+		First->ExportTextItem_InContainer(Text, Stack.Locals, nullptr, nullptr, PPF_None);
+		return "(" + ToUtf8(Text) + ")";
+	}
+
 	/** @param Name as it is to be recorded. */
 	UFunction::FScriptBody MakeRecorder(const FEvents& Events, const std::string& Name)
 	{
 		return [Events, Name](UObject*, FFrame& Stack, void*) {
-			const TArray<FProperty*> Parameters = Stack.Node->GetOwnProperties();
-			const FBoolProperty* Flag = Parameters.IsEmpty() ? nullptr : CastField<FBoolProperty>(Parameters[0]);
-			Events->push_back(!Flag ? Name : Name + (*Flag->ContainerPtrToValuePtr<bool>(Stack.Locals) ? "(true)" : "(false)"));
+			Events->push_back(Name + Describe(Stack));
 		};
 	}
 
@@ -40,14 +56,14 @@ namespace TestPanel
 	}
 }
 
-FTestPanel::FTestPanel(const char* Layout, std::initializer_list<const TCHAR*> EventNames)
+FTestPanel::FTestPanel(const char* Layout, std::initializer_list<const TCHAR*> EventNames, UObject* Outer)
 	: Class(TestPanel::MakeClass(Layout))
 {
 	for (const TCHAR* Name : EventNames)
 	{
 		HostObjects::AddScriptFunction(Class.Get(), Name, TestPanel::MakeRecorder(Events, ToUtf8(FString(Name))));
 	}
-	Panel = TStrongObjectPtr<UUserWidget>(FHostUserWidgets::Create(nullptr, Class.Get()));
+	Panel = TStrongObjectPtr<UUserWidget>(FHostUserWidgets::Create(Outer, Class.Get()));
 }
 
 void FTestPanel::Show()

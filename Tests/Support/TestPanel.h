@@ -16,13 +16,16 @@
  * A panel of a layout of the test's own, on screen, with a person's hands on it.
  *
  * Its class is derived at run time, as a widget blueprint's is. The given Blueprint events are answered by recording them: "Name", or
- * "Name(true)" for one with a flag.
+ * "Name(true)" for one with a flag, a number, a text or an enumerator.
  */
 class FTestPanel
 {
 public:
-	/** The test fails when the layout does not fit its panel class. Nothing shows before Show(). */
-	FTestPanel(const char* Layout, std::initializer_list<const TCHAR*> Events);
+	/**
+	 * The test fails when the layout does not fit its panel class. Nothing shows before Show().
+	 * @param Outer of the panel, such as the world that it belongs to; null for none
+	 */
+	FTestPanel(const char* Layout, std::initializer_list<const TCHAR*> Events, UObject* Outer = nullptr);
 
 	/** Makes the Slate widget, which constructs the panel. */
 	void Show();

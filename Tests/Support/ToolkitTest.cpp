@@ -54,9 +54,14 @@ void FToolkitTest::WriteServiceWith(std::string_view Members) const
 	WriteService("{" + std::string(Members) + (Members.empty() ? "" : ", ") + ToolkitTest::Users + ", " + ToolkitTest::Projects + "}");
 }
 
+void FToolkitTest::WriteHarborTower(std::string_view Members) const
+{
+	WriteService(std::string("{") + ToolkitTest::Users + R"(, "projects": [{"keyCode": "HT", "apiKey": "api-ht", "name": "Harbor Tower", )" + std::string(Members) + R"(}, {"keyCode": "QV", "name": "Quay View"}]})");
+}
+
 void FToolkitTest::WriteConfigurators(std::string_view Configurators) const
 {
-	WriteService(std::string("{") + ToolkitTest::Users + R"(, "projects": [{"keyCode": "HT", "apiKey": "api-ht", "name": "Harbor Tower", "configurators": [)" + std::string(Configurators) + R"(]}, {"keyCode": "QV", "name": "Quay View"}]})");
+	WriteHarborTower(R"("configurators": [)" + std::string(Configurators) + "]");
 }
 
 UVelmorantDeveloperUser* FToolkitTest::GetUser()

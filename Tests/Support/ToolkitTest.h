@@ -48,6 +48,9 @@ protected:
 	/** Replaces the whole data file; the next request sees it. */
 	void WriteService(std::string_view Json) const { WriteProjectFile("Service.json", Json); }
 
+	/** A data file whose project Harbor Tower has further members, such as "unitGroups". */
+	void WriteHarborTower(std::string_view Members) const;
+
 	/** A data file whose project Harbor Tower has these configurators (JSON objects, comma separated). */
 	void WriteConfigurators(std::string_view Configurators) const;
 

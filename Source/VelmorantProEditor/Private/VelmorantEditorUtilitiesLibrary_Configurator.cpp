@@ -15,6 +15,7 @@
 #include "VelmorantProEditor.h"
 #include "VelmorantProjectRequestManager.h"
 #include "VelmorantSDKEngineSubsystem.h"
+#include "VelmorantSelectedProject.h"
 
 #include <cwctype>
 
@@ -35,14 +36,6 @@ namespace VelmorantConfiguratorAssets
 			}
 		}
 		return false;
-	}
-
-	/** The designer's selected project, or null at any missing link of the chain. */
-	UProjectWrapper* FindSelectedProject()
-	{
-		const UVelmorantDeveloperUser* EditorUser = UVelmorantSDKEngineSubsystem::GetVelmorantEditorUser(false);
-		const UVelmorantProjectRequestManager* RequestManager = EditorUser ? EditorUser->GetProjectRequestManager() : nullptr;
-		return RequestManager ? RequestManager->GetProjectWrapper() : nullptr;
 	}
 
 	void ReportLookUpFailure(const FString& Message)
@@ -117,7 +110,7 @@ void UVelmorantEditorUtilitiesLibrary::CreateConfiguratorDataAssetFromConfigurat
 	}
 
 	// A missing project does not end the operation: it then has no configurator either, and both failures are reported.
-	const UProjectWrapper* Project = VelmorantConfiguratorAssets::FindSelectedProject();
+	const UProjectWrapper* Project = VelmorantSelectedProject::Find();
 	if (!Project)
 	{
 		VelmorantConfiguratorAssets::ReportLookUpFailure(TEXT("Selected Project Wrapper is null. Please select a project first."));
@@ -157,7 +150,7 @@ bool UVelmorantEditorUtilitiesLibrary::UpdateConfiguratorDataAssetInfo(UVelmoran
 	}
 
 	const FName ConfiguratorName = ConfiguratorData->ConfiguratorName;
-	const UProjectWrapper* Project = VelmorantConfiguratorAssets::FindSelectedProject();
+	const UProjectWrapper* Project = VelmorantSelectedProject::Find();
 	UConfiguratorWrapper* Configurator = Project ? Project->GetConfiguratorByName(ConfiguratorName) : nullptr;
 	if (!Configurator || !Configurator->GetConfigtorUnitCollection().Contains(ConfiguratorName))
 	{

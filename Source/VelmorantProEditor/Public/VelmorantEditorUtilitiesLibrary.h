@@ -78,4 +78,12 @@ public:
 
 	UFUNCTION(BlueprintCallable, Category = "Editor|Velmorant|Configurator", meta = (ToolTip = "Creates a Level Variant Actor in the current level using the specified configurator data.\nIf a Level Variant Actor already exists in the level, it updates the existing actor with the provided configurator data.\nThis function also manages viewport focus and actor selection in the editor.\n@param ConfiguratorData The configurator data asset used to set up the Level Variant Actor.\n                       If null, the function returns without performing any action."))
 	static void CreateLevelVariantActorInLevel(UVelmorantConfiguratorDataAsset* ConfiguratorData);
+
+	/**
+	 * Gives each unit volume of the open level the identity of a unit of the target unit group: the last unit to the first volume
+	 * found, and so on until either runs out. For trying a level out before its volumes are assigned by hand.
+	 * @return false when there is no target, no unit or no volume.
+	 */
+	UFUNCTION(BlueprintCallable, Category = "Editor|Velmorant|UnitVolume")
+	static bool AssignRandomUnitsFromDataIntoLevel();
 };

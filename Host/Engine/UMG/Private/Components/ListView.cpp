@@ -108,6 +108,11 @@ void UListView::ClearListItems()
 	OnItemsChanged();
 }
 
+void UListView::BP_SetListItems(const TArray<UObject*>& InListItems)
+{
+	SetListItems(InListItems);
+}
+
 void UListView::OnItemsChanged()
 {
 	RequestRefresh();

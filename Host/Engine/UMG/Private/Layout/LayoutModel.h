@@ -85,6 +85,7 @@ struct FLayoutAction
 	TOptional<FLayoutCondition> When;
 	FName Widget; // None: the panel itself
 	FName Member; // property or function
+	UClass* Library = nullptr; // Call: the native class of a static function, instead of a widget
 
 	TSharedPtr<const FLayoutValue> To; // Set
 	TArray<FLayoutAssignment> Arguments; // Call

@@ -50,6 +50,7 @@ private:
 	bool ReadArguments(const FJson& Json, const FString& Pointer, UFunction& Function, FLayoutAction& OutAction);
 	/** "Widget.Member", or "Member" of the panel. Null when there is no such widget. */
 	UClass* ReadTarget(const FJson& Json, const FString& Pointer, FLayoutAction& OutAction);
+	UClass* ReadLibrary(const FString& Text, const FString& Pointer, FLayoutAction& OutAction);
 
 	//~ Values
 	TSharedPtr<FLayoutValue> ReadValue(const FJson& Json, const FString& Pointer);

@@ -101,6 +101,28 @@ UClass* FLayoutReader::ReadTarget(const FJson& Json, const FString& Pointer, FLa
 	return Class;
 }
 
+/** "/Script/Module.Class.Function": a static function that Blueprints can call. */
+UClass* FLayoutReader::ReadLibrary(const FString& Text, const FString& Pointer, FLayoutAction& OutAction)
+{
+	int32 Dot = INDEX_NONE;
+	Text.FindLastChar(TEXT('.'), Dot);
+	const FString ClassPath = Text.Left(Dot);
+	OutAction.Member = FName(*Text.RightChop(Dot + 1));
+	OutAction.Library = FindObject<UClass>(nullptr, *ClassPath);
+	if (!OutAction.Library)
+	{
+		Complain(Pointer, FString::Printf(TEXT("there is no class '%s'"), *ClassPath));
+		return nullptr;
+	}
+	const UFunction* Function = OutAction.Library->FindFunctionByName(OutAction.Member);
+	if (Function && !Function->HasAllFunctionFlags(static_cast<EFunctionFlags>(FUNC_Static | FUNC_BlueprintCallable)))
+	{
+		Complain(Pointer, FString::Printf(TEXT("'%s' is no static function that Blueprints can call"), *OutAction.Member.ToString()));
+		return nullptr;
+	}
+	return OutAction.Library;
+}
+
 bool FLayoutReader::ReadSet(const FJson& Json, const FString& Pointer, FLayoutAction& OutAction)
 {
 	OutAction.Kind = FLayoutAction::EKind::Set;
@@ -135,7 +157,8 @@ bool FLayoutReader::ReadCall(const FJson& Json, const FString& Pointer, FLayoutA
 {
 	OutAction.Kind = FLayoutAction::EKind::Call;
 	const FString CallPointer = LayoutPointer::Child(Pointer, std::string("Call"));
-	UClass* Class = ReadTarget(Json["Call"], CallPointer, OutAction);
+	const FString Text = LayoutReaderActions::ScalarText(Json["Call"]).Get(FString());
+	UClass* Class = Text.StartsWith(TEXT("/")) ? ReadLibrary(Text, CallPointer, OutAction) : ReadTarget(Json["Call"], CallPointer, OutAction);
 	if (!Class)
 	{
 		return false;

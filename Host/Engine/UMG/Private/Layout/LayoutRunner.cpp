@@ -43,7 +43,7 @@ namespace LayoutRunner
 
 	static void Call(const FLayoutAction& Action, const FLayoutScope& Scope)
 	{
-		UObject* Target = Scope.FindTarget(Action.Widget);
+		UObject* Target = Action.Library ? Action.Library->GetDefaultObject() : Scope.FindTarget(Action.Widget);
 		UFunction* Function = Target ? Target->FindFunction(Action.Member) : nullptr;
 		if (!Function)
 		{

@@ -76,6 +76,10 @@ protected:
 	void HandleSelectionChanged(UObject* Item, ESelectInfo::Type SelectInfo);
 
 private:
+	/** SetListItems() for Blueprints. */
+	UFUNCTION(BlueprintCallable, Category = "ListView", meta = (DisplayName = "Set List Items", AllowPrivateAccess = "true"))
+	void BP_SetListItems(const TArray<UObject*>& InListItems);
+
 	TSharedPtr<SListView<UObject*>> GetList() const;
 	TSharedRef<SWidget> MakeEntry(UObject* Item);
 

@@ -1,0 +1,287 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "EditorWidgets/VlmEWListDisplayer.h"
+
+#include "Components/ComboBoxString.h"
+#include "Components/EditableText.h"
+#include "Components/ListView.h"
+#include "ConfiguratorWrapper.h"
+#include "ProjectWrapper.h"
+#include "UnitGroupWrapper.h"
+#include "VelmorantDeveloperUser.h"
+#include "VelmorantProjectRequestManager.h"
+#include "VelmorantSDKEngineSubsystem.h"
+#include "VlmButton.h"
+
+namespace VlmEWListDisplayer
+{
+	const int32 NoUnit = -1;
+
+	/** A row matches when its key code and name, joined without a separator, contain the text. */
+	bool Matches(const UListDisplayerItemBase& Row, const FString& Text)
+	{
+		return (Row.Keycode + Row.DisplayName).Contains(Text, ESearchCase::IgnoreCase, ESearchDir::FromStart);
+	}
+}
+
+void UVlmEWListDisplayer::NativeConstruct()
+{
+	Super::NativeConstruct();
+
+	if (ModeSelector)
+	{
+		ModeSelector->ClearOptions();
+		ModeSelector->AddOption(TEXT("Promotion"));
+		ModeSelector->AddOption(TEXT("Configurator"));
+		ModeSelector->OnSelectionChanged.AddUniqueDynamic(this, &UVlmEWListDisplayer::ReceivedModeSelectorChange);
+	}
+	if (HomeButton)
+	{
+		HomeButton->OnButtonClicked.AddUniqueDynamic(this, &UVlmEWListDisplayer::ReceivedHomeButtonClicked);
+	}
+	SearchText->OnTextChanged.AddUniqueDynamic(this, &UVlmEWListDisplayer::ReceivedSearchTextChange);
+
+	// A native event knows no unique adds: without the removal, a second construction would bind twice.
+	ItemList->OnItemClicked().RemoveAll(this);
+	ItemList->OnItemClicked().AddUObject(this, &UVlmEWListDisplayer::ReceivedItemClicked);
+}
+
+void UVlmEWListDisplayer::ActivateDataPanel_Implementation()
+{
+	UVelmorantProjectRequestManager* RequestManager = GetRequestManager();
+	if (!RequestManager)
+	{
+		return;
+	}
+
+	if (IsProjectSelected())
+	{
+		SetUnitGroupList();
+	}
+	// A plain add on purpose: every activation adds a handler, and all of them run on each update.
+	RequestManager->GetOnUpdateRequest().AddUObject(this, &UVlmEWListDisplayer::Received_UpdateRequestData);
+}
+
+void UVlmEWListDisplayer::Received_UpdateRequestData(EUpdateRequestDataType DataType, EUpdateRequestType)
+{
+	if (DataType == EUpdateRequestDataType::ProjectData)
+	{
+		ResetCurrentSelectionLevel();
+		RefreshListView();
+	}
+}
+
+void UVlmEWListDisplayer::RefreshListView()
+{
+	switch (CurrentSelectionLevel)
+	{
+		case UnitGroupLevel:
+			SetUnitGroupList();
+			break;
+		case UnitLevel:
+			SetUnitList();
+			break;
+		case ConfiguratorLevel:
+			SetConfiguratorList();
+			break;
+		default:
+			break;
+	}
+	RaiseListCount();
+}
+
+void UVlmEWListDisplayer::ResetCurrentSelectionLevel()
+{
+	CurrentSelectionLevel = UnitGroupLevel;
+}
+
+void UVlmEWListDisplayer::DisplayUnitGroups()
+{
+	ResetCurrentSelectionLevel();
+	SetUnitGroupList();
+	RaiseListCount();
+}
+
+void UVlmEWListDisplayer::ReceivedHomeButtonClicked(FName)
+{
+	DisplayUnitGroups();
+}
+
+void UVlmEWListDisplayer::ReceivedModeSelectorChange(FString SelectedItem, ESelectInfo::Type)
+{
+	OnModeSelectionChange(SelectedItem);
+	DisplayUnitGroups();
+}
+
+void UVlmEWListDisplayer::DisplayUnitsFromUnitGroupTarget()
+{
+	SetUnitList();
+}
+
+void UVlmEWListDisplayer::DisplayConfiguratorFromUnitGroupTarget()
+{
+	SetConfiguratorList();
+}
+
+void UVlmEWListDisplayer::ReceivedItemClicked(UObject* Item)
+{
+	const UListDisplayerItemBase* Row = Cast<UListDisplayerItemBase>(Item);
+	if (!Row || Row->ItemBaseType != ELDIT_UnitGroup)
+	{
+		return;
+	}
+
+	CurrentSelectionLevel = UnitLevel;
+	if (UVelmorantProjectRequestManager* RequestManager = GetRequestManager())
+	{
+		RequestManager->SetSelectedUnitGroup(FName(Row->Keycode));
+	}
+	RefreshListView();
+}
+
+void UVlmEWListDisplayer::SetNavBarButtons(const TArray<UVlmButton*>& InNavBarButtons)
+{
+	NavButtonList.Reset();
+	for (UVlmButton* Button : InNavBarButtons)
+	{
+		NavButtonList.Add(Button);
+		Button->OnSelectionStateChanged.AddUniqueDynamic(this, &UVlmEWListDisplayer::Received_NavBarButtonChange);
+	}
+}
+
+void UVlmEWListDisplayer::SetNavBarByIndex(int32 InIndex)
+{
+	if (NavButtonList.IsValidIndex(InIndex))
+	{
+		NavButtonList[InIndex]->SetSelectionState(true, true);
+	}
+}
+
+void UVlmEWListDisplayer::Received_NavBarButtonChange(UVlmButton* ButtonChanged, bool bSelected)
+{
+	if (!bSelected || !IsProjectSelected() || !IsUnitGroupTarget())
+	{
+		return;
+	}
+
+	for (UVlmButton* Button : NavButtonList)
+	{
+		if (Button != ButtonChanged)
+		{
+			Button->SetSelectionState(false, true);
+		}
+	}
+	OnNavBarButtonChanged(NavButtonList.IndexOfByPredicate([](const TObjectPtr<UVlmButton>& Button) { return Button->IsButtonSelected(); }));
+}
+
+void UVlmEWListDisplayer::ReceivedSearchTextChange(const FText& Text)
+{
+	if (Text.IsEmpty())
+	{
+		ItemList->SetListItems(CurrentElemetsList);
+	}
+	else
+	{
+		const FString SearchString = Text.ToString();
+		ItemList->SetListItems(CurrentElemetsList.FilterByPredicate([&SearchString](const TObjectPtr<UListDisplayerItemBase>& Row) {
+			return VlmEWListDisplayer::Matches(*Row, SearchString);
+		}));
+	}
+	RaiseListCount();
+}
+
+void UVlmEWListDisplayer::ClearSearchText()
+{
+	if (SearchText)
+	{
+		SearchText->SetText(FText::GetEmpty());
+	}
+	ReceivedSearchTextChange(FText::GetEmpty());
+}
+
+void UVlmEWListDisplayer::SetUnitGroupList()
+{
+	TArray<TObjectPtr<UListDisplayerItemBase>> Rows;
+	if (const UProjectWrapper* Project = GetProject())
+	{
+		for (const FUnitGroupData& UnitGroup : Project->GetUnitGroupListData())
+		{
+			Rows.Add(UListDisplayerItemBase::CreateListDisplayerItemBase(VlmEWListDisplayer::NoUnit, UnitGroup.KeyCode, UnitGroup.Name, ELDIT_UnitGroup));
+		}
+	}
+	SetRows(Rows, ELDIT_UnitGroup);
+}
+
+void UVlmEWListDisplayer::SetUnitList()
+{
+	TArray<TObjectPtr<UListDisplayerItemBase>> Rows;
+	const UProjectWrapper* Project = GetProject();
+	if (const UUnitGroupWrapper* Target = Project ? Project->GetUnitGroupTarget() : nullptr)
+	{
+		TArray<FUnitData> Units = Target->GetUnitListData();
+		Units.Sort([](const FUnitData& Left, const FUnitData& Right) { return Left.UnitID < Right.UnitID; });
+		for (const FUnitData& Unit : Units)
+		{
+			Rows.Add(UListDisplayerItemBase::CreateListDisplayerItemBase(Unit.UnitID, Unit.KeyCode, Unit.Name, ELDIT_Unit));
+		}
+	}
+	SetRows(Rows, ELDIT_Unit);
+}
+
+void UVlmEWListDisplayer::SetConfiguratorList()
+{
+	TArray<TObjectPtr<UListDisplayerItemBase>> Rows;
+	if (const UProjectWrapper* Project = GetProject())
+	{
+		for (const UConfiguratorWrapper* Configurator : Project->GetConfigurators())
+		{
+			for (const FVelmorantConfiguratorUnitGroup& Entry : Configurator->GetConfigtorUnitGroupCollection())
+			{
+				Rows.Add(UListDisplayerItemBase::CreateListDisplayerItemBase(VlmEWListDisplayer::NoUnit, Entry.Key, Entry.Name, ELDIT_Configurator));
+			}
+		}
+	}
+	SetRows(Rows, ELDIT_Configurator);
+}
+
+void UVlmEWListDisplayer::SetRows(const TArray<TObjectPtr<UListDisplayerItemBase>>& Rows, EListDisplayItemType Type)
+{
+	// The search text is not applied again on purpose: a rebuilt list shows all its rows.
+	CurrentElemetsList = Rows;
+	ItemList->SetListItems(CurrentElemetsList);
+	OnSelectionTypeChange(Type);
+}
+
+void UVlmEWListDisplayer::RaiseListCount()
+{
+	OnListCountChange(ItemList->GetNumItems());
+}
+
+bool UVlmEWListDisplayer::IsProjectSelected() const
+{
+	const UProjectWrapper* Project = GetProject();
+	return Project && !Project->GetProjectData().ApiKey.IsEmpty();
+}
+
+bool UVlmEWListDisplayer::IsUnitGroupTarget() const
+{
+	const UProjectWrapper* Project = GetProject();
+	return Project && Project->HasUnitGroupTarget();
+}
+
+FString UVlmEWListDisplayer::GetUnitGroupTargetName() const
+{
+	return IsUnitGroupTarget() ? GetProject()->GetUnitGroupTarget()->GetUnitGroupData().Name : FString();
+}
+
+UVelmorantProjectRequestManager* UVlmEWListDisplayer::GetRequestManager() const
+{
+	const UVelmorantDeveloperUser* EditorUser = UVelmorantSDKEngineSubsystem::GetVelmorantEditorUser(false);
+	return EditorUser ? EditorUser->GetProjectRequestManager() : nullptr;
+}
+
+UProjectWrapper* UVlmEWListDisplayer::GetProject() const
+{
+	const UVelmorantProjectRequestManager* RequestManager = GetRequestManager();
+	return RequestManager ? RequestManager->GetProjectWrapper() : nullptr;
+}

@@ -1,0 +1,14 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "VelmorantSelectedProject.h"
+
+#include "VelmorantDeveloperUser.h"
+#include "VelmorantProjectRequestManager.h"
+#include "VelmorantSDKEngineSubsystem.h"
+
+UProjectWrapper* VelmorantSelectedProject::Find()
+{
+	const UVelmorantDeveloperUser* EditorUser = UVelmorantSDKEngineSubsystem::GetVelmorantEditorUser(false);
+	const UVelmorantProjectRequestManager* RequestManager = EditorUser ? EditorUser->GetProjectRequestManager() : nullptr;
+	return RequestManager ? RequestManager->GetProjectWrapper() : nullptr;
+}

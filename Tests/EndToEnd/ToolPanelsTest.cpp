@@ -1,0 +1,104 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "ProjectOnDisk.h"
+
+/** The panels of the toolkit's own content, on the sample. */
+class FToolPanels : public FProjectOnDisk
+{
+protected:
+	FToolPanels() { CopySample(); }
+
+	void Do(const std::string& Script) const
+	{
+		const FProgramResult Result = RunScript(Script);
+		EXPECT_EQ(Result.ExitStatus, 0) << Result.Output << Result.Errors;
+		EXPECT_EQ(Result.Errors.find("/EditorHelpers/"), std::string::npos) << Result.Errors; // a layout with a fault
+	}
+
+	/** Signed in, with the project's data there. */
+	static inline const std::string SignIn =
+		"open /VelmorantPro/EditorHelpers/DeveloperPanel/VelmorantDeveloperPanel as Dev\n"
+		"expect widget Dev LogoutButton state hidden\n"
+		"type Dev UserName lucia\n"
+		"type Dev UserPassword harbor-2026\n"
+		"click Dev SummitButton\n"
+		"wait 1\n"
+		"choose Dev ProjectSelection \"Harbor Tower\"\n"
+		"wait 1\n";
+
+	static inline const std::string OpenVolumeTools = "open /VelmorantPro/EditorHelpers/ToolsWidget/UnitVolumeTools/VelmorantEditorTool_StaticMeshToUnitVolume as Volumes\n";
+};
+
+TEST_F(FToolPanels, ShowsTheDeveloperAndSignsOut)
+{
+	Do(SignIn +
+		"expect widget Dev DevName value \"Lucía Ferrer\"\n"
+		"expect widget Dev DevEmail value lucia.ferrer@harbortower.example\n"
+		"expect widget Dev CheckedState state unchecked\n"
+		"check Dev CheckedState\n"
+		"open /VelmorantPro/EditorHelpers/DeveloperPanel/DeveloperInfoPanel as Info\n"
+		"expect widget Info CheckedState state checked\n"
+		"print snapshot Dev\n"
+		"click Dev LogoutButton\n"
+		"expect widget Dev LogoutButton state hidden\n");
+}
+
+TEST_F(FToolPanels, BrowsesTheProject)
+{
+	Do(SignIn +
+		"expect widget Dev ListTitle value \"Unit groups\"\n"
+		"expect widget Dev ListCount value \"3 entries\"\n"
+		"choose Dev ItemList \"Torre Brisa\"\n"
+		"expect widget Dev ListTitle value \"Units of Torre Brisa\"\n"
+		"expect widget Dev ListCount value \"72 entries\"\n"
+		"type Dev SearchText 02atorre\n" // across key code and name
+		"expect widget Dev ListCount value \"1 entries\"\n"
+		"click Dev ClearSearch\n"
+		"expect widget Dev ListCount value \"72 entries\"\n"
+		"click Dev NavConfigurators\n"
+		"expect widget Dev ListTitle value \"Unit groups of the configurators\"\n"
+		"expect widget Dev ListCount value \"4 entries\"\n"
+		"click Dev NavUnits\n"
+		"expect widget Dev ListTitle value \"Units of Torre Brisa\"\n"
+		"click Dev HomeButton\n"
+		"expect widget Dev ListCount value \"3 entries\"\n"
+		"print snapshot Dev\n");
+}
+
+TEST_F(FToolPanels, FindsDuplicatedVolumesAndAssignsUnits)
+{
+	const std::string Find = "click Volumes CheckDuplications\nwait 0\nprint snapshot Volumes\n";
+	Do(SignIn + OpenVolumeTools + Find +
+		"expect widget Volumes DuplicationCount value \"2 identifiers are used more than once\"\n"
+		"expect widget Volumes HT-B-01B\n"
+		"expect widget Volumes HT-C-01A\n"
+		"choose Dev ItemList \"Torre Brisa\"\n"
+		"click Volumes AssignUnits\n"
+		"expect property actor:UnitVolumeActor UniqueIdentifier.UnitID 2183\n"
+		"expect property actor:UnitVolumeActor UniqueIdentifier.Keycode HT-B-18D\n"
+		"expect unsaved /Game/Maps/HarborTower\n" +
+		Find +
+		"expect widget Volumes DuplicationCount value \"2 identifiers are used more than once\"\n" // until the panel is closed
+		"close Volumes\n" +
+		OpenVolumeTools + Find +
+		"expect widget Volumes DuplicationCount value \"0 identifiers are used more than once\"\n"
+		"discard\n");
+}
+
+TEST_F(FToolPanels, SwitchesTheFloorsOfTheMinimap)
+{
+	Do("open /VelmorantPro/EditorHelpers/MinimapTool/VelmorantMinimapTool as Map\n"
+	   "print snapshot Map\n"
+	   "expect widget Map MinimapStatus value \"The level has a minimap\"\n"
+	   "expect widget Map ActiveFloor value \"Active floor: -1\"\n"
+	   "type Map FloorIndex 2\n"
+	   "click Map ActivateFloor\n"
+	   "expect widget Map ActiveFloor value \"Active floor: 2\"\n"
+	   "type Map FloorIndex 3\n" // there is none
+	   "click Map ActivateFloor\n"
+	   "expect widget Map ActiveFloor value \"Active floor: 2\"\n"
+	   "new level\n"
+	   "click Map ScanLevel\n"
+	   "expect widget Map MinimapStatus value \"The level has no minimap with floors\"\n"
+	   "expect widget Map ActivateFloor state disabled\n");
+}
