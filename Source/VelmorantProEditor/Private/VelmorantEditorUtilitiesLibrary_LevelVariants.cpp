@@ -183,14 +183,19 @@ void UVelmorantEditorUtilitiesLibrary::CreateVariantSetFromConfigurator(UVelmora
 
 bool UVelmorantEditorUtilitiesLibrary::FillOutLevelVariantWithConfigurator(UVelmorantConfiguratorDataAsset* ConfiguratorData, ULevelVariantSets* LevelVariantSets)
 {
-	const TArray<FVelmorantConfigRoom> Rooms = ConfiguratorData ? ConfiguratorData->ConfiguratorUnit.Rooms : TArray<FVelmorantConfigRoom>();
 	if (!LevelVariantSets)
 	{
 		NotifyPopup(TEXT("Fail to Fill Out Level Variant"), TEXT("Level variant is null"), SNotificationItem::CS_Fail, VelmorantLevelVariants::OutcomeSeconds);
 		return false;
 	}
 
-	for (const FVelmorantConfigRoom& Room : Rooms)
+	if (!ConfiguratorData)
+	{
+		return true; // nothing to add
+	}
+
+	// Read in place: nothing below changes the record, and large configurators are costly to copy.
+	for (const FVelmorantConfigRoom& Room : ConfiguratorData->ConfiguratorUnit.Rooms)
 	{
 		for (const FVelmorantConfigGroup& Group : Room.Groups)
 		{
