@@ -38,44 +38,65 @@ bool FVariantNameIndex::FPositions::Remove(int32 Position)
 
 void FVariantNameIndex::Reset()
 {
-	Entries.Reset();
+	ElementPositions.Reset();
+	Texts.Reset();
 	Positions.Reset();
 	LowestNumbers.Reset();
+	LikelyNext = 0;
+	bTextsMayRepeat = false;
 }
 
 void FVariantNameIndex::Append(const UObject* Element, const FString& Text)
 {
-	const int32 Position = Entries.Num();
-	Entries.Add(Element, FEntry{Text, Position});
-	Positions.FindOrAdd(Text).Add(Position);
+	const int32 Position = Texts.Add(Text);
+	ElementPositions.Add(Element, Position);
+	AddPosition(Text, Position);
+}
+
+void FVariantNameIndex::AddPosition(const FString& Text, int32 Position)
+{
+	FPositions& Found = Positions.FindOrAdd(Text);
+	Found.Add(Position);
+	bTextsMayRepeat = bTextsMayRepeat || !Found.Others.IsEmpty();
 }
 
 void FVariantNameIndex::ChangeText(const UObject* Element, const FString& NewText)
 {
-	FEntry* Entry = Entries.Find(Element);
-	if (Entry == nullptr || Entry->Text.Equals(NewText))
+	const int32 Position = FindElement(Element);
+	if (Position == INDEX_NONE || Texts[Position].Equals(NewText))
 	{
 		return;
 	}
-	if (Positions.FindOrAdd(Entry->Text).Remove(Entry->Position))
+	if (Positions.FindOrAdd(Texts[Position]).Remove(Position))
 	{
-		Positions.Remove(Entry->Text);
+		Positions.Remove(Texts[Position]);
 		LowestNumbers.Reset(); // a number may have become free
 	}
-	Positions.FindOrAdd(NewText).Add(Entry->Position);
-	Entry->Text = NewText;
+	AddPosition(NewText, Position);
+	Texts[Position] = NewText;
 }
 
 int32 FVariantNameIndex::FindText(const FString& Text) const
 {
+	if (!bTextsMayRepeat && Texts.IsValidIndex(LikelyNext) && Texts[LikelyNext] == Text)
+	{
+		const int32 Position = LikelyNext;
+		LikelyNext = (Position + 1) % Texts.Num();
+		return Position;
+	}
 	const FPositions* Found = Positions.Find(Text);
-	return Found != nullptr ? Found->First : INDEX_NONE;
+	if (Found == nullptr)
+	{
+		return INDEX_NONE;
+	}
+	LikelyNext = (Found->First + 1) % Texts.Num();
+	return Found->First;
 }
 
 int32 FVariantNameIndex::FindElement(const UObject* Element) const
 {
-	const FEntry* Entry = Entries.Find(Element);
-	return Entry != nullptr ? Entry->Position : INDEX_NONE;
+	const int32* Position = ElementPositions.Find(Element);
+	return Position != nullptr ? *Position : INDEX_NONE;
 }
 
 FString FVariantNameIndex::MakeUniqueText(const FString& Prefix)

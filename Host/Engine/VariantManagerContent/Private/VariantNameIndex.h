@@ -15,7 +15,7 @@ class FVariantNameIndex
 public:
 	void Reset();
 
-	int32 Num() const { return Entries.Num(); }
+	int32 Num() const { return Texts.Num(); }
 
 	/** For the element that was put behind all others. */
 	void Append(const UObject* Element, const FString& Text);
@@ -33,13 +33,6 @@ public:
 	FString MakeUniqueText(const FString& Prefix);
 
 private:
-	struct FEntry
-	{
-		FString Text;
-		int32 Position;
-	};
-
-	TMap<const UObject*, FEntry> Entries;
 	/** Positions of the elements with one text, ascending. Nearly always there is one only, and it is found without another step. */
 	struct FPositions
 	{
@@ -52,6 +45,14 @@ private:
 		TArray<int32> Others;
 	};
 
+	void AddPosition(const FString& Text, int32 Position);
+
+	TMap<const UObject*, int32> ElementPositions;
+	TArray<FString> Texts; // by position
 	TMap<FString, FPositions> Positions; // never without a first one
 	TMap<FString, int32> LowestNumbers; // by prefix: no lower number is free
+
+	/** Lists are mostly asked for their texts in order: the one behind the last found is tried before anything is hashed. */
+	mutable int32 LikelyNext = 0;
+	bool bTextsMayRepeat = false; // then the first of equal ones counts, and guessing is no use
 };
