@@ -23,6 +23,7 @@
 #include "Misc/ConfigCacheIni.h"
 #include "Misc/Paths.h"
 #include "Modules/ModuleManager.h"
+#include "ToolbarHost.h"
 
 #include <cstdlib>
 
@@ -57,6 +58,7 @@ FEditorHost::FEditorHost(const FEditorHostOptions& Options)
 	BringUpEngine(Options);
 	LoadPluginModules();
 	HostDelayedRegistration::RunUpTo(EDelayedRegisterRunPhase::EndOfEngineInit);
+	FToolbarHost::Register();
 	HostToolMenus::Start();
 	OpenStartupMap();
 	HostEditor::FinishInitialization(HostClock::Now());

@@ -8,6 +8,7 @@
 #include "EditorUtilityWidget.h"
 #include "EditorUtilityWidgetBlueprint.h"
 #include "HostPackages.h"
+#include "HostTabs.h"
 #include "HostUserWidgets.h"
 #include "WidgetBlueprint.h"
 
@@ -107,7 +108,40 @@ void FPanelHost::CloseAll()
 	}
 }
 
-const FPanelHost::FPanel* FPanelHost::Find(const FString& Name) const
+const FPanelHost::FPanel* FPanelHost::Find(const FString& Name)
 {
-	return Panels.FindByPredicate([&Name](const FPanel& Panel) { return Panel.Name == Name; });
+	DropClosedTabs();
+	const auto IsMeant = [&Name](const FPanel& Panel) { return Panel.Name == Name; };
+	if (!Panels.ContainsByPredicate(IsMeant))
+	{
+		TakeOverTab(Name);
+	}
+	return Panels.FindByPredicate(IsMeant);
+}
+
+void FPanelHost::TakeOverTab(const FString& Name)
+{
+	const FHostTab Tab = Name.IsEmpty() ? FHostTab() : HostTabs::Find(Name);
+	if (Tab.Content.IsValid())
+	{
+		FPanel& Panel = Panels.AddDefaulted_GetRef();
+		Panel.Name = Name;
+		Panel.Widget.Reset(Tab.Panel);
+		Panel.Content = Tab.Content;
+		Panel.Tab = Tab.Id;
+	}
+}
+
+void FPanelHost::DropClosedTabs()
+{
+	UEditorUtilitySubsystem* Subsystem = GEditor != nullptr ? GEditor->GetEditorSubsystem<UEditorUtilitySubsystem>() : nullptr;
+	for (int32 Index = Panels.Num() - 1; Subsystem != nullptr && Index >= 0; --Index)
+	{
+		if (!Panels[Index].Tab.IsNone() && !Subsystem->DoesTabExist(Panels[Index].Tab))
+		{
+			FPanel Panel = Panels[Index];
+			Panels.RemoveAt(Index);
+			Panel.Content.Reset(); // before the widget: its Slate widgets refer to it
+		}
+	}
 }

@@ -45,12 +45,18 @@ public:
 	bool Close(const FString& Name);
 	void CloseAll();
 
-	/** Null when there is no such panel. Good until panels are opened or closed. */
-	const FPanel* Find(const FString& Name) const;
+	/**
+	 * Null when there is no such panel. Good until panels are opened or closed. A tab that something else opened, such as a menu entry,
+	 * is a panel from then on, under its label.
+	 */
+	const FPanel* Find(const FString& Name);
 
 	/** In order of opening. */
 	const TArray<FPanel>& GetAll() const { return Panels; }
 
 private:
+	void TakeOverTab(const FString& Name);
+	void DropClosedTabs();
+
 	TArray<FPanel> Panels;
 };

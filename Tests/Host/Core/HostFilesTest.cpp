@@ -306,4 +306,41 @@ namespace
 		EXPECT_TRUE(Files.Delete(*Folder.Get("ReadOnly"), false, true));
 		EXPECT_FALSE(Folder.Exists("ReadOnly"));
 	}
+
+	TEST_F(HostFilesTest, TheFileManagerCopiesOverWhatMayBeReplaced)
+	{
+		const std::string Bytes("a\0b\n", 4);
+		Folder.Write("Source", Bytes);
+		Folder.Write("Old", "old");
+		Folder.Write("ReadOnly", "old");
+		SetMode("ReadOnly", 0444);
+		IFileManager& Files = IFileManager::Get();
+		EXPECT_EQ(Files.Copy(*Folder.Get("New/Deep/Copy"), *Folder.Get("Source")), static_cast<uint32>(COPY_OK));
+		EXPECT_EQ(Folder.Read("New/Deep/Copy"), Bytes);
+		EXPECT_EQ(Files.Copy(*Folder.Get("Old"), *Folder.Get("Source"), false), static_cast<uint32>(COPY_Fail));
+		EXPECT_EQ(Folder.Read("Old"), "old");
+		EXPECT_EQ(Files.Copy(*Folder.Get("Old"), *Folder.Get("Source")), static_cast<uint32>(COPY_OK));
+		EXPECT_EQ(Folder.Read("Old"), Bytes);
+		EXPECT_EQ(Files.Copy(*Folder.Get("ReadOnly"), *Folder.Get("Source")), static_cast<uint32>(COPY_Fail));
+		EXPECT_EQ(Files.Copy(*Folder.Get("ReadOnly"), *Folder.Get("Source"), true, true), static_cast<uint32>(COPY_OK));
+		EXPECT_EQ(Files.Copy(*Folder.Get("Old"), *Folder.Get("Nowhere")), static_cast<uint32>(COPY_Fail));
+		EXPECT_EQ(Folder.Read("Old"), Bytes);
+	}
+
+	TEST_F(HostFilesTest, TheFileManagerFindsFilesByExtension)
+	{
+		for (const char* Name : {"Fonts/b.ttf", "Fonts/a.ttf", "Fonts/a.woff2", "Fonts/attf", "Fonts/Deep/c.ttf"})
+		{
+			Folder.Write(Name, "");
+		}
+		const auto Find = [this](const TCHAR* Extension) {
+			TArray<FString> Found = {TEXT("before")};
+			IFileManager::Get().FindFiles(Found, *Folder.Get("Fonts"), Extension);
+			return ToUtf8(Found);
+		};
+		const std::vector<std::string> Fonts = {"before", "a.ttf", "b.ttf"};
+		EXPECT_EQ(Find(TEXT(".ttf")), Fonts);
+		EXPECT_EQ(Find(TEXT("ttf")), Fonts) << "the dot may be left out";
+		EXPECT_EQ(Find(nullptr).size(), 5u);
+	}
 }

@@ -1,9 +1,13 @@
 // Copyright Velmorant. All Rights Reserved.
 
 #include "ActorFactories/ActorFactoryBlueprint.h"
+#include "Engine/CollisionProfile.h"
+#include "HostDetailsView.h"
+#include "HostLog.h"
 #include "HostPlacement.h"
 #include "HostPropertyEditor.h"
 #include "HostSettings.h"
+#include "HostSnapshot.h"
 #include "IPlacementModeModule.h"
 #include "IPropertyTypeCustomization.h"
 #include "ISettingsModule.h"
@@ -153,4 +157,32 @@ TEST_F(EditorRegistries, SettingsPagesThatSomebodyAskedForAreRecorded)
 	EXPECT_TRUE((Pages[0] == HostSettings::FShownPage{"Project", "Plugins", "VelmorantSDKSettings"}));
 	Restart();
 	EXPECT_TRUE(HostSettings::GetShownPages().IsEmpty());
+}
+
+TEST_F(EditorRegistries, ASettingsPageShowsTheSettingsOfItsSection)
+{
+	ISettingsModule& Settings = FModuleManager::LoadModuleChecked<ISettingsModule>("Settings");
+	EXPECT_FALSE(HostSettings::GetOpenPage().IsSet());
+	Settings.ShowViewer("Project", "Engine", "CollisionProfile");
+	const TOptional<HostSettings::FOpenPage> Page = HostSettings::GetOpenPage();
+	ASSERT_TRUE(Page.IsSet());
+	EXPECT_EQ(Page->Settings, UCollisionProfile::Get());
+	EXPECT_EQ(Utf8(HostSnapshot::Take(Page->Content.ToSharedRef())).rfind("vertical\n  text \"Project - Engine - Collision\"\n", 0), 0u);
+	EXPECT_EQ(Page->Details->GetObjects(), TArray<UObject*>{UCollisionProfile::Get()});
+
+	EXPECT_TRUE(HostSettings::Close());
+	EXPECT_FALSE(HostSettings::Close());
+	EXPECT_FALSE(HostSettings::GetOpenPage().IsSet());
+}
+
+TEST_F(EditorRegistries, AnUnknownSettingsPageIsLoggedWithThoseThatThereAre)
+{
+	ISettingsModule& Settings = FModuleManager::LoadModuleChecked<ISettingsModule>("Settings");
+	Settings.ShowViewer("Project", "Engine", "CollisionProfile");
+	Settings.ShowViewer("Project", "Plugins", "CollisionProfile"); // under another heading
+	EXPECT_EQ(Utf8(HostSettings::GetOpenPage()->Address.ToString()), "Project/Engine/CollisionProfile") << "the viewer stays as it was";
+	const FHostLogLine& Line = HostLog::GetLines().Last();
+	EXPECT_EQ(Line.Verbosity, ELogVerbosity::Warning);
+	EXPECT_EQ(Utf8(Line.Text).rfind("There is no settings page Project/Plugins/CollisionProfile. There are: ", 0), 0u) << Utf8(Line.Text);
+	EXPECT_NE(Utf8(Line.Text).find("Project/Engine/CollisionProfile"), std::string::npos);
 }

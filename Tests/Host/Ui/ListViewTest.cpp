@@ -122,7 +122,13 @@ TEST_F(FListViewTest, ScrollsToAnItemAtTheNextTick)
 	List->RequestScrollIntoView(Items[499]);
 	List->RequestScrollIntoView(MakeShared<FString>(TEXT("stranger")));
 	Wait();
-	EXPECT_NE(Utf8(HostSnapshot::Take(List)).find("\"Item 499\""), std::string::npos);
+	EXPECT_EQ(Utf8(HostSnapshot::Take(List)).find("\"Item 499\""), std::string::npos) << "the last wish counts, and a stranger is none";
+
+	List->RequestScrollIntoView(Items[499]);
+	Items.RemoveAt(0, 400);
+	EXPECT_EQ(Utf8(HostSnapshot::Take(List)).find("\"Item 499\""), std::string::npos) << "not before the tick";
+	Wait();
+	EXPECT_NE(Utf8(HostSnapshot::Take(List)).find("\"Item 499\""), std::string::npos) << "wherever it stands by then";
 }
 
 TEST_F(FListViewTest, TilesAreAListOfTiles)

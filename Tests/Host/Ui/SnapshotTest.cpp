@@ -6,7 +6,7 @@
 #include "Widgets/Input/SCheckBox.h"
 #include "Widgets/Input/SComboButton.h"
 #include "Widgets/Input/SEditableText.h"
-#include "Widgets/Input/SSearchBox.h"
+#include "Widgets/Input/SEditableTextBox.h"
 #include "Widgets/Layout/SBox.h"
 #include "Widgets/SBoxPanel.h"
 #include "Widgets/Text/STextBlock.h"
@@ -120,16 +120,17 @@ TEST_F(FSnapshotTest, TypingTellsOfTheChangeAtOnceAndThenCommits)
 {
 	TArray<FString> Heard;
 	// clang-format off
-	const TSharedRef<SWidget> Box = SNew(SSearchBox)
+	const TSharedRef<SWidget> Box = SNew(SEditableTextBox)
+		.HintText(FText::FromString(TEXT("Wood")))
 		.OnTextChanged_Lambda([&Heard](const FText& New) { Heard.Add(TEXT("changed ") + New.ToString()); })
 		.OnTextCommitted_Lambda([&Heard](const FText& New, ETextCommit::Type How)
 		{
 			Heard.Add(FString::Printf(TEXT("committed %s %d"), *New.ToString(), static_cast<int32>(How)));
 		});
 	// clang-format on
-	EXPECT_EQ(Utf8(HostSnapshot::Take(Box)), "search [Search] \"\"\n");
-	EXPECT_EQ(Refusal(HostSnapshot::Type(Box, TEXT("Search"), TEXT("oak"))), "");
-	EXPECT_EQ(Refusal(HostSnapshot::Type(Box, TEXT("Search"), TEXT("oak"))), "");
+	EXPECT_EQ(Utf8(HostSnapshot::Take(Box)), "edit [Wood] \"\"\n");
+	EXPECT_EQ(Refusal(HostSnapshot::Type(Box, TEXT("Wood"), TEXT("oak"))), "");
+	EXPECT_EQ(Refusal(HostSnapshot::Type(Box, TEXT("Wood"), TEXT("oak"))), "");
 	EXPECT_EQ(Heard, (TArray<FString>{TEXT("changed oak"), TEXT("committed oak 1"), TEXT("committed oak 1")}));
 }
 

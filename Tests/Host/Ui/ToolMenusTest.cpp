@@ -1,10 +1,13 @@
 // Copyright Velmorant. All Rights Reserved.
 
+#include "Framework/MultiBox/MultiBoxBuilder.h"
 #include "HostSnapshot.h"
 #include "HostToolMenus.h"
+#include "Styling/AppStyle.h"
 #include "TestToolPanel.h"
 #include "ToolMenus.h"
 #include "UiTestEditor.h"
+#include "Widgets/Text/STextBlock.h"
 
 class FToolMenusTest : public FUiTestEditor
 {
@@ -133,11 +136,68 @@ TEST_F(FToolMenusTest, OpensMenusOfComboButtons)
 	const TSharedRef<SWidget> ToolBar = HostToolMenus::Open("Test.ToolBar", FToolMenuContext());
 	EXPECT_TRUE(HostSnapshot::Click(ToolBar, TEXT("Tools")).bDone);
 	EXPECT_EQ(Utf8(HostSnapshot::Take(ToolBar)),
-		"vertical\n"
-		"  menu button Tools [Tools] (tip: Opens tools)\n"
-		"    vertical\n"
-		"      text \"Inner\"\n"
-		"      button Go [Go]\n");
+		"menu Test.ToolBar\n" // extended, but registered by nobody
+		"  section PluginTools\n"
+		"    menu button Tools [Tools] (tip: Opens tools)\n"
+		"      menu\n"
+		"        section Inner [Inner]\n"
+		"          entry Go [Go]\n");
 	EXPECT_TRUE(HostSnapshot::Click(ToolBar, TEXT("Go")).bDone);
 	EXPECT_EQ(Ran, TArray<FString>{TEXT("go nothing")});
+	EXPECT_EQ(Utf8(HostSnapshot::Take(ToolBar)).find("Inner"), std::string::npos) << "the menu has closed";
+}
+
+TEST_F(FToolMenusTest, MakesTheContentAnewByAnyOfItsForms)
+{
+	int32 NumMade = 0;
+	const auto MakeText = [&NumMade]() -> TSharedRef<SWidget> { return SNew(STextBlock).Text(FText::AsNumber(++NumMade)); };
+	const struct
+	{
+		const TCHAR* Form;
+		FNewToolMenuChoice Choice;
+	} Cases[] = {
+		{TEXT("Content"), FOnGetContent::CreateLambda(MakeText)},
+		{TEXT("Widget"), FNewToolMenuWidget::CreateLambda([&MakeText](const FToolMenuContext&) { return MakeText(); })},
+		{TEXT("Builder"), FNewMenuDelegate::CreateLambda([&MakeText](FMenuBuilder& Menu) { Menu.AddWidget(MakeText(), FText::GetEmpty()); })},
+		{TEXT("Menu"), FNewToolMenuDelegate::CreateLambda([&MakeText](UToolMenu* Menu) {
+			 Menu->AddSection("Inner").AddEntry(FToolMenuEntry::InitWidget("Number", MakeText(), FText::GetEmpty()));
+		 })},
+	};
+	FToolMenuSection& Section = UToolMenus::Get()->ExtendMenu("Test.Menu")->FindOrAddSection("S");
+	for (const auto& Case : Cases)
+	{
+		Section.AddEntry(FToolMenuEntry::InitComboButton(Case.Form, FUIAction(), Case.Choice, Text(Case.Form)));
+	}
+	const TSharedRef<SWidget> Menu = HostToolMenus::Open("Test.Menu", FToolMenuContext());
+	for (const auto& Case : Cases)
+	{
+		SCOPED_TRACE(Utf8(Case.Form));
+		NumMade = 0;
+		for (const TCHAR* Number : {TEXT("1"), TEXT("2")})
+		{
+			EXPECT_TRUE(HostSnapshot::Click(Menu, Case.Form).bDone);
+			EXPECT_NE(Utf8(HostSnapshot::Take(Menu)).find("text \"" + Utf8(Number) + "\""), std::string::npos);
+			EXPECT_TRUE(HostSnapshot::Click(Menu, Case.Form).bDone);
+		}
+		EXPECT_EQ(NumMade, 2);
+	}
+}
+
+TEST_F(FToolMenusTest, ToolbarsShowLabelsOnlyBesideIconsOfTheCalloutStyle)
+{
+	const FSlateIcon Icon(FAppStyle::GetAppStyleSetName(), "Icons.Help");
+	FToolMenuSection& Section = UToolMenus::Get()->RegisterMenu("Test.ToolBar", NAME_None, EMultiBoxType::SlimHorizontalToolBar)->FindOrAddSection("S");
+	Section.AddEntry(FToolMenuEntry::InitToolBarButton("Plain", Noting(TEXT("plain")), Text(TEXT("Plain Label")), Text(TEXT("Plain tip")), Icon));
+	FToolMenuEntry Callout = FToolMenuEntry::InitComboButton("Callout", FUIAction(FExecuteAction(), FCanExecuteAction::CreateLambda([] { return false; })), FOnGetContent(), Text(TEXT("Callout Label")), FText(), Icon);
+	Callout.StyleNameOverride = "CalloutToolbar";
+	Section.AddEntry(Callout);
+	const TSharedRef<SWidget> ToolBar = HostToolMenus::Open("Test.ToolBar", FToolMenuContext());
+	EXPECT_EQ(Utf8(HostSnapshot::Take(ToolBar)),
+		"toolbar Test.ToolBar\n"
+		"  section S\n"
+		"    button Plain (icon: Icons.Help, tip: Plain tip)\n"
+		"    menu button Callout [Callout Label] (disabled, icon: Icons.Help)\n");
+	EXPECT_EQ(Refusal(HostSnapshot::Click(ToolBar, TEXT("Plain tip"))), "");
+	EXPECT_EQ(Refusal(HostSnapshot::Click(ToolBar, TEXT("Callout"))), "The menu button \"Callout\" is disabled.");
+	EXPECT_EQ(Ran, TArray<FString>{TEXT("plain nothing")});
 }

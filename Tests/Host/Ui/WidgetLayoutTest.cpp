@@ -2,6 +2,7 @@
 
 #include "Components/Button.h"
 #include "Components/CheckBox.h"
+#include "Components/ComboBoxString.h"
 #include "Components/EditableText.h"
 #include "Components/ListView.h"
 #include "Components/TextBlock.h"
@@ -131,6 +132,39 @@ TEST_F(FWidgetLayoutTest, CallsPassOnWhatTheEventGave)
 	HostSnapshot::Click(Root.ToSharedRef(), TEXT("Submit"));
 	EXPECT_EQ(Read(TEXT("Status")), "Hello Ada");
 	EXPECT_EQ(Panel->Happened, (TArray<FString>{TEXT("remember"), TEXT("now ada 5"), TEXT("Ada failed 0"), TEXT("Status"), TEXT("UserName"), TEXT("submit ada")}));
+}
+
+TEST_F(FWidgetLayoutTest, ACallIsNotMadeWithWhatDoesNotFit)
+{
+	WriteLogin(R"("Calls": {"Submit.OnClicked": [
+		{"Call": "Note", "With": {"InText": "visits", "InNumber": "{UserName.Text}"}},
+		{"Call": "UserName.SetIsReadOnly", "With": {"InbIsReadyOnly": "{UserName.Text}"}},
+		{"Set": "Status.Text", "To": "Done with {UserName.Text}"}]})");
+	ASSERT_NE(Open(), nullptr);
+	const auto Submit = [this](const TCHAR* Text) {
+		Panel->Happened.Empty();
+		HostSnapshot::Type(Root.ToSharedRef(), TEXT("UserName"), Text);
+		HostSnapshot::Click(Root.ToSharedRef(), TEXT("Sign in"));
+	};
+	Submit(TEXT("many"));
+	EXPECT_EQ(Panel->Happened, TArray<FString>{TEXT("submit many")});
+	EXPECT_EQ(Read(TEXT("Status")), "Done with many") << "the rest is done";
+	Submit(TEXT("12"));
+	EXPECT_EQ(Panel->Happened, (TArray<FString>{TEXT("visits 12"), TEXT("submit 12")}));
+}
+
+TEST_F(FWidgetLayoutTest, AFunctionOfThePanelMakesTheOptionsOfAComboBox)
+{
+	WriteLogin("", R"(, {"Class": "ComboBoxString", "Name": "Place", "Properties": {"OnGenerateWidgetEvent": "MakeOptionWidget"}})");
+	ASSERT_NE(Open(), nullptr);
+	UComboBoxString* Place = CastChecked<UComboBoxString>(Panel->GetWidgetFromName(FName(TEXT("Place"))));
+	Place->AddOption(TEXT("Quay"));
+	Place->AddOption(TEXT("Tower"));
+	FString Reason;
+	EXPECT_EQ(HostSnapshot::GetOptions(Root.ToSharedRef(), TEXT("Place"), Reason), (TArray<FString>{TEXT("[Quay]"), TEXT("[Tower]")}));
+	EXPECT_TRUE(HostSnapshot::Choose(Root.ToSharedRef(), TEXT("Place"), TEXT("[Tower]")).bDone);
+	EXPECT_EQ(Utf8(Place->GetSelectedOption()), "Tower");
+	EXPECT_EQ(Read(TEXT("Place")), "[Tower]");
 }
 
 TEST_F(FWidgetLayoutTest, OverridesReachNativeEventsAndInterfaces)
@@ -293,6 +327,14 @@ TEST_F(FWidgetLayoutRefusalTest, SaysWhatIsWrongWithAWidget)
 		{R"({"Class": "SizeBox", "Properties": {"WidthOverride": "wide"}})", "/Tree/Children/0/Properties/WidthOverride: 'wide' is not a number\n"},
 		{R"({"Class": "TextBlock", "Properties": {"Visibility": "Gone"}})",
 			"/Tree/Children/0/Properties/Visibility: 'Gone' is none of Visible, Collapsed, Hidden, HitTestInvisible, SelfHitTestInvisible\n"},
+		{R"({"Class": "ComboBoxString", "Properties": {"OnGenerateWidgetEvent": "Dance"}})", "/Tree/Children/0/Properties/OnGenerateWidgetEvent: panel TestToolPanel has no function 'Dance'\n"},
+		{R"({"Class": "ComboBoxString", "Properties": {"OnGenerateWidgetEvent": ""}})", "/Tree/Children/0/Properties/OnGenerateWidgetEvent: panel TestToolPanel has no function ''\n"},
+		{R"({"Class": "ComboBoxString", "Properties": {"OnGenerateWidgetEvent": "RemoveFromParent"}})",
+			"/Tree/Children/0/Properties/OnGenerateWidgetEvent: 'RemoveFromParent' of panel TestToolPanel does not make a widget of one text (FString)\n"},
+		{R"({"Class": "ComboBoxString", "Properties": {"OnGenerateWidgetEvent": "{self.Name}"}})",
+			"/Tree/Children/0/Properties/OnGenerateWidgetEvent: a function is named as it is, without braces or conditions\n"},
+		{R"({"Class": "ComboBoxString", "Properties": {"OnGenerateWidgetEvent": ["RemoveFromParent"]}})",
+			"/Tree/Children/0/Properties/OnGenerateWidgetEvent: a function is named as it is, without braces or conditions\n"},
 		{R"({"Class": "ListView", "Properties": {"EntryWidgetClass": "TextBlock"}})", "/Tree/Children/0/Properties/EntryWidgetClass: 'TextBlock' is not a class of UserWidget\n"},
 	};
 	for (const FCase& Case : Cases)

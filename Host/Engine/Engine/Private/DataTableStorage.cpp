@@ -42,7 +42,7 @@ UObject* FDataTableStorage::Read(const HostPackages::FDocument& Document, UPacka
 	for (const auto& [Name, Value] : Rows.items())
 	{
 		const FString RowName = UTF8_TO_TCHAR(Name.c_str());
-		if (!Value.is_string() || !ReadRow(*Table, RowName, GetText(Rows, Name.c_str())))
+		if (!Value.is_string() || !ReadRow(*Table, RowName, FString(UTF8_TO_TCHAR(Value.get_ref<const std::string&>().c_str()))))
 		{
 			HostProblems::Report(Document.File, 0, FString::Printf(TEXT("Rows/%s: this is not the text of a %s"), *RowName, *RowStruct->GetName()), TEXT("write it as \"(Field=Value,Field=Value)\""));
 			Table->ClearFlags(RF_Public | RF_Standalone);
@@ -66,15 +66,16 @@ TOptional<FString> FDataTableStorage::Write(const UObject* Asset)
 	{
 		return TOptional<FString>();
 	}
-	FJson Json;
-	Json["Class"] = TCHAR_TO_UTF8(*Table->GetClass()->GetPathName());
-	Json["RowStruct"] = TCHAR_TO_UTF8(*Table->RowStruct->GetPathName());
-	Json["Rows"] = FJson::object();
+	FJson::object_t Rows; // filled at its end: an ordered object looks its keys up one by one
 	for (const TPair<FName, uint8*>& Row : Table->GetRowMap())
 	{
 		FString Text;
 		Table->RowStruct->ExportText(Text, Row.Value, nullptr, nullptr, 0, nullptr);
-		Json["Rows"][TCHAR_TO_UTF8(*Row.Key.ToString())] = TCHAR_TO_UTF8(*Text);
+		Rows.emplace_back(TCHAR_TO_UTF8(*Row.Key.ToString()), TCHAR_TO_UTF8(*Text));
 	}
+	FJson Json;
+	Json["Class"] = TCHAR_TO_UTF8(*Table->GetClass()->GetPathName());
+	Json["RowStruct"] = TCHAR_TO_UTF8(*Table->RowStruct->GetPathName());
+	Json["Rows"] = std::move(Rows);
 	return FString(UTF8_TO_TCHAR((Json.dump(1, '\t') + "\n").c_str()));
 }

@@ -5,6 +5,8 @@
 #include "HostPropertyEditor.h"
 #include "IPropertyTypeCustomization.h"
 #include "Modules/ModuleManager.h"
+#include "PropertyEditorRegistrations.h"
+#include "Rows/OpenDetailsViews.h"
 
 IMPLEMENT_MODULE(FPropertyEditorModule, PropertyEditor)
 
@@ -22,6 +24,7 @@ void FPropertyEditorModule::UnregisterCustomPropertyTypeLayout(FName PropertyTyp
 void FPropertyEditorModule::NotifyCustomizationModuleChanged()
 {
 	++NumChangeNotes;
+	OpenDetailsViews::RebuildAll();
 }
 
 TSharedRef<FPropertySection> FPropertyEditorModule::FindOrCreateSection(FName ClassName, FName SectionName, FText DisplayName)
@@ -37,26 +40,6 @@ TSharedRef<FPropertySection> FPropertyEditorModule::FindOrCreateSection(FName Cl
 	Sections.Add(FClassSection{ClassName, Section});
 	return Section;
 }
-
-/** Sees what the module keeps to itself. */
-class FPropertyEditorRegistrations
-{
-public:
-	using FTypeLayout = FPropertyEditorModule::FTypeLayout;
-	using FClassSection = FPropertyEditorModule::FClassSection;
-
-	FPropertyEditorRegistrations()
-		: Module(FModuleManager::GetModulePtr<FPropertyEditorModule>("PropertyEditor"))
-	{
-	}
-
-	TArray<FTypeLayout> GetTypeLayouts() const { return Module != nullptr ? Module->TypeLayouts : TArray<FTypeLayout>(); }
-	TArray<FClassSection> GetSections() const { return Module != nullptr ? Module->Sections : TArray<FClassSection>(); }
-	int32 GetNumChangeNotes() const { return Module != nullptr ? Module->NumChangeNotes : 0; }
-
-private:
-	const FPropertyEditorModule* Module;
-};
 
 TArray<FName> HostPropertyEditor::GetCustomizedTypes()
 {

@@ -3,14 +3,25 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Fonts/SlateFontInfo.h"
+#include "PropertyHandle.h"
 #include "Templates/SharedPointer.h"
 
 class FDetailWidgetRow;
 class IDetailChildrenBuilder;
-class IPropertyHandle;
-class IPropertyTypeCustomizationUtils;
 
-/** Shows the values of one property type in its own way. One instance per property that is shown. */
+/** What the panel lends to customizations. */
+class PROPERTYEDITOR_API IPropertyTypeCustomizationUtils
+{
+public:
+	virtual ~IPropertyTypeCustomizationUtils() = default;
+
+	/** The font of names and values: "PropertyWindow.NormalFont" of the app style. */
+	static FSlateFontInfo GetRegularFont();
+	static FSlateFontInfo GetBoldFont();
+};
+
+/** Shows the values of one property type in its own way. One instance per property that is shown; the panel keeps it as long as its rows. */
 class IPropertyTypeCustomization : public TSharedFromThis<IPropertyTypeCustomization>
 {
 public:

@@ -9,6 +9,19 @@
 
 class IPropertyHandle;
 
+namespace FPropertyAccess
+{
+	/** How reading or writing a value went. */
+	enum Result
+	{
+		/** Several objects are shown, and they differ. Not a failure: nothing was read. */
+		MultipleValues,
+		/** No objects, or a value of another type. */
+		Fail,
+		Success,
+	};
+}
+
 /** Narrows a customization to some properties of its type. */
 class IPropertyTypeIdentifier
 {
@@ -58,7 +71,7 @@ public:
 	/** Only a registration with the same identifier goes; without one, the one made without. */
 	virtual void UnregisterCustomPropertyTypeLayout(FName PropertyTypeName, TSharedPtr<IPropertyTypeIdentifier> InIdentifier = nullptr);
 
-	/** To be called after a module has changed its registrations: panels that are open then show them. */
+	/** To be called after a module has changed its registrations: panels that are open show them before it returns. */
 	void NotifyCustomizationModuleChanged();
 
 	/**

@@ -3,10 +3,17 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Misc/Optional.h"
+#include "Templates/SharedPointer.h"
 
-/** Which settings pages somebody asked to see. */
+class FHostDetailsView;
+class SWidget;
+class UObject;
+
+/** The settings viewer as a person sees it: one page at a time, whose changes are saved as they are made. Nothing while the module Settings is not loaded. */
 namespace HostSettings
 {
+	/** The address of a page, as ShowViewer() takes it. */
 	struct FShownPage
 	{
 		FName Container;
@@ -14,8 +21,26 @@ namespace HostSettings
 		FName Section;
 
 		bool operator==(const FShownPage& Other) const = default;
+		FString ToString() const { return Container.ToString() + TEXT("/") + Category.ToString() + TEXT("/") + Section.ToString(); }
 	};
 
-	/** In order of the calls; empty while the module Settings is not loaded. */
+	/** What was asked for, in order of the calls, pages that do not exist included. */
 	TArray<FShownPage> GetShownPages();
+
+	/** The pages that there are: those of all settings classes, by address. */
+	TArray<FShownPage> GetAllPages();
+
+	struct FOpenPage
+	{
+		FShownPage Address;
+		UObject* Settings = nullptr; // a class's default object
+		TSharedPtr<FHostDetailsView> Details; // of the settings, as part of the content; never null
+		TSharedPtr<SWidget> Content; // for HostSnapshot; never null
+	};
+
+	/** Unset while the viewer is closed. */
+	TOptional<FOpenPage> GetOpenPage();
+
+	/** @return whether the viewer was open. */
+	bool Close();
 }

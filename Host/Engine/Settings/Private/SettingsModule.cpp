@@ -1,26 +1,136 @@
 // Copyright Velmorant. All Rights Reserved.
 
-#include "HostSettings.h"
-#include "ISettingsModule.h"
+#include "SettingsModule.h"
+
+#include "Engine/DeveloperSettings.h"
+#include "HostDetailsView.h"
+#include "Logging/LogMacros.h"
 #include "Modules/ModuleManager.h"
+#include "SettingsPage.h"
+#include "UObject/Class.h"
+#include "UObject/PropertyEvents.h"
+#include "UObject/UObjectGlobals.h"
+#include "UObject/UObjectHash.h"
 
-class FSettingsModule : public ISettingsModule
-{
-public:
-	//~ Begin ISettingsModule
-	virtual void ShowViewer(const FName& ContainerName, const FName& CategoryName, const FName& SectionName) override
-	{
-		ShownPages.Add(HostSettings::FShownPage{ContainerName, CategoryName, SectionName});
-	}
-	//~ End ISettingsModule
-
-	TArray<HostSettings::FShownPage> ShownPages;
-};
+DEFINE_LOG_CATEGORY_STATIC(LogSettings, Log, All);
 
 IMPLEMENT_MODULE(FSettingsModule, Settings)
 
+namespace SettingsModule
+{
+	static HostSettings::FShownPage AddressOf(const UDeveloperSettings& Settings)
+	{
+		return {Settings.GetContainerName(), Settings.GetCategoryName(), Settings.GetSectionName()};
+	}
+
+	/** The default objects of all classes that have a page, by address. */
+	static TArray<UDeveloperSettings*> GetAll()
+	{
+		TArray<UClass*> Classes;
+		GetDerivedClasses(UDeveloperSettings::StaticClass(), Classes);
+		TArray<UDeveloperSettings*> Result;
+		for (UClass* Class : Classes)
+		{
+			if (!Class->HasAnyClassFlags(CLASS_Abstract))
+			{
+				Result.Add(CastChecked<UDeveloperSettings>(Class->GetDefaultObject()));
+			}
+		}
+		Result.Sort([](const UDeveloperSettings& Left, const UDeveloperSettings& Right) { return AddressOf(Left).ToString() < AddressOf(Right).ToString(); });
+		return Result;
+	}
+
+	static UDeveloperSettings* Find(const HostSettings::FShownPage& Address)
+	{
+		for (UDeveloperSettings* Settings : GetAll())
+		{
+			if (AddressOf(*Settings) == Address)
+			{
+				return Settings;
+			}
+		}
+		return nullptr;
+	}
+
+	static const FSettingsModule* Get()
+	{
+		return static_cast<const FSettingsModule*>(FModuleManager::GetModulePtr<ISettingsModule>("Settings"));
+	}
+}
+
+void FSettingsModule::StartupModule()
+{
+	FCoreUObjectDelegates::OnObjectPropertyChanged.AddRaw(this, &FSettingsModule::SaveChange);
+}
+
+void FSettingsModule::ShutdownModule()
+{
+	FCoreUObjectDelegates::OnObjectPropertyChanged.RemoveAll(this);
+	OpenPage.Reset(); // it shows objects, which go before modules do
+}
+
+void FSettingsModule::ShowViewer(const FName& ContainerName, const FName& CategoryName, const FName& SectionName)
+{
+	const HostSettings::FShownPage Address{ContainerName, CategoryName, SectionName};
+	ShownPages.Add(Address);
+	if (UDeveloperSettings* Settings = SettingsModule::Find(Address))
+	{
+		const TSharedRef<FHostDetailsView> Details = MakeShared<FHostDetailsView>(TArray<UObject*>{Settings});
+		OpenPage = HostSettings::FOpenPage{Address, Settings, Details, SettingsPage::Make(*Settings, *Details)};
+		return;
+	}
+	TArray<FString> Known;
+	for (const HostSettings::FShownPage& Page : HostSettings::GetAllPages())
+	{
+		Known.Add(Page.ToString());
+	}
+	UE_LOG(LogSettings, Warning, TEXT("There is no settings page %s. There are: %s."), *Address.ToString(), *FString::Join(Known, TEXT(", ")));
+}
+
+/** What a person changes on the page is saved at once: there is no button for it. */
+void FSettingsModule::SaveChange(UObject* Object, FPropertyChangedEvent& Event)
+{
+	if (!OpenPage.IsSet() || OpenPage->Settings != Object || Event.ChangeType == EPropertyChangeType::Interactive)
+	{
+		return;
+	}
+	if (Object->GetClass()->HasAnyClassFlags(CLASS_DefaultConfig))
+	{
+		Object->TryUpdateDefaultConfigFile();
+		return;
+	}
+	Object->SaveConfig();
+}
+
 TArray<HostSettings::FShownPage> HostSettings::GetShownPages()
 {
-	const ISettingsModule* Module = FModuleManager::GetModulePtr<ISettingsModule>("Settings");
-	return Module != nullptr ? static_cast<const FSettingsModule*>(Module)->ShownPages : TArray<FShownPage>();
+	const FSettingsModule* Module = SettingsModule::Get();
+	return Module != nullptr ? Module->ShownPages : TArray<FShownPage>();
+}
+
+TArray<HostSettings::FShownPage> HostSettings::GetAllPages()
+{
+	TArray<FShownPage> Pages;
+	for (const UDeveloperSettings* Settings : SettingsModule::GetAll())
+	{
+		Pages.Add(SettingsModule::AddressOf(*Settings));
+	}
+	return Pages;
+}
+
+TOptional<HostSettings::FOpenPage> HostSettings::GetOpenPage()
+{
+	const FSettingsModule* Module = SettingsModule::Get();
+	return Module != nullptr ? Module->OpenPage : TOptional<FOpenPage>();
+}
+
+bool HostSettings::Close()
+{
+	FSettingsModule* Module = const_cast<FSettingsModule*>(SettingsModule::Get());
+	const bool bWasOpen = Module != nullptr && Module->OpenPage.IsSet();
+	if (bWasOpen)
+	{
+		Module->OpenPage.Reset();
+	}
+	return bWasOpen;
 }

@@ -9,6 +9,11 @@
 class ISettingsModule : public IModuleInterface
 {
 public:
-	/** Opens the viewer at one page, e.g. "Project", "Engine", "CollisionProfile". Host: there is no viewer; the call is recorded. */
+	/**
+	 * Opens the viewer at one page, e.g. "Project", "Engine", "CollisionProfile", instead of the page that it showed.
+	 *
+	 * Host: every class of developer settings has a page; what is changed there is saved at once. Asking for one that is not there leaves the viewer as it was and is
+	 * logged, together with those that are.
+	 */
 	virtual void ShowViewer(const FName& ContainerName, const FName& CategoryName, const FName& SectionName) = 0;
 };

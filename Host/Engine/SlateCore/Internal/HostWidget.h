@@ -76,7 +76,7 @@ public:
 	/** What a person could choose in a combo box, as shown; makes the option widgets anew, as opening the box does. */
 	static TArray<FString> OptionsOf(const TSharedRef<SWidget>& Widget);
 
-	/** The texts that show in a widget and below it, in order, one blank between. Secrets and tool tips are not texts. */
+	/** The texts that show in a widget and below it, in order, one blank between. Secrets, colours and tool tips are not texts. */
 	static FString TextOf(SWidget& Widget);
 
 	static TArray<TSharedRef<SWidget>> ChildrenOf(SWidget& Widget);

@@ -3,10 +3,6 @@
 #include "ToolMenuBuilder.h"
 
 #include "ToolMenus.h"
-#include "Widgets/Input/SButton.h"
-#include "Widgets/Input/SComboButton.h"
-#include "Widgets/SBoxPanel.h"
-#include "Widgets/Text/STextBlock.h"
 
 namespace ToolMenuBuilder
 {
@@ -114,87 +110,6 @@ FHostMenuEntry FToolMenuBuilder::Describe(const FToolMenuSection& Section, const
 	Result.bEnabled = Entry.CanExecute(Context);
 	Result.bOpensMenu = Entry.OpensMenu();
 	return Result;
-}
-
-TSharedRef<SWidget> FToolMenuBuilder::MakeOpenedMenu(const FNewToolMenuChoice& Content, const FToolMenuContext& Context)
-{
-	if (Content.OnGetContent.IsBound())
-	{
-		return Content.OnGetContent.Execute();
-	}
-	if (Content.NewToolMenuWidget.IsBound())
-	{
-		return Content.NewToolMenuWidget.Execute(Context);
-	}
-	if (Content.NewToolMenu.IsBound())
-	{
-		UToolMenu* SubMenu = NewObject<UToolMenu>(UToolMenus::Get());
-		SubMenu->Context = Context;
-		Content.NewToolMenu.Execute(SubMenu);
-		UToolMenu* Generated = NewObject<UToolMenu>(UToolMenus::Get());
-		Generated->Context = Context;
-		Append(*SubMenu, *Generated);
-		return MakeWidget(*Generated);
-	}
-	return SNullWidget::NullWidget;
-}
-
-TSharedRef<SWidget> FToolMenuBuilder::MakeEntryWidget(const FToolMenuEntry& Entry, const FToolMenuContext& Context)
-{
-	if (Entry.CustomWidget.IsValid())
-	{
-		return Entry.CustomWidget.ToSharedRef();
-	}
-	if (Entry.OpensMenu())
-	{
-		// clang-format off
-		return SNew(SComboButton)
-			.Tag(Entry.Name)
-			.ToolTipText(Entry.ToolTip)
-			.OnGetMenuContent_Lambda([Content = Entry.MenuContent, Context] { return MakeOpenedMenu(Content, Context); })
-			.ButtonContent()
-			[
-				SNew(STextBlock).Text(Entry.Label)
-			];
-		// clang-format on
-	}
-	// clang-format off
-	return SNew(SButton)
-		.Tag(Entry.Name)
-		.Text(Entry.Label)
-		.ToolTipText(Entry.ToolTip)
-		.IsEnabled_Lambda([Entry, Context] { return Entry.CanExecute(Context); })
-		.Visibility_Lambda([Entry, Context] { return Entry.IsVisible(Context) ? EVisibility::Visible : EVisibility::Collapsed; })
-		.OnClicked_Lambda([Entry, Context]
-		{
-			Entry.Execute(Context);
-			return FReply::Handled();
-		});
-	// clang-format on
-}
-
-TSharedRef<SWidget> FToolMenuBuilder::MakeWidget(UToolMenu& Generated)
-{
-	const TSharedRef<SVerticalBox> Menu = SNew(SVerticalBox);
-	for (const FToolMenuSection& Section : Generated.Sections)
-	{
-		if (Section.Blocks.IsEmpty())
-		{
-			continue;
-		}
-		if (!ToolMenuBuilder::TextOf(Section.Label).IsEmpty())
-		{
-			Menu->AddSlot().AutoHeight()[SNew(STextBlock).Text(Section.Label)];
-		}
-		for (const FToolMenuEntry& Entry : Section.Blocks)
-		{
-			if (Entry.Type != EMultiBlockType::Separator)
-			{
-				Menu->AddSlot().AutoHeight()[MakeEntryWidget(Entry, Generated.Context)];
-			}
-		}
-	}
-	return Menu;
 }
 
 TArray<FHostMenuEntry> HostToolMenus::List(FName Menu, const FToolMenuContext& Context)

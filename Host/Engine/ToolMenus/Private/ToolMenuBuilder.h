@@ -19,6 +19,10 @@ private:
 	static FToolMenuSection& FindOrInsertSection(const FToolMenuSection& Recipe, UToolMenu& OutGenerated);
 	static void InsertEntry(const FToolMenuEntry& Entry, FToolMenuSection& OutSection, int32 DefaultIndex);
 	static void AppendDynamic(const FToolMenuEntry& Dynamic, FToolMenuSection& OutSection);
-	static TSharedRef<SWidget> MakeEntryWidget(const FToolMenuEntry& Entry, const FToolMenuContext& Context);
-	static TSharedRef<SWidget> MakeOpenedMenu(const FNewToolMenuChoice& Content, const FToolMenuContext& Context);
+
+	static TSharedRef<SWidget> MakeEntryWidget(const UToolMenu& Menu, const FToolMenuEntry& Entry);
+	static TSharedRef<SWidget> MakeButton(const UToolMenu& Menu, const FToolMenuEntry& Entry);
+	static TSharedRef<SWidget> MakeComboButton(const UToolMenu& Menu, const FToolMenuEntry& Entry);
+	/** Made anew each time it opens, by whichever of its forms the entry was given. */
+	static TSharedRef<SWidget> MakeOpenedMenu(const FToolMenuEntry& Entry, const FToolMenuContext& Context);
 };

@@ -34,6 +34,13 @@ void UTestLoginPanel::TakeWidgets(const TArray<UWidget*>& InWidgets)
 	}
 }
 
+UWidget* UTestLoginPanel::MakeOptionWidget(FString Item)
+{
+	UTextBlock* Text = NewObject<UTextBlock>(this);
+	Text->SetText(FText::FromString(TEXT("[") + Item + TEXT("]")));
+	return Text;
+}
+
 void UTestLoginPanel::ReceivedSubmit()
 {
 	Happened.Add(TEXT("submit ") + UserName->GetText().ToString());

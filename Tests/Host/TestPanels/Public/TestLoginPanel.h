@@ -76,6 +76,10 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "Test")
 	FString GetGreeting() const { return TEXT("Ahoy"); }
 
+	/** For combo boxes: the option in brackets. */
+	UFUNCTION()
+	UWidget* MakeOptionWidget(FString Item);
+
 	UFUNCTION()
 	void ReceivedSubmit();
 

@@ -2,36 +2,84 @@
 
 #include "Containers/StringView.h"
 
+#include <array>
+#include <bit>
 #include <cstring>
 
 namespace StringSearch
 {
-	constexpr int32 BlockSize = 16; // units looked at together; compilers turn a block into vector instructions
+	/** Units that are compared at once, in one register of the machine. */
+	typedef uint16 FBlock __attribute__((vector_size(16)));
+	constexpr int32 BlockSize = sizeof(FBlock) / sizeof(TCHAR);
+	constexpr int32 NearUnits = 64; // where a search looks before it prepares for a long way
 
-	/** The first of two characters in a text, or End. */
-	const TCHAR* FindEither(const TCHAR* At, const TCHAR* End, TCHAR First, TCHAR Second)
+	FBlock LoadBlock(const TCHAR* At)
 	{
-		for (; End - At >= BlockSize; At += BlockSize)
-		{
-			uint32 bAny = 0;
-			for (int32 Index = 0; Index < BlockSize; ++Index)
-			{
-				bAny |= static_cast<uint32>(At[Index] == First) | static_cast<uint32>(At[Index] == Second);
-			}
-			if (bAny)
-			{
-				break;
-			}
-		}
-		while (At < End && *At != First && *At != Second)
-		{
-			++At;
-		}
-		return At;
+		FBlock Block;
+		std::memcpy(&Block, At, sizeof(Block));
+		return Block;
 	}
+
+	FBlock FillBlock(TCHAR Char)
+	{
+		return FBlock{} + static_cast<uint16>(Char);
+	}
+
+	/** What a place must show to be worth comparing: one of two characters there, and one of two others at a distance. */
+	class FLandmarks
+	{
+	public:
+		/** The first and the last character of Sub; the last one only when no more than two are alike. The first is ASCII, or its case counts. */
+		FLandmarks(const TCHAR* Sub, int32 SubLen, bool bIgnoreCase)
+			: First(bIgnoreCase ? FChar::ToLower(Sub[0]) : Sub[0])
+			, FirstOther(bIgnoreCase ? FChar::ToUpper(Sub[0]) : Sub[0])
+			, Distance(bIgnoreCase && Sub[SubLen - 1] >= 0x80 ? 0 : SubLen - 1)
+			, Far(bIgnoreCase ? FChar::ToLower(Sub[Distance]) : Sub[Distance])
+			, FarOther(bIgnoreCase ? FChar::ToUpper(Sub[Distance]) : Sub[Distance])
+		{
+		}
+
+		/** The first place of the landmarks in a text, or End. The text goes on beyond End by their distance. */
+		const TCHAR* Find(const TCHAR* At, const TCHAR* End) const
+		{
+			const FBlock Firsts = FillBlock(First);
+			const FBlock FirstOthers = FillBlock(FirstOther);
+			const FBlock Fars = FillBlock(Far);
+			const FBlock FarOthers = FillBlock(FarOther);
+			for (; End - At >= BlockSize; At += BlockSize)
+			{
+				const FBlock Near = LoadBlock(At);
+				const FBlock Later = LoadBlock(At + Distance);
+				const auto Hits = ((Near == Firsts) | (Near == FirstOthers)) & ((Later == Fars) | (Later == FarOthers));
+				const std::array<uint64, 2> Halves = std::bit_cast<std::array<uint64, 2>>(Hits);
+				if (Halves[0] | Halves[1])
+				{
+					break;
+				}
+			}
+			while (At < End && !AreAt(At))
+			{
+				++At;
+			}
+			return At;
+		}
+
+	private:
+		bool AreAt(const TCHAR* At) const { return (At[0] == First || At[0] == FirstOther) && (At[Distance] == Far || At[Distance] == FarOther); }
+
+		TCHAR First;
+		TCHAR FirstOther;
+		int32 Distance;
+		TCHAR Far;
+		TCHAR FarOther;
+	};
 
 	bool EqualsIgnoringCase(const TCHAR* A, const TCHAR* B, int32 Len)
 	{
+		if (std::memcmp(A, B, static_cast<std::size_t>(Len) * sizeof(TCHAR)) == 0)
+		{
+			return true; // as most that are equal are
+		}
 		for (int32 Index = 0; Index < Len; ++Index)
 		{
 			if (A[Index] != B[Index] && FChar::ToLower(A[Index]) != FChar::ToLower(B[Index]))
@@ -44,7 +92,46 @@ namespace StringSearch
 
 	bool Matches(const TCHAR* Text, const TCHAR* Sub, int32 SubLen, ESearchCase::Type SearchCase)
 	{
-		return SearchCase == ESearchCase::CaseSensitive ? std::memcmp(Text, Sub, SubLen * sizeof(TCHAR)) == 0 : EqualsIgnoringCase(Text, Sub, SubLen);
+		return SearchCase == ESearchCase::CaseSensitive ? std::memcmp(Text, Sub, static_cast<std::size_t>(SubLen) * sizeof(TCHAR)) == 0 : EqualsIgnoringCase(Text, Sub, SubLen);
+	}
+
+	/**
+	 * As FindForward(), case counts. Looks at one pair of neighbours, skips ahead to the next place where it could stand in Sub, and so on;
+	 * most pairs do not occur in Sub at all. Quick in long texts. Sub has 2 to 255 units.
+	 */
+	const TCHAR* FindBySkipping(const TCHAR* Begin, const TCHAR* Last, const TCHAR* Sub, int32 SubLen)
+	{
+		const auto HashPair = [](const TCHAR* Second) { return static_cast<uint8>(Second[0] + (Second[-1] << 3)); };
+
+		// By pair: how far its last place in Sub is from Sub's end, plus one. 0 for pairs that do not occur.
+		uint8 Skips[256] = {};
+		for (int32 Index = 1; Index < SubLen; ++Index)
+		{
+			Skips[HashPair(Sub + Index)] = static_cast<uint8>(SubLen - Index);
+		}
+
+		const TCHAR* const LastEnd = Last + SubLen - 1;
+		for (const TCHAR* End = Begin + SubLen - 1; End <= LastEnd;)
+		{
+			const uint8 Skip = Skips[HashPair(End)];
+			if (Skip == 0)
+			{
+				End += SubLen - 1;
+			}
+			else if (Skip > 1)
+			{
+				End += Skip - 1;
+			}
+			else if (std::memcmp(End - (SubLen - 1), Sub, static_cast<std::size_t>(SubLen) * sizeof(TCHAR)) == 0)
+			{
+				return End - (SubLen - 1);
+			}
+			else
+			{
+				++End;
+			}
+		}
+		return nullptr;
 	}
 
 	/** The first match that begins in [Begin, Last]. */
@@ -64,20 +151,18 @@ namespace StringSearch
 			}
 			return nullptr;
 		}
-		const TCHAR First = bIgnoreCase ? FChar::ToLower(Sub[0]) : Sub[0];
-		const TCHAR Second = bIgnoreCase ? FChar::ToUpper(Sub[0]) : Sub[0];
-		for (const TCHAR* At = Begin;; ++At)
+		// Skipping takes some preparation, which pays when the match is not near.
+		const bool bSkip = !bIgnoreCase && SubLen >= 4 && SubLen <= 255 && Last - Begin > 4 * NearUnits;
+		const TCHAR* const NearEnd = bSkip ? Begin + NearUnits : Last + 1;
+		const FLandmarks Landmarks(Sub, SubLen, bIgnoreCase);
+		for (const TCHAR* At = Landmarks.Find(Begin, NearEnd); At < NearEnd; At = Landmarks.Find(At + 1, NearEnd))
 		{
-			At = FindEither(At, Last + 1, First, Second);
-			if (At > Last)
-			{
-				return nullptr;
-			}
 			if (Matches(At, Sub, SubLen, SearchCase))
 			{
 				return At;
 			}
 		}
+		return bSkip ? FindBySkipping(NearEnd, Last, Sub, SubLen) : nullptr;
 	}
 }
 

@@ -35,6 +35,29 @@ namespace FileManager
 				const FString Full = FPaths::ConvertRelativePathToFull(Path);
 				return (Tree || HostFiles::DirectoryExists(FPaths::GetPath(Full))) && HostFiles::MakeDirectory(Full);
 			}
+
+			uint32 Copy(const TCHAR* Dest, const TCHAR* Src, bool Replace, bool EvenIfReadOnly) override
+			{
+				std::string Bytes;
+				const bool bMayWrite = Replace || HostFiles::GetKind(Dest) == HostFiles::EKind::Missing;
+				const HostFiles::EReadOnly ReadOnly = EvenIfReadOnly ? HostFiles::EReadOnly::Override : HostFiles::EReadOnly::Refuse;
+				const bool bCopied = bMayWrite && HostFiles::Read(Src, Bytes) == HostFiles::ERead::Done && HostFiles::Write(Dest, Bytes, ReadOnly);
+				UE_CLOG(!bCopied, LogFileManager, Warning, TEXT("Could not copy %s to %s"), Src, Dest);
+				return bCopied ? COPY_OK : COPY_Fail;
+			}
+
+			void FindFiles(TArray<FString>& FoundFiles, const TCHAR* Directory, const TCHAR* FileExtension) override
+			{
+				FString Suffix = FileExtension != nullptr ? FileExtension : TEXT("");
+				if (!Suffix.IsEmpty() && !Suffix.StartsWith(TEXT(".")))
+				{
+					Suffix = TEXT(".") + Suffix;
+				}
+				for (const FString& File : HostFiles::FindFilesIn(Directory, Suffix))
+				{
+					FoundFiles.Add(FPaths::GetCleanFilename(File));
+				}
+			}
 			//~ End IFileManager
 		};
 	}

@@ -2,7 +2,17 @@
 
 #pragma once
 
+#include "Containers/Array.h"
+#include "Containers/UnrealString.h"
 #include "CoreTypes.h"
+
+/** How a copy went. */
+enum ECopyResult
+{
+	COPY_OK = 0x00,
+	COPY_Fail = 0x01,
+	COPY_Canceled = 0x02
+};
 
 /** Flags for writers of files. */
 enum EFileWrite
@@ -33,4 +43,17 @@ public:
 
 	/** @param Tree create missing folders above it, too */
 	virtual bool MakeDirectory(const TCHAR* Path, bool Tree = false) = 0;
+
+	/**
+	 * Makes Dest hold what Src holds, creating missing folders.
+	 * @param Replace otherwise an existing Dest is a failure
+	 * @return COPY_OK or COPY_Fail; the old Dest is whole after a failure
+	 */
+	virtual uint32 Copy(const TCHAR* Dest, const TCHAR* Src, bool Replace = true, bool EvenIfReadOnly = false) = 0;
+
+	/**
+	 * Appends the names, without folder, of the files directly in Directory. Host: sorted; a missing folder holds nothing.
+	 * @param FileExtension such as ".ttf", with or without the dot; null takes all files
+	 */
+	virtual void FindFiles(TArray<FString>& FoundFiles, const TCHAR* Directory, const TCHAR* FileExtension = nullptr) = 0;
 };

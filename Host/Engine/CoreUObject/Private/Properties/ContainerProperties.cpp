@@ -2,7 +2,7 @@
 // Arrays, sets and maps.
 
 #include "Properties/PropertyText.h"
-#include "Properties/ScratchValue.h"
+#include "HostScratchValue.h"
 #include "UObject/UnrealType.h"
 
 namespace ContainerProperties

@@ -1,7 +1,7 @@
 // Copyright Velmorant. All Rights Reserved.
 
 #include "Properties/PropertyText.h"
-#include "Properties/ScratchValue.h"
+#include "HostScratchValue.h"
 #include "UObject/GeneratedCode.h"
 #include "UObject/UnrealType.h"
 

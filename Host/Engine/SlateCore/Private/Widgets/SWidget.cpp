@@ -26,7 +26,7 @@ namespace SlateWidget
 	static void AppendText(SWidget& Widget, FString& InOutText)
 	{
 		const FHostWidgetDescription Description = FHostWidgetAccess::Describe(Widget);
-		if (!Description.bVisible || Description.bPassword)
+		if (!Description.bVisible || Description.bPassword || Description.Role == TEXT("swatch")) // a colour is no text
 		{
 			return;
 		}

@@ -1,9 +1,11 @@
 // Copyright Velmorant. All Rights Reserved.
 
 #include "HostWidgetLayout.h"
+#include "Layout/LayoutFunctions.h"
 #include "Layout/LayoutValues.h"
 #include "Misc/Char.h"
 
+#include <charconv>
 #include <memory>
 
 namespace LayoutValues
@@ -13,8 +15,26 @@ namespace LayoutValues
 		return !Text.IsEmpty() && !Text.Equals(TEXT("false"), ESearchCase::IgnoreCase) && !Text.Equals(TEXT("0")) && !Text.Equals(TEXT("None"));
 	}
 
+	/** With the digits that tell the number from its neighbours, and no more. */
+	template<typename NumberType>
+	static FString ToShortText(NumberType Number)
+	{
+		char Digits[512]; // enough for any number without exponent
+		const std::to_chars_result End = std::to_chars(Digits, Digits + sizeof(Digits) - 1, Number, std::chars_format::fixed);
+		*End.ptr = 0;
+		return FString(Digits);
+	}
+
 	FString ToText(const FProperty& Property, const void* Value)
 	{
+		if (Property.IsA<FFloatProperty>())
+		{
+			return ToShortText(FFloatProperty::GetPropertyValue(Value));
+		}
+		if (Property.IsA<FDoubleProperty>())
+		{
+			return ToShortText(FDoubleProperty::GetPropertyValue(Value));
+		}
 		if (const FTextProperty* Text = CastField<FTextProperty>(&Property))
 		{
 			return Text->GetPropertyValue(Value).ToString();
@@ -191,6 +211,10 @@ namespace LayoutValues
 	bool Check(const FLayoutValue& Value, const FLayoutTypes& Types, const FProperty* Property, FString& OutPointer, FString& OutReason)
 	{
 		OutPointer = Value.Pointer;
+		if (const FDelegateProperty* Delegate = Property ? CastField<FDelegateProperty>(Property) : nullptr)
+		{
+			return LayoutFunctions::Check(Value, *Types.PanelClass, *Delegate, OutReason);
+		}
 		if (Value.Kind == FLayoutValue::EKind::Choice)
 		{
 			return Check(Value.If, Types, OutPointer, OutReason) && Check(*Value.Then, Types, Property, OutPointer, OutReason) && Check(*Value.Else, Types, Property, OutPointer, OutReason);

@@ -17,8 +17,10 @@ namespace LayoutRunner
 		if (Setter.Function)
 		{
 			FLayoutParameterBlock Block(*Setter.Function);
-			LayoutValues::Evaluate(Value, Scope, *Setter.Property, Block.Get(*Setter.Property));
-			Block.Call(Target);
+			if (LayoutValues::Evaluate(Value, Scope, *Setter.Property, Block.Get(*Setter.Property)))
+			{
+				Block.Call(Target);
+			}
 			return;
 		}
 		LayoutValues::Evaluate(Value, Scope, *Setter.Property, Setter.Property->ContainerPtrToValuePtr<void>(&Target));
@@ -56,9 +58,13 @@ namespace LayoutRunner
 		}
 		for (const FLayoutAssignment& Argument : Action.Arguments)
 		{
-			if (const FProperty* Parameter = Function->FindPropertyByName(Argument.Property))
+			const FProperty* Parameter = Function->FindPropertyByName(Argument.Property);
+			if (Parameter && !LayoutValues::Evaluate(*Argument.Value, Scope, *Parameter, Block.Get(*Parameter)))
 			{
-				LayoutValues::Evaluate(*Argument.Value, Scope, *Parameter, Block.Get(*Parameter));
+				// Better nothing than a call with a value that nobody entered.
+				UE_LOG(LogTemp, Warning, TEXT("%s: %s is not called, for '%s' is not a %s."), *Scope.Panel->GetClass()->GetName(), *Function->GetName(),
+					*LayoutValues::EvaluateText(*Argument.Value, Scope), *LayoutTypes::Describe(*Parameter));
+				return;
 			}
 		}
 		Block.Call(*Target);

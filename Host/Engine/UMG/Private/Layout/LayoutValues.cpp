@@ -3,6 +3,7 @@
 #include "Layout/LayoutValues.h"
 
 #include "Blueprint/UserWidget.h"
+#include "Layout/LayoutFunctions.h"
 
 UObject* FLayoutScope::FindTarget(FName Widget) const
 {
@@ -115,50 +116,55 @@ namespace LayoutValues
 		return Condition.Is.IsValid() ? Text.Equals(EvaluateText(*Condition.Is, Scope), ESearchCase::IgnoreCase) : IsTrue(Text);
 	}
 
-	static void EvaluateList(const FLayoutValue& Value, const FLayoutScope& Scope, const FArrayProperty& Array, void* Dest)
+	static bool EvaluateList(const FLayoutValue& Value, const FLayoutScope& Scope, const FArrayProperty& Array, void* Dest)
 	{
 		FScriptArrayHelper Helper(&Array, Dest);
 		Helper.Resize(Value.Elements.Num());
+		bool bFits = true;
 		for (int32 Index = 0; Index < Value.Elements.Num(); ++Index)
 		{
-			Evaluate(*Value.Elements[Index], Scope, *Array.Inner, Helper.GetElementPtr(Index));
+			bFits &= Evaluate(*Value.Elements[Index], Scope, *Array.Inner, Helper.GetElementPtr(Index));
 		}
+		return bFits;
 	}
 
-	void Evaluate(const FLayoutValue& Value, const FLayoutScope& Scope, const FProperty& Property, void* Dest)
+	bool Evaluate(const FLayoutValue& Value, const FLayoutScope& Scope, const FProperty& Property, void* Dest)
 	{
+		if (Property.IsA<FDelegateProperty>())
+		{
+			LayoutFunctions::Bind(Value, Scope, Dest);
+			return true;
+		}
 		const FArrayProperty* Array = CastField<FArrayProperty>(&Property);
 		if (Value.Kind == FLayoutValue::EKind::List && Array)
 		{
-			EvaluateList(Value, Scope, *Array, Dest);
-			return;
+			return EvaluateList(Value, Scope, *Array, Dest);
 		}
 		if (Value.Kind == FLayoutValue::EKind::Choice)
 		{
-			Evaluate(IsMet(Value.If, Scope) ? *Value.Then : *Value.Else, Scope, Property, Dest);
-			return;
+			return Evaluate(IsMet(Value.If, Scope) ? *Value.Then : *Value.Else, Scope, Property, Dest);
 		}
 		if (const FLayoutPath* Path = Value.GetSolePath())
 		{
 			FDatum Datum;
 			if (!Follow(*Path, Scope, Datum))
 			{
-				return;
+				return true;
 			}
 			const FObjectPropertyBase* Object = CastField<FObjectPropertyBase>(&Property);
 			if (Object && (!Datum.Object || Datum.Object->IsA(Object->PropertyClass)))
 			{
 				Object->SetObjectPropertyValue(Dest, Datum.Object);
-				return;
+				return true;
 			}
 			if (Datum.Property && LayoutTypes::IsSameType(*Datum.Property, Property))
 			{
 				Property.CopyCompleteValue(Dest, Datum.Value);
-				return;
+				return true;
 			}
 		}
 		FString Reason;
-		SetFromText(
+		return SetFromText(
 			Property, Dest, EvaluateText(Value, Scope), [&Scope](const FString& Name) { return Scope.FindTarget(FName(*Name)); }, Reason);
 	}
 }

@@ -27,8 +27,11 @@ namespace LayoutValues
 	/** How a property's value reads in a text. */
 	FString ToText(const FProperty& Property, const void* Value);
 
-	/** Works a value out into a property. What does not fit leaves the property as it is. */
-	void Evaluate(const FLayoutValue& Value, const FLayoutScope& Scope, const FProperty& Property, void* Dest);
+	/**
+	 * Works a value out into a property.
+	 * @return false when it does not fit; the property may then hold anything of its type. A path that leads nowhere just now leaves it as it is.
+	 */
+	bool Evaluate(const FLayoutValue& Value, const FLayoutScope& Scope, const FProperty& Property, void* Dest);
 
 	FString EvaluateText(const FLayoutValue& Value, const FLayoutScope& Scope);
 	bool IsMet(const FLayoutCondition& Condition, const FLayoutScope& Scope);

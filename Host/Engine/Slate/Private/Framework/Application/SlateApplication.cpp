@@ -2,6 +2,7 @@
 
 #include "Framework/Application/SlateApplication.h"
 
+#include "HostMenus.h"
 #include "HostNotifications.h"
 #include "HostSlate.h"
 #include "HostState.h"
@@ -45,6 +46,11 @@ FSlateApplication& FSlateApplication::Get()
 {
 	checkf(IsInitialized(), TEXT("There is no user interface: FSlateApplication::IsInitialized() says so."));
 	return *SlateApplication::GetState().Application;
+}
+
+void FSlateApplication::DismissAllMenus()
+{
+	HostMenus::DismissAll();
 }
 
 void HostSlate::Start()

@@ -2,7 +2,25 @@
 
 #include "Widgets/Input/SComboButton.h"
 
+#include "HostMenus.h"
 #include "HostWidget.h"
+
+namespace ComboButton
+{
+	/** The face is one line of text: its swatches are told beside it. */
+	void NoteColors(SWidget& Face, TArray<FString>& OutNotes)
+	{
+		const FHostWidgetDescription Description = FHostWidgetAccess::Describe(Face);
+		if (Description.Role == TEXT("swatch"))
+		{
+			OutNotes.Add(TEXT("swatch ") + Description.Value.Get(FString()));
+		}
+		for (const TSharedRef<SWidget>& Child : FHostWidgetAccess::ChildrenOf(Face))
+		{
+			NoteColors(*Child, OutNotes);
+		}
+	}
+}
 
 void SComboButton::Construct(const FArguments& InArgs)
 {
@@ -25,6 +43,7 @@ void SComboButton::SetIsOpen(bool bInIsOpen)
 		const TSharedRef<FSlotBase> Slot = MakeShared<FSlotBase>();
 		Slot->AttachWidget(OnGetMenuContent.IsBound() ? OnGetMenuContent.Execute() : StaticMenuContent);
 		OpenMenu.AddSlot(Slot);
+		HostMenus::NoteOpened(StaticCastSharedRef<SComboButton>(AsShared()));
 		OnComboBoxOpened.ExecuteIfBound();
 	}
 }
@@ -51,6 +70,7 @@ void SComboButton::DescribeToHost(FHostWidgetDescription& OutDescription) const
 	OutDescription.Role = TEXT("combo");
 	OutDescription.Value = Face;
 	OutDescription.Notes.Add(FString::Printf(TEXT("%d %s"), NumOptions, NumOptions == 1 ? TEXT("option") : TEXT("options")));
+	ComboButton::NoteColors(*ChildSlot.GetWidget(), OutDescription.Notes);
 }
 
 void SComboButton::ListHostOptions(TArray<FString>& OutOptions)

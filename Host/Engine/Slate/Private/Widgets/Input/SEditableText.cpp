@@ -3,8 +3,10 @@
 #include "Widgets/Input/SEditableText.h"
 
 #include "HostWidget.h"
+#include "Widgets/Input/SButton.h"
 #include "Widgets/Input/SEditableTextBox.h"
 #include "Widgets/Input/SSearchBox.h"
+#include "Widgets/SBoxPanel.h"
 
 void SEditableText::Construct(const FArguments& InArgs)
 {
@@ -50,8 +52,19 @@ FHostInputResult SEditableText::TakeHostInput(const FHostInput& Input)
 	{
 		return FHostInputResult::Refused(TEXT("is read-only"));
 	}
-	SetText(FText::FromString(Input.Text));
-	OnTextCommitted.ExecuteIfBound(GetText(), ETextCommit::OnEnter);
+	if (!Text.IsBound())
+	{
+		SetText(FText::FromString(Input.Text));
+		OnTextCommitted.ExecuteIfBound(GetText(), ETextCommit::OnEnter);
+		return FHostInputResult::Done();
+	}
+	// What is typed is seen only while typing: once it is committed, the text is again what its owner says.
+	const FText Typed = FText::FromString(Input.Text);
+	if (!Typed.EqualTo(GetText()))
+	{
+		OnTextChanged.ExecuteIfBound(Typed);
+	}
+	OnTextCommitted.ExecuteIfBound(Typed, ETextCommit::OnEnter);
 	return FHostInputResult::Done();
 }
 
@@ -95,6 +108,47 @@ void SSearchBox::Construct(const FArguments& InArgs)
 									.HintText(InArgs._HintText)
 									.OnTextChanged(InArgs._OnTextChanged)
 									.OnTextCommitted(InArgs._OnTextCommitted));
+	// clang-format off
+	SetContent(
+		SNew(SHorizontalBox)
+		+ SHorizontalBox::Slot()
+		[
+			EditableText.ToSharedRef()
+		]
+		+ SHorizontalBox::Slot()
+		.AutoWidth()
+		[
+			SNew(SButton)
+			.Tag(FName(TEXT("Clear")))
+			.ToolTipText(NSLOCTEXT("SearchBox", "ClearTip", "Clear the search"))
+			.Visibility(this, &SSearchBox::GetClearVisibility)
+			.OnClicked(this, &SSearchBox::HandleClear)
+		]);
+	// clang-format on
+}
+
+EVisibility SSearchBox::GetClearVisibility() const
+{
+	return GetText().IsEmpty() ? EVisibility::Collapsed : EVisibility::Visible;
+}
+
+FReply SSearchBox::HandleClear()
+{
+	SetText(FText::GetEmpty());
+	return FReply::Handled();
+}
+
+FHostInputResult SSearchBox::TakeHostInput(const FHostInput& Input)
+{
+	if (Input.Kind == EHostInput::Type && !Input.Text.Equals(GetText().ToString()))
+	{
+		// Key by key: whoever listens hears of each.
+		for (int32 NumKeys = 1; NumKeys < Input.Text.Len(); ++NumKeys)
+		{
+			SetText(FText::FromString(Input.Text.Left(NumKeys)));
+		}
+	}
+	return SEditableTextBox::TakeHostInput(Input);
 }
 
 void SSearchBox::DescribeToHost(FHostWidgetDescription& OutDescription) const

@@ -16,12 +16,6 @@ void STableViewBase::RequestListRefresh()
 	}
 }
 
-void STableViewBase::RequestScrollToIndex(int32 ItemIndex)
-{
-	ScrollTarget = ItemIndex;
-	RequestListRefresh();
-}
-
 bool STableViewBase::HandleTick(float)
 {
 	bRefreshPending = false; // first: making rows may ask for another refresh
@@ -32,11 +26,11 @@ bool STableViewBase::HandleTick(float)
 void STableViewBase::GenerateRows()
 {
 	const int32 NumItems = CountItems();
+	const int32 ScrollTarget = TakeScrollTarget();
 	if (ScrollTarget != INDEX_NONE && (ScrollTarget < FirstItemInView || ScrollTarget >= FirstItemInView + HostRowsInView))
 	{
 		FirstItemInView = ScrollTarget;
 	}
-	ScrollTarget = INDEX_NONE;
 	FirstItemInView = FMath::Max(0, FMath::Min(FirstItemInView, NumItems - HostRowsInView));
 	const int32 NumRows = FMath::Min(HostRowsInView, NumItems - FirstItemInView);
 

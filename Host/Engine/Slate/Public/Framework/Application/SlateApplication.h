@@ -21,6 +21,9 @@ public:
 
 	FSlateRenderer* GetRenderer() const { return Renderer.Get(); }
 
+	/** Closes every menu that is open. */
+	void DismissAllMenus();
+
 private:
 	TUniquePtr<FSlateRenderer> Renderer;
 };

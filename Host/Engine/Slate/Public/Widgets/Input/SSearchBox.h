@@ -4,7 +4,7 @@
 
 #include "Widgets/Input/SEditableTextBox.h"
 
-/** A text box to search with. Every change of its text is told at once, without Enter. */
+/** A text box to search with. Every change of its text is told at once, without Enter; so is the press of its button that clears it. */
 class SLATE_API SSearchBox : public SEditableTextBox
 {
 public:
@@ -36,4 +36,9 @@ public:
 
 protected:
 	virtual void DescribeToHost(FHostWidgetDescription& OutDescription) const override;
+	virtual FHostInputResult TakeHostInput(const FHostInput& Input) override;
+
+private:
+	EVisibility GetClearVisibility() const;
+	FReply HandleClear();
 };

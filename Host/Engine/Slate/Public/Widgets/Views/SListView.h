@@ -4,6 +4,7 @@
 
 #include "Containers/ArrayView.h"
 #include "Framework/Views/ITypedTableView.h"
+#include "Misc/Optional.h"
 #include "Widgets/Views/ITableRow.h"
 #include "Widgets/Views/STableViewBase.h"
 
@@ -98,19 +99,22 @@ public:
 	}
 	int32 GetNumItemsSelected() const { return SelectedItems.Num(); }
 
-	/** At the next tick. An item that is not in the list is ignored. */
+	/** At the next tick. An item that is not in the list then is ignored. */
 	void RequestScrollIntoView(ItemType ItemToView, const uint32 = 0)
 	{
-		const int32 Index = ItemsSource ? ItemsSource->Find(ItemToView) : INDEX_NONE;
-		if (Index != INDEX_NONE)
-		{
-			RequestScrollToIndex(Index);
-		}
+		ItemToScrollTo = ItemToView;
+		RequestListRefresh();
 	}
 
 protected:
 	virtual int32 CountItems() const override { return ItemsSource ? ItemsSource->Num() : 0; }
 	virtual const TCHAR* GetHostRole() const override { return TEXT("list"); }
+	virtual int32 TakeScrollTarget() override
+	{
+		const int32 Index = ItemsSource && ItemToScrollTo.IsSet() ? ItemsSource->Find(ItemToScrollTo.GetValue()) : INDEX_NONE;
+		ItemToScrollTo.Reset();
+		return Index;
+	}
 	virtual bool IsItemIndexSelected(int32 ItemIndex) const override { return IsItemSelected((*ItemsSource)[ItemIndex]); }
 
 	virtual TSharedRef<ITableRow> MakeRow(int32 ItemIndex) override
@@ -171,6 +175,7 @@ private:
 
 	const TArray<ItemType>* ItemsSource = nullptr;
 	TArray<ItemType> SelectedItems; // in order of selection
+	TOptional<ItemType> ItemToScrollTo; // until the next tick
 	TMap<ItemType, TSharedRef<ITableRow>> RowsByItem; // of the items in view
 	TAttribute<ESelectionMode::Type> SelectionMode;
 	FOnSelectionChanged OnSelectionChanged;

@@ -45,8 +45,8 @@ protected:
 	virtual void ClickItem(int32 ItemIndex) = 0;
 	virtual const TCHAR* GetHostRole() const = 0;
 
-	/** Moves the view so that the item shows, at the next tick. */
-	void RequestScrollToIndex(int32 ItemIndex);
+	/** Which item was asked to be scrolled to since the last call; INDEX_NONE for none, or one that is not in the list (any more). */
+	virtual int32 TakeScrollTarget() = 0;
 
 private:
 	bool HandleTick(float DeltaTime);
@@ -56,6 +56,5 @@ private:
 
 	TPanelChildren<FSlotBase> Rows;
 	int32 FirstItemInView = 0;
-	int32 ScrollTarget = INDEX_NONE;
 	bool bRefreshPending = false;
 };

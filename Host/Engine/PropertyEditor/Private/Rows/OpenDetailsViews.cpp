@@ -1,0 +1,37 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "Rows/OpenDetailsViews.h"
+
+#include "HostDetailsView.h"
+
+namespace OpenDetailsViews
+{
+	/** Views come and go with their owners, which may outlive an editor: a plain list. */
+	static TArray<FHostDetailsView*>& GetAll()
+	{
+		static TArray<FHostDetailsView*> Views;
+		return Views;
+	}
+
+	void Add(FHostDetailsView& View)
+	{
+		GetAll().Add(&View);
+	}
+
+	void Remove(FHostDetailsView& View)
+	{
+		GetAll().Remove(&View);
+	}
+
+	void RebuildAll()
+	{
+		const TArray<FHostDetailsView*> Views = GetAll();
+		for (FHostDetailsView* View : Views)
+		{
+			if (GetAll().Contains(View))
+			{
+				View->Rebuild();
+			}
+		}
+	}
+}

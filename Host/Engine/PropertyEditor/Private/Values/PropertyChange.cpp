@@ -1,0 +1,132 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "Values/PropertyChange.h"
+
+#include "UObject/StrongObjectPtr.h"
+#include "Values/PropertyNode.h"
+
+namespace PropertyChange
+{
+	/** Those below first hear of it themselves: their values are new, too. */
+	static void TellBelow(const TSharedRef<FPropertyNode>& Node)
+	{
+		Node->OnValueChanged.Broadcast();
+		const TArray<TSharedRef<FPropertyNode>> Below = Node->GetChildren(); // a copy: listeners may change the value again
+		for (const TSharedRef<FPropertyNode>& Child : Below)
+		{
+			TellBelow(Child);
+		}
+	}
+}
+
+FPropertyChange::FPropertyChange(FPropertyNode& InNode)
+	: Node(InNode.AsShared())
+{
+	TArray<void*> Values;
+	if (!Node->IsRoot() && Node->GetValues(Values))
+	{
+		for (const void* Value : Values)
+		{
+			NewValues.Add(MakeUnique<FScratchValue>(Node->GetProperty()));
+			Node->GetProperty()->CopyCompleteValue(NewValues.Last()->Get(), Value);
+		}
+	}
+}
+
+FPropertyAccess::Result FPropertyChange::Apply(EPropertyValueSetFlags::Type Flags, EPropertyChangeType::Type ChangeType)
+{
+	TArray<void*> Values;
+	if (NewValues.IsEmpty() || Node->IsInSet() || !Node->GetValues(Values))
+	{
+		return FPropertyAccess::Fail;
+	}
+	if (!IsAnyNew(Values))
+	{
+		return FPropertyAccess::Success;
+	}
+	const TArray<UObject*> Objects = Node->GetObjects();
+	TArray<TStrongObjectPtr<UObject>> HeldWhileTelling;
+	for (UObject* Object : Objects)
+	{
+		HeldWhileTelling.Emplace(Object);
+		Object->PreEditChange(Node->GetProperty());
+		if ((Flags & EPropertyValueSetFlags::NotTransactable) != 0)
+		{
+			Object->MarkPackageDirty();
+		}
+		else
+		{
+			Object->Modify();
+		}
+	}
+	if (!Write())
+	{
+		return FPropertyAccess::Fail; // an object that was told took the value away
+	}
+	const bool bInteractive = (Flags & EPropertyValueSetFlags::InteractiveChange) != 0;
+	TellObjects(Objects, bInteractive ? EPropertyChangeType::Interactive : ChangeType);
+	TellListeners();
+	return FPropertyAccess::Success;
+}
+
+bool FPropertyChange::IsAnyNew(const TArray<void*>& Values) const
+{
+	for (int32 Index = 0; Index < Values.Num(); ++Index)
+	{
+		if (!Node->GetProperty()->Identical(Values[Index], GetNewValue(Index)))
+		{
+			return true;
+		}
+	}
+	return false;
+}
+
+bool FPropertyChange::Write() const
+{
+	TArray<void*> Values;
+	if (!Node->GetValues(Values) || Values.Num() != Num())
+	{
+		return false;
+	}
+	for (int32 Index = 0; Index < Values.Num(); ++Index)
+	{
+		Node->GetProperty()->CopyCompleteValue(Values[Index], GetNewValue(Index));
+	}
+	return true;
+}
+
+void FPropertyChange::TellObjects(const TArray<UObject*>& Objects, EPropertyChangeType::Type ChangeType) const
+{
+	TArray<FProperty*> FromMember;
+	for (TSharedPtr<FPropertyNode> Each = Node; Each.IsValid() && !Each->IsRoot(); Each = Each->GetParent())
+	{
+		FromMember.Insert(Each->GetProperty(), 0);
+	}
+	FEditPropertyChain Chain;
+	for (FProperty* Property : FromMember)
+	{
+		Chain.AddTail(Property);
+	}
+	for (int32 Index = 0; Index < Objects.Num(); ++Index)
+	{
+		FPropertyChangedEvent Event(Node->GetProperty(), ChangeType);
+		Event.SetActiveMemberProperty(Chain.GetActiveMemberNode());
+		Event.ObjectIteratorIndex = Index;
+		FPropertyChangedChainEvent ChainEvent(Chain, Event);
+		Objects[Index]->PostEditChangeChainProperty(ChainEvent);
+	}
+}
+
+void FPropertyChange::TellListeners() const
+{
+	TArray<TSharedRef<FPropertyNode>> Above; // collected first: listeners may close the panel
+	for (TSharedPtr<FPropertyNode> Each = Node->GetParent(); Each.IsValid(); Each = Each->GetParent())
+	{
+		Above.Add(Each.ToSharedRef());
+	}
+	PropertyChange::TellBelow(Node);
+	for (const TSharedRef<FPropertyNode>& Each : Above)
+	{
+		Each->OnChildValueChanged.Broadcast();
+	}
+}

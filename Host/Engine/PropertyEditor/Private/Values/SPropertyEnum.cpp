@@ -1,0 +1,80 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "Values/SPropertyEnum.h"
+
+#include "IPropertyTypeCustomization.h"
+#include "Values/PropertyChange.h"
+#include "Values/PropertyValue.h"
+#include "Values/PropertyWidgets.h"
+#include "Widgets/Text/STextBlock.h"
+
+void SPropertyEnum::Construct(const FArguments&, const TSharedRef<FPropertyNode>& InNode)
+{
+	Node = InNode;
+	FillEntries(*PropertyValue::GetEnum(*Node->GetProperty()));
+	// clang-format off
+	ChildSlot
+	[
+		SAssignNew(Combo, SComboBox<FEntry>)
+		.OptionsSource(&Entries)
+		.OnComboBoxOpening(this, &SPropertyEnum::HandleOpening)
+		.OnGenerateWidget(this, &SPropertyEnum::MakeEntry)
+		.OnSelectionChanged(this, &SPropertyEnum::HandlePicked)
+		[
+			SNew(STextBlock)
+			.Text(this, &SPropertyEnum::GetCurrentText)
+			.Font(IPropertyTypeCustomizationUtils::GetRegularFont())
+		]
+	];
+	// clang-format on
+}
+
+void SPropertyEnum::FillEntries(const UEnum& Enum)
+{
+	const int32 Num = Enum.ContainsExistingMax() ? Enum.NumEnums() - 1 : Enum.NumEnums();
+	for (int32 Index = 0; Index < Num; ++Index)
+	{
+		if (!Enum.HasMetaData(TEXT("Hidden"), Index))
+		{
+			Entries.Add(MakeShared<int32>(Index));
+		}
+	}
+}
+
+FText SPropertyEnum::GetCurrentText() const
+{
+	FString Text;
+	switch (PropertyValue::ReadDisplayText(*Node, Text, PPF_PropertyWindow))
+	{
+		case FPropertyAccess::Success: return FText::FromString(Text);
+		case FPropertyAccess::MultipleValues: return PropertyWidgets::GetMultipleValuesText();
+		default: return FText::GetEmpty();
+	}
+}
+
+/** The value may have changed since the last pick: the box would take the same pick for none. */
+void SPropertyEnum::HandleOpening()
+{
+	Combo->ClearSelection();
+}
+
+TSharedRef<SWidget> SPropertyEnum::MakeEntry(FEntry Entry)
+{
+	const UEnum* Enum = Node->HasValues() ? PropertyValue::GetEnum(*Node->GetProperty()) : nullptr;
+	return SNew(STextBlock).Text(Enum != nullptr ? Enum->GetDisplayNameTextByIndex(*Entry) : FText::GetEmpty());
+}
+
+void SPropertyEnum::HandlePicked(FEntry Entry, ESelectInfo::Type)
+{
+	FPropertyChange Change(*Node);
+	if (!Entry.IsValid() || Change.Num() == 0)
+	{
+		return;
+	}
+	const int64 Value = PropertyValue::GetEnum(*Node->GetProperty())->GetValueByIndex(*Entry);
+	for (int32 Index = 0; Index < Change.Num(); ++Index)
+	{
+		CastField<FNumericProperty>(PropertyValue::GetStorage(*Node))->SetIntPropertyValue(Change.GetNewValue(Index), Value);
+	}
+	Change.Apply(EPropertyValueSetFlags::DefaultFlags);
+}

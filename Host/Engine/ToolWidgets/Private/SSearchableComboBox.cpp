@@ -1,0 +1,187 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "SSearchableComboBox.h"
+
+#include "HostWidget.h"
+#include "Widgets/Layout/SBox.h"
+#include "Widgets/SBoxPanel.h"
+#include "Widgets/Views/STableRow.h"
+
+namespace SearchableComboBox
+{
+	static bool ContainsAll(const FString& Text, const TArray<FString>& Words)
+	{
+		for (const FString& Word : Words)
+		{
+			if (!Text.Contains(Word))
+			{
+				return false;
+			}
+		}
+		return true;
+	}
+}
+
+void SSearchableComboBox::Construct(const FArguments& InArgs)
+{
+	OptionsSource = InArgs._OptionsSource;
+	SelectedItem = InArgs._InitiallySelectedItem;
+	OnSelectionChanged = InArgs._OnSelectionChanged;
+	OnGenerateWidget = InArgs._OnGenerateWidget;
+	OnComboBoxOpening = InArgs._OnComboBoxOpening;
+	SearchVisibility = InArgs._SearchVisibility;
+	MaxListHeight = InArgs._MaxListHeight;
+	bAlwaysSelectItem = InArgs._bAlwaysSelectItem;
+	// clang-format off
+	SComboButton::Construct(SComboButton::FArguments()
+		.ContentPadding(InArgs._ContentPadding)
+		.ForegroundColor(InArgs._ForegroundColor)
+		.HasDownArrow(InArgs._HasDownArrow)
+		.OnGetMenuContent(FOnGetContent::CreateSP(this, &SSearchableComboBox::MakeMenu))
+		.ButtonContent()
+		[
+			InArgs._Content.Widget
+		]);
+	// clang-format on
+	RefreshOptions();
+}
+
+void SSearchableComboBox::ClearSelection()
+{
+	SetSelectedItem(nullptr, ESelectInfo::Direct);
+}
+
+void SSearchableComboBox::SetSelectedItem(TSharedPtr<FString> InSelectedItem, ESelectInfo::Type InSelectInfo)
+{
+	if (SelectedItem != InSelectedItem)
+	{
+		SelectedItem = InSelectedItem;
+		OnSelectionChanged.ExecuteIfBound(SelectedItem, InSelectInfo);
+	}
+}
+
+TSharedPtr<FString> SSearchableComboBox::GetSelectedItem()
+{
+	return SelectedItem;
+}
+
+void SSearchableComboBox::RefreshOptions()
+{
+	TArray<FString> Words;
+	SearchText.ToString().ParseIntoArrayWS(Words);
+	FilteredOptions.Empty();
+	for (int32 Index = 0; OptionsSource != nullptr && Index < OptionsSource->Num(); ++Index)
+	{
+		const TSharedPtr<FString>& Option = (*OptionsSource)[Index];
+		if (Option.IsValid() && SearchableComboBox::ContainsAll(*Option, Words))
+		{
+			FilteredOptions.Add(Option);
+		}
+	}
+	if (ListView.IsValid())
+	{
+		ListView->RequestListRefresh();
+	}
+}
+
+void SSearchableComboBox::SetOptionsSource(const TArray<TSharedPtr<FString>>* InOptionsSource)
+{
+	OptionsSource = InOptionsSource;
+}
+
+void SSearchableComboBox::SetIsOpen(bool bInIsOpen)
+{
+	if (bInIsOpen && !IsOpen())
+	{
+		OnComboBoxOpening.ExecuteIfBound();
+	}
+	SComboButton::SetIsOpen(bInIsOpen);
+	if (!bInIsOpen)
+	{
+		ListView.Reset();
+	}
+}
+
+TSharedRef<SWidget> SSearchableComboBox::MakeMenu()
+{
+	SearchText = FText::GetEmpty();
+	RefreshOptions();
+	// clang-format off
+	const TSharedRef<SWidget> Menu =
+		SNew(SVerticalBox)
+		+ SVerticalBox::Slot()
+		.AutoHeight()
+		[
+			SNew(SSearchBox)
+			.Visibility(SearchVisibility)
+			.OnTextChanged(this, &SSearchableComboBox::HandleSearchChanged)
+		]
+		+ SVerticalBox::Slot()
+		.AutoHeight()
+		.MaxHeight(MaxListHeight)
+		[
+			SAssignNew(ListView, SListView<TSharedPtr<FString>>)
+			.ListItemsSource(&FilteredOptions)
+			.SelectionMode(ESelectionMode::Single)
+			.OnGenerateRow(this, &SSearchableComboBox::MakeRow)
+			.OnMouseButtonClick(this, &SSearchableComboBox::HandleOptionClicked)
+		];
+	// clang-format on
+	if (SelectedItem.IsValid() && FilteredOptions.Contains(SelectedItem))
+	{
+		ListView->SetSelection(SelectedItem);
+		ListView->RequestScrollIntoView(SelectedItem);
+	}
+	return Menu;
+}
+
+TSharedRef<ITableRow> SSearchableComboBox::MakeRow(TSharedPtr<FString> Option, const TSharedRef<STableViewBase>& OwnerTable)
+{
+	// clang-format off
+	return
+		SNew(STableRow<TSharedPtr<FString>>, OwnerTable)
+		[
+			OnGenerateWidget.IsBound() ? OnGenerateWidget.Execute(Option) : SNullWidget::NullWidget
+		];
+	// clang-format on
+}
+
+void SSearchableComboBox::HandleSearchChanged(const FText& Text)
+{
+	SearchText = Text;
+	RefreshOptions();
+}
+
+void SSearchableComboBox::HandleOptionClicked(TSharedPtr<FString> Option)
+{
+	SetIsOpen(false);
+	Pick(Option);
+}
+
+void SSearchableComboBox::Pick(TSharedPtr<FString> Option)
+{
+	if (SelectedItem != Option)
+	{
+		SetSelectedItem(Option, ESelectInfo::OnMouseClick);
+	}
+	else if (bAlwaysSelectItem)
+	{
+		OnSelectionChanged.ExecuteIfBound(Option, ESelectInfo::OnMouseClick);
+	}
+}
+
+int32 SSearchableComboBox::CountOptionsForHost() const
+{
+	return OptionsSource != nullptr ? OptionsSource->Num() : 0;
+}
+
+TSharedRef<SWidget> SSearchableComboBox::MakeOptionForHost(int32 Index)
+{
+	return OnGenerateWidget.IsBound() ? OnGenerateWidget.Execute((*OptionsSource)[Index]) : SNullWidget::NullWidget;
+}
+
+void SSearchableComboBox::PickOptionForHost(int32 Index)
+{
+	const TSharedPtr<FString> Option = (*OptionsSource)[Index]; // held: the handler may change the list
+	Pick(Option);
+}

@@ -1,0 +1,94 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "ToolbarHost.h"
+
+#include "HostMenus.h"
+#include "HostSnapshot.h"
+#include "HostToolMenus.h"
+#include "ToolMenus.h"
+#include "Widgets/Input/SComboButton.h"
+
+namespace ToolbarHost
+{
+	static bool OpensMenu(SWidget& Widget)
+	{
+		return FHostWidgetAccess::Describe(Widget).Role == TEXT("menu button");
+	}
+
+	/** What is open below a button; null while nothing is, and for anything but a button that opens a menu. */
+	static TSharedPtr<SWidget> MenuBelow(const TSharedPtr<SWidget>& Button)
+	{
+		if (!Button.IsValid() || !OpensMenu(*Button))
+		{
+			return nullptr;
+		}
+		const TArray<TSharedRef<SWidget>> Below = FHostWidgetAccess::ChildrenOf(*Button);
+		return Below.IsEmpty() ? TSharedPtr<SWidget>() : TSharedPtr<SWidget>(Below[0]);
+	}
+
+	static bool HasOpenMenu(const TSharedRef<SWidget>& Widget)
+	{
+		if (MenuBelow(Widget).IsValid())
+		{
+			return true;
+		}
+		for (const TSharedRef<SWidget>& Child : FHostWidgetAccess::ChildrenOf(*Widget))
+		{
+			if (HasOpenMenu(Child))
+			{
+				return true;
+			}
+		}
+		return false;
+	}
+}
+
+FName FToolbarHost::GetMenuName()
+{
+	return "LevelEditor.LevelEditorToolBar.PlayToolBar";
+}
+
+void FToolbarHost::Register()
+{
+	UToolMenus::Get()->RegisterMenu(GetMenuName(), NAME_None, EMultiBoxType::SlimHorizontalToolBar);
+}
+
+TSharedRef<SWidget> FToolbarHost::GetContent()
+{
+	if (!Content.IsValid() || !ToolbarHost::HasOpenMenu(Content.ToSharedRef()))
+	{
+		Content = HostToolMenus::Open(GetMenuName(), FToolMenuContext());
+	}
+	return Content.ToSharedRef();
+}
+
+TSharedPtr<SWidget> FToolbarHost::OpenMenu(const FString& Button, FString& OutReason)
+{
+	HostMenus::DismissAll();
+	const TSharedRef<SWidget> Toolbar = GetContent();
+	const TSharedPtr<SWidget> Found = HostSnapshot::Find(Toolbar, Button, OutReason);
+	if (!Found.IsValid())
+	{
+		return nullptr;
+	}
+	if (!ToolbarHost::OpensMenu(*Found))
+	{
+		OutReason = FString::Printf(TEXT("\"%s\" opens no menu"), *Button);
+		return nullptr;
+	}
+	const FHostInputResult Result = HostSnapshot::Click(Toolbar, Button);
+	OutReason = Result.Reason;
+	return Result.bDone ? ToolbarHost::MenuBelow(Found) : nullptr;
+}
+
+TSharedPtr<SWidget> FToolbarHost::FindOpenMenu(const FString& Button) const
+{
+	FString Reason;
+	return Content.IsValid() ? ToolbarHost::MenuBelow(HostSnapshot::Find(Content.ToSharedRef(), Button, Reason)) : nullptr;
+}
+
+void FToolbarHost::Close()
+{
+	HostMenus::DismissAll();
+	Content.Reset();
+}
