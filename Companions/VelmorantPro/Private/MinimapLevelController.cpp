@@ -13,3 +13,13 @@ bool AMinimapLevelController::SetActiveFloor(int32 FloorIndex)
 	}
 	return bIsFloor;
 }
+
+bool AMinimapLevelController::HasActiveFloor() const
+{
+	return MinimapConfiguration && MinimapConfiguration->Floors.IsValidIndex(ActiveFloorIndex);
+}
+
+FWidgetTransform AMinimapLevelController::GetActiveFloorTransform() const
+{
+	return HasActiveFloor() ? MinimapConfiguration->Floors[ActiveFloorIndex].WidgetTransform : FWidgetTransform();
+}

@@ -2,7 +2,10 @@
 
 #include "VelmorantVariantHandler.h"
 
+#include "VelmorantProSettings.h"
+
 FString UVelmorantVariantHandler::CombineVariantSet(const FString& RoomName, const FString& GroupName)
 {
-	return RoomName + TEXT(" - ") + GroupName;
+	const UVelmorantProSettings* Settings = GetDefault<UVelmorantProSettings>();
+	return Settings->bGroupBeforeRoom ? GroupName + Settings->VariantSetSeparator + RoomName : RoomName + Settings->VariantSetSeparator + GroupName;
 }

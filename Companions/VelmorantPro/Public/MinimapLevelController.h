@@ -4,6 +4,7 @@
 
 #include "CoreMinimal.h"
 #include "GameFramework/Actor.h"
+#include "Slate/WidgetTransform.h"
 #include "MinimapLevelController.generated.h"
 
 class UMinimapConfigAsset;
@@ -22,6 +23,14 @@ public:
 
 	/** @return whether there is such a floor; otherwise the active floor stays. */
 	bool SetActiveFloor(int32 FloorIndex);
+
+	/** Whether one of the configuration's floors is active. */
+	UFUNCTION(BlueprintPure, Category = "MinimapLevelController")
+	bool HasActiveFloor() const;
+
+	/** Where the active floor's picture stands on the screen; the identity when none is active. */
+	UFUNCTION(BlueprintPure, Category = "MinimapLevelController")
+	FWidgetTransform GetActiveFloorTransform() const;
 
 private:
 	UPROPERTY(EditAnywhere, Category = "MinimapLevelController")

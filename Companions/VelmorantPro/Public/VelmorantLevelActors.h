@@ -3,7 +3,9 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "FontIconHandler.h"
 #include "GameFramework/Actor.h"
+#include "VelmorantColorHandler.h"
 #include "VelmorantLevelActors.generated.h"
 
 /** Level-wide settings of the model. */
@@ -25,6 +27,15 @@ UCLASS(Blueprintable)
 class VELMORANTPRO_API AVlmInteractiveSpot : public AActor
 {
 	GENERATED_BODY()
+
+public:
+	/** What marks the spot on the screen. */
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Velmorant|Spot")
+	FFontIconHandler Icon;
+
+	/** The disc behind the icon. */
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Velmorant|Spot")
+	FVelmorantColorHandler BackgroundColor;
 };
 
 /** Cuts the building open along a plane. */

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Fonts/SlateFontInfo.h"
 #include "UObject/Object.h"
 #include "VelmorantColorHandler.h"
 #include "FontIconHandler.generated.h"
@@ -12,6 +13,22 @@ USTRUCT(BlueprintType)
 struct VELMORANTPROUI_API FFontIconHandler
 {
 	GENERATED_BODY()
+
+	FFontIconHandler() = default;
+
+	FFontIconHandler(FName InFontIconName, FName InIconStyle, FName InIconName)
+		: FontIconName(InFontIconName)
+		, IconStyle(InIconStyle)
+		, IconName(InIconName)
+	{
+	}
+
+	/**
+	 * The font that draws the icon: the icon font's object, with the style as its typeface.
+	 * An unknown font, or one without a font object, gives the app's normal font at that size.
+	 * @param Size in points.
+	 */
+	FSlateFontInfo GenerateFontSlate(float Size) const;
 
 	/** The icon font's ID. */
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Velmorant|Icon")

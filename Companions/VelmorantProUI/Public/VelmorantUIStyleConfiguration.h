@@ -6,7 +6,23 @@
 #include "Engine/DataAsset.h"
 #include "VelmorantUIStyleConfiguration.generated.h"
 
-/** The look of a model's user interface: palette and fonts. */
+/** A named colour of the palette, with its variant for use on a dark or busy ground. */
+USTRUCT(BlueprintType)
+struct VELMORANTPROUI_API FVelmorantPaletteColor
+{
+	GENERATED_BODY()
+
+	UPROPERTY(EditAnywhere, BlueprintReadOnly, Category = "Velmorant|Style")
+	FName ID;
+
+	UPROPERTY(EditAnywhere, BlueprintReadOnly, Category = "Velmorant|Style")
+	FLinearColor Color = FLinearColor(1.0f, 1.0f, 1.0f, 1.0f);
+
+	UPROPERTY(EditAnywhere, BlueprintReadOnly, Category = "Velmorant|Style")
+	FLinearColor ContrastColor = FLinearColor(0.0f, 0.0f, 0.0f, 1.0f);
+};
+
+/** The look of a model's user interface: its palette, in two families of colours. */
 UCLASS(BlueprintType)
 class VELMORANTPROUI_API UVelmorantUIStyleConfiguration : public UDataAsset
 {
@@ -16,4 +32,15 @@ public:
 	/** Shown in style pickers. */
 	UPROPERTY(EditAnywhere, BlueprintReadOnly, Category = "Velmorant|Style")
 	FText DisplayName;
+
+	/** Plain colours, such as "White"; in the order in which lists offer them. */
+	UPROPERTY(EditAnywhere, BlueprintReadOnly, Category = "Velmorant|Style")
+	TArray<FVelmorantPaletteColor> SimpleColors;
+
+	/** Colours by what they are for, such as "Accent"; in the order in which lists offer them. */
+	UPROPERTY(EditAnywhere, BlueprintReadOnly, Category = "Velmorant|Style")
+	TArray<FVelmorantPaletteColor> StyleColors;
+
+	/** The colour of that ID, looked for among the simple colours first; null when there is none. */
+	const FVelmorantPaletteColor* FindColor(FName ID) const;
 };

@@ -35,12 +35,20 @@ void UVelmorantDeveloperUser::HandleLoggedIn()
 	}
 }
 
+void UVelmorantDeveloperUser::HandleAccountLeft()
+{
+	EditorUserProjects.Empty(); // first: the other account's projects are none of those who hear of the change
+	Super::HandleAccountLeft();
+}
+
 void UVelmorantDeveloperUser::RequestEditorUserProjects()
 {
-	UVelmorantSDKEngineSubsystem::Get()->GetService().RequestProjects(GetToken(), [WeakThis = TWeakObjectPtr<UVelmorantDeveloperUser>(this)](bool bSuccess, const TArray<FProject>& Projects) {
+	UVelmorantSDKEngineSubsystem::Get()->GetService().RequestProjects(GetToken(), [WeakThis = TWeakObjectPtr<UVelmorantDeveloperUser>(this), Token = GetToken()](bool bSuccess, const TArray<FProject>& Projects) {
 		if (UVelmorantDeveloperUser* This = WeakThis.Get())
 		{
-			This->ReceiveProjects(bSuccess, Projects);
+			// An answer to a login that was given up meanwhile still ends the request, but as a failed one.
+			const bool bStillAsked = This->GetToken() == Token;
+			This->ReceiveProjects(bSuccess && bStillAsked, bStillAsked ? Projects : TArray<FProject>());
 		}
 	});
 }

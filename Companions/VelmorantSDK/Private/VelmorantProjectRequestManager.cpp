@@ -26,6 +26,15 @@ void UVelmorantProjectRequestManager::SelectProject(const FProject& Project, boo
 	RequestProjectData();
 }
 
+void UVelmorantProjectRequestManager::ClearProject()
+{
+	if (ProjectWrapper)
+	{
+		ProjectWrapper = nullptr;
+		OnUpdateRequest.Broadcast(EUpdateRequestDataType::ProjectData, EUpdateRequestType::Get);
+	}
+}
+
 void UVelmorantProjectRequestManager::RequestProjectData()
 {
 	const TWeakObjectPtr<UProjectWrapper> Requested(ProjectWrapper.Get());

@@ -24,10 +24,10 @@ UVelmorantProjectRequestManager* UVelmorantUser::GetProjectRequestManager() cons
 void UVelmorantUser::RequestUserLogin(const FVelmorantUserInformation& InUserInformation)
 {
 	UserInformation = InUserInformation;
-	UVelmorantSDKEngineSubsystem::Get()->GetService().RequestLogin(UserInformation, [WeakThis = TWeakObjectPtr<UVelmorantUser>(this)](const FVelmorantLoginAnswer& Answer) {
+	UVelmorantSDKEngineSubsystem::Get()->GetService().RequestLogin(UserInformation, [WeakThis = TWeakObjectPtr<UVelmorantUser>(this), UserName = UserInformation.UserName](const FVelmorantLoginAnswer& Answer) {
 		if (UVelmorantUser* This = WeakThis.Get())
 		{
-			This->ReceiveLoginAnswer(Answer);
+			This->ReceiveLoginAnswer(Answer, UserName);
 		}
 	});
 }
@@ -40,6 +40,13 @@ void UVelmorantUser::RequestUserLogout()
 	}
 	Token.Empty();
 	LoginInfo = FLoginInfo();
+	Account.Empty();
+	HandleAccountLeft();
+}
+
+void UVelmorantUser::HandleAccountLeft()
+{
+	ProjectRequestManager->ClearProject();
 }
 
 bool UVelmorantUser::HasValidToken() const
@@ -47,7 +54,7 @@ bool UVelmorantUser::HasValidToken() const
 	return !Token.IsEmpty() && FApp::GetCurrentTime() < TokenExpiry;
 }
 
-void UVelmorantUser::ReceiveLoginAnswer(const FVelmorantLoginAnswer& Answer)
+void UVelmorantUser::ReceiveLoginAnswer(const FVelmorantLoginAnswer& Answer, const FString& UserName)
 {
 	// A failed login signs nobody in, but nobody out either.
 	if (Answer.bSuccess)
@@ -55,6 +62,11 @@ void UVelmorantUser::ReceiveLoginAnswer(const FVelmorantLoginAnswer& Answer)
 		LoginInfo = Answer.LoginInfo;
 		Token = Answer.Token;
 		TokenExpiry = FApp::GetCurrentTime() + Answer.TokenSeconds;
+		if (!Account.IsEmpty() && Account != UserName)
+		{
+			HandleAccountLeft();
+		}
+		Account = UserName;
 		HandleLoggedIn();
 	}
 	OnLoginResult.Broadcast(Answer.bSuccess, Answer.LoginInfo);

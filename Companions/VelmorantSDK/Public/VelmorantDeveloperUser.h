@@ -16,7 +16,7 @@ class VELMORANTSDK_API UVelmorantDeveloperUser : public UVelmorantUser
 	GENERATED_BODY()
 
 public:
-	/** The projects last received; empty before the first successful request. */
+	/** The projects last received for this account; empty before the first successful request. */
 	TArray<FProject> GetEditorUserProjects() const { return EditorUserProjects; }
 
 	/** Asks the service for the projects; the answer arrives at GetOnProjectsResponse(), never within this call. */
@@ -43,6 +43,7 @@ public:
 
 protected:
 	virtual void HandleLoggedIn() override;
+	virtual void HandleAccountLeft() override;
 
 private:
 	void ReceiveProjects(bool bSuccess, const TArray<FProject>& Projects);

@@ -30,6 +30,9 @@ public:
 	/** Makes the project the selected one and fetches its data; see UVelmorantDeveloperUser::SetSelectedProject(). */
 	void SelectProject(const FProject& Project, bool bForceUpdate);
 
+	/** No project is selected any more. Told as new project data, if there was one; answers that are still to come are dropped. */
+	void ClearProject();
+
 	/** Makes the unit group with that key code the target; unknown key codes are ignored. */
 	void SetSelectedUnitGroup(FName KeyCode);
 

@@ -20,4 +20,8 @@ public:
 	/** The file that stands in for the online service; relative paths start at the project's folder. The switch -VelmorantService= overrides it. */
 	UPROPERTY(Config, EditAnywhere, Category = "Velmorant")
 	FString ServiceDataFile;
+
+	//~ Begin UDeveloperSettings
+	virtual FName GetCategoryName() const override;
+	//~ End UDeveloperSettings
 };

@@ -27,7 +27,7 @@ public:
 	/** Sends a login. The information becomes GetUserInfo(); the answer arrives at GetOnLoginResult(). Empty credentials are sent as they are and refused by the service. */
 	void RequestUserLogin(const FVelmorantUserInformation& InUserInformation);
 
-	/** Gives the token up. What is remembered of the user stays remembered. */
+	/** Gives the token up and all that was received with it. What is remembered of the user stays remembered. */
 	void RequestUserLogout();
 
 	/** Whether the user holds a login token that has not expired. */
@@ -53,10 +53,13 @@ protected:
 	/** Called after a successful login, before the result is told. */
 	virtual void HandleLoggedIn() {}
 
+	/** Called when the account is left: at a logout, and before another account's login is told. What was received for it goes. */
+	virtual void HandleAccountLeft();
+
 	FVelmorantUserInformation UserInformation;
 
 private:
-	void ReceiveLoginAnswer(const FVelmorantLoginAnswer& Answer);
+	void ReceiveLoginAnswer(const FVelmorantLoginAnswer& Answer, const FString& UserName);
 
 	UPROPERTY(BlueprintAssignable)
 	FLoginResult OnLoginResult;
@@ -65,6 +68,7 @@ private:
 	TObjectPtr<UVelmorantProjectRequestManager> ProjectRequestManager;
 
 	FLoginInfo LoginInfo;
+	FString Account; // user name of the last successful login; empty after a logout
 	FString Token;
 	double TokenExpiry = 0.0; // seconds on the application's clock
 };

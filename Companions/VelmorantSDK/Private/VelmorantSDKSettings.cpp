@@ -1,0 +1,8 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "VelmorantSDKSettings.h"
+
+FName UVelmorantSDKSettings::GetCategoryName() const
+{
+	return TEXT("Plugins");
+}
