@@ -13,6 +13,8 @@
 #include "VelmorantProjectRequestManager.h"
 #include "VlmButton.h"
 
+#include <random>
+
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -250,6 +252,50 @@ TEST_F(ListDisplayerPanel, SearchesKeyCodeAndNameInOne)
 	}
 }
 
+TEST_F(ListDisplayerPanel, FindsWhatComparingRowByRowFinds)
+{
+	const char* const Letters[] = {"a", "A", "b", "-", "1", "\u00E9", "\u00C9", "\u0130", "\u0131", "\u212A", "k", "\u03C3", "\u03C2", "\u03A3", "\U0001F600"};
+	std::mt19937 Random(20250712);
+	const auto MakeText = [&Random, &Letters](uint32 MaxLength) {
+		std::string Text;
+		for (uint32 Length = Random() % (MaxLength + 1); Length > 0; --Length)
+		{
+			Text += Letters[Random() % std::size(Letters)];
+		}
+		return Text;
+	};
+	std::string Groups;
+	for (int32 Index = 0; Index < 300; ++Index)
+	{
+		Groups += (Index ? ", " : "") + std::string(R"({"keyCode": "G)") + std::to_string(Index) + MakeText(4) + R"(", "name": ")" + MakeText(12) + R"(", "units": []})";
+	}
+	WriteHarborTower(R"("unitGroups": [)" + Groups + "]");
+	FTestPanel Panel = MakePanel();
+	ASSERT_EQ(Rows(Panel).size(), 300u);
+	const TArray<UObject*> All = Panel.Find<UListView>(TEXT("ItemList"))->GetListItems();
+
+	size_t NumFound = 0;
+	for (int32 Round = 0; Round < 300; ++Round)
+	{
+		const FString Text(UTF8_TO_TCHAR(("b" + MakeText(3)).substr(Round % 2).c_str()));
+		std::vector<UObject*> Expected;
+		for (UObject* Item : All)
+		{
+			const UListDisplayerItemBase* Row = CastChecked<UListDisplayerItemBase>(Item);
+			if ((Row->Keycode + Row->DisplayName).Contains(Text))
+			{
+				Expected.push_back(Item);
+			}
+		}
+		Panel.Type(TEXT("SearchText"), *Text);
+		const TArray<UObject*>& Found = Panel.Find<UListView>(TEXT("ItemList"))->GetListItems();
+		ASSERT_EQ(std::vector<UObject*>(Found.GetData(), Found.GetData() + Found.Num()), Expected) << ToUtf8(Text);
+		NumFound += Expected.size();
+	}
+	EXPECT_GT(NumFound, 1000u);
+	EXPECT_LT(NumFound, 300u * 300u / 2u);
+}
+
 TEST_F(ListDisplayerPanel, ARebuiltListIsNotSearchedAgain)
 {
 	FTestPanel Panel = MakePanel();
@@ -318,6 +364,19 @@ TEST_F(ListDisplayerPanel, AButtonThatIsNotOfTheBarIsNoIndex)
 	ListOf(Panel)->SetNavBarButtons({}); // the old ones are still listened to
 	Panel.Click(TEXT("NavUnits"));
 	EXPECT_THAT(Panel.TakeEvents(), ElementsAre("OnNavBarButtonChanged(-1)"));
+}
+
+TEST_F(ListDisplayerPanel, AMissingButtonOfTheBarKeepsItsIndex)
+{
+	FTestPanel Panel = MakePanelOfUnits();
+	ListOf(Panel)->SetNavBarButtons({nullptr, Panel.Find<UVlmButton>(TEXT("NavUnits")), nullptr, Panel.Find<UVlmButton>(TEXT("NavConfigurators"))});
+	ListOf(Panel)->SetNavBarByIndex(0);
+	EXPECT_THAT(Panel.TakeEvents(), IsEmpty());
+	ListOf(Panel)->SetNavBarByIndex(3);
+	EXPECT_THAT(Panel.TakeEvents(), ElementsAre("OnNavBarButtonChanged(3)"));
+	Panel.Click(TEXT("NavUnits"));
+	EXPECT_THAT(Panel.TakeEvents(), ElementsAre("OnNavBarButtonChanged(1)"));
+	EXPECT_THAT(NavBar(Panel), ElementsAre(true, false));
 }
 
 TEST_F(ListDisplayerPanel, ShownAgainAClickStillCountsOnce)

@@ -3,6 +3,7 @@
 #include "Editor.h"
 #include "EditorWidgets/VlmEWMinimapTool.h"
 #include "Engine/World.h"
+#include "HostObjects.h"
 #include "MinimapConfigAsset.h"
 #include "MinimapLevelController.h"
 #include "PanelLayouts.h"
@@ -166,4 +167,41 @@ TEST_F(MinimapTool, PlacesNothingWhenNoFloorIsActive)
 		Panel.Get<UVlmEWMinimapTool>()->SetActiveFloorWidgetTransform(Moved);
 		EXPECT_TRUE(Controller->GetMinimapConfiguration()->Floors[0].WidgetTransform.IsIdentity()) << ActiveFloor;
 	}
+}
+
+TEST_F(MinimapTool, SurvivesTheControllerThatItFound)
+{
+	AMinimapLevelController* Controller = SpawnController(2);
+	const FTestPanel Panel = MakePanel(&GetWorld());
+	UVlmEWMinimapTool* Tool = Panel.Get<UVlmEWMinimapTool>();
+	Tool->SetActiveMinimapFloor(1);
+	Controller->Destroy();
+	HostObjects::CollectGarbage();
+	Tool->SetActiveFloorWidgetTransform(Moved);
+	EXPECT_EQ(Tool->GetActiveMinimapFloor(), -1);
+	EXPECT_FALSE(Tool->HasMinimapFloors());
+	EXPECT_FALSE(Tool->SetActiveMinimapFloor(0));
+}
+
+TEST_F(MinimapTool, TwoToolsShowOneMinimap)
+{
+	SpawnController(2);
+	const FTestPanel First = MakePanel(&GetWorld());
+	const FTestPanel Second = MakePanel(&GetWorld());
+	First.Get<UVlmEWMinimapTool>()->SetActiveMinimapFloor(1);
+	EXPECT_EQ(Second.Get<UVlmEWMinimapTool>()->GetActiveMinimapFloor(), 1);
+}
+
+TEST_F(MinimapTool, TheControllerTellsItsActiveFloorsPlace)
+{
+	AMinimapLevelController* Controller = SpawnController(2);
+	EXPECT_FALSE(Controller->HasActiveFloor());
+	EXPECT_TRUE(Controller->GetActiveFloorTransform().IsIdentity());
+	Controller->SetActiveFloor(1);
+	Controller->GetMinimapConfiguration()->Floors[1].WidgetTransform = Moved;
+	EXPECT_TRUE(Controller->HasActiveFloor());
+	EXPECT_EQ(Controller->GetActiveFloorTransform(), Moved);
+	Controller->GetMinimapConfiguration()->Floors.Pop(); // the active one
+	EXPECT_FALSE(Controller->HasActiveFloor());
+	EXPECT_TRUE(Controller->GetActiveFloorTransform().IsIdentity());
 }

@@ -130,6 +130,14 @@ TEST_F(ModuleStartup, GroupsTheRuntimeClassesCategoriesInOneDetailsSection)
 	}
 }
 
+TEST_F(ModuleStartup, CustomizesTheDetailsOfColorsAndIcons)
+{
+	StartEditor();
+	EXPECT_THAT(ToStrings(HostPropertyEditor::GetCustomizedTypes()), ElementsAre("VelmorantColorHandler", "FontIconHandler"));
+	EXPECT_EQ(HostPropertyEditor::GetNumChangeNotes(), 1);
+	EXPECT_TRUE(HostPropertyEditor::MakeCustomization("FontIconHandler").IsValid());
+}
+
 TEST_F(ModuleStartup, OffersItsActorsForPlacement)
 {
 	StartEditor();
@@ -212,5 +220,6 @@ TEST_F(ModuleStartup, LeavesAllButStyleAndPlacementRegisteredAtShutdown)
 	EXPECT_TRUE(FInputBindingManager::Get().FindCommandInContext("VelmorantProEdCommands", "VelmorantSDK_OpenSDKSettings").IsValid());
 	EXPECT_EQ(HostAssetTools::GetAdvancedCategories().Num(), 1);
 	EXPECT_TRUE(HostPropertyEditor::FindSection("Object", "Velmorant").IsValid());
+	EXPECT_EQ(HostPropertyEditor::GetCustomizedTypes().Num(), 2);
 	EXPECT_THAT(NewAssetNames(), AllOf(Contains("Maps Linker Asset"), Contains("Minimap Config Asset")));
 }

@@ -5,6 +5,8 @@
 #include "AssetAuthoring/MapLinkerAsset_TypeAction.h"
 #include "AssetAuthoring/MinimapDataAsset_TypeAction.h"
 #include "AssetToolsModule.h"
+#include "DetailsCustomization/UI/VelmorantColorCustomization.h"
+#include "DetailsCustomization/UI/VelmorantFontIconHandlerCustomization.h"
 #include "Editor.h"
 #include "Framework/Commands/UICommandList.h"
 #include "IAssetTools.h"
@@ -12,6 +14,8 @@
 #include "ISettingsModule.h"
 #include "Modules/ModuleManager.h"
 #include "PropertyEditorModule.h"
+#include "ToolMenus.h"
+#include "ToolbarMenu/VelmorantMenu.h"
 #include "VelmorantEditorStyle.h"
 #include "VelmorantEditorUtilitiesLibrary.h"
 #include "VelmorantPlaceableItems.h"
@@ -30,7 +34,9 @@ void FVelmorantProEditorModule::StartupModule()
 	FVelmorantEditorStyle::Initialize(); // first: menus, notifications and the placement category look their brushes up by name
 	FVelmorantProEdCommands::Register();
 	MapSettingsCommands();
+	DeferMenus();
 	RegisterAssetTypes();
+	RegisterDetailsCustomizations();
 	RegisterDetailsSection();
 	RegisterPlacementCategory();
 	DeferCollisionProfileCheck(); // last: needs a loaded map
@@ -43,8 +49,8 @@ void FVelmorantProEditorModule::ShutdownModule()
 
 	FVelmorantEditorStyle::Shutdown();
 
-	// Commands, menus, asset types, details section and editor events stay registered on purpose: they live until the editor
-	// process ends. The property editor is only made sure to be there.
+	// Commands, menus, asset types, details customizations and section, and editor events stay registered on purpose: they live until
+	// the editor process ends. The property editor is only made sure to be there.
 	FModuleManager::LoadModuleChecked<FPropertyEditorModule>("PropertyEditor");
 
 	if (FModuleManager::Get().IsModuleLoaded("PlacementMode"))
@@ -57,7 +63,7 @@ void FVelmorantProEditorModule::MapSettingsCommands()
 {
 	const FVelmorantProEdCommands& Commands = FVelmorantProEdCommands::Get();
 
-	// Bound raw: this object outlives the command list, which it owns.
+	// Bound raw: the toolbar keeps the list as well, but nobody runs a command once the module was shut down.
 	PluginCommands = MakeShareable(new FUICommandList);
 	PluginCommands->MapAction(Commands.VelmorantPro_OpenProSettings, FExecuteAction::CreateRaw(this, &FVelmorantProEditorModule::OpenProSettings), FCanExecuteAction());
 	PluginCommands->MapAction(Commands.VelmorantPro_OpenProUISettings, FExecuteAction::CreateRaw(this, &FVelmorantProEditorModule::OpenProUISettings), FCanExecuteAction());
@@ -79,6 +85,17 @@ void FVelmorantProEditorModule::OpenSDKSettings()
 	FModuleManager::LoadModuleChecked<ISettingsModule>("Settings").ShowViewer("Project", "Plugins", "VelmorantSDKSettings");
 }
 
+void FVelmorantProEditorModule::DeferMenus()
+{
+	// Bound raw: the module is loaded long before the menus are ready, and stays loaded until the editor closes.
+	UToolMenus::RegisterStartupCallback(FSimpleMulticastDelegate::FDelegate::CreateRaw(this, &FVelmorantProEditorModule::RegisterMenus));
+}
+
+void FVelmorantProEditorModule::RegisterMenus()
+{
+	VelmorantMenu::AddToToolbar(PluginCommands.ToSharedRef());
+}
+
 void FVelmorantProEditorModule::RegisterAssetTypes()
 {
 	IAssetTools& AssetTools = FModuleManager::LoadModuleChecked<FAssetToolsModule>("AssetTools").Get();
@@ -92,6 +109,14 @@ void FVelmorantProEditorModule::RegisterAssetTypeActions(IAssetTools& AssetTools
 {
 	RegisteredAssetTypeActions.Add(Actions);
 	AssetTools.RegisterAssetTypeActions(Actions);
+}
+
+void FVelmorantProEditorModule::RegisterDetailsCustomizations()
+{
+	FPropertyEditorModule& PropertyEditor = FModuleManager::LoadModuleChecked<FPropertyEditorModule>("PropertyEditor");
+	FVelmorantColorCustomization::Register(PropertyEditor);
+	FVelmorantFontIconHandlerCustomization::Register(PropertyEditor);
+	PropertyEditor.NotifyCustomizationModuleChanged();
 }
 
 void FVelmorantProEditorModule::RegisterDetailsSection()

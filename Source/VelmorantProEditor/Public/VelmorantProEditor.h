@@ -13,7 +13,7 @@ class IAssetTypeActions;
 DECLARE_LOG_CATEGORY_EXTERN(LogVelmorantProEditor, Log, All);
 
 /**
- * Joins the toolkit's editor tools to the editor: style, commands, asset types, details sections, placement category and
+ * Joins the toolkit's editor tools to the editor: style, commands, toolbar menu, asset types, details sections, placement category and
  * the deferred check of the project's collision set-up. Holds no logic of its own; game thread only.
  */
 class FVelmorantProEditorModule : public IModuleInterface
@@ -24,13 +24,18 @@ public:
 	virtual void ShutdownModule() override;
 	//~ End IModuleInterface
 
+	/** Adds the toolbar menu; called once the editor's menus are ready. */
+	void RegisterMenus();
+
 private:
 	void MapSettingsCommands();
 	void OpenProSettings();
 	void OpenProUISettings();
 	void OpenSDKSettings();
+	void DeferMenus();
 	void RegisterAssetTypes();
 	void RegisterAssetTypeActions(IAssetTools& AssetTools, const TSharedRef<IAssetTypeActions>& Actions);
+	void RegisterDetailsCustomizations();
 	void RegisterDetailsSection();
 	void RegisterPlacementCategory();
 	void DeferCollisionProfileCheck();

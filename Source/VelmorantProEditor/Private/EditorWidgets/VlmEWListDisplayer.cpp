@@ -16,12 +16,6 @@
 namespace VlmEWListDisplayer
 {
 	const int32 NoUnit = -1;
-
-	/** A row matches when its key code and name, joined without a separator, contain the text. */
-	bool Matches(const UListDisplayerItemBase& Row, const FString& Text)
-	{
-		return (Row.Keycode + Row.DisplayName).Contains(Text, ESearchCase::IgnoreCase, ESearchDir::FromStart);
-	}
 }
 
 void UVlmEWListDisplayer::NativeConstruct()
@@ -144,14 +138,17 @@ void UVlmEWListDisplayer::SetNavBarButtons(const TArray<UVlmButton*>& InNavBarBu
 	NavButtonList.Reset();
 	for (UVlmButton* Button : InNavBarButtons)
 	{
-		NavButtonList.Add(Button);
-		Button->OnSelectionStateChanged.AddUniqueDynamic(this, &UVlmEWListDisplayer::Received_NavBarButtonChange);
+		NavButtonList.Add(Button); // a missing one, too: the others keep their indices
+		if (Button)
+		{
+			Button->OnSelectionStateChanged.AddUniqueDynamic(this, &UVlmEWListDisplayer::Received_NavBarButtonChange);
+		}
 	}
 }
 
 void UVlmEWListDisplayer::SetNavBarByIndex(int32 InIndex)
 {
-	if (NavButtonList.IsValidIndex(InIndex))
+	if (NavButtonList.IsValidIndex(InIndex) && NavButtonList[InIndex])
 	{
 		NavButtonList[InIndex]->SetSelectionState(true, true);
 	}
@@ -166,12 +163,12 @@ void UVlmEWListDisplayer::Received_NavBarButtonChange(UVlmButton* ButtonChanged,
 
 	for (UVlmButton* Button : NavButtonList)
 	{
-		if (Button != ButtonChanged)
+		if (Button && Button != ButtonChanged)
 		{
 			Button->SetSelectionState(false, true);
 		}
 	}
-	OnNavBarButtonChanged(NavButtonList.IndexOfByPredicate([](const TObjectPtr<UVlmButton>& Button) { return Button->IsButtonSelected(); }));
+	OnNavBarButtonChanged(NavButtonList.IndexOfByPredicate([](const TObjectPtr<UVlmButton>& Button) { return Button && Button->IsButtonSelected(); }));
 }
 
 void UVlmEWListDisplayer::ReceivedSearchTextChange(const FText& Text)
@@ -182,10 +179,12 @@ void UVlmEWListDisplayer::ReceivedSearchTextChange(const FText& Text)
 	}
 	else
 	{
-		const FString SearchString = Text.ToString();
-		ItemList->SetListItems(CurrentElemetsList.FilterByPredicate([&SearchString](const TObjectPtr<UListDisplayerItemBase>& Row) {
-			return VlmEWListDisplayer::Matches(*Row, SearchString);
-		}));
+		TArray<UListDisplayerItemBase*> Matches;
+		for (const int32 Row : Search.Find(Text.ToString()))
+		{
+			Matches.Add(CurrentElemetsList[Row]);
+		}
+		ItemList->SetListItems(Matches);
 	}
 	RaiseListCount();
 }
@@ -248,6 +247,10 @@ void UVlmEWListDisplayer::SetRows(const TArray<TObjectPtr<UListDisplayerItemBase
 {
 	// The search text is not applied again on purpose: a rebuilt list shows all its rows.
 	CurrentElemetsList = Rows;
+	Search.SetRows(Rows.Num(), [&Rows](int32 Row, FString& InOutText) {
+		InOutText += Rows[Row]->Keycode;
+		InOutText += Rows[Row]->DisplayName;
+	});
 	ItemList->SetListItems(CurrentElemetsList);
 	OnSelectionTypeChange(Type);
 }

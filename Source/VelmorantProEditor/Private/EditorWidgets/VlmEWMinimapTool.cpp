@@ -26,14 +26,19 @@ void UVlmEWMinimapTool::FindMinimapLevelController()
 	OnScanMinimapLevel();
 }
 
+bool UVlmEWMinimapTool::HasController() const
+{
+	return IsValid(MinimapLevelController);
+}
+
 int32 UVlmEWMinimapTool::GetActiveMinimapFloor() const
 {
-	return MinimapLevelController ? MinimapLevelController->GetActiveFloorIndex() : INDEX_NONE;
+	return HasController() ? MinimapLevelController->GetActiveFloorIndex() : INDEX_NONE;
 }
 
 UMinimapConfigAsset* UVlmEWMinimapTool::GetMinimapConfig() const
 {
-	return MinimapLevelController ? MinimapLevelController->GetMinimapConfiguration() : nullptr;
+	return HasController() ? MinimapLevelController->GetMinimapConfiguration() : nullptr;
 }
 
 bool UVlmEWMinimapTool::HasMinimapFloors() const
@@ -56,7 +61,7 @@ bool UVlmEWMinimapTool::GetMinimapFloorRange(int32& MinFloor, int32& MaxFloor) c
 
 bool UVlmEWMinimapTool::SetActiveMinimapFloor(int32 FloorIndex)
 {
-	return MinimapLevelController && MinimapLevelController->SetActiveFloor(FloorIndex);
+	return HasController() && MinimapLevelController->SetActiveFloor(FloorIndex);
 }
 
 void UVlmEWMinimapTool::SetActiveFloorWidgetTransform(const FWidgetTransform& NewTransform)

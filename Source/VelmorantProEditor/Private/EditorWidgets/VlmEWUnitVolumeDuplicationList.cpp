@@ -13,6 +13,7 @@ namespace VlmEWUnitVolumeDuplicationList
 	{
 		explicit FClashKey(const AUnitVolumeActor& Volume)
 			: Identifier(&Volume.UniqueIdentifier)
+			, Hash(HashCombine(GetTypeHash(Identifier->UnitID), GetTypeHash(Identifier->Keycode))) // the string's hash ignores case, too
 		{
 		}
 
@@ -21,12 +22,10 @@ namespace VlmEWUnitVolumeDuplicationList
 			return Identifier->UnitID == Other.Identifier->UnitID && Identifier->Keycode.Equals(Other.Identifier->Keycode, ESearchCase::IgnoreCase);
 		}
 
-		friend uint32 GetTypeHash(const FClashKey& Key)
-		{
-			return HashCombine(GetTypeHash(Key.Identifier->UnitID), GetTypeHash(Key.Identifier->Keycode)); // the string's hash ignores case, too
-		}
+		friend uint32 GetTypeHash(const FClashKey& Key) { return Key.Hash; }
 
 		const FUnitVolumeUniqueIdentifier* Identifier;
+		uint32 Hash; // worked out once: in a large level, reading the key code again means waiting for memory
 	};
 
 	/** Indices of volumes that clash with one another, in their order; at least two. */
@@ -39,13 +38,19 @@ namespace VlmEWUnitVolumeDuplicationList
 			int32 First = INDEX_NONE;
 			int32 Clash = INDEX_NONE; // most keys are nobody else's and have none
 		};
+		TArray<FClashKey> Keys; // all of them first: what a volume has is read in one go
+		Keys.Reserve(Volumes.Num());
+		for (const AUnitVolumeActor* Volume : Volumes)
+		{
+			Keys.Emplace(*Volume);
+		}
 		TMap<FClashKey, FAlike> AlikeByKey;
 		AlikeByKey.Reserve(Volumes.Num());
 
 		TArray<FClash> Clashes;
 		for (int32 Index = 0; Index < Volumes.Num(); ++Index)
 		{
-			FAlike& Alike = AlikeByKey.FindOrAdd(FClashKey(*Volumes[Index]));
+			FAlike& Alike = AlikeByKey.FindOrAdd(Keys[Index]);
 			if (Alike.First == INDEX_NONE)
 			{
 				Alike.First = Index;

@@ -7,6 +7,7 @@
 #include "EditorWidgets/VlmEWPanelData.h"
 #include "Types/SlateEnums.h"
 #include "VelmorantSDKTypes.h"
+#include "VelmorantTextSearch.h"
 #include "VlmEWListDisplayer.generated.h"
 
 class UComboBoxString;
@@ -137,4 +138,5 @@ private:
 	UProjectWrapper* GetProject() const;
 
 	int32 CurrentSelectionLevel = UnitGroupLevel;
+	FVelmorantTextSearch Search; // always of CurrentElemetsList
 };

@@ -57,4 +57,8 @@ protected:
 	/** The one found in the level, or null. */
 	UPROPERTY(BlueprintReadOnly, Category = "Editor|Velmorant|VlmEWMinimapTool")
 	TObjectPtr<AMinimapLevelController> MinimapLevelController;
+
+private:
+	/** Not when the one that was found has been deleted since. */
+	bool HasController() const;
 };

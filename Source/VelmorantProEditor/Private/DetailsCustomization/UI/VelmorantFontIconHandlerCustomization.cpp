@@ -1,0 +1,234 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "DetailsCustomization/UI/VelmorantFontIconHandlerCustomization.h"
+
+#include "DetailsCustomization/UI/VelmorantPropertyOptions.h"
+#include "Engine/DataTable.h"
+#include "FontIconData.h"
+#include "FontIconHandler.h"
+#include "PropertyEditorModule.h"
+#include "PropertyHandle.h"
+#include "SSearchableComboBox.h"
+#include "VelmorantUISubsystem.h"
+#include "Widgets/Input/SSearchBox.h"
+#include "Widgets/Views/STileView.h"
+
+namespace VelmorantFontIcons
+{
+	constexpr int32 GlyphSize = 16; // points
+	const TCHAR* const TableContext = TEXT("FVelmorantFontIconHandlerCustomization");
+}
+
+FVelmorantFontIconHandlerCustomization::FIconItemViewEntry::FIconItemViewEntry(FName InIconName, const FFontIconRow& Row)
+	: IconName(InIconName)
+	, IconStyles(Row.IconStyles)
+	, SearchTags(Row.SearchTags)
+{
+}
+
+void FVelmorantFontIconHandlerCustomization::Register(FPropertyEditorModule& PropertyEditor)
+{
+	PropertyEditor.RegisterCustomPropertyTypeLayout(FFontIconHandler::StaticStruct()->GetFName(), FOnGetPropertyTypeCustomizationInstance::CreateStatic(&FVelmorantFontIconHandlerCustomization::MakeInstance));
+}
+
+TSharedRef<IPropertyTypeCustomization> FVelmorantFontIconHandlerCustomization::MakeInstance()
+{
+	return MakeShareable(new FVelmorantFontIconHandlerCustomization);
+}
+
+FName FVelmorantFontIconHandlerCustomization::GetValue(const TSharedPtr<IPropertyHandle>& Prop) const
+{
+	FName OutValue = NAME_None;
+	if (Prop.IsValid())
+	{
+		ensure(Prop->GetValue(OutValue) != FPropertyAccess::Fail);
+	}
+	return OutValue;
+}
+
+void FVelmorantFontIconHandlerCustomization::SetValue(const TSharedPtr<IPropertyHandle>& Prop, FName Value) const
+{
+	if (Prop.IsValid())
+	{
+		ensure(Prop->SetValue(Value) != FPropertyAccess::Fail);
+	}
+}
+
+TSharedPtr<FFontIconData> FVelmorantFontIconHandlerCustomization::GetFontIconData() const
+{
+	const UVelmorantUISubsystem* UISubsystem = UVelmorantUISubsystem::Get();
+	return UISubsystem ? MakeShared<FFontIconData>(UISubsystem->GetFontIconDataByID(GetValue(FontIconNameHandle))) : MakeShared<FFontIconData>();
+}
+
+FVelmorantFontIconHandlerCustomization::FOptions FVelmorantFontIconHandlerCustomization::GetFontIconOptions() const
+{
+	const UVelmorantUISubsystem* UISubsystem = UVelmorantUISubsystem::Get();
+	return UISubsystem ? VelmorantPropertyOptions::Make(UISubsystem->GetAllFontIconOptions()) : FOptions();
+}
+
+FVelmorantFontIconHandlerCustomization::FOptions FVelmorantFontIconHandlerCustomization::GetIconStylesOptions() const
+{
+	const UVelmorantUISubsystem* UISubsystem = UVelmorantUISubsystem::Get();
+	return UISubsystem ? VelmorantPropertyOptions::Make(UISubsystem->GetAllFontIconsStylesNames(GetValue(FontIconNameHandle))) : FOptions();
+}
+
+FVelmorantFontIconHandlerCustomization::FOptions FVelmorantFontIconHandlerCustomization::GetIconsNamesOptions() const
+{
+	const UVelmorantUISubsystem* UISubsystem = UVelmorantUISubsystem::Get();
+	return UISubsystem ? VelmorantPropertyOptions::Make(UISubsystem->GetAllIconsNames(GetValue(FontIconNameHandle))) : FOptions();
+}
+
+FSlateFontInfo FVelmorantFontIconHandlerCustomization::GetFontInfo() const
+{
+	return FFontIconHandler(GetValue(FontIconNameHandle), GetValue(IconStyleHandle), GetValue(IconNameHandle)).GenerateFontSlate(VelmorantFontIcons::GlyphSize);
+}
+
+FText FVelmorantFontIconHandlerCustomization::GetUnicodeText(FName IconName) const
+{
+	const UDataTable* Table = CurrentFontIconData.IsValid() ? CurrentFontIconData->IconDataTable.Get() : nullptr;
+	const FFontIconRow* Row = Table && !IconName.IsNone() ? Table->FindRow<FFontIconRow>(IconName, VelmorantFontIcons::TableContext, false) : nullptr;
+	return Row ? FText::FromString(Row->Character) : FText::FromName(NAME_None);
+}
+
+FText FVelmorantFontIconHandlerCustomization::GetCurrentUnicodeText() const
+{
+	return GetUnicodeText(GetValue(IconNameHandle));
+}
+
+void FVelmorantFontIconHandlerCustomization::FillSource()
+{
+	if (UVelmorantUISubsystem::Get())
+	{
+		const TSharedPtr<FFontIconData> FontIconData = GetFontIconData();
+		if (FontIconData->IconDataTable)
+		{
+			CurrentFontIconData = FontIconData;
+			CurrentIconTable.Reset(FontIconData->IconDataTable);
+		}
+	}
+
+	SourceItems.Empty();
+	if (!CurrentFontIconData.IsValid() || !CurrentFontIconData->IconDataTable)
+	{
+		return;
+	}
+
+	const UDataTable& Table = *CurrentFontIconData->IconDataTable;
+	for (const FName& RowName : Table.GetRowNames())
+	{
+		if (const FFontIconRow* Row = Table.FindRow<FFontIconRow>(RowName, VelmorantFontIcons::TableContext))
+		{
+			SourceItems.Add(MakeShared<FIconItemViewEntry>(RowName, *Row));
+		}
+	}
+	IndexSource();
+	FilteredItems = FilterListItems(FString()); // a new font starts unfiltered
+}
+
+void FVelmorantFontIconHandlerCustomization::IndexSource()
+{
+	IconNames.SetRows(SourceItems.Num(), [this](int32 Row, FString& InOutText) {
+		SourceItems[Row]->IconName.AppendString(InOutText);
+	});
+	IconsByTag.Empty();
+	for (int32 Index = 0; Index < SourceItems.Num(); ++Index)
+	{
+		for (const FString& Tag : SourceItems[Index]->SearchTags)
+		{
+			IconsByTag.FindOrAdd(Tag).Add(Index);
+		}
+	}
+}
+
+TArray<FVelmorantFontIconHandlerCustomization::FIconItem> FVelmorantFontIconHandlerCustomization::FilterListItems(const FString& FilterText) const
+{
+	const FName CurrentStyle = GetValue(IconStyleHandle);
+	const auto IsInStyle = [CurrentStyle](const FIconItem& Item) { return Item->IconStyles.Contains(CurrentStyle); };
+	if (FilterText.IsEmpty())
+	{
+		return SourceItems.FilterByPredicate(IsInStyle);
+	}
+
+	TArray<FIconItem> Items;
+	for (const int32 Index : FindIcons(FilterText))
+	{
+		if (IsInStyle(SourceItems[Index]))
+		{
+			Items.Add(SourceItems[Index]);
+		}
+	}
+	return Items;
+}
+
+TArray<int32> FVelmorantFontIconHandlerCustomization::FindIcons(const FString& Text) const
+{
+	const TArray<int32> Named = IconNames.Find(Text);
+	const TArray<int32>* Tagged = IconsByTag.Find(Text);
+	if (!Tagged)
+	{
+		return Named;
+	}
+
+	TArray<int32> Icons;
+	int32 NextNamed = 0;
+	for (const int32 Index : *Tagged)
+	{
+		while (NextNamed < Named.Num() && Named[NextNamed] <= Index)
+		{
+			Icons.Add(Named[NextNamed++]);
+		}
+		if (Icons.IsEmpty() || Icons.Last() != Index) // found by its name already
+		{
+			Icons.Add(Index);
+		}
+	}
+	Icons.Append(Named.GetData() + NextNamed, Named.Num() - NextNamed);
+	return Icons;
+}
+
+void FVelmorantFontIconHandlerCustomization::UpdateFilterListView()
+{
+	if (!SearchBox.IsValid() || !TileView.IsValid())
+	{
+		return;
+	}
+	FilteredItems = FilterListItems(SearchBox->GetText().ToString());
+	TileView->SetItemsSource(&FilteredItems);
+	TileView->RequestListRefresh();
+}
+
+void FVelmorantFontIconHandlerCustomization::SelectCurrentIconName()
+{
+	const FName IconName = GetValue(IconNameHandle);
+	for (const FIconItem& Item : TileView->GetItems())
+	{
+		if (Item->IconName == IconName)
+		{
+			TileView->SetSelection(Item);
+			TileView->RequestScrollIntoView(Item);
+			return;
+		}
+	}
+}
+
+void FVelmorantFontIconHandlerCustomization::FillOptions()
+{
+	FontDropDown.Options = GetFontIconOptions();
+	StyleDropDown.Options = GetIconStylesOptions();
+	IconDropDown.Options = GetIconsNamesOptions();
+}
+
+void FVelmorantFontIconHandlerCustomization::OnFontOrStyleChanged()
+{
+	FillOptions();
+	for (const FDropDown* DropDown : {&FontDropDown, &StyleDropDown, &IconDropDown})
+	{
+		if (DropDown->ComboBox.IsValid())
+		{
+			DropDown->ComboBox->RefreshOptions();
+		}
+	}
+
+	FillSource();
+	UpdateFilterListView(); // the search text stays, and applies to the new font or style
+}

@@ -1,0 +1,135 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include "CoreMinimal.h"
+#include "Fonts/SlateFontInfo.h"
+#include "IPropertyTypeCustomization.h"
+#include "Types/SlateEnums.h"
+#include "UObject/StrongObjectPtr.h"
+#include "VelmorantTextSearch.h"
+
+class FPropertyEditorModule;
+class ITableRow;
+class SSearchBox;
+class SSearchableComboBox;
+class STableViewBase;
+class SWidget;
+class UDataTable;
+struct FFontIconData;
+struct FFontIconRow;
+template<typename ItemType>
+class STileView;
+
+/**
+ * Shows an FFontIconHandler in the details panel: drop-down lists of fonts, styles and icons, and a grid of the icons that
+ * can be searched. The chosen names live only in the property; lists and selection are derived from it.
+ */
+class FVelmorantFontIconHandlerCustomization : public IPropertyTypeCustomization
+{
+public:
+	/** One icon of the font, as its row in the font's icon table has it. */
+	struct FIconItemViewEntry
+	{
+		FIconItemViewEntry(FName InIconName, const FFontIconRow& Row);
+
+		/** The row's name. */
+		FName IconName;
+
+		/** The styles in which the icon exists. */
+		TArray<FName> IconStyles;
+
+		/** Further words under which it is found. */
+		TSet<FString> SearchTags;
+	};
+
+	static void Register(FPropertyEditorModule& PropertyEditor);
+	static TSharedRef<IPropertyTypeCustomization> MakeInstance();
+
+	//~ Begin IPropertyTypeCustomization
+	virtual void CustomizeHeader(TSharedRef<IPropertyHandle> PropertyHandle, FDetailWidgetRow& HeaderRow, IPropertyTypeCustomizationUtils& CustomizationUtils) override;
+	virtual void CustomizeChildren(TSharedRef<IPropertyHandle> PropertyHandle, IDetailChildrenBuilder& ChildBuilder, IPropertyTypeCustomizationUtils& CustomizationUtils) override;
+	//~ End IPropertyTypeCustomization
+
+private:
+	using FIconItem = TSharedPtr<FIconItemViewEntry>;
+	using FOptions = TArray<TSharedPtr<FString>>;
+
+	/** A list of names to choose from, and what shows it. */
+	struct FDropDown
+	{
+		FOptions Options;
+		TSharedPtr<SSearchableComboBox> ComboBox;
+	};
+
+	FName GetValue(const TSharedPtr<IPropertyHandle>& Prop) const;
+	void SetValue(const TSharedPtr<IPropertyHandle>& Prop, FName Value) const;
+
+	TSharedPtr<FFontIconData> GetFontIconData() const;
+	FOptions GetFontIconOptions() const;
+	FOptions GetIconStylesOptions() const;
+	FOptions GetIconsNamesOptions() const;
+
+	/** The font in which the tiles draw their glyphs. */
+	FSlateFontInfo GetFontInfo() const;
+
+	/** The glyph of an icon of the current font; "None" when the font has no such icon. */
+	FText GetUnicodeText(FName IconName) const;
+	FText GetCurrentUnicodeText() const;
+
+	/** Takes the icons of the current font, unfiltered. A font without an icon table leaves the icons of the one before. */
+	void FillSource();
+
+	void IndexSource();
+
+	/** The icons that exist in the current style and match the text, in the table's order. */
+	TArray<FIconItem> FilterListItems(const FString& FilterText) const;
+
+	/** Indices of the icons whose name contains the text, or that have it for a search tag; in order. */
+	TArray<int32> FindIcons(const FString& Text) const;
+
+	/** Shows the icons that match the text of the search box. */
+	void UpdateFilterListView();
+	void OnSearchTextChanged(const FText& Text);
+
+	/** Shows the tile of the current icon as selected; changes nothing when no tile has it. */
+	void SelectCurrentIconName();
+
+	void OnFontOrStyleChanged();
+	void FillOptions();
+
+	void AddDropDownRow(IDetailChildrenBuilder& ChildBuilder, const TSharedPtr<IPropertyHandle>& Handle, FDropDown& DropDown);
+	void OnDropDownOpening(TSharedPtr<IPropertyHandle> Handle, FDropDown* DropDown) const;
+	void OnOptionChosen(TSharedPtr<FString> Option, ESelectInfo::Type SelectInfo, TSharedPtr<IPropertyHandle> Handle) const;
+
+	TSharedRef<SWidget> MakeIconList();
+	TSharedRef<ITableRow> MakeTileViewWidget(FIconItem Entry, const TSharedRef<STableViewBase>& OwnerTable);
+	void OnIconSelected(FIconItem Entry, ESelectInfo::Type SelectInfo) const;
+
+	TSharedPtr<IPropertyHandle> FontIconNameHandle;
+	TSharedPtr<IPropertyHandle> IconStyleHandle;
+	TSharedPtr<IPropertyHandle> IconNameHandle;
+	TSharedPtr<IPropertyHandle> IconColorHandle;
+
+	TSharedPtr<SSearchBox> SearchBox;
+	TSharedPtr<STileView<FIconItem>> TileView;
+
+	/** What the tile view shows. It keeps the address of this array: assign to it, never put another in its place. */
+	TArray<FIconItem> FilteredItems;
+
+	/** Every icon of the current font. */
+	TArray<FIconItem> SourceItems;
+
+	/** Where the filter looks at every keystroke: the names of SourceItems, and which of them have a search tag. */
+	FVelmorantTextSearch IconNames;
+	TMap<FString, TArray<int32>> IconsByTag;
+
+	TSharedPtr<FFontIconData> CurrentFontIconData;
+
+	/** The table that CurrentFontIconData names: a plain copy does not keep it from being collected. */
+	TStrongObjectPtr<UDataTable> CurrentIconTable;
+
+	FDropDown FontDropDown;
+	FDropDown StyleDropDown;
+	FDropDown IconDropDown;
+};

@@ -1,0 +1,193 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "DetailWidgetRow.h"
+#include "DetailsCustomization/UI/VelmorantFontIconHandlerCustomization.h"
+#include "DetailsCustomization/UI/VelmorantPropertyOptions.h"
+#include "FontIconHandler.h"
+#include "IDetailChildrenBuilder.h"
+#include "IDetailPropertyRow.h"
+#include "PropertyHandle.h"
+#include "SSearchableComboBox.h"
+#include "Widgets/Input/SSearchBox.h"
+#include "Widgets/Layout/SBox.h"
+#include "Widgets/SBoxPanel.h"
+#include "Widgets/Text/STextBlock.h"
+#include "Widgets/Views/STableRow.h"
+#include "Widgets/Views/STileView.h"
+
+#define LOCTEXT_NAMESPACE "FVelmorantProEditor"
+
+namespace VelmorantFontIconWidgets
+{
+	// Slate units.
+	constexpr float IconListHeight = 150.0f;
+	constexpr float TileSize = 35.0f;
+	constexpr float IconListMinWidth = 250.0f;
+}
+
+void FVelmorantFontIconHandlerCustomization::CustomizeHeader(TSharedRef<IPropertyHandle> PropertyHandle, FDetailWidgetRow& HeaderRow, IPropertyTypeCustomizationUtils&)
+{
+	FontIconNameHandle = PropertyHandle->GetChildHandle("FontIconName");
+	IconStyleHandle = PropertyHandle->GetChildHandle("IconStyle");
+	IconNameHandle = PropertyHandle->GetChildHandle("IconName");
+	IconColorHandle = PropertyHandle->GetChildHandle("IconColor");
+
+	// clang-format off
+	HeaderRow
+	.NameContent()
+	[
+		PropertyHandle->CreatePropertyNameWidget()
+	]
+	.ValueContent()
+	[
+		// Asked for anew each time it is drawn: the icons are not there yet.
+		SNew(STextBlock)
+		.Text(this, &FVelmorantFontIconHandlerCustomization::GetCurrentUnicodeText)
+		.Font(this, &FVelmorantFontIconHandlerCustomization::GetFontInfo)
+	];
+	// clang-format on
+
+	FillSource();
+}
+
+void FVelmorantFontIconHandlerCustomization::CustomizeChildren(TSharedRef<IPropertyHandle>, IDetailChildrenBuilder& ChildBuilder, IPropertyTypeCustomizationUtils&)
+{
+	FillOptions();
+	AddDropDownRow(ChildBuilder, FontIconNameHandle, FontDropDown);
+	AddDropDownRow(ChildBuilder, IconStyleHandle, StyleDropDown);
+	AddDropDownRow(ChildBuilder, IconNameHandle, IconDropDown);
+
+	// clang-format off
+	ChildBuilder.AddCustomRow(LOCTEXT("IconListFilter", "Filter"))
+	.NameContent()
+	[
+		VelmorantPropertyOptions::MakeText(LOCTEXT("IconList", "Icon List"))
+	]
+	.ValueContent()
+	.MinDesiredWidth(VelmorantFontIconWidgets::IconListMinWidth)
+	[
+		MakeIconList()
+	];
+	// clang-format on
+
+	if (IconColorHandle.IsValid())
+	{
+		ChildBuilder.AddProperty(IconColorHandle.ToSharedRef());
+	}
+
+	for (const TSharedPtr<IPropertyHandle>& Handle : {FontIconNameHandle, IconStyleHandle})
+	{
+		if (Handle.IsValid())
+		{
+			Handle->SetOnPropertyValueChanged(FSimpleDelegate::CreateSP(this, &FVelmorantFontIconHandlerCustomization::OnFontOrStyleChanged));
+		}
+	}
+	FillSource();
+	SelectCurrentIconName();
+}
+
+void FVelmorantFontIconHandlerCustomization::AddDropDownRow(IDetailChildrenBuilder& ChildBuilder, const TSharedPtr<IPropertyHandle>& Handle, FDropDown& DropDown)
+{
+	if (!Handle.IsValid())
+	{
+		return;
+	}
+
+	// clang-format off
+	ChildBuilder.AddProperty(Handle.ToSharedRef())
+	.CustomWidget()
+	.NameContent()
+	[
+		Handle->CreatePropertyNameWidget()
+	]
+	.ValueContent()
+	[
+		SAssignNew(DropDown.ComboBox, SSearchableComboBox)
+		.OptionsSource(&DropDown.Options)
+		.OnComboBoxOpening(this, &FVelmorantFontIconHandlerCustomization::OnDropDownOpening, Handle, &DropDown)
+		.OnGenerateWidget_Lambda([](TSharedPtr<FString> Option) { return VelmorantPropertyOptions::MakeText(FText::FromString(*Option)); })
+		.OnSelectionChanged(this, &FVelmorantFontIconHandlerCustomization::OnOptionChosen, Handle)
+		[
+			VelmorantPropertyOptions::MakeText(TAttribute<FText>::CreateLambda([Handle]() { return VelmorantPropertyOptions::GetValueText(Handle); }))
+		]
+	];
+	// clang-format on
+}
+
+void FVelmorantFontIconHandlerCustomization::OnDropDownOpening(TSharedPtr<IPropertyHandle> Handle, FDropDown* DropDown) const
+{
+	// The list tells only of a choice that differs from the one before, and the property may have been written elsewhere since.
+	DropDown->ComboBox->SetSelectedItem(VelmorantPropertyOptions::Find(DropDown->Options, GetValue(Handle)), ESelectInfo::Direct);
+}
+
+void FVelmorantFontIconHandlerCustomization::OnOptionChosen(TSharedPtr<FString> Option, ESelectInfo::Type SelectInfo, TSharedPtr<IPropertyHandle> Handle) const
+{
+	if (Option.IsValid() && SelectInfo != ESelectInfo::Direct)
+	{
+		SetValue(Handle, FName(*Option));
+	}
+}
+
+TSharedRef<SWidget> FVelmorantFontIconHandlerCustomization::MakeIconList()
+{
+	// clang-format off
+	return SNew(SVerticalBox)
+		+ SVerticalBox::Slot()
+		.AutoHeight()
+		[
+			SAssignNew(SearchBox, SSearchBox)
+			.OnTextChanged(this, &FVelmorantFontIconHandlerCustomization::OnSearchTextChanged)
+		]
+		+ SVerticalBox::Slot()
+		.AutoHeight()
+		[
+			SNew(SBox)
+			.HeightOverride(VelmorantFontIconWidgets::IconListHeight)
+			[
+				SAssignNew(TileView, STileView<FIconItem>)
+				.ListItemsSource(&FilteredItems)
+				.ItemWidth(VelmorantFontIconWidgets::TileSize)
+				.ItemHeight(VelmorantFontIconWidgets::TileSize)
+				.SelectionMode(ESelectionMode::Single)
+				.OnGenerateTile(this, &FVelmorantFontIconHandlerCustomization::MakeTileViewWidget)
+				.OnSelectionChanged(this, &FVelmorantFontIconHandlerCustomization::OnIconSelected)
+			]
+		];
+	// clang-format on
+}
+
+TSharedRef<ITableRow> FVelmorantFontIconHandlerCustomization::MakeTileViewWidget(FIconItem Entry, const TSharedRef<STableViewBase>& OwnerTable)
+{
+	// clang-format off
+	return SNew(STableRow<FIconItem>, OwnerTable)
+		.ToolTipText(FText::FromName(Entry->IconName))
+		[
+			SNew(SBox)
+			.HAlign(HAlign_Center)
+			.VAlign(VAlign_Center)
+			[
+				SNew(STextBlock)
+				.Text(GetUnicodeText(Entry->IconName))
+				.Font(this, &FVelmorantFontIconHandlerCustomization::GetFontInfo)
+				.Justification(ETextJustify::Center)
+			]
+		];
+	// clang-format on
+}
+
+void FVelmorantFontIconHandlerCustomization::OnSearchTextChanged(const FText&)
+{
+	UpdateFilterListView();
+}
+
+void FVelmorantFontIconHandlerCustomization::OnIconSelected(FIconItem Entry, ESelectInfo::Type SelectInfo) const
+{
+	// A selection from code only shows what the property holds, and none is selected when the list is filled anew: neither is a
+	// choice, and writing then would change the property by merely opening the panel.
+	if (Entry.IsValid() && SelectInfo != ESelectInfo::Direct)
+	{
+		SetValue(IconNameHandle, Entry->IconName);
+	}
+}
+
+#undef LOCTEXT_NAMESPACE

@@ -1,0 +1,175 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "DetailsTest.h"
+#include "Engine/Engine.h"
+#include "HostObjects.h"
+#include "HostSnapshot.h"
+#include "UObject/Package.h"
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+namespace
+{
+	const char* const White = "(R=1.000000,G=1.000000,B=1.000000,A=1.000000)";
+	const char* const WhiteContrast = "(R=0.000000,G=0.000000,B=0.250000,A=1.000000)";
+	const char* const Accent = "(R=1.000000,G=0.500000,B=0.000000,A=1.000000)";
+	const char* const HalfText = "(R=0.250000,G=0.250000,B=0.250000,A=0.500000)";
+	const char* const OpaqueText = "(R=0.250000,G=0.250000,B=0.250000,A=1.000000)";
+	const char* const Free = "(R=0.100000,G=0.200000,B=0.300000,A=0.400000)";
+	const char* const Magenta = "(R=1.000000,G=0.000000,B=1.000000,A=1.000000)";
+}
+
+/** A colour in the details panel. */
+class ColorCustomization : public FDetailsTest
+{
+protected:
+	AVlmInteractiveSpot* OpenColor(const TCHAR* ColorID, EVelmorantColorMode Mode = EVelmorantColorMode::Simple)
+	{
+		AVlmInteractiveSpot* Spot = SpawnSpot();
+		Spot->BackgroundColor = FVelmorantColorHandler(ColorID);
+		Spot->BackgroundColor.ColorMode = Mode;
+		Spot->BackgroundColor.ColorCustom = FLinearColor(0.1f, 0.2f, 0.3f, 0.4f);
+		Open({Spot});
+		return Spot;
+	}
+
+	std::string Preview() const { return ReadPart(TEXT("Background Color"), TEXT("swatch")); }
+	std::string Chosen() const { return ReadPart(TEXT("Background Color/Color"), TEXT("combo")); }
+	std::vector<std::string> Colors() const { return Options(TEXT("Background Color/Color")); }
+	void ChooseColor(const TCHAR* ColorID) { Choose(TEXT("Background Color/Color"), ColorID); }
+	void SwitchFamily() { Click(TEXT("Background Color/Switch between colors")); }
+	void UseContrast(bool bOn) { Check(TEXT("Background Color/Use Contrast"), bOn); }
+};
+
+TEST_F(ColorCustomization, ShowsAllRowsInOrder)
+{
+	OpenColor(TEXT("White"));
+	std::vector<std::string> Titles;
+	for (const FString& Title : View->GetRowTitles())
+	{
+		Titles.push_back(ToUtf8(Title));
+	}
+	const auto First = std::find_if(Titles.begin(), Titles.end(), [](const std::string& Title) { return Title.starts_with("Background Color"); });
+	ASSERT_LE(7, Titles.end() - First) << testing::PrintToString(Titles);
+	const char* const Expected[] = {"Background Color", "Color Mode", "Color", "Use Contrast", "Color Custom", "Override Opacity", "Opacity Override"};
+	for (int32 Index = 0; Index < 7; ++Index)
+	{
+		EXPECT_THAT(First[Index], testing::StartsWith(Expected[Index]));
+	}
+}
+
+TEST_F(ColorCustomization, ListsOneFamilyAtATime)
+{
+	const AVlmInteractiveSpot* Spot = OpenColor(TEXT("White"));
+	EXPECT_THAT(Colors(), ElementsAre("White", "Both"));
+
+	SwitchFamily();
+	EXPECT_THAT(Colors(), ElementsAre("Text", "Accent", "Both"));
+	EXPECT_EQ(ToUtf8(Spot->BackgroundColor.ColorID), "White");
+	EXPECT_EQ(Chosen(), "White") << "not among the colours on show";
+	EXPECT_FALSE(Spot->GetPackage()->IsDirty());
+
+	ChooseColor(TEXT("Accent"));
+	EXPECT_EQ(ToUtf8(Spot->BackgroundColor.ColorID), "Accent");
+	EXPECT_EQ(Preview(), Accent);
+	EXPECT_TRUE(Spot->GetPackage()->IsDirty());
+
+	SwitchFamily();
+	EXPECT_THAT(Colors(), ElementsAre("White", "Both"));
+}
+
+TEST_F(ColorCustomization, OpensWithTheFamilyOfItsColor)
+{
+	OpenColor(TEXT("Text"));
+	EXPECT_THAT(Colors(), ElementsAre("Text", "Accent", "Both"));
+	OpenColor(TEXT("Both"));
+	EXPECT_THAT(Colors(), ElementsAre("White", "Both"));
+	OpenColor(TEXT("None"), EVelmorantColorMode::Style);
+	EXPECT_THAT(Colors(), ElementsAre("White", "Both"));
+}
+
+TEST_F(ColorCustomization, DrawsSwatchesInTheVariantInUse)
+{
+	AVlmInteractiveSpot* Spot = OpenColor(TEXT("White"));
+	EXPECT_EQ(Preview(), White);
+	UseContrast(true);
+	EXPECT_TRUE(Spot->BackgroundColor.bUseContrast);
+	EXPECT_EQ(Preview(), WhiteContrast);
+	EXPECT_THAT(Snapshot(), HasSubstr(std::string("\"White\" (2 options, swatch ") + WhiteContrast)) << "the picker's swatch follows";
+	UseContrast(false);
+	EXPECT_EQ(Preview(), White);
+
+	Spot->BackgroundColor.ColorID = "Text";
+	EXPECT_EQ(Preview(), HalfText);
+	EXPECT_THAT(Snapshot(), HasSubstr(std::string("\"Text\" (2 options, swatch ") + OpaqueText)) << "swatches of palette colours are opaque";
+}
+
+TEST_F(ColorCustomization, PreviewsTheFreeColorInItsMode)
+{
+	const AVlmInteractiveSpot* Spot = OpenColor(TEXT("White"), EVelmorantColorMode::Custom);
+	EXPECT_EQ(Preview(), Free);
+	Choose(TEXT("Background Color/Color Mode"), TEXT("Style"));
+	EXPECT_EQ(Preview(), White);
+	EXPECT_EQ(Spot->BackgroundColor.ColorMode, EVelmorantColorMode::Style);
+}
+
+TEST_F(ColorCustomization, EditsSeveralColorsAtOnce)
+{
+	AVlmInteractiveSpot* First = SpawnSpot();
+	AVlmInteractiveSpot* Second = SpawnSpot();
+	First->BackgroundColor = FVelmorantColorHandler("White");
+	Second->BackgroundColor = FVelmorantColorHandler("Both");
+	Second->BackgroundColor.bUseContrast = true;
+	Open({First, Second});
+	EXPECT_EQ(Chosen(), "Multiple Values");
+	ChooseColor(TEXT("Both"));
+	UseContrast(true);
+	for (const AVlmInteractiveSpot* Spot : {First, Second})
+	{
+		EXPECT_EQ(ToUtf8(Spot->BackgroundColor.ColorID), "Both");
+		EXPECT_TRUE(Spot->BackgroundColor.bUseContrast);
+	}
+}
+
+TEST_F(ColorCustomization, IsShownForTheColorOfAnIcon)
+{
+	AVlmInteractiveSpot* Spot = OpenIcon(TEXT("Ship"), TEXT("Thin"), TEXT("anchor"));
+	Spot->Icon.IconColor.ColorID = "Accent";
+	EXPECT_EQ(ReadPart(TEXT("Icon/Icon Color"), TEXT("swatch")), Accent);
+	Choose(TEXT("Icon/Icon Color/Color"), TEXT("White"));
+	EXPECT_EQ(ToUtf8(Spot->Icon.IconColor.ColorID), "White");
+	EXPECT_TRUE(Spot->BackgroundColor.ColorID.IsNone());
+}
+
+TEST_F(ColorCustomization, IsMagentaWithoutAPalette)
+{
+	{
+		TGuardValue<UEngine*> NoEngine(GEngine, nullptr); // and so no UI subsystem
+		AVlmInteractiveSpot* Spot = NewObject<AVlmInteractiveSpot>();
+		Spot->BackgroundColor = FVelmorantColorHandler("White");
+		Open({Spot});
+		EXPECT_EQ(Preview(), Magenta);
+		EXPECT_THAT(Colors(), IsEmpty());
+		EXPECT_THAT(Snapshot(), HasSubstr(std::string("\"White\" (0 options, swatch ") + Magenta));
+		SwitchFamily();
+		EXPECT_THAT(Colors(), IsEmpty());
+	}
+	OpenColor(TEXT("Gone"));
+	EXPECT_EQ(Preview(), Magenta) << "a colour that the palette does not have";
+}
+
+TEST_F(ColorCustomization, RaisesItsChecksOnceTheObjectIsGone)
+{
+	AVlmInteractiveSpot* Spot = OpenColor(TEXT("White"));
+	const TSharedRef<SWidget> Panel = View->GetWidget();
+	Spot->Destroy();
+	HostObjects::CollectGarbage();
+	HostSnapshot::Choose(Panel, TEXT("Background Color/Color"), TEXT("Both"));
+	HostSnapshot::Check(Panel, TEXT("Background Color/Use Contrast"), true);
+	for (const char* Check : {"ColorHandler->GetValue(CurrentPoseName)", "ColorHandler->SetValue(FName(InValue))", "ContrastHandler->GetValue(ContrastValue)", "ContrastHandler->SetValue(bContrastValue)"})
+	{
+		EXPECT_THAT(WholeLog(), HasSubstr(std::string(Check) + " != FPropertyAccess::Fail"));
+	}
+}

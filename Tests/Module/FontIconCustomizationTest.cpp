@@ -1,0 +1,172 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "DetailsTest.h"
+#include "Engine/Engine.h"
+#include "HostObjects.h"
+#include "HostSnapshot.h"
+#include "UObject/Package.h"
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+/** An icon in the details panel. */
+class FontIconCustomization : public FDetailsTest
+{
+protected:
+	void Search(const TCHAR* Text) { Type(TEXT("Icon List/Search"), Text); }
+	void PickTile(const TCHAR* Icon) { Choose(TEXT("Icon List"), Icon); }
+};
+
+TEST_F(FontIconCustomization, OffersWhatTheFontHas)
+{
+	const AVlmInteractiveSpot* Spot = OpenIcon(TEXT("Ship"), TEXT("Thin"), TEXT("Buoy"));
+	EXPECT_EQ(Read(TEXT("Icon")), "b");
+	EXPECT_THAT(Options(TEXT("Font Icon Name")), ElementsAre("Ship", "House", "Empty"));
+	EXPECT_THAT(Options(TEXT("Icon Style")), ElementsAre("Bold", "Thin"));
+	EXPECT_THAT(Options(TEXT("Icon Name")), ElementsAre("anchor", "sail-boat", "boat-house", "Buoy"));
+	EXPECT_THAT(Tiles(), ElementsAre("anchor", "sail-boat", "[Buoy]"));
+	EXPECT_FALSE(Spot->GetPackage()->IsDirty()) << "opening the panel must not write the property";
+}
+
+TEST_F(FontIconCustomization, NarrowsTheGridWithEveryLetter)
+{
+	OpenIcon(TEXT("Ship"), TEXT("Thin"), TEXT("anchor"));
+	const struct
+	{
+		const TCHAR* Text;
+		std::vector<std::string> Icons;
+	} Cases[] = {
+		{TEXT("B"), {"sail-boat", "Buoy"}}, // boat-house is not drawn in this style
+		{TEXT("OAT"), {"sail-boat"}},
+		{TEXT("Regatta"), {"sail-boat"}}, // a search word, whole
+		{TEXT("regatt"), {}},
+		{TEXT("black ship"), {"anchor"}},
+		{TEXT("black"), {}},
+		{TEXT("boat-house"), {}},
+		{TEXT(""), {"anchor", "sail-boat", "Buoy"}},
+	};
+	for (const auto& Case : Cases)
+	{
+		Search(Case.Text);
+		std::vector<std::string> Shown = Tiles();
+		for (std::string& Icon : Shown)
+		{
+			Icon.erase(std::remove_if(Icon.begin(), Icon.end(), [](char Letter) { return Letter == '[' || Letter == ']'; }), Icon.end());
+		}
+		EXPECT_EQ(Shown, Case.Icons) << ToUtf8(FString(Case.Text));
+	}
+}
+
+TEST_F(FontIconCustomization, KeepsTheSearchTextForAnotherStyleOrFont)
+{
+	OpenIcon(TEXT("Ship"), TEXT("Thin"), TEXT("anchor"));
+	Search(TEXT("boat"));
+	EXPECT_THAT(Tiles(), ElementsAre("sail-boat"));
+
+	Choose(TEXT("Icon Style"), TEXT("Bold"));
+	EXPECT_THAT(Tiles(), ElementsAre("boat-house"));
+	EXPECT_EQ(Read(TEXT("Icon List/Search")), "boat");
+
+	Choose(TEXT("Font Icon Name"), TEXT("House"));
+	EXPECT_THAT(Tiles(), IsEmpty());
+	EXPECT_THAT(Options(TEXT("Icon Style")), ElementsAre("Round", "Thin"));
+	EXPECT_THAT(Options(TEXT("Icon Name")), ElementsAre("door"));
+
+	Search(TEXT(""));
+	EXPECT_THAT(Tiles(), IsEmpty()) << "the style is still Bold";
+	Choose(TEXT("Icon Style"), TEXT("Round"));
+	EXPECT_THAT(Tiles(), ElementsAre("door"));
+}
+
+TEST_F(FontIconCustomization, WritesWhatIsPicked)
+{
+	const AVlmInteractiveSpot* Spot = OpenIcon(TEXT("Ship"), TEXT("Thin"), TEXT("Buoy"));
+	PickTile(TEXT("anchor"));
+	EXPECT_EQ(ToUtf8(Spot->Icon.IconName), "anchor");
+	EXPECT_EQ(Read(TEXT("Icon")), "⚓");
+	EXPECT_EQ(Read(TEXT("Icon Name")), "anchor");
+	EXPECT_THAT(Tiles(), ElementsAre("[anchor]", "sail-boat", "Buoy"));
+	EXPECT_TRUE(Spot->GetPackage()->IsDirty());
+
+	// The list may not take the icon for chosen that it chose before the grid did.
+	Choose(TEXT("Icon Name"), TEXT("sail-boat"));
+	PickTile(TEXT("Buoy"));
+	Choose(TEXT("Icon Name"), TEXT("sail-boat"));
+	EXPECT_EQ(ToUtf8(Spot->Icon.IconName), "sail-boat");
+
+	Choose(TEXT("Icon Style"), TEXT("Bold"));
+	EXPECT_EQ(ToUtf8(Spot->Icon.IconStyle), "Bold");
+	EXPECT_EQ(ToUtf8(Spot->Icon.IconName), "sail-boat") << "narrowing the grid is no choice";
+}
+
+TEST_F(FontIconCustomization, ShowsNoneForAnIconThatNoRowHolds)
+{
+	OpenIcon(TEXT("Ship"), TEXT("Thin"), TEXT("submarine"));
+	EXPECT_EQ(Read(TEXT("Icon")), "None");
+	EXPECT_EQ(Read(TEXT("Icon Name")), "submarine");
+	EXPECT_THAT(Tiles(), ElementsAre("anchor", "sail-boat", "Buoy"));
+}
+
+TEST_F(FontIconCustomization, IsEmptyWithoutAFont)
+{
+	const AVlmInteractiveSpot* Spot = OpenIcon(TEXT("None"), TEXT("None"), TEXT("None"));
+	EXPECT_EQ(Read(TEXT("Icon")), "None");
+	EXPECT_THAT(Options(TEXT("Icon Style")), IsEmpty());
+	EXPECT_THAT(Options(TEXT("Icon Name")), IsEmpty());
+	EXPECT_THAT(Tiles(), IsEmpty());
+
+	Choose(TEXT("Font Icon Name"), TEXT("Ship"));
+	Choose(TEXT("Icon Style"), TEXT("Bold"));
+	PickTile(TEXT("boat-house"));
+	EXPECT_EQ(ToUtf8(Spot->Icon.IconName), "boat-house");
+}
+
+TEST_F(FontIconCustomization, KeepsTheIconsOfTheFontBeforeWhenAFontHasNoTable)
+{
+	OpenIcon(TEXT("Ship"), TEXT("Thin"), TEXT("anchor"));
+	Choose(TEXT("Font Icon Name"), TEXT("Empty"));
+	EXPECT_THAT(Tiles(), ElementsAre("anchor", "sail-boat", "Buoy"));
+	EXPECT_THAT(Options(TEXT("Icon Name")), IsEmpty());
+	EXPECT_EQ(Read(TEXT("Icon")), "⚓");
+}
+
+TEST_F(FontIconCustomization, EditsSeveralIconsAtOnce)
+{
+	AVlmInteractiveSpot* First = SpawnSpot();
+	AVlmInteractiveSpot* Second = SpawnSpot();
+	First->Icon = FFontIconHandler("Ship", "Thin", "anchor");
+	Second->Icon = FFontIconHandler("Ship", "Thin", "Buoy");
+	Open({First, Second});
+	EXPECT_EQ(Read(TEXT("Icon")), "None");
+	EXPECT_EQ(Read(TEXT("Font Icon Name")), "Ship");
+	EXPECT_EQ(Read(TEXT("Icon Name")), "Multiple Values");
+	EXPECT_THAT(Tiles(), ElementsAre("anchor", "sail-boat", "Buoy"));
+
+	PickTile(TEXT("sail-boat"));
+	EXPECT_EQ(ToUtf8(First->Icon.IconName), "sail-boat");
+	EXPECT_EQ(ToUtf8(Second->Icon.IconName), "sail-boat");
+	EXPECT_EQ(Read(TEXT("Icon")), "⛵");
+}
+
+TEST_F(FontIconCustomization, RaisesItsChecksOnceTheObjectIsGone)
+{
+	AVlmInteractiveSpot* Spot = OpenIcon(TEXT("Ship"), TEXT("Thin"), TEXT("anchor"));
+	const TSharedRef<SWidget> Panel = View->GetWidget();
+	Spot->Destroy();
+	HostObjects::CollectGarbage();
+	HostSnapshot::Choose(Panel, TEXT("Icon Name"), TEXT("Buoy"));
+	EXPECT_THAT(WholeLog(), HasSubstr("Prop->GetValue(OutValue) != FPropertyAccess::Fail"));
+	EXPECT_THAT(WholeLog(), HasSubstr("Prop->SetValue(Value) != FPropertyAccess::Fail"));
+}
+
+TEST_F(FontIconCustomization, IsEmptyWithoutTheUiSubsystem)
+{
+	TGuardValue<UEngine*> NoEngine(GEngine, nullptr);
+	AVlmInteractiveSpot* Spot = NewObject<AVlmInteractiveSpot>();
+	Spot->Icon = FFontIconHandler("Ship", "Thin", "anchor");
+	Open({Spot});
+	EXPECT_EQ(Read(TEXT("Icon")), "None");
+	EXPECT_THAT(Options(TEXT("Font Icon Name")), IsEmpty());
+	EXPECT_THAT(Tiles(), IsEmpty());
+}

@@ -1,0 +1,163 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "DetailsTest.h"
+
+#include "Editor.h"
+#include "Engine/World.h"
+#include "HostSnapshot.h"
+#include "UObject/Package.h"
+
+FDetailsTest::FDetailsTest(bool bUseThem)
+{
+	WritePalette();
+	WriteIcons();
+	if (bUseThem)
+	{
+		WriteProjectFile("Config/DefaultGame.ini", "[/Script/VelmorantProUI.VelmorantProUISettings]\n"
+												   "StyleConfiguration=/Game/Style.Style\n"
+												   "+FontIcons=(FontID=\"Ship\",IconDataTable=\"/Game/Ship.Ship\",Font=\"/Game/Face.Face\")\n"
+												   "+FontIcons=(FontID=\"House\",IconDataTable=\"/Game/House.House\")\n"
+												   "+FontIcons=(FontID=\"Empty\")\n");
+	}
+	StartEditor();
+}
+
+void FDetailsTest::WritePalette() const
+{
+	WriteProjectFile("Content/Style.uasset.json", R"({"Class": "/Script/VelmorantProUI.VelmorantUIStyleConfiguration", "Format": 1, "Objects": [
+		{"Name": "Style", "Class": "/Script/VelmorantProUI.VelmorantUIStyleConfiguration", "Properties": {
+			"SimpleColors": [
+				{"ID": "White", "Color": {"R": 1, "G": 1, "B": 1, "A": 1}, "ContrastColor": {"R": 0, "G": 0, "B": 0.25, "A": 1}},
+				{"ID": "Both", "Color": {"R": 0.5, "G": 0, "B": 0, "A": 1}, "ContrastColor": {"R": 0, "G": 0.5, "B": 0, "A": 1}}],
+			"StyleColors": [
+				{"ID": "Text", "Color": {"R": 0.25, "G": 0.25, "B": 0.25, "A": 0.5}, "ContrastColor": {"R": 1, "G": 1, "B": 0, "A": 0.75}},
+				{"ID": "Accent", "Color": {"R": 1, "G": 0.5, "B": 0, "A": 1}, "ContrastColor": {"R": 0, "G": 0.5, "B": 1, "A": 1}},
+				{"ID": "Both", "Color": {"R": 0, "G": 0, "B": 1, "A": 1}, "ContrastColor": {"R": 0, "G": 0, "B": 0.5, "A": 1}}]}}]})");
+}
+
+void FDetailsTest::WriteIcons() const
+{
+	WriteProjectFile("Content/Ship.uasset.json", R"j({"Class": "/Script/Engine.DataTable", "RowStruct": "/Script/VelmorantProUI.FontIconRow", "Rows": {
+		"anchor": "(Character=\"⚓\",IconStyles=(\"Bold\",\"Thin\"),SearchTags=(\"port\",\"black ship\"))",
+		"sail-boat": "(Character=\"⛵\",IconStyles=(\"Thin\"),SearchTags=(\"regatta\"))",
+		"boat-house": "(Character=\"🏠\",IconStyles=(\"Bold\"),SearchTags=(\"regatta\"))",
+		"Buoy": "(Character=\"b\",IconStyles=(\"Bold\",\"Thin\"))"}})j");
+	WriteProjectFile("Content/House.uasset.json", R"j({"Class": "/Script/Engine.DataTable", "RowStruct": "/Script/VelmorantProUI.FontIconRow", "Rows": {
+		"door": "(Character=\"d\",IconStyles=(\"Round\",\"Thin\"),SearchTags=(\"entry\"))"}})j");
+	WriteProjectFile("Content/Face.uasset.json", R"({"Class": "/Script/Engine.Font", "Format": 1, "Objects": [{"Name": "Face", "Class": "/Script/Engine.Font",
+		"Properties": {"CompositeFont": {"DefaultTypeface": {"Fonts": [{"Name": "Bold"}, {"Name": "Thin"}]}}}}]})");
+}
+
+AVlmInteractiveSpot* FDetailsTest::SpawnSpot()
+{
+	return GEditor->GetEditorWorldContext().World()->SpawnActor<AVlmInteractiveSpot>();
+}
+
+void FDetailsTest::Open(const TArray<UObject*>& Objects)
+{
+	for (const UObject* Object : Objects)
+	{
+		Object->GetPackage()->SetDirtyFlag(false);
+	}
+	View = MakeUnique<FHostDetailsView>(Objects);
+	View->GetWidget();
+	Wait(0.0);
+}
+
+AVlmInteractiveSpot* FDetailsTest::OpenIcon(const TCHAR* Font, const TCHAR* Style, const TCHAR* Icon)
+{
+	AVlmInteractiveSpot* Spot = SpawnSpot();
+	Spot->Icon = FFontIconHandler(Font, Style, Icon);
+	Open({Spot});
+	return Spot;
+}
+
+void FDetailsTest::Expect(const FHostInputResult& Result)
+{
+	EXPECT_TRUE(Result.bDone) << ToUtf8(Result.Reason);
+	Wait(0.0);
+}
+
+void FDetailsTest::Choose(const TCHAR* Row, const TCHAR* Option)
+{
+	Expect(HostSnapshot::Choose(View->GetWidget(), Row, Option));
+}
+
+void FDetailsTest::Type(const TCHAR* Widget, const TCHAR* Text)
+{
+	Expect(HostSnapshot::Type(View->GetWidget(), Widget, Text));
+}
+
+void FDetailsTest::Click(const TCHAR* Widget)
+{
+	Expect(HostSnapshot::Click(View->GetWidget(), Widget));
+}
+
+void FDetailsTest::Check(const TCHAR* Widget, bool bOn)
+{
+	Expect(HostSnapshot::Check(View->GetWidget(), Widget, bOn));
+}
+
+std::vector<std::string> FDetailsTest::Options(const TCHAR* Row) const
+{
+	FString Reason;
+	std::vector<std::string> Result;
+	for (const FString& Option : HostSnapshot::GetOptions(View->GetWidget(), Row, Reason))
+	{
+		Result.push_back(ToUtf8(Option));
+	}
+	EXPECT_TRUE(Reason.IsEmpty()) << ToUtf8(Reason);
+	return Result;
+}
+
+std::string FDetailsTest::Read(const TCHAR* Row) const
+{
+	FString Reason;
+	const TOptional<FString> Value = HostSnapshot::Read(View->GetWidget(), Row, Reason);
+	return Value.IsSet() ? ToUtf8(*Value) : "(" + ToUtf8(Reason) + ")";
+}
+
+std::string FDetailsTest::Snapshot() const
+{
+	return ToUtf8(HostSnapshot::Take(View->GetWidget()));
+}
+
+namespace DetailsTest
+{
+	/** All widgets of the role, in order. */
+	void Collect(SWidget& Widget, const TCHAR* Role, TArray<FHostWidgetDescription>& OutWidgets)
+	{
+		const FHostWidgetDescription Description = FHostWidgetAccess::Describe(Widget);
+		if (Description.Role == Role)
+		{
+			OutWidgets.Add(Description);
+		}
+		for (const TSharedRef<SWidget>& Child : FHostWidgetAccess::ChildrenOf(Widget))
+		{
+			Collect(*Child, Role, OutWidgets);
+		}
+	}
+}
+
+std::string FDetailsTest::ReadPart(const TCHAR* Row, const TCHAR* Role) const
+{
+	FString Reason;
+	TArray<FHostWidgetDescription> Parts;
+	if (const TSharedPtr<SWidget> Widget = HostSnapshot::Find(View->GetWidget(), Row, Reason))
+	{
+		DetailsTest::Collect(*Widget, Role, Parts);
+	}
+	return Parts.IsEmpty() ? "(no such part " + ToUtf8(Reason) + ")" : ToUtf8(Parts[0].Value.Get(FString()));
+}
+
+std::vector<std::string> FDetailsTest::Tiles() const
+{
+	TArray<FHostWidgetDescription> Items;
+	DetailsTest::Collect(*View->GetWidget(), TEXT("item"), Items);
+	std::vector<std::string> Tiles;
+	for (const FHostWidgetDescription& Item : Items)
+	{
+		Tiles.push_back(Item.bSelected ? "[" + ToUtf8(Item.ToolTip) + "]" : ToUtf8(Item.ToolTip));
+	}
+	return Tiles;
+}
