@@ -7,9 +7,13 @@
 
 #include "Arguments.h"
 #include "Containers/StringConv.h"
+#include "Refusal.h"
 
+#include <algorithm>
 #include <iostream>
+#include <sstream>
 #include <string>
+#include <string_view>
 
 namespace Arguments
 {
@@ -49,6 +53,27 @@ namespace Arguments
 		return Run;
 	}
 
+	/** Prints the help that was asked for, or what is wrong. */
+	EExitStatus TellEnd(const CLI::App& App, const CLI::ParseError& Error, int Count, const char* const* Values)
+	{
+		std::ostringstream Output;
+		std::ostringstream Errors;
+		if (App.exit(Error, Output, Errors) == 0)
+		{
+			std::cout << Output.str();
+			return EExitStatus::Done;
+		}
+		TArray<FString> Lines;
+		if (App.get_subcommands().empty() && Error.get_exit_code() == static_cast<int>(CLI::ExitCodes::RequiredError) && Count > 1)
+		{
+			Lines.Add(FString::Printf(TEXT("There is no command %s."), *ToText(Values[1])));
+		}
+		Lines.Add(ToText(Errors.str()).TrimEnd());
+		const bool bJson = std::any_of(Values, Values + Count, [](const char* Value) { return std::string_view(Value) == "--json"; });
+		Refusal::Print(EExitStatus::Usage, Lines, bJson);
+		return EExitStatus::Usage;
+	}
+
 	TOptional<EExitStatus> Parse(int Count, const char* const* Values, FArguments& OutArguments)
 	{
 		CLI::App App("Checks and drives Unreal projects that use the Velmorant toolkit, without the engine.", "velmorant");
@@ -63,11 +88,7 @@ namespace Arguments
 		}
 		catch (const CLI::ParseError& Error)
 		{
-			if (App.get_subcommands().empty() && Error.get_exit_code() == static_cast<int>(CLI::ExitCodes::RequiredError) && Count > 1)
-			{
-				std::cerr << "There is no command " << Values[1] << ".\n";
-			}
-			return App.exit(Error, std::cout, std::cerr) == 0 ? EExitStatus::Done : EExitStatus::Usage;
+			return TellEnd(App, Error, Count, Values);
 		}
 		if (Check->parsed())
 		{

@@ -5,8 +5,9 @@
 #include "Console.h"
 #include "HostProblems.h"
 #include "HostProject.h"
+#include "Refusal.h"
 
-TOptional<EExitStatus> ProjectArgument::Find(const FString& FileOrFolder, FString& OutProject)
+TOptional<EExitStatus> ProjectArgument::Find(const FString& FileOrFolder, FString& OutProject, bool bJson)
 {
 	TOptional<EExitStatus> End;
 	OutProject = HostProject::Find(FileOrFolder);
@@ -19,6 +20,13 @@ TOptional<EExitStatus> ProjectArgument::Find(const FString& FileOrFolder, FStrin
 	{
 		End = EExitStatus::Trouble;
 	}
-	Console::PrintProblems(HostProblems::GetAll());
+	if (End.IsSet())
+	{
+		Refusal::PrintProblems(End.GetValue(), bJson);
+	}
+	else
+	{
+		Console::PrintProblems(HostProblems::GetAll());
+	}
 	return End;
 }

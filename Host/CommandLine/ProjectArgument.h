@@ -12,5 +12,5 @@ namespace ProjectArgument
 	 * Finds the project that the user named and makes sure that its descriptor can be read.
 	 * @return unset to go on with OutProject, the full path of its .uproject; else how to end, after the reason has been printed.
 	 */
-	TOptional<EExitStatus> Find(const FString& FileOrFolder, FString& OutProject);
+	TOptional<EExitStatus> Find(const FString& FileOrFolder, FString& OutProject, bool bJson);
 }

@@ -2,6 +2,8 @@
 
 #include "ProjectOnDisk.h"
 
+#include <nlohmann/json.hpp>
+
 class FCommandLineUse : public FProjectOnDisk
 {
 };
@@ -42,9 +44,43 @@ TEST_F(FCommandLineUse, BadUsageEndsWithTwo)
 	}
 }
 
+TEST_F(FCommandLineUse, WithJsonWhatStopsTheProgramIsAnObject)
+{
+	MakeProject();
+	Folder.Write("wrong.velscript", "wait 0\ndance\n");
+	const std::string Root = Folder.GetNative().string();
+	const struct
+	{
+		const char* Behaviour;
+		std::vector<std::string> Arguments;
+		int Status;
+		const char* Message;
+	} Cases[] = {
+		{"no project named", {"check", "--json"}, 2, "PROJECT"},
+		{"an unknown command", {"chek", "--json"}, 2, "There is no command chek."},
+		{"an unknown option", {"check", GetProject(), "--json", "--fix"}, 2, "--fix"},
+		{"run without a script", {"run", "--json", GetProject()}, 2, "SCRIPT"},
+		{"no such project", {"check", Root + "/N\"one\"", "--json"}, 2, "there is no such project"},
+		{"run in no project", {"run", Root + "/None", GetScript(), "--json"}, 2, "there is no such project"},
+		{"no such script", {"run", GetProject(), Root + "/none.velscript", "--json"}, 3, "there is no such script"},
+		{"a wrong script", {"run", GetProject(), Root + "/wrong.velscript", "--json"}, 3, "wrong.velscript(2)"},
+	};
+	for (const auto& Case : Cases)
+	{
+		SCOPED_TRACE(Case.Behaviour);
+		const FProgramResult Result = FProgramRun::Run(Case.Arguments, GetEnvironment());
+		EXPECT_EQ(Result.ExitStatus, Case.Status);
+		const nlohmann::json Json = nlohmann::json::parse(Result.Output, nullptr, false);
+		ASSERT_TRUE(Json.is_object()) << Result.Output;
+		EXPECT_EQ(Json.value("status", -1), Case.Status);
+		EXPECT_NE(Json.value("error", "").find(Case.Message), std::string::npos) << Result.Output;
+		EXPECT_NE(Result.Errors.find(Case.Message), std::string::npos) << "people read it as before";
+	}
+}
+
 TEST_F(FCommandLineUse, HelpIsNoError)
 {
-	for (const std::vector<std::string>& Arguments : {std::vector<std::string>{"--help"}, {"check", "--help"}, {"run", "--help"}, {"--version"}})
+	for (const std::vector<std::string>& Arguments : {std::vector<std::string>{"--help"}, {"check", "--help"}, {"run", "--help"}, {"check", "--help", "--json"}, {"--version"}})
 	{
 		const FProgramResult Result = FProgramRun::Run(Arguments);
 		EXPECT_EQ(Result.ExitStatus, 0);

@@ -26,6 +26,8 @@ protected:
 		"choose Dev ProjectSelection \"Harbor Tower\"\n"
 		"wait 1\n";
 
+	static inline const std::string OpenMinimap = "open /VelmorantPro/EditorHelpers/MinimapTool/VelmorantMinimapTool as Map\n";
+
 	static inline const std::string OpenVolumeTools = "open /VelmorantPro/EditorHelpers/ToolsWidget/UnitVolumeTools/VelmorantEditorTool_StaticMeshToUnitVolume as Volumes\n";
 };
 
@@ -87,18 +89,61 @@ TEST_F(FToolPanels, FindsDuplicatedVolumesAndAssignsUnits)
 
 TEST_F(FToolPanels, SwitchesTheFloorsOfTheMinimap)
 {
-	Do("open /VelmorantPro/EditorHelpers/MinimapTool/VelmorantMinimapTool as Map\n"
-	   "print snapshot Map\n"
-	   "expect widget Map MinimapStatus value \"The level has a minimap\"\n"
-	   "expect widget Map ActiveFloor value \"Active floor: -1\"\n"
-	   "type Map FloorIndex 2\n"
-	   "click Map ActivateFloor\n"
-	   "expect widget Map ActiveFloor value \"Active floor: 2\"\n"
-	   "type Map FloorIndex 3\n" // there is none
-	   "click Map ActivateFloor\n"
-	   "expect widget Map ActiveFloor value \"Active floor: 2\"\n"
-	   "new level\n"
-	   "click Map ScanLevel\n"
-	   "expect widget Map MinimapStatus value \"The level has no minimap with floors\"\n"
-	   "expect widget Map ActivateFloor state disabled\n");
+	Do(OpenMinimap +
+		"print snapshot Map\n"
+		"expect widget Map MinimapStatus value \"The level has a minimap\"\n"
+		"expect widget Map ActiveFloor value \"No floor is active: show one to place it\"\n"
+		"expect widget Map PlaceFloor state disabled\n"
+		"type Map FloorIndex 2\n"
+		"click Map ActivateFloor\n"
+		"expect widget Map ActiveFloor value \"Active floor: 2\"\n");
+	for (const char* None : {"3", "-1", "first", "\"\""})
+	{
+		SCOPED_TRACE(None);
+		Do(OpenMinimap +
+			"type Map FloorIndex 2\n"
+			"click Map ActivateFloor\n"
+			"type Map FloorIndex " +
+			None +
+			"\n"
+			"click Map ActivateFloor\n"
+			"expect widget Map ActiveFloor value \"Active floor: 2\"\n");
+	}
+}
+
+TEST_F(FToolPanels, PlacesTheActiveFloorOfTheMinimap)
+{
+	const std::string Floors = "expect property /Game/Minimap/HarborTowerFloors Floors";
+	Do(OpenMinimap +
+		"type Map FloorIndex 1\n"
+		"click Map ActivateFloor\n"
+		"expect widget Map PlaceFloor state enabled\n"
+		"expect widget Map ScaleX value 1\n"
+		"type Map MoveX -12.5\n"
+		"type Map MoveY 40\n"
+		"type Map ScaleX 0.5\n"
+		"type Map Angle 90\n"
+		"click Map PlaceFloor\n" +
+		Floors + "[1].WidgetTransform.Translation.X -12.5\n" + Floors + "[1].WidgetTransform.Translation.Y 40\n" + Floors + "[1].WidgetTransform.Scale.X 0.5\n" + Floors + "[1].WidgetTransform.Scale.Y 1\n" + Floors + "[1].WidgetTransform.Angle 90\n" + Floors +
+		"[0].WidgetTransform.Scale.X 1\n"
+		"type Map ScaleX wide\n" // no number: nothing is placed, and the panel shows what stands
+		"type Map MoveX 7\n"
+		"click Map PlaceFloor\n"
+		"expect widget Map ScaleX value 0.5\n"
+		"expect widget Map MoveX value -12.5\n"
+		"type Map FloorIndex 0\n"
+		"click Map ActivateFloor\n"
+		"expect widget Map MoveX value 0\n");
+}
+
+TEST_F(FToolPanels, SaysWhyThereIsNoMinimapToWorkOn)
+{
+	Do(OpenMinimap +
+		"new level\n"
+		"click Map ScanLevel\n"
+		"expect widget Map MinimapStatus value \"The level has no minimap controller: place one\"\n"
+		"expect widget Map FloorIndex state disabled\n"
+		"expect widget Map ActivateFloor state disabled\n"
+		"expect widget Map PlaceFloor state disabled\n"
+		"expect widget Map ScaleX value \"\"\n");
 }

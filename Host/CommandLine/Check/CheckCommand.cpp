@@ -10,7 +10,7 @@
 EExitStatus CheckCommand::Run(const FCheckArguments& Arguments)
 {
 	FString Project;
-	const TOptional<EExitStatus> End = ProjectArgument::Find(Arguments.Project, Project);
+	const TOptional<EExitStatus> End = ProjectArgument::Find(Arguments.Project, Project, Arguments.bJson);
 	if (End.IsSet())
 	{
 		return End.GetValue();

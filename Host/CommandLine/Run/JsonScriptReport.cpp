@@ -51,6 +51,7 @@ void FJsonScriptReport::TellStep(const FStepRecord& Record)
 	Json["notifications"] = JsonScriptReport::MakeArray(Record.Events.Notifications);
 	Json["questions"] = JsonScriptReport::MakeArray(Record.Events.Questions);
 	Json["log"] = JsonText::Make(Record.Events.Log);
+	Json["urls"] = JsonText::Make(Record.Events.Urls);
 	Json["problems"] = JsonText::Make(Record.Events.Problems);
 	Console::PrintUtf8(JsonText::Print(Json, -1));
 	Console::PrintProblems(Record.Events.Problems);

@@ -2,13 +2,13 @@
 
 #include "Run/RunCommand.h"
 
-#include "Console.h"
 #include "Containers/StringConv.h"
 #include "HostFiles.h"
 #include "HostProblems.h"
 #include "HostTextFiles.h"
 #include "Misc/Paths.h"
 #include "ProjectArgument.h"
+#include "Refusal.h"
 #include "Run/Script.h"
 #include "Run/ScriptReport.h"
 #include "Run/ScriptRunner.h"
@@ -26,7 +26,7 @@ namespace RunCommand
 			{
 				HostProblems::Report(FPaths::ConvertRelativePathToFull(Arguments.Service), 0, TEXT("there is no such data file"), TEXT("Name the file that the service answers from."));
 			}
-			Console::PrintProblems(HostProblems::GetAll());
+			Refusal::PrintProblems(EExitStatus::Trouble, Arguments.bJson);
 			return HostProblems::GetAll().IsEmpty();
 		}
 
@@ -58,7 +58,7 @@ namespace RunCommand
 	EExitStatus Run(const FRunArguments& Arguments)
 	{
 		FString Project;
-		const TOptional<EExitStatus> End = ProjectArgument::Find(Arguments.Project, Project);
+		const TOptional<EExitStatus> End = ProjectArgument::Find(Arguments.Project, Project, Arguments.bJson);
 		if (End.IsSet())
 		{
 			return End.GetValue();
@@ -71,12 +71,14 @@ namespace RunCommand
 		}
 		TArray<FScriptProblem> Problems;
 		const FScript Script = Script::Parse(Text, Problems);
-		for (const FScriptProblem& Problem : Problems)
-		{
-			Console::PrintError(Problem.ToString(Arguments.Script));
-		}
 		if (!Problems.IsEmpty())
 		{
+			TArray<FString> Lines;
+			for (const FScriptProblem& Problem : Problems)
+			{
+				Lines.Add(Problem.ToString(Arguments.Script));
+			}
+			Refusal::Print(EExitStatus::Trouble, Lines, Arguments.bJson);
 			return EExitStatus::Trouble;
 		}
 		const TUniquePtr<IScriptReport> Report = ScriptReport::Make(Arguments.Script, Arguments.bJson);

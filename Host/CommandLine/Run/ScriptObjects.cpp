@@ -17,12 +17,29 @@ namespace ScriptObjects
 		const TCHAR* const ActorPrefix = TEXT("actor:");
 		const TCHAR* const DefaultPrefix = TEXT("default:");
 
+		/** The actor of that label, or else of that name; labels ignore case. */
+		AActor* FindActorByLabel(const FString& Label)
+		{
+			AActor* Named = nullptr;
+			for (FActorIterator Actors(GetWorld(), AActor::StaticClass()); Actors; ++Actors)
+			{
+				if ((*Actors)->GetActorLabel(false) == Label)
+				{
+					return *Actors;
+				}
+				Named = Named == nullptr && (*Actors)->GetName() == Label ? *Actors : Named;
+			}
+			return Named;
+		}
+
 		UObject* FindActor(const FString& ClassName, FString& OutReason)
 		{
 			UClass* Class = FindClass(ClassName, OutReason);
 			if (Class == nullptr)
 			{
-				return nullptr;
+				AActor* Labelled = FindActorByLabel(ClassName);
+				OutReason = Labelled != nullptr ? FString() : FString::Printf(TEXT("there is no class %s, and no actor of that label"), *ClassName);
+				return Labelled;
 			}
 			if (!Class->IsChildOf(AActor::StaticClass()))
 			{

@@ -15,6 +15,7 @@ namespace ScriptObjects
 	/**
 	 * "/Game/Folder/Asset"  an asset, loaded when it is not yet
 	 * "actor:Class"         the first actor of that class in the open level
+	 * "actor:Label"         the actor of that label or name, when there is no class of that name
 	 * "default:Class"       the class's default object, which holds its settings
 	 * anything else         an open panel
 	 *

@@ -58,6 +58,8 @@ void FScriptSession::TakeDown()
 		return;
 	}
 	Panels.CloseAll();
+	Toolbar.Close();
+	Details.CloseAll();
 	Events.Collect();
 	for (const FString& File : HostFiles::GetWrittenFiles())
 	{

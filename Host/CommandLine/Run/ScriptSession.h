@@ -5,8 +5,10 @@
 #include "EditorHost.h"
 #include "HostQuestions.h"
 #include "PanelHost.h"
+#include "Run/DetailsPanels.h"
 #include "Run/StepEvents.h"
 #include "Templates/UniquePtr.h"
+#include "ToolbarHost.h"
 
 #include <map>
 #include <string>
@@ -35,6 +37,8 @@ public:
 
 	FEditorHost& GetEditor() { return *Editor; }
 	FPanelHost& GetPanels() { return Panels; }
+	FToolbarHost& GetToolbar() { return Toolbar; }
+	FDetailsPanels& GetDetails() { return Details; }
 	FEventWatch& GetEvents() { return Events; }
 
 	/** Packages that would be lost if the editor went down now, by name. */
@@ -81,7 +85,9 @@ private:
 	const FEditorHostOptions Options;
 	const FString ProjectDir; // full path with a slash at the end
 	TUniquePtr<FEditorHost> Editor;
-	FPanelHost Panels; // empty while no editor runs
+	FPanelHost Panels; // empty while no editor runs, and so are the toolbar and the details panels
+	FToolbarHost Toolbar;
+	FDetailsPanels Details;
 	FEventWatch Events;
 	TArray<FPreparedAnswer> Answers; // not asked for yet
 	FString AnswerTrouble;

@@ -8,9 +8,12 @@
 namespace ScriptTopics
 {
 	FScriptTopic GetPanels();
+	FScriptTopic GetMenus();
+	FScriptTopic GetDetails();
 	FScriptTopic GetNotifications();
 	FScriptTopic GetQuestions();
 	FScriptTopic GetAssets();
+	FScriptTopic GetIcons();
 	FScriptTopic GetCalls();
 	FScriptTopic GetLevel();
 	FScriptTopic GetFiles();

@@ -4,6 +4,7 @@
 
 #include "HostLog.h"
 #include "HostNotifications.h"
+#include "HostProcess.h"
 #include "HostQuestions.h"
 
 namespace StepEvents
@@ -33,6 +34,7 @@ void FEventWatch::Collect()
 {
 	CollectNotifications();
 	CollectQuestions();
+	CollectUrls();
 	CollectLog();
 	CollectProblems();
 }
@@ -70,6 +72,15 @@ void FEventWatch::CollectQuestions()
 	}
 }
 
+void FEventWatch::CollectUrls()
+{
+	const TArray<FString>& Urls = HostProcess::GetOpenedUrls();
+	for (; NumUrls < Urls.Num(); ++NumUrls)
+	{
+		Events.Urls.Add(Urls[NumUrls]);
+	}
+}
+
 void FEventWatch::CollectLog()
 {
 	const TArray<FHostLogLine>& Lines = HostLog::GetLines();
@@ -102,6 +113,7 @@ void FEventWatch::StartAnew()
 {
 	NumNotifications = 0;
 	NumQuestions = 0;
+	NumUrls = 0;
 	NumLogLines = 0;
 	NumProblems = 0;
 }

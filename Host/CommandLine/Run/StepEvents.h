@@ -30,6 +30,7 @@ struct FStepEvents
 	TArray<FNotification> Notifications;
 	TArray<FQuestion> Questions;
 	TArray<FString> Log; // warnings, errors, and all that the toolkit says
+	TArray<FString> Urls; // web pages that were opened
 	TArray<FHostProblem> Problems;
 };
 
@@ -52,11 +53,13 @@ public:
 private:
 	void CollectNotifications();
 	void CollectQuestions();
+	void CollectUrls();
 	void CollectProblems();
 
 	FStepEvents Events;
 	int32 NumNotifications = 0;
 	int32 NumQuestions = 0;
+	int32 NumUrls = 0;
 	int32 NumLogLines = 0;
 	int32 NumProblems = 0;
 };

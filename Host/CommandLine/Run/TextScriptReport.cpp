@@ -49,6 +49,10 @@ namespace TextScriptReport
 			{
 				Console::Print(FString(Indent) + TEXT("log: ") + Line);
 			}
+			for (const FString& Url : Events.Urls)
+			{
+				Console::Print(FString(Indent) + TEXT("web page: ") + Url);
+			}
 			for (const FStepEvents::FQuestion& Question : Events.Questions)
 			{
 				PrintQuestion(Question);

@@ -4,20 +4,22 @@
 #include "HostSnapshot.h"
 #include "Run/ScriptContext.h"
 #include "Run/ScriptTopics.h"
+#include "Run/ScriptWidgets.h"
 
 namespace PanelTopic
 {
 	namespace
 	{
-		/** The panel that the first argument names; null with a message. */
-		const FPanelHost::FPanel* FindPanel(FScriptContext& Context, const FString& Name, FString& OutError)
+		/** What a details panel has, when it does not have the widget of the first two arguments. */
+		FString ListRows(FScriptContext& Context, const FScriptArguments& Arguments)
 		{
-			const FPanelHost::FPanel* Panel = Context.Session.GetPanels().Find(Name);
-			if (Panel == nullptr)
+			FHostDetailsView* Details = Context.Session.GetDetails().Find(Arguments[0]);
+			FString Reason;
+			if (Details == nullptr || HostSnapshot::Find(Details->GetWidget(), Arguments[1], Reason).IsValid())
 			{
-				OutError = FString::Printf(TEXT("no panel named %s is open"), *Name);
+				return FString();
 			}
-			return Panel;
+			return TEXT(" The rows are: ") + FString::Join(Details->GetRowTitles(), TEXT(", "));
 		}
 
 		/** Has a person do something to the widget of the first two arguments. */
@@ -25,13 +27,13 @@ namespace PanelTopic
 		FStepResult GiveInput(FScriptContext& Context, const FScriptArguments& Arguments, InputType Input)
 		{
 			FString Error;
-			const FPanelHost::FPanel* Panel = FindPanel(Context, Arguments[0], Error);
-			if (Panel == nullptr)
+			const TSharedPtr<SWidget> Panel = ScriptWidgets::FindRoot(Context, Arguments[0], Error);
+			if (!Panel.IsValid())
 			{
 				return FStepResult::Error(Error);
 			}
-			const FHostInputResult Result = Input(Panel->Content.ToSharedRef(), Arguments[1]);
-			return Result.bDone ? FStepResult::Done() : FStepResult::Error(Result.Reason);
+			const FHostInputResult Result = Input(Panel.ToSharedRef(), Arguments[1]);
+			return Result.bDone ? FStepResult::Done() : FStepResult::Error(Result.Reason + ListRows(Context, Arguments));
 		}
 
 		FStepResult Open(FScriptContext& Context, const FScriptArguments& Arguments)
@@ -45,12 +47,7 @@ namespace PanelTopic
 		FStepResult Close(FScriptContext& Context, const FScriptArguments& Arguments)
 		{
 			FString Error;
-			if (FindPanel(Context, Arguments[0], Error) == nullptr)
-			{
-				return FStepResult::Error(Error);
-			}
-			Context.Session.GetPanels().Close(Arguments[0]);
-			return FStepResult::Done();
+			return ScriptWidgets::Close(Context, Arguments[0], Error) ? FStepResult::Done() : FStepResult::Error(Error);
 		}
 
 		FStepResult Click(FScriptContext& Context, const FScriptArguments& Arguments)
@@ -91,24 +88,24 @@ namespace PanelTopic
 		FStepResult PrintSnapshot(FScriptContext& Context, const FScriptArguments& Arguments)
 		{
 			FString Error;
-			const FPanelHost::FPanel* Panel = FindPanel(Context, Arguments[0], Error);
-			if (Panel == nullptr)
+			const TSharedPtr<SWidget> Panel = ScriptWidgets::FindRoot(Context, Arguments[0], Error);
+			if (!Panel.IsValid())
 			{
 				return FStepResult::Error(Error);
 			}
-			Context.Print(HostSnapshot::Take(Panel->Content.ToSharedRef()).TrimEnd());
+			Context.Print(HostSnapshot::Take(Panel.ToSharedRef()).TrimEnd());
 			return FStepResult::Done();
 		}
 
 		FStepResult PrintOptions(FScriptContext& Context, const FScriptArguments& Arguments)
 		{
 			FString Error;
-			const FPanelHost::FPanel* Panel = FindPanel(Context, Arguments[0], Error);
-			if (Panel == nullptr)
+			const TSharedPtr<SWidget> Panel = ScriptWidgets::FindRoot(Context, Arguments[0], Error);
+			if (!Panel.IsValid())
 			{
 				return FStepResult::Error(Error);
 			}
-			for (const FString& Option : HostSnapshot::GetOptions(Panel->Content.ToSharedRef(), Arguments[1], Error))
+			for (const FString& Option : HostSnapshot::GetOptions(Panel.ToSharedRef(), Arguments[1], Error))
 			{
 				Context.Print(Option);
 			}
@@ -165,12 +162,12 @@ namespace PanelTopic
 				Context.Mask(Arguments.GetWordIndex(Index)); // until it is known not to be a guess at a password
 			}
 			FExpectation Result;
-			const FPanelHost::FPanel* Panel = FindPanel(Context, Arguments[0], Result.Error);
-			if (Panel == nullptr)
+			const TSharedPtr<SWidget> Panel = ScriptWidgets::FindRoot(Context, Arguments[0], Result.Error);
+			if (!Panel.IsValid())
 			{
 				return Result;
 			}
-			const TOptional<FHostWidgetDescription> Seen = HostSnapshot::Describe(Panel->Content.ToSharedRef(), Arguments[1], Result.Found);
+			const TOptional<FHostWidgetDescription> Seen = HostSnapshot::Describe(Panel.ToSharedRef(), Arguments[1], Result.Found);
 			if (!Seen.IsSet())
 			{
 				return Result;
@@ -191,12 +188,12 @@ namespace PanelTopic
 		FExpectation ExpectOption(FScriptContext& Context, const FScriptArguments& Arguments)
 		{
 			FExpectation Result;
-			const FPanelHost::FPanel* Panel = FindPanel(Context, Arguments[0], Result.Error);
-			if (Panel == nullptr)
+			const TSharedPtr<SWidget> Panel = ScriptWidgets::FindRoot(Context, Arguments[0], Result.Error);
+			if (!Panel.IsValid())
 			{
 				return Result;
 			}
-			const TArray<FString> Options = HostSnapshot::GetOptions(Panel->Content.ToSharedRef(), Arguments[1], Result.Error);
+			const TArray<FString> Options = HostSnapshot::GetOptions(Panel.ToSharedRef(), Arguments[1], Result.Error);
 			Result.bHolds = Options.ContainsByPredicate([&Arguments](const FString& Option) { return Option.Equals(Arguments[2]); });
 			Result.Found = FString(TEXT("the options are: ")) + FString::Join(Options, TEXT(", "));
 			return Result;
@@ -204,7 +201,8 @@ namespace PanelTopic
 
 		FExpectation ExpectPanel(FScriptContext& Context, const FScriptArguments& Arguments)
 		{
-			return {Context.Session.GetPanels().Find(Arguments[0]) != nullptr, TEXT("it is not open"), FString()};
+			FString Reason;
+			return {ScriptWidgets::FindRoot(Context, Arguments[0], Reason).IsValid(), TEXT("it is not open"), FString()};
 		}
 
 		const FScriptCommand Commands[] = {

@@ -1,0 +1,78 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "Run/ScriptWidgets.h"
+
+#include "HostSettings.h"
+#include "HostSnapshot.h"
+#include "Run/ScriptContext.h"
+
+namespace ScriptWidgets
+{
+	namespace
+	{
+		/** Null unless that page shows. */
+		TSharedPtr<SWidget> FindSettingsPage(const FString& Section)
+		{
+			const TOptional<HostSettings::FOpenPage> Page = HostSettings::GetOpenPage();
+			const bool bMeant = Page.IsSet() && Page->Address.Section == FName(*Section);
+			return bMeant ? Page->Content : TSharedPtr<SWidget>();
+		}
+
+		/** Why nothing of that name is open; a button or page of that name may be meant. */
+		FString Explain(FScriptContext& Context, const FString& Name)
+		{
+			FString Reason;
+			const TOptional<FHostWidgetDescription> Button = HostSnapshot::Describe(Context.Session.GetToolbar().GetContent(), Name, Reason);
+			if (Button.IsSet() && Button->Role == TEXT("menu button"))
+			{
+				return FString::Printf(TEXT("the menu of the toolbar's button %s is not open; open it with: open menu %s"), *Name, *Name);
+			}
+			return FString::Printf(TEXT("no panel named %s is open"), *Name);
+		}
+	}
+
+	TSharedPtr<SWidget> FindRoot(FScriptContext& Context, const FString& Name, FString& OutReason)
+	{
+		if (const FPanelHost::FPanel* Panel = Context.Session.GetPanels().Find(Name))
+		{
+			return Panel->Content;
+		}
+		if (const TSharedPtr<SWidget> Page = FindSettingsPage(Name))
+		{
+			return Page;
+		}
+		if (const TSharedPtr<SWidget> Menu = Context.Session.GetToolbar().FindOpenMenu(Name))
+		{
+			return Menu;
+		}
+		if (FHostDetailsView* Details = Context.Session.GetDetails().Find(Name))
+		{
+			return Details->GetWidget();
+		}
+		OutReason = Explain(Context, Name);
+		return nullptr;
+	}
+
+	bool Close(FScriptContext& Context, const FString& Name, FString& OutReason)
+	{
+		if (Context.Session.GetPanels().Find(Name) != nullptr)
+		{
+			return Context.Session.GetPanels().Close(Name);
+		}
+		if (FindSettingsPage(Name).IsValid())
+		{
+			return HostSettings::Close();
+		}
+		if (Context.Session.GetToolbar().FindOpenMenu(Name).IsValid())
+		{
+			Context.Session.GetToolbar().Close();
+			return true;
+		}
+		if (Context.Session.GetDetails().Close(Name))
+		{
+			return true;
+		}
+		OutReason = Explain(Context, Name);
+		return false;
+	}
+}

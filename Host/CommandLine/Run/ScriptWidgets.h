@@ -1,0 +1,27 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include "Containers/UnrealString.h"
+#include "Templates/SharedPointer.h"
+
+class FScriptContext;
+class SWidget;
+
+/** What scripts can look at and click in, by name. */
+namespace ScriptWidgets
+{
+	/**
+	 * An open panel, by the name it was opened under
+	 * a tab that something else opened, by its asset's name
+	 * the settings page that shows, by its section
+	 * an open menu of the toolbar, by its button
+	 * an open details panel, by the name it was opened under
+	 *
+	 * @return null with a reason that says how to get there
+	 */
+	TSharedPtr<SWidget> FindRoot(FScriptContext& Context, const FString& Name, FString& OutReason);
+
+	/** @return whether it was open; if not, why it cannot be closed. */
+	bool Close(FScriptContext& Context, const FString& Name, FString& OutReason);
+}
