@@ -1,8 +1,7 @@
 // Copyright Velmorant. All Rights Reserved.
 
-#include "EditorHost.h"
+#include "BenchmarkEditor.h"
 #include "LevelVariantSets.h"
-#include "TemporaryFolder.h"
 #include "UObject/StrongObjectPtr.h"
 #include "VelmorantConfiguratorDataAsset.h"
 #include "VelmorantEditorUtilitiesLibrary.h"
@@ -13,15 +12,6 @@ namespace LevelVariantsBenchmark
 {
 	const int32 ProductsPerSet = 20;
 	const int32 GroupsPerRoom = 10;
-
-	FEditorHostOptions MakeOptions(const FTemporaryFolder& Folder)
-	{
-		Folder.Write("Bench.uproject", "{ \"FileVersion\": 3 }\n");
-		FEditorHostOptions Options;
-		Options.Project = Folder.Get("Bench.uproject");
-		Options.UserSettingsDir = Folder.Get("UserConfig");
-		return Options;
-	}
 
 	void FillRecord(UVelmorantConfiguratorDataAsset& DataAsset, int32 NumSets)
 	{
@@ -44,8 +34,7 @@ namespace LevelVariantsBenchmark
 	struct FScene
 	{
 		explicit FScene(const benchmark::State& State)
-			: Editor(MakeOptions(Folder))
-			, DataAsset(NewObject<UVelmorantConfiguratorDataAsset>())
+			: DataAsset(NewObject<UVelmorantConfiguratorDataAsset>())
 			, LevelVariantSets(NewObject<ULevelVariantSets>())
 		{
 			FillRecord(*DataAsset, static_cast<int32>(State.range(0)));
@@ -53,8 +42,7 @@ namespace LevelVariantsBenchmark
 
 		void Generate() const { UVelmorantEditorUtilitiesLibrary::FillOutLevelVariantWithConfigurator(DataAsset.Get(), LevelVariantSets.Get()); }
 
-		FTemporaryFolder Folder;
-		FEditorHost Editor;
+		FBenchmarkEditor Editor;
 		TStrongObjectPtr<UVelmorantConfiguratorDataAsset> DataAsset;
 		TStrongObjectPtr<ULevelVariantSets> LevelVariantSets;
 	};

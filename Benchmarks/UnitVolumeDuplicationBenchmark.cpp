@@ -1,13 +1,12 @@
 // Copyright Velmorant. All Rights Reserved.
 
+#include "BenchmarkEditor.h"
 #include "Editor.h"
-#include "EditorHost.h"
 #include "EditorWidgets/VlmEWUnitVolumeDuplicationList.h"
 #include "Engine/World.h"
 #include "HostObjects.h"
 #include "HostUserWidgets.h"
 #include "PairwiseClashes.h"
-#include "TemporaryFolder.h"
 #include "UObject/Package.h"
 #include "UObject/StrongObjectPtr.h"
 
@@ -15,20 +14,10 @@
 
 namespace UnitVolumeDuplicationBenchmark
 {
-	FEditorHostOptions MakeOptions(const FTemporaryFolder& Folder)
-	{
-		Folder.Write("Bench.uproject", "{ \"FileVersion\": 3 }\n");
-		FEditorHostOptions Options;
-		Options.Project = Folder.Get("Bench.uproject");
-		Options.UserSettingsDir = Folder.Get("UserConfig");
-		return Options;
-	}
-
 	/** A level of State.range(0) volumes: every tenth is a duplicate of the one before. */
 	struct FScene
 	{
 		explicit FScene(const benchmark::State& State)
-			: Editor(MakeOptions(Folder))
 		{
 			for (int32 Index = 0; Index < State.range(0); ++Index)
 			{
@@ -41,8 +30,7 @@ namespace UnitVolumeDuplicationBenchmark
 
 		static UWorld& GetWorld() { return *GEditor->GetEditorWorldContext().World(); }
 
-		FTemporaryFolder Folder;
-		FEditorHost Editor;
+		FBenchmarkEditor Editor;
 		TArray<AUnitVolumeActor*> Volumes;
 	};
 
