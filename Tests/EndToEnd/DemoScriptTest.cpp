@@ -11,9 +11,9 @@ class FDemoScript : public FProjectOnDisk
 protected:
 	FDemoScript() { CopySample(); }
 
-	FProgramResult RunDemo(const std::vector<std::string>& Options = {}) const
+	FProgramResult RunDemo(const std::vector<std::string>& Options = {}, const char* Script = "Demo") const
 	{
-		std::vector<std::string> Arguments = {"run", GetProject(), VELMORANT_SOURCE_DIR "/Samples/Demo.velscript"};
+		std::vector<std::string> Arguments = {"run", GetProject(), VELMORANT_SOURCE_DIR "/Samples/" + std::string(Script) + ".velscript"};
 		Arguments.insert(Arguments.end(), Options.begin(), Options.end());
 		return FProgramRun::Run(Arguments, GetEnvironment());
 	}
@@ -35,6 +35,30 @@ TEST_F(FDemoScript, GoesFromTheMissingProfileToTheActorInTheLevel)
 	EXPECT_TRUE(Folder.Exists("Project/Content/Velmorant/Configurator/LevelVariant_Garden_Flat.uasset.json"));
 	EXPECT_NE(Folder.Read("Project/Content/Maps/HarborTower.umap.json").find("LevelVariant_Garden_Flat"), std::string::npos);
 	EXPECT_NE(Folder.Read("Project/Config/DefaultGame.ini").find("ht-7f3c-91d2-demo"), std::string::npos);
+}
+
+TEST_F(FDemoScript, ToursEveryPanelMenuAndPicker)
+{
+	for (const bool bAfterTheDemo : {false, true})
+	{
+		SCOPED_TRACE(bAfterTheDemo);
+		std::filesystem::remove_all(Folder.GetNative("Project"));
+		CopySample();
+		if (bAfterTheDemo)
+		{
+			ASSERT_EQ(RunDemo().ExitStatus, 0);
+		}
+		const FProgramResult Result = RunDemo({}, "Tour");
+		EXPECT_EQ(Result.ExitStatus, 0) << Result.Output << Result.Errors;
+		EXPECT_EQ(Result.Errors, "");
+		for (const char* Shown : {"section VelmorantTools [Velmorant Tools]", "[Developer Panel]", "image DevImage", "list ItemList (3 items)", "Project - Plugins - Velmorant SDK Settings", "web page: ",
+				 "text Identifier \"HT-B-01B\"", "edit MoveX [Move right] \"24\"", "tiles (2 items)", "combo \"White\""})
+		{
+			EXPECT_NE(Result.Output.find(Shown), std::string::npos) << Shown << " is missing in:\n"
+																	<< Result.Output;
+		}
+	}
+	EXPECT_NE(Folder.Read("Project/Content/Maps/HarborTower.umap.json").find("\"wave\""), std::string::npos);
 }
 
 TEST_F(FDemoScript, ShowsThePasswordNowhereAndKeepsItOutOfTheProject)

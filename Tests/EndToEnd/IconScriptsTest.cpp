@@ -99,3 +99,29 @@ TEST_F(FIconScripts, TheDownloadedFontIsImportedWhole)
 	EXPECT_EQ(Result.ExitStatus, 0) << Result.Output << Result.Errors;
 	EXPECT_NE(Result.Output.find("FontAwesome: 1895 icons ("), std::string::npos) << Result.Output;
 }
+
+TEST_F(FIconScripts, ADesignerPicksFromTheDownloadedFont)
+{
+	SKIP_WITHOUT_FONT_PACKAGE();
+	const FProgramResult Result = RunScript(
+		"import icons \"" + FontPackage.string() +
+		"\" as FontAwesome\n"
+		"open level /Game/Maps/HarborTower\n"
+		"inspect \"actor:Spot roof terrace\" as Spot\n"
+		"choose Spot Icon.FontIconName FontAwesome\n"
+		"expect items Spot \"Icon List\" 0\n" // the style is still that of the sample's font
+		"choose Spot Icon.IconStyle Regular\n"
+		"type Spot \"Icon List/Search\" \"black heart\"\n" // a search word of two words
+		"expect items Spot \"Icon List\" 1\n"
+		"choose Spot \"Icon List\" heart\n"
+		"expect property \"actor:Spot roof terrace\" Icon.IconName heart\n"
+		"expect row Spot Icon value \xEF\x80\x84\n"
+		"type Spot \"Icon List/Search\" anchor\n"
+		"expect items Spot \"Icon List\" 0\n"
+		"choose Spot Icon.IconStyle Solid\n"
+		"choose Spot \"Icon List\" anchor\n"
+		"choose Spot Icon.FontIconName HarborIcons\n"
+		"expect row Spot Icon value ⚓\n" // the sample's font has an icon of that name, too
+		"discard\n");
+	EXPECT_EQ(Result.ExitStatus, 0) << Result.Output << Result.Errors;
+}

@@ -267,7 +267,7 @@ TEST_F(ListDisplayerPanel, FindsWhatComparingRowByRowFinds)
 	std::string Groups;
 	for (int32 Index = 0; Index < 300; ++Index)
 	{
-		Groups += (Index ? ", " : "") + std::string(R"({"keyCode": "G)") + std::to_string(Index) + MakeText(4) + R"(", "name": ")" + MakeText(12) + R"(", "units": []})";
+		Groups += (Index ? ", " : "") + std::string(R"({"keyCode": ")") + MakeText(4) + std::to_string(Index) + R"(", "name": ")" + MakeText(12) + R"(", "units": []})";
 	}
 	WriteHarborTower(R"("unitGroups": [)" + Groups + "]");
 	FTestPanel Panel = MakePanel();

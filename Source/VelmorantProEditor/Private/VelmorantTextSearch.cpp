@@ -27,13 +27,11 @@ TArray<int32> FVelmorantTextSearch::Find(const FString& Text) const
 		{
 			++Row;
 		}
-		// What begins in one row and ends in another is in neither.
-		const bool bInRow = Place + LowerText.Len() <= Ends[Row];
-		if (bInRow)
+		if (Place + LowerText.Len() <= Ends[Row]) // what begins in one row and ends in another is in neither
 		{
 			Found.Add(Row);
 		}
-		Place = FindFrom(bInRow ? Ends[Row] : Place + 1);
+		Place = FindFrom(Ends[Row]);
 	}
 	return Found;
 }

@@ -96,6 +96,24 @@ TEST_F(StringSearch, FindsTextsOfAnyLengthFarAway)
 	}
 }
 
+TEST_F(StringSearch, SkipsNoPlaceBeforeALongText)
+{
+	for (const int32 Len : {4, 255, 256, 257, 700})
+	{
+		// Every pair of neighbours in the first half occurs once only, so that it must be known how far it is from the end.
+		FString Sub;
+		for (int32 Index = 0; Index < Len / 2; ++Index)
+		{
+			Sub += static_cast<TCHAR>(0x4e00 + Index);
+		}
+		Sub += FString::ChrN(Len - Len / 2, 'a');
+		for (int32 Place = 3000; Place <= 3000 + Len; ++Place)
+		{
+			ASSERT_EQ((FString::ChrN(Place, '-') + Sub).Find(Sub, ESearchCase::CaseSensitive), Place) << Len;
+		}
+	}
+}
+
 TEST_F(StringSearch, FoldedBeforehandFindsWhatIgnoringCaseFinds)
 {
 	const FString Letters = TEXT("aAzZ-\u00E9\u00C9\u0130\u0131\u212A\u017F\u03C3\u03C2\u03A3\u0416\u0436\u1E9E\u00DF\uFB01\U0001F600\u4E2D");
