@@ -4,7 +4,15 @@
 #include "Engine/Engine.h"
 #include "HostObjects.h"
 #include "HostSnapshot.h"
+#include "SSearchableComboBox.h"
+#include "Styling/AppStyle.h"
 #include "UObject/Package.h"
+#include "UObject/StrongObjectPtr.h"
+#include "VelmorantProUISettings.h"
+#include "VelmorantUIStyleConfiguration.h"
+#include "Widgets/Layout/SBox.h"
+#include "Widgets/SBoxPanel.h"
+#include "Widgets/Text/STextBlock.h"
 
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -106,6 +114,45 @@ TEST_F(ColorCustomization, DrawsSwatchesInTheVariantInUse)
 	EXPECT_THAT(Snapshot(), HasSubstr(std::string("\"Text\" (2 options, swatch ") + OpaqueText)) << "swatches of palette colours are opaque";
 }
 
+TEST_F(ColorCustomization, ShowsOptionsAsSwatchAndText)
+{
+	OpenColor(TEXT("White"));
+	EXPECT_THAT(BoxSizes(TEXT("Background Color")), testing::IsSupersetOf({"25 wide", "25 high"}));
+
+	const TCHAR* const Row = TEXT("Background Color/Color");
+	All<SSearchableComboBox>(Row)[0]->SetIsOpen(true);
+	Wait(0.0);
+	EXPECT_THAT(BoxSizes(Row), ElementsAre("25 wide", "25 high", "25 wide", "25 high"));
+	EXPECT_EQ(ReadPart(Row, TEXT("swatch")), White);
+	UseContrast(true);
+	EXPECT_EQ(ReadPart(Row, TEXT("swatch")), WhiteContrast);
+	const std::vector<STextBlock*> Texts = All<STextBlock>(Row);
+	ASSERT_EQ(Texts.size(), 2u);
+	EXPECT_EQ(ToUtf8(Texts[1]->GetText().ToString()), "Both");
+	EXPECT_TRUE(Texts[1]->GetFont() == FAppStyle::GetFontStyle("PropertyWindow.NormalFont"));
+	auto& Slots = static_cast<TPanelChildren<FHorizontalBoxSlot>&>(*All<SHorizontalBox>(Row).back()->GetChildren());
+	ASSERT_EQ(Slots.Num(), 2);
+	EXPECT_EQ(Slots[0].GetPadding().Left, 2.0f);
+	EXPECT_EQ(Slots[0].GetPadding().Bottom, 2.0f);
+
+	SwitchFamily();
+	ASSERT_EQ(All<STextBlock>(Row).size(), 3u) << "the open list shows the other family";
+	EXPECT_EQ(ToUtf8(All<STextBlock>(Row)[0]->GetText().ToString()), "Text");
+}
+
+TEST_F(ColorCustomization, ItsListFollowsThePaletteWhileThePanelIsOpen)
+{
+	OpenColor(TEXT("White"));
+	UVelmorantUIStyleConfiguration* Style = GetDefault<UVelmorantProUISettings>()->StyleConfiguration.Get();
+	ASSERT_NE(Style, nullptr);
+	Style->SimpleColors.AddDefaulted_GetRef().ID = "Snow";
+	Style->SimpleColors.RemoveAt(0);
+	EXPECT_EQ(Preview(), Magenta);
+	EXPECT_THAT(Colors(), ElementsAre("Both", "Snow"));
+	ChooseColor(TEXT("Snow"));
+	EXPECT_EQ(Preview(), White);
+}
+
 TEST_F(ColorCustomization, PreviewsTheFreeColorInItsMode)
 {
 	const AVlmInteractiveSpot* Spot = OpenColor(TEXT("White"), EVelmorantColorMode::Custom);
@@ -124,6 +171,7 @@ TEST_F(ColorCustomization, EditsSeveralColorsAtOnce)
 	Second->BackgroundColor.bUseContrast = true;
 	Open({First, Second});
 	EXPECT_EQ(Chosen(), "Multiple Values");
+	EXPECT_THAT(Snapshot(), HasSubstr("[Use Contrast] (undetermined"));
 	ChooseColor(TEXT("Both"));
 	UseContrast(true);
 	for (const AVlmInteractiveSpot* Spot : {First, Second})
@@ -147,9 +195,9 @@ TEST_F(ColorCustomization, IsMagentaWithoutAPalette)
 {
 	{
 		TGuardValue<UEngine*> NoEngine(GEngine, nullptr); // and so no UI subsystem
-		AVlmInteractiveSpot* Spot = NewObject<AVlmInteractiveSpot>();
+		const TStrongObjectPtr<AVlmInteractiveSpot> Spot(NewObject<AVlmInteractiveSpot>());
 		Spot->BackgroundColor = FVelmorantColorHandler("White");
-		Open({Spot});
+		Open({Spot.Get()});
 		EXPECT_EQ(Preview(), Magenta);
 		EXPECT_THAT(Colors(), IsEmpty());
 		EXPECT_THAT(Snapshot(), HasSubstr(std::string("\"White\" (0 options, swatch ") + Magenta));

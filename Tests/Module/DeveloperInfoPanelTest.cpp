@@ -5,6 +5,7 @@
 #include "TestPanel.h"
 #include "ToolkitTest.h"
 #include "VelmorantDeveloperUser.h"
+#include "VelmorantSDKEngineSubsystem.h"
 #include "VlmImage.h"
 
 using testing::IsEmpty;
@@ -70,6 +71,20 @@ TEST_F(DeveloperInfoPanel, ShowsWhoIsSignedIn)
 	EXPECT_EQ(Panel.Read(TEXT("DevName")), "Ada Byron");
 	EXPECT_EQ(Panel.Read(TEXT("DevEmail")), "ada@example.com");
 	EXPECT_TRUE(Panel.Get<UVlmEWDevInfo>()->bPanelActivated);
+}
+
+TEST_F(DeveloperInfoPanel, ShowsTheUserInWhoseContextTheEditorIs)
+{
+	StartEditor();
+	GetUser()->RequestUserLogin(FVelmorantUserInformation(false, TEXT("ada"), TEXT("sesame-77")));
+	Wait(0.0);
+	FTestPanel Panel(PanelLayouts::DeveloperInfo, {});
+	Panel.Show();
+	Activate(Panel);
+	EXPECT_EQ(Panel.Read(TEXT("DevName")), " ") << "the running model's user has not signed in";
+	UVelmorantSDKEngineSubsystem::EnsureUserEditorContext();
+	Activate(Panel);
+	EXPECT_EQ(Panel.Read(TEXT("DevName")), "Ada Byron");
 }
 
 TEST_F(DeveloperInfoPanel, KeepsTheBlankBetweenNamesThatAreMissing)

@@ -2,13 +2,18 @@
 
 #include "DetailsTest.h"
 #include "Engine/Engine.h"
+#include "FontIconData.h"
 #include "HostObjects.h"
 #include "HostSnapshot.h"
 #include "UObject/Package.h"
+#include "UObject/StrongObjectPtr.h"
+#include "VelmorantProUISettings.h"
+#include "Widgets/Text/STextBlock.h"
 
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::Not;
 
 /** An icon in the details panel. */
 class FontIconCustomization : public FDetailsTest
@@ -29,6 +34,63 @@ TEST_F(FontIconCustomization, OffersWhatTheFontHas)
 	EXPECT_FALSE(Spot->GetPackage()->IsDirty()) << "opening the panel must not write the property";
 }
 
+TEST_F(FontIconCustomization, ShowsAllRowsInOrder)
+{
+	OpenIcon(TEXT("Ship"), TEXT("Thin"), TEXT("Buoy"));
+	std::vector<std::string> Titles;
+	for (const FString& Title : View->GetRowTitles())
+	{
+		Titles.push_back(ToUtf8(Title));
+	}
+	ASSERT_GE(Titles.size(), 6u);
+	Titles.resize(6);
+	EXPECT_THAT(Titles, ElementsAre("Icon", "Font Icon Name (Icon.FontIconName)", "Icon Style (Icon.IconStyle)", "Icon Name (Icon.IconName)", "Icon List", "Icon Color (Icon.IconColor)"));
+
+	View->SetFilter(TEXT("Filter"));
+	EXPECT_THAT(Snapshot(), HasSubstr("row [Icon List]")) << "found by its filter text";
+	EXPECT_THAT(Snapshot(), Not(HasSubstr("Icon Style")));
+}
+
+TEST_F(FontIconCustomization, DrawsTheGridAndItsGlyphsInTheirSizes)
+{
+	OpenIcon(TEXT("Ship"), TEXT("Thin"), TEXT("Buoy"));
+	EXPECT_THAT(Snapshot(), HasSubstr("tiles (3 items, 35 x 35 each)"));
+	EXPECT_THAT(BoxSizes(TEXT("Icon List")), ElementsAre("150 high"));
+	const std::vector<STextBlock*> Glyphs = All<STextBlock>(TEXT("Icon List"));
+	ASSERT_EQ(Glyphs.size(), 3u);
+	EXPECT_EQ(Glyphs[0]->GetFont().Size, 16.0f);
+	EXPECT_EQ(ToUtf8(Glyphs[0]->GetFont().TypefaceFontName), "Thin");
+	EXPECT_EQ(ToUtf8(Glyphs[0]->GetFont().FontObject->GetName()), "Face");
+}
+
+TEST_F(FontIconCustomization, ItsListsFollowFontsThatComeWhileThePanelIsOpen)
+{
+	const AVlmInteractiveSpot* Spot = OpenIcon(TEXT("Ship"), TEXT("Thin"), TEXT("anchor"));
+	FFontIconSource Attic = GetDefault<UVelmorantProUISettings>()->FontIcons[1];
+	Attic.FontID = "Attic";
+	GetMutableDefault<UVelmorantProUISettings>()->FontIcons.Add(Attic);
+	EXPECT_THAT(Options(TEXT("Font Icon Name")), ElementsAre("Ship", "House", "Empty", "Attic"));
+	Choose(TEXT("Font Icon Name"), TEXT("Attic"));
+	EXPECT_EQ(ToUtf8(Spot->Icon.FontIconName), "Attic");
+
+	UDataTable* Table = Attic.IconDataTable.Get();
+	ASSERT_NE(Table, nullptr);
+	Table->EmptyTable(); // as when icons are imported again
+	EXPECT_EQ(Read(TEXT("Icon")), "None");
+	FFontIconRow Roof;
+	Roof.Character = TEXT("r");
+	Roof.IconStyles = {"Thin"};
+	Table->AddRow("roof", Roof);
+	EXPECT_THAT(Options(TEXT("Icon Name")), ElementsAre("roof"));
+	Search(TEXT("oo"));
+	EXPECT_THAT(Tiles(), ElementsAre("door")) << "the grid shows what it took until a font or style is chosen";
+	Choose(TEXT("Font Icon Name"), TEXT("Ship"));
+	Choose(TEXT("Font Icon Name"), TEXT("Attic"));
+	EXPECT_THAT(Tiles(), ElementsAre("roof"));
+	PickTile(TEXT("roof"));
+	EXPECT_EQ(Read(TEXT("Icon")), "r");
+}
+
 TEST_F(FontIconCustomization, NarrowsTheGridWithEveryLetter)
 {
 	OpenIcon(TEXT("Ship"), TEXT("Thin"), TEXT("anchor"));
@@ -44,6 +106,7 @@ TEST_F(FontIconCustomization, NarrowsTheGridWithEveryLetter)
 		{TEXT("black ship"), {"anchor"}},
 		{TEXT("black"), {}},
 		{TEXT("boat-house"), {}},
+		{TEXT("tboat"), {}}, // the end of one name and the beginning of the next
 		{TEXT(""), {"anchor", "sail-boat", "Buoy"}},
 	};
 	for (const auto& Case : Cases)
@@ -65,11 +128,12 @@ TEST_F(FontIconCustomization, KeepsTheSearchTextForAnotherStyleOrFont)
 	EXPECT_THAT(Tiles(), ElementsAre("sail-boat"));
 
 	Choose(TEXT("Icon Style"), TEXT("Bold"));
-	EXPECT_THAT(Tiles(), ElementsAre("boat-house"));
+	EXPECT_THAT(Tiles(), ElementsAre("boat-house")) << "once, though it is found by name and search word";
 	EXPECT_EQ(Read(TEXT("Icon List/Search")), "boat");
 
 	Choose(TEXT("Font Icon Name"), TEXT("House"));
 	EXPECT_THAT(Tiles(), IsEmpty());
+	EXPECT_THAT(Snapshot(), HasSubstr("[Icon Name] \"anchor\" (combo, 1 option")) << "before anybody opens the list";
 	EXPECT_THAT(Options(TEXT("Icon Style")), ElementsAre("Round", "Thin"));
 	EXPECT_THAT(Options(TEXT("Icon Name")), ElementsAre("door"));
 
@@ -94,6 +158,16 @@ TEST_F(FontIconCustomization, WritesWhatIsPicked)
 	PickTile(TEXT("Buoy"));
 	Choose(TEXT("Icon Name"), TEXT("sail-boat"));
 	EXPECT_EQ(ToUtf8(Spot->Icon.IconName), "sail-boat");
+
+	// Nor may the grid.
+	EXPECT_THAT(Tiles(), ElementsAre("anchor", "[sail-boat]", "Buoy"));
+	PickTile(TEXT("Buoy"));
+	EXPECT_EQ(ToUtf8(Spot->Icon.IconName), "Buoy");
+	Choose(TEXT("Icon Name"), TEXT("boat-house"));
+	EXPECT_THAT(Tiles(), ElementsAre("anchor", "sail-boat", "Buoy")) << "there is no tile of it in this style";
+	PickTile(TEXT("Buoy"));
+	EXPECT_EQ(ToUtf8(Spot->Icon.IconName), "Buoy");
+	Choose(TEXT("Icon Name"), TEXT("sail-boat"));
 
 	Choose(TEXT("Icon Style"), TEXT("Bold"));
 	EXPECT_EQ(ToUtf8(Spot->Icon.IconStyle), "Bold");
@@ -149,13 +223,43 @@ TEST_F(FontIconCustomization, EditsSeveralIconsAtOnce)
 	EXPECT_EQ(Read(TEXT("Icon")), "⛵");
 }
 
+TEST_F(FontIconCustomization, ScrollsToTheIconOfTheProperty)
+{
+	UDataTable* Table = GetDefault<UVelmorantProUISettings>()->FontIcons[0].IconDataTable.LoadSynchronous();
+	for (int32 Index = 0; Index < 100; ++Index)
+	{
+		FFontIconRow Row;
+		Row.IconStyles = {"Bold"};
+		Table->AddRow(FName(FString::Printf(TEXT("flag-%d"), Index)), Row);
+	}
+	OpenIcon(TEXT("Ship"), TEXT("Bold"), TEXT("flag-90"));
+	EXPECT_THAT(Tiles(), testing::Contains("[flag-90]"));
+	EXPECT_THAT(Tiles(), Not(testing::Contains("anchor"))) << "out of view";
+}
+
+TEST_F(FontIconCustomization, KeepsTheTableOfItsIcons)
+{
+	OpenIcon(TEXT("Ship"), TEXT("Thin"), TEXT("anchor"));
+	UDataTable* Table = GetDefault<UVelmorantProUISettings>()->FontIcons[0].IconDataTable.Get();
+	ASSERT_NE(Table, nullptr);
+	const TWeakObjectPtr<UDataTable> Weak(Table);
+	Table->ClearFlags(RF_Public | RF_Standalone);
+	GetMutableDefault<UVelmorantProUISettings>()->FontIcons.Empty();
+	HostObjects::CollectGarbage();
+	EXPECT_TRUE(Weak.IsValid());
+	EXPECT_EQ(Read(TEXT("Icon")), "⚓");
+	View.Reset();
+	HostObjects::CollectGarbage();
+	EXPECT_FALSE(Weak.IsValid());
+}
+
 TEST_F(FontIconCustomization, RaisesItsChecksOnceTheObjectIsGone)
 {
 	AVlmInteractiveSpot* Spot = OpenIcon(TEXT("Ship"), TEXT("Thin"), TEXT("anchor"));
 	const TSharedRef<SWidget> Panel = View->GetWidget();
 	Spot->Destroy();
 	HostObjects::CollectGarbage();
-	HostSnapshot::Choose(Panel, TEXT("Icon Name"), TEXT("Buoy"));
+	HostSnapshot::Choose(Panel, TEXT("Font Icon Name"), TEXT("House"));
 	EXPECT_THAT(WholeLog(), HasSubstr("Prop->GetValue(OutValue) != FPropertyAccess::Fail"));
 	EXPECT_THAT(WholeLog(), HasSubstr("Prop->SetValue(Value) != FPropertyAccess::Fail"));
 }
@@ -163,9 +267,9 @@ TEST_F(FontIconCustomization, RaisesItsChecksOnceTheObjectIsGone)
 TEST_F(FontIconCustomization, IsEmptyWithoutTheUiSubsystem)
 {
 	TGuardValue<UEngine*> NoEngine(GEngine, nullptr);
-	AVlmInteractiveSpot* Spot = NewObject<AVlmInteractiveSpot>();
+	const TStrongObjectPtr<AVlmInteractiveSpot> Spot(NewObject<AVlmInteractiveSpot>());
 	Spot->Icon = FFontIconHandler("Ship", "Thin", "anchor");
-	Open({Spot});
+	Open({Spot.Get()});
 	EXPECT_EQ(Read(TEXT("Icon")), "None");
 	EXPECT_THAT(Options(TEXT("Font Icon Name")), IsEmpty());
 	EXPECT_THAT(Tiles(), IsEmpty());

@@ -316,6 +316,9 @@ TEST_F(ListDisplayerPanel, ClearsTheSearchText)
 	EXPECT_EQ(Panel.Read(TEXT("SearchText")), "");
 	EXPECT_THAT(Rows(Panel), TwoTowers);
 	EXPECT_THAT(Panel.TakeEvents(), testing::AllOf(testing::Not(IsEmpty()), testing::Each("OnListCountChange(2)")));
+
+	ListOf(Panel)->ClearSearchText(); // nothing to clear
+	EXPECT_THAT(Panel.TakeEvents(), ElementsAre("OnListCountChange(2)"));
 }
 
 TEST_F(ListDisplayerPanel, OneNavigationButtonIsSelectedAtATime)
@@ -357,6 +360,23 @@ TEST_F(ListDisplayerPanel, NavigationIsIgnoredWithoutATarget)
 	EXPECT_THAT(NavBar(Panel), ElementsAre(true, true)) << "the other is not deselected either";
 }
 
+TEST_F(ListDisplayerPanel, NavigationIsIgnoredWithoutApiKey)
+{
+	WriteService(R"({
+		"users": [{"userName": "ada", "password": "sesame-77", "projects": ["QV"]}],
+		"projects": [{"keyCode": "QV", "name": "Quay View", "unitGroups": [{"keyCode": "QV-P", "name": "Pier", "units": []}]}]})");
+	StartEditor();
+	SignIn();
+	SelectProject(TEXT("QV"));
+	FTestPanel Panel = ShowPanel();
+	Activate(Panel);
+	GetRequests()->SetSelectedUnitGroup("QV-P");
+	ASSERT_TRUE(ListOf(Panel)->IsUnitGroupTarget());
+	SetNavBar(Panel);
+	ListOf(Panel)->SetNavBarByIndex(0);
+	EXPECT_THAT(Panel.TakeEvents(), IsEmpty());
+}
+
 TEST_F(ListDisplayerPanel, AButtonThatIsNotOfTheBarIsNoIndex)
 {
 	FTestPanel Panel = MakePanelOfUnits();
@@ -379,12 +399,13 @@ TEST_F(ListDisplayerPanel, AMissingButtonOfTheBarKeepsItsIndex)
 	EXPECT_THAT(NavBar(Panel), ElementsAre(true, false));
 }
 
-TEST_F(ListDisplayerPanel, ShownAgainAClickStillCountsOnce)
+TEST_F(ListDisplayerPanel, ShownAgainItHasItsModesOnceAndAClickCountsOnce)
 {
 	FTestPanel Panel = MakePanel();
 	Panel.Hide();
 	Panel.Show();
 	Panel.TakeEvents();
+	EXPECT_THAT(Panel.Options(TEXT("ModeSelector")), ElementsAre("Promotion", "Configurator"));
 	Panel.Choose(TEXT("ItemList"), TEXT("Brisa"));
 	EXPECT_THAT(Panel.TakeEvents(), ElementsAre("OnSelectionTypeChange(ELDIT_Unit)", "OnListCountChange(1)"));
 	Panel.Click(TEXT("HomeButton"));

@@ -59,6 +59,12 @@ protected:
 	}
 
 	static FTestPanel MakePanel(UObject* Outer) { return FTestPanel(PanelLayouts::MinimapTool, {TEXT("OnScanMinimapLevel")}, Outer); }
+
+	/** What Blueprints see of the controller. */
+	static const UObject* ControllerOf(const UVlmEWMinimapTool& Tool)
+	{
+		return CastField<FObjectProperty>(Tool.GetClass()->FindPropertyByName(TEXT("MinimapLevelController")))->GetObjectPropertyValue_InContainer(&Tool);
+	}
 };
 
 TEST_F(MinimapTool, LooksAtTheLevelAsItIsMade)
@@ -67,6 +73,7 @@ TEST_F(MinimapTool, LooksAtTheLevelAsItIsMade)
 	FTestPanel Panel = MakePanel(&GetWorld());
 	UVlmEWMinimapTool* Tool = Panel.Get<UVlmEWMinimapTool>();
 	EXPECT_THAT(Panel.TakeEvents(), ElementsAre("OnScanMinimapLevel"));
+	EXPECT_EQ(ControllerOf(*Tool), Controller);
 	EXPECT_EQ(Tool->GetMinimapConfig(), Controller->GetMinimapConfiguration());
 	EXPECT_THAT(FloorRange(*Tool), ElementsAre(1, 4)) << "one above the number of floors";
 	EXPECT_EQ(Tool->GetActiveMinimapFloor(), -1);
@@ -120,7 +127,14 @@ TEST_F(MinimapTool, LooksAnewWhenTold)
 	Controller->Destroy();
 	Tool->FindMinimapLevelController();
 	EXPECT_FALSE(Tool->HasMinimapFloors());
+	EXPECT_EQ(ControllerOf(*Tool), nullptr);
 	EXPECT_THAT(Panel.TakeEvents(), ElementsAre("OnScanMinimapLevel", "OnScanMinimapLevel", "OnScanMinimapLevel"));
+}
+
+TEST_F(MinimapTool, LooksAfterItsBlueprintWasInitialized)
+{
+	FTestPanel Panel(PanelLayouts::MinimapTool, {TEXT("OnInitialized"), TEXT("OnScanMinimapLevel")}, &GetWorld());
+	EXPECT_THAT(Panel.TakeEvents(), ElementsAre("OnInitialized", "OnScanMinimapLevel"));
 }
 
 TEST_F(MinimapTool, SwitchesOnlyToFloorsThatThereAre)

@@ -6,6 +6,7 @@
 #include "HostAssertions.h"
 #include "HostAssetTools.h"
 #include "HostEditor.h"
+#include "HostModules.h"
 #include "HostPlacement.h"
 #include "HostPropertyEditor.h"
 #include "HostStyles.h"
@@ -76,6 +77,20 @@ class ModuleStartup : public FToolkitTest
 {
 };
 
+TEST_F(ModuleStartup, LoadsTheModulesItRegistersWithInTheOrderOfRegistration)
+{
+	StartEditor();
+	std::vector<std::string> Used;
+	for (const std::string& Module : ToStrings(HostModules::GetLoaded()))
+	{
+		if (Module == "AssetTools" || Module == "PropertyEditor" || Module == "PlacementMode" || Module == "VelmorantProEditor")
+		{
+			Used.push_back(Module);
+		}
+	}
+	EXPECT_THAT(Used, ElementsAre("AssetTools", "PropertyEditor", "PlacementMode", "VelmorantProEditor"));
+}
+
 TEST_F(ModuleStartup, TellsOfItsLifeInTheLogAsWarnings)
 {
 	StartEditor();
@@ -91,6 +106,8 @@ TEST_F(ModuleStartup, RegistersFourCommandsWithTheirTexts)
 	const TSharedPtr<FBindingContext> Context = FInputBindingManager::Get().GetContextByName("VelmorantProEdCommands");
 	ASSERT_TRUE(Context.IsValid());
 	EXPECT_EQ(ToUtf8(Context->GetContextDesc()), "VelmorantProEdCommands Settings");
+	EXPECT_EQ(ToUtf8(*FTextInspector::GetKey(Context->GetContextDesc())), "VelmorantProEdCommands_Desc");
+	EXPECT_EQ(ToUtf8(Context->GetStyleSetName()), "VelmorantEditorStyle");
 
 	std::vector<std::string> Texts;
 	TArray<TSharedPtr<FUICommandInfo>> Commands;
@@ -205,8 +222,16 @@ TEST_F(ModuleStartup, ShutsDownWithoutThePlacementModule)
 	TakeModuleLog();
 	ASSERT_TRUE(FModuleManager::Get().UnloadModule("PlacementMode"));
 	EXPECT_TRUE(FModuleManager::Get().UnloadModule("VelmorantProEditor"));
-	EXPECT_FALSE(FModuleManager::Get().IsModuleLoaded("PlacementMode"));
+	EXPECT_FALSE(FModuleManager::Get().IsModuleLoaded("PlacementMode")) << "only unregisters where there is something to unregister from";
 	EXPECT_THAT(TakeModuleLog(), ElementsAre("Warning: LogVelmorantProEditor module has been unloaded"));
+}
+
+TEST_F(ModuleStartup, MakesSureOfThePropertyEditorWhenItShutsDown)
+{
+	StartEditor();
+	ASSERT_TRUE(FModuleManager::Get().UnloadModule("PropertyEditor"));
+	ASSERT_TRUE(FModuleManager::Get().UnloadModule("VelmorantProEditor"));
+	EXPECT_TRUE(FModuleManager::Get().IsModuleLoaded("PropertyEditor"));
 }
 
 TEST_F(ModuleStartup, LeavesAllButStyleAndPlacementRegisteredAtShutdown)

@@ -1,7 +1,11 @@
 // Copyright Velmorant. All Rights Reserved.
 
+#include "EditorWidgets/VlmEWDevInfo.h"
+#include "EditorWidgets/VlmEWListDisplayer.h"
 #include "EditorWidgets/VlmEWLoginUser.h"
+#include "EditorWidgets/VlmEWMinimapTool.h"
 #include "EditorWidgets/VlmEWProjectSelector.h"
+#include "EditorWidgets/VlmEWUnitVolumeDuplicationList.h"
 #include "HostAssertions.h"
 #include "HostObjects.h"
 #include "HostWidgetLayout.h"
@@ -150,6 +154,12 @@ TEST_F(PanelInterface, PanelsHaveTheNamesThatBlueprintsBindTo)
 	EXPECT_THAT(PropertiesOf(UVlmEWPanelData::StaticClass()), ElementsAre("bRefreshOnActivation"));
 	EXPECT_THAT(PropertiesOf(UVlmEWLoginUser::StaticClass()), ElementsAre("OnLoginResult", "UserName*", "UserPassword*", "SummitButton*", "RememberUserCheckBox*"));
 	EXPECT_THAT(PropertiesOf(UVlmEWProjectSelector::StaticClass()), ElementsAre("ProjectKeyCode*", "ProjectName*", "ProjectSelection*", "ForceUpdateCheckBox*", "SetAsDefault*", "CopyApyKey*", "UserProjectList"));
+	EXPECT_THAT(PropertiesOf(UVlmEWDevInfo::StaticClass()), ElementsAre("DevName*", "DevEmail*", "DevImage*", "LogoutButton*", "CheckedState"));
+	EXPECT_THAT(PropertiesOf(UVlmEWListDisplayer::StaticClass()), ElementsAre("HomeButton*", "SubSelectionButton*", "ModeSelector*", "SearchText*", "ItemList*", "NavButtonList", "CurrentElemetsList"));
+	EXPECT_THAT(PropertiesOf(UListDisplayerItemBase::StaticClass()), ElementsAre("UnitID", "Keycode", "DisplayName", "ItemBaseType"));
+	EXPECT_THAT(PropertiesOf(UVlmEWMinimapTool::StaticClass()), ElementsAre("MinimapLevelController"));
+	EXPECT_THAT(PropertiesOf(UVlmEWUnitVolumeDuplication_Item::StaticClass()), ElementsAre("Identifier", "DuplicateActors"));
+	EXPECT_THAT(PropertiesOf(UVlmEWUnitVolumeDuplicationList::StaticClass()), IsEmpty());
 
 	const struct
 	{
@@ -172,6 +182,37 @@ TEST_F(PanelInterface, PanelsHaveTheNamesThatBlueprintsBindTo)
 		{UVlmEWProjectSelector::StaticClass(), TEXT("GenerateComboContentWidget"), {"Item", "ReturnValue"}, false},
 		{UVlmEWProjectSelector::StaticClass(), TEXT("GenerateComboItemWidget"), {"Item", "ReturnValue"}, false},
 		{UVlmEWProjectSelector::StaticClass(), TEXT("OnRequestingUserProjectsProcess"), {"bInProcess"}, true},
+		{UVlmEWDevInfo::StaticClass(), TEXT("GetDevUserInRuntime"), {"ReturnValue"}, false},
+		{UVlmEWDevInfo::StaticClass(), TEXT("SetDevUserInRuntime"), {"bUseInRuntime"}, false},
+		{UVlmEWDevInfo::StaticClass(), TEXT("ReceivedClickLogout"), {"ButtonID"}, false},
+		{UVlmEWListDisplayer::StaticClass(), TEXT("ClearSearchText"), {}, false},
+		{UVlmEWListDisplayer::StaticClass(), TEXT("DisplayUnitGroups"), {}, false},
+		{UVlmEWListDisplayer::StaticClass(), TEXT("DisplayUnitsFromUnitGroupTarget"), {}, false},
+		{UVlmEWListDisplayer::StaticClass(), TEXT("DisplayConfiguratorFromUnitGroupTarget"), {}, false},
+		{UVlmEWListDisplayer::StaticClass(), TEXT("GetUnitGroupTargetName"), {"ReturnValue"}, false},
+		{UVlmEWListDisplayer::StaticClass(), TEXT("IsProjectSelected"), {"ReturnValue"}, false},
+		{UVlmEWListDisplayer::StaticClass(), TEXT("IsUnitGroupTarget"), {"ReturnValue"}, false},
+		{UVlmEWListDisplayer::StaticClass(), TEXT("SetNavBarButtons"), {"InNavBarButtons"}, false},
+		{UVlmEWListDisplayer::StaticClass(), TEXT("SetNavBarByIndex"), {"InIndex"}, false},
+		{UVlmEWListDisplayer::StaticClass(), TEXT("Received_NavBarButtonChange"), {"ButtonChanged", "bSelected"}, false},
+		{UVlmEWListDisplayer::StaticClass(), TEXT("ReceivedHomeButtonClicked"), {"ButtonID"}, false},
+		{UVlmEWListDisplayer::StaticClass(), TEXT("ReceivedModeSelectorChange"), {"SelectedItem", "SelectionType"}, false},
+		{UVlmEWListDisplayer::StaticClass(), TEXT("ReceivedSearchTextChange"), {"Text"}, false},
+		{UVlmEWListDisplayer::StaticClass(), TEXT("OnListCountChange"), {"ListCount"}, true},
+		{UVlmEWListDisplayer::StaticClass(), TEXT("OnModeSelectionChange"), {"ModeName"}, true},
+		{UVlmEWListDisplayer::StaticClass(), TEXT("OnNavBarButtonChanged"), {"Index"}, true},
+		{UVlmEWListDisplayer::StaticClass(), TEXT("OnSelectionTypeChange"), {"InSelectionItemType"}, true},
+		{UListDisplayerItemBase::StaticClass(), TEXT("CreateListDisplayerItemBase"), {"InUnitID", "InKeycode", "InDisplayName", "InItemBaseType", "ReturnValue"}, false},
+		{UVlmEWMinimapTool::StaticClass(), TEXT("FindMinimapLevelController"), {}, false},
+		{UVlmEWMinimapTool::StaticClass(), TEXT("GetActiveMinimapFloor"), {"ReturnValue"}, false},
+		{UVlmEWMinimapTool::StaticClass(), TEXT("GetMinimapConfig"), {"ReturnValue"}, false},
+		{UVlmEWMinimapTool::StaticClass(), TEXT("GetMinimapFloorRange"), {"MinFloor", "MaxFloor", "ReturnValue"}, false},
+		{UVlmEWMinimapTool::StaticClass(), TEXT("HasMinimapFloors"), {"ReturnValue"}, false},
+		{UVlmEWMinimapTool::StaticClass(), TEXT("SetActiveMinimapFloor"), {"FloorIndex", "ReturnValue"}, false},
+		{UVlmEWMinimapTool::StaticClass(), TEXT("SetActiveFloorWidgetTransform"), {"NewTransform"}, false},
+		{UVlmEWMinimapTool::StaticClass(), TEXT("OnScanMinimapLevel"), {}, true},
+		{UVlmEWUnitVolumeDuplicationList::StaticClass(), TEXT("CheckForDuplications"), {}, false},
+		{UVlmEWUnitVolumeDuplicationList::StaticClass(), TEXT("OnDuplicationsList"), {"Items"}, true},
 	};
 	for (const auto& Case : Cases)
 	{
@@ -179,6 +220,37 @@ TEST_F(PanelInterface, PanelsHaveTheNamesThatBlueprintsBindTo)
 		ASSERT_NE(Function, nullptr) << ToUtf8(FString(Case.Function));
 		EXPECT_EQ(ParametersOf(*Function), Case.Parameters) << ToUtf8(FString(Case.Function));
 		EXPECT_EQ(Function->HasAnyFunctionFlags(FUNC_BlueprintEvent), Case.bEvent) << ToUtf8(FString(Case.Function));
+	}
+}
+
+TEST_F(PanelInterface, KindsOfRowsHaveTheNamesAndNumbersThatBlueprintsSwitchOn)
+{
+	StartEditor();
+	const UEnum* Kinds = StaticEnum<EListDisplayItemType>();
+	const struct
+	{
+		int64 Value;
+		const char* Name;
+		const char* DisplayName;
+	} Cases[] = {{0, "ELDIT_UnitGroup", "UnitGroup"}, {1, "ELDIT_Unit", "Unit"}, {2, "ELDIT_Configurator", "Configurator"}};
+	for (const auto& Case : Cases)
+	{
+		EXPECT_EQ(ToUtf8(Kinds->GetNameStringByValue(Case.Value)), Case.Name);
+		EXPECT_EQ(ToUtf8(Kinds->GetDisplayNameTextByValue(Case.Value)), Case.DisplayName);
+	}
+	EXPECT_EQ(sizeof(UListDisplayerItemBase::ItemBaseType), 1u) << "a byte in the row";
+}
+
+TEST_F(PanelInterface, DuplicationsStandInTheirBlueprintCategories)
+{
+	StartEditor();
+	for (const FProperty* Property : UVlmEWUnitVolumeDuplication_Item::StaticClass()->GetOwnProperties())
+	{
+		EXPECT_EQ(ToUtf8(Property->GetMetaData(TEXT("Category"))), "Editor|Velmorant|VlmEWUnitVolumeDuplication_Item");
+	}
+	for (const TCHAR* Name : {TEXT("CheckForDuplications"), TEXT("OnDuplicationsList")})
+	{
+		EXPECT_EQ(ToUtf8(UVlmEWUnitVolumeDuplicationList::StaticClass()->FindFunctionByName(Name)->GetMetaData(TEXT("Category"))), "Editor|Velmorant|VlmEWUnitVolumeDuplicationList");
 	}
 }
 

@@ -1,7 +1,9 @@
 // Copyright Velmorant. All Rights Reserved.
 
 #include "Editor.h"
+#include "Framework/Commands/InputBindingManager.h"
 #include "HostClipboard.h"
+#include "HostMenus.h"
 #include "HostPackages.h"
 #include "HostProcess.h"
 #include "HostSettings.h"
@@ -54,6 +56,13 @@ protected:
 		return ToUtf8(HostSnapshot::Click(GetMenu(), Label).Reason);
 	}
 
+	/** The texts of an entry of the open menu, for their keys. */
+	TSharedPtr<SHostMenuEntry> FindEntry(const TCHAR* Name) const
+	{
+		FString Reason;
+		return StaticCastSharedPtr<SHostMenuEntry>(HostSnapshot::Find(GetMenu(), Name, Reason));
+	}
+
 	/** What the launchers have told so far. */
 	static std::vector<std::string> TellingsOfLaunches()
 	{
@@ -92,6 +101,10 @@ TEST_F(ToolbarMenu, HangsOnALabelledButtonOfThePlayToolbar)
 	EXPECT_EQ(ToUtf8(*FTextInspector::GetNamespace(Button->Label.Get())), "FVelmorantProEditor");
 	EXPECT_EQ(ToUtf8(*FTextInspector::GetKey(Button->Label.Get())), "VelmorantMenu_Label");
 	EXPECT_EQ(ToUtf8(*FTextInspector::GetKey(Button->ToolTip.Get())), "VelmorantMenu_Tooltip");
+	ASSERT_TRUE(Button->CommandList.IsValid());
+	const auto IsMapped = [Button](FName Command) { return Button->CommandList->IsActionMapped(FInputBindingManager::Get().FindCommandInContext("VelmorantProEdCommands", Command)); };
+	EXPECT_TRUE(IsMapped("VelmorantSDK_OpenSDKSettings"));
+	EXPECT_FALSE(IsMapped("VelmorantCommand_OpenMenu")) << "it stands for the menu, and does nothing by itself";
 }
 
 TEST_F(ToolbarMenu, ShowsFourSectionsInOrder)
@@ -314,6 +327,19 @@ TEST_F(ToolbarMenu, AToolkitWithoutAVersionShowsTheTextThatSharesTheKey)
 	PluginDirs = {Folder.Get("Plugins")};
 	StartEditor();
 	EXPECT_THAT(ReadMenu(), HasSubstr("entry VelmorantVersion [Velmorant Version] ("));
+	EXPECT_EQ(ToUtf8(*FTextInspector::GetKey(FindEntry(TEXT("VelmorantVersion"))->GetLabel())), "VelmorantVersion");
+}
+
+TEST_F(ToolbarMenu, TheToolTipsOfVersionAndDocumentationShareTheirKey)
+{
+	StartEditor();
+	Open();
+	for (const TCHAR* Name : {TEXT("OpenDocPage"), TEXT("VelmorantVersion")})
+	{
+		const FText ToolTip = FindEntry(Name)->GetToolTip();
+		EXPECT_EQ(ToUtf8(*FTextInspector::GetNamespace(ToolTip)), "FVelmorantProEditor") << ToUtf8(ToolTip);
+		EXPECT_EQ(ToUtf8(*FTextInspector::GetKey(ToolTip)), "OpenDocPage_Tooltip") << ToUtf8(ToolTip);
+	}
 }
 
 TEST_F(ToolbarMenu, VariantSetsAreNamedAsTheSettingsSay)

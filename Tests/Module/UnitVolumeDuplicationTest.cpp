@@ -113,6 +113,17 @@ TEST_F(UnitVolumeDuplication, ClashesOfOneKeyCodeShareAGroup)
 	EXPECT_THAT(Check(), ElementsAre("A1: a d b c")) << "one after the other; the third integer clashes with nobody";
 }
 
+TEST_F(UnitVolumeDuplication, AKeyCodeMayBeLongerThanAName)
+{
+	const FString Longest = FString::ChrN(NAME_SIZE - 1, TEXT('x'));
+	Spawn(TEXT("a"), 1, Longest);
+	Spawn(TEXT("b"), 1, Longest + TEXT("1"));
+	Spawn(TEXT("c"), 1, Longest + TEXT("2"));
+	EXPECT_THAT(Check(), IsEmpty());
+	Spawn(TEXT("d"), 1, Longest + TEXT("2"));
+	EXPECT_THAT(Check(), ElementsAre(ToUtf8(Longest) + ": c d"));
+}
+
 TEST_F(UnitVolumeDuplication, TellsTheSameAgainInNewItems)
 {
 	Spawn(TEXT("a"), 1, TEXT("A1"));

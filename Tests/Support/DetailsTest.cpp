@@ -5,34 +5,20 @@
 #include "Editor.h"
 #include "Engine/World.h"
 #include "HostSnapshot.h"
+#include "PaletteFile.h"
 #include "UObject/Package.h"
+#include "Widgets/Layout/SBox.h"
 
-FDetailsTest::FDetailsTest(bool bUseThem)
+FDetailsTest::FDetailsTest()
 {
-	WritePalette();
+	WriteProjectFile("Content/Style.uasset.json", PaletteFile);
 	WriteIcons();
-	if (bUseThem)
-	{
-		WriteProjectFile("Config/DefaultGame.ini", "[/Script/VelmorantProUI.VelmorantProUISettings]\n"
-												   "StyleConfiguration=/Game/Style.Style\n"
-												   "+FontIcons=(FontID=\"Ship\",IconDataTable=\"/Game/Ship.Ship\",Font=\"/Game/Face.Face\")\n"
-												   "+FontIcons=(FontID=\"House\",IconDataTable=\"/Game/House.House\")\n"
-												   "+FontIcons=(FontID=\"Empty\")\n");
-	}
+	WriteProjectFile("Config/DefaultGame.ini", "[/Script/VelmorantProUI.VelmorantProUISettings]\n"
+											   "StyleConfiguration=/Game/Style.Style\n"
+											   "+FontIcons=(FontID=\"Ship\",IconDataTable=\"/Game/Ship.Ship\",Font=\"/Game/Face.Face\")\n"
+											   "+FontIcons=(FontID=\"House\",IconDataTable=\"/Game/House.House\")\n"
+											   "+FontIcons=(FontID=\"Empty\")\n");
 	StartEditor();
-}
-
-void FDetailsTest::WritePalette() const
-{
-	WriteProjectFile("Content/Style.uasset.json", R"({"Class": "/Script/VelmorantProUI.VelmorantUIStyleConfiguration", "Format": 1, "Objects": [
-		{"Name": "Style", "Class": "/Script/VelmorantProUI.VelmorantUIStyleConfiguration", "Properties": {
-			"SimpleColors": [
-				{"ID": "White", "Color": {"R": 1, "G": 1, "B": 1, "A": 1}, "ContrastColor": {"R": 0, "G": 0, "B": 0.25, "A": 1}},
-				{"ID": "Both", "Color": {"R": 0.5, "G": 0, "B": 0, "A": 1}, "ContrastColor": {"R": 0, "G": 0.5, "B": 0, "A": 1}}],
-			"StyleColors": [
-				{"ID": "Text", "Color": {"R": 0.25, "G": 0.25, "B": 0.25, "A": 0.5}, "ContrastColor": {"R": 1, "G": 1, "B": 0, "A": 0.75}},
-				{"ID": "Accent", "Color": {"R": 1, "G": 0.5, "B": 0, "A": 1}, "ContrastColor": {"R": 0, "G": 0.5, "B": 1, "A": 1}},
-				{"ID": "Both", "Color": {"R": 0, "G": 0, "B": 1, "A": 1}, "ContrastColor": {"R": 0, "G": 0, "B": 0.5, "A": 1}}]}}]})");
 }
 
 void FDetailsTest::WriteIcons() const
@@ -40,7 +26,7 @@ void FDetailsTest::WriteIcons() const
 	WriteProjectFile("Content/Ship.uasset.json", R"j({"Class": "/Script/Engine.DataTable", "RowStruct": "/Script/VelmorantProUI.FontIconRow", "Rows": {
 		"anchor": "(Character=\"⚓\",IconStyles=(\"Bold\",\"Thin\"),SearchTags=(\"port\",\"black ship\"))",
 		"sail-boat": "(Character=\"⛵\",IconStyles=(\"Thin\"),SearchTags=(\"regatta\"))",
-		"boat-house": "(Character=\"🏠\",IconStyles=(\"Bold\"),SearchTags=(\"regatta\"))",
+		"boat-house": "(Character=\"🏠\",IconStyles=(\"Bold\"),SearchTags=(\"regatta\",\"boat\"))",
 		"Buoy": "(Character=\"b\",IconStyles=(\"Bold\",\"Thin\"))"}})j");
 	WriteProjectFile("Content/House.uasset.json", R"j({"Class": "/Script/Engine.DataTable", "RowStruct": "/Script/VelmorantProUI.FontIconRow", "Rows": {
 		"door": "(Character=\"d\",IconStyles=(\"Round\",\"Thin\"),SearchTags=(\"entry\"))"}})j");
@@ -148,6 +134,19 @@ std::string FDetailsTest::ReadPart(const TCHAR* Row, const TCHAR* Role) const
 		DetailsTest::Collect(*Widget, Role, Parts);
 	}
 	return Parts.IsEmpty() ? "(no such part " + ToUtf8(Reason) + ")" : ToUtf8(Parts[0].Value.Get(FString()));
+}
+
+std::vector<std::string> FDetailsTest::BoxSizes(const TCHAR* Row) const
+{
+	std::vector<std::string> Sizes;
+	for (const SBox* Box : All<SBox>(Row))
+	{
+		for (const FString& Size : FHostWidgetAccess::Describe(*Box).Notes)
+		{
+			Sizes.push_back(ToUtf8(Size));
+		}
+	}
+	return Sizes;
 }
 
 std::vector<std::string> FDetailsTest::Tiles() const

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "HostDetailsView.h"
+#include "HostSnapshot.h"
 #include "ToolkitTest.h"
 #include "VelmorantLevelActors.h"
 
@@ -11,15 +12,13 @@ class IPropertyHandle;
 /**
  * A project with a palette and icon fonts, and the details panel of an interactive spot with a person's hands on it.
  *
- * Fonts: "Ship" with anchor (Bold, Thin; "port", "black ship"), sail-boat (Thin; "regatta"), boat-house (Bold; "regatta") and Buoy (Bold,
- * Thin); "House" with door (Round, Thin; "entry"); "Empty" without table. Palette: White and Both are simple colours; Text (half
- * transparent), Accent and Both are style colours.
+ * The palette is that of PaletteFile.h. Fonts: "Ship" with anchor (Bold, Thin; "port", "black ship"), sail-boat (Thin; "regatta"),
+ * boat-house (Bold; "regatta", "boat") and Buoy (Bold, Thin); "House" with door (Round, Thin; "entry"); "Empty" without table.
  */
 class FDetailsTest : public FToolkitTest
 {
 protected:
-	/** Writes the project's palette and icon fonts; the settings name them when bUseThem. */
-	explicit FDetailsTest(bool bUseThem = true);
+	FDetailsTest();
 	virtual void TearDown() override { View.Reset(); }
 
 	static AVlmInteractiveSpot* SpawnSpot();
@@ -45,13 +44,39 @@ protected:
 	std::string ReadPart(const TCHAR* Row, const TCHAR* Role) const;
 	std::string Snapshot() const;
 
+	/** All widgets of the class in a row and what is open below it, in order. */
+	template<typename WidgetType>
+	std::vector<WidgetType*> All(const TCHAR* Row) const
+	{
+		std::vector<WidgetType*> Found;
+		const auto Collect = [&Found](const auto& Self, SWidget& Widget) -> void {
+			if (WidgetType* Fitting = dynamic_cast<WidgetType*>(&Widget))
+			{
+				Found.push_back(Fitting);
+			}
+			for (const TSharedRef<SWidget>& Child : FHostWidgetAccess::ChildrenOf(Widget))
+			{
+				Self(Self, *Child);
+			}
+		};
+		FString Reason;
+		if (const TSharedPtr<SWidget> Widget = HostSnapshot::Find(View->GetWidget(), Row, Reason))
+		{
+			Collect(Collect, *Widget);
+		}
+		EXPECT_FALSE(Found.empty()) << ToUtf8(Reason);
+		return Found;
+	}
+
+	/** Sizes of the boxes in a row that have one: "25 wide", "25 high". */
+	std::vector<std::string> BoxSizes(const TCHAR* Row) const;
+
 	/** Tool tips of the tiles on show, in order; the selected one in brackets. */
 	std::vector<std::string> Tiles() const;
 
 	TUniquePtr<FHostDetailsView> View;
 
 private:
-	void WritePalette() const;
 	void WriteIcons() const;
 	void Expect(const FHostInputResult& Result);
 };

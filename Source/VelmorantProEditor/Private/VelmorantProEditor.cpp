@@ -5,6 +5,7 @@
 #include "AssetAuthoring/MapLinkerAsset_TypeAction.h"
 #include "AssetAuthoring/MinimapDataAsset_TypeAction.h"
 #include "AssetToolsModule.h"
+#include "AssetTypeCategories.h"
 #include "DetailsCustomization/UI/VelmorantColorCustomization.h"
 #include "DetailsCustomization/UI/VelmorantFontIconHandlerCustomization.h"
 #include "Editor.h"

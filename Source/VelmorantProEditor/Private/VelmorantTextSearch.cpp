@@ -17,12 +17,14 @@ void FVelmorantTextSearch::SetRows(int32 NumRows, TFunctionRef<void(int32 Row, F
 TArray<int32> FVelmorantTextSearch::Find(const FString& Text) const
 {
 	const FString LowerText = Text.ToLower();
-	const auto FindFrom = [this, &LowerText](int32 Start) { return JoinedTexts.Find(LowerText, ESearchCase::CaseSensitive, ESearchDir::FromStart, Start); };
-
 	TArray<int32> Found;
-	int32 Row = 0;
-	for (int32 Place = FindFrom(0); Place != INDEX_NONE;)
+	for (int32 Row = 0, Start = 0; Start < JoinedTexts.Len(); Start = Ends[Row])
 	{
+		const int32 Place = JoinedTexts.Find(LowerText, ESearchCase::CaseSensitive, ESearchDir::FromStart, Start);
+		if (Place == INDEX_NONE)
+		{
+			break;
+		}
 		while (Ends[Row] <= Place)
 		{
 			++Row;
@@ -31,7 +33,6 @@ TArray<int32> FVelmorantTextSearch::Find(const FString& Text) const
 		{
 			Found.Add(Row);
 		}
-		Place = FindFrom(Ends[Row]);
 	}
 	return Found;
 }

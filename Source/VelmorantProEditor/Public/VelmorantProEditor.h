@@ -3,7 +3,6 @@
 #pragma once
 
 #include "CoreMinimal.h"
-#include "AssetTypeCategories.h"
 #include "Modules/ModuleInterface.h"
 
 class FUICommandList;

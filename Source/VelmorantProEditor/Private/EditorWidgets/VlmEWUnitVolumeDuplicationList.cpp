@@ -11,25 +11,48 @@ namespace VlmEWUnitVolumeDuplicationList
 	/** Volumes with equal keys clash: the same integer, and the same key code but for letter case. Refers to the volume's identifier. */
 	struct FClashKey
 	{
-		explicit FClashKey(const AUnitVolumeActor& Volume)
-			: Identifier(&Volume.UniqueIdentifier)
-			, Hash(HashCombine(GetTypeHash(Identifier->UnitID), GetTypeHash(Identifier->Keycode))) // the string's hash ignores case, too
-		{
-		}
-
 		bool operator==(const FClashKey& Other) const
 		{
 			return Identifier->UnitID == Other.Identifier->UnitID && Identifier->Keycode.Equals(Other.Identifier->Keycode, ESearchCase::IgnoreCase);
 		}
 
-		friend uint32 GetTypeHash(const FClashKey& Key) { return Key.Hash; }
+		friend uint32 GetTypeHash(const FClashKey& Key)
+		{
+			return HashCombine(GetTypeHash(Key.Identifier->UnitID), GetTypeHash(Key.Identifier->Keycode)); // the string's hash ignores case, too
+		}
 
 		const FUnitVolumeUniqueIdentifier* Identifier;
-		uint32 Hash; // worked out once: in a large level, reading the key code again means waiting for memory
 	};
 
 	/** Indices of volumes that clash with one another, in their order; at least two. */
 	using FClash = TArray<int32>;
+
+	/**
+	 * Indices of volumes whose integer another one has, too. Few of a large level: the others' key codes need not be read, and what is
+	 * not in the processor's cache is what takes the time here.
+	 */
+	TArray<int32> FindWithSharedUnitID(const TArray<AUnitVolumeActor*>& Volumes)
+	{
+		TMap<int32, int32> NumByUnitID;
+		NumByUnitID.Reserve(Volumes.Num());
+		TArray<int32> UnitIDs;
+		UnitIDs.Reserve(Volumes.Num());
+		for (const AUnitVolumeActor* Volume : Volumes)
+		{
+			UnitIDs.Add(Volume->UniqueIdentifier.UnitID);
+			++NumByUnitID.FindOrAdd(UnitIDs.Last());
+		}
+
+		TArray<int32> Shared;
+		for (int32 Index = 0; Index < Volumes.Num(); ++Index)
+		{
+			if (NumByUnitID.FindRef(UnitIDs[Index]) > 1)
+			{
+				Shared.Add(Index);
+			}
+		}
+		return Shared;
+	}
 
 	TArray<FClash> FindClashes(const TArray<AUnitVolumeActor*>& Volumes)
 	{
@@ -38,19 +61,12 @@ namespace VlmEWUnitVolumeDuplicationList
 			int32 First = INDEX_NONE;
 			int32 Clash = INDEX_NONE; // most keys are nobody else's and have none
 		};
-		TArray<FClashKey> Keys; // all of them first: what a volume has is read in one go
-		Keys.Reserve(Volumes.Num());
-		for (const AUnitVolumeActor* Volume : Volumes)
-		{
-			Keys.Emplace(*Volume);
-		}
 		TMap<FClashKey, FAlike> AlikeByKey;
-		AlikeByKey.Reserve(Volumes.Num());
 
 		TArray<FClash> Clashes;
-		for (int32 Index = 0; Index < Volumes.Num(); ++Index)
+		for (const int32 Index : FindWithSharedUnitID(Volumes))
 		{
-			FAlike& Alike = AlikeByKey.FindOrAdd(Keys[Index]);
+			FAlike& Alike = AlikeByKey.FindOrAdd({&Volumes[Index]->UniqueIdentifier});
 			if (Alike.First == INDEX_NONE)
 			{
 				Alike.First = Index;
@@ -64,15 +80,11 @@ namespace VlmEWUnitVolumeDuplicationList
 		}
 		return Clashes;
 	}
-}
 
-void UVlmEWUnitVolumeDuplicationList::FGroup::AddUnique(AUnitVolumeActor* Volume)
-{
-	bool bAlreadyThere = false;
-	Members.Add(Volume, &bAlreadyThere);
-	if (!bAlreadyThere)
+	/** A key code may be longer than any name; those that only differ further on share a group. */
+	FName MakeGroupKey(const FString& Keycode)
 	{
-		Volumes.Add(Volume);
+		return FName(FStringView(Keycode).Left(NAME_SIZE - 1));
 	}
 }
 
@@ -116,11 +128,11 @@ void UVlmEWUnitVolumeDuplicationList::GroupClashes(const TArray<AUnitVolumeActor
 	{
 		if (const FClash* Clash = ClashByClaimant[Claimant])
 		{
-			FGroup& Group = Groups.FindOrAdd(FName(Volumes[Claimant]->UniqueIdentifier.Keycode));
-			Group.AddUnique(Volumes[Claimant]);
+			FGroup& Group = Groups.FindOrAdd(MakeGroupKey(Volumes[Claimant]->UniqueIdentifier.Keycode));
+			Group.Add(Volumes[Claimant]);
 			for (const int32 Index : *Clash)
 			{
-				Group.AddUnique(Volumes[Index]);
+				Group.Add(Volumes[Index]);
 			}
 		}
 	}
@@ -133,7 +145,7 @@ TArray<UVlmEWUnitVolumeDuplication_Item*> UVlmEWUnitVolumeDuplicationList::MakeI
 	{
 		UVlmEWUnitVolumeDuplication_Item* Item = NewObject<UVlmEWUnitVolumeDuplication_Item>(GetTransientPackage());
 		Item->Identifier = Group.Key;
-		for (const TWeakObjectPtr<AUnitVolumeActor>& Volume : Group.Value.Volumes)
+		for (const TWeakObjectPtr<AUnitVolumeActor>& Volume : Group.Value)
 		{
 			if (Volume.IsValid())
 			{

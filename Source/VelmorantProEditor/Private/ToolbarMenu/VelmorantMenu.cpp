@@ -4,7 +4,9 @@
 
 #include "Framework/Commands/UICommandList.h"
 #include "Framework/MultiBox/MultiBoxBuilder.h"
+#include "Framework/SlateDelegates.h"
 #include "Styling/AppStyle.h"
+#include "Textures/SlateIcon.h"
 #include "ToolMenus.h"
 #include "ToolbarMenu/SVelmorantUserOptions.h"
 #include "ToolbarMenu/VelmorantToolLaunchers.h"

@@ -44,14 +44,8 @@ public:
 	void OnDuplicationsList(const TArray<UVlmEWUnitVolumeDuplication_Item*>& Items);
 
 private:
-	/** Volumes that clash, each once. Weak: the level may be closed before the widget. */
-	struct FGroup
-	{
-		void AddUnique(AUnitVolumeActor* Volume);
-
-		TArray<TWeakObjectPtr<AUnitVolumeActor>> Volumes;
-		TSet<TWeakObjectPtr<AUnitVolumeActor>> Members; // the same ones, for the look-up
-	};
+	/** Volumes that clash, in the order in which they came: a set keeps it while nothing is removed. Weak: the level may be closed before. */
+	using FGroup = TSet<TWeakObjectPtr<AUnitVolumeActor>>;
 
 	TArray<AUnitVolumeActor*> FindVolumes() const;
 	void GroupClashes(const TArray<AUnitVolumeActor*>& Volumes);

@@ -178,8 +178,9 @@ TSharedRef<SWidget> FVelmorantColorCustomization::MakeSwatchAndText(const TAttri
 
 TSharedRef<SWidget> FVelmorantColorCustomization::MakeOptionWidget(TSharedPtr<FString> Option)
 {
+	using FColorAttribute = TAttribute<FSlateColor>;
 	return MakeSwatchAndText(
-		TAttribute<FSlateColor>::CreateSP(this, &FVelmorantColorCustomization::GetOptionColor, Option),
+		FColorAttribute::Create(FColorAttribute::FGetter::CreateSP(this, &FVelmorantColorCustomization::GetOptionColor, Option)),
 		FText::FromString(*Option));
 }
 
@@ -200,7 +201,10 @@ FText FVelmorantColorCustomization::GetCurrentText() const
 
 void FVelmorantColorCustomization::OnOptionsOpening()
 {
-	// The list tells only of a choice that differs from the one before, and the property may have been written elsewhere since.
+	// The palette may have changed since, and the property may have been written elsewhere: the list tells only of a choice that
+	// differs from the one before.
+	FillOptions();
+	ColorComboBox->RefreshOptions();
 	ColorComboBox->SetSelectedItem(VelmorantPropertyOptions::Find(ColorOptions, GetColorID()), ESelectInfo::Direct);
 }
 

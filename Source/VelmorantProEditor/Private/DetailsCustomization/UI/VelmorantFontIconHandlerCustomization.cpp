@@ -3,7 +3,6 @@
 #include "DetailsCustomization/UI/VelmorantFontIconHandlerCustomization.h"
 
 #include "DetailsCustomization/UI/VelmorantPropertyOptions.h"
-#include "Engine/DataTable.h"
 #include "FontIconData.h"
 #include "FontIconHandler.h"
 #include "PropertyEditorModule.h"
@@ -110,6 +109,7 @@ void FVelmorantFontIconHandlerCustomization::FillSource()
 	SourceItems.Empty();
 	if (!CurrentFontIconData.IsValid() || !CurrentFontIconData->IconDataTable)
 	{
+		IndexSource();
 		return;
 	}
 
@@ -211,6 +211,16 @@ void FVelmorantFontIconHandlerCustomization::SelectCurrentIconName()
 	}
 }
 
+void FVelmorantFontIconHandlerCustomization::OnIconNameChanged()
+{
+	const TArray<FIconItem> Selected = TileView->GetSelectedItems();
+	if (Selected.IsEmpty() || Selected[0]->IconName != GetValue(IconNameHandle))
+	{
+		TileView->ClearSelection();
+		SelectCurrentIconName();
+	}
+}
+
 void FVelmorantFontIconHandlerCustomization::FillOptions()
 {
 	FontDropDown.Options = GetFontIconOptions();
@@ -218,7 +228,7 @@ void FVelmorantFontIconHandlerCustomization::FillOptions()
 	IconDropDown.Options = GetIconsNamesOptions();
 }
 
-void FVelmorantFontIconHandlerCustomization::OnFontOrStyleChanged()
+void FVelmorantFontIconHandlerCustomization::RefreshDropDowns()
 {
 	FillOptions();
 	for (const FDropDown* DropDown : {&FontDropDown, &StyleDropDown, &IconDropDown})
@@ -228,7 +238,11 @@ void FVelmorantFontIconHandlerCustomization::OnFontOrStyleChanged()
 			DropDown->ComboBox->RefreshOptions();
 		}
 	}
+}
 
+void FVelmorantFontIconHandlerCustomization::OnFontOrStyleChanged()
+{
+	RefreshDropDowns();
 	FillSource();
 	UpdateFilterListView(); // the search text stays, and applies to the new font or style
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Engine/DataTable.h"
 #include "Fonts/SlateFontInfo.h"
 #include "IPropertyTypeCustomization.h"
 #include "Types/SlateEnums.h"
@@ -15,7 +16,6 @@ class SSearchBox;
 class SSearchableComboBox;
 class STableViewBase;
 class SWidget;
-class UDataTable;
 struct FFontIconData;
 struct FFontIconRow;
 template<typename ItemType>
@@ -95,11 +95,15 @@ private:
 	/** Shows the tile of the current icon as selected; changes nothing when no tile has it. */
 	void SelectCurrentIconName();
 
+	/** Selects the tile of an icon that was chosen elsewhere: the grid would take a click on the tile selected before for none. */
+	void OnIconNameChanged();
+
 	void OnFontOrStyleChanged();
 	void FillOptions();
+	void RefreshDropDowns();
 
 	void AddDropDownRow(IDetailChildrenBuilder& ChildBuilder, const TSharedPtr<IPropertyHandle>& Handle, FDropDown& DropDown);
-	void OnDropDownOpening(TSharedPtr<IPropertyHandle> Handle, FDropDown* DropDown) const;
+	void OnDropDownOpening(TSharedPtr<IPropertyHandle> Handle, FDropDown* DropDown);
 	void OnOptionChosen(TSharedPtr<FString> Option, ESelectInfo::Type SelectInfo, TSharedPtr<IPropertyHandle> Handle) const;
 
 	TSharedRef<SWidget> MakeIconList();

@@ -82,6 +82,10 @@ void FVelmorantFontIconHandlerCustomization::CustomizeChildren(TSharedRef<IPrope
 			Handle->SetOnPropertyValueChanged(FSimpleDelegate::CreateSP(this, &FVelmorantFontIconHandlerCustomization::OnFontOrStyleChanged));
 		}
 	}
+	if (IconNameHandle.IsValid())
+	{
+		IconNameHandle->SetOnPropertyValueChanged(FSimpleDelegate::CreateSP(this, &FVelmorantFontIconHandlerCustomization::OnIconNameChanged));
+	}
 	FillSource();
 	SelectCurrentIconName();
 }
@@ -114,9 +118,11 @@ void FVelmorantFontIconHandlerCustomization::AddDropDownRow(IDetailChildrenBuild
 	// clang-format on
 }
 
-void FVelmorantFontIconHandlerCustomization::OnDropDownOpening(TSharedPtr<IPropertyHandle> Handle, FDropDown* DropDown) const
+void FVelmorantFontIconHandlerCustomization::OnDropDownOpening(TSharedPtr<IPropertyHandle> Handle, FDropDown* DropDown)
 {
-	// The list tells only of a choice that differs from the one before, and the property may have been written elsewhere since.
+	// Fonts and tables may have changed since, and the property may have been written elsewhere: the list tells only of a choice that
+	// differs from the one before.
+	RefreshDropDowns();
 	DropDown->ComboBox->SetSelectedItem(VelmorantPropertyOptions::Find(DropDown->Options, GetValue(Handle)), ESelectInfo::Direct);
 }
 
