@@ -116,8 +116,13 @@ bool FImportedIconFont::PutIntoProject(FName FontID, const FString& AssetFolder,
 	{
 		return false;
 	}
-	if (!CopyFontFiles(NamesBegin, OutError) || !EnterInSettings(FontID, TablePackage, FontPackage, OutError))
+	TArray<FString> NewFiles;
+	if (!CopyFontFiles(NamesBegin, NewFiles, OutError) || !EnterInSettings(FontID, TablePackage, FontPackage, OutError))
 	{
+		for (const FString& File : NewFiles)
+		{
+			IFileManager::Get().Delete(*File);
+		}
 		return false;
 	}
 	FillFont(FindOrMake<UFont>(FontPackage), NamesBegin);
@@ -125,14 +130,19 @@ bool FImportedIconFont::PutIntoProject(FName FontID, const FString& AssetFolder,
 	return true;
 }
 
-bool FImportedIconFont::CopyFontFiles(const FString& NamesBegin, FFontIconImportError& OutError) const
+bool FImportedIconFont::CopyFontFiles(const FString& NamesBegin, TArray<FString>& OutNewFiles, FFontIconImportError& OutError) const
 {
 	for (const FImportedFace& Face : Faces)
 	{
 		const FString File = FPaths::Combine(FPaths::ProjectContentDir(), ImportedIconFont::GetFontFile(NamesBegin, Face.Style));
+		const bool bNew = !IFileManager::Get().FileExists(*File);
 		if (IFileManager::Get().Copy(*File, *Face.SourceFile) != COPY_OK)
 		{
 			return ImportedIconFont::Fail(OutError, File, FString::Printf(TEXT("%s could not be copied there"), *Face.SourceFile), TEXT("make the folder and the file writable"));
+		}
+		if (bNew)
+		{
+			OutNewFiles.Add(File);
 		}
 	}
 	return true;

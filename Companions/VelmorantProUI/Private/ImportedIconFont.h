@@ -28,8 +28,8 @@ public:
 	bool PutIntoProject(FName FontID, const FString& AssetFolder, FFontIconImportError& OutError) const;
 
 private:
-	/** Font files that are there already are replaced, one by one. */
-	bool CopyFontFiles(const FString& NamesBegin, FFontIconImportError& OutError) const;
+	/** Font files that are there already are replaced, one by one. OutNewFiles: those that were not there before, on failure, too. */
+	bool CopyFontFiles(const FString& NamesBegin, TArray<FString>& OutNewFiles, FFontIconImportError& OutError) const;
 	void FillTable(UDataTable& Table) const;
 	void FillFont(UFont& Font, const FString& NamesBegin) const;
 };

@@ -30,7 +30,7 @@ struct VELMORANTPROUI_API FFontIconSource
 };
 
 /** What a project's user interface is made of; kept in the project's DefaultGame.ini. */
-UCLASS(config = Game, defaultconfig, meta = (DisplayName = "Velmorant Pro UI"))
+UCLASS(config = Game, defaultconfig, meta = (DisplayName = "Velmorant Pro UI Settings"))
 class VELMORANTPROUI_API UVelmorantProUISettings : public UDeveloperSettings
 {
 	GENERATED_BODY()

@@ -37,17 +37,19 @@ void UVelmorantDeveloperUser::HandleLoggedIn()
 
 void UVelmorantDeveloperUser::HandleAccountLeft()
 {
+	++NumAccountsLeft;
 	EditorUserProjects.Empty(); // first: the other account's projects are none of those who hear of the change
 	Super::HandleAccountLeft();
 }
 
 void UVelmorantDeveloperUser::RequestEditorUserProjects()
 {
-	UVelmorantSDKEngineSubsystem::Get()->GetService().RequestProjects(GetToken(), [WeakThis = TWeakObjectPtr<UVelmorantDeveloperUser>(this), Token = GetToken()](bool bSuccess, const TArray<FProject>& Projects) {
+	UVelmorantSDKEngineSubsystem::Get()->GetService().RequestProjects(GetToken(), [WeakThis = TWeakObjectPtr<UVelmorantDeveloperUser>(this), AskedAfter = NumAccountsLeft](bool bSuccess, const TArray<FProject>& Projects) {
 		if (UVelmorantDeveloperUser* This = WeakThis.Get())
 		{
-			// An answer to a login that was given up meanwhile still ends the request, but as a failed one.
-			const bool bStillAsked = This->GetToken() == Token;
+			// An answer for an account that was left meanwhile still ends the request, but as a failed one. The same account may have
+			// signed in once more: its projects are the same.
+			const bool bStillAsked = This->NumAccountsLeft == AskedAfter;
 			This->ReceiveProjects(bSuccess && bStillAsked, bStillAsked ? Projects : TArray<FProject>());
 		}
 	});

@@ -24,10 +24,17 @@ UVelmorantProjectRequestManager* UVelmorantUser::GetProjectRequestManager() cons
 void UVelmorantUser::RequestUserLogin(const FVelmorantUserInformation& InUserInformation)
 {
 	UserInformation = InUserInformation;
-	UVelmorantSDKEngineSubsystem::Get()->GetService().RequestLogin(UserInformation, [WeakThis = TWeakObjectPtr<UVelmorantUser>(this), UserName = UserInformation.UserName](const FVelmorantLoginAnswer& Answer) {
-		if (UVelmorantUser* This = WeakThis.Get())
+	UVelmorantSDKEngineSubsystem::Get()->GetService().RequestLogin(UserInformation, [WeakThis = TWeakObjectPtr<UVelmorantUser>(this), UserName = UserInformation.UserName, AskedAfter = NumLogouts](const FVelmorantLoginAnswer& Answer) {
+		UVelmorantUser* This = WeakThis.Get();
+		if (This && This->NumLogouts == AskedAfter)
 		{
 			This->ReceiveLoginAnswer(Answer, UserName);
+		}
+		else if (This)
+		{
+			// Whoever signed out meanwhile stays signed out; the request still ends, as a failed one.
+			UVelmorantSDKEngineSubsystem::Get()->GetService().RequestLogout(Answer.Token);
+			This->ReceiveLoginAnswer(FVelmorantLoginAnswer(), UserName);
 		}
 	});
 }
@@ -38,6 +45,7 @@ void UVelmorantUser::RequestUserLogout()
 	{
 		UVelmorantSDKEngineSubsystem::Get()->GetService().RequestLogout(Token);
 	}
+	++NumLogouts;
 	Token.Empty();
 	LoginInfo = FLoginInfo();
 	Account.Empty();

@@ -50,6 +50,7 @@ private:
 
 	FOnEditorProjectsResponse OnProjectsResponse;
 	TArray<FProject> EditorUserProjects;
+	int32 NumAccountsLeft = 0; // tells answers for the account from those for one before
 	bool bHasSavedUserData = false;
 	bool bUseAtRuntime = false;
 };

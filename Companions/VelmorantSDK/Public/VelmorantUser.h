@@ -70,5 +70,6 @@ private:
 	FLoginInfo LoginInfo;
 	FString Account; // user name of the last successful login; empty after a logout
 	FString Token;
+	int32 NumLogouts = 0; // tells answers to logins from those that a logout came after
 	double TokenExpiry = 0.0; // seconds on the application's clock
 };
