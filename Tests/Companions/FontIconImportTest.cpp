@@ -319,4 +319,17 @@ TEST_F(FontIconImport, SettingsThatCannotBeWrittenLeaveTheOldIcons)
 	EXPECT_EQ(Describe(GetTable()), Icons);
 	EXPECT_EQ(GetTable(TEXT("Other")), nullptr);
 	EXPECT_EQ(GetDefault<UVelmorantProUISettings>()->FontIcons.Num(), 1);
+	EXPECT_FALSE(Folder.Exists("Project/Content/UI/Icons/Other-Solid.ttf"));
+	EXPECT_TRUE(Folder.Exists("Project/Content/UI/Icons/Sky-Solid.ttf")) << "that of the font before";
+}
+
+TEST_F(FontIconImport, AFontFileThatCannotBeCopiedLeavesNoOthersBehind)
+{
+	StartEditor();
+	WriteProjectFile("Content/UI/Icons/Sky-Regular.ttf/in-the-way.txt", "a folder");
+	const FFontIconImportResult Result = Import();
+	ASSERT_FALSE(Result.Succeeded());
+	EXPECT_THAT(ToUtf8(Result.Error->File), HasSubstr("Content/UI/Icons/Sky-Regular.ttf"));
+	EXPECT_FALSE(Folder.Exists("Project/Content/UI/Icons/Sky-Solid.ttf")) << "copied before the one that failed";
+	EXPECT_TRUE(UVelmorantUISubsystem::Get()->GetAllFontIconOptions().IsEmpty());
 }

@@ -103,6 +103,21 @@ TEST_F(ServiceSession, EndsWithTheLogout)
 	EXPECT_EQ(ToUtf8(GetUser()->GetUserInfo().UserName), "ada") << "the login panel fills it in again";
 }
 
+TEST_F(ServiceSession, ALogoutCountsMoreThanALoginBeforeIt)
+{
+	StartEditor();
+	for (const bool bLogout : {true, false})
+	{
+		GetUser()->RequestUserLogin(FVelmorantUserInformation(false, TEXT("ada"), TEXT("sesame-77")));
+		if (bLogout)
+		{
+			GetUser()->RequestUserLogout();
+		}
+		Wait(0.0);
+		EXPECT_EQ(GetUser()->HasValidToken(), !bLogout);
+	}
+}
+
 TEST_F(ServiceSession, OutlivesAFailedLogin)
 {
 	StartEditor();
@@ -111,6 +126,28 @@ TEST_F(ServiceSession, OutlivesAFailedLogin)
 	Wait(0.0);
 	EXPECT_TRUE(GetUser()->HasValidToken());
 	EXPECT_THAT(AskForProjects(), ElementsAre("yes Harbor Tower Quay View"));
+}
+
+TEST_F(ServiceSession, AnswersForAnAccountReachItAlsoAfterAnotherLogin)
+{
+	StartEditor();
+	SignIn();
+	std::vector<int32> NumProjects;
+	GetUser()->GetOnProjectsResponse().AddLambda([&NumProjects](bool bSuccess, TArray<FProject> Projects) { NumProjects.push_back(bSuccess ? Projects.Num() : -1); });
+	const auto AskAndLeaveTheToken = [](bool bLogout) {
+		GetUser()->RequestUserLogin(FVelmorantUserInformation(false, TEXT("ada"), TEXT("sesame-77")));
+		GetUser()->RequestEditorUserProjects(); // answered after the login
+		if (bLogout)
+		{
+			GetUser()->RequestUserLogout();
+		}
+	};
+	AskAndLeaveTheToken(false);
+	Wait(0.0);
+	EXPECT_THAT(NumProjects, ElementsAre(2)) << "the same account with a new token";
+	AskAndLeaveTheToken(true);
+	Wait(0.0);
+	EXPECT_THAT(NumProjects, ElementsAre(2, -1)) << "the account was left in between";
 }
 
 TEST_F(ServiceSession, SeesOnlyTheUsersOwnProjects)

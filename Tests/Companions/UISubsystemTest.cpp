@@ -3,6 +3,7 @@
 #include "VelmorantUISubsystem.h"
 
 #include "FontIconHandler.h"
+#include "PaletteFile.h"
 #include "Styling/AppStyle.h"
 #include "ToolkitTest.h"
 
@@ -14,19 +15,6 @@ using testing::IsEmpty;
 class UISubsystem : public FToolkitTest
 {
 protected:
-	void WritePalette() const
-	{
-		WriteProjectFile("Content/Style.uasset.json", R"({"Class": "/Script/VelmorantProUI.VelmorantUIStyleConfiguration", "Format": 1, "Objects": [
-			{"Name": "Style", "Class": "/Script/VelmorantProUI.VelmorantUIStyleConfiguration", "Properties": {
-				"SimpleColors": [
-					{"ID": "White", "Color": {"R": 1, "G": 1, "B": 1, "A": 1}, "ContrastColor": {"R": 0, "G": 0, "B": 0.25, "A": 1}},
-					{"ID": "Both", "Color": {"R": 0.5, "G": 0, "B": 0, "A": 1}, "ContrastColor": {"R": 0, "G": 0.5, "B": 0, "A": 1}}],
-				"StyleColors": [
-					{"ID": "Text", "Color": {"R": 0.25, "G": 0.25, "B": 0.25, "A": 0.5}, "ContrastColor": {"R": 1, "G": 1, "B": 0, "A": 0.75}},
-					{"ID": "Accent", "Color": {"R": 1, "G": 0.5, "B": 0, "A": 1}, "ContrastColor": {"R": 0, "G": 0.5, "B": 1, "A": 1}},
-					{"ID": "Both", "Color": {"R": 0, "G": 0, "B": 1, "A": 1}, "ContrastColor": {"R": 0, "G": 0, "B": 0.5, "A": 1}}]}}]})");
-	}
-
 	void WriteIcons() const
 	{
 		WriteProjectFile("Content/Icons.uasset.json", R"j({"Class": "/Script/Engine.DataTable", "RowStruct": "/Script/VelmorantProUI.FontIconRow", "Rows": {
@@ -41,7 +29,7 @@ protected:
 
 	void StartWithPalette()
 	{
-		WritePalette();
+		WriteProjectFile("Content/Style.uasset.json", PaletteFile);
 		WriteSettings("StyleConfiguration=/Game/Style.Style\n");
 		StartEditor();
 	}

@@ -52,7 +52,7 @@ TEST_F(FDemoScript, ToursEveryPanelMenuAndPicker)
 		EXPECT_EQ(Result.ExitStatus, 0) << Result.Output << Result.Errors;
 		EXPECT_EQ(Result.Errors, "");
 		for (const char* Shown : {"section VelmorantTools [Velmorant Tools]", "[Developer Panel]", "image DevImage", "list ItemList (3 items)", "Project - Plugins - Velmorant SDK Settings", "web page: ",
-				 "text Identifier \"HT-B-01B\"", "edit MoveX [Move right] \"24\"", "tiles (2 items)", "combo \"White\""})
+				 "text Identifier \"HT-B-01B\"", "edit MoveX [Move right] \"24\"", "tiles (2 items, 35 x 35 each)", "combo \"White\""})
 		{
 			EXPECT_NE(Result.Output.find(Shown), std::string::npos) << Shown << " is missing in:\n"
 																	<< Result.Output;

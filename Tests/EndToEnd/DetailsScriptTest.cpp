@@ -101,6 +101,9 @@ TEST_F(FDetailsScript, PicksFromListsAndTiles)
 TEST_F(FDetailsScript, WhatCannotBeDoneSaysWhatThereIs)
 {
 	EXPECT_NE(Complaint("inspect " + Style + "\ntype Details Colour White\n").find("There is no widget \"Colour\". The rows are: Display Name (DisplayName), Simple Colors (SimpleColors)"), std::string::npos);
+	EXPECT_NE(Complaint("inspect " + Style + "\nprint options Details Colour\n").find("There is no widget \"Colour\". The rows are: Display Name (DisplayName)"), std::string::npos);
+	EXPECT_NE(Complaint("inspect \"actor:Spot roof terrace\"\nnew level\nclick Details Icon\n").find("The panel has no rows: its objects are gone."), std::string::npos);
+	EXPECT_NE(Complaint("inspect /Game/UI/HarborIcons\nclick Details Icon\n").find("The panel has no rows: nothing of its objects"), std::string::npos);
 	EXPECT_NE(Complaint("inspect /Game/Nothing\n").find("there is no asset /Game/Nothing"), std::string::npos);
 	EXPECT_NE(Complaint("inspect actor:Nobody\n").find("there is no class Nobody, and no actor of that label"), std::string::npos);
 	EXPECT_NE(Complaint("print rows Details\n").find("no details panel named Details is open; open one with: inspect OBJECT as Details"), std::string::npos);

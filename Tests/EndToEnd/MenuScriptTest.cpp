@@ -93,8 +93,9 @@ TEST_F(FMenuScript, WhatIsNotThereIsNamed)
 		int Status;
 		std::string Message;
 	} Cases[] = {
-		{"no such button", "open menu Paint\n", 3, "(1): error: There is no widget \"Paint\"."},
-		{"a part of the toolbar that is no button", "open menu PluginTools\n", 3, "(1): error: \"PluginTools\" opens no menu"},
+		{"no such button", "open menu Paint\n", 3, "(1): error: There is no widget \"Paint\". The toolbar's menus are: VelmorantMenu"},
+		{"no menu of a button that is not there", "expect no menu Paint\n", 3, "(1): error: There is no widget \"Paint\". The toolbar's menus are: VelmorantMenu"},
+		{"a part of the toolbar that is no button", "open menu PluginTools\n", 3, "(1): error: \"PluginTools\" opens no menu. The toolbar's menus are: VelmorantMenu"},
 		{"a menu that is closed", "click VelmorantMenu Login\n", 3, "(1): error: the menu of the toolbar's button VelmorantMenu is not open; open it with: open menu VelmorantMenu"},
 		{"a menu that closed after a choice", "open menu VelmorantMenu\nclick VelmorantMenu OpenDocPage\nclick VelmorantMenu OpenDocPage\n", 3, "(3): error: the menu of the toolbar's button VelmorantMenu is not open"},
 		{"no such entry", "open menu VelmorantMenu\nclick VelmorantMenu \"Unit Volumes\"\n", 3, "(2): error: There is no widget \"Unit Volumes\"."},

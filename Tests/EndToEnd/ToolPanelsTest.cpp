@@ -45,11 +45,60 @@ TEST_F(FToolPanels, ShowsTheDeveloperAndSignsOut)
 		"expect widget Dev LogoutButton state hidden\n");
 }
 
+TEST_F(FToolPanels, SignedOutNothingOfTheDeveloperShows)
+{
+	Do(SignIn +
+		"click Dev LogoutButton\n"
+		"expect widget Dev LoginStatus value \"\"\n"
+		"expect widget Dev ProjectSelection state hidden\n"
+		"expect widget Dev ItemList state hidden\n"
+		"type Dev UserName guest\n"
+		"type Dev UserPassword guest\n"
+		"click Dev SummitButton\n"
+		"wait 1\n"
+		"expect widget Dev LoginStatus value \"Signed in as guest\"\n"
+		"expect widget Dev DevName value \"Guest \"\n"
+		"expect widget Dev ItemList state visible\n"
+		"choose Dev ProjectSelection \"Harbor Lofts\"\n"
+		"expect no option Dev ProjectSelection \"Harbor Tower\"\n");
+}
+
+TEST_F(FToolPanels, OpenedAgainTheyKnowWhoIsSignedIn)
+{
+	Do(SignIn +
+		"close Dev\n"
+		"open menu VelmorantMenu\n"
+		"click VelmorantMenu \"Developer Panel\"\n"
+		"expect widget VelmorantDeveloperPanel DevName value \"Lucía Ferrer\"\n"
+		"expect widget VelmorantDeveloperPanel ListCount value \"3 entries\"\n"
+		"choose VelmorantDeveloperPanel ProjectSelection \"Harbor Lofts\"\n"
+		"click VelmorantDeveloperPanel LogoutButton\n"
+		"close VelmorantDeveloperPanel\n"
+		"open menu VelmorantMenu\n"
+		"click VelmorantMenu Login\n"
+		"expect widget VelmorantDeveloperPanel ProjectSelection state hidden\n"
+		"expect widget VelmorantDeveloperPanel LogoutButton state hidden\n");
+}
+
+TEST_F(FToolPanels, SigningInOnceMoreWhileTheFirstAnswerIsOnItsWayFetchesTheProjects)
+{
+	const std::string EnterName =
+		"open /VelmorantPro/EditorHelpers/DeveloperPanel/VelmorantDeveloperPanel as Dev\n"
+		"type Dev UserName lucia\n"
+		"type Dev UserPassword harbor-2026\n"
+		"click Dev SummitButton\n";
+	Do(EnterName + "close Dev\n" + EnterName + "wait 2\nexpect widget Dev ProjectsStatus value \"\"\nexpect option Dev ProjectSelection \"Harbor Tower\"\n");
+}
+
 TEST_F(FToolPanels, BrowsesTheProject)
 {
 	Do(SignIn +
 		"expect widget Dev ListTitle value \"Unit groups\"\n"
 		"expect widget Dev ListCount value \"3 entries\"\n"
+		"click Dev SubSelectionButton\n"
+		"expect widget Dev ListTitle value \"No unit group is chosen: click one first\"\n"
+		"expect widget Dev ListCount value \"0 entries\"\n"
+		"click Dev HomeButton\n"
 		"choose Dev ItemList \"Torre Brisa\"\n"
 		"expect widget Dev ListTitle value \"Units of Torre Brisa\"\n"
 		"expect widget Dev ListCount value \"72 entries\"\n"
@@ -87,6 +136,21 @@ TEST_F(FToolPanels, FindsDuplicatedVolumesAndAssignsUnits)
 		"discard\n");
 }
 
+TEST_F(FToolPanels, PartsOfAToolOpenedAloneKnowTheLevelToo)
+{
+	Do("open /VelmorantPro/EditorHelpers/ToolsWidget/UnitVolumeTools/UnitVolumeDuplicationPanel as Duplications\n"
+	   "click Duplications CheckDuplications\n"
+	   "expect items Duplications Duplications 2\n"
+	   "open /VelmorantPro/EditorHelpers/MinimapTool/MinimapToolPanel as Map\n"
+	   "expect widget Map MinimapStatus value \"The level has a minimap\"\n"
+	   "call Map.SetActiveMinimapFloor 2\n"
+	   "expect result true\n"
+	   "expect no result false\n"
+	   "new level\n"
+	   "click Map ScanLevel\n"
+	   "expect widget Map MinimapStatus value \"The level has no minimap controller: place one\"\n");
+}
+
 TEST_F(FToolPanels, SwitchesTheFloorsOfTheMinimap)
 {
 	Do(OpenMinimap +
@@ -97,16 +161,20 @@ TEST_F(FToolPanels, SwitchesTheFloorsOfTheMinimap)
 		"type Map FloorIndex 2\n"
 		"click Map ActivateFloor\n"
 		"expect widget Map ActiveFloor value \"Active floor: 2\"\n");
-	for (const char* None : {"3", "-1", "first", "\"\""})
+	for (const std::string None : {"3", "-1", "first", ""})
 	{
 		SCOPED_TRACE(None);
 		Do(OpenMinimap +
 			"type Map FloorIndex 2\n"
 			"click Map ActivateFloor\n"
-			"type Map FloorIndex " +
+			"expect widget Map MinimapStatus value \"The level has a minimap\"\n"
+			"type Map FloorIndex \"" +
 			None +
-			"\n"
+			"\"\n"
 			"click Map ActivateFloor\n"
+			"expect widget Map MinimapStatus value \"There is no floor '" +
+			None +
+			"': the lowest is 0\"\n"
 			"expect widget Map ActiveFloor value \"Active floor: 2\"\n");
 	}
 }
@@ -134,6 +202,21 @@ TEST_F(FToolPanels, PlacesTheActiveFloorOfTheMinimap)
 		"type Map FloorIndex 0\n"
 		"click Map ActivateFloor\n"
 		"expect widget Map MoveX value 0\n");
+}
+
+TEST_F(FToolPanels, SavesThePlacesOfTheFloors)
+{
+	Do(OpenMinimap +
+		"expect widget Map SaveFloors state disabled\n"
+		"type Map FloorIndex 1\n"
+		"click Map ActivateFloor\n"
+		"type Map MoveX 24\n"
+		"click Map PlaceFloor\n"
+		"expect no unsaved\n" // placing marks nothing
+		"click Map SaveFloors\n"
+		"expect written Content/Minimap/HarborTowerFloors.uasset.json\n"
+		"restart\n"
+		"expect property /Game/Minimap/HarborTowerFloors Floors[1].WidgetTransform.Translation.X 24\n");
 }
 
 TEST_F(FToolPanels, SaysWhyThereIsNoMinimapToWorkOn)

@@ -192,6 +192,7 @@ namespace ScriptProperties
 
 	bool AreEqual(const FString& A, const FString& B)
 	{
-		return A.Equals(B) || (A.IsNumeric() && B.IsNumeric() && FCString::Atod(*A) == FCString::Atod(*B));
+		const bool bTruthValue = A == TEXT("True") || A == TEXT("False"); // in any letter case, as of all comparisons by operator
+		return A.Equals(B) || (bTruthValue && A == B) || (A.IsNumeric() && B.IsNumeric() && FCString::Atod(*A) == FCString::Atod(*B));
 	}
 }

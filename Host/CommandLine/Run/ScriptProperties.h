@@ -25,6 +25,6 @@ namespace ScriptProperties
 	 */
 	bool Read(const UObject& Object, const FString& Path, FString& OutText, FString& OutReason);
 
-	/** Whether two texts say the same value: equal, or equal as numbers. */
+	/** Whether two texts say the same value: equal, or equal as numbers, or both true or both false. */
 	bool AreEqual(const FString& A, const FString& B);
 }

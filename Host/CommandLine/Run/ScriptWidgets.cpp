@@ -2,6 +2,7 @@
 
 #include "Run/ScriptWidgets.h"
 
+#include "HostDetailsView.h"
 #include "HostSettings.h"
 #include "HostSnapshot.h"
 #include "Run/ScriptContext.h"
@@ -51,6 +52,16 @@ namespace ScriptWidgets
 		}
 		OutReason = Explain(Context, Name);
 		return nullptr;
+	}
+
+	FString ListRows(FHostDetailsView& Details)
+	{
+		const TArray<FString> Titles = Details.GetRowTitles();
+		if (!Titles.IsEmpty())
+		{
+			return TEXT(" The rows are: ") + FString::Join(Titles, TEXT(", "));
+		}
+		return Details.GetObjects().IsEmpty() ? TEXT(" The panel has no rows: its objects are gone.") : TEXT(" The panel has no rows: nothing of its objects, or of that section, can be edited.");
 	}
 
 	bool Close(FScriptContext& Context, const FString& Name, FString& OutReason)

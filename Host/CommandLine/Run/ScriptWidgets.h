@@ -5,6 +5,7 @@
 #include "Containers/UnrealString.h"
 #include "Templates/SharedPointer.h"
 
+class FHostDetailsView;
 class FScriptContext;
 class SWidget;
 
@@ -21,6 +22,9 @@ namespace ScriptWidgets
 	 * @return null with a reason that says how to get there
 	 */
 	TSharedPtr<SWidget> FindRoot(FScriptContext& Context, const FString& Name, FString& OutReason);
+
+	/** The rows of a details panel, as a sentence to follow another one. */
+	FString ListRows(FHostDetailsView& Details);
 
 	/** @return whether it was open; if not, why it cannot be closed. */
 	bool Close(FScriptContext& Context, const FString& Name, FString& OutReason);

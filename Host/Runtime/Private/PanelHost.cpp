@@ -7,9 +7,11 @@
 #include "EditorUtilitySubsystem.h"
 #include "EditorUtilityWidget.h"
 #include "EditorUtilityWidgetBlueprint.h"
+#include "HostObjects.h"
 #include "HostPackages.h"
 #include "HostTabs.h"
 #include "HostUserWidgets.h"
+#include "UObject/Package.h"
 #include "WidgetBlueprint.h"
 
 namespace PanelHost
@@ -40,14 +42,25 @@ namespace PanelHost
 		return Blueprint;
 	}
 
-	/** An editor utility widget opens in a tab of its own, as its menu entry would open it; any other panel stands free. */
+	/** A widget without contents that knows the open level, as an editor tab's does. */
+	UUserWidget* MakeFrame()
+	{
+		UPackage* Package = GetTransientPackage();
+		const FName ClassName = MakeUniqueObjectName(Package, UClass::StaticClass(), TEXT("PanelFrame_C"));
+		return FHostUserWidgets::Create(Package, HostObjects::DeriveClass(UEditorUtilityWidget::StaticClass(), ClassName, Package));
+	}
+
+	/**
+	 * An editor utility widget opens in a tab of its own, as its menu entry would open it. Any other panel stands free, with what it
+	 * would know as a part of a tab.
+	 */
 	UUserWidget* MakeWidget(UWidgetBlueprint& Blueprint, FName& OutTab)
 	{
 		if (UEditorUtilityWidgetBlueprint* Utility = Cast<UEditorUtilityWidgetBlueprint>(&Blueprint))
 		{
 			return GEditor->GetEditorSubsystem<UEditorUtilitySubsystem>()->SpawnAndRegisterTabAndGetID(Utility, OutTab);
 		}
-		return FHostUserWidgets::Create(nullptr, Blueprint.GeneratedClass);
+		return FHostUserWidgets::Create(MakeFrame(), Blueprint.GeneratedClass);
 	}
 }
 

@@ -26,6 +26,21 @@ namespace ToolbarHost
 		return Below.IsEmpty() ? TSharedPtr<SWidget>() : TSharedPtr<SWidget>(Below[0]);
 	}
 
+	/** The names of the buttons that open menus; nothing of what is open below them. */
+	static void ListButtons(const TSharedRef<SWidget>& Widget, TArray<FString>& OutNames)
+	{
+		const FHostWidgetDescription Seen = FHostWidgetAccess::Describe(*Widget);
+		if (Seen.Role == TEXT("menu button"))
+		{
+			OutNames.Add(Seen.Name.ToString());
+			return;
+		}
+		for (const TSharedRef<SWidget>& Child : FHostWidgetAccess::ChildrenOf(*Widget))
+		{
+			ListButtons(Child, OutNames);
+		}
+	}
+
 	static bool HasOpenMenu(const TSharedRef<SWidget>& Widget)
 	{
 		if (MenuBelow(Widget).IsValid())
@@ -62,21 +77,33 @@ TSharedRef<SWidget> FToolbarHost::GetContent()
 	return Content.ToSharedRef();
 }
 
+TSharedPtr<SWidget> FToolbarHost::FindButton(const FString& Button, FString& OutReason)
+{
+	const TSharedRef<SWidget> Toolbar = GetContent();
+	const TSharedPtr<SWidget> Found = HostSnapshot::Find(Toolbar, Button, OutReason);
+	if (Found.IsValid() && ToolbarHost::OpensMenu(*Found))
+	{
+		return Found;
+	}
+	if (Found.IsValid())
+	{
+		OutReason = FString::Printf(TEXT("\"%s\" opens no menu."), *Button);
+	}
+	TArray<FString> Names;
+	ToolbarHost::ListButtons(Toolbar, Names);
+	OutReason += TEXT(" The toolbar's menus are: ") + (Names.IsEmpty() ? FString(TEXT("none")) : FString::Join(Names, TEXT(", ")));
+	return nullptr;
+}
+
 TSharedPtr<SWidget> FToolbarHost::OpenMenu(const FString& Button, FString& OutReason)
 {
 	HostMenus::DismissAll();
-	const TSharedRef<SWidget> Toolbar = GetContent();
-	const TSharedPtr<SWidget> Found = HostSnapshot::Find(Toolbar, Button, OutReason);
+	const TSharedPtr<SWidget> Found = FindButton(Button, OutReason);
 	if (!Found.IsValid())
 	{
 		return nullptr;
 	}
-	if (!ToolbarHost::OpensMenu(*Found))
-	{
-		OutReason = FString::Printf(TEXT("\"%s\" opens no menu"), *Button);
-		return nullptr;
-	}
-	const FHostInputResult Result = HostSnapshot::Click(Toolbar, Button);
+	const FHostInputResult Result = HostSnapshot::Click(Content.ToSharedRef(), Button);
 	OutReason = Result.Reason;
 	return Result.bDone ? ToolbarHost::MenuBelow(Found) : nullptr;
 }

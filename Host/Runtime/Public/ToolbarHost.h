@@ -27,6 +27,12 @@ public:
 	TSharedRef<SWidget> GetContent();
 
 	/**
+	 * A button that opens a menu, by its name, label or tool tip. Good until the toolbar is made anew.
+	 * @return null with a reason, which names the buttons that there are
+	 */
+	TSharedPtr<SWidget> FindButton(const FString& Button, FString& OutReason);
+
+	/**
 	 * Opens the menu of a button, by its name, label or tool tip; other menus close.
 	 * @return null with a reason: no such button, it is disabled, or opens no menu
 	 */

@@ -172,6 +172,23 @@ TEST_F(FAssetRegistry, EditorScriptsLoadAssetsByAnyFormOfTheirPath)
 	}
 }
 
+TEST_F(FAssetRegistry, EditorScriptsSaveLoadedAssets)
+{
+	UTestAsset* Asset = LoadTestAsset(TEXT("/Game/Zoo/B"));
+	ASSERT_NE(Asset, nullptr);
+	const std::string Before = ReadContent("Zoo/B.uasset.json");
+	Asset->Count = 4711; // nobody marks the package
+	EXPECT_TRUE(UEditorAssetLibrary::SaveLoadedAsset(Asset));
+	EXPECT_EQ(ReadContent("Zoo/B.uasset.json"), Before) << "only what has unsaved changes";
+	EXPECT_TRUE(UEditorAssetLibrary::SaveLoadedAsset(Asset, false));
+	EXPECT_NE(ReadContent("Zoo/B.uasset.json").find("4711"), std::string::npos);
+
+	for (UObject* NoAsset : {static_cast<UObject*>(nullptr), static_cast<UObject*>(Asset->GetPackage()), static_cast<UObject*>(NewObject<UTestAsset>())})
+	{
+		EXPECT_FALSE(UEditorAssetLibrary::SaveLoadedAsset(NoAsset, false));
+	}
+}
+
 TEST_F(FAssetRegistry, DefinitionsAreFoundByReflection)
 {
 	const UAssetDefinition* Definition = HostAssetDefinitions::FindForClass(UTestSpecialAsset::StaticClass());

@@ -104,6 +104,11 @@ TEST_F(DataTable, RefusesFilesThatMakeNoTable)
 		{"a struct that is no row", "\"RowStruct\": \"/Script/Engine.FResponseChannel\"", "RowStruct"},
 		{"a row that is no text", "\"RowStruct\": \"/Script/TestActors.TestRow\", \"Rows\": {\"A\": 3}", "Rows/A"},
 		{"a row that does not fit", "\"RowStruct\": \"/Script/TestActors.TestRow\", \"Rows\": {\"B\": \"Size=\"}", "Rows/B"},
+		{"a good row before one that does not fit", "\"RowStruct\": \"/Script/TestActors.TestRow\", \"Rows\": {\"A\": \"(Size=1)\", \"B\": \"Size=\"}", "Rows/B"},
+		{"rows in a list", "\"RowStruct\": \"/Script/TestActors.TestRow\", \"Rows\": []", "Rows: this is no object"},
+		{"rows alike but for letter case", "\"RowStruct\": \"/Script/TestActors.TestRow\", \"Rows\": {\"A\": \"(Size=1)\", \"a\": \"(Size=2)\"}", "Rows/a: there is a row of that name already"},
+		{"a row without name", "\"RowStruct\": \"/Script/TestActors.TestRow\", \"Rows\": {\"\": \"(Size=1)\"}", "no row can have that name"},
+		{"a row called None", "\"RowStruct\": \"/Script/TestActors.TestRow\", \"Rows\": {\"none\": \"(Size=1)\"}", "Rows/none: no row can have that name"},
 	};
 	for (const FCase& Case : Cases)
 	{
@@ -111,6 +116,7 @@ TEST_F(DataTable, RefusesFilesThatMakeNoTable)
 		HostProblems::Clear();
 		Project.Write("Content/Broken.uasset.json", std::string("{\"Class\": \"/Script/Engine.DataTable\", ") + Case.Members + "}");
 		EXPECT_EQ(HostPackages::LoadAsset(TEXT("/Game/Broken")), nullptr);
+		EXPECT_EQ(StaticLoadObject(UObject::StaticClass(), nullptr, TEXT("/Game/Broken.Broken"), nullptr, LOAD_Quiet), nullptr) << "half a table is left behind";
 		ASSERT_GE(HostProblems::GetAll().Num(), 1);
 		EXPECT_NE(Utf8(HostProblems::GetAll()[0].Message).find(Case.Message), std::string::npos) << Utf8(HostProblems::GetAll()[0].Message);
 	}

@@ -138,13 +138,13 @@ TEST_F(FListViewTest, TilesAreAListOfTiles)
 	const TSharedRef<SWidget> Tiles = SNew(STileView<FItem>)
 		.ListItemsSource(&Items)
 		.ItemWidth(35.0f)
-		.ItemHeight(35.0f)
+		.ItemHeight(40.0f)
 		.OnGenerateTile_Lambda([](FItem Item, const TSharedRef<STableViewBase>& Owner) -> TSharedRef<ITableRow>
 		{
 			return SNew(STableRow<FItem>, Owner)[ SNew(STextBlock).Text(FText::FromString(*Item)) ];
 		});
 	// clang-format on
-	EXPECT_EQ(Utf8(HostSnapshot::Take(Tiles)), "tiles (busy, 2 items)\n");
+	EXPECT_EQ(Utf8(HostSnapshot::Take(Tiles)), "tiles (busy, 2 items, 35 x 40 each)\n");
 	Wait();
-	EXPECT_EQ(Utf8(HostSnapshot::Take(Tiles)), "tiles (2 items)\n  item\n    text \"Item 0\"\n  item\n    text \"Item 1\"\n");
+	EXPECT_EQ(Utf8(HostSnapshot::Take(Tiles)), "tiles (2 items, 35 x 40 each)\n  item\n    text \"Item 0\"\n  item\n    text \"Item 1\"\n");
 }

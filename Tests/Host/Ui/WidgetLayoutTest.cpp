@@ -6,6 +6,7 @@
 #include "Components/EditableText.h"
 #include "Components/ListView.h"
 #include "Components/TextBlock.h"
+#include "HostLog.h"
 #include "HostObjects.h"
 #include "HostSnapshot.h"
 #include "TestLoginPanel.h"
@@ -153,6 +154,21 @@ TEST_F(FWidgetLayoutTest, ACallIsNotMadeWithWhatDoesNotFit)
 	EXPECT_EQ(Panel->Happened, (TArray<FString>{TEXT("visits 12"), TEXT("submit 12")}));
 }
 
+TEST_F(FWidgetLayoutTest, ActionsThatRaiseTheirOwnEventAreStopped)
+{
+	WriteLogin(R"("Events": {
+		"OnLoginInProcess": [{"Call": "OnLoginInProcess"}, {"Call": "OnLoginInProcess"}, {"Set": "Status.Text", "To": "never"}],
+		"OnMoodChanged": [{"Set": "Status.Text", "To": "works on"}]})");
+	ASSERT_NE(Open(), nullptr);
+	HostLog::Clear();
+	Panel->OnLoginInProcess(true);
+	EXPECT_EQ(Read(TEXT("Status")), "Welcome");
+	ASSERT_EQ(HostLog::GetLines().Num(), 1);
+	EXPECT_NE(Utf8(HostLog::GetLines()[0].Text).find("the actions of 'OnLoginInProcess' raise it again and again"), std::string::npos);
+	Panel->OnMoodChanged(ETestMood::Busy);
+	EXPECT_EQ(Read(TEXT("Status")), "works on");
+}
+
 TEST_F(FWidgetLayoutTest, AFunctionOfThePanelMakesTheOptionsOfAComboBox)
 {
 	WriteLogin("", R"(, {"Class": "ComboBoxString", "Name": "Place", "Properties": {"OnGenerateWidgetEvent": "MakeOptionWidget"}})");
@@ -210,6 +226,25 @@ TEST_F(FWidgetLayoutTest, ALayoutCanHoldAnotherOne)
 	EXPECT_EQ(Refusal(HostSnapshot::Click(Root.ToSharedRef(), TEXT("LoginPanel/Submit"))), "");
 	HostObjects::CollectGarbage();
 	EXPECT_EQ(First->Happened.Last(), TEXT("submit ")) << "what shows is kept";
+}
+
+TEST_F(FWidgetLayoutTest, ALayoutHearsWhenAPanelInItIsShownOrHidden)
+{
+	WriteLogin("");
+	WriteLayout("Shell", R"("ParentClass": "/Script/TestPanels.TestToolPanel",
+		"Tree": {"Class": "VerticalBox", "Children": [
+			{"Class": "/Game/Login", "Name": "LoginPanel", "Properties": {"Visibility": "Hidden"}},
+			{"Class": "TextBlock", "Name": "Heard", "Properties": {"Text": "-"}}]},
+		"Calls": {"LoginPanel.OnVisibilityChanged": [{"Set": "Heard.Text", "To": "{Heard.Text}{InVisibility}-"}]})");
+	UUserWidget* Shell = MakePanel(TEXT("Shell"));
+	ASSERT_NE(Shell, nullptr) << Problems();
+	Root = Shell->TakeWidget();
+	EXPECT_EQ(Read(TEXT("Heard")), "-") << "what it is made with is no change";
+	UWidget* Login = Shell->GetWidgetFromName(FName(TEXT("LoginPanel")));
+	Login->SetVisibility(ESlateVisibility::Collapsed);
+	Login->SetVisibility(ESlateVisibility::Collapsed);
+	Login->SetVisibility(ESlateVisibility::Visible);
+	EXPECT_EQ(Read(TEXT("Heard")), "-Collapsed-Visible-");
 }
 
 TEST_F(FWidgetLayoutTest, RowsOfAListAreEntriesOfALayout)

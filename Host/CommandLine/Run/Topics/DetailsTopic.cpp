@@ -75,7 +75,7 @@ namespace DetailsTopic
 			const TOptional<FString> Seen = HostSnapshot::Read(View->GetWidget(), Arguments[1], Result.Found);
 			if (!Seen.IsSet())
 			{
-				Result.Found += TEXT(" The rows are: ") + FString::Join(View->GetRowTitles(), TEXT(", "));
+				Result.Found += ScriptWidgets::ListRows(*View);
 				return Result;
 			}
 			const FString* Value = Arguments.FindOption(2, TEXT("value"));

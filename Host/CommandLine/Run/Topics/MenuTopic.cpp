@@ -46,7 +46,13 @@ namespace MenuTopic
 
 		FExpectation ExpectMenu(FScriptContext& Context, const FScriptArguments& Arguments)
 		{
-			return {Context.Session.GetToolbar().FindOpenMenu(Arguments[0]).IsValid(), TEXT("it is not open"), FString()};
+			FToolbarHost& Toolbar = Context.Session.GetToolbar();
+			FString Reason;
+			if (!Toolbar.FindButton(Arguments[0], Reason).IsValid())
+			{
+				return FExpectation::Unanswerable(Reason);
+			}
+			return {Toolbar.FindOpenMenu(Arguments[0]).IsValid(), TEXT("it is not open"), FString()};
 		}
 
 		FExpectation ExpectSettings(FScriptContext&, const FScriptArguments& Arguments)

@@ -19,7 +19,7 @@ namespace PanelTopic
 			{
 				return FString();
 			}
-			return TEXT(" The rows are: ") + FString::Join(Details->GetRowTitles(), TEXT(", "));
+			return ScriptWidgets::ListRows(*Details);
 		}
 
 		/** Has a person do something to the widget of the first two arguments. */
@@ -109,7 +109,7 @@ namespace PanelTopic
 			{
 				Context.Print(Option);
 			}
-			return Error.IsEmpty() ? FStepResult::Done() : FStepResult::Error(Error);
+			return Error.IsEmpty() ? FStepResult::Done() : FStepResult::Error(Error + ListRows(Context, Arguments));
 		}
 
 		/** A word for something that can be seen of a widget. */
@@ -159,7 +159,10 @@ namespace PanelTopic
 		{
 			for (int32 Index = 3; Index < Arguments.Num(); Index += 2)
 			{
-				Context.Mask(Arguments.GetWordIndex(Index)); // until it is known not to be a guess at a password
+				if (Arguments[Index - 1] != TEXT("state"))
+				{
+					Context.Mask(Arguments.GetWordIndex(Index)); // until it is known not to be a guess at a password
+				}
 			}
 			FExpectation Result;
 			const TSharedPtr<SWidget> Panel = ScriptWidgets::FindRoot(Context, Arguments[0], Result.Error);
@@ -170,6 +173,7 @@ namespace PanelTopic
 			const TOptional<FHostWidgetDescription> Seen = HostSnapshot::Describe(Panel.ToSharedRef(), Arguments[1], Result.Found);
 			if (!Seen.IsSet())
 			{
+				Result.Found += ListRows(Context, Arguments);
 				return Result;
 			}
 			Result.bHolds = true;

@@ -59,4 +59,24 @@ UObject* UEditorAssetLibrary::LoadAsset(const FString& AssetPath)
 	return Asset;
 }
 
+bool UEditorAssetLibrary::SaveLoadedAsset(UObject* AssetToSave, bool bOnlyIfIsDirty)
+{
+	UPackage* Package = IsValid(AssetToSave) ? AssetToSave->GetPackage() : nullptr;
+	if (Package == nullptr || HostPackages::FindMainAsset(Package) != AssetToSave)
+	{
+		UE_LOG(LogEditorScripting, Error, TEXT("SaveLoadedAsset. '%s' is no asset."), *(AssetToSave ? AssetToSave->GetPathName() : FString(TEXT("None"))));
+		return false;
+	}
+	if (bOnlyIfIsDirty && !Package->IsDirty())
+	{
+		return true;
+	}
+	const bool bSaved = HostPackages::Save(Package).Succeeded();
+	if (!bSaved)
+	{
+		UE_LOG(LogEditorScripting, Error, TEXT("SaveLoadedAsset. The asset '%s' could not be saved."), *AssetToSave->GetPathName());
+	}
+	return bSaved;
+}
+
 IMPLEMENT_MODULE(FDefaultModuleImpl, EditorScriptingUtilities)

@@ -20,4 +20,12 @@ public:
 	 */
 	UFUNCTION(BlueprintCallable, Category = "Editor Scripting | Asset")
 	static UObject* LoadAsset(const FString& AssetPath);
+
+	/**
+	 * Writes the file of an asset.
+	 * @param bOnlyIfIsDirty leave an asset without unsaved changes alone; that counts as done
+	 * @return false, with an error in the log, when that is no asset or its file could not be written
+	 */
+	UFUNCTION(BlueprintCallable, Category = "Editor Scripting | Asset")
+	static bool SaveLoadedAsset(UObject* AssetToSave, bool bOnlyIfIsDirty = true);
 };

@@ -13,10 +13,30 @@ namespace DataTableStorage
 {
 	using FJson = nlohmann::ordered_json; // rows keep their order
 
+	FString ToText(const std::string& Utf8)
+	{
+		return FString(UTF8_TO_TCHAR(Utf8.c_str()));
+	}
+
 	FString GetText(const FJson& Object, const char* Key)
 	{
 		const auto Found = Object.find(Key);
-		return Found != Object.end() && Found->is_string() ? FString(UTF8_TO_TCHAR(Found->get_ref<const std::string&>().c_str())) : FString();
+		return Found != Object.end() && Found->is_string() ? ToText(Found->get_ref<const std::string&>()) : FString();
+	}
+
+	bool Refuse(const HostPackages::FDocument& Document, const FString& Message, const TCHAR* Remedy)
+	{
+		HostProblems::Report(Document.File, 0, Message, Remedy);
+		return false;
+	}
+
+	/** A refused file leaves nothing behind to be found under its name. */
+	void TakeBack(UDataTable& Table)
+	{
+		const FName FreeName = MakeUniqueObjectName(GetTransientPackage(), UDataTable::StaticClass(), Table.GetFName());
+		Table.Rename(*FreeName.ToString(), GetTransientPackage(), REN_DontCreateRedirectors | REN_DoNotDirty);
+		Table.ClearFlags(RF_Public | RF_Standalone);
+		Table.MarkAsGarbage();
 	}
 }
 
@@ -33,24 +53,42 @@ UObject* FDataTableStorage::Read(const HostPackages::FDocument& Document, UPacka
 	UScriptStruct* RowStruct = StructPath.IsEmpty() ? nullptr : FindObject<UScriptStruct>(nullptr, *StructPath);
 	if (RowStruct == nullptr || !RowStruct->IsChildOf(FTableRowBase::StaticStruct()))
 	{
-		HostProblems::Report(Document.File, 0, FString::Printf(TEXT("RowStruct: \"%s\" is no struct of table rows"), *StructPath), TEXT("give the path of one, \"/Script/Module.Struct\""));
+		Refuse(Document, FString::Printf(TEXT("RowStruct: \"%s\" is no struct of table rows"), *StructPath), TEXT("Give the path of one, \"/Script/Module.Struct\"."));
 		return nullptr;
 	}
 	UDataTable* Table = NewObject<UDataTable>(Package, FName(Document.AssetName), RF_Public | RF_Standalone | RF_Transactional);
 	Table->RowStruct = RowStruct;
-	const FJson Rows = Json.value("Rows", FJson::object());
+	const auto Rows = Json.find("Rows");
+	if (Rows == Json.end() || ReadRows(Document, *Rows, *Table))
+	{
+		return Table;
+	}
+	TakeBack(*Table);
+	return nullptr;
+}
+
+bool FDataTableStorage::ReadRows(const HostPackages::FDocument& Document, const nlohmann::ordered_json& Rows, UDataTable& Table)
+{
+	using namespace DataTableStorage;
+	if (!Rows.is_object())
+	{
+		return Refuse(Document, TEXT("Rows: this is no object"), TEXT("Write it as {\"Name\": \"(Field=Value,Field=Value)\"}."));
+	}
 	for (const auto& [Name, Value] : Rows.items())
 	{
-		const FString RowName = UTF8_TO_TCHAR(Name.c_str());
-		if (!Value.is_string() || !ReadRow(*Table, RowName, FString(UTF8_TO_TCHAR(Value.get_ref<const std::string&>().c_str()))))
+		const FString RowName = ToText(Name);
+		const bool bNamed = RowName.Len() < NAME_SIZE && !FName(RowName).IsNone();
+		if (!bNamed || Table.FindRowUnchecked(FName(RowName)) != nullptr)
 		{
-			HostProblems::Report(Document.File, 0, FString::Printf(TEXT("Rows/%s: this is not the text of a %s"), *RowName, *RowStruct->GetName()), TEXT("write it as \"(Field=Value,Field=Value)\""));
-			Table->ClearFlags(RF_Public | RF_Standalone);
-			Table->MarkAsGarbage();
-			return nullptr;
+			const TCHAR* const Problem = bNamed ? TEXT("there is a row of that name already, letter case aside") : TEXT("no row can have that name");
+			return Refuse(Document, FString::Printf(TEXT("Rows/%s: %s"), *RowName.Left(60), Problem), TEXT("Give the row another name."));
+		}
+		if (!Value.is_string() || !ReadRow(Table, RowName, ToText(Value.get_ref<const std::string&>())))
+		{
+			return Refuse(Document, FString::Printf(TEXT("Rows/%s: this is not the text of a %s"), *RowName, *Table.RowStruct->GetName()), TEXT("Write it as \"(Field=Value,Field=Value)\"."));
 		}
 	}
-	return Table;
+	return true;
 }
 
 bool FDataTableStorage::ReadRow(UDataTable& Table, const FString& RowName, const FString& RowText)

@@ -5,6 +5,8 @@
 #include "CoreMinimal.h"
 #include "HostPackages.h"
 
+#include <nlohmann/json_fwd.hpp>
+
 class UDataTable;
 
 /**
@@ -19,5 +21,6 @@ public:
 private:
 	static UObject* Read(const HostPackages::FDocument& Document, UPackage* Package);
 	static TOptional<FString> Write(const UObject* Asset);
+	static bool ReadRows(const HostPackages::FDocument& Document, const nlohmann::ordered_json& Rows, UDataTable& Table);
 	static bool ReadRow(UDataTable& Table, const FString& RowName, const FString& RowText);
 };

@@ -105,6 +105,10 @@ public:
 
 	void Construct(const FArguments& InArgs);
 
+	//~ The texts themselves, with their keys. What shows instead of the label is none of them.
+	FText GetLabel() const { return Label.Get(FText::GetEmpty()); }
+	FText GetToolTip() const { return ToolTip.Get(FText::GetEmpty()); }
+
 protected:
 	virtual void DescribeToHost(FHostWidgetDescription& OutDescription) const override;
 	virtual FHostInputResult TakeHostInput(const FHostInput& Input) override;
@@ -114,6 +118,7 @@ private:
 
 	FString Role;
 	TAttribute<FText> Label;
+	TAttribute<FText> ToolTip;
 	TAttribute<FSlateIcon> Icon;
 	EUserInterfaceActionType ActionType = EUserInterfaceActionType::Button;
 	TAttribute<ECheckBoxState> CheckState;

@@ -49,8 +49,12 @@ bool FPackageReader::CheckDocument()
 {
 	const FJsonPlace Root;
 	FString ClassPath;
-	if (!CheckMembers(Document, Root, {PackageFormat::Class, PackageFormat::Format, PackageFormat::Objects}) ||
-		!ReadString(Document, PackageFormat::Class, Root, ClassPath))
+	// The class first: a file of a kind that nobody knows has members that nobody knows.
+	if (Document.is_object() && (!ReadString(Document, PackageFormat::Class, Root, ClassPath) || FindClass(ClassPath, Root) == nullptr))
+	{
+		return false;
+	}
+	if (!CheckMembers(Document, Root, {PackageFormat::Class, PackageFormat::Format, PackageFormat::Objects}))
 	{
 		return false;
 	}

@@ -6,6 +6,8 @@
 #include "Values/PropertyChange.h"
 #include "Values/PropertyNode.h"
 
+#include <cmath>
+
 namespace PropertyValue
 {
 	namespace
@@ -37,11 +39,29 @@ namespace PropertyValue
 			return FMath::Abs(Stored - Wanted) > 1.0 + FMath::Abs(Wanted) * 1.e-9; // a fraction may go
 		}
 
+		/** Whether there is infinity, or what is no number, in a value or its members: it would spread to all that is worked out from it. */
+		bool IsEndless(const FProperty& Property, const void* Value)
+		{
+			if (const FNumericProperty* Number = CastField<FNumericProperty>(&Property))
+			{
+				return Number->IsFloatingPoint() && !std::isfinite(Number->GetFloatingPointPropertyValue(Value));
+			}
+			const FStructProperty* StructProperty = CastField<FStructProperty>(&Property);
+			for (const FProperty* Member : TFieldRange<FProperty>(StructProperty != nullptr ? StructProperty->Struct : nullptr))
+			{
+				if (IsEndless(*Member, Member->ContainerPtrToValuePtr<void>(Value)))
+				{
+					return true;
+				}
+			}
+			return false;
+		}
+
 		/** Whether all of Text is a value; then Value has it. */
 		bool Import(const FProperty& Property, const FString& Text, void* Value, UObject* Owner)
 		{
 			const TCHAR* Rest = Property.ImportText_Direct(*Text, Value, Owner, PPF_PropertyWindow);
-			return Rest != nullptr && FString(Rest).TrimStartAndEnd().IsEmpty() && !IsCutOff(Property, Value, Text);
+			return Rest != nullptr && FString(Rest).TrimStartAndEnd().IsEmpty() && !IsCutOff(Property, Value, Text) && !IsEndless(Property, Value);
 		}
 	}
 

@@ -79,6 +79,7 @@ void SHostMenuEntry::Construct(const FArguments& InArgs)
 {
 	Role = InArgs._Role;
 	Label = InArgs._Label;
+	ToolTip = InArgs._ToolTipText;
 	Icon = InArgs._Icon;
 	ActionType = InArgs._ActionType;
 	CheckState = InArgs._CheckState;

@@ -40,6 +40,14 @@ void SBox::DescribeToHost(FHostWidgetDescription& OutDescription) const
 {
 	SCompoundWidget::DescribeToHost(OutDescription);
 	OutDescription.Role = TEXT("box");
+	if (WidthOverride.Get().IsSet())
+	{
+		OutDescription.Notes.Add(FString::SanitizeFloat(WidthOverride.Get().Get(), 0) + TEXT(" wide"));
+	}
+	if (HeightOverride.Get().IsSet())
+	{
+		OutDescription.Notes.Add(FString::SanitizeFloat(HeightOverride.Get().Get(), 0) + TEXT(" high"));
+	}
 }
 
 void SBorder::Construct(const FArguments& InArgs)

@@ -47,6 +47,16 @@ UWidget* UUserWidget::GetRootWidget() const
 	return WidgetTree ? WidgetTree->RootWidget.Get() : nullptr;
 }
 
+void UUserWidget::SetVisibility(ESlateVisibility InVisibility)
+{
+	const ESlateVisibility Before = GetVisibility();
+	Super::SetVisibility(InVisibility);
+	if (InVisibility != Before)
+	{
+		OnVisibilityChanged.Broadcast(InVisibility);
+	}
+}
+
 void UUserWidget::RemoveFromParent()
 {
 	Super::RemoveFromParent();

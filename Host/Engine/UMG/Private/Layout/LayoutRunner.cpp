@@ -7,6 +7,25 @@
 
 namespace LayoutRunner
 {
+	/** How many events may be raised by actions of events: no panel needs that many, and the stack holds many more. */
+	static const int32 MaxDepth = 100;
+
+	/** Counts the events whose actions are running. One too many ends them all: else each would go on, and run into it again. */
+	struct FDepth
+	{
+		FDepth() { ++Running; }
+		~FDepth()
+		{
+			if (--Running == 0)
+			{
+				bRunaway = false;
+			}
+		}
+
+		static inline int32 Running = 0;
+		static inline bool bRunaway = false;
+	};
+
 	void Assign(UObject& Target, FName Property, const FLayoutValue& Value, const FLayoutScope& Scope)
 	{
 		const LayoutTypes::FSetter Setter = LayoutTypes::FindSetter(*Target.GetClass(), Property);
@@ -84,8 +103,18 @@ namespace LayoutRunner
 	void Run(const TArray<FLayoutAction>& Actions, const FLayoutScope& Scope)
 	{
 		const TStrongObjectPtr<UUserWidget> HeldWhileRunning(Scope.Panel);
+		const FDepth Depth;
+		if (FDepth::Running > MaxDepth && !FDepth::bRunaway)
+		{
+			FDepth::bRunaway = true;
+			UE_LOG(LogTemp, Error, TEXT("%s: the actions of '%s' raise it again and again; they have been stopped."), *Scope.Panel->GetClass()->GetName(), *Scope.Event->GetName());
+		}
 		for (const FLayoutAction& Action : Actions)
 		{
+			if (FDepth::bRunaway)
+			{
+				return;
+			}
 			if (Action.When.IsSet() && !LayoutValues::IsMet(Action.When.GetValue(), Scope))
 			{
 				continue;

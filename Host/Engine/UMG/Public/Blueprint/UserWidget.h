@@ -12,6 +12,8 @@
 
 class SObjectWidget;
 
+DECLARE_DYNAMIC_MULTICAST_DELEGATE_OneParam(FOnVisibilityChangedEvent, ESlateVisibility, InVisibility);
+
 /**
  * A widget made of others: its widget tree comes from the layout that its class was derived for, or from code.
  *
@@ -38,12 +40,17 @@ public:
 
 	bool IsConstructed() const { return bConstructed; }
 
+	virtual void SetVisibility(ESlateVisibility InVisibility) override;
 	virtual void RemoveFromParent() override;
 	virtual void ReleaseSlateResources(bool bReleaseChildren) override;
 
 	static UUserWidget* CreateWidgetInstance(UWidget& OwningWidget, TSubclassOf<UUserWidget> UserWidgetClass, FName WidgetName);
 	static UUserWidget* CreateWidgetInstance(UWidgetTree& OwningWidgetTree, TSubclassOf<UUserWidget> UserWidgetClass, FName WidgetName);
 	static UUserWidget* CreateWidgetInstance(UWorld& World, TSubclassOf<UUserWidget> UserWidgetClass, FName WidgetName);
+
+	/** Raised when SetVisibility() changed it. */
+	UPROPERTY(BlueprintAssignable, Category = "Appearance|Event")
+	FOnVisibilityChangedEvent OnVisibilityChanged;
 
 	UPROPERTY(Transient)
 	TObjectPtr<UWidgetTree> WidgetTree;

@@ -52,6 +52,11 @@ void STableViewBase::DescribeToHost(FHostWidgetDescription& OutDescription) cons
 	OutDescription.bBusy = bRefreshPending;
 }
 
+void STableViewBase::NoteTileSize(float Width, float Height, FHostWidgetDescription& OutDescription)
+{
+	OutDescription.Notes.Add(FString::Printf(TEXT("%s x %s each"), *FString::SanitizeFloat(Width, 0), *FString::SanitizeFloat(Height, 0)));
+}
+
 int32 STableViewBase::FindItemOfRow(const SWidget& Row) const
 {
 	TPanelChildren<FSlotBase>& Shown = const_cast<STableViewBase*>(this)->Rows;

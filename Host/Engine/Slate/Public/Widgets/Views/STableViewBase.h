@@ -34,6 +34,7 @@ protected:
 	virtual void DescribeToHost(FHostWidgetDescription& OutDescription) const override;
 	virtual FHostInputResult TakeHostInput(const FHostInput& Input) override;
 	virtual void ListHostOptions(TArray<FString>& OutOptions) override;
+	static void NoteTileSize(float Width, float Height, FHostWidgetDescription& OutDescription);
 
 	virtual int32 CountItems() const = 0;
 	/** The row of an item, reused or made. */

@@ -34,6 +34,8 @@ public:
 
 	void Construct(const FArguments& InArgs)
 	{
+		ItemWidth = InArgs._ItemWidth;
+		ItemHeight = InArgs._ItemHeight;
 		SListView<ItemType>::Construct(typename SListView<ItemType>::FArguments()
 										   .OnGenerateRow(InArgs._OnGenerateTile)
 										   .ListItemsSource(InArgs._ListItemsSource)
@@ -45,4 +47,13 @@ public:
 
 protected:
 	virtual const TCHAR* GetHostRole() const override { return TEXT("tiles"); }
+	virtual void DescribeToHost(FHostWidgetDescription& OutDescription) const override
+	{
+		SListView<ItemType>::DescribeToHost(OutDescription);
+		this->NoteTileSize(ItemWidth.Get(), ItemHeight.Get(), OutDescription);
+	}
+
+private:
+	TAttribute<float> ItemWidth; // Slate units
+	TAttribute<float> ItemHeight;
 };
