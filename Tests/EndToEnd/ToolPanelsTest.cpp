@@ -123,8 +123,11 @@ TEST_F(FToolPanels, FindsDuplicatedVolumesAndAssignsUnits)
 		"expect widget Volumes DuplicationCount value \"2 identifiers are used more than once\"\n"
 		"expect widget Volumes HT-B-01B\n"
 		"expect widget Volumes HT-C-01A\n"
+		"click Volumes AssignUnits\n"
+		"expect widget Volumes AssignStatus value \"Nothing was assigned: it takes a unit group, clicked in the developer panel, and unit volumes in the level\"\n"
 		"choose Dev ItemList \"Torre Brisa\"\n"
 		"click Volumes AssignUnits\n"
+		"expect widget Volumes AssignStatus value \"Units are assigned: save the level to keep them\"\n"
 		"expect property actor:UnitVolumeActor UniqueIdentifier.UnitID 2183\n"
 		"expect property actor:UnitVolumeActor UniqueIdentifier.Keycode HT-B-18D\n"
 		"expect unsaved /Game/Maps/HarborTower\n" +

@@ -154,6 +154,24 @@ TEST_F(FWidgetLayoutTest, ACallIsNotMadeWithWhatDoesNotFit)
 	EXPECT_EQ(Panel->Happened, (TArray<FString>{TEXT("visits 12"), TEXT("submit 12")}));
 }
 
+TEST_F(FWidgetLayoutTest, ACallGoesOnByWhatItReturned)
+{
+	WriteLogin(R"("Calls": {"Submit.OnClicked": [
+		{"Call": "RememberUser.IsChecked", "With": {},
+			"Then": [{"Set": "Status.Text", "To": "Kept"}, {"Call": "Note", "With": {"InText": "kept"}}],
+			"Else": [{"Set": "Status.Text", "To": "{UserName.Text} forgotten"}]},
+		{"Call": "Note", "With": {"InText": "after"}}]})");
+	ASSERT_NE(Open(), nullptr);
+	Panel->Happened.Empty();
+	HostSnapshot::Type(Root.ToSharedRef(), TEXT("UserName"), TEXT("ada"));
+	HostSnapshot::Click(Root.ToSharedRef(), TEXT("Sign in"));
+	EXPECT_EQ(Read(TEXT("Status")), "ada forgotten");
+	HostSnapshot::Check(Root.ToSharedRef(), TEXT("RememberUser"), true);
+	HostSnapshot::Click(Root.ToSharedRef(), TEXT("Sign in"));
+	EXPECT_EQ(Read(TEXT("Status")), "Kept");
+	EXPECT_EQ(Panel->Happened, (TArray<FString>{TEXT("after 0"), TEXT("submit ada"), TEXT("kept 0"), TEXT("after 0"), TEXT("submit ada")}));
+}
+
 TEST_F(FWidgetLayoutTest, ActionsThatRaiseTheirOwnEventAreStopped)
 {
 	WriteLogin(R"("Events": {
@@ -390,7 +408,9 @@ TEST_F(FWidgetLayoutRefusalTest, SaysWhatIsWrongWithEventsAndCalls)
 		{R"("Events": [])", "/Events: events are a JSON object: from the name of an event to a list of actions\n"},
 		{R"("Events": {"OnNothing": []})", "/Events/OnNothing: panel TestLoginPanel has no event 'OnNothing'\n"},
 		{R"("Events": {"SetRememberMe": []})", "/Events/SetRememberMe: panel TestLoginPanel has no event 'SetRememberMe'\n"},
-		{R"("Events": {"Construct": {}})", "/Events/Construct: what an event does is a JSON array of actions\n"},
+		{R"("Events": {"Construct": {}})", "/Events/Construct: what is to be done is a JSON array of actions\n"},
+		{R"("Events": {"Construct": [{"Call": "Note", "Then": []}]})", "/Events/Construct/0/Then: 'Note' returns no truth value to go by\n"},
+		{R"("Events": {"Construct": [{"Call": "Submit.GetIsEnabled", "Else": [{"Call": "Dance"}]}]})", "/Events/Construct/0/Else/0/Call: TestLoginPanel has no function 'Dance'\n"},
 		{R"("Events": {"Construct": [{}]})", "/Events/Construct/0: an action has a 'Set', a 'Call' or a 'CallParent'\n"},
 		{R"("Events": {"Construct": [{"Set": "Status.Text"}]})", "/Events/Construct/0: 'Set' needs a 'To'\n"},
 		{R"("Events": {"Construct": [{"Set": "Nobody.Text", "To": ""}]})", "/Events/Construct/0/Set: the layout has no widget 'Nobody'\n"},

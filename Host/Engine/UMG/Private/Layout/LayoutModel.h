@@ -90,6 +90,8 @@ struct FLayoutAction
 	TSharedPtr<const FLayoutValue> To; // Set
 	TArray<FLayoutAssignment> Arguments; // Call
 	bool bPassArgumentsOn = false; // Call: those of the event, by position
+	TArray<FLayoutAction> Then; // Call: what follows when the function returned true
+	TArray<FLayoutAction> Else; // Call: and when it returned false
 };
 
 struct FLayoutWidget

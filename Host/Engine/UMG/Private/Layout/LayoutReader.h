@@ -44,15 +44,19 @@ private:
 
 	//~ Actions
 	TArray<FLayoutAction> ReadActions(const FJson& Json, const FString& Pointer, const UFunction& Event, bool bCanCallParent);
+	TArray<FLayoutAction> ReadActionList(const FJson& Json, const FString& Pointer, bool bCanCallParent);
 	bool ReadAction(const FJson& Json, const FString& Pointer, bool bCanCallParent, FLayoutAction& OutAction);
 	bool ReadSet(const FJson& Json, const FString& Pointer, FLayoutAction& OutAction);
-	bool ReadCall(const FJson& Json, const FString& Pointer, FLayoutAction& OutAction);
+	bool ReadCall(const FJson& Json, const FString& Pointer, bool bCanCallParent, FLayoutAction& OutAction);
+	bool ReadBranches(const FJson& Json, const FString& Pointer, bool bCanCallParent, const UFunction& Function, FLayoutAction& OutAction);
 	bool ReadArguments(const FJson& Json, const FString& Pointer, UFunction& Function, FLayoutAction& OutAction);
 	/** "Widget.Member", or "Member" of the panel. Null when there is no such widget. */
 	UClass* ReadTarget(const FJson& Json, const FString& Pointer, FLayoutAction& OutAction);
 	UClass* ReadLibrary(const FString& Text, const FString& Pointer, FLayoutAction& OutAction);
 
 	//~ Values
+	/** Constants as they read in a text; unset for null and for what is no scalar. */
+	static TOptional<FString> ScalarText(const FJson& Json);
 	TSharedPtr<FLayoutValue> ReadValue(const FJson& Json, const FString& Pointer);
 	bool ReadText(const FString& Text, FLayoutValue& OutValue);
 	bool ReadChoice(const FJson& Json, FLayoutValue& OutValue);

@@ -1,37 +1,25 @@
 // Copyright Velmorant. All Rights Reserved.
 
 #include "Layout/LayoutReader.h"
-#include "Layout/LayoutValues.h"
 
-namespace LayoutReaderActions
-{
-	using FJson = FLayoutReader::FJson;
-
-	static FString ToString(const std::string& Utf8)
-	{
-		return FString(UTF8_TO_TCHAR(Utf8.c_str()));
-	}
-
-	/** Constants as they read in a text; unset for null and for what is no scalar. */
-	static TOptional<FString> ScalarText(const FJson& Json)
-	{
-		if (Json.is_string())
-		{
-			return ToString(Json.get<std::string>());
-		}
-		return Json.is_boolean() || Json.is_number() ? TOptional<FString>(ToString(Json.dump())) : TOptional<FString>();
-	}
-}
+#include <utility>
 
 TArray<FLayoutAction> FLayoutReader::ReadActions(const FJson& Json, const FString& Pointer, const UFunction& Event, bool bCanCallParent)
+{
+	Types.Event = &Event;
+	TArray<FLayoutAction> Actions = ReadActionList(Json, Pointer, bCanCallParent);
+	Types.Event = nullptr;
+	return Actions;
+}
+
+TArray<FLayoutAction> FLayoutReader::ReadActionList(const FJson& Json, const FString& Pointer, bool bCanCallParent)
 {
 	TArray<FLayoutAction> Actions;
 	if (!Json.is_array())
 	{
-		Complain(Pointer, TEXT("what an event does is a JSON array of actions"));
+		Complain(Pointer, TEXT("what is to be done is a JSON array of actions"));
 		return Actions;
 	}
-	Types.Event = &Event;
 	for (std::size_t Index = 0; Index < Json.size(); ++Index)
 	{
 		FLayoutAction Action;
@@ -40,7 +28,6 @@ TArray<FLayoutAction> FLayoutReader::ReadActions(const FJson& Json, const FStrin
 			Actions.Add(MoveTemp(Action));
 		}
 	}
-	Types.Event = nullptr;
 	return Actions;
 }
 
@@ -67,7 +54,7 @@ bool FLayoutReader::ReadAction(const FJson& Json, const FString& Pointer, bool b
 	}
 	if (Json.contains("Call"))
 	{
-		return CheckKeys(Json, Pointer, {"When", "Call", "With"}) && ReadCall(Json, Pointer, OutAction);
+		return CheckKeys(Json, Pointer, {"When", "Call", "With", "Then", "Else"}) && ReadCall(Json, Pointer, bCanCallParent, OutAction);
 	}
 	if (Json.contains("CallParent") && bCanCallParent)
 	{
@@ -80,7 +67,7 @@ bool FLayoutReader::ReadAction(const FJson& Json, const FString& Pointer, bool b
 
 UClass* FLayoutReader::ReadTarget(const FJson& Json, const FString& Pointer, FLayoutAction& OutAction)
 {
-	const TOptional<FString> Text = LayoutReaderActions::ScalarText(Json);
+	const TOptional<FString> Text = ScalarText(Json);
 	FString Widget;
 	FString Member = Text.Get(FString());
 	if (Member.IsEmpty())
@@ -153,11 +140,11 @@ bool FLayoutReader::ReadSet(const FJson& Json, const FString& Pointer, FLayoutAc
 	return true;
 }
 
-bool FLayoutReader::ReadCall(const FJson& Json, const FString& Pointer, FLayoutAction& OutAction)
+bool FLayoutReader::ReadCall(const FJson& Json, const FString& Pointer, bool bCanCallParent, FLayoutAction& OutAction)
 {
 	OutAction.Kind = FLayoutAction::EKind::Call;
 	const FString CallPointer = LayoutPointer::Child(Pointer, std::string("Call"));
-	const FString Text = LayoutReaderActions::ScalarText(Json["Call"]).Get(FString());
+	const FString Text = ScalarText(Json["Call"]).Get(FString());
 	UClass* Class = Text.StartsWith(TEXT("/")) ? ReadLibrary(Text, CallPointer, OutAction) : ReadTarget(Json["Call"], CallPointer, OutAction);
 	if (!Class)
 	{
@@ -169,8 +156,31 @@ bool FLayoutReader::ReadCall(const FJson& Json, const FString& Pointer, FLayoutA
 		Complain(CallPointer, FString::Printf(TEXT("%s has no function '%s'"), *Class->GetName(), *OutAction.Member.ToString()));
 		return false;
 	}
+	if (!ReadBranches(Json, Pointer, bCanCallParent, *Function, OutAction))
+	{
+		return false;
+	}
 	OutAction.bPassArgumentsOn = !Json.contains("With");
 	return OutAction.bPassArgumentsOn || ReadArguments(Json["With"], LayoutPointer::Child(Pointer, std::string("With")), *Function, OutAction);
+}
+
+bool FLayoutReader::ReadBranches(const FJson& Json, const FString& Pointer, bool bCanCallParent, const UFunction& Function, FLayoutAction& OutAction)
+{
+	for (const auto& [Key, Branch] : {std::pair("Then", &OutAction.Then), std::pair("Else", &OutAction.Else)})
+	{
+		if (!Json.contains(Key))
+		{
+			continue;
+		}
+		const FString BranchPointer = LayoutPointer::Child(Pointer, std::string(Key));
+		if (!CastField<FBoolProperty>(Function.GetReturnProperty()))
+		{
+			Complain(BranchPointer, FString::Printf(TEXT("'%s' returns no truth value to go by"), *Function.GetName()));
+			return false;
+		}
+		*Branch = ReadActionList(Json[Key], BranchPointer, bCanCallParent);
+	}
+	return true;
 }
 
 bool FLayoutReader::ReadArguments(const FJson& Json, const FString& Pointer, UFunction& Function, FLayoutAction& OutAction)
@@ -192,145 +202,4 @@ bool FLayoutReader::ReadArguments(const FJson& Json, const FString& Pointer, UFu
 		CheckValue(*Argument.Value, Parameter);
 	}
 	return true;
-}
-
-TSharedPtr<FLayoutValue> FLayoutReader::ReadValue(const FJson& Json, const FString& Pointer)
-{
-	const TSharedRef<FLayoutValue> Value = MakeShared<FLayoutValue>();
-	Value->Pointer = Pointer;
-	if (Json.is_object())
-	{
-		return ReadChoice(Json, *Value) ? Value.ToSharedPtr() : nullptr;
-	}
-	if (Json.is_array())
-	{
-		return ReadList(Json, *Value) ? Value.ToSharedPtr() : nullptr;
-	}
-	const TOptional<FString> Text = LayoutReaderActions::ScalarText(Json);
-	if (!Text.IsSet())
-	{
-		Complain(Pointer, TEXT("a value is a text, a number, true, false, a list, or a choice"));
-		return nullptr;
-	}
-	return ReadText(Text.GetValue(), *Value) ? Value.ToSharedPtr() : nullptr;
-}
-
-/** Texts with paths in braces; two opening or closing braces stand for one that is meant as such. */
-bool FLayoutReader::ReadText(const FString& Text, FLayoutValue& OutValue)
-{
-	FString Literal;
-	for (int32 Index = 0; Index < Text.Len(); ++Index)
-	{
-		const TCHAR Character = Text[Index];
-		const bool bDoubled = Index + 1 < Text.Len() && Text[Index + 1] == Character;
-		if ((Character == TEXT('{') || Character == TEXT('}')) && bDoubled)
-		{
-			Literal += Character;
-			++Index;
-			continue;
-		}
-		if (Character != TEXT('{'))
-		{
-			Literal += Character;
-			continue;
-		}
-		const int32 End = Text.Find(TEXT("}"), ESearchCase::CaseSensitive, ESearchDir::FromStart, Index);
-		FString Inner = End == INDEX_NONE ? FString() : Text.Mid(Index + 1, End - Index - 1).TrimStartAndEnd();
-		FLayoutPath Path;
-		Path.bNot = Inner.RemoveFromStart(TEXT("!"));
-		Inner.ParseIntoArray(Path.Parts, TEXT("."), false);
-		if (End == INDEX_NONE || Inner.IsEmpty() || Path.Parts.ContainsByPredicate([](const FString& Part) { return Part.IsEmpty(); }))
-		{
-			Complain(OutValue.Pointer, FString::Printf(TEXT("'%s' has a brace that begins no name"), *Text), TEXT("Write {{ for a brace that is meant as such."));
-			return false;
-		}
-		if (!Literal.IsEmpty())
-		{
-			OutValue.Pieces.Add({Literal, {}});
-			Literal.Empty();
-		}
-		OutValue.Pieces.Add({FString(), Path});
-		Index = End;
-	}
-	if (!Literal.IsEmpty() || OutValue.Pieces.IsEmpty())
-	{
-		OutValue.Pieces.Add({Literal, {}});
-	}
-	return true;
-}
-
-bool FLayoutReader::ReadList(const FJson& Json, FLayoutValue& OutValue)
-{
-	OutValue.Kind = FLayoutValue::EKind::List;
-	for (std::size_t Index = 0; Index < Json.size(); ++Index)
-	{
-		const TSharedPtr<FLayoutValue> Element = ReadValue(Json[Index], LayoutPointer::Child(OutValue.Pointer, Index));
-		if (!Element.IsValid())
-		{
-			return false;
-		}
-		OutValue.Elements.Add(Element.ToSharedRef());
-	}
-	return true;
-}
-
-bool FLayoutReader::ReadChoice(const FJson& Json, FLayoutValue& OutValue)
-{
-	OutValue.Kind = FLayoutValue::EKind::Choice;
-	if (!CheckKeys(Json, OutValue.Pointer, {"If", "Is", "Then", "Else"}))
-	{
-		return false;
-	}
-	if (!Json.contains("If") || !Json.contains("Then") || !Json.contains("Else"))
-	{
-		Complain(OutValue.Pointer, TEXT("a choice has 'If', 'Then' and 'Else'"));
-		return false;
-	}
-	OutValue.If.Value = ReadValue(Json["If"], LayoutPointer::Child(OutValue.Pointer, std::string("If")));
-	OutValue.If.Is = Json.contains("Is") ? ReadValue(Json["Is"], LayoutPointer::Child(OutValue.Pointer, std::string("Is"))) : nullptr;
-	OutValue.Then = ReadValue(Json["Then"], LayoutPointer::Child(OutValue.Pointer, std::string("Then")));
-	OutValue.Else = ReadValue(Json["Else"], LayoutPointer::Child(OutValue.Pointer, std::string("Else")));
-	return OutValue.If.Value.IsValid() && (OutValue.If.Is.IsValid() || !Json.contains("Is")) && OutValue.Then.IsValid() && OutValue.Else.IsValid();
-}
-
-/** A value that is true, or {"Value": …, "Is": …}. */
-bool FLayoutReader::ReadCondition(const FJson& Json, const FString& Pointer, FLayoutCondition& OutCondition)
-{
-	if (!Json.is_object() || Json.contains("If"))
-	{
-		OutCondition.Value = ReadValue(Json, Pointer);
-		return OutCondition.Value.IsValid();
-	}
-	if (!CheckKeys(Json, Pointer, {"Value", "Is"}))
-	{
-		return false;
-	}
-	if (!Json.contains("Value") || !Json.contains("Is"))
-	{
-		Complain(Pointer, TEXT("a condition is a value, or has 'Value' and 'Is'"));
-		return false;
-	}
-	OutCondition.Value = ReadValue(Json["Value"], LayoutPointer::Child(Pointer, std::string("Value")));
-	OutCondition.Is = ReadValue(Json["Is"], LayoutPointer::Child(Pointer, std::string("Is")));
-	return OutCondition.Value.IsValid() && OutCondition.Is.IsValid();
-}
-
-void FLayoutReader::CheckValue(const FLayoutValue& Value, const FProperty* Property)
-{
-	FString Pointer;
-	FString Reason;
-	if (!LayoutValues::Check(Value, Types, Property, Pointer, Reason))
-	{
-		Complain(Pointer, Reason);
-	}
-}
-
-void FLayoutReader::CheckCondition(const FLayoutCondition& Condition)
-{
-	FString Pointer;
-	FString Reason;
-	if (!LayoutValues::Check(Condition, Types, Pointer, Reason))
-	{
-		Complain(Pointer, Reason);
-	}
 }

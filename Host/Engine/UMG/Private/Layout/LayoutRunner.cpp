@@ -62,6 +62,7 @@ namespace LayoutRunner
 		}
 	}
 
+	/** Then goes on by what the function returned; not at all when it could not be called. */
 	static void Call(const FLayoutAction& Action, const FLayoutScope& Scope)
 	{
 		UObject* Target = Action.Library ? Action.Library->GetDefaultObject() : Scope.FindTarget(Action.Widget);
@@ -87,6 +88,11 @@ namespace LayoutRunner
 			}
 		}
 		Block.Call(*Target);
+		if (const FBoolProperty* Result = CastField<FBoolProperty>(Function->GetReturnProperty()))
+		{
+			const bool bResult = Result->GetPropertyValue(Block.Get(*Result));
+			Run(bResult ? Action.Then : Action.Else, Scope);
+		}
 	}
 
 	static void CallParent(const FLayoutScope& Scope)
