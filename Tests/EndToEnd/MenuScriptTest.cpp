@@ -49,6 +49,20 @@ TEST_F(FMenuScript, ATabThatIsClosedIsGoneUnderAllItsNames)
 	EXPECT_EQ(Result.ExitStatus, 0) << Result.Output << Result.Errors;
 }
 
+TEST_F(FMenuScript, AClickElsewhereClosesTheMenu)
+{
+	const FProgramResult Result = RunScript(
+		"open /VelmorantPro/EditorHelpers/DeveloperPanel/VelmorantDeveloperPanel as Dev\n"
+		"open menu VelmorantMenu\n"
+		"print snapshot Dev\n" // looking at something is no click
+		"expect menu VelmorantMenu\n"
+		"type Dev UserName lucia\n"
+		"expect no menu VelmorantMenu\n"
+		"open menu VelmorantMenu\n"
+		"expect widget VelmorantMenu UserName value \"Developer not registered\"\n");
+	EXPECT_EQ(Result.ExitStatus, 0) << Result.Output << Result.Errors;
+}
+
 TEST_F(FMenuScript, EntriesLeadToToolsPagesAndTheClipboard)
 {
 	const FProgramResult Result = RunScript(

@@ -1,6 +1,7 @@
 // Copyright Velmorant. All Rights Reserved.
 // Panels: opening them, and a person's hands and eyes on their widgets.
 
+#include "Framework/Application/SlateApplication.h"
 #include "HostSnapshot.h"
 #include "Run/ScriptContext.h"
 #include "Run/ScriptTopics.h"
@@ -31,6 +32,10 @@ namespace PanelTopic
 			if (!Panel.IsValid())
 			{
 				return FStepResult::Error(Error);
+			}
+			if (Context.Session.GetToolbar().FindOpenMenu(Arguments[0]) != Panel)
+			{
+				FSlateApplication::Get().DismissAllMenus(); // as a click beside them does
 			}
 			const FHostInputResult Result = Input(Panel.ToSharedRef(), Arguments[1]);
 			return Result.bDone ? FStepResult::Done() : FStepResult::Error(Result.Reason + ListRows(Context, Arguments));
