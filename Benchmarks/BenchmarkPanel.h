@@ -6,7 +6,9 @@
 #include "UObject/StrongObjectPtr.h"
 #include "Widgets/SWidget.h"
 
-/** A panel on screen, in a bare layout of its widgets, that keeps the first number or flag that one of its Blueprint events told last. */
+#include <utility>
+
+/** A panel on screen, in a bare layout of its widgets. It remembers the last call of one of its Blueprint events: its first argument, a number or a flag. */
 class FBenchmarkPanel
 {
 public:
@@ -17,7 +19,7 @@ public:
 	bool Click(const TCHAR* Widget);
 	bool Type(const TCHAR* Widget, const TCHAR* Text);
 
-	/** Forgets it, too: -1 until the event comes again. */
+	/** What the last call of the event told; forgets it: -1 until the event comes again. */
 	int32 TakeEvent() { return std::exchange(*LastEvent, -1); }
 
 	UUserWidget* Get() const { return Panel.Get(); }

@@ -1,15 +1,14 @@
 // Copyright Velmorant. All Rights Reserved.
 
 #include "BenchmarkEditor.h"
+#include "CountOccurrences.h"
 #include "Editor.h"
 #include "Engine/World.h"
 #include "FontIconImporter.h"
 #include "FontPackage.h"
 #include "HostDetailsView.h"
 #include "HostSnapshot.h"
-#include "UObject/Package.h"
 #include "VelmorantLevelActors.h"
-#include "VelmorantProUISettings.h"
 #include "VelmorantUISubsystem.h"
 
 #include <algorithm>
@@ -48,7 +47,7 @@ namespace IconFilterBenchmark
 
 	std::string ToUtf8(const FString& Text)
 	{
-		return reinterpret_cast<const char*>(TCHAR_TO_UTF8(*Text));
+		return TCHAR_TO_UTF8(*Text);
 	}
 
 	/** The downloaded icon font in the project, its icons there so many times; each copy under names of its own. */
@@ -188,14 +187,7 @@ static void IconFilterMemmem(benchmark::State& State)
 	size_t Keystroke = 0;
 	for (auto Iteration : State)
 	{
-		const char* const Wanted = IconFilterBenchmark::SearchTexts[Keystroke++ % 2];
-		const char* const End = All.data() + All.size();
-		int64 NumFound = 0;
-		for (const char* At = All.data(); (At = static_cast<const char*>(memmem(At, static_cast<size_t>(End - At), Wanted, std::strlen(Wanted)))) != nullptr; ++At)
-		{
-			++NumFound;
-		}
-		benchmark::DoNotOptimize(NumFound);
+		benchmark::DoNotOptimize(CountOccurrences(All, IconFilterBenchmark::SearchTexts[Keystroke++ % 2]));
 	}
 }
 BENCHMARK(IconFilterMemmem)->Apply(IconFilterBenchmark::Arguments);

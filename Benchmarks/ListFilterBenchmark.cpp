@@ -2,11 +2,13 @@
 
 #include "BenchmarkEditor.h"
 #include "BenchmarkPanel.h"
+#include "CountOccurrences.h"
 #include "EditorWidgets/VlmEWPanelData.h"
 #include "PanelLayouts.h"
 
 #include <algorithm>
 #include <benchmark/benchmark.h>
+#include <cctype>
 #include <cstring>
 #include <string>
 #include <vector>
@@ -131,12 +133,7 @@ static void ListFilterMemmem(benchmark::State& State)
 	int64 NumFound = 0;
 	for (auto Iteration : State)
 	{
-		NumFound = 0;
-		const char* const End = All.data() + All.size();
-		for (const char* At = All.data(); (At = static_cast<const char*>(memmem(At, static_cast<size_t>(End - At), Wanted.data(), Wanted.size()))) != nullptr; ++At)
-		{
-			++NumFound;
-		}
+		NumFound = CountOccurrences(All, Wanted);
 	}
 	ListFilterBenchmark::Report(State, NumFound);
 }

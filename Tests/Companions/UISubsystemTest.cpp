@@ -46,25 +46,7 @@ protected:
 
 	static UVelmorantUISubsystem& Get() { return *UVelmorantUISubsystem::Get(); }
 
-	static std::vector<std::string> Texts(const TArray<FName>& Names)
-	{
-		std::vector<std::string> Result;
-		for (const FName Name : Names)
-		{
-			Result.push_back(ToUtf8(Name));
-		}
-		return Result;
-	}
-
-	static std::vector<std::string> UiLog()
-	{
-		std::vector<std::string> Lines;
-		for (const FString& Line : LogOf(TEXT("LogVelmorantProUI")))
-		{
-			Lines.push_back(ToUtf8(Line));
-		}
-		return Lines;
-	}
+	static std::vector<std::string> UiLog() { return ToUtf8(LogOf(TEXT("LogVelmorantProUI"))); }
 
 	static inline const FLinearColor Magenta = FLinearColor(1.0f, 0.0f, 1.0f, 1.0f);
 };
@@ -78,7 +60,7 @@ TEST_F(UISubsystem, IsThereWhileTheEngineIs)
 	EXPECT_EQ(UVelmorantUISubsystem::Get(), nullptr);
 }
 
-TEST_F(UISubsystem, AProjectWithoutSettingsHasNoColoursAndNoIcons)
+TEST_F(UISubsystem, AProjectWithoutSettingsHasNoColorsAndNoIcons)
 {
 	StartEditor();
 	EXPECT_TRUE(Get().GetAllFontIconOptions().IsEmpty());
@@ -88,14 +70,14 @@ TEST_F(UISubsystem, AProjectWithoutSettingsHasNoColoursAndNoIcons)
 	EXPECT_THAT(UiLog(), IsEmpty()) << "nothing set is nothing wrong";
 }
 
-TEST_F(UISubsystem, OffersTheColoursOfBothFamiliesInTheirOrder)
+TEST_F(UISubsystem, OffersTheColorsOfBothFamiliesInTheirOrder)
 {
 	StartWithPalette();
-	EXPECT_THAT(Texts(Get().GetAllColorSimpleOptions()), ElementsAre("White", "Both"));
-	EXPECT_THAT(Texts(Get().GetAllColorStyleOptions()), ElementsAre("Text", "Accent", "Both"));
+	EXPECT_THAT(ToUtf8(Get().GetAllColorSimpleOptions()), ElementsAre("White", "Both"));
+	EXPECT_THAT(ToUtf8(Get().GetAllColorStyleOptions()), ElementsAre("Text", "Accent", "Both"));
 }
 
-TEST_F(UISubsystem, FindsColoursByIDInEitherFamily)
+TEST_F(UISubsystem, FindsColorsByIDInEitherFamily)
 {
 	StartWithPalette();
 	struct FCase
@@ -135,10 +117,10 @@ TEST_F(UISubsystem, APaletteThatIsGoneIsToldOnceAndCountsAsNone)
 TEST_F(UISubsystem, OffersFontsStylesAndIconsInTheirOrder)
 {
 	StartWithIcons();
-	EXPECT_THAT(Texts(Get().GetAllFontIconOptions()), ElementsAre("Plain", "Faced", "Lost", "Wrong"));
-	EXPECT_THAT(Texts(Get().GetAllIconsNames(TEXT("plain"))), ElementsAre("zebra", "anchor", "mast"));
-	EXPECT_THAT(Texts(Get().GetAllFontIconsStylesNames(TEXT("Plain"))), ElementsAre("Thin", "Bold", "Round")) << "as they occur";
-	EXPECT_THAT(Texts(Get().GetAllFontIconsStylesNames(TEXT("Faced"))), ElementsAre("Round", "Bold", "Thin")) << "those of the typefaces first";
+	EXPECT_THAT(ToUtf8(Get().GetAllFontIconOptions()), ElementsAre("Plain", "Faced", "Lost", "Wrong"));
+	EXPECT_THAT(ToUtf8(Get().GetAllIconsNames(TEXT("plain"))), ElementsAre("zebra", "anchor", "mast"));
+	EXPECT_THAT(ToUtf8(Get().GetAllFontIconsStylesNames(TEXT("Plain"))), ElementsAre("Thin", "Bold", "Round")) << "as they occur";
+	EXPECT_THAT(ToUtf8(Get().GetAllFontIconsStylesNames(TEXT("Faced"))), ElementsAre("Round", "Bold", "Thin")) << "those of the typefaces first";
 }
 
 TEST_F(UISubsystem, GivesTheDataOfAFont)

@@ -8,14 +8,6 @@ class FDetailsScript : public FProjectOnDisk
 protected:
 	FDetailsScript() { CopySample(); }
 
-	/** Runs the script and expects that all of it is done. */
-	FProgramResult Do(const std::string& Script) const
-	{
-		const FProgramResult Result = RunScript(Script);
-		EXPECT_EQ(Result.ExitStatus, 0) << Result.Output << Result.Errors;
-		return Result;
-	}
-
 	/** What the program says about a script that cannot be done. */
 	std::string Complaint(const std::string& Script) const
 	{

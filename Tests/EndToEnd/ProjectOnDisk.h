@@ -74,6 +74,14 @@ protected:
 		return FProgramRun::Run(Arguments, GetEnvironment());
 	}
 
+	/** Runs the script and expects that all of it is done. */
+	FProgramResult Do(const std::string& Lines, const std::vector<std::string>& Options = {}) const
+	{
+		const FProgramResult Result = RunScript(Lines, Options);
+		EXPECT_EQ(Result.ExitStatus, 0) << Result.Output << Result.Errors;
+		return Result;
+	}
+
 	std::string GetScript() const { return Folder.GetNative("test.velscript").string(); }
 
 	FTemporaryFolder Folder;

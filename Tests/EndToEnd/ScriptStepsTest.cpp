@@ -8,14 +8,6 @@ class FScriptSteps : public FProjectOnDisk
 protected:
 	FScriptSteps() { CopySample(); }
 
-	/** Runs the script and expects that all of it is done. */
-	FProgramResult Do(const std::string& Script, const std::vector<std::string>& Options = {}) const
-	{
-		const FProgramResult Result = RunScript(Script, Options);
-		EXPECT_EQ(Result.ExitStatus, 0) << Result.Output << Result.Errors;
-		return Result;
-	}
-
 	/** Signed in, with the project's data there. */
 	static inline const std::string SignIn =
 		"open /VelmorantPro/EditorHelpers/DeveloperPanel/VelmorantDeveloperPanel as Dev\n"

@@ -10,8 +10,7 @@ protected:
 
 	void Do(const std::string& Script) const
 	{
-		const FProgramResult Result = RunScript(Script);
-		EXPECT_EQ(Result.ExitStatus, 0) << Result.Output << Result.Errors;
+		const FProgramResult Result = FProjectOnDisk::Do(Script);
 		EXPECT_EQ(Result.Errors.find("/EditorHelpers/"), std::string::npos) << Result.Errors; // a layout with a fault
 	}
 

@@ -14,6 +14,8 @@
 #include "Widgets/SBoxPanel.h"
 #include "Widgets/Text/STextBlock.h"
 
+#include <algorithm>
+
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -54,11 +56,7 @@ protected:
 TEST_F(ColorCustomization, ShowsAllRowsInOrder)
 {
 	OpenColor(TEXT("White"));
-	std::vector<std::string> Titles;
-	for (const FString& Title : View->GetRowTitles())
-	{
-		Titles.push_back(ToUtf8(Title));
-	}
+	const std::vector<std::string> Titles = ToUtf8(View->GetRowTitles());
 	const auto First = std::find_if(Titles.begin(), Titles.end(), [](const std::string& Title) { return Title.starts_with("Background Color"); });
 	ASSERT_LE(7, Titles.end() - First) << testing::PrintToString(Titles);
 	const char* const Expected[] = {"Background Color", "Color Mode", "Color", "Use Contrast", "Color Custom", "Override Opacity", "Opacity Override"};

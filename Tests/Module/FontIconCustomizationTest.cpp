@@ -10,6 +10,8 @@
 #include "VelmorantProUISettings.h"
 #include "Widgets/Text/STextBlock.h"
 
+#include <algorithm>
+
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -37,11 +39,7 @@ TEST_F(FontIconCustomization, OffersWhatTheFontHas)
 TEST_F(FontIconCustomization, ShowsAllRowsInOrder)
 {
 	OpenIcon(TEXT("Ship"), TEXT("Thin"), TEXT("Buoy"));
-	std::vector<std::string> Titles;
-	for (const FString& Title : View->GetRowTitles())
-	{
-		Titles.push_back(ToUtf8(Title));
-	}
+	std::vector<std::string> Titles = ToUtf8(View->GetRowTitles());
 	ASSERT_GE(Titles.size(), 6u);
 	Titles.resize(6);
 	EXPECT_THAT(Titles, ElementsAre("Icon", "Font Icon Name (Icon.FontIconName)", "Icon Style (Icon.IconStyle)", "Icon Name (Icon.IconName)", "Icon List", "Icon Color (Icon.IconColor)"));

@@ -23,16 +23,6 @@ namespace
 {
 	const char* const CheckedLine = "Log: Checked UnitVolume DefaultChannelResponses and profile exist.";
 
-	std::vector<std::string> ToStrings(const TArray<FName>& Names)
-	{
-		std::vector<std::string> Strings;
-		for (const FName Name : Names)
-		{
-			Strings.push_back(ToUtf8(Name));
-		}
-		return Strings;
-	}
-
 	std::vector<std::string> NewAssetNames()
 	{
 		std::vector<std::string> Names;
@@ -81,7 +71,7 @@ TEST_F(ModuleStartup, LoadsTheModulesItRegistersWithInTheOrderOfRegistration)
 {
 	StartEditor();
 	std::vector<std::string> Used;
-	for (const std::string& Module : ToStrings(HostModules::GetLoaded()))
+	for (const std::string& Module : ToUtf8(HostModules::GetLoaded()))
 	{
 		if (Module == "AssetTools" || Module == "PropertyEditor" || Module == "PlacementMode" || Module == "VelmorantProEditor")
 		{
@@ -150,7 +140,7 @@ TEST_F(ModuleStartup, GroupsTheRuntimeClassesCategoriesInOneDetailsSection)
 TEST_F(ModuleStartup, CustomizesTheDetailsOfColorsAndIcons)
 {
 	StartEditor();
-	EXPECT_THAT(ToStrings(HostPropertyEditor::GetCustomizedTypes()), ElementsAre("VelmorantColorHandler", "FontIconHandler"));
+	EXPECT_THAT(ToUtf8(HostPropertyEditor::GetCustomizedTypes()), ElementsAre("VelmorantColorHandler", "FontIconHandler"));
 	EXPECT_EQ(HostPropertyEditor::GetNumChangeNotes(), 1);
 	EXPECT_TRUE(HostPropertyEditor::MakeCustomization("FontIconHandler").IsValid());
 }
@@ -239,8 +229,8 @@ TEST_F(ModuleStartup, LeavesAllButStyleAndPlacementRegisteredAtShutdown)
 	StartEditor();
 	ASSERT_TRUE(FModuleManager::Get().UnloadModule("VelmorantProEditor"));
 
-	EXPECT_THAT(ToStrings(HostStyles::GetRegisteredStyles()), Not(Contains("VelmorantEditorStyle")));
-	EXPECT_THAT(ToStrings(HostPlacement::GetCategories()), Not(Contains("VelmorantActors")));
+	EXPECT_THAT(ToUtf8(HostStyles::GetRegisteredStyles()), Not(Contains("VelmorantEditorStyle")));
+	EXPECT_THAT(ToUtf8(HostPlacement::GetCategories()), Not(Contains("VelmorantActors")));
 
 	EXPECT_TRUE(FInputBindingManager::Get().FindCommandInContext("VelmorantProEdCommands", "VelmorantSDK_OpenSDKSettings").IsValid());
 	EXPECT_EQ(HostAssetTools::GetAdvancedCategories().Num(), 1);

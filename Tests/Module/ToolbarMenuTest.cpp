@@ -18,13 +18,9 @@
 #include "VelmorantDeveloperUser.h"
 #include "VelmorantEditorUtilitiesLibrary.h"
 #include "VelmorantProEditor.h"
-#include "VelmorantProSettings.h"
 #include "VelmorantSDKEngineSubsystem.h"
 #include "VelmorantSDKSettings.h"
-#include "VelmorantVariantHandler.h"
 #include "Widgets/SWidget.h"
-
-#include <filesystem>
 
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -64,15 +60,7 @@ protected:
 	}
 
 	/** What the launchers have told so far. */
-	static std::vector<std::string> TellingsOfLaunches()
-	{
-		std::vector<std::string> Lines;
-		for (const FString& Line : LogOf(TEXT("LogTemp")))
-		{
-			Lines.push_back(ToUtf8(Line));
-		}
-		return Lines;
-	}
+	static std::vector<std::string> TellingsOfLaunches() { return ToUtf8(LogOf(TEXT("LogTemp"))); }
 
 	/** The toolkit with content of the test's own, for the launchers to trip over. */
 	void UseOtherToolkit(const char* VersionMember = R"("VersionName": "7.8 beta", )") const
@@ -340,15 +328,4 @@ TEST_F(ToolbarMenu, TheToolTipsOfVersionAndDocumentationShareTheirKey)
 		EXPECT_EQ(ToUtf8(*FTextInspector::GetNamespace(ToolTip)), "FVelmorantProEditor") << ToUtf8(ToolTip);
 		EXPECT_EQ(ToUtf8(*FTextInspector::GetKey(ToolTip)), "OpenDocPage_Tooltip") << ToUtf8(ToolTip);
 	}
-}
-
-TEST_F(ToolbarMenu, VariantSetsAreNamedAsTheSettingsSay)
-{
-	StartEditor();
-	const auto Combine = [] { return ToUtf8(UVelmorantVariantHandler::CombineVariantSet(TEXT("Kitchen"), TEXT("Fronts"))); };
-	EXPECT_EQ(Combine(), "Kitchen - Fronts");
-
-	WriteProjectFile("Config/DefaultGame.ini", "[/Script/VelmorantPro.VelmorantProSettings]\nVariantSetSeparator=\" / \"\nbGroupBeforeRoom=True\n");
-	StartEditor();
-	EXPECT_EQ(Combine(), "Fronts / Kitchen");
 }

@@ -87,11 +87,7 @@ void FDetailsTest::Check(const TCHAR* Widget, bool bOn)
 std::vector<std::string> FDetailsTest::Options(const TCHAR* Row) const
 {
 	FString Reason;
-	std::vector<std::string> Result;
-	for (const FString& Option : HostSnapshot::GetOptions(View->GetWidget(), Row, Reason))
-	{
-		Result.push_back(ToUtf8(Option));
-	}
+	const std::vector<std::string> Result = ToUtf8(HostSnapshot::GetOptions(View->GetWidget(), Row, Reason));
 	EXPECT_TRUE(Reason.IsEmpty()) << ToUtf8(Reason);
 	return Result;
 }

@@ -112,11 +112,7 @@ std::string FTestPanel::Read(const TCHAR* Widget) const
 std::vector<std::string> FTestPanel::Options(const TCHAR* Widget) const
 {
 	FString Reason;
-	std::vector<std::string> Options;
-	for (const FString& Option : HostSnapshot::GetOptions(Screen.ToSharedRef(), Widget, Reason))
-	{
-		Options.push_back(ToUtf8(Option));
-	}
+	const std::vector<std::string> Options = ToUtf8(HostSnapshot::GetOptions(Screen.ToSharedRef(), Widget, Reason));
 	EXPECT_TRUE(Reason.IsEmpty()) << ToUtf8(Reason);
 	return Options;
 }

@@ -20,6 +20,18 @@ std::string ToUtf8(const FString& String);
 std::string ToUtf8(const FText& Text);
 std::string ToUtf8(FName Name);
 
+/** Each of them, in order. */
+template<typename T>
+std::vector<std::string> ToUtf8(const TArray<T>& Texts)
+{
+	std::vector<std::string> Result;
+	for (const T& Text : Texts)
+	{
+		Result.push_back(ToUtf8(Text));
+	}
+	return Result;
+}
+
 /** What one notification told. */
 struct FOutcome
 {

@@ -24,7 +24,7 @@ namespace WebFontFiles
 		return FString::Join(Parts, TEXT("-")).Equals(Middle);
 	}
 
-	/** Outlines of either kind, or a collection of fonts. */
+	/** Whether the file begins like a single font, with TrueType or PostScript outlines. Collections and web formats are none. */
 	bool IsTrueType(const TArray<uint8>& Bytes)
 	{
 		const uint32 Head = Bytes.Num() < 12 ? 0 : static_cast<uint32>(Bytes[0]) << 24 | static_cast<uint32>(Bytes[1]) << 16 | static_cast<uint32>(Bytes[2]) << 8 | Bytes[3];

@@ -6,10 +6,12 @@
 #include "HostSnapshot.h"
 #include "HostToolMenus.h"
 #include "ToolMenus.h"
-#include "Widgets/Input/SComboButton.h"
 
 namespace ToolbarHost
 {
+	/** By which plugins extend the toolbar. */
+	static const TCHAR* const MenuName = TEXT("LevelEditor.LevelEditorToolBar.PlayToolBar");
+
 	static bool OpensMenu(SWidget& Widget)
 	{
 		return FHostWidgetAccess::Describe(Widget).Role == TEXT("menu button");
@@ -58,21 +60,16 @@ namespace ToolbarHost
 	}
 }
 
-FName FToolbarHost::GetMenuName()
-{
-	return "LevelEditor.LevelEditorToolBar.PlayToolBar";
-}
-
 void FToolbarHost::Register()
 {
-	UToolMenus::Get()->RegisterMenu(GetMenuName(), NAME_None, EMultiBoxType::SlimHorizontalToolBar);
+	UToolMenus::Get()->RegisterMenu(ToolbarHost::MenuName, NAME_None, EMultiBoxType::SlimHorizontalToolBar);
 }
 
 TSharedRef<SWidget> FToolbarHost::GetContent()
 {
 	if (!Content.IsValid() || !ToolbarHost::HasOpenMenu(Content.ToSharedRef()))
 	{
-		Content = HostToolMenus::Open(GetMenuName(), FToolMenuContext());
+		Content = HostToolMenus::Open(ToolbarHost::MenuName, FToolMenuContext());
 	}
 	return Content.ToSharedRef();
 }

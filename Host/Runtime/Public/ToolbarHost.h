@@ -4,7 +4,6 @@
 
 #include "Containers/UnrealString.h"
 #include "Templates/SharedPointer.h"
-#include "UObject/NameTypes.h"
 
 class SWidget;
 
@@ -17,9 +16,6 @@ class SWidget;
 class FToolbarHost
 {
 public:
-	/** The name by which the toolbar is extended. */
-	static FName GetMenuName();
-
 	/** Makes the toolbar itself; what was added to it before or is added later is shown all the same. */
 	static void Register();
 

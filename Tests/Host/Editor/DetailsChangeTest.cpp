@@ -85,6 +85,17 @@ TEST_F(DetailsChange, EachObjectIsRecordedForUndoUnlessNotAsked)
 	HostObjects::SetModifyRecorder(nullptr);
 }
 
+TEST_F(DetailsChange, OneOfManyChangesIsToldAsSuch)
+{
+	TArray<EPropertyChangeType::Type> Changes;
+	const FDelegateHandle Listener = FCoreUObjectDelegates::OnObjectPropertyChanged.AddLambda([&Changes](UObject*, FPropertyChangedEvent& Event) { Changes.Add(Event.ChangeType); });
+	const FHostDetailsView View(One());
+	View.FindHandle(TEXT("Single"))->SetValue(0.75f, EPropertyValueSetFlags::InteractiveChange);
+	View.FindHandle(TEXT("Single"))->SetValue(1.0f);
+	FCoreUObjectDelegates::OnObjectPropertyChanged.Remove(Listener);
+	EXPECT_EQ(Changes, (TArray<EPropertyChangeType::Type>{EPropertyChangeType::Interactive, EPropertyChangeType::ValueSet}));
+}
+
 TEST_F(DetailsChange, ListenersMayChangeTheValueAgainOrCloseThePanel)
 {
 	TUniquePtr<FHostDetailsView> View = MakeUnique<FHostDetailsView>(One());

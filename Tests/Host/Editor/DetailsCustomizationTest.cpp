@@ -9,7 +9,6 @@
 #include "PropertyEditorModule.h"
 #include "UObject/UnrealType.h"
 #include "Widgets/Input/SButton.h"
-#include "Widgets/Input/SEditableTextBox.h"
 #include "Widgets/Text/STextBlock.h"
 
 namespace DetailsCustomizationTest

@@ -173,15 +173,17 @@ TEST_F(DetailsView, SectionsShowTheirCategories)
 {
 	FPropertyEditorModule& Module = FModuleManager::LoadModuleChecked<FPropertyEditorModule>("PropertyEditor");
 	Module.FindOrCreateSection(TEXT("TestDetails"), TEXT("Numbers"), FText::FromString(TEXT("All numbers")))->AddCategory(TEXT("Numbers"));
-	Module.FindOrCreateSection(TEXT("Object"), TEXT("Look"), FText::FromString(TEXT("Looks")))->AddCategory(TEXT("Look"));
+	Module.FindOrCreateSection(TEXT("Object"), TEXT("Look"), FText::FromString(TEXT("Look")))->AddCategory(TEXT("Look"));
 	Module.FindOrCreateSection(TEXT("Actor"), TEXT("Actors"), FText::FromString(TEXT("Actors")))->AddCategory(TEXT("Look"));
+	Module.FindOrCreateSection(TEXT("Object"), TEXT("Sounds"), FText::FromString(TEXT("Sounds")))->AddCategory(TEXT("Audio"));
 	FHostDetailsView View(One());
-	View.SetSection(TEXT("Numbers"));
-	EXPECT_EQ(View.GetRowTitles(), (TArray<FString>{TEXT("Count"), TEXT("Small"), TEXT("Single"), TEXT("Double"), TEXT("Fixed")}));
-	EXPECT_EQ(Refusal(HostSnapshot::Click(View.GetWidget(), TEXT("Looks"))), "") << "of a super class";
+	EXPECT_EQ(Refusal(HostSnapshot::Click(View.GetWidget(), TEXT("Look"))), "") << "of a super class; not the category of that name";
 	EXPECT_EQ(View.GetRowTitles(), (TArray<FString>{TEXT("Surface (Finish)"), TEXT("Size"), TEXT("Visible (bVisible)"), TEXT("Tint")}))
 		<< "with the categories inside";
+	View.SetSection(TEXT("Numbers"));
+	EXPECT_EQ(View.GetRowTitles(), (TArray<FString>{TEXT("Count"), TEXT("Small"), TEXT("Single"), TEXT("Double"), TEXT("Fixed")}));
 	EXPECT_EQ(Refusal(HostSnapshot::Click(View.GetWidget(), TEXT("Actors"))), "There is no widget \"Actors\".");
+	EXPECT_EQ(Refusal(HostSnapshot::Click(View.GetWidget(), TEXT("Sounds"))), "There is no widget \"Sounds\".") << "nothing of the objects is in it";
 	View.SetSection(TEXT("Actors"));
 	EXPECT_TRUE(View.GetRowTitles().IsEmpty());
 	EXPECT_EQ(Refusal(HostSnapshot::Click(View.GetWidget(), TEXT("All"))), "");

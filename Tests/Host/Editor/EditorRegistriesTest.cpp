@@ -152,9 +152,9 @@ TEST_F(EditorRegistries, ADetailsSectionKeepsItsFirstDisplayName)
 TEST_F(EditorRegistries, SettingsPagesThatSomebodyAskedForAreRecorded)
 {
 	FModuleManager::LoadModuleChecked<ISettingsModule>("Settings").ShowViewer("Project", "Plugins", "VelmorantSDKSettings");
-	const TArray<HostSettings::FShownPage> Pages = HostSettings::GetShownPages();
+	const TArray<HostSettings::FPageAddress> Pages = HostSettings::GetShownPages();
 	ASSERT_EQ(Pages.Num(), 1);
-	EXPECT_TRUE((Pages[0] == HostSettings::FShownPage{"Project", "Plugins", "VelmorantSDKSettings"}));
+	EXPECT_TRUE((Pages[0] == HostSettings::FPageAddress{"Project", "Plugins", "VelmorantSDKSettings"}));
 	Restart();
 	EXPECT_TRUE(HostSettings::GetShownPages().IsEmpty());
 }

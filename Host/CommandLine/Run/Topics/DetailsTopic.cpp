@@ -6,7 +6,6 @@
 #include "Run/ScriptObjects.h"
 #include "Run/ScriptTopics.h"
 #include "Run/ScriptWidgets.h"
-#include "UObject/Class.h"
 
 namespace DetailsTopic
 {

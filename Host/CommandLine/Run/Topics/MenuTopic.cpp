@@ -27,7 +27,7 @@ namespace MenuTopic
 		FStepResult PrintSettings(FScriptContext& Context, const FScriptArguments&)
 		{
 			const TOptional<HostSettings::FOpenPage> Open = HostSettings::GetOpenPage();
-			for (const HostSettings::FShownPage& Page : HostSettings::GetAllPages())
+			for (const HostSettings::FPageAddress& Page : HostSettings::GetAllPages())
 			{
 				const bool bShows = Open.IsSet() && Open->Address == Page;
 				Context.Print(Page.ToString() + (bShows ? TEXT(" (shows)") : TEXT("")));

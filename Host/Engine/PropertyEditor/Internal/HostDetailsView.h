@@ -9,7 +9,7 @@
 class FPropertyNode;
 class IPropertyHandle;
 class SDetailsRow;
-class SPartList;
+class SHostPartList;
 class SSearchBox;
 class SWidget;
 class UClass;
@@ -69,9 +69,9 @@ private:
 	TArray<TSharedRef<SDetailsRow>> Categories;
 	TMap<FString, TSharedRef<SDetailsRow>> CategoriesByPath; // "Look|Colours"
 	FName Section;
-	TSharedRef<SPartList> Panel; // search box, section buttons, categories
+	TSharedRef<SHostPartList> Panel; // search box, section buttons, categories
 	TSharedPtr<SSearchBox> SearchBox;
-	TSharedRef<SPartList> SectionButtons;
-	TSharedRef<SPartList> Body;
+	TSharedRef<SHostPartList> SectionButtons;
+	TSharedRef<SHostPartList> Body;
 	FTSTicker::FDelegateHandle Ticker;
 };

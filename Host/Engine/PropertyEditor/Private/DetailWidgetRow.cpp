@@ -5,51 +5,27 @@
 #include "IPropertyTypeCustomization.h"
 #include "Styling/AppStyle.h"
 
-const float FDetailWidgetRow::DefaultValueMinWidth = 125.0f;
-const float FDetailWidgetRow::DefaultValueMaxWidth = 125.0f;
-
 FDetailWidgetRow::FDetailWidgetRow()
-	: NameWidget(*this, 0.0f, 0.0f, HAlign_Fill, VAlign_Center)
-	, ValueWidget(*this, DefaultValueMinWidth, DefaultValueMaxWidth, HAlign_Left, VAlign_Center)
-	, WholeRowWidget(*this, 0.0f, 0.0f, HAlign_Fill, VAlign_Fill)
-	, ExtensionWidget(*this, 0.0f, 0.0f, HAlign_Right, VAlign_Center)
+	: NameWidget(*this)
+	, ValueWidget(*this)
+	, WholeRowWidget(*this)
+	, ExtensionWidget(*this)
 {
-}
-
-FDetailWidgetRow& FDetailWidgetRow::FilterString(const FText& InFilterString)
-{
-	FilterTextString = InFilterString;
-	return *this;
-}
-
-FDetailWidgetRow& FDetailWidgetRow::Visibility(const TAttribute<EVisibility>& InVisibility)
-{
-	VisibilityAttr = InVisibility;
-	return *this;
-}
-
-FDetailWidgetRow& FDetailWidgetRow::IsEnabled(const TAttribute<bool>& InIsEnabled)
-{
-	IsEnabledAttr = InIsEnabled;
-	return *this;
-}
-
-bool FDetailWidgetRow::HasColumns() const
-{
-	return HasNameContent() || HasValueContent() || ExtensionWidget.Widget != SNullWidget::NullWidget;
 }
 
 bool FDetailWidgetRow::HasAnyContent() const
 {
-	return HasColumns() || WholeRowWidget.Widget != SNullWidget::NullWidget;
+	for (const FDetailWidgetDecl* Column : {&NameWidget, &ValueWidget, &WholeRowWidget, &ExtensionWidget})
+	{
+		if (Column->Widget != SNullWidget::NullWidget)
+		{
+			return true;
+		}
+	}
+	return false;
 }
 
 FSlateFontInfo IPropertyTypeCustomizationUtils::GetRegularFont()
 {
 	return FAppStyle::GetFontStyle("PropertyWindow.NormalFont");
-}
-
-FSlateFontInfo IPropertyTypeCustomizationUtils::GetBoldFont()
-{
-	return FAppStyle::GetFontStyle("PropertyWindow.BoldFont");
 }

@@ -18,7 +18,6 @@ public:
 
 	/** The font of names and values: "PropertyWindow.NormalFont" of the app style. */
 	static FSlateFontInfo GetRegularFont();
-	static FSlateFontInfo GetBoldFont();
 };
 
 /** Shows the values of one property type in its own way. One instance per property that is shown; the panel keeps it as long as its rows. */

@@ -31,7 +31,7 @@ namespace EPropertyValueSetFlags
  * nothing, when the type is not exactly the property's (an enum is read as the integer that stores it), and when an object is gone.
  *
  * Writing gives every object the value: it is told before and after (PreEditChange, PostEditChangeProperty) and its package gets
- * dirty; then the listeners of the property, those of its parents, are called, all before the function returns.
+ * dirty; then the listeners of the property, of what is below it and of its parents are called, all before the function returns.
  * A value that all objects have already changes nothing and tells nobody.
  *
  * Host: handles live as long as somebody holds them, and keep neither the objects nor the panel alive.

@@ -14,25 +14,25 @@ class UObject;
 namespace HostSettings
 {
 	/** The address of a page, as ShowViewer() takes it. */
-	struct FShownPage
+	struct FPageAddress
 	{
 		FName Container;
 		FName Category;
 		FName Section;
 
-		bool operator==(const FShownPage& Other) const = default;
+		bool operator==(const FPageAddress& Other) const = default;
 		FString ToString() const { return Container.ToString() + TEXT("/") + Category.ToString() + TEXT("/") + Section.ToString(); }
 	};
 
 	/** What was asked for, in order of the calls, pages that do not exist included. */
-	TArray<FShownPage> GetShownPages();
+	TArray<FPageAddress> GetShownPages();
 
 	/** The pages that there are: those of all settings classes, by address. */
-	TArray<FShownPage> GetAllPages();
+	TArray<FPageAddress> GetAllPages();
 
 	struct FOpenPage
 	{
-		FShownPage Address;
+		FPageAddress Address;
 		UObject* Settings = nullptr; // a class's default object
 		TSharedPtr<FHostDetailsView> Details; // of the settings, as part of the content; never null
 		TSharedPtr<SWidget> Content; // for HostSnapshot; never null

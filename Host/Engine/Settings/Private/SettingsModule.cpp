@@ -18,7 +18,7 @@ IMPLEMENT_MODULE(FSettingsModule, Settings)
 
 namespace SettingsModule
 {
-	static HostSettings::FShownPage AddressOf(const UDeveloperSettings& Settings)
+	static HostSettings::FPageAddress AddressOf(const UDeveloperSettings& Settings)
 	{
 		return {Settings.GetContainerName(), Settings.GetCategoryName(), Settings.GetSectionName()};
 	}
@@ -40,7 +40,7 @@ namespace SettingsModule
 		return Result;
 	}
 
-	static UDeveloperSettings* Find(const HostSettings::FShownPage& Address)
+	static UDeveloperSettings* Find(const HostSettings::FPageAddress& Address)
 	{
 		for (UDeveloperSettings* Settings : GetAll())
 		{
@@ -52,9 +52,10 @@ namespace SettingsModule
 		return nullptr;
 	}
 
-	static const FSettingsModule* Get()
+	/** Null while it is not loaded. */
+	static FSettingsModule* Get()
 	{
-		return static_cast<const FSettingsModule*>(FModuleManager::GetModulePtr<ISettingsModule>("Settings"));
+		return static_cast<FSettingsModule*>(FModuleManager::GetModulePtr<ISettingsModule>("Settings"));
 	}
 }
 
@@ -71,7 +72,7 @@ void FSettingsModule::ShutdownModule()
 
 void FSettingsModule::ShowViewer(const FName& ContainerName, const FName& CategoryName, const FName& SectionName)
 {
-	const HostSettings::FShownPage Address{ContainerName, CategoryName, SectionName};
+	const HostSettings::FPageAddress Address{ContainerName, CategoryName, SectionName};
 	ShownPages.Add(Address);
 	if (UDeveloperSettings* Settings = SettingsModule::Find(Address))
 	{
@@ -80,7 +81,7 @@ void FSettingsModule::ShowViewer(const FName& ContainerName, const FName& Catego
 		return;
 	}
 	TArray<FString> Known;
-	for (const HostSettings::FShownPage& Page : HostSettings::GetAllPages())
+	for (const HostSettings::FPageAddress& Page : HostSettings::GetAllPages())
 	{
 		Known.Add(Page.ToString());
 	}
@@ -102,15 +103,15 @@ void FSettingsModule::SaveChange(UObject* Object, FPropertyChangedEvent& Event)
 	Object->SaveConfig();
 }
 
-TArray<HostSettings::FShownPage> HostSettings::GetShownPages()
+TArray<HostSettings::FPageAddress> HostSettings::GetShownPages()
 {
 	const FSettingsModule* Module = SettingsModule::Get();
-	return Module != nullptr ? Module->ShownPages : TArray<FShownPage>();
+	return Module != nullptr ? Module->ShownPages : TArray<FPageAddress>();
 }
 
-TArray<HostSettings::FShownPage> HostSettings::GetAllPages()
+TArray<HostSettings::FPageAddress> HostSettings::GetAllPages()
 {
-	TArray<FShownPage> Pages;
+	TArray<FPageAddress> Pages;
 	for (const UDeveloperSettings* Settings : SettingsModule::GetAll())
 	{
 		Pages.Add(SettingsModule::AddressOf(*Settings));
@@ -126,11 +127,11 @@ TOptional<HostSettings::FOpenPage> HostSettings::GetOpenPage()
 
 bool HostSettings::Close()
 {
-	FSettingsModule* Module = const_cast<FSettingsModule*>(SettingsModule::Get());
-	const bool bWasOpen = Module != nullptr && Module->OpenPage.IsSet();
-	if (bWasOpen)
+	FSettingsModule* Module = SettingsModule::Get();
+	if (Module == nullptr || !Module->OpenPage.IsSet())
 	{
-		Module->OpenPage.Reset();
+		return false;
 	}
-	return bWasOpen;
+	Module->OpenPage.Reset();
+	return true;
 }

@@ -8,6 +8,7 @@
 class UDeveloperSettings;
 struct FPropertyChangedEvent;
 
+/** The settings viewer: the page that it shows, and those that it was asked for. */
 class FSettingsModule : public ISettingsModule
 {
 public:
@@ -20,7 +21,7 @@ public:
 	virtual void ShowViewer(const FName& ContainerName, const FName& CategoryName, const FName& SectionName) override;
 	//~ End ISettingsModule
 
-	TArray<HostSettings::FShownPage> ShownPages;
+	TArray<HostSettings::FPageAddress> ShownPages;
 	TOptional<HostSettings::FOpenPage> OpenPage;
 
 private:

@@ -5,10 +5,10 @@
 #include "CoreMinimal.h"
 #include "Framework/Commands/UIAction.h"
 #include "Framework/Commands/UICommandInfo.h"
+#include "HostParts.h"
 #include "Misc/Attribute.h"
 #include "Textures/SlateIcon.h"
 #include "Widgets/SCompoundWidget.h"
-#include "Widgets/SPanel.h"
 
 class SComboButton;
 
@@ -25,21 +25,8 @@ namespace HostMenus
 	FString DescribeIcon(const FSlateIcon& Icon);
 }
 
-/** What lies below one another in a menu. */
-class SHostMenuRows : public SPanel
-{
-public:
-	void AddRow(const TSharedRef<SWidget>& Row);
-	int32 NumRows() const { return Rows.Num(); }
-
-	virtual FChildren* GetChildren() override { return &Rows; }
-
-private:
-	TPanelChildren<FSlotBase> Rows;
-};
-
 /** A menu or toolbar as a person sees it: its sections. */
-class SHostMenu : public SHostMenuRows
+class SHostMenu : public SHostPartList
 {
 public:
 	SLATE_BEGIN_ARGS(SHostMenu)
@@ -59,7 +46,7 @@ private:
 };
 
 /** Entries that stand together, below their heading if they have one. Its tag is the section's name. */
-class SHostMenuSection : public SHostMenuRows
+class SHostMenuSection : public SHostPartList
 {
 public:
 	SLATE_BEGIN_ARGS(SHostMenuSection)

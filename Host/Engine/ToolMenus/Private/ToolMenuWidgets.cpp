@@ -3,29 +3,9 @@
 
 #include "Framework/MultiBox/MultiBoxBuilder.h"
 #include "HostMenus.h"
-#include "HostWidget.h"
+#include "SToolMenuComboButton.h"
 #include "ToolMenuBuilder.h"
-#include "ToolMenuButtons.h"
 #include "ToolMenus.h"
-
-void SToolMenuComboButton::Construct(const FArguments& InArgs)
-{
-	Label = InArgs._Label;
-	Icon = InArgs._Icon;
-	bShowsLabel = InArgs._ShowsLabel;
-	SComboButton::Construct(SComboButton::FArguments().OnGetMenuContent(InArgs._OnGetMenuContent));
-}
-
-void SToolMenuComboButton::DescribeToHost(FHostWidgetDescription& OutDescription) const
-{
-	SComboButton::DescribeToHost(OutDescription);
-	OutDescription.Label = bShowsLabel ? Label.Get(FText::GetEmpty()).ToString() : FString();
-	const FString IconFact = HostMenus::DescribeIcon(Icon.Get(FSlateIcon()));
-	if (!IconFact.IsEmpty())
-	{
-		OutDescription.Notes.Add(IconFact);
-	}
-}
 
 namespace ToolMenuWidgets
 {
@@ -137,12 +117,12 @@ TSharedRef<SWidget> FToolMenuBuilder::MakeWidget(UToolMenu& Generated)
 		{
 			if (Entry.Type != EMultiBlockType::Separator)
 			{
-				Entries->AddRow(MakeEntryWidget(Generated, Entry));
+				Entries->AddPart(MakeEntryWidget(Generated, Entry));
 			}
 		}
-		if (Entries->NumRows() > 0)
+		if (Entries->GetChildren()->Num() > 0)
 		{
-			Menu->AddRow(Entries);
+			Menu->AddPart(Entries);
 		}
 	}
 	return Menu;

@@ -2,24 +2,14 @@
 
 #include "SSearchableComboBox.h"
 
-#include "HostWidget.h"
-#include "Widgets/Layout/SBox.h"
+#include "HostSearchWords.h"
+#include "Widgets/Input/SSearchBox.h"
 #include "Widgets/SBoxPanel.h"
 #include "Widgets/Views/STableRow.h"
 
 namespace SearchableComboBox
 {
-	static bool ContainsAll(const FString& Text, const TArray<FString>& Words)
-	{
-		for (const FString& Word : Words)
-		{
-			if (!Text.Contains(Word))
-			{
-				return false;
-			}
-		}
-		return true;
-	}
+	static const float MaxListHeight = 450.0f; // Slate units
 }
 
 void SSearchableComboBox::Construct(const FArguments& InArgs)
@@ -29,14 +19,9 @@ void SSearchableComboBox::Construct(const FArguments& InArgs)
 	OnSelectionChanged = InArgs._OnSelectionChanged;
 	OnGenerateWidget = InArgs._OnGenerateWidget;
 	OnComboBoxOpening = InArgs._OnComboBoxOpening;
-	SearchVisibility = InArgs._SearchVisibility;
-	MaxListHeight = InArgs._MaxListHeight;
 	bAlwaysSelectItem = InArgs._bAlwaysSelectItem;
 	// clang-format off
 	SComboButton::Construct(SComboButton::FArguments()
-		.ContentPadding(InArgs._ContentPadding)
-		.ForegroundColor(InArgs._ForegroundColor)
-		.HasDownArrow(InArgs._HasDownArrow)
 		.OnGetMenuContent(FOnGetContent::CreateSP(this, &SSearchableComboBox::MakeMenu))
 		.ButtonContent()
 		[
@@ -67,13 +52,12 @@ TSharedPtr<FString> SSearchableComboBox::GetSelectedItem()
 
 void SSearchableComboBox::RefreshOptions()
 {
-	TArray<FString> Words;
-	SearchText.ToString().ParseIntoArrayWS(Words);
+	const FHostSearchWords Words(SearchText.ToString());
 	FilteredOptions.Empty();
 	for (int32 Index = 0; OptionsSource != nullptr && Index < OptionsSource->Num(); ++Index)
 	{
 		const TSharedPtr<FString>& Option = (*OptionsSource)[Index];
-		if (Option.IsValid() && SearchableComboBox::ContainsAll(*Option, Words))
+		if (Option.IsValid() && Words.AreIn(*Option))
 		{
 			FilteredOptions.Add(Option);
 		}
@@ -113,12 +97,11 @@ TSharedRef<SWidget> SSearchableComboBox::MakeMenu()
 		.AutoHeight()
 		[
 			SNew(SSearchBox)
-			.Visibility(SearchVisibility)
 			.OnTextChanged(this, &SSearchableComboBox::HandleSearchChanged)
 		]
 		+ SVerticalBox::Slot()
 		.AutoHeight()
-		.MaxHeight(MaxListHeight)
+		.MaxHeight(SearchableComboBox::MaxListHeight)
 		[
 			SAssignNew(ListView, SListView<TSharedPtr<FString>>)
 			.ListItemsSource(&FilteredOptions)

@@ -4,7 +4,6 @@
 
 #include "CoreMinimal.h"
 #include "Widgets/Input/SComboButton.h"
-#include "Widgets/Input/SSearchBox.h"
 #include "Widgets/Views/SListView.h"
 
 /**
@@ -23,19 +22,11 @@ public:
 	SLATE_BEGIN_ARGS(SSearchableComboBox)
 		: _OptionsSource(nullptr)
 		, _InitiallySelectedItem(nullptr)
-		, _HasDownArrow(true)
 		, _bAlwaysSelectItem(false)
-		, _SearchVisibility(EVisibility::Visible)
-		, _MaxListHeight(450.0f)
 		{
 		}
 		/** The button face: something that shows the current option. */
 		SLATE_DEFAULT_SLOT(FArguments, Content)
-		SLATE_STYLE_ARGUMENT(FComboBoxStyle, ComboBoxStyle)
-		SLATE_STYLE_ARGUMENT(FButtonStyle, ButtonStyle)
-		SLATE_STYLE_ARGUMENT(FTableRowStyle, ItemStyle)
-		SLATE_ATTRIBUTE(FMargin, ContentPadding)
-		SLATE_ATTRIBUTE(FSlateColor, ForegroundColor)
 		/** Kept by the caller; null for no options. */
 		SLATE_ARGUMENT(const TArray<TSharedPtr<FString>>*, OptionsSource)
 		SLATE_EVENT(FOnSelectionChanged, OnSelectionChanged)
@@ -43,11 +34,8 @@ public:
 		SLATE_EVENT(FOnGenerateWidget, OnGenerateWidget)
 		SLATE_ARGUMENT(TSharedPtr<FString>, InitiallySelectedItem)
 		SLATE_EVENT(FOnComboBoxOpening, OnComboBoxOpening)
-		SLATE_ARGUMENT(bool, HasDownArrow)
 		/** Whether picking the option that is selected already is told, too. */
 		SLATE_ARGUMENT(bool, bAlwaysSelectItem)
-		SLATE_ATTRIBUTE(EVisibility, SearchVisibility)
-		SLATE_ARGUMENT(float, MaxListHeight)
 	SLATE_END_ARGS()
 
 	void Construct(const FArguments& InArgs);
@@ -89,7 +77,5 @@ private:
 	FOnSelectionChanged OnSelectionChanged;
 	FOnGenerateWidget OnGenerateWidget;
 	FOnComboBoxOpening OnComboBoxOpening;
-	TAttribute<EVisibility> SearchVisibility;
-	float MaxListHeight = 450.0f;
 	bool bAlwaysSelectItem = false;
 };

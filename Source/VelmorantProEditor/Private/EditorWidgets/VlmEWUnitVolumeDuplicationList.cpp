@@ -28,8 +28,8 @@ namespace VlmEWUnitVolumeDuplicationList
 	using FClash = TArray<int32>;
 
 	/**
-	 * Indices of volumes whose integer another one has, too. Few of a large level: the others' key codes need not be read, and what is
-	 * not in the processor's cache is what takes the time here.
+	 * Indices of volumes whose integer another one has, too. In a large level these are few: the key codes of the others need not be
+	 * read, and reading what is not in the processor's cache is what takes the time here.
 	 */
 	TArray<int32> FindWithSharedUnitID(const TArray<AUnitVolumeActor*>& Volumes)
 	{
@@ -66,7 +66,7 @@ namespace VlmEWUnitVolumeDuplicationList
 		TArray<FClash> Clashes;
 		for (const int32 Index : FindWithSharedUnitID(Volumes))
 		{
-			FAlike& Alike = AlikeByKey.FindOrAdd({&Volumes[Index]->UniqueIdentifier});
+			FAlike& Alike = AlikeByKey.FindOrAdd(FClashKey{&Volumes[Index]->UniqueIdentifier});
 			if (Alike.First == INDEX_NONE)
 			{
 				Alike.First = Index;

@@ -58,7 +58,7 @@ namespace VelmorantMenu
 		Menu.EndSection();
 	}
 
-	/** The keys are meant: both labels share one key, and the tool tip has that of the documentation entry's. Each text shows its own source. */
+	/** Shared keys on purpose: both labels have one key, and the tool tip has that of the documentation entry's. Each text shows its own source. */
 	void AddVersion(FMenuBuilder& Menu)
 	{
 		const FString Version = UVelmorantEditorUtilitiesLibrary::GetVelmorantProVersion();

@@ -59,6 +59,6 @@ protected:
 	TObjectPtr<AMinimapLevelController> MinimapLevelController;
 
 private:
-	/** Not when the one that was found has been deleted since. */
+	/** Whether a controller was found and has not been deleted since. */
 	bool HasController() const;
 };

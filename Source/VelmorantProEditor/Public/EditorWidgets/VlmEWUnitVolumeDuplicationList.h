@@ -44,7 +44,7 @@ public:
 	void OnDuplicationsList(const TArray<UVlmEWUnitVolumeDuplication_Item*>& Items);
 
 private:
-	/** Volumes that clash, in the order in which they came: a set keeps it while nothing is removed. Weak: the level may be closed before. */
+	/** Volumes that clash, in the order in which they came: a set keeps it while nothing is removed. Weak: the level may be closed before the widget. */
 	using FGroup = TSet<TWeakObjectPtr<AUnitVolumeActor>>;
 
 	TArray<AUnitVolumeActor*> FindVolumes() const;

@@ -27,8 +27,8 @@ public:
 
 	const TSharedRef<FPropertyNode> Node;
 	FText Name; // empty: the property's own
-	TAttribute<EVisibility> VisibilityAttribute; // unset: that of the content
-	TAttribute<bool> EnabledAttribute;
+	TAttribute<EVisibility> VisibilityAttribute = EVisibility::Visible;
+	TAttribute<bool> EnabledAttribute = true;
 	TSharedPtr<FDetailWidgetRow> CustomContent; // null: the property's own
 	bool bShowChildrenOfCustom = false;
 };
@@ -51,11 +51,11 @@ public:
 	TArray<TSharedRef<SDetailsRow>> MakeRows() const;
 
 private:
-	/** One of both. */
+	/** The row of a property, or a custom one with its search words. */
 	struct FEntry
 	{
-		TSharedPtr<FDetailsPropertyRow> Property;
-		TSharedPtr<FDetailWidgetRow> Custom;
+		TSharedPtr<FDetailsPropertyRow> Property; // null for custom rows
+		TSharedPtr<FDetailWidgetRow> Custom; // null for rows of properties
 		FString SearchWords;
 	};
 

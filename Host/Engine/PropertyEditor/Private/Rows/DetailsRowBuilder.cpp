@@ -68,8 +68,8 @@ namespace DetailsRowBuilder
 			const TSharedRef<SDetailsRow> Row =
 				SNew(SDetailsRow, *Draft.Content)
 				.Tag(FName(*Node->GetPath().Left(NAME_SIZE - 1)))
-				.Visibility(Wanted.VisibilityAttribute.IsSet() ? Wanted.VisibilityAttribute : Draft.Content->VisibilityAttr)
-				.IsEnabled(Wanted.EnabledAttribute.IsSet() ? Wanted.EnabledAttribute : Draft.Content->IsEnabledAttr)
+				.Visibility(Wanted.VisibilityAttribute)
+				.IsEnabled(Wanted.EnabledAttribute)
 				.SearchWords(Node->GetName() + TEXT(" ") + Node->GetDisplayName().ToString())
 				.Customization(Draft.Customization)
 				.Container(Draft.Container);
@@ -129,6 +129,6 @@ namespace DetailsRowBuilder
 
 	TSharedRef<SDetailsRow> MakeCustomRow(const FDetailWidgetRow& Content, const FString& SearchWords)
 	{
-		return SNew(SDetailsRow, Content).Visibility(Content.VisibilityAttr).IsEnabled(Content.IsEnabledAttr).SearchWords(SearchWords);
+		return SNew(SDetailsRow, Content).SearchWords(SearchWords);
 	}
 }

@@ -3,10 +3,11 @@
 #include "HostDetailsView.h"
 
 #include "DetailWidgetRow.h"
+#include "HostParts.h"
+#include "HostSearchWords.h"
 #include "PropertyEditorRegistrations.h"
 #include "Rows/DetailsRowBuilder.h"
 #include "Rows/OpenDetailsViews.h"
-#include "Rows/SPartList.h"
 #include "Values/PropertyHandleImpl.h"
 #include "Widgets/Input/SButton.h"
 #include "Widgets/Input/SSearchBox.h"
@@ -22,17 +23,28 @@ namespace DetailsView
 		return Category.IsEmpty() ? Property.GetOwnerStruct()->GetName() : Category;
 	}
 
+	/** By the category's whole name, or by that of the category around it. */
+	static bool HasCategory(const FPropertySection& Section, const FString& Category)
+	{
+		FString Outermost = Category;
+		Category.Split(TEXT("|"), &Outermost, nullptr);
+		return Section.HasAddedCategory(FName(*Category)) || Section.HasAddedCategory(FName(*Outermost));
+	}
+
 	static void CollectTitles(const TArray<TSharedRef<SDetailsRow>>& Rows, TArray<FString>& OutTitles)
 	{
 		for (const TSharedRef<SDetailsRow>& Row : Rows)
 		{
 			const FString Title = Row->GetTitle();
 			const FString Path = Row->GetTag().IsNone() ? FString() : Row->GetTag().ToString();
-			const bool bOne = Path.IsEmpty() || Path.Equals(Title) || Title.IsEmpty();
-			const bool bNamed = !Path.IsEmpty() || !Title.IsEmpty();
-			if (bNamed && !Row->IsHeading())
+			FString Text = Title.IsEmpty() ? Path : Title;
+			if (!Path.IsEmpty() && !Path.Equals(Text))
 			{
-				OutTitles.Add(bOne ? (Title.IsEmpty() ? Path : Title) : FString::Printf(TEXT("%s (%s)"), *Title, *Path));
+				Text += TEXT(" (") + Path + TEXT(")");
+			}
+			if (!Text.IsEmpty() && !Row->IsHeading())
+			{
+				OutTitles.Add(Text);
 			}
 			CollectTitles(Row->GetRows(), OutTitles);
 		}
@@ -56,9 +68,9 @@ namespace DetailsView
 
 FHostDetailsView::FHostDetailsView(const TArray<UObject*>& InObjects)
 	: Root(FPropertyNode::MakeRoot(InObjects))
-	, Panel(SNew(SPartList))
-	, SectionButtons(SNew(SPartList))
-	, Body(SNew(SPartList))
+	, Panel(SNew(SHostPartList))
+	, SectionButtons(SNew(SHostPartList))
+	, Body(SNew(SHostPartList))
 {
 	// clang-format off
 	SAssignNew(SearchBox, SSearchBox)
@@ -211,31 +223,30 @@ void FHostDetailsView::AddToCategory(const FString& Category, const TSharedRef<S
 	}
 }
 
-/** A section has a category by its whole name or by that of the category around it. */
 bool FHostDetailsView::IsInSection(const FString& Category, const UClass& Class) const
 {
-	FString Outermost = Category;
-	Category.Split(TEXT("|"), &Outermost, nullptr);
-	for (const TSharedRef<FPropertySection>& Each : FPropertyEditorRegistrations().FindSections(&Class))
-	{
-		if (Each->GetName() == Section && (Each->HasAddedCategory(FName(*Category)) || Each->HasAddedCategory(FName(*Outermost))))
-		{
-			return true;
-		}
-	}
-	return false;
+	return FPropertyEditorRegistrations().FindSections(&Class).ContainsByPredicate([&](const TSharedRef<FPropertySection>& Each) {
+		return Each->GetName() == Section && DetailsView::HasCategory(*Each, Category);
+	});
 }
 
-/** One for each section of the objects' classes, and one for all categories; nothing without sections. */
+/** One for each section of the objects' classes that has something of theirs, and one for all categories; nothing without such a section. */
 void FHostDetailsView::MakeSectionButtons()
 {
 	SectionButtons->Clear();
-	const TArray<TSharedRef<FPropertySection>> Sections = FPropertyEditorRegistrations().FindSections(Root->GetClass());
-	for (const TSharedRef<FPropertySection>& Each : Sections)
+	bool bAny = false;
+	for (const TSharedRef<FPropertySection>& Each : FPropertyEditorRegistrations().FindSections(Root->GetClass()))
 	{
-		AddSectionButton(Each->GetName(), Each->GetDisplayName());
+		const bool bHasRows = Root->GetChildren().ContainsByPredicate([&Each](const TSharedRef<FPropertyNode>& Node) {
+			return DetailsView::HasCategory(*Each, DetailsView::GetCategory(*Node->GetProperty()));
+		});
+		if (bHasRows)
+		{
+			AddSectionButton(Each->GetName(), Each->GetDisplayName());
+			bAny = true;
+		}
 	}
-	if (!Sections.IsEmpty())
+	if (bAny)
 	{
 		AddSectionButton(FName(), LOCTEXT("AllSections", "All"));
 	}
@@ -246,6 +257,7 @@ void FHostDetailsView::AddSectionButton(FName Name, const FText& Label)
 	// clang-format off
 	SectionButtons->AddPart(
 		SNew(SButton)
+		.Tag(Name) // a section may be labelled like the category it shows
 		.Text(Label)
 		.OnClicked_Lambda([this, Name]()
 		{
@@ -257,8 +269,7 @@ void FHostDetailsView::AddSectionButton(FName Name, const FText& Label)
 
 void FHostDetailsView::ApplySearch()
 {
-	TArray<FString> Words;
-	SearchBox->GetText().ToString().ParseIntoArrayWS(Words);
+	const FHostSearchWords Words(SearchBox->GetText().ToString());
 	Body->Clear();
 	for (const TSharedRef<SDetailsRow>& Category : Categories)
 	{

@@ -6,7 +6,7 @@
 
 namespace OpenDetailsViews
 {
-	/** Views come and go with their owners, which may outlive an editor: a plain list. */
+	/** A plain list: each view enters and leaves it by itself, so there is nothing to reset with an editor. */
 	static TArray<FHostDetailsView*>& GetAll()
 	{
 		static TArray<FHostDetailsView*> Views;

@@ -3,24 +3,14 @@
 #include "Rows/SDetailsRow.h"
 
 #include "DetailWidgetRow.h"
+#include "HostParts.h"
+#include "HostSearchWords.h"
 #include "IPropertyTypeCustomization.h"
 #include "Rows/DetailsRowBuilder.h"
 #include "Values/PropertyNode.h"
 
 namespace DetailsRow
 {
-	static bool ContainsAll(const FString& Text, const TArray<FString>& Words)
-	{
-		for (const FString& Word : Words)
-		{
-			if (!Text.Contains(Word))
-			{
-				return false;
-			}
-		}
-		return true;
-	}
-
 	/** A click means a button rather than the list beside it, which only opens. */
 	enum class EEagerness : uint8
 	{
@@ -98,7 +88,6 @@ void SDetailsRow::Construct(const FArguments& InArgs, const FDetailWidgetRow& Co
 	NameWidget = bWholeRow ? SNullWidget::NullWidget : Content.NameWidget.Widget;
 	ValueWidget = bWholeRow ? Content.WholeRowWidget.Widget : Content.ValueWidget.Widget;
 	ExtensionWidget = bWholeRow ? SNullWidget::NullWidget : Content.ExtensionWidget.Widget;
-	SearchWords += TEXT(" ") + Content.FilterTextString.ToString();
 	FitElements();
 }
 
@@ -107,9 +96,9 @@ FString SDetailsRow::GetTitle() const
 	return IsHeading() ? Heading.ToString() : FHostWidgetAccess::TextOf(*NameWidget);
 }
 
-bool SDetailsRow::ApplySearch(const TArray<FString>& Words, bool bFoundAbove)
+bool SDetailsRow::ApplySearch(const FHostSearchWords& Words, bool bFoundAbove)
 {
-	const bool bFoundHere = bFoundAbove || DetailsRow::ContainsAll(GetTitle() + TEXT(" ") + SearchWords, Words);
+	const bool bFoundHere = bFoundAbove || Words.AreIn(GetTitle() + TEXT(" ") + SearchWords);
 	bFound = bFoundHere;
 	for (const TSharedRef<SDetailsRow>& Row : Rows)
 	{
@@ -162,28 +151,23 @@ TSharedPtr<SWidget> SDetailsRow::FindPlainValue() const
 FChildren* SDetailsRow::GetChildren()
 {
 	Shown.Empty();
-	const auto Show = [this](const TSharedRef<SWidget>& Widget) {
-		const TSharedRef<FSlotBase> Slot = MakeShared<FSlotBase>();
-		Slot->AttachWidget(Widget);
-		Shown.AddSlot(Slot);
-	};
 	if (!IsNamePlain())
 	{
-		Show(NameWidget);
+		HostParts::Add(NameWidget, Shown);
 	}
 	if (!FindPlainValue().IsValid() && ValueWidget != SNullWidget::NullWidget)
 	{
-		Show(ValueWidget);
+		HostParts::Add(ValueWidget, Shown);
 	}
 	if (ExtensionWidget != SNullWidget::NullWidget)
 	{
-		Show(ExtensionWidget);
+		HostParts::Add(ExtensionWidget, Shown);
 	}
 	for (const TSharedRef<SDetailsRow>& Row : Rows)
 	{
 		if (Row->bFound)
 		{
-			Show(Row);
+			HostParts::Add(Row, Shown);
 		}
 	}
 	return &Shown;

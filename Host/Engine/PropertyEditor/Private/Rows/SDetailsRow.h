@@ -7,6 +7,7 @@
 #include "Widgets/SCompoundWidget.h"
 
 class FDetailWidgetRow;
+class FHostSearchWords;
 class FPropertyNode;
 class IPropertyTypeCustomization;
 
@@ -44,7 +45,7 @@ public:
 	FString GetTitle() const;
 
 	/** A row stays when it, one above or one below it has all the words. @return whether it stays */
-	bool ApplySearch(const TArray<FString>& Words, bool bFoundAbove);
+	bool ApplySearch(const FHostSearchWords& Words, bool bFoundAbove);
 
 	/** Makes rows for elements that came, and drops those of elements that went. @return whether there were any */
 	bool FitElements();

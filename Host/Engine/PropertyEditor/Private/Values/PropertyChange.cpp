@@ -7,7 +7,7 @@
 
 namespace PropertyChange
 {
-	/** Those below first hear of it themselves: their values are new, too. */
+	/** The listeners of the property, then those of what lies below it: those values are new, too. */
 	static void TellBelow(const TSharedRef<FPropertyNode>& Node)
 	{
 		Node->OnValueChanged.Broadcast();

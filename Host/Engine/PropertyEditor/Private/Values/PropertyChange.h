@@ -19,7 +19,10 @@ public:
 	int32 Num() const { return NewValues.Num(); }
 	void* GetNewValue(int32 ObjectIndex) const { return NewValues[ObjectIndex]->Get(); }
 
-	/** Tells the objects, writes, tells the objects again, then the listeners of the property, of what is below it and of what is above it. */
+	/**
+	 * Tells the objects, writes, tells the objects again, then the listeners of the property, of what is below it and of what is above it.
+	 * @return a failure, with nothing written, when there is no value (any more) or it lies in a set; a success also when nothing is new, and then nobody is told
+	 */
 	FPropertyAccess::Result Apply(EPropertyValueSetFlags::Type Flags, EPropertyChangeType::Type ChangeType = EPropertyChangeType::ValueSet);
 
 private:

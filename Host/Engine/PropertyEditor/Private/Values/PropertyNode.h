@@ -34,15 +34,16 @@ public:
 
 	/** The objects; empty when one of them is gone. */
 	TArray<UObject*> GetObjects() const;
-	/** Of the root: whether an object is gone, and those that are not. */
+	/** Of the root: whether an object is gone. */
 	bool HasLostObjects() const;
+	/** Of the root: those that are not gone. */
 	TArray<UObject*> GetRemainingObjects() const;
 	/** What all objects are; null without objects. */
 	UClass* GetClass() const;
 
 	/** Editable members of an object or struct, or elements of a container, brought in step with the objects first. */
 	const TArray<TSharedRef<FPropertyNode>>& GetChildren();
-	/** Null when there is none. */
+	/** The first child of that name, or with bRecurse anything below; elements of arrays have no name. Null when there is none. */
 	TSharedPtr<FPropertyNode> FindChild(FName Name, bool bRecurse);
 
 	bool IsContainer() const;
@@ -57,8 +58,9 @@ public:
 	FString GetPath() const;
 	FText GetDisplayName() const;
 
-	/** Raised when a handle changed the value, or something below it. */
+	/** Raised when a handle changed the value, or something around it. */
 	FSimpleMulticastDelegate OnValueChanged;
+	/** Raised when a handle changed something below it. */
 	FSimpleMulticastDelegate OnChildValueChanged;
 
 private:

@@ -103,18 +103,17 @@ namespace PropertyValue
 	{
 		TArray<void*> Values;
 		const FPropertyAccess::Result Result = FindOne(Node, Values);
-		if (Result == FPropertyAccess::Fail)
+		const FObjectPropertyBase* Property = Result != FPropertyAccess::Fail ? CastField<FObjectPropertyBase>(Node.GetProperty()) : nullptr;
+		if (Property == nullptr)
 		{
-			return Result;
+			return FPropertyAccess::Fail;
 		}
-		const FObjectPropertyBase* Property = CastField<FObjectPropertyBase>(Node.GetProperty());
-		if (Property == nullptr || Result != FPropertyAccess::Success)
+		if (Result == FPropertyAccess::Success)
 		{
-			return Property == nullptr ? FPropertyAccess::Fail : Result;
+			const bool bSoft = Property->IsA<FSoftObjectProperty>();
+			OutObject = bSoft ? FSoftObjectProperty::GetPropertyValue(Values[0]).LoadSynchronous() : Property->GetObjectPropertyValue(Values[0]);
 		}
-		const bool bSoft = Property->IsA<FSoftObjectProperty>();
-		OutObject = bSoft ? FSoftObjectProperty::GetPropertyValue(Values[0]).LoadSynchronous() : Property->GetObjectPropertyValue(Values[0]);
-		return FPropertyAccess::Success;
+		return Result;
 	}
 
 	FPropertyAccess::Result WriteObject(FPropertyNode& Node, UObject* Object, EPropertyValueSetFlags::Type Flags)

@@ -12,7 +12,7 @@ namespace PropertyValue
 	/** The property that stores the value: of an enum, its integer. */
 	const FProperty* GetStorage(const FPropertyNode& Node);
 
-	/** Where the value lies, if all objects agree; Values is empty unless the result is a success. */
+	/** Where the value lies, if all objects agree; OutValues is empty unless the result is a success. */
 	FPropertyAccess::Result FindOne(const FPropertyNode& Node, TArray<void*>& OutValues);
 
 	/** What an object property leads to; soft references are loaded. */

@@ -2,8 +2,8 @@
 
 #include "Values/PropertyWidgets.h"
 
+#include "HostParts.h"
 #include "IPropertyTypeCustomization.h"
-#include "Rows/SPartList.h"
 #include "UObject/Package.h"
 #include "Values/PropertyChange.h"
 #include "Values/PropertyNode.h"
@@ -199,7 +199,7 @@ namespace PropertyWidgets
 
 		TSharedRef<SWidget> MakeElementButtons(const FNode& Node)
 		{
-			const TSharedRef<SPartList> Buttons = SNew(SPartList);
+			const TSharedRef<SHostPartList> Buttons = SNew(SHostPartList);
 			// clang-format off
 			Buttons->AddPart(
 				SNew(SButton)
@@ -284,7 +284,7 @@ namespace PropertyWidgets
 		{
 			return Value;
 		}
-		const TSharedRef<SPartList> Parts = SNew(SPartList);
+		const TSharedRef<SHostPartList> Parts = SNew(SHostPartList);
 		Parts->AddPart(Value);
 		Parts->AddPart(Extension);
 		return Parts;

@@ -46,13 +46,6 @@ namespace HostMenus
 	}
 }
 
-void SHostMenuRows::AddRow(const TSharedRef<SWidget>& Row)
-{
-	const TSharedRef<FSlotBase> Slot = MakeShared<FSlotBase>();
-	Slot->AttachWidget(Row);
-	Rows.AddSlot(Slot);
-}
-
 void SHostMenu::Construct(const FArguments& InArgs)
 {
 	Role = InArgs._Role;

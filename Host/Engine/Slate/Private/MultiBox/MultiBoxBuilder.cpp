@@ -124,9 +124,9 @@ TSharedRef<SWidget> FMenuBuilder::MakeWidget()
 		const TSharedRef<SHostMenuSection> Entries = SNew(SHostMenuSection).Tag(Section.Name).Heading(Section.Heading);
 		for (const TSharedRef<SWidget>& Entry : Section.Entries)
 		{
-			Entries->AddRow(Entry);
+			Entries->AddPart(Entry);
 		}
-		Menu->AddRow(Entries);
+		Menu->AddPart(Entries);
 	}
 	return Menu;
 }

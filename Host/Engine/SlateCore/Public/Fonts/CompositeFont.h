@@ -42,9 +42,6 @@ struct SLATECORE_API FFontData
 	{
 	}
 
-	/** Whether there is a file to draw from. */
-	bool HasFont() const { return !FontFilename.IsEmpty(); }
-
 	/** Host: a TrueType file; a relative path starts at the project's content folder. */
 	const FString& GetFontFilename() const { return FontFilename; }
 

@@ -7,10 +7,10 @@
 
 namespace LayoutRunner
 {
-	/** How many events may be raised by actions of events: no panel needs that many, and the stack holds many more. */
+	/** How many lists of actions may run inside one another: no panel needs that many, and the stack holds many more. */
 	static const int32 MaxDepth = 100;
 
-	/** Counts the events whose actions are running. One too many ends them all: else each would go on, and run into it again. */
+	/** Counts the lists of actions that are running, those of branches included. One too many ends them all: else each would go on, and run into it again. */
 	struct FDepth
 	{
 		FDepth() { ++Running; }

@@ -9,7 +9,7 @@
 #include "VelmorantColorHandler.h"
 #include "VelmorantUISubsystem.h"
 
-namespace VelmorantColors
+namespace VelmorantColorCustomization
 {
 	const FLinearColor MissingPalette(1.0f, 0.0f, 1.0f, 1.0f);
 }
@@ -65,7 +65,7 @@ FSlateColor FVelmorantColorCustomization::GetColorByID(FName ColorID, bool bUseC
 	const UVelmorantUISubsystem* UISubsystem = UVelmorantUISubsystem::Get();
 	if (!UISubsystem)
 	{
-		return VelmorantColors::MissingPalette;
+		return VelmorantColorCustomization::MissingPalette;
 	}
 	return UISubsystem->GetVelmorantColorByID(ColorID, bUseContrast).CopyWithNewOpacity(1.0f);
 }
@@ -81,11 +81,11 @@ FSlateColor FVelmorantColorCustomization::GetPreviewColor() const
 		{
 			return CustomColor;
 		}
-		return VelmorantColors::MissingPalette; // no colour to read, or several objects with different ones
+		return VelmorantColorCustomization::MissingPalette; // no colour to read, or several objects with different ones
 	}
 
 	const UVelmorantUISubsystem* UISubsystem = UVelmorantUISubsystem::Get();
-	return UISubsystem ? UISubsystem->GetVelmorantColorByID(GetColorID(), GetUseContrast()) : VelmorantColors::MissingPalette;
+	return UISubsystem ? UISubsystem->GetVelmorantColorByID(GetColorID(), GetUseContrast()) : VelmorantColorCustomization::MissingPalette;
 }
 
 void FVelmorantColorCustomization::ChooseFirstFamily()

@@ -1,7 +1,8 @@
 // Copyright Velmorant. All Rights Reserved.
 
-#include "DetailWidgetRow.h"
 #include "DetailsCustomization/UI/VelmorantColorCustomization.h"
+
+#include "DetailWidgetRow.h"
 #include "DetailsCustomization/UI/VelmorantPropertyOptions.h"
 #include "IDetailChildrenBuilder.h"
 #include "IDetailPropertyRow.h"
@@ -18,7 +19,7 @@
 
 #define LOCTEXT_NAMESPACE "FVelmorantProEditor"
 
-namespace VelmorantColorWidgets
+namespace VelmorantColorCustomization
 {
 	// Slate units.
 	constexpr float SwatchSize = 25.0f;
@@ -148,8 +149,8 @@ TSharedRef<SWidget> FVelmorantColorCustomization::MakeSwatch(const TAttribute<FS
 {
 	// clang-format off
 	return SNew(SBox)
-		.WidthOverride(VelmorantColorWidgets::SwatchSize)
-		.HeightOverride(VelmorantColorWidgets::SwatchSize)
+		.WidthOverride(VelmorantColorCustomization::SwatchSize)
+		.HeightOverride(VelmorantColorCustomization::SwatchSize)
 		[
 			SNew(SBorder)
 			.BorderImage(FAppStyle::GetBrush("WhiteBrush"))
@@ -164,7 +165,7 @@ TSharedRef<SWidget> FVelmorantColorCustomization::MakeSwatchAndText(const TAttri
 	return SNew(SHorizontalBox)
 		+ SHorizontalBox::Slot()
 		.AutoWidth()
-		.Padding(VelmorantColorWidgets::SwatchPadding)
+		.Padding(VelmorantColorCustomization::SwatchPadding)
 		[
 			MakeSwatch(Color)
 		]

@@ -12,7 +12,7 @@
 #include "Widgets/Input/SSearchBox.h"
 #include "Widgets/Views/STileView.h"
 
-namespace VelmorantFontIcons
+namespace VelmorantFontIconHandlerCustomization
 {
 	constexpr int32 GlyphSize = 16; // points
 	const TCHAR* const TableContext = TEXT("FVelmorantFontIconHandlerCustomization");
@@ -79,13 +79,13 @@ FVelmorantFontIconHandlerCustomization::FOptions FVelmorantFontIconHandlerCustom
 
 FSlateFontInfo FVelmorantFontIconHandlerCustomization::GetFontInfo() const
 {
-	return FFontIconHandler(GetValue(FontIconNameHandle), GetValue(IconStyleHandle), GetValue(IconNameHandle)).GenerateFontSlate(VelmorantFontIcons::GlyphSize);
+	return FFontIconHandler(GetValue(FontIconNameHandle), GetValue(IconStyleHandle), GetValue(IconNameHandle)).GenerateFontSlate(VelmorantFontIconHandlerCustomization::GlyphSize);
 }
 
 FText FVelmorantFontIconHandlerCustomization::GetUnicodeText(FName IconName) const
 {
 	const UDataTable* Table = CurrentFontIconData.IsValid() ? CurrentFontIconData->IconDataTable.Get() : nullptr;
-	const FFontIconRow* Row = Table && !IconName.IsNone() ? Table->FindRow<FFontIconRow>(IconName, VelmorantFontIcons::TableContext, false) : nullptr;
+	const FFontIconRow* Row = Table && !IconName.IsNone() ? Table->FindRow<FFontIconRow>(IconName, VelmorantFontIconHandlerCustomization::TableContext, false) : nullptr;
 	return Row ? FText::FromString(Row->Character) : FText::FromName(NAME_None);
 }
 
@@ -96,29 +96,23 @@ FText FVelmorantFontIconHandlerCustomization::GetCurrentUnicodeText() const
 
 void FVelmorantFontIconHandlerCustomization::FillSource()
 {
-	if (UVelmorantUISubsystem::Get())
+	const TSharedPtr<FFontIconData> FontIconData = GetFontIconData();
+	if (FontIconData->IconDataTable)
 	{
-		const TSharedPtr<FFontIconData> FontIconData = GetFontIconData();
-		if (FontIconData->IconDataTable)
-		{
-			CurrentFontIconData = FontIconData;
-			CurrentIconTable.Reset(FontIconData->IconDataTable);
-		}
+		CurrentFontIconData = FontIconData;
+		CurrentIconTable.Reset(FontIconData->IconDataTable);
 	}
 
 	SourceItems.Empty();
-	if (!CurrentFontIconData.IsValid() || !CurrentFontIconData->IconDataTable)
+	if (CurrentFontIconData.IsValid())
 	{
-		IndexSource();
-		return;
-	}
-
-	const UDataTable& Table = *CurrentFontIconData->IconDataTable;
-	for (const FName& RowName : Table.GetRowNames())
-	{
-		if (const FFontIconRow* Row = Table.FindRow<FFontIconRow>(RowName, VelmorantFontIcons::TableContext))
+		const UDataTable& Table = *CurrentFontIconData->IconDataTable;
+		for (const FName& RowName : Table.GetRowNames())
 		{
-			SourceItems.Add(MakeShared<FIconItemViewEntry>(RowName, *Row));
+			if (const FFontIconRow* Row = Table.FindRow<FFontIconRow>(RowName, VelmorantFontIconHandlerCustomization::TableContext))
+			{
+				SourceItems.Add(MakeShared<FIconItemViewEntry>(RowName, *Row));
+			}
 		}
 	}
 	IndexSource();

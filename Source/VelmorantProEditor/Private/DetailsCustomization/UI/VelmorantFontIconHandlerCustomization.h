@@ -65,6 +65,7 @@ private:
 	FName GetValue(const TSharedPtr<IPropertyHandle>& Prop) const;
 	void SetValue(const TSharedPtr<IPropertyHandle>& Prop, FName Value) const;
 
+	/** The data of the current font; without a table when there is no such font, or no UI subsystem. Never null. */
 	TSharedPtr<FFontIconData> GetFontIconData() const;
 	FOptions GetFontIconOptions() const;
 	FOptions GetIconStylesOptions() const;
@@ -80,6 +81,7 @@ private:
 	/** Takes the icons of the current font, unfiltered. A font without an icon table leaves the icons of the one before. */
 	void FillSource();
 
+	/** Brings the filter's tables in step with SourceItems. */
 	void IndexSource();
 
 	/** The icons that exist in the current style and match the text, in the table's order. */
@@ -128,6 +130,7 @@ private:
 	FVelmorantTextSearch IconNames;
 	TMap<FString, TArray<int32>> IconsByTag;
 
+	/** Null until a font with an icon table was chosen; has a table ever after. */
 	TSharedPtr<FFontIconData> CurrentFontIconData;
 
 	/** The table that CurrentFontIconData names: a plain copy does not keep it from being collected. */

@@ -1,7 +1,8 @@
 // Copyright Velmorant. All Rights Reserved.
 
-#include "DetailWidgetRow.h"
 #include "DetailsCustomization/UI/VelmorantFontIconHandlerCustomization.h"
+
+#include "DetailWidgetRow.h"
 #include "DetailsCustomization/UI/VelmorantPropertyOptions.h"
 #include "FontIconHandler.h"
 #include "IDetailChildrenBuilder.h"
@@ -17,7 +18,7 @@
 
 #define LOCTEXT_NAMESPACE "FVelmorantProEditor"
 
-namespace VelmorantFontIconWidgets
+namespace VelmorantFontIconHandlerCustomization
 {
 	// Slate units.
 	constexpr float IconListHeight = 150.0f;
@@ -40,7 +41,7 @@ void FVelmorantFontIconHandlerCustomization::CustomizeHeader(TSharedRef<IPropert
 	]
 	.ValueContent()
 	[
-		// Asked for anew each time it is drawn: the icons are not there yet.
+		// Bound rather than set: the icons are taken in only below, and others may be chosen later.
 		SNew(STextBlock)
 		.Text(this, &FVelmorantFontIconHandlerCustomization::GetCurrentUnicodeText)
 		.Font(this, &FVelmorantFontIconHandlerCustomization::GetFontInfo)
@@ -64,7 +65,7 @@ void FVelmorantFontIconHandlerCustomization::CustomizeChildren(TSharedRef<IPrope
 		VelmorantPropertyOptions::MakeText(LOCTEXT("IconList", "Icon List"))
 	]
 	.ValueContent()
-	.MinDesiredWidth(VelmorantFontIconWidgets::IconListMinWidth)
+	.MinDesiredWidth(VelmorantFontIconHandlerCustomization::IconListMinWidth)
 	[
 		MakeIconList()
 	];
@@ -148,12 +149,12 @@ TSharedRef<SWidget> FVelmorantFontIconHandlerCustomization::MakeIconList()
 		.AutoHeight()
 		[
 			SNew(SBox)
-			.HeightOverride(VelmorantFontIconWidgets::IconListHeight)
+			.HeightOverride(VelmorantFontIconHandlerCustomization::IconListHeight)
 			[
 				SAssignNew(TileView, STileView<FIconItem>)
 				.ListItemsSource(&FilteredItems)
-				.ItemWidth(VelmorantFontIconWidgets::TileSize)
-				.ItemHeight(VelmorantFontIconWidgets::TileSize)
+				.ItemWidth(VelmorantFontIconHandlerCustomization::TileSize)
+				.ItemHeight(VelmorantFontIconHandlerCustomization::TileSize)
 				.SelectionMode(ESelectionMode::Single)
 				.OnGenerateTile(this, &FVelmorantFontIconHandlerCustomization::MakeTileViewWidget)
 				.OnSelectionChanged(this, &FVelmorantFontIconHandlerCustomization::OnIconSelected)

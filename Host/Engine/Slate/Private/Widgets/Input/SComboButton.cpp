@@ -3,12 +3,13 @@
 #include "Widgets/Input/SComboButton.h"
 
 #include "HostMenus.h"
+#include "HostParts.h"
 #include "HostWidget.h"
 
 namespace ComboButton
 {
 	/** The face is one line of text: its swatches are told beside it. */
-	void NoteColors(SWidget& Face, TArray<FString>& OutNotes)
+	static void NoteColors(SWidget& Face, TArray<FString>& OutNotes)
 	{
 		const FHostWidgetDescription Description = FHostWidgetAccess::Describe(Face);
 		if (Description.Role == TEXT("swatch"))
@@ -40,9 +41,7 @@ void SComboButton::SetIsOpen(bool bInIsOpen)
 	OpenMenu.Empty();
 	if (bIsOpen)
 	{
-		const TSharedRef<FSlotBase> Slot = MakeShared<FSlotBase>();
-		Slot->AttachWidget(OnGetMenuContent.IsBound() ? OnGetMenuContent.Execute() : StaticMenuContent);
-		OpenMenu.AddSlot(Slot);
+		HostParts::Add(OnGetMenuContent.IsBound() ? OnGetMenuContent.Execute() : StaticMenuContent, OpenMenu);
 		HostMenus::NoteOpened(StaticCastSharedRef<SComboButton>(AsShared()));
 		OnComboBoxOpened.ExecuteIfBound();
 	}

@@ -3,6 +3,7 @@
 #include "Widgets/Views/STableViewBase.h"
 
 #include "Containers/Ticker.h"
+#include "HostParts.h"
 #include "HostWidget.h"
 #include "Widgets/Views/ITableRow.h"
 #include "Widgets/Views/STableRow.h"
@@ -38,9 +39,7 @@ void STableViewBase::GenerateRows()
 	Rows.Empty();
 	for (int32 Row = 0; Row < NumRows; ++Row)
 	{
-		const TSharedRef<FSlotBase> Slot = MakeShared<FSlotBase>();
-		Slot->AttachWidget(MakeRow(FirstItemInView + Row)->AsWidget());
-		Rows.AddSlot(Slot);
+		HostParts::Add(MakeRow(FirstItemInView + Row)->AsWidget(), Rows);
 	}
 }
 
