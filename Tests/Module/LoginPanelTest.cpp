@@ -34,6 +34,19 @@ namespace
 class LoginPanel : public FToolkitTest
 {
 protected:
+	/** A panel that somebody listens to, in a new editor, with the answer to its login. */
+	FTestPanel SignIn(const TCHAR* Password)
+	{
+		StartEditor();
+		FTestPanel Panel = MakePanel();
+		Panel.ListenTo(TEXT("OnLoginResult"));
+		Panel.Show();
+		FillIn(Panel, Password);
+		Panel.Click(TEXT("SummitButton"));
+		Wait(0.0);
+		return Panel;
+	}
+
 	/** A login that does not come from the panel. */
 	void LogInElsewhere()
 	{
@@ -96,25 +109,13 @@ TEST_F(LoginPanel, EndsTheBusyStateWhateverGoesWrong)
 
 TEST_F(LoginPanel, TellsItsListenersLast)
 {
-	StartEditor();
-	FTestPanel Panel = MakePanel();
-	Panel.ListenTo(TEXT("OnLoginResult"));
-	Panel.Show();
-	FillIn(Panel, TEXT("sesame-77"));
-	Panel.Click(TEXT("SummitButton"));
-	Wait(0.0);
+	FTestPanel Panel = SignIn(TEXT("sesame-77"));
 	EXPECT_THAT(Panel.TakeEvents(), ElementsAre("OnLoginInProcess(true)", "OnLoginInProcess(false)", "OnLoginResultReceived(true)", "OnLoginResult(true)"));
 }
 
 TEST_F(LoginPanel, IsUnboundAfterASuccess)
 {
-	StartEditor();
-	FTestPanel Panel = MakePanel();
-	Panel.ListenTo(TEXT("OnLoginResult"));
-	Panel.Show();
-	FillIn(Panel, TEXT("sesame-77"));
-	Panel.Click(TEXT("SummitButton"));
-	Wait(0.0);
+	FTestPanel Panel = SignIn(TEXT("sesame-77"));
 	Panel.TakeEvents();
 	LogInElsewhere();
 	EXPECT_THAT(Panel.TakeEvents(), IsEmpty());
@@ -122,13 +123,7 @@ TEST_F(LoginPanel, IsUnboundAfterASuccess)
 
 TEST_F(LoginPanel, StaysBoundAfterAFailureThatSomebodyListensTo)
 {
-	StartEditor();
-	FTestPanel Panel = MakePanel();
-	Panel.ListenTo(TEXT("OnLoginResult"));
-	Panel.Show();
-	FillIn(Panel, TEXT("wrong"));
-	Panel.Click(TEXT("SummitButton"));
-	Wait(0.0);
+	FTestPanel Panel = SignIn(TEXT("wrong"));
 	EXPECT_THAT(Panel.TakeEvents(), ElementsAre("OnLoginInProcess(true)", "OnLoginInProcess(false)", "OnLoginResultReceived(false)", "OnLoginResult(false)"));
 	LogInElsewhere();
 	EXPECT_THAT(Panel.TakeEvents(), ElementsAre("OnLoginInProcess(false)", "OnLoginResultReceived(true)", "OnLoginResult(true)"));
