@@ -1,6 +1,10 @@
 // Copyright Velmorant. All Rights Reserved.
 
 #include "DetailsTestEditor.h"
+#include "Editor.h"
+#include "Editor/Transactor.h"
+#include "HostEditor.h"
+#include "ScopedTransaction.h"
 #include "UObject/Package.h"
 #include "UObject/UnrealType.h"
 
@@ -68,23 +72,6 @@ TEST_F(DetailsChange, AnEqualValueChangesNothingAndTellsNobody)
 	EXPECT_TRUE(Second->GetPackage()->IsDirty());
 }
 
-TEST_F(DetailsChange, EachObjectIsRecordedForUndoUnlessNotAsked)
-{
-	TArray<UObject*> Recorded;
-	HostObjects::SetModifyRecorder([&Recorded](UObject* Object) {
-		Recorded.Add(Object);
-		return true;
-	});
-	const FHostDetailsView View(Both());
-	View.FindHandle(TEXT("Count"))->SetValue(int32(1));
-	EXPECT_EQ(Recorded, Both());
-	Recorded.Empty();
-	View.FindHandle(TEXT("Count"))->SetValue(int32(2), EPropertyValueSetFlags::NotTransactable);
-	EXPECT_TRUE(Recorded.IsEmpty());
-	EXPECT_TRUE(First->GetPackage()->IsDirty());
-	HostObjects::SetModifyRecorder(nullptr);
-}
-
 TEST_F(DetailsChange, OneOfManyChangesIsToldAsSuch)
 {
 	TArray<EPropertyChangeType::Type> Changes;
@@ -109,4 +96,101 @@ TEST_F(DetailsChange, ListenersMayChangeTheValueAgainOrCloseThePanel)
 	EXPECT_EQ(Text->SetValue(TEXT("last")), FPropertyAccess::Success);
 	EXPECT_EQ(First->Text, TEXT("last"));
 	EXPECT_FALSE(Text->IsValidHandle());
+}
+
+/** With an editor, which undoes. */
+class DetailsUndo : public FDetailsTestEditor
+{
+protected:
+	DetailsUndo() { HostEditor::Create(); }
+	virtual ~DetailsUndo() override { HostEditor::Destroy(); }
+
+	/** Titles of the steps, the oldest first. */
+	static std::vector<std::string> Steps()
+	{
+		std::vector<std::string> Titles;
+		for (int32 Index = 0; Index < GEditor->Trans->GetQueueLength(); ++Index)
+		{
+			Titles.push_back(Utf8(GEditor->Trans->GetTransaction(Index)->GetTitle()));
+		}
+		return Titles;
+	}
+};
+
+TEST_F(DetailsUndo, AWriteIsOneStepForAllObjects)
+{
+	FHostDetailsView View(Both());
+	EXPECT_EQ(Type(View, TEXT("Count"), TEXT("1")), "");
+	View.FindHandle(TEXT("Finish"))->SetValueFromFormattedString(TEXT("Glossy"));
+	EXPECT_EQ(Steps(), (std::vector<std::string>{"Edit Count", "Edit Surface"})) << "by the name that people see";
+	GEditor->UndoTransaction();
+	GEditor->UndoTransaction();
+	EXPECT_EQ(First->Count, 7);
+	EXPECT_EQ(Second->Count, 7);
+	EXPECT_EQ(Read(View, TEXT("Count")), "7");
+	GEditor->RedoTransaction();
+	EXPECT_EQ(Second->Count, 1);
+}
+
+TEST_F(DetailsUndo, OnlyRealChangesThatAreToBeRecordedAreSteps)
+{
+	const FHostDetailsView View(Both());
+	View.FindHandle(TEXT("Count"))->SetValue(int32(7));
+	View.FindHandle(TEXT("Count"))->SetValue(int32(2), EPropertyValueSetFlags::NotTransactable);
+	EXPECT_EQ(Steps(), std::vector<std::string>());
+	EXPECT_TRUE(First->GetPackage()->IsDirty());
+}
+
+TEST_F(DetailsUndo, AWriteJoinsAnOpenStepAndTakesInWhatListenersWrite)
+{
+	const FHostDetailsView View(One());
+	const TSharedPtr<IPropertyHandle> Count = View.FindHandle(TEXT("Count"));
+	const TSharedPtr<IPropertyHandle> Text = View.FindHandle(TEXT("Text"));
+	Count->SetOnPropertyValueChanged(FSimpleDelegate::CreateLambda([&Text]() { Text->SetValue(TEXT("follows")); }));
+	Count->SetValue(int32(1));
+	EXPECT_EQ(Steps(), (std::vector<std::string>{"Edit Count"}));
+	{
+		const FScopedTransaction Transaction(FText::FromString(TEXT("Whole")));
+		Count->SetValue(int32(2));
+		Text->SetValue(TEXT("last"));
+	}
+	EXPECT_EQ(Steps(), (std::vector<std::string>{"Edit Count", "Whole"}));
+	GEditor->UndoTransaction();
+	EXPECT_EQ(First->Count, 1);
+	EXPECT_EQ(First->Text, TEXT("follows"));
+	GEditor->UndoTransaction();
+	EXPECT_EQ(First->Text, TEXT(""));
+}
+
+TEST_F(DetailsUndo, InteractiveChangesBelongToTheStepOfTheLastOne)
+{
+	const FHostDetailsView View(Both());
+	const TSharedPtr<IPropertyHandle> Single = View.FindHandle(TEXT("Single"));
+	for (const float LastValue : {0.9f, 1.0f}) // the value that is there already, and another one
+	{
+		Single->SetValue(0.75f, EPropertyValueSetFlags::InteractiveChange);
+		Single->SetValue(0.9f, EPropertyValueSetFlags::InteractiveChange);
+		EXPECT_EQ(GEditor->Trans->GetQueueLength(), 0);
+		Single->SetValue(LastValue);
+		EXPECT_EQ(Second->Single, LastValue);
+		EXPECT_EQ(Steps(), (std::vector<std::string>{"Edit Single"}));
+		GEditor->UndoTransaction(false);
+		EXPECT_EQ(First->Single, 0.5f);
+		EXPECT_EQ(Second->Single, 0.5f);
+	}
+}
+
+TEST_F(DetailsUndo, ThePanelFollowsElementsThatComeAndGo)
+{
+	FHostDetailsView View(One());
+	EXPECT_EQ(Refusal(HostSnapshot::Click(View.GetWidget(), TEXT("Icons/Add Element"))), "");
+	Tick();
+	EXPECT_NE(View.FindHandle(TEXT("Icons[0].IconName")), nullptr);
+	GEditor->UndoTransaction();
+	Tick();
+	EXPECT_EQ(First->Icons.Num(), 0);
+	EXPECT_EQ(View.FindHandle(TEXT("Icons[0].IconName")), nullptr);
+	GEditor->RedoTransaction();
+	Tick();
+	EXPECT_NE(View.FindHandle(TEXT("Icons[0].IconName")), nullptr);
 }

@@ -1,9 +1,11 @@
 // Copyright Velmorant. All Rights Reserved.
 
+#include "Editor.h"
 #include "HostPackages.h"
 #include "LevelTestEditor.h"
 #include "LevelVariantSets.h"
 #include "LevelVariantSetsActor.h"
+#include "ScopedTransaction.h"
 #include "UObject/Package.h"
 #include "UObject/UObjectGlobals.h"
 #include "Variant.h"
@@ -229,4 +231,68 @@ TEST_F(VariantSets, ActorLoadsItsAssetOnlyWhenAsked)
 	EXPECT_EQ(Actor->GetLevelVariantSets(), Loaded);
 	Actor->SetLevelVariantSets(nullptr);
 	EXPECT_TRUE(Actor->LevelVariantSets.IsNull());
+}
+
+TEST_F(VariantSets, UndoTakesThemApartAgainAndLookUpsFollow)
+{
+	const auto Make = [](const TCHAR* SetText, const TCHAR* VariantText) {
+		UVariantSet* Set = NewObject<UVariantSet>(GetTransientPackage(), NAME_None, RF_Transactional);
+		UVariant* Variant = NewObject<UVariant>(GetTransientPackage(), NAME_None, RF_Transactional);
+		Variant->SetDisplayText(FText::FromString(VariantText));
+		Set->SetDisplayText(FText::FromString(SetText));
+		Set->AddVariants({Variant});
+		return Set;
+	};
+	Asset->AddVariantSets({Make(TEXT("First"), TEXT("Oak"))});
+	UVariantSet* First = Asset->GetVariantSet(0);
+	ASSERT_NE(First->GetVariantByName(TEXT("Oak")), nullptr); // makes the index
+	{
+		const FScopedTransaction Transaction(FText::FromString(TEXT("Change")));
+		First->GetVariant(0)->SetDisplayText(FText::FromString(TEXT("Ash")));
+		First->SetDisplayText(FText::FromString(TEXT("Renamed")));
+		Asset->AddVariantSets({Make(TEXT("Second"), TEXT("Stone"))}, 0);
+	}
+	UVariantSet* Second = Asset->GetVariantSet(0);
+	for (const bool bAgain : {false, true})
+	{
+		SCOPED_TRACE(bAgain);
+		ASSERT_TRUE(GEditor->UndoTransaction());
+		EXPECT_EQ(Asset->GetNumVariantSets(), 1);
+		EXPECT_EQ(Asset->GetVariantSetByName(TEXT("First")), First);
+		EXPECT_EQ(Asset->GetVariantSetByName(TEXT("Renamed")), nullptr);
+		EXPECT_EQ(Asset->GetVariantSetByName(TEXT("Second")), nullptr);
+		EXPECT_EQ(Second->GetParent(), nullptr);
+		EXPECT_EQ(First->GetVariantByName(TEXT("Oak")), First->GetVariant(0));
+		ExpectLookUpsAgree(*First);
+
+		ASSERT_TRUE(GEditor->RedoTransaction());
+		EXPECT_EQ(Asset->GetVariantSetByName(TEXT("Second")), Second);
+		EXPECT_EQ(Asset->GetVariantSetByName(TEXT("Renamed")), First);
+		EXPECT_EQ(Second->GetParent(), Asset);
+		EXPECT_EQ(TextsOf(*Second), "Stone;");
+		EXPECT_EQ(First->GetVariantByName(TEXT("Ash")), First->GetVariant(0));
+		EXPECT_EQ(First->GetVariantByName(TEXT("Oak")), nullptr);
+	}
+}
+
+TEST_F(VariantSets, CanBeUndoneOnceTheyAreLoadedFromAFile)
+{
+	// As earlier versions made and saved them: without the flag, and without a word of it in the file.
+	Asset->AddVariantSets({MakeAbc()});
+	ASSERT_TRUE(HostPackages::Save(Asset->GetPackage()).Succeeded());
+	std::string File = Project.Read("Content/Sets.uasset.json");
+	const std::string Flags = "\"Flags\": \"None\",";
+	for (size_t At = File.find(Flags); At != std::string::npos; At = File.find(Flags))
+	{
+		File.erase(At, Flags.size());
+	}
+	Project.Write("Content/Sets.uasset.json", File);
+	Restart();
+	Asset = CastChecked<ULevelVariantSets>(HostPackages::LoadAsset(TEXT("/Game/Sets")));
+	{
+		const FScopedTransaction Transaction(FText::FromString(TEXT("Change")));
+		Asset->GetVariantSet(0)->SetDisplayText(FText::FromString(TEXT("Other")));
+	}
+	GEditor->UndoTransaction();
+	EXPECT_EQ(Utf8(Asset->GetVariantSet(0)->GetDisplayText().ToString()), "Set");
 }

@@ -87,7 +87,7 @@ namespace AssetCreation
 		for (UObject* Inner : Inners)
 		{
 			const FName FreeName = MakeUniqueObjectName(GetTransientPackage(), Inner->GetClass(), Inner->GetFName());
-			Inner->Rename(*FreeName.ToString(), GetTransientPackage(), REN_DontCreateRedirectors);
+			Inner->Rename(*FreeName.ToString(), GetTransientPackage(), REN_DontCreateRedirectors | REN_NonTransactional);
 			Inner->ClearFlags(RF_Public | RF_Standalone);
 			Inner->MarkAsGarbage();
 		}

@@ -9,6 +9,7 @@
 class FConfigCacheIni;
 class FFeedbackContext;
 class FOutputDeviceRedirector;
+class ITransaction;
 
 DECLARE_LOG_CATEGORY_EXTERN(LogTemp, Log, All);
 DECLARE_LOG_CATEGORY_EXTERN(LogCore, Log, All);
@@ -23,6 +24,11 @@ extern FString GEngineIni;
 extern FString GGameIni;
 extern FString GEditorIni;
 extern FString GEditorPerProjectIni;
+
+/** The step of undo that is being recorded; null when there is none. */
+extern ITransaction* GUndo;
+/** Whether a step is being undone or redone just now. */
+extern bool GIsTransacting;
 
 /** Host: always true. */
 extern bool GIsEditor;

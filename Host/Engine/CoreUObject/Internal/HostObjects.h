@@ -38,9 +38,6 @@ namespace HostObjects
 	/** How packages come into memory: by long name; null when there is no such package. Forgotten in TearDown(). */
 	void SetPackageLoader(TFunction<UPackage*(const FString& LongPackageName)> Loader);
 
-	/** Told of each Modify(); says whether the change was recorded for undo. Forgotten in TearDown(). */
-	void SetModifyRecorder(TFunction<bool(UObject*)> Recorder);
-
 	/**
 	 * A class that is not native: its objects are those of the nearest native class above, its events can be answered by scripts.
 	 * @param ClassOfClass what the class object itself is; UClass or derived from it

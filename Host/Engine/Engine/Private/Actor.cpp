@@ -51,6 +51,12 @@ UWorld* AActor::GetWorld() const
 	return Level != nullptr ? Level->GetWorld() : nullptr;
 }
 
+void AActor::PostEditUndo()
+{
+	bActorIsBeingDestroyed = !IsValid(this); // an undo may have spawned or destroyed it
+	Super::PostEditUndo();
+}
+
 const FString& AActor::GetActorLabel(bool bCreateIfNone) const
 {
 	if (bCreateIfNone && ActorLabel.IsEmpty() && !HasAnyFlags(RF_ClassDefaultObject))

@@ -74,6 +74,7 @@ bool UWorld::DestroyActor(AActor* Actor, bool, bool bShouldModifyLevel)
 	if (bShouldModifyLevel)
 	{
 		Level->Modify();
+		Actor->Modify();
 	}
 	// The slot stays: somebody may be walking over the actors right now.
 	Level->Actors[Index] = nullptr;

@@ -8,6 +8,20 @@
 
 DEFINE_LOG_CATEGORY_STATIC(LogSpawn, Log, All);
 
+namespace WorldSpawn
+{
+	/** Before a step spawned it, an actor was as good as destroyed: that is what undo makes of it. */
+	void RecordSpawning(AActor& Actor)
+	{
+		if (GUndo != nullptr)
+		{
+			Actor.MarkAsGarbage();
+			Actor.Modify(false);
+			Actor.ClearGarbage();
+		}
+	}
+}
+
 AActor* UWorld::SpawnActor(UClass* InClass, FVector const* Location, FRotator const* Rotation, const FActorSpawnParameters& SpawnParameters)
 {
 	FTransform Transform;
@@ -51,6 +65,7 @@ AActor* UWorld::SpawnActor(UClass* Class, FTransform const* UserTransformPtr, co
 		Actor->ActorRotation = UserTransformPtr->Rotator();
 		Actor->ActorScale = UserTransformPtr->GetScale3D();
 	}
+	WorldSpawn::RecordSpawning(*Actor);
 	Level->Actors.Add(Actor);
 	OnActorSpawned.Broadcast(Actor);
 	return Actor->bActorIsBeingDestroyed ? nullptr : Actor;

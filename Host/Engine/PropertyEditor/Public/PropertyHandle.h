@@ -20,7 +20,7 @@ namespace EPropertyValueSetFlags
 	inline constexpr Type DefaultFlags = 0;
 	/** The change is not recorded for undo. */
 	inline constexpr Type NotTransactable = 1 << 0;
-	/** One of many changes, as while a slider is dragged; the last one comes without this flag. */
+	/** One of many changes, as while a slider is dragged; the last one comes without this flag, and undo takes all of them back together. */
 	inline constexpr Type InteractiveChange = 1 << 1;
 }
 
@@ -32,7 +32,8 @@ namespace EPropertyValueSetFlags
  *
  * Writing gives every object the value: it is told before and after (PreEditChange, PostEditChangeProperty) and its package gets
  * dirty; then the listeners of the property, of what is below it and of its parents are called, all before the function returns.
- * A value that all objects have already changes nothing and tells nobody.
+ * A value that all objects have already changes nothing and tells nobody. Otherwise writing is a step of undo, "Edit" and the name of the
+ * property, or part of the step that is open.
  *
  * Host: handles live as long as somebody holds them, and keep neither the objects nor the panel alive.
  */

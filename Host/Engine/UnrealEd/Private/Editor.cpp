@@ -11,12 +11,14 @@ UEditorEngine* GEditor = nullptr;
 
 FEditorDelegates::FOnMapLoad FEditorDelegates::OnMapLoad;
 FEditorDelegates::FOnEditorInitialized FEditorDelegates::OnEditorInitialized;
+FSimpleMulticastDelegate FEditorDelegates::PostUndoRedo;
 
 namespace Editor
 {
 	const FHostStateReset Reset([] {
 		FEditorDelegates::OnMapLoad.Clear();
 		FEditorDelegates::OnEditorInitialized.Clear();
+		FEditorDelegates::PostUndoRedo.Clear();
 		GEditor = nullptr;
 		GEngine = nullptr;
 	});

@@ -8,6 +8,9 @@
 #include "GameFramework/Actor.h"
 #include "HostState.h"
 #include "Selection.h"
+#include "Transactions/TransBuffer.h"
+
+#define LOCTEXT_NAMESPACE "EditorEngine"
 
 namespace EditorEngine
 {
@@ -17,7 +20,8 @@ namespace EditorEngine
 void UEditorEngine::Init(IEngineLoop* InEngineLoop)
 {
 	EditorWorldContext.WorldType = EWorldType::Editor;
-	SelectedActors = NewObject<USelection>(this, TEXT("SelectedActors"));
+	SelectedActors = NewObject<USelection>(this, TEXT("SelectedActors"), RF_Transactional);
+	Trans = NewObject<UTransBuffer>(this);
 	EditorWorldContext.SetCurrentWorld(UWorld::CreateWorld(EWorldType::Editor, true));
 	Super::Init(InEngineLoop);
 	EditorSubsystemCollection = MakeUnique<FObjectSubsystemCollection<UEditorSubsystem>>();
@@ -31,6 +35,8 @@ void UEditorEngine::PreExit()
 		EditorSubsystemCollection->Deinitialize();
 		EditorSubsystemCollection.Reset();
 	}
+	ResetTransaction(LOCTEXT("ResetForExit", "the editor goes down"));
+	Trans = nullptr;
 	Super::PreExit();
 }
 
@@ -82,6 +88,54 @@ int32 UEditorEngine::GetSelectedActorCount() const
 	return SelectedActors->Num();
 }
 
+int32 UEditorEngine::BeginTransaction(const FText& Description)
+{
+	return CanTransact() ? Trans->Begin(nullptr, Description) : INDEX_NONE;
+}
+
+int32 UEditorEngine::EndTransaction()
+{
+	return Trans != nullptr ? Trans->End() : INDEX_NONE;
+}
+
+bool UEditorEngine::UndoTransaction(bool bCanRedo)
+{
+	const bool bDone = Trans != nullptr && Trans->Undo(bCanRedo);
+	if (bDone)
+	{
+		FEditorDelegates::PostUndoRedo.Broadcast();
+	}
+	return bDone;
+}
+
+bool UEditorEngine::RedoTransaction()
+{
+	const bool bDone = Trans != nullptr && Trans->Redo();
+	if (bDone)
+	{
+		FEditorDelegates::PostUndoRedo.Broadcast();
+	}
+	return bDone;
+}
+
+bool UEditorEngine::CanTransact()
+{
+	return Trans != nullptr && !GIsTransacting;
+}
+
+bool UEditorEngine::IsTransactionActive() const
+{
+	return Trans != nullptr && Trans->IsActive();
+}
+
+void UEditorEngine::ResetTransaction(const FText& Reason)
+{
+	if (Trans != nullptr)
+	{
+		Trans->Reset(Reason);
+	}
+}
+
 void UEditorEngine::MoveViewportCamerasToActor(AActor& Actor, bool bActiveViewportOnly)
 {
 	const TArray<AActor*> Actors = {&Actor};
@@ -110,3 +164,5 @@ const TArray<HostEditor::FViewport>& HostEditor::GetViewports()
 {
 	return EditorEngine::Viewports.Get().Get();
 }
+
+#undef LOCTEXT_NAMESPACE

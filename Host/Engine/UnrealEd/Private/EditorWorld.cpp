@@ -13,6 +13,8 @@
 #include "UObject/Package.h"
 #include "UObject/UObjectGlobals.h"
 
+#define LOCTEXT_NAMESPACE "EditorWorld"
+
 namespace EditorWorld
 {
 	/** Numbers for names that must not repeat within a boot. */
@@ -92,6 +94,7 @@ void EditorWorld::Close()
 	{
 		return;
 	}
+	GEditor->ResetTransaction(LOCTEXT("ResetForMap", "the map is closed"));
 	GEditor->SelectNone(GEditor->GetSelectedActorCount() > 0, true);
 	GEditor->GetEditorWorldContext().SetCurrentWorld(nullptr);
 	UPackage* Package = World->GetPackage();
@@ -179,3 +182,5 @@ bool HostEditor::SaveOpenMapAs(const FString& PackageName)
 	World->Rename(*ShortName, nullptr, REN_DontCreateRedirectors);
 	return SaveOpenMap();
 }
+
+#undef LOCTEXT_NAMESPACE

@@ -35,19 +35,15 @@ void USelection::Select(UObject* InObject)
 	{
 		return;
 	}
+	Modify();
 	Objects.Add(InObject);
-	if (AActor* Actor = Cast<AActor>(InObject))
-	{
-		Actor->bSelected = true;
-	}
+	MarkSelected(InObject, true);
 }
 
 void USelection::Deselect(UObject* InObject)
 {
-	if (AActor* Actor = Cast<AActor>(InObject))
-	{
-		Actor->bSelected = false;
-	}
+	Modify();
+	MarkSelected(InObject, false);
 	Objects.RemoveAll([InObject](const TWeakObjectPtr<UObject>& Object) { return Object.Get() == InObject; });
 }
 
@@ -64,7 +60,46 @@ void USelection::NoteSelectionChanged()
 	SelectionChangedEvent.Broadcast(this);
 }
 
+bool USelection::Modify(bool bAlwaysMarkDirty)
+{
+	ForgetDestroyed(); // their leaving is no change of the selection
+	return Super::Modify(bAlwaysMarkDirty);
+}
+
+void USelection::PreEditUndo()
+{
+	Super::PreEditUndo();
+	for (const TWeakObjectPtr<UObject>& Object : Objects)
+	{
+		MarkSelected(Object.Get(), false);
+	}
+}
+
+void USelection::PostEditUndo()
+{
+	Super::PostEditUndo();
+	for (const TWeakObjectPtr<UObject>& Object : Objects)
+	{
+		MarkSelected(Object.Get(), true);
+	}
+	NoteSelectionChanged();
+}
+
+void USelection::MarkSelected(UObject* Object, bool bSelected)
+{
+	if (AActor* Actor = Cast<AActor>(Object))
+	{
+		Actor->bSelected = bSelected;
+	}
+}
+
 void USelection::ForgetDestroyed() const
 {
-	Objects.RemoveAll([](const TWeakObjectPtr<UObject>& Object) { return !Object.IsValid(); });
+	Objects.RemoveAll([](const TWeakObjectPtr<UObject>& Object) {
+		if (!Object.IsValid())
+		{
+			MarkSelected(Object.Get(true), false); // an undo may bring it back
+		}
+		return !Object.IsValid();
+	});
 }

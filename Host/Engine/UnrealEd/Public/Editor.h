@@ -26,6 +26,9 @@ struct UNREALED_API FEditorDelegates
 
 	/** Once per editor, after the start-up map is open. */
 	static FOnEditorInitialized OnEditorInitialized;
+
+	/** After each undo and each redo: whoever shows values reads them again. */
+	static FSimpleMulticastDelegate PostUndoRedo;
 };
 
 /** Null before the engine starts and after it has gone down. */

@@ -7,7 +7,10 @@
 #include "UObject/WeakObjectPtrTemplates.h"
 #include "Selection.generated.h"
 
-/** What is selected in the editor, in order of selection. Does not keep it alive: what was destroyed is no longer selected. */
+/**
+ * What is selected in the editor, in order of selection. Does not keep it alive: what was destroyed is no longer selected.
+ * A step of undo that is open records changes of the selection; without one they cannot be undone.
+ */
 UCLASS(Transient)
 class UNREALED_API USelection : public UObject
 {
@@ -48,8 +51,16 @@ public:
 	/** Announces a change made through Select() and its like. */
 	void NoteSelectionChanged();
 
+	//~ Begin UObject
+	virtual bool Modify(bool bAlwaysMarkDirty = true) override;
+	virtual void PreEditUndo() override;
+	virtual void PostEditUndo() override;
+	//~ End UObject
+
 private:
 	void ForgetDestroyed() const;
+	static void MarkSelected(UObject* Object, bool bSelected);
 
+	UPROPERTY(Transient)
 	mutable TArray<TWeakObjectPtr<UObject>> Objects;
 };

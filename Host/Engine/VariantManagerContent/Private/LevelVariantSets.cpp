@@ -49,5 +49,11 @@ UVariantSet* ULevelVariantSets::GetVariantSetByName(FString VariantSetName)
 void ULevelVariantSets::PostLoad()
 {
 	Super::PostLoad();
-	List->NoteLoaded();
+	List->NoteElementsChanged();
+}
+
+void ULevelVariantSets::PostEditUndo()
+{
+	List->NoteElementsChanged();
+	Super::PostEditUndo();
 }

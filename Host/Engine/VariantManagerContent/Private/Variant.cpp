@@ -22,6 +22,17 @@ void UVariant::SetDisplayText(const FText& NewDisplayText)
 {
 	Modify();
 	DisplayText = NewDisplayText;
+	TellParent();
+}
+
+void UVariant::PostEditUndo()
+{
+	TellParent();
+	Super::PostEditUndo();
+}
+
+void UVariant::TellParent()
+{
 	if (UVariantSet* Parent = GetParent())
 	{
 		Parent->List->NoteTextChanged(*this);

@@ -103,8 +103,8 @@ public:
 		}
 	}
 
-	/** After loading: entries that could not be read are dropped. */
-	void NoteLoaded()
+	/** The elements are others now, after loading or an undo: entries that could not be read are dropped. */
+	void NoteElementsChanged()
 	{
 		Elements.RemoveAll([](const ElementType* Element) { return Element == nullptr; });
 		Invalidate();

@@ -26,6 +26,11 @@ void UVariantSet::SetDisplayText(const FText& NewDisplayText)
 {
 	Modify();
 	DisplayText = NewDisplayText;
+	TellParent();
+}
+
+void UVariantSet::TellParent()
+{
 	if (ULevelVariantSets* Parent = GetParent())
 	{
 		Parent->List->NoteTextChanged(*this);
@@ -65,7 +70,14 @@ UVariant* UVariantSet::GetVariantByName(FString VariantName)
 void UVariantSet::PostLoad()
 {
 	Super::PostLoad();
-	List->NoteLoaded();
+	List->NoteElementsChanged();
+}
+
+void UVariantSet::PostEditUndo()
+{
+	List->NoteElementsChanged();
+	TellParent();
+	Super::PostEditUndo();
 }
 
 void VariantList::LeaveParent(UVariantSet& VariantSet)

@@ -52,6 +52,7 @@ public:
 
 	//~ Begin UObject
 	virtual void PostLoad() override;
+	virtual void PostEditUndo() override;
 	//~ End UObject
 
 private:

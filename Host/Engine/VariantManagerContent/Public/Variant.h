@@ -27,7 +27,13 @@ public:
 	UFUNCTION(BlueprintPure, Category = "Variant")
 	FText GetDisplayText() const { return DisplayText; }
 
+	//~ Begin UObject
+	virtual void PostEditUndo() override;
+	//~ End UObject
+
 private:
+	void TellParent();
+
 	UPROPERTY()
 	FText DisplayText;
 };

@@ -63,10 +63,13 @@ public:
 
 	//~ Begin UObject
 	virtual void PostLoad() override;
+	virtual void PostEditUndo() override;
 	//~ End UObject
 
 private:
 	friend class UVariant;
+
+	void TellParent();
 
 	UPROPERTY()
 	FText DisplayText;

@@ -7,7 +7,7 @@
 void UTestDetails::PreEditChange(FProperty* Property)
 {
 	Super::PreEditChange(Property);
-	Told.Add(TEXT("before ") + Property->GetName());
+	Told.Add(TEXT("before ") + (Property != nullptr ? Property->GetName() : FString(TEXT("None"))));
 }
 
 void UTestDetails::PostEditChangeProperty(FPropertyChangedEvent& Event)

@@ -191,7 +191,6 @@ void FObjectTable::TearDown()
 		TransientPackage = nullptr;
 	} while (!Doomed.IsEmpty()); // a destructor may have asked for a default object
 	PackageLoader = nullptr;
-	ModifyRecorder = nullptr;
 }
 
 void FObjectTable::AddReferencer(FGCObject* Referencer)

@@ -49,11 +49,6 @@ void HostObjects::SetPackageLoader(TFunction<UPackage*(const FString& LongPackag
 	FObjectTable::Get().PackageLoader = MoveTemp(Loader);
 }
 
-void HostObjects::SetModifyRecorder(TFunction<bool(UObject*)> Recorder)
-{
-	FObjectTable::Get().ModifyRecorder = MoveTemp(Recorder);
-}
-
 UClass* HostObjects::DeriveClass(UClass* Parent, FName Name, UObject* Outer, UClass* ClassOfClass)
 {
 	checkf(ClassOfClass->IsChildOf(UClass::StaticClass()), TEXT("%s is not a class of classes."), *ClassOfClass->GetName());

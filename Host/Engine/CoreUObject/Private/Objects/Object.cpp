@@ -2,8 +2,10 @@
 
 #include "UObject/Object.h"
 
+#include "CoreGlobals.h"
 #include "HostState.h"
 #include "Misc/AssertionMacros.h"
+#include "Misc/ITransaction.h"
 #include "Objects/ObjectTable.h"
 #include "UObject/Interface.h"
 #include "UObject/Package.h"
@@ -152,8 +154,11 @@ bool UObject::MarkPackageDirty() const
 
 bool UObject::Modify(bool bAlwaysMarkDirty)
 {
-	const TFunction<bool(UObject*)>& Recorder = FObjectTable::Get().ModifyRecorder;
-	const bool bRecorded = HasAnyFlags(RF_Transactional) && Recorder && Recorder(this);
+	const bool bRecorded = GUndo != nullptr && HasAnyFlags(RF_Transactional) && !GetOutermost()->HasAnyPackageFlags(PKG_PlayInEditor);
+	if (bRecorded)
+	{
+		GUndo->SaveObject(this);
+	}
 	if (bAlwaysMarkDirty || bRecorded)
 	{
 		MarkPackageDirty();

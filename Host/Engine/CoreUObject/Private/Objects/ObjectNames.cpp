@@ -111,9 +111,13 @@ bool UObject::Rename(const TCHAR* NewName, UObject* NewOuter, ERenameFlags Flags
 		return true;
 	}
 	const bool bDirty = !(Flags & REN_DoNotDirty);
-	if (bDirty)
+	if (bDirty && !(Flags & REN_NonTransactional))
 	{
 		Modify();
+	}
+	else if (bDirty)
+	{
+		MarkPackageDirty();
 	}
 	UObject* OldOuter = OuterPrivate;
 	const FName OldName = NamePrivate;

@@ -97,7 +97,6 @@ public:
 	//~ Of the running editor
 	UPackage* GetTransientPackage();
 	TFunction<UPackage*(const FString&)> PackageLoader;
-	TFunction<bool(UObject*)> ModifyRecorder;
 
 private:
 	friend class FReachability;

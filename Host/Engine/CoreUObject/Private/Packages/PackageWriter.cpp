@@ -74,7 +74,7 @@ bool PackageFormat::FlagsFromText(const FString& Text, EObjectFlags& OutFlags)
 
 EObjectFlags PackageFormat::GetUsualFlags(bool bTopLevel)
 {
-	return bTopLevel ? RF_Public | RF_Standalone | RF_Transactional : RF_NoFlags;
+	return bTopLevel ? RF_Public | RF_Standalone | RF_Transactional : RF_Transactional; // whatever is in a file can be undone
 }
 
 namespace PackageWriter

@@ -138,8 +138,17 @@ public:
 
 	/** Dirties the package that would save this object. @return whether the package is dirty now; the transient package never is. */
 	bool MarkPackageDirty() const;
-	/** Announces a change: recorded for undo where the editor does that, and the package gets dirty. */
+	/**
+	 * Announces a change, before it is made: the package gets dirty, and the open step of undo, if any, records what the object is.
+	 * Only objects that are RF_Transactional are recorded.
+	 * @param bAlwaysMarkDirty false dirties the package only when the change is recorded
+	 * @return whether it is recorded
+	 */
 	virtual bool Modify(bool bAlwaysMarkDirty = true);
+
+	/** An undo or redo is about to change the object, and has changed it. All objects of a step are changed between the two. */
+	virtual void PreEditUndo() { PreEditChange(nullptr); }
+	virtual void PostEditUndo() { PostEditChange(); }
 
 	virtual void PreEditChange(FProperty*) {}
 	/** Something changed that is not one property. */

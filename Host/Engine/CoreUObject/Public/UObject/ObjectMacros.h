@@ -136,7 +136,7 @@ inline constexpr ERenameFlags REN_ForceNoResetLoaders = 0x0001;
 inline constexpr ERenameFlags REN_Test = 0x0002; // only says whether the rename would work
 inline constexpr ERenameFlags REN_DoNotDirty = 0x0004;
 inline constexpr ERenameFlags REN_DontCreateRedirectors = 0x0010;
-inline constexpr ERenameFlags REN_NonTransactional = 0x0020;
+inline constexpr ERenameFlags REN_NonTransactional = 0x0020; // undo does not take it back
 
 enum ELoadFlags : uint32
 {

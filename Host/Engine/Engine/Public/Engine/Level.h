@@ -25,5 +25,10 @@ public:
 
 	//~ Begin UObject
 	virtual UWorld* GetWorld() const override;
+	virtual void PreEditUndo() override;
+	virtual void PostEditUndo() override;
 	//~ End UObject
+
+private:
+	TArray<TObjectPtr<AActor>> ActorsBeforeUndo; // set while an undo or redo changes the level
 };

@@ -62,6 +62,7 @@ public:
 
 	//~ Begin UObject
 	virtual UWorld* GetWorld() const override;
+	virtual void PostEditUndo() override;
 	//~ End UObject
 
 private:

@@ -2,8 +2,11 @@
 
 #include "Values/PropertyChange.h"
 
+#include "ScopedTransaction.h"
 #include "UObject/StrongObjectPtr.h"
 #include "Values/PropertyNode.h"
+
+#define LOCTEXT_NAMESPACE "PropertyChange"
 
 namespace PropertyChange
 {
@@ -40,30 +43,41 @@ FPropertyAccess::Result FPropertyChange::Apply(EPropertyValueSetFlags::Type Flag
 	{
 		return FPropertyAccess::Fail;
 	}
-	if (!IsAnyNew(Values))
+	const bool bInteractive = (Flags & EPropertyValueSetFlags::InteractiveChange) != 0;
+	const bool bRecorded = !bInteractive && (Flags & EPropertyValueSetFlags::NotTransactable) == 0;
+	const bool bEndsInteraction = bRecorded && !Node->ValuesBeforeInteraction.IsEmpty();
+	if (!IsAnyNew(Values) && !bEndsInteraction)
 	{
 		return FPropertyAccess::Success;
+	}
+	const FScopedTransaction Transaction(FText::Format(LOCTEXT("EditProperty", "Edit {0}"), Node->GetDisplayName()), bRecorded);
+	if (bInteractive)
+	{
+		KeepValuesBeforeInteraction(Values);
+	}
+	else if (bEndsInteraction)
+	{
+		TakeInteractionBack(Values);
 	}
 	const TArray<UObject*> Objects = Node->GetObjects();
 	TArray<TStrongObjectPtr<UObject>> HeldWhileTelling;
 	for (UObject* Object : Objects)
 	{
 		HeldWhileTelling.Emplace(Object);
-		Object->PreEditChange(Node->GetProperty());
-		if ((Flags & EPropertyValueSetFlags::NotTransactable) != 0)
+		if (bRecorded)
 		{
-			Object->MarkPackageDirty();
+			Object->Modify(); // first: what it does when it is told belongs to the step
 		}
 		else
 		{
-			Object->Modify();
+			Object->MarkPackageDirty();
 		}
+		Object->PreEditChange(Node->GetProperty());
 	}
 	if (!Write())
 	{
 		return FPropertyAccess::Fail; // an object that was told took the value away
 	}
-	const bool bInteractive = (Flags & EPropertyValueSetFlags::InteractiveChange) != 0;
 	TellObjects(Objects, bInteractive ? EPropertyChangeType::Interactive : ChangeType);
 	TellListeners();
 	return FPropertyAccess::Success;
@@ -93,6 +107,30 @@ bool FPropertyChange::Write() const
 		Node->GetProperty()->CopyCompleteValue(Values[Index], GetNewValue(Index));
 	}
 	return true;
+}
+
+void FPropertyChange::KeepValuesBeforeInteraction(const TArray<void*>& Values) const
+{
+	if (!Node->ValuesBeforeInteraction.IsEmpty())
+	{
+		return;
+	}
+	for (const void* Value : Values)
+	{
+		const TSharedRef<FScratchValue> Kept = MakeShared<FScratchValue>(Node->GetProperty());
+		Node->GetProperty()->CopyCompleteValue(Kept->Get(), Value);
+		Node->ValuesBeforeInteraction.Add(Kept);
+	}
+}
+
+/** For as long as it takes to record the objects: the new value is written right after that. */
+void FPropertyChange::TakeInteractionBack(const TArray<void*>& Values) const
+{
+	for (int32 Index = 0; Index < Values.Num() && Values.Num() == Node->ValuesBeforeInteraction.Num(); ++Index)
+	{
+		Node->GetProperty()->CopyCompleteValue(Values[Index], Node->ValuesBeforeInteraction[Index]->Get());
+	}
+	Node->ValuesBeforeInteraction.Empty();
 }
 
 void FPropertyChange::TellObjects(const TArray<UObject*>& Objects, EPropertyChangeType::Type ChangeType) const
@@ -130,3 +168,5 @@ void FPropertyChange::TellListeners() const
 		Each->OnChildValueChanged.Broadcast();
 	}
 }
+
+#undef LOCTEXT_NAMESPACE

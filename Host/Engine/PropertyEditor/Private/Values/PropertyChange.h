@@ -21,6 +21,7 @@ public:
 
 	/**
 	 * Tells the objects, writes, tells the objects again, then the listeners of the property, of what is below it and of what is above it.
+	 * All that is one step of undo; interactive changes belong to the step of the change that ends them.
 	 * @return a failure, with nothing written, when there is no value (any more) or it lies in a set; a success also when nothing is new, and then nobody is told
 	 */
 	FPropertyAccess::Result Apply(EPropertyValueSetFlags::Type Flags, EPropertyChangeType::Type ChangeType = EPropertyChangeType::ValueSet);
@@ -28,6 +29,8 @@ public:
 private:
 	bool IsAnyNew(const TArray<void*>& Values) const;
 	bool Write() const;
+	void KeepValuesBeforeInteraction(const TArray<void*>& Values) const;
+	void TakeInteractionBack(const TArray<void*>& Values) const;
 	void TellObjects(const TArray<UObject*>& Objects, EPropertyChangeType::Type ChangeType) const;
 	void TellListeners() const;
 

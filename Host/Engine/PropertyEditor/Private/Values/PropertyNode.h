@@ -63,6 +63,9 @@ public:
 	/** Raised when a handle changed something below it. */
 	FSimpleMulticastDelegate OnChildValueChanged;
 
+	/** What the objects had before interactive changes that no undo knows of yet, one per object; empty between interactions. */
+	TArray<TSharedRef<FScratchValue>> ValuesBeforeInteraction;
+
 private:
 	void* GoFrom(void* ParentValue, const FPropertyNode& ParentNode) const;
 	TSharedRef<FPropertyNode> AddChild(FProperty* ChildProperty, int32 ChildIndex = INDEX_NONE);

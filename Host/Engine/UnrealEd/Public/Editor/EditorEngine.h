@@ -9,6 +9,7 @@
 
 class AActor;
 class USelection;
+class UTransactor;
 
 /** The engine as the editor runs it: one open world, a selection, viewports. */
 UCLASS(Config = Engine, Transient)
@@ -40,6 +41,27 @@ public:
 	/** Never null between Init() and PreExit(). */
 	USelection* GetSelectedActors() const { return SelectedActors; }
 	int32 GetSelectedActorCount() const;
+
+	//~ Undo. Steps are forgotten when another map opens; saving keeps them, and undoing afterwards dirties what was saved.
+
+	/** See FScopedTransaction, which ends what it begins. @return how many are open around it; INDEX_NONE when none can be recorded now. */
+	int32 BeginTransaction(const FText& Description);
+	int32 EndTransaction();
+
+	/** @return false when there is nothing to undo, or a step is open. Without bCanRedo the step is forgotten. */
+	bool UndoTransaction(bool bCanRedo = true);
+	bool RedoTransaction();
+
+	/** Whether steps can be recorded: there is a buffer, and nothing is being undone. */
+	bool CanTransact();
+	bool IsTransactionActive() const;
+
+	/** Forgets all steps. */
+	void ResetTransaction(const FText& Reason);
+
+	/** Null before Init() and after PreExit(). */
+	UPROPERTY(Transient)
+	TObjectPtr<UTransactor> Trans;
 
 	//~ Viewports
 

@@ -1,0 +1,77 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "Editor/Transactor.h"
+#include "Transactions/ObjectRecord.h"
+
+namespace Transaction
+{
+	/** All objects are told before the first changes and after the last has changed: no one sees half of a step. */
+	void Apply(const TArray<FObjectRecord*>& Records, void (FObjectRecord::*Restore)())
+	{
+		const TGuardValue<bool> Transacting(GIsTransacting, true);
+		for (const FObjectRecord* Record : Records)
+		{
+			Record->GetObject().PreEditUndo();
+		}
+		for (FObjectRecord* Record : Records)
+		{
+			(Record->*Restore)();
+		}
+		for (const FObjectRecord* Record : Records)
+		{
+			Record->GetObject().PostEditUndo();
+		}
+	}
+}
+
+FTransaction::FTransaction(const FText& InTitle)
+	: Title(InTitle)
+{
+}
+
+FTransaction::~FTransaction() = default;
+
+void FTransaction::SaveObject(UObject* Object)
+{
+	bool bSaved = false;
+	Saved.Add(Object, &bSaved);
+	if (!bSaved)
+	{
+		Records.Add(MakeUnique<FObjectRecord>(*Object));
+	}
+}
+
+bool FTransaction::Finish()
+{
+	Records.RemoveAll([](const TUniquePtr<FObjectRecord>& Record) { return !Record->Finish(); });
+	Saved.Empty();
+	return !Records.IsEmpty();
+}
+
+void FTransaction::Undo()
+{
+	TArray<FObjectRecord*> LastFirst;
+	for (int32 Index = Records.Num() - 1; Index >= 0; --Index)
+	{
+		LastFirst.Add(Records[Index].Get());
+	}
+	Transaction::Apply(LastFirst, &FObjectRecord::RestoreBefore);
+}
+
+void FTransaction::Redo()
+{
+	TArray<FObjectRecord*> FirstFirst;
+	for (const TUniquePtr<FObjectRecord>& Record : Records)
+	{
+		FirstFirst.Add(Record.Get());
+	}
+	Transaction::Apply(FirstFirst, &FObjectRecord::RestoreAfter);
+}
+
+void FTransaction::AddReferencedObjects(FReferenceCollector& Collector)
+{
+	for (const TUniquePtr<FObjectRecord>& Record : Records)
+	{
+		Record->AddReferencedObjects(Collector);
+	}
+}
