@@ -67,6 +67,47 @@ TEST_F(ConfiguratorRefresh, AddsWhatIsNewToTheLevelVariantSets)
 	EXPECT_THAT(DescribeVariants(Asset), ElementsAre("Kitchen - Fronts: Oak, Lacquer, Steel"));
 }
 
+TEST_F(ConfiguratorRefresh, WhatItBringsIsAnUnsavedChange)
+{
+	UVelmorantConfiguratorDataAsset* Asset = StartWithGrownConfigurator();
+	UVelmorantEditorUtilitiesLibrary::CreateVariantSetFromConfigurator(Asset);
+	SaveAll();
+	Refresh(Asset);
+	EXPECT_THAT(Unsaved(), IsEmpty()) << "nothing has come yet";
+	Wait(0.0);
+	EXPECT_THAT(Unsaved(), ElementsAre("/Game/Velmorant/Configurator/Configurator_Tower", "/Game/Velmorant/Configurator/LevelVariant_Tower"));
+	SaveAndRestart();
+	Asset = LoadObject<UVelmorantConfiguratorDataAsset>(nullptr, TEXT("/Game/Velmorant/Configurator/Configurator_Tower.Configurator_Tower"));
+	ASSERT_NE(Asset, nullptr);
+	EXPECT_THAT(DescribeRooms(Asset), ElementsAre("Kitchen/Fronts: Oak, Lacquer, Steel"));
+}
+
+TEST_F(ConfiguratorRefresh, LeavesEverythingCleanThatIsThereAlready)
+{
+	UVelmorantConfiguratorDataAsset* Asset = StartWithGrownConfigurator();
+	UVelmorantEditorUtilitiesLibrary::CreateVariantSetFromConfigurator(Asset);
+	Refresh(Asset);
+	Wait(0.0);
+	SaveAll();
+	Refresh(Asset);
+	Wait(0.0);
+	EXPECT_THAT(Unsaved(), IsEmpty());
+
+	ULevelVariantSets* LevelVariantSets = CastChecked<ULevelVariantSets>(Asset->LevelVariantSets.ResolveObject());
+	LevelVariantSets->RemoveVariantSets(LevelVariantSets->GetVariantSets()); // shows whether they are filled again
+	SaveAll();
+	Raise(EUpdateRequestDataType::ConfiguratorData);
+	EXPECT_THAT(Describe(LevelVariantSets), ElementsAre("Kitchen - Fronts: Oak, Lacquer, Steel"));
+	EXPECT_THAT(Unsaved(), ElementsAre("/Game/Velmorant/Configurator/LevelVariant_Tower")) << "the record is the same";
+
+	WriteConfigurators(R"({"name": "Tower", "rooms": [{"name": "Kitchen", "groups": [{"name": "Fronts", "products": ["Oak", "lacquer", "Steel"]}]}]})");
+	SaveAll();
+	Refresh(Asset);
+	Wait(0.0);
+	EXPECT_THAT(DescribeRooms(Asset), ElementsAre("Kitchen/Fronts: Oak, lacquer, Steel"));
+	EXPECT_THAT(Unsaved(), ElementsAre("/Game/Velmorant/Configurator/Configurator_Tower")) << "letter case is a change of the record";
+}
+
 TEST_F(ConfiguratorRefresh, CopiesOnlyTheRecordWhenThePathIsNotLoaded)
 {
 	UVelmorantConfiguratorDataAsset* Asset = StartWithGrownConfigurator();

@@ -4,9 +4,10 @@
 #include "Editor.h"
 #include "Engine/World.h"
 #include "EngineUtils.h"
+#include "HostDetailsView.h"
 #include "HostEditor.h"
-#include "HostPackages.h"
 #include "LevelVariantSets.h"
+#include "PropertyHandle.h"
 #include "Selection.h"
 #include "UObject/Package.h"
 #include "VelmorantConfiguratorDataAsset.h"
@@ -20,6 +21,8 @@ namespace
 {
 	const FOutcome Found{"Found LevelVariant at Current Level", "Updated current Actor with Configurator Data", SNotificationItem::CS_Success, 7.0f};
 	const FOutcome NoActor{"Failed Configuration Create LevelVariantActor", "Couldn't create a LevelVariantActor in current level", SNotificationItem::CS_Fail, 7.0f};
+
+	const TCHAR* const Map = TEXT("/Game/Maps/Tower");
 
 	UWorld* GetWorld()
 	{
@@ -48,10 +51,9 @@ protected:
 	/** A data asset "/Game/Towers/<Name>" with a path to level variant sets, which need not exist. */
 	static UVelmorantConfiguratorDataAsset* MakeDataAsset(const TCHAR* Name)
 	{
-		UVelmorantConfiguratorDataAsset* Asset = NewObject<UVelmorantConfiguratorDataAsset>(CreatePackage(*(FString(TEXT("/Game/Towers/")) + Name)), Name, RF_Public | RF_Standalone);
+		UVelmorantConfiguratorDataAsset* Asset = MakeDataAssetAt(TEXT("/Game/Towers"), Name);
 		Asset->ConfiguratorName = Name;
 		Asset->LevelVariantSets = FSoftObjectPath(FString(TEXT("/Game/Towers/Sets.")) + Name);
-		Asset->MarkPackageDirty();
 		return Asset;
 	}
 };
@@ -76,15 +78,13 @@ TEST_F(LevelVariantActor, IsSelectedAloneAndInView)
 	StartEditor();
 	AActor* Other = GetWorld()->SpawnActor(AActor::StaticClass());
 	GEditor->SelectActor(Other, true, true);
-	bool bToldOfSelection = false;
-	USelection::SelectionChangedEvent.AddLambda([&bToldOfSelection](UObject* Selection) {
-		bToldOfSelection = CastChecked<USelection>(Selection)->GetTop<AVelmorantLevelVariantSetsActor>() != nullptr;
-	});
+	std::vector<AActor*> Told; // the first selected actor, at each announcement
+	USelection::SelectionChangedEvent.AddLambda([&Told](UObject* Selection) { Told.push_back(CastChecked<USelection>(Selection)->GetTop<AActor>()); });
 	Place(MakeDataAsset(TEXT("Tower")));
 
 	EXPECT_EQ(GEditor->GetSelectedActorCount(), 1);
 	EXPECT_TRUE(GEditor->GetSelectedActors()->IsSelected(FindActors()[0]));
-	EXPECT_TRUE(bToldOfSelection);
+	EXPECT_THAT(Told, ElementsAre(FindActors()[0]));
 	for (const HostEditor::FViewport& Viewport : HostEditor::GetViewports())
 	{
 		EXPECT_EQ(Viewport.NumMoves, Viewport.bActive ? 1 : 0) << ToUtf8(Viewport.Name);
@@ -106,6 +106,17 @@ TEST_F(LevelVariantActor, IsUpdatedTheSecondTime)
 	EXPECT_EQ(ToUtf8(FindActors()[0]->LevelVariantSets.ToString()), "/Game/Towers/Sets.Loft");
 	EXPECT_EQ(FindActors()[0]->ConfiguratorData, Other);
 	EXPECT_EQ(FindActors()[0]->GetActorLocation(), FVector(1.0, 2.0, 3.0)) << "the designer has moved it";
+	EXPECT_TRUE(GEditor->GetSelectedActors()->IsSelected(FindActors()[0]));
+}
+
+TEST_F(LevelVariantActor, IsSelectedAlthoughItIsHidden)
+{
+	StartEditor();
+	Place(MakeDataAsset(TEXT("Tower")));
+	FHostDetailsView(TArray<UObject*>{FindActors()[0]}).FindHandle(TEXT("bHidden"))->SetValue(true);
+	GEditor->SelectNone(true, true);
+	Place(MakeDataAsset(TEXT("Loft")));
+	EXPECT_TRUE(FindActors()[0]->IsHidden());
 	EXPECT_TRUE(GEditor->GetSelectedActors()->IsSelected(FindActors()[0]));
 }
 
@@ -177,20 +188,28 @@ TEST_F(LevelVariantActor, DoesNothingWithoutADataAsset)
 	EXPECT_TRUE(FindActors().empty());
 }
 
-TEST_F(LevelVariantActor, IsFoundAgainInASavedLevel)
+TEST_F(LevelVariantActor, IsFoundAgainInASavedLevelAndItsUpdateIsAnUnsavedChange)
 {
 	StartEditor();
-	ASSERT_TRUE(HostEditor::SaveOpenMapAs(TEXT("/Game/Maps/Tower")));
+	ASSERT_TRUE(HostEditor::SaveOpenMapAs(Map));
+	MakeDataAsset(TEXT("Loft"));
 	Place(MakeDataAsset(TEXT("Tower")));
-	ASSERT_TRUE(HostPackages::SaveAll().Succeeded());
-
-	StartEditor();
-	ASSERT_EQ(HostEditor::OpenMap(TEXT("/Game/Maps/Tower")), HostEditor::EOpenMap::Opened);
+	SaveAndRestart(Map);
 	ASSERT_EQ(FindActors().size(), 1u);
 	EXPECT_EQ(FindActors()[0]->GetActorLocation(), FVector(0.0, 0.0, 500.0));
 	EXPECT_EQ(ToUtf8(FindActors()[0]->LevelVariantSets.ToString()), "/Game/Towers/Sets.Tower");
 	ASSERT_NE(FindActors()[0]->ConfiguratorData, nullptr);
 	EXPECT_EQ(ToUtf8(FindActors()[0]->ConfiguratorData->GetPathName()), "/Game/Towers/Tower.Tower");
+
 	Place(FindActors()[0]->ConfiguratorData);
 	EXPECT_THAT(TakeOutcomes(), ElementsAre(Found));
+	EXPECT_THAT(Unsaved(), IsEmpty()) << "it has this data already";
+
+	Place(LoadObject<UVelmorantConfiguratorDataAsset>(nullptr, TEXT("/Game/Towers/Loft.Loft")));
+	EXPECT_THAT(Unsaved(), ElementsAre("/Game/Maps/Tower"));
+	SaveAndRestart(Map);
+	ASSERT_EQ(FindActors().size(), 1u);
+	EXPECT_EQ(ToUtf8(FindActors()[0]->LevelVariantSets.ToString()), "/Game/Towers/Sets.Loft");
+	ASSERT_NE(FindActors()[0]->ConfiguratorData, nullptr);
+	EXPECT_EQ(ToUtf8(FindActors()[0]->ConfiguratorData->ConfiguratorName), "Loft");
 }

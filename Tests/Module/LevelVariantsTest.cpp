@@ -1,7 +1,6 @@
 // Copyright Velmorant. All Rights Reserved.
 
 #include "ConfiguratorTest.h"
-#include "HostPackages.h"
 #include "HostQuestions.h"
 #include "LevelVariantSets.h"
 #include "UObject/Package.h"
@@ -45,12 +44,19 @@ protected:
 	/** A data asset in memory, "/Game/Towers/Data", with one room. */
 	UVelmorantConfiguratorDataAsset* MakeDataAsset(const TCHAR* ConfiguratorName, std::initializer_list<FVelmorantConfigGroup> Groups)
 	{
-		UVelmorantConfiguratorDataAsset* Asset = NewObject<UVelmorantConfiguratorDataAsset>(CreatePackage(TEXT("/Game/Towers/Data")), TEXT("Data"), RF_Public | RF_Standalone);
+		UVelmorantConfiguratorDataAsset* Asset = MakeDataAssetAt(TEXT("/Game/Towers"), TEXT("Data"));
 		Asset->ConfiguratorName = ConfiguratorName;
 		FVelmorantConfigRoom& Room = Asset->ConfiguratorUnit.Rooms.AddDefaulted_GetRef();
 		Room.Name = TEXT("Kitchen");
 		Room.Groups = Groups;
-		Asset->MarkPackageDirty();
+		return Asset;
+	}
+
+	/** The data asset that an earlier editor saved. */
+	static UVelmorantConfiguratorDataAsset* LoadDataAsset()
+	{
+		UVelmorantConfiguratorDataAsset* Asset = LoadObject<UVelmorantConfiguratorDataAsset>(nullptr, TEXT("/Game/Towers/Data.Data"));
+		EXPECT_NE(Asset, nullptr);
 		return Asset;
 	}
 };
@@ -155,8 +161,7 @@ TEST_F(LevelVariants, AdoptsAnAssetThatIsOnDiskOnly)
 {
 	StartEditor();
 	MakeLevelVariantSets(TEXT("/Game/Elsewhere"), TEXT("Old_Tower"));
-	ASSERT_TRUE(HostPackages::SaveAll().Succeeded());
-	StartEditor();
+	SaveAndRestart();
 	UVelmorantConfiguratorDataAsset* Asset = MakeDataAsset(TEXT("Tower"), {MakeGroup(TEXT("Fronts"), {TEXT("Oak")})});
 	Generate(Asset);
 	EXPECT_THAT(TakeOutcomes(), ElementsAre(Adopted));
@@ -172,6 +177,74 @@ TEST_F(LevelVariants, MakesANewAssetForAPathThatIsNotLoadedAlthoughItTellsOfAnUp
 	Generate(Asset);
 	EXPECT_THAT(TakeOutcomes(), ElementsAre(Updated, Created));
 	EXPECT_EQ(ToUtf8(Asset->LevelVariantSets.ToString()), "/Game/Towers/LevelVariant_Tower.LevelVariant_Tower");
+}
+
+TEST_F(LevelVariants, TheLinkOfASavedDataAssetIsAnUnsavedChange)
+{
+	const struct
+	{
+		const char* Behaviour;
+		const TCHAR* Existing; // level variant sets that are there already
+		const TCHAR* OldPath; // what the data asset names at first
+		const char* Linked;
+	} Cases[] = {
+		{"created", nullptr, TEXT(""), "/Game/Towers/LevelVariant_Tower.LevelVariant_Tower"},
+		{"adopted", TEXT("Old_Tower"), TEXT(""), "/Game/Elsewhere/Old_Tower.Old_Tower"},
+		{"created in place of one that is gone", nullptr, TEXT("/Game/Gone/Sets.Sets"), "/Game/Towers/LevelVariant_Tower.LevelVariant_Tower"},
+	};
+	for (const auto& Case : Cases)
+	{
+		SCOPED_TRACE(Case.Behaviour);
+		std::filesystem::remove_all(Folder.GetNative("Project/Content"));
+		StartEditor();
+		if (Case.Existing)
+		{
+			MakeLevelVariantSets(TEXT("/Game/Elsewhere"), Case.Existing);
+		}
+		MakeDataAsset(TEXT("Tower"), {MakeGroup(TEXT("Fronts"), {TEXT("Oak")})})->LevelVariantSets = FSoftObjectPath(FString(Case.OldPath));
+		SaveAndRestart();
+
+		Generate(LoadDataAsset());
+		EXPECT_THAT(Unsaved(), ElementsAre(Case.Existing ? "/Game/Elsewhere/Old_Tower" : "/Game/Towers/Data", Case.Existing ? "/Game/Towers/Data" : "/Game/Towers/LevelVariant_Tower"));
+		SaveAndRestart();
+		UVelmorantConfiguratorDataAsset* Asset = LoadDataAsset();
+		EXPECT_EQ(ToUtf8(Asset->LevelVariantSets.ToString()), Case.Linked);
+		ASSERT_NE(Asset->LevelVariantSets.TryLoad(), nullptr);
+		EXPECT_THAT(DescribeVariants(Asset), ElementsAre("Kitchen - Fronts: Oak"));
+
+		Generate(Asset);
+		EXPECT_THAT(Unsaved(), IsEmpty()) << "all of that is there already";
+	}
+}
+
+TEST_F(LevelVariants, OnlyWhatChangesIsUnsaved)
+{
+	StartEditor();
+	UVelmorantConfiguratorDataAsset* Asset = MakeDataAsset(TEXT("Tower"), {MakeGroup(TEXT("Fronts"), {TEXT("Oak")})});
+	Generate(Asset);
+	SaveAll();
+	Asset->ConfiguratorUnit.Rooms[0].Groups = {MakeGroup(TEXT("FRONTS"), {TEXT("Oak")})};
+	Generate(Asset);
+	EXPECT_THAT(Unsaved(), ElementsAre("/Game/Towers/LevelVariant_Tower")) << "the text of the set is another";
+	SaveAll();
+	Asset->ConfiguratorUnit.Rooms[0].Groups[0].Products.AddDefaulted_GetRef().Name = TEXT("Steel");
+	Generate(Asset);
+	EXPECT_THAT(Unsaved(), ElementsAre("/Game/Towers/LevelVariant_Tower"));
+}
+
+TEST_F(LevelVariants, WhoListensToTheSetsMayChangeTheRoomsMeanwhile)
+{
+	StartEditor();
+	UVelmorantConfiguratorDataAsset* Asset = MakeDataAsset(TEXT("Tower"), {MakeGroup(TEXT("Fronts"), {TEXT("Oak"), TEXT("Steel")}), MakeGroup(TEXT("Worktop"), {TEXT("Stone")})});
+	const FDelegateHandle Listener = FCoreUObjectDelegates::OnObjectModified.AddLambda([Asset](UObject* Object) {
+		if (Object->IsA<ULevelVariantSets>())
+		{
+			Asset->ConfiguratorUnit.Rooms.Empty();
+		}
+	});
+	Generate(Asset);
+	FCoreUObjectDelegates::OnObjectModified.Remove(Listener);
+	EXPECT_THAT(DescribeVariants(Asset), ElementsAre("Kitchen - Fronts: Oak, Steel", "Kitchen - Worktop: Stone"));
 }
 
 TEST_F(LevelVariants, BlanksInTheNameBecomeUnderscores)
@@ -198,15 +271,14 @@ TEST_F(LevelVariants, NeverReplacesASavedAssetUnasked)
 	StartEditor();
 	UVelmorantConfiguratorDataAsset* Asset = MakeDataAsset(TEXT("Tower A"), {MakeGroup(TEXT("Fronts"), {TEXT("Oak")})});
 	Generate(Asset);
-	ASSERT_TRUE(HostPackages::SaveAll().Succeeded());
+	SaveAll();
 	const std::string Saved = ReadProjectFile("Content/Towers/LevelVariant_Tower_A.uasset.json");
 
 	StartEditor(); // on disk, not loaded
 	TakeModuleLog();
-	Asset = LoadObject<UVelmorantConfiguratorDataAsset>(nullptr, TEXT("/Game/Towers/Data.Data"));
-	ASSERT_NE(Asset, nullptr);
-	Generate(Asset);
+	Generate(LoadDataAsset());
 	EXPECT_THAT(TakeOutcomes(), ElementsAre(Updated, NoSets, FillFailed));
+	EXPECT_THAT(Unsaved(), IsEmpty());
 	EXPECT_THAT(TakeModuleLog(), ElementsAre(FillFailedLine));
 	ASSERT_EQ(HostQuestions::GetAsked().Num(), 1);
 	EXPECT_EQ(ToUtf8(HostQuestions::GetAsked()[0].Question.Kind), "ReplaceAsset");
@@ -250,11 +322,8 @@ TEST_F(LevelVariants, SavedAssetsLoadBackEqualAndGoOnFromThere)
 	UVelmorantConfiguratorDataAsset* Asset = MakeDataAsset(TEXT("Tower"), {MakeGroup(TEXT("Fronts"), {TEXT("Oak"), TEXT("Grès \"Alcalá\"")}), MakeGroup(TEXT("Empty"), {})});
 	Generate(Asset);
 	const std::vector<std::string> Before = DescribeVariants(Asset);
-	ASSERT_TRUE(HostPackages::SaveAll().Succeeded());
-
-	StartEditor();
-	Asset = LoadObject<UVelmorantConfiguratorDataAsset>(nullptr, TEXT("/Game/Towers/Data.Data"));
-	ASSERT_NE(Asset, nullptr);
+	SaveAndRestart();
+	Asset = LoadDataAsset();
 	ASSERT_NE(Asset->LevelVariantSets.TryLoad(), nullptr);
 	EXPECT_EQ(DescribeVariants(Asset), Before);
 	Asset->ConfiguratorUnit.Rooms[0].Groups[1] = MakeGroup(TEXT("Empty"), {TEXT("Full")});

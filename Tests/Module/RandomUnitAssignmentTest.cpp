@@ -2,8 +2,9 @@
 
 #include "Editor.h"
 #include "Engine/World.h"
+#include "EngineUtils.h"
+#include "HostEditor.h"
 #include "ToolkitTest.h"
-#include "UObject/Package.h"
 #include "UnitVolumeActor.h"
 #include "VelmorantEditorUtilitiesLibrary.h"
 #include "VelmorantProjectRequestManager.h"
@@ -14,7 +15,7 @@ using testing::IsEmpty;
 class RandomUnitAssignment : public FToolkitTest
 {
 protected:
-	/** Starts with three units in the target unit group, and so many volumes, without unit, in a saved-looking level. */
+	/** Starts with three units in the target unit group, and so many volumes, without unit, in a saved level. */
 	void StartWithVolumes(int32 NumVolumes)
 	{
 		WriteHarborTower(R"("unitGroups": [
@@ -34,14 +35,12 @@ protected:
 		{
 			Volumes.Add(GetWorld().SpawnActor<AUnitVolumeActor>());
 		}
-		GetWorld().GetPackage()->SetDirtyFlag(false);
+		ASSERT_TRUE(HostEditor::CanSaveOpenMap() ? HostEditor::SaveOpenMap() : HostEditor::SaveOpenMapAs(Map));
 	}
 
 	static void SetTarget(const TCHAR* KeyCode) { GetRequests()->SetSelectedUnitGroup(FName(KeyCode)); }
 
 	static bool Assign() { return UVelmorantEditorUtilitiesLibrary::AssignRandomUnitsFromDataIntoLevel(); }
-
-	static bool IsLevelDirty() { return GetWorld().GetPackage()->IsDirty(); }
 
 	std::vector<std::string> Describe() const
 	{
@@ -53,6 +52,8 @@ protected:
 		return Units;
 	}
 
+	static constexpr const TCHAR* Map = TEXT("/Game/Maps/Units");
+
 	TArray<AUnitVolumeActor*> Volumes;
 };
 
@@ -61,8 +62,22 @@ TEST_F(RandomUnitAssignment, GoesFromTheEndOfTheListInTheOrderOfTheVolumes)
 	StartWithVolumes(3);
 	EXPECT_TRUE(Assign());
 	EXPECT_THAT(Describe(), ElementsAre("5 a-3", "3 A-2", "7 A-1"));
-	EXPECT_TRUE(IsLevelDirty());
 	EXPECT_THAT(TakeOutcomes(), IsEmpty());
+}
+
+TEST_F(RandomUnitAssignment, IsAnUnsavedChangeOfTheLevel)
+{
+	StartWithVolumes(2);
+	EXPECT_THAT(Unsaved(), IsEmpty());
+	Assign();
+	EXPECT_THAT(Unsaved(), ElementsAre("/Game/Maps/Units"));
+	SaveAndRestart(Map);
+	Volumes.Empty();
+	for (TActorIterator<AUnitVolumeActor> Volume(&GetWorld()); Volume; ++Volume)
+	{
+		Volumes.Add(*Volume);
+	}
+	EXPECT_THAT(Describe(), ElementsAre("5 a-3", "3 A-2"));
 }
 
 TEST_F(RandomUnitAssignment, GivesTheSameUnitsAgain)
@@ -109,7 +124,7 @@ TEST_F(RandomUnitAssignment, IsSilentlyFalseWithoutAnythingToAssign)
 	SetTarget(TEXT("B"));
 	EXPECT_FALSE(Assign()) << "no units";
 	EXPECT_THAT(Describe(), ElementsAre("-1 "));
-	EXPECT_FALSE(IsLevelDirty());
+	EXPECT_THAT(Unsaved(), IsEmpty());
 	EXPECT_THAT(TakeOutcomes(), IsEmpty());
 }
 
@@ -123,6 +138,6 @@ TEST_F(RandomUnitAssignment, IsSilentlyFalseAtEveryMissingLinkToTheTarget)
 	EXPECT_FALSE(Assign()) << "no project";
 	SelectProject(TEXT("HT"));
 	EXPECT_FALSE(Assign()) << "no target";
-	EXPECT_FALSE(IsLevelDirty());
+	EXPECT_THAT(Unsaved(), IsEmpty());
 	EXPECT_THAT(TakeOutcomes(), IsEmpty());
 }

@@ -41,6 +41,11 @@ UVelmorantConfiguratorDataAsset* FConfiguratorTest::FindAsset(const TCHAR* Path)
 	return FindObject<UVelmorantConfiguratorDataAsset>(nullptr, Path);
 }
 
+UVelmorantConfiguratorDataAsset* FConfiguratorTest::MakeDataAssetAt(const TCHAR* AssetFolder, const TCHAR* Name)
+{
+	return CastChecked<UVelmorantConfiguratorDataAsset>(IAssetTools::Get().CreateAsset(Name, AssetFolder, UVelmorantConfiguratorDataAsset::StaticClass(), nullptr));
+}
+
 ULevelVariantSets* FConfiguratorTest::MakeLevelVariantSets(const TCHAR* AssetFolder, const TCHAR* Name)
 {
 	return CastChecked<ULevelVariantSets>(IAssetTools::Get().CreateAsset(Name, AssetFolder, ULevelVariantSets::StaticClass(), nullptr));

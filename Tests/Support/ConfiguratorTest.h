@@ -20,6 +20,9 @@ protected:
 	/** Null when there is no such asset in memory. */
 	static UVelmorantConfiguratorDataAsset* FindAsset(const TCHAR* Path);
 
+	/** Makes a data asset without data through the asset tools; like any new asset it is unsaved. */
+	static UVelmorantConfiguratorDataAsset* MakeDataAssetAt(const TCHAR* Folder, const TCHAR* Name);
+
 	/** Makes an empty asset through the asset tools, at "/Game/Folder/Name". */
 	static ULevelVariantSets* MakeLevelVariantSets(const TCHAR* Folder, const TCHAR* Name);
 

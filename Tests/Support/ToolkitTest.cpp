@@ -2,6 +2,9 @@
 
 #include "ToolkitTest.h"
 
+#include "HostEditor.h"
+#include "HostPackages.h"
+#include "UObject/Package.h"
 #include "VelmorantDeveloperUser.h"
 #include "VelmorantProjectRequestManager.h"
 #include "VelmorantSDKEngineSubsystem.h"
@@ -119,6 +122,32 @@ std::vector<FOutcome> FToolkitTest::TakeOutcomes()
 		Outcomes.push_back({ToUtf8(Notification.Text), ToUtf8(Notification.SubText), Notification.State, Notification.ExpireDuration});
 	}
 	return Outcomes;
+}
+
+std::vector<std::string> FToolkitTest::Unsaved()
+{
+	std::vector<std::string> Names;
+	for (const UPackage* Package : HostPackages::GetDirtyPackages())
+	{
+		Names.push_back(ToUtf8(Package->GetName()));
+	}
+	return Names;
+}
+
+void FToolkitTest::SaveAll()
+{
+	EXPECT_TRUE(HostPackages::SaveAll().Succeeded());
+	EXPECT_THAT(Unsaved(), testing::IsEmpty());
+}
+
+void FToolkitTest::SaveAndRestart(const TCHAR* Level)
+{
+	SaveAll();
+	StartEditor();
+	if (Level)
+	{
+		ASSERT_EQ(HostEditor::OpenMap(Level), HostEditor::EOpenMap::Opened);
+	}
 }
 
 std::vector<std::string> FToolkitTest::TakeLog(const TCHAR* Category)

@@ -91,6 +91,14 @@ protected:
 	std::vector<std::string> TakeModuleLog() { return TakeLog(TEXT("LogVelmorantProEditor")); }
 	std::vector<std::string> TakeSdkLog() { return TakeLog(TEXT("LogVelmorantSDK")); }
 
+	//~ What a designer would lose, and keeps
+	/** Names of the packages with unsaved changes. */
+	static std::vector<std::string> Unsaved();
+	/** Saves everything; the test fails when something is left. */
+	static void SaveAll();
+	/** Saves everything and starts the editor again, with Level open when there is one. */
+	void SaveAndRestart(const TCHAR* Level = nullptr);
+
 	/** The whole log in one text, to look for what must not be in it. */
 	static std::string WholeLog();
 

@@ -8,8 +8,10 @@
 #include "IAssetTools.h"
 #include "LevelVariantSets.h"
 #include "ProjectWrapper.h"
+#include "ScopedTransaction.h"
 #include "UObject/Package.h"
 #include "VelmorantAssetQueries.h"
+#include "VelmorantChange.h"
 #include "VelmorantConfiguratorDataAsset.h"
 #include "VelmorantDeveloperUser.h"
 #include "VelmorantProEditor.h"
@@ -18,6 +20,8 @@
 #include "VelmorantSelectedProject.h"
 
 #include <cwctype>
+
+#define LOCTEXT_NAMESPACE "FVelmorantProEditor"
 
 namespace VelmorantConfiguratorAssets
 {
@@ -79,7 +83,7 @@ namespace VelmorantConfiguratorAssets
 		const FVelmorantConfigUnit* Unit = Configurator.GetConfigtorUnitCollection().Find(ConfiguratorName);
 		if (Unit)
 		{
-			DataAsset.ConfiguratorUnit = *Unit;
+			VelmorantChange::Write(DataAsset, DataAsset.ConfiguratorUnit, *Unit);
 		}
 		return Unit != nullptr;
 	}
@@ -91,6 +95,7 @@ namespace VelmorantConfiguratorAssets
 			return;
 		}
 
+		const FScopedTransaction Transaction(LOCTEXT("UpdateLevelVariantSetDataTransaction", "Update LevelVariantSet Data"));
 		if (CopyUnitRecord(*Configurator, ConfiguratorName, *DataAsset))
 		{
 			if (ULevelVariantSets* LevelVariantSets = Cast<ULevelVariantSets>(DataAsset->LevelVariantSets.ResolveObject()))
@@ -172,3 +177,5 @@ bool UVelmorantEditorUtilitiesLibrary::UpdateConfiguratorDataAssetInfo(UVelmoran
 	NotifyPopup(TEXT("Success Configuration Updated"), TEXT(""), SNotificationItem::CS_Success, VelmorantConfiguratorAssets::OutcomeSeconds);
 	return true;
 }
+
+#undef LOCTEXT_NAMESPACE

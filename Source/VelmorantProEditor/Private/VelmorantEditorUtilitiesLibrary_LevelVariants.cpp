@@ -9,20 +9,30 @@
 #include "IAssetTools.h"
 #include "LevelVariantSets.h"
 #include "Misc/Paths.h"
+#include "ScopedTransaction.h"
 #include "UObject/Package.h"
 #include "Variant.h"
 #include "VariantSet.h"
 #include "VelmorantAssetQueries.h"
+#include "VelmorantChange.h"
 #include "VelmorantConfiguratorDataAsset.h"
 #include "VelmorantLevelVariantSetsActor.h"
 #include "VelmorantProEditor.h"
 #include "VelmorantVariantHandler.h"
+
+#define LOCTEXT_NAMESPACE "FVelmorantProEditor"
 
 namespace VelmorantLevelVariants
 {
 	const float OutcomeSeconds = 7.0f;
 	const FVector SpawnLocation(0.0, 0.0, 500.0); // whatever the level holds
 	const TCHAR* const NameSeparator = TEXT("_");
+
+	void Assign(const ULevelVariantSets& LevelVariantSets, UVelmorantConfiguratorDataAsset& DataAsset)
+	{
+		VelmorantChange::Begin(DataAsset);
+		DataAsset.LevelVariantSets.SetPath(LevelVariantSets.GetPathName());
+	}
 
 	/** Finds level variant sets whose asset name ends in "_" and the configurator's name, and assigns them to the data asset. */
 	ULevelVariantSets* AdoptExisting(UVelmorantConfiguratorDataAsset& DataAsset)
@@ -39,7 +49,7 @@ namespace VelmorantLevelVariants
 			ULevelVariantSets* LevelVariantSets = Cast<ULevelVariantSets>(Asset.GetAsset());
 			if (LevelVariantSets)
 			{
-				DataAsset.LevelVariantSets.SetPath(LevelVariantSets->GetPathName());
+				Assign(*LevelVariantSets, DataAsset);
 				UVelmorantEditorUtilitiesLibrary::NotifyPopup(TEXT("Success Configuration Assigned Existing Asset"), TEXT("It exits an LevelVariantSets with the suffix and had been assigned to configurator"), SNotificationItem::CS_Success, OutcomeSeconds);
 			}
 			return LevelVariantSets;
@@ -65,7 +75,7 @@ namespace VelmorantLevelVariants
 		ULevelVariantSets* LevelVariantSets = Cast<ULevelVariantSets>(IAssetTools::Get().CreateAsset(TEXT("LevelVariant_") + CleanName, Folder, ULevelVariantSets::StaticClass(), nullptr));
 		if (LevelVariantSets)
 		{
-			DataAsset.LevelVariantSets.SetPath(LevelVariantSets->GetPathName());
+			Assign(*LevelVariantSets, DataAsset);
 			UVelmorantEditorUtilitiesLibrary::NotifyPopup(TEXT("Success Configuration Create LevelVariantSet"), TEXT(""), SNotificationItem::CS_Success, OutcomeSeconds);
 		}
 		return LevelVariantSets;
@@ -83,12 +93,25 @@ namespace VelmorantLevelVariants
 				continue;
 			}
 
-			UVariant* Variant = NewObject<UVariant>(GetTransientPackage());
+			UVariant* Variant = NewObject<UVariant>(GetTransientPackage(), NAME_None, RF_Transactional);
 			Variant->SetDisplayText(FText::FromString(Product.Name));
 			NewVariants.Add(Variant);
 			NewNames.Add(Product.Name);
 		}
-		VariantSet.AddVariants(NewVariants);
+		if (!NewVariants.IsEmpty()) // adding none would dirty the asset all the same
+		{
+			VelmorantChange::Begin(VariantSet);
+			VariantSet.AddVariants(NewVariants);
+		}
+	}
+
+	void WriteDisplayText(UVariantSet& VariantSet, const FString& Text)
+	{
+		if (!VariantSet.GetDisplayText().ToString().Equals(Text)) // writing it again would dirty the asset all the same
+		{
+			VelmorantChange::Begin(VariantSet);
+			VariantSet.SetDisplayText(FText::FromString(Text));
+		}
 	}
 
 	void AddMissingGroup(ULevelVariantSets& LevelVariantSets, const FVelmorantConfigRoom& Room, const FVelmorantConfigGroup& Group)
@@ -99,13 +122,14 @@ namespace VelmorantLevelVariants
 		const bool bNewSet = VariantSet == nullptr;
 		if (bNewSet)
 		{
-			VariantSet = NewObject<UVariantSet>(GetTransientPackage());
+			VariantSet = NewObject<UVariantSet>(GetTransientPackage(), NAME_None, RF_Transactional);
 		}
 
 		AddMissingVariants(*VariantSet, Group);
-		VariantSet->SetDisplayText(FText::FromString(Name));
+		WriteDisplayText(*VariantSet, Name);
 		if (bNewSet)
 		{
+			VelmorantChange::Begin(LevelVariantSets);
 			LevelVariantSets.AddVariantSets({VariantSet});
 		}
 	}
@@ -139,11 +163,22 @@ namespace VelmorantLevelVariants
 		return Actor;
 	}
 
+	void Assign(UVelmorantConfiguratorDataAsset& DataAsset, AVelmorantLevelVariantSetsActor& Actor)
+	{
+		if (Actor.LevelVariantSets != DataAsset.LevelVariantSets || Actor.ConfiguratorData != &DataAsset)
+		{
+			VelmorantChange::Begin(Actor);
+			Actor.LevelVariantSets = DataAsset.LevelVariantSets;
+			Actor.ConfiguratorData = &DataAsset;
+		}
+	}
+
 	void ShowToDesigner(AActor& Actor)
 	{
+		const bool bSelectEvenIfHidden = true;
 		GEditor->SelectNone(false, true);
-		GEditor->SelectActor(&Actor, true, true);
-		GEditor->NoteSelectionChange();
+		GEditor->SelectActor(&Actor, true, false, bSelectEvenIfHidden);
+		GEditor->NoteSelectionChange(); // once, for both
 		GEditor->MoveViewportCamerasToActor(Actor, true);
 	}
 }
@@ -163,6 +198,7 @@ void UVelmorantEditorUtilitiesLibrary::CreateVariantSetFromConfigurator(UVelmora
 		return;
 	}
 
+	const FScopedTransaction Transaction(LOCTEXT("CreateLevelVariantSetTransaction", "Create LevelVariantSet"));
 	ULevelVariantSets* LevelVariantSets = ConfiguratorData->LevelVariantSets.IsNull()
 		? VelmorantLevelVariants::AdoptExisting(*ConfiguratorData)
 		: VelmorantLevelVariants::ResolveAssigned(*ConfiguratorData);
@@ -194,8 +230,9 @@ bool UVelmorantEditorUtilitiesLibrary::FillOutLevelVariantWithConfigurator(UVelm
 		return true; // nothing to add
 	}
 
-	// Read in place: nothing below changes the record, and large configurators are costly to copy.
-	for (const FVelmorantConfigRoom& Room : ConfiguratorData->ConfiguratorUnit.Rooms)
+	const FScopedTransaction Transaction(LOCTEXT("FillOutLevelVariantSetTransaction", "Fill Out LevelVariantSet"));
+	const TArray<FVelmorantConfigRoom> Rooms = ConfiguratorData->ConfiguratorUnit.Rooms; // a copy: whoever is told of the changes may change the record
+	for (const FVelmorantConfigRoom& Room : Rooms)
 	{
 		for (const FVelmorantConfigGroup& Group : Room.Groups)
 		{
@@ -212,6 +249,7 @@ void UVelmorantEditorUtilitiesLibrary::CreateLevelVariantActorInLevel(UVelmorant
 		return;
 	}
 
+	const FScopedTransaction Transaction(LOCTEXT("PlaceLevelVariantActorTransaction", "Place LevelVariantActor into Level"));
 	if (ConfiguratorData->LevelVariantSets.IsNull())
 	{
 		CreateVariantSetFromConfigurator(ConfiguratorData);
@@ -220,8 +258,9 @@ void UVelmorantEditorUtilitiesLibrary::CreateLevelVariantActorInLevel(UVelmorant
 	AVelmorantLevelVariantSetsActor* Actor = VelmorantLevelVariants::FindOrSpawnActor();
 	if (Actor)
 	{
-		Actor->LevelVariantSets = ConfiguratorData->LevelVariantSets;
-		Actor->ConfiguratorData = ConfiguratorData;
+		VelmorantLevelVariants::Assign(*ConfiguratorData, *Actor);
 		VelmorantLevelVariants::ShowToDesigner(*Actor);
 	}
 }
+
+#undef LOCTEXT_NAMESPACE

@@ -6,9 +6,13 @@
 #include "Engine/World.h"
 #include "Kismet/GameplayStatics.h"
 #include "ProjectWrapper.h"
+#include "ScopedTransaction.h"
 #include "UnitGroupWrapper.h"
 #include "UnitVolumeActor.h"
+#include "VelmorantChange.h"
 #include "VelmorantSelectedProject.h"
+
+#define LOCTEXT_NAMESPACE "FVelmorantProEditor"
 
 bool UVelmorantEditorUtilitiesLibrary::AssignRandomUnitsFromDataIntoLevel()
 {
@@ -27,6 +31,7 @@ bool UVelmorantEditorUtilitiesLibrary::AssignRandomUnitsFromDataIntoLevel()
 		return false;
 	}
 
+	const FScopedTransaction Transaction(LOCTEXT("AssignUnitsTransaction", "Assign Units to Unit Volumes"));
 	for (AActor* Actor : Volumes)
 	{
 		AUnitVolumeActor* Volume = Cast<AUnitVolumeActor>(Actor);
@@ -41,9 +46,11 @@ bool UVelmorantEditorUtilitiesLibrary::AssignRandomUnitsFromDataIntoLevel()
 
 		// From the end of the list, in the order in which the volumes are found: not random at all, on purpose.
 		const FUnitData Unit = Units.Pop();
-		Volume->UniqueIdentifier = FUnitVolumeUniqueIdentifier(Unit.UnitID, Unit.KeyCode);
+		VelmorantChange::Write(*Volume, Volume->UniqueIdentifier, FUnitVolumeUniqueIdentifier(Unit.UnitID, Unit.KeyCode));
 		Volume->MarkPackageDirty();
 		Volume->PostEditChange();
 	}
 	return true;
 }
+
+#undef LOCTEXT_NAMESPACE
