@@ -1,10 +1,12 @@
 // Copyright Velmorant. All Rights Reserved.
 
 #include "DetailsTest.h"
+#include "Editor.h"
 #include "Engine/Engine.h"
 #include "FontIconData.h"
 #include "HostObjects.h"
 #include "HostSnapshot.h"
+#include "ScopedTransaction.h"
 #include "UObject/Package.h"
 #include "UObject/StrongObjectPtr.h"
 #include "VelmorantProUISettings.h"
@@ -249,6 +251,46 @@ TEST_F(FontIconCustomization, KeepsTheTableOfItsIcons)
 	View.Reset();
 	HostObjects::CollectGarbage();
 	EXPECT_FALSE(Weak.IsValid());
+}
+
+TEST_F(FontIconCustomization, FollowsUndoAndRedo)
+{
+	const AVlmInteractiveSpot* Spot = OpenIcon(TEXT("Ship"), TEXT("Thin"), TEXT("anchor"));
+	Choose(TEXT("Icon Style"), TEXT("Bold"));
+	PickTile(TEXT("Buoy"));
+	Choose(TEXT("Font Icon Name"), TEXT("House"));
+	const auto Expect = [this](const char* Font, const char* Icon, const std::vector<std::string>& Icons) {
+		Wait(0.0);
+		EXPECT_EQ(Read(TEXT("Font Icon Name")), Font);
+		EXPECT_EQ(Read(TEXT("Icon Name")), Icon);
+		EXPECT_EQ(Tiles(), Icons);
+	};
+	GEditor->UndoTransaction();
+	Expect("Ship", "Buoy", {"anchor", "boat-house", "[Buoy]"});
+	GEditor->UndoTransaction();
+	Expect("Ship", "anchor", {"[anchor]", "boat-house", "Buoy"});
+	GEditor->UndoTransaction();
+	Expect("Ship", "anchor", {"[anchor]", "sail-boat", "Buoy"});
+	GEditor->RedoTransaction();
+	GEditor->RedoTransaction();
+	Expect("Ship", "Buoy", {"anchor", "boat-house", "[Buoy]"});
+	PickTile(TEXT("anchor"));
+	EXPECT_EQ(ToUtf8(Spot->Icon.IconName), "anchor") << "a click on the tile that undo left selected before";
+}
+
+TEST_F(FontIconCustomization, IsSilentWhenUndoTakesTheObjectAway)
+{
+	AVlmInteractiveSpot* Spot = nullptr;
+	{
+		const FScopedTransaction Transaction(FText::FromString(TEXT("Spawn")));
+		Spot = SpawnSpot();
+	}
+	Spot->Icon = FFontIconHandler("Ship", "Thin", "anchor");
+	Open({Spot});
+	GEditor->UndoTransaction();
+	Wait(0.0);
+	EXPECT_TRUE(View->GetObjects().IsEmpty());
+	EXPECT_THAT(WholeLog(), Not(HasSubstr("FPropertyAccess::Fail")));
 }
 
 TEST_F(FontIconCustomization, RaisesItsChecksOnceTheObjectIsGone)

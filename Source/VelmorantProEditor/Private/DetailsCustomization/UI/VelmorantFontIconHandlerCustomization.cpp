@@ -240,3 +240,14 @@ void FVelmorantFontIconHandlerCustomization::OnFontOrStyleChanged()
 	FillSource();
 	UpdateFilterListView(); // the search text stays, and applies to the new font or style
 }
+
+void FVelmorantFontIconHandlerCustomization::OnUndoRedo()
+{
+	// The object itself may be what was taken away: then there is nothing to show any more.
+	if (IconNameHandle.IsValid() && IconNameHandle->IsValidHandle())
+	{
+		OnFontOrStyleChanged();
+		TileView->ClearSelection();
+		SelectCurrentIconName();
+	}
+}

@@ -101,6 +101,9 @@ private:
 	void OnIconNameChanged();
 
 	void OnFontOrStyleChanged();
+
+	/** Handles do not tell of what undo and redo write. */
+	void OnUndoRedo();
 	void FillOptions();
 	void RefreshDropDowns();
 

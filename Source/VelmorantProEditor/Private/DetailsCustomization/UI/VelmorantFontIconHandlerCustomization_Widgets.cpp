@@ -4,6 +4,7 @@
 
 #include "DetailWidgetRow.h"
 #include "DetailsCustomization/UI/VelmorantPropertyOptions.h"
+#include "Editor.h"
 #include "FontIconHandler.h"
 #include "IDetailChildrenBuilder.h"
 #include "IDetailPropertyRow.h"
@@ -87,6 +88,7 @@ void FVelmorantFontIconHandlerCustomization::CustomizeChildren(TSharedRef<IPrope
 	{
 		IconNameHandle->SetOnPropertyValueChanged(FSimpleDelegate::CreateSP(this, &FVelmorantFontIconHandlerCustomization::OnIconNameChanged));
 	}
+	FEditorDelegates::PostUndoRedo.AddSP(this, &FVelmorantFontIconHandlerCustomization::OnUndoRedo);
 	FillSource();
 	SelectCurrentIconName();
 }
