@@ -197,3 +197,66 @@ TEST_F(FScriptSteps, RemembersTheUserOverRestartsAndLogins)
 	EXPECT_EQ(Result.Output.find("harbor-2026"), std::string::npos) << Result.Output;
 	EXPECT_TRUE(std::filesystem::exists(Folder.GetNative("UserConfig")));
 }
+
+TEST_F(FScriptSteps, StepsAreTakenBackAndDoneAgain)
+{
+	const std::string Place = SignIn + CreateAsset +
+		"select /Game/Velmorant/Configurator/Configurator_GardenFlat\n"
+		"action ConfiguratorDataAsset_CreateLevelVariantSet\n"
+		"action ConfiguratorDataAsset_CreateLevelVariantActor\n"
+		"inspect actor:VelmorantLevelVariantSetsActor as Sets\n"
+		"type Sets ActorLabel \"Garden flat\"\n"
+		"save\n";
+	const FProgramResult Result = Do(Place +
+		"undo\n"
+		"expect no row Sets ActorLabel value \"Garden flat\"\n"
+		"undo\n"
+		"expect actors VelmorantLevelVariantSetsActor 0\n"
+		"expect unsaved /Game/Maps/HarborTower\n"
+		"print undo\n"
+		"redo\n"
+		"redo\n"
+		"expect property actor:VelmorantLevelVariantSetsActor ActorLabel \"Garden flat\"\n"
+		"undo\n"
+		"undo\n"
+		"save\n"
+		"restart\n"
+		"expect actors VelmorantLevelVariantSetsActor 0\n"
+		"print undo\n");
+	EXPECT_NE(Result.Output.find("    undone: Edit Actor Label\n"), std::string::npos) << Result.Output;
+	EXPECT_NE(Result.Output.find("    redone: Place LevelVariantActor into Level\n"), std::string::npos) << Result.Output;
+	EXPECT_NE(Result.Output.find("> print undo\n"
+								 "    Create LevelVariantSet <- undo\n"
+								 "    Place LevelVariantActor into Level (undone) <- redo\n"
+								 "    Edit Actor Label (undone)\n"),
+		std::string::npos)
+		<< Result.Output;
+	EXPECT_NE(Result.Output.find("> print undo\n", Result.Output.find("> restart")), std::string::npos) << Result.Output;
+	EXPECT_EQ(Result.Output.find("LevelVariantSet <- undo", Result.Output.find("> restart")), std::string::npos) << "another editor has no steps yet";
+}
+
+TEST_F(FScriptSteps, NothingToUndoOrRedoIsAFailure)
+{
+	const std::string Edit = "inspect \"actor:Spot harbour promenade\"\ntype Details ActorLabel Quay\n";
+	const struct
+	{
+		std::string Script;
+		const char* Message;
+	} Cases[] = {
+		{"undo\n", "(1): failed: there is nothing to undo"},
+		{"redo\n", "(1): failed: there is nothing to redo"},
+		{Edit + "redo\n", "(3): failed: there is nothing to redo"},
+		{Edit + "undo\nundo\n", "(4): failed: there is nothing to undo"},
+		{Edit + "undo\ntype Details ActorLabel Pier\nredo\n", "(5): failed: there is nothing to redo"},
+		{Edit + "save\nopen level /Game/Maps/HarborTower\nundo\n", "(5): failed: there is nothing to undo"},
+	};
+	for (const auto& Case : Cases)
+	{
+		const FProgramResult Result = RunScript(Case.Script);
+		EXPECT_EQ(Result.ExitStatus, 1) << Case.Script;
+		EXPECT_NE(Result.Errors.find(Case.Message), std::string::npos) << Result.Errors << Case.Script;
+	}
+	const FProgramResult Json = RunScript("undo\n", {"--json"});
+	EXPECT_NE(Json.Output.find(R"("message":"there is nothing to undo")"), std::string::npos) << Json.Output;
+	EXPECT_NE(Json.Output.find(R"("outcome":"failed")"), std::string::npos) << Json.Output;
+}

@@ -37,7 +37,7 @@ private:
 enum class EStepOutcome : uint8
 {
 	Done,
-	Failed, // an expectation did not hold
+	Failed, // an expectation did not hold, or there was nothing to do
 	Error, // the step could not be done
 };
 
@@ -47,6 +47,7 @@ struct FStepResult
 	FString Message; // empty when done
 
 	static FStepResult Done() { return {}; }
+	static FStepResult Failed(const FString& InMessage) { return {EStepOutcome::Failed, InMessage}; }
 	static FStepResult Error(const FString& InMessage) { return {EStepOutcome::Error, InMessage}; }
 };
 
