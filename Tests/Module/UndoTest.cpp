@@ -7,6 +7,7 @@
 #include "EngineUtils.h"
 #include "HostEditor.h"
 #include "HostObjects.h"
+#include "HostQuestions.h"
 #include "LevelVariantSets.h"
 #include "Selection.h"
 #include "UnitVolumeActor.h"
@@ -127,6 +128,23 @@ TEST_F(UndoOfOperations, AdoptedSetsAreWhatTheyWere)
 	Redo();
 	EXPECT_EQ(Asset->LevelVariantSets.ResolveObject(), Sets);
 	EXPECT_THAT(Describe(Sets), ElementsAre("Kitchen - Fronts: Oak, Lacquer"));
+}
+
+TEST_F(UndoOfOperations, AnAssetThatWasReplacedDoesNotComeBack)
+{
+	StartWithConfigurators(R"({"name": "Tower A", "rooms": [{"name": "Kitchen", "groups": [{"name": "Fronts", "products": ["Oak"]}]}]})");
+	UVelmorantConfiguratorDataAsset* Asset = CreateAsset(TEXT("Tower A"));
+	ULevelVariantSets* Replaced = MakeLevelVariantSets(TEXT("/Game/Velmorant/Configurator"), TEXT("LevelVariant_Tower_A"));
+	HostQuestions::SetResponder([](const FHostQuestion&) { return FHostAnswer{TEXT("Yes"), {}}; });
+	Generate(Asset);
+	UObject* Sets = Asset->LevelVariantSets.ResolveObject();
+	ASSERT_NE(Sets, nullptr);
+	ASSERT_NE(Sets, Replaced);
+	ASSERT_TRUE(Undo());
+	EXPECT_TRUE(Asset->LevelVariantSets.IsNull());
+	EXPECT_FALSE(IsValid(Replaced));
+	EXPECT_EQ(Replaced->GetOutermost(), GetTransientPackage());
+	EXPECT_EQ(FindObject<ULevelVariantSets>(nullptr, TEXT("/Game/Velmorant/Configurator/LevelVariant_Tower_A.LevelVariant_Tower_A")), Sets);
 }
 
 TEST_F(UndoOfOperations, NothingIsLeftOfTheLinkAfterUndoSaveAndRestart)

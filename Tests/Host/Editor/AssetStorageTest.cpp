@@ -210,7 +210,6 @@ TEST_F(FAssetStorage, KeepsBlueprintsWhoseClassOthersReferTo)
 	ASSERT_NE(Blueprint, nullptr);
 	UTestAsset* User = MakeAsset(TEXT("/Game/User"));
 	User->Kind = Blueprint->GeneratedClass;
-	Blueprint->MarkPackageDirty();
 	ASSERT_EQ(HostPackages::SaveAll().WrittenFiles.Num(), 2) << Problems();
 
 	Restart();
@@ -236,7 +235,8 @@ TEST_F(FAssetStorage, DoesNotSaveAnAssetWhoseReferencesWereLost)
 	EXPECT_EQ(Keeper->Other.Get(), nullptr);
 	EXPECT_NE(Problems().find("/Objects/0/Properties/Other"), std::string::npos) << Problems();
 
-	Keeper->MarkPackageDirty();
+	Keeper->Modify();
+	Keeper->Count = 4;
 	EXPECT_FALSE(HostPackages::SaveAll().Succeeded());
 	EXPECT_EQ(ReadContent("Keeper.uasset.json"), Before);
 	EXPECT_EQ(HostPackages::GetDirtyPackages().Num(), 1) << "still unsaved";
@@ -349,7 +349,7 @@ TEST_F(FAssetStorage, ReadsClassesWithAFormatOfTheirOwnAndDoesNotWriteThem)
 	UTestAsset* Asset = LoadTestAsset(TEXT("/Game/Layout"));
 	ASSERT_NE(Asset, nullptr) << Problems();
 	EXPECT_EQ(Utf8(Asset->Text), File);
-	Asset->MarkPackageDirty();
+	Asset->Modify();
 	EXPECT_TRUE(HostPackages::GetDirtyPackages().IsEmpty()) << "there is nothing to lose";
 	EXPECT_FALSE(HostPackages::Save(Asset->GetPackage()).Succeeded());
 	EXPECT_EQ(ReadContent("Layout.uasset.json"), File);

@@ -75,7 +75,7 @@ UTestAsset* FAssetTestEditor::MakeAsset(const TCHAR* PackageName) const
 	FString(PackageName).Split(TEXT("/"), nullptr, &ShortName, ESearchCase::CaseSensitive, ESearchDir::FromEnd);
 	UTestAsset* Asset = NewObject<UTestAsset>(CreatePackage(PackageName), FName(*ShortName), RF_Public | RF_Standalone | RF_Transactional);
 	FAssetRegistryModule::AssetCreated(Asset);
-	Asset->MarkPackageDirty();
+	Asset->Modify();
 	return Asset;
 }
 
