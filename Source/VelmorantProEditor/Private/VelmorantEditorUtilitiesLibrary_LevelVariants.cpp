@@ -10,6 +10,7 @@
 #include "LevelVariantSets.h"
 #include "Misc/Paths.h"
 #include "ScopedTransaction.h"
+#include "Selection.h"
 #include "UObject/Package.h"
 #include "Variant.h"
 #include "VariantSet.h"
@@ -176,6 +177,7 @@ namespace VelmorantLevelVariants
 	void ShowToDesigner(AActor& Actor)
 	{
 		const bool bSelectEvenIfHidden = true;
+		GEditor->GetSelectedActors()->Modify(); // undo brings the old selection back
 		GEditor->SelectNone(false, true);
 		GEditor->SelectActor(&Actor, true, false, bSelectEvenIfHidden);
 		GEditor->NoteSelectionChange(); // once, for both
