@@ -32,9 +32,11 @@ FObjectRecord::FObjectRecord(UObject& InObject)
 	, Before(InObject)
 	, After(InObject)
 {
-	for (TFieldIterator<FProperty> Property(Object->GetClass()); Property; ++Property)
+	const auto& Properties = Object->GetClass()->GetAllProperties();
+	Values.Reserve(Properties.Num());
+	for (const FProperty* Property : Properties)
 	{
-		Values.Add({*Property, ObjectRecord::Copy(*Object, **Property), nullptr});
+		Values.Add({Property, ObjectRecord::Copy(*Object, *Property), nullptr});
 	}
 }
 

@@ -6,7 +6,7 @@ int32 UTransBuffer::Begin(const TCHAR*, const FText& Description)
 {
 	if (ActiveCount == 0)
 	{
-		Open = MakeShared<FTransaction>(Description);
+		Open = MakeShared<FUndoStep>(Description);
 		GUndo = Open.Get();
 	}
 	return ActiveCount++;
@@ -23,7 +23,7 @@ int32 UTransBuffer::End()
 		return ActiveCount;
 	}
 	GUndo = nullptr;
-	const TSharedRef<FTransaction> Ended = Open.ToSharedRef();
+	const TSharedRef<FUndoStep> Ended = Open.ToSharedRef();
 	Open.Reset();
 	if (Ended->Finish())
 	{
@@ -59,7 +59,7 @@ bool UTransBuffer::Undo(bool bCanRedo)
 	}
 	++UndoCount;
 	const int32 Index = Steps.Num() - UndoCount;
-	const TSharedRef<FTransaction> Step = Steps[Index];
+	const TSharedRef<FUndoStep> Step = Steps[Index];
 	if (!bCanRedo)
 	{
 		Steps.RemoveAt(Index);
@@ -75,7 +75,7 @@ bool UTransBuffer::Redo()
 	{
 		return false;
 	}
-	const TSharedRef<FTransaction> Step = Steps[Steps.Num() - UndoCount];
+	const TSharedRef<FUndoStep> Step = Steps[Steps.Num() - UndoCount];
 	--UndoCount;
 	Step->Redo();
 	return true;
@@ -90,7 +90,7 @@ void UTransBuffer::BeginDestroy()
 void UTransBuffer::AddReferencedObjects(UObject* InThis, FReferenceCollector& Collector)
 {
 	UTransBuffer* This = static_cast<UTransBuffer*>(InThis);
-	for (const TSharedRef<FTransaction>& Step : This->Steps)
+	for (const TSharedRef<FUndoStep>& Step : This->Steps)
 	{
 		Step->AddReferencedObjects(Collector);
 	}

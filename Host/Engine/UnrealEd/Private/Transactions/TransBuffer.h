@@ -5,6 +5,7 @@
 #include "CoreMinimal.h"
 #include "Editor/Transactor.h"
 #include "Templates/SharedPointer.h"
+#include "Transactions/UndoStep.h"
 #include "TransBuffer.generated.h"
 
 /** The editor's steps of undo, without a limit to their number. */
@@ -34,8 +35,8 @@ public:
 private:
 	bool CanApply() const { return !IsActive() && !GIsTransacting; }
 
-	TArray<TSharedRef<FTransaction>> Steps; // shared: whoever is told of an undo may empty the buffer
+	TArray<TSharedRef<FUndoStep>> Steps; // shared: whoever is told of an undo may empty the buffer
 	int32 UndoCount = 0; // the last ones of Steps are undone
-	TSharedPtr<FTransaction> Open; // GUndo
+	TSharedPtr<FUndoStep> Open; // GUndo
 	int32 ActiveCount = 0; // calls of Begin() without an End()
 };

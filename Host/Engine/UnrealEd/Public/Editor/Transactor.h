@@ -4,43 +4,23 @@
 
 #include "CoreMinimal.h"
 #include "Misc/ITransaction.h"
-#include "Templates/UniquePtr.h"
 #include "UObject/Object.h"
 #include "Transactor.generated.h"
 
-class FObjectRecord;
-
-/**
- * One step of undo: what its objects were before and after it. While somebody can undo or redo it, it keeps alive its objects and
- * what their values refer to.
- */
+/** One step that can be undone. */
 class UNREALED_API FTransaction : public ITransaction
 {
 public:
-	explicit FTransaction(const FText& InTitle);
-	virtual ~FTransaction() override;
-
 	FText GetTitle() const { return Title; }
 
-	//~ Begin ITransaction
-	virtual void SaveObject(UObject* Object) override;
-	//~ End ITransaction
-
-	//~ Host: for the buffer that has the step
-
-	/** Nothing more is recorded. @return whether anything is different now. */
-	bool Finish();
-
-	/** Gives the objects back what they had before the step, or what they had after it, and dirties their packages. */
-	void Undo();
-	void Redo();
-
-	void AddReferencedObjects(FReferenceCollector& Collector);
+protected:
+	explicit FTransaction(const FText& InTitle)
+		: Title(InTitle)
+	{
+	}
 
 private:
 	FText Title;
-	TArray<TUniquePtr<FObjectRecord>> Records; // in the order of the first changes
-	TSet<const UObject*> Saved; // those with a record
 };
 
 /** The steps that can be undone and redone. GEditor has one. */

@@ -1,9 +1,10 @@
 // Copyright Velmorant. All Rights Reserved.
 
-#include "Editor/Transactor.h"
+#include "Transactions/UndoStep.h"
+
 #include "Transactions/ObjectRecord.h"
 
-namespace Transaction
+namespace UndoStep
 {
 	/** All objects are told before the first changes and after the last has changed: no one sees half of a step. */
 	void Apply(const TArray<FObjectRecord*>& Records, void (FObjectRecord::*Restore)())
@@ -24,14 +25,14 @@ namespace Transaction
 	}
 }
 
-FTransaction::FTransaction(const FText& InTitle)
-	: Title(InTitle)
+FUndoStep::FUndoStep(const FText& InTitle)
+	: FTransaction(InTitle)
 {
 }
 
-FTransaction::~FTransaction() = default;
+FUndoStep::~FUndoStep() = default;
 
-void FTransaction::SaveObject(UObject* Object)
+void FUndoStep::SaveObject(UObject* Object)
 {
 	bool bSaved = false;
 	Saved.Add(Object, &bSaved);
@@ -41,34 +42,34 @@ void FTransaction::SaveObject(UObject* Object)
 	}
 }
 
-bool FTransaction::Finish()
+bool FUndoStep::Finish()
 {
 	Records.RemoveAll([](const TUniquePtr<FObjectRecord>& Record) { return !Record->Finish(); });
 	Saved.Empty();
 	return !Records.IsEmpty();
 }
 
-void FTransaction::Undo()
+void FUndoStep::Undo()
 {
 	TArray<FObjectRecord*> LastFirst;
 	for (int32 Index = Records.Num() - 1; Index >= 0; --Index)
 	{
 		LastFirst.Add(Records[Index].Get());
 	}
-	Transaction::Apply(LastFirst, &FObjectRecord::RestoreBefore);
+	UndoStep::Apply(LastFirst, &FObjectRecord::RestoreBefore);
 }
 
-void FTransaction::Redo()
+void FUndoStep::Redo()
 {
 	TArray<FObjectRecord*> FirstFirst;
 	for (const TUniquePtr<FObjectRecord>& Record : Records)
 	{
 		FirstFirst.Add(Record.Get());
 	}
-	Transaction::Apply(FirstFirst, &FObjectRecord::RestoreAfter);
+	UndoStep::Apply(FirstFirst, &FObjectRecord::RestoreAfter);
 }
 
-void FTransaction::AddReferencedObjects(FReferenceCollector& Collector)
+void FUndoStep::AddReferencedObjects(FReferenceCollector& Collector)
 {
 	for (const TUniquePtr<FObjectRecord>& Record : Records)
 	{
