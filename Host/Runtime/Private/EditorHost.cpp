@@ -2,6 +2,8 @@
 
 #include "EditorHost.h"
 
+#include "CoreGlobals.h"
+#include "Framework/Notifications/NotificationManager.h"
 #include "HostClock.h"
 #include "HostConfig.h"
 #include "HostDelayedRegistration.h"
@@ -111,7 +113,11 @@ void FEditorHost::BringUpEngine(const FEditorHostOptions& Options)
 	HostPlugins::Discover(HostPaths::GetPluginDirs());
 	MountContent();
 	HostEditor::Create();
-	HostSlate::Start();
+	if (!IsRunningCommandlet())
+	{
+		HostSlate::Start();
+	}
+	FSlateNotificationManager::Get().SetAllowNotifications(Options.bAllowNotifications);
 }
 
 void FEditorHost::MountContent()

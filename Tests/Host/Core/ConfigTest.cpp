@@ -79,6 +79,30 @@ namespace
 		EXPECT_TRUE(GConfig->DoesSectionExist(TEXT("t"), File));
 	}
 
+	TEST_F(Config, ACopyOfASingleFileFollowsWhatTheEditorWrites)
+	{
+		const auto MakeLines = [](const TCHAR* Value) { return TArray<TPair<FString, FString>>{TPair<FString, FString>(TEXT("A"), Value)}; };
+		for (const bool bOverlay : {false, true})
+		{
+			SCOPED_TRACE(bOverlay ? "in the overlay" : "on disk");
+			Folder.Write("Config/DefaultEngine.ini", "[T]\nB=1\n");
+			Restart();
+			if (bOverlay)
+			{
+				HostFiles::BeginOverlay();
+			}
+			EXPECT_EQ(GetSection(File, TEXT("S")), std::vector<std::string>{"no such section"});
+			EXPECT_EQ(GetArray(GEngineIni, TEXT("A")), std::vector<std::string>{});
+			HostConfig::UpdateSection(File, TEXT("S"), MakeLines(TEXT("section")), {});
+			EXPECT_EQ(GetSection(File, TEXT("S")), std::vector<std::string>{"A=section"});
+			HostFiles::Write(Folder.Get("Config/../Config/DefaultEngine.ini"), "[S]\nA=text\n");
+			EXPECT_EQ(GetSection(File, TEXT("S")), std::vector<std::string>{"A=text"}) << "whatever the path was called";
+			EXPECT_EQ(GetArray(GEngineIni, TEXT("A")), std::vector<std::string>{}) << "a branch waits until it is reloaded";
+			HostFiles::Delete(File);
+			EXPECT_FALSE(GConfig->DoesSectionExist(TEXT("S"), File));
+		}
+	}
+
 	TEST_F(Config, AMissingFileHasNoSectionsUntilItTurnsUp)
 	{
 		EXPECT_FALSE(GConfig->DoesSectionExist(TEXT("S"), File));

@@ -23,7 +23,7 @@ namespace HostConfig
 	/** <Project>/Config/Default<Name>.ini. */
 	FString GetDefaultFile(const FString& Name);
 
-	/** Makes GConfig see what was written to the files of a branch. Copies of single files that were read by path stay as they are. */
+	/** Makes GConfig see what was written to the files of a branch. Copies of single files follow by themselves. */
 	void ReloadBranch(const FString& Name);
 
 	/**

@@ -78,6 +78,9 @@ namespace HostFiles
 	/** Full paths of the files written since the editor went up, in order of their first write; overlay writes do not count. */
 	TArray<FString> GetWrittenFiles();
 
+	/** How often this editor changed the file, on disk or in its overlay: who keeps a copy can tell that it is old. */
+	uint32 GetNumChanges(const FString& Path);
+
 	//~ Overlay: writes that only this editor sees.
 
 	/** From now on and until the editor goes down, writes and deletions stay in memory; reads see them. The disk is not touched at all. */

@@ -24,7 +24,7 @@ extern FString GGameIni;
 extern FString GEditorIni;
 extern FString GEditorPerProjectIni;
 
-/** Host: always true. */
+/** Host: always true, in a commandlet as well. */
 extern bool GIsEditor;
 
 /** Host: everything runs on one thread. */
@@ -33,8 +33,5 @@ inline bool IsInGameThread()
 	return true;
 }
 
-/** Host: programs of the host drive an editor; none of them is a commandlet. */
-inline bool IsRunningCommandlet()
-{
-	return false;
-}
+/** Whether the editor runs a command and ends, without a user interface: it was started with -run=NAME. */
+bool IsRunningCommandlet();

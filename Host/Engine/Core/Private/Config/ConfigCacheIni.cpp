@@ -6,6 +6,7 @@
 #include "Config/IniMerge.h"
 #include "Config/IniSyntax.h"
 #include "Files/TextCoding.h"
+#include "HostFiles.h"
 #include "Misc/Paths.h"
 
 #include <memory>
@@ -48,7 +49,9 @@ namespace ConfigCacheIni
 		class FCachedFile
 		{
 		public:
-			explicit FCachedFile(const FString& Filename)
+			explicit FCachedFile(const FString& InFilename)
+				: Filename(InFilename)
+				, NumChanges(HostFiles::GetNumChanges(InFilename))
 			{
 				FString Branch;
 				bBranch = ConfigBranch::IsBranchFile(Filename, Branch);
@@ -63,6 +66,9 @@ namespace ConfigCacheIni
 
 			/** A single file that is missing is looked for again with every question. */
 			bool IsMissing() const { return !bBranch && Layers.empty(); }
+
+			/** Whether this editor wrote a single file since. What others write is not looked for, and a branch waits until it is reloaded. */
+			bool IsOutdated() const { return !bBranch && HostFiles::GetNumChanges(Filename) != NumChanges; }
 
 			bool HasSection(const FString& Section) const
 			{
@@ -94,6 +100,8 @@ namespace ConfigCacheIni
 			}
 
 		private:
+			FString Filename;
+			uint32 NumChanges = 0;
 			bool bBranch = false;
 			IniMerge::FLayers Layers;
 			std::unordered_map<std::string, std::unique_ptr<FConfigSection>> Sections; // by folded name
@@ -116,10 +124,11 @@ public:
 	{
 		const std::string Key = ConfigCacheIni::ToFoldedUtf8(Filename);
 		const auto Known = Files.find(Key);
-		if (Known != Files.end())
+		if (Known != Files.end() && !Known->second->IsOutdated())
 		{
 			return Known->second.get();
 		}
+		Files.erase(Key);
 		std::unique_ptr<ConfigCacheIni::FCachedFile> Read = std::make_unique<ConfigCacheIni::FCachedFile>(Filename);
 		return !Read->IsMissing() ? (Files[Key] = std::move(Read)).get() : nullptr;
 	}

@@ -99,7 +99,7 @@ namespace ObjectConfig
 	/** What Key is in one file, read alone, on top of Values. */
 	static void ApplyLayer(const FString& File, const FString& Section, const FString& Key, TArray<FString>& Values)
 	{
-		FConfigCacheIni Layer; // one of its own: GConfig's copies of single files stay as the editor first saw them
+		FConfigCacheIni Layer; // one of its own: GConfig's copies of single files do not see what others write
 		TArray<FString> Entries;
 		Layer.GetSection(*Section, Entries, File);
 		for (const FString& Entry : Entries)
