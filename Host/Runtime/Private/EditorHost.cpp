@@ -108,6 +108,10 @@ void FEditorHost::BringUpEngine(const FEditorHostOptions& Options)
 	}
 
 	FCommandLine::Set(*Options.CommandLine);
+	if (!Options.Platform.IsEmpty())
+	{
+		HostConfig::SetPlatform(Options.Platform);
+	}
 	HostConfig::Boot();
 	HostObjects::Boot();
 	HostPlugins::Discover(HostPaths::GetPluginDirs());

@@ -22,6 +22,9 @@ struct FEditorHostOptions
 	/** Whether notifications are shown; the switch for it is process-wide in the engine, and lasts as long as the editor here. */
 	bool bAllowNotifications = true;
 
+	/** Whose configuration counts, one of HostConfig::GetPlatforms(); empty: this machine's. */
+	FString Platform;
+
 	/** Folders whose sub-folders are plugins; empty: those that this program was built with. */
 	TArray<FString> PluginDirs;
 

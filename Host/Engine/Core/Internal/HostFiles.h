@@ -43,6 +43,9 @@ namespace HostFiles
 	bool FileExists(const FString& Path);
 	bool DirectoryExists(const FString& Path);
 
+	/** The full path without links: where a read or write of Path ends up. */
+	FString Resolve(const FString& Path);
+
 	/** OutBytes is empty unless the result is Done. */
 	ERead Read(const FString& Path, std::string& OutBytes);
 

@@ -117,6 +117,11 @@ namespace HostFiles
 		return GetKind(Path) == EKind::Directory;
 	}
 
+	FString Resolve(const FString& Path)
+	{
+		return NativePath::ToString(NativePath::Resolve(Path));
+	}
+
 	ERead Read(const FString& Path, std::string& OutBytes)
 	{
 		OutBytes.clear();

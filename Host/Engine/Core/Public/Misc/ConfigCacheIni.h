@@ -40,8 +40,8 @@ class FConfigSection : public FConfigSectionMap
 /**
  * The configuration that this editor has read.
  *
- * Filename is either the file of a branch (GEngineIni and its like: the engine's base file, the project's Default….ini and the user's own
- * file, merged) or any other file, which is then read alone, with the + - . ! of its keys kept as part of their names. Sections and keys
+ * Filename is either the file of a branch (GEngineIni and its like: the engine's base file, the project's Default….ini, its platform's file
+ * and the user's own, merged) or any other file, which is then read alone, with the + - . ! of its keys kept as part of their names. Sections and keys
  * ignore case. A file is read when it is first asked for and stays as it was until UnloadFile() or LoadFile(); nothing here writes it.
  *
  * Host: the copy of a single file also follows what this editor writes to that file, by whatever way. What others write stays unseen.
