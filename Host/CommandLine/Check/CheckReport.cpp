@@ -62,7 +62,8 @@ namespace CheckReport
 				return TEXT("Missing: the configuration brings the UnitVolume profile and takes it away again. Remove the line above; --repair cannot help.");
 			}
 			FString Verdict = Find(Report.Status).Sentence;
-			if (!bMissing && !Report.SpoiledBy.IsEmpty())
+			const bool bFine = Report.Status == ECheckStatus::Sound || Report.Status == ECheckStatus::Repaired;
+			if (bFine && !Report.SpoiledBy.IsEmpty())
 			{
 				Verdict += TEXT(" But remove the line above: the toolkit looks for the channel in DefaultEngine.ini only.");
 			}

@@ -8,6 +8,20 @@
 #include "HostFiles.h"
 #include "HostTextFiles.h"
 
+namespace FileChanges
+{
+	namespace
+	{
+		void Append(const LineDifference::FLines& Lines, size_t Begin, size_t End, TArray<FString>& Out)
+		{
+			for (size_t Index = Begin; Index < End; ++Index)
+			{
+				Out.Add(LineDifference::ToString(Lines[Index]));
+			}
+		}
+	}
+}
+
 FFileText FFileText::Read(const FString& Path)
 {
 	FFileText File;
@@ -21,8 +35,13 @@ FFileChange FileChanges::Compare(const FFileText& Before, const FFileText& After
 	FFileChange Change;
 	Change.Path = After.Path;
 	Change.bDeleted = Before.bExists && !After.bExists;
-	Change.AddedLines = LineDifference::GetAdded(Before.Text, After.Text);
-	Change.RemovedLines = LineDifference::GetAdded(After.Text, Before.Text);
+	const LineDifference::FLines Old = LineDifference::Split(Before.Text);
+	const LineDifference::FLines New = LineDifference::Split(After.Text);
+	for (const LineDifference::FEdit& Edit : LineDifference::FindEdits(Old, New))
+	{
+		Append(Old, Edit.OldBegin, Edit.OldEnd, Change.RemovedLines);
+		Append(New, Edit.NewBegin, Edit.NewEnd, Change.AddedLines);
+	}
 	return Change;
 }
 

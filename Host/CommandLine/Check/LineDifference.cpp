@@ -46,12 +46,15 @@ namespace LineDifference
 	FLines Split(std::string_view Text)
 	{
 		FLines Lines;
-		while (!Text.empty())
+		size_t LineFeed = Text.find('\n'); // the next one; searching for single characters is quick, and files have megabytes
+		for (size_t Start = 0; Start < Text.size();)
 		{
-			const size_t End = std::min(Text.find_first_of("\r\n"), Text.size());
-			Lines.push_back(Text.substr(0, End));
-			const size_t EndLength = Text.substr(End).starts_with("\r\n") ? 2 : 1;
-			Text.remove_prefix(std::min(End + EndLength, Text.size()));
+			LineFeed = LineFeed < Start ? Text.find('\n', Start) : LineFeed;
+			const std::string_view UpToFeed = Text.substr(Start, LineFeed - Start);
+			const std::string_view Line = UpToFeed.substr(0, UpToFeed.find('\r'));
+			Lines.push_back(Line);
+			const size_t End = Start + Line.size();
+			Start = End + (End + 1 == LineFeed ? 2 : 1); // CRLF is one end
 		}
 		return Lines;
 	}

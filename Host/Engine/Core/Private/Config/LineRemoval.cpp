@@ -41,17 +41,28 @@ namespace LineRemoval
 		class FRemoval
 		{
 		public:
-			explicit FRemoval(const std::vector<FTextLine>& InLines)
+			FRemoval(const std::vector<FTextLine>& InLines, const TArray<TArray<FString>>& Blocks)
 				: Lines(InLines)
 				, Goes(InLines.size(), false)
 			{
+				for (const TArray<FString>& Block : Blocks)
+				{
+					for (const FString& Line : Block)
+					{
+						Places[ToView(Line)];
+					}
+				}
 				for (size_t Index = 0; Index < Lines.size(); ++Index)
 				{
-					Places[Lines[Index].Text].push_back(Index);
+					const auto Wanted = Places.find(Lines[Index].Text);
+					if (Wanted != Places.end())
+					{
+						Wanted->second.push_back(Index);
+					}
 				}
 			}
 
-			/** @return false with a reason when the block is not there. */
+			/** Block is one of those given at the beginning. @return false with a reason when it is not there. */
 			bool Take(const TArray<FString>& Block, FString& OutReason)
 			{
 				std::vector<FView> Wanted;
@@ -124,12 +135,7 @@ namespace LineRemoval
 			/** The next line of that text that still stays; the number of lines when there is none. */
 			size_t FindNext(FView Text, size_t From) const
 			{
-				const auto Known = Places.find(Text);
-				if (Known == Places.end())
-				{
-					return Lines.size();
-				}
-				const FPlaces& All = Known->second;
+				const FPlaces& All = Places.at(Text);
 				const auto Next = std::find_if(std::lower_bound(All.begin(), All.end(), From), All.end(), [this](size_t Place) { return !Goes[Place]; });
 				return Next != All.end() ? *Next : Lines.size();
 			}
@@ -166,7 +172,7 @@ namespace LineRemoval
 
 			const std::vector<FTextLine>& Lines;
 			std::vector<bool> Goes;
-			std::unordered_map<FView, FPlaces> Places; // by text
+			std::unordered_map<FView, FPlaces> Places; // of the lines of all blocks, by their text
 		};
 	}
 }
@@ -186,7 +192,7 @@ HostConfig::ERemoval HostConfig::RemoveLines(const FString& File, const TArray<T
 		case HostFiles::ERead::Done:
 			break;
 	}
-	LineRemoval::FRemoval Removal(Document.GetLines());
+	LineRemoval::FRemoval Removal(Document.GetLines(), Blocks);
 	for (const TArray<FString>& Block : Blocks)
 	{
 		if (!Removal.Take(Block, OutReason))
