@@ -45,6 +45,7 @@ TEST_F(FCheckUndo, GivesTheFileBackAsItWas)
 	} Cases[] = {
 		{"a section with profiles", "; note\n" + Usual + "[Other]\nA=\n"},
 		{"carriage returns", WithCarriageReturns(Usual)},
+		{"lone carriage returns", CollisionIni::Replace(Usual, "\n", "\r")},
 		{"UTF-16", AsUtf16(Usual)},
 		{"a byte-order mark and letters beyond ASCII", "\xEF\xBB\xBF; Ático Ñandú\n" + Usual},
 		{"a last line without end", Unended},
