@@ -7,6 +7,7 @@
 
 #include "Arguments.h"
 #include "Containers/StringConv.h"
+#include "HostConfig.h"
 #include "Refusal.h"
 
 #include <algorithm>
@@ -14,31 +15,69 @@
 #include <sstream>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace Arguments
 {
+	FString ToText(const std::string& Text)
+	{
+		return FString(UTF8_TO_TCHAR(Text.c_str()));
+	}
+
 	/** As they stand on the command line, UTF-8. */
 	struct FRaw
 	{
 		std::string Project;
 		std::string Script;
 		std::string Service;
+		std::string Platform;
+		bool bUnattended = false;
+		bool bCommandlet = false;
+		bool bNullRhi = false;
+		bool bNoNotifications = false;
+		bool bDiff = false;
 		bool bRepair = false;
+		bool bUndo = false;
 		bool bJson = false;
+
+		FEditorArguments GetEditor() const { return {ToText(Platform), bUnattended, bCommandlet, bNullRhi, bNoNotifications}; }
 	};
 
-	FString ToText(const std::string& Text)
+	std::vector<std::string> GetPlatforms()
 	{
-		return FString(UTF8_TO_TCHAR(Text.c_str()));
+		std::vector<std::string> Names;
+		for (const FString& Name : HostConfig::GetPlatforms())
+		{
+			Names.emplace_back(TCHAR_TO_UTF8(*Name));
+		}
+		return Names;
+	}
+
+	/** How the editor is started. */
+	void AddEditor(CLI::App& Command, FRaw& Raw)
+	{
+		Command.add_option("--platform", Raw.Platform, "Whose configuration counts; this machine's unless given")->transform(CLI::IsMember(GetPlatforms(), CLI::ignore_case))->type_name("NAME");
+		Command.add_flag("--unattended", Raw.bUnattended, "Nobody is asked: questions take their defaults");
+		Command.add_flag("--nullrhi", Raw.bNullRhi, "A user interface that is not drawn");
+		Command.add_flag("--no-notifications", Raw.bNoNotifications, "Notifications are not shown, as with Slate.bAllowNotifications=0");
+		Command.add_flag("--commandlet", Raw.bCommandlet, "No user interface at all, as in a cook");
 	}
 
 	CLI::App* AddCheck(CLI::App& App, FRaw& Raw)
 	{
 		CLI::App* const Check = App.add_subcommand("check", "Look for the unit volumes' collision profile in a project's configuration");
 		Check->add_option("PROJECT", Raw.Project, "A .uproject file, or the folder that holds one")->required();
-		Check->add_flag("--repair", Raw.bRepair, "Add what is missing; without this nothing on disk changes");
+		Check->add_flag("--diff", Raw.bDiff, "Print the lines that --repair would add, or that it added or --undo took back, as a unified difference");
+		CLI::Option* const Repair = Check->add_flag("--repair", Raw.bRepair, "Add what is missing");
+		CLI::Option* const Undo = Check->add_flag("--undo", Raw.bUndo, "Take back what the last --repair added");
 		Check->add_flag("--json", Raw.bJson, "Report as one JSON object");
-		Check->footer("Ends with 0 when the profile is there or was added, 1 when it is missing,\n2 for bad usage or no such project, 3 when a file could not be read or written.");
+		AddEditor(*Check, Raw);
+		Undo->excludes(Repair);
+		for (const char* NothingToPress : {"--no-notifications", "--commandlet"})
+		{
+			Repair->excludes(NothingToPress);
+		}
+		Check->footer("Nothing on disk changes without --repair or --undo.\nEnds with 0 when the profile is there or was added, or the repair was taken back, 1 when it is\nmissing or the lines of the repair are not as they were, 2 for bad usage, no such project or no\nrepair to take back, 3 when a file could not be read or written.");
 		return Check;
 	}
 
@@ -48,6 +87,7 @@ namespace Arguments
 		Run->add_option("PROJECT", Raw.Project, "A .uproject file, or the folder that holds one")->required();
 		Run->add_option("SCRIPT", Raw.Script, "The script, one command a line")->required();
 		Run->add_option("--service", Raw.Service, "The data file that the toolkit's service answers from");
+		AddEditor(*Run, Raw);
 		Run->add_flag("--json", Raw.bJson, "Report each step as a JSON object in a line of its own");
 		Run->footer("Ends with 0 when all went well, 1 when an expectation did not hold, 2 for bad usage or\nno such project, 3 when the script is wrong or could not go on, or a file could not be\nread or written.");
 		return Run;
@@ -92,11 +132,11 @@ namespace Arguments
 		}
 		if (Check->parsed())
 		{
-			OutArguments.Check = FCheckArguments{ToText(Raw.Project), Raw.bRepair, Raw.bJson};
+			OutArguments.Check = FCheckArguments{ToText(Raw.Project), Raw.GetEditor(), Raw.bDiff, Raw.bRepair, Raw.bUndo, Raw.bJson};
 		}
 		else
 		{
-			OutArguments.Run = FRunArguments{ToText(Raw.Project), ToText(Raw.Script), ToText(Raw.Service), Raw.bJson};
+			OutArguments.Run = FRunArguments{ToText(Raw.Project), Raw.GetEditor(), ToText(Raw.Script), ToText(Raw.Service), Raw.bJson};
 		}
 		return TOptional<EExitStatus>();
 	}

@@ -3,14 +3,18 @@
 #pragma once
 
 #include "Containers/UnrealString.h"
+#include "EditorArguments.h"
 #include "ExitStatus.h"
 #include "Misc/Optional.h"
 
-/** velmorant check PROJECT [--repair] [--json] */
+/** velmorant check PROJECT [--diff] [--repair | --undo] [--json] */
 struct FCheckArguments
 {
 	FString Project; // a .uproject, or a folder with one in it
+	FEditorArguments Editor;
+	bool bDiff = false;
 	bool bRepair = false;
+	bool bUndo = false; // never with bRepair
 	bool bJson = false;
 };
 
@@ -18,6 +22,7 @@ struct FCheckArguments
 struct FRunArguments
 {
 	FString Project;
+	FEditorArguments Editor;
 	FString Script;
 	FString Service; // the service's data file; empty: the one that the project names
 	bool bJson = false;

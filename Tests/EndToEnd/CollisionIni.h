@@ -18,14 +18,20 @@ namespace CollisionIni
 	inline const std::string ChannelLine =
 		"+DefaultChannelResponses=(Channel=ECC_GameTraceChannel18, Name=\"UnitVolume\", DefaultResponse=ECR_Ignore, bTraceType=True, bStaticObject=True)\n";
 
-	/** Every line end as on Windows. */
-	inline std::string WithCarriageReturns(std::string Text)
+	/** Text with every From replaced. */
+	inline std::string Replace(std::string Text, const std::string& From, const std::string& To)
 	{
-		for (size_t Found = Text.find('\n'); Found != std::string::npos; Found = Text.find('\n', Found + 2))
+		for (size_t Found = Text.find(From); Found != std::string::npos; Found = Text.find(From, Found + To.size()))
 		{
-			Text.insert(Found, "\r");
+			Text.replace(Found, From.size(), To);
 		}
 		return Text;
+	}
+
+	/** Every line end as on Windows. */
+	inline std::string WithCarriageReturns(const std::string& Text)
+	{
+		return Replace(Text, "\n", "\r\n");
 	}
 
 	/** Little-endian UTF-16 with its mark; Text is ASCII. */

@@ -26,6 +26,8 @@ TEST_F(FCommandLineUse, BadUsageEndsWithTwo)
 		{"an unknown command", {"chek", GetProject()}, "chek"},
 		{"no project named", {"check"}, "PROJECT"},
 		{"an unknown option", {"check", GetProject(), "--fix"}, "--fix"},
+		{"a repair and its undoing at once", {"check", GetProject(), "--repair", "--undo"}, "--undo"},
+		{"a platform without a name", {"check", GetProject(), "--platform"}, "--platform"},
 		{"too many arguments", {"check", GetProject(), GetProject()}, ""},
 		{"no such project", {"check", Root + "/None"}, "there is no such project"},
 		{"a folder without a project", {"check", Root + "/Empty"}, "there is no .uproject"},

@@ -56,7 +56,7 @@ protected:
 
 	std::string GetProject() const { return Folder.GetNative("Project").string(); }
 
-	FProgramRun::FEnvironment GetEnvironment() const { return {{"XDG_CONFIG_HOME", Folder.GetNative("UserConfig").string()}}; }
+	FProgramRun::FEnvironment GetEnvironment() const { return {{"XDG_CONFIG_HOME", Folder.GetNative("UserConfig").string()}, {"XDG_STATE_HOME", Folder.GetNative("UserState").string()}}; }
 
 	FProgramResult Check(const std::vector<std::string>& Options = {}) const
 	{

@@ -1,6 +1,7 @@
 // Copyright Velmorant. All Rights Reserved.
 
 #include "CollisionIni.h"
+#include "Editor.h"
 #include "HostEditor.h"
 #include "HostObjects.h"
 #include "ToolkitTest.h"
@@ -195,6 +196,47 @@ TEST_F(CollisionCheck, AddWritesTheLinesThenConfirmsThenAsksForARestart)
 	EXPECT_EQ(FindDialogues().Num(), 1);
 }
 
+TEST_F(CollisionCheck, AnAnswerCountsOnceAlthoughTheQuestionStillFades)
+{
+	const FString Add = TEXT("Add to Project Config");
+	const FString Skip = TEXT("Skip");
+	const FString Later = TEXT("Later");
+	const FString Restart = TEXT("Restart Editor");
+	const struct
+	{
+		const char* Behaviour;
+		TArray<FString> Presses; // the last one comes too late
+		int32 NumDialogues;
+	} Cases[] = {
+		{"added twice", {Add, Add}, 1},
+		{"skipped after adding", {Add, Skip}, 1},
+		{"added after skipping", {Skip, Add}, 0},
+		{"skipped twice", {Skip, Skip}, 0},
+		{"put off twice", {Add, Later, Later}, 0},
+		{"restarted after putting it off", {Add, Later, Restart}, 0},
+	};
+	const std::string Before = MakeIni(CollisionIni::Glass, "");
+	const std::string Added = MakeIni(CollisionIni::Glass + "\n" + CollisionIni::Profile + "\n" + CollisionIni::Channel, "");
+	for (const auto& Case : Cases)
+	{
+		SCOPED_TRACE(Case.Behaviour);
+		StartWithMissingProfile();
+		const int32 Last = Case.Presses.Num() - 1;
+		for (int32 Index = 0; Index < Last; ++Index)
+		{
+			Press(*Case.Presses[Index]);
+		}
+		EXPECT_FALSE(HostNotifications::PressButton(Case.Presses[Last]).bDone);
+		EXPECT_EQ(ReadProjectFile(EngineIni), Case.Presses[0].Equals(Add) ? Added : Before);
+		EXPECT_EQ(FindDialogues().Num(), Case.NumDialogues) << "every question that shows can be answered";
+		EXPECT_EQ(HostEditor::GetRestartRequests().Num(), 0);
+		for (const HostNotifications::FRecord& Fading : HostNotifications::GetStanding())
+		{
+			EXPECT_EQ(Fading->ExpiresAt.IsSet(), HostNotifications::GetVisibleButtons(*Fading).IsEmpty()) << ToUtf8(Fading->Text);
+		}
+	}
+}
+
 TEST_F(CollisionCheck, LaterTakesTheRestartQuestionAway)
 {
 	StartWithMissingProfile();
@@ -235,13 +277,38 @@ TEST_F(CollisionCheck, ARepairCountsAfterARestartOnly)
 	EXPECT_THAT(TakeModuleLog(), Contains(CheckedLine));
 }
 
-TEST_F(CollisionCheck, AProjectWithoutSectionIsSoundAfterTheRepair)
+TEST_F(CollisionCheck, AProjectWithoutSectionIsSoundAfterTheRepairHoweverOftenItWasChecked)
 {
 	WriteProjectFile(EngineIni, "");
 	StartEditor();
 	Press(TEXT("Add to Project Config"));
+	const std::string Repaired = ReadProjectFile(EngineIni);
+	EXPECT_THAT(Repaired, HasSubstr(CollisionIni::Profile + "\n" + CollisionIni::Channel + "\n"));
+
+	TakeModuleLog();
+	UVelmorantEditorUtilitiesLibrary::CheckForUnitVolumeCollisionProfile();
+	EXPECT_THAT(TakeModuleLog(), ElementsAre()) << "the section is there by now, and is left as it is";
+	EXPECT_EQ(ReadProjectFile(EngineIni), Repaired);
+
 	StartEditor();
 	EXPECT_THAT(TakeModuleLog(), Contains(CheckedLine));
+}
+
+TEST_F(CollisionCheck, TheProfilesAreWrittenOnceForTwoMapsLoadedAtStart)
+{
+	bool bFurtherRequest = true;
+	FEditorDelegates::OnMapLoad.AddLambda([&bFurtherRequest](const FString& Filename, FCanLoadMap& CanLoad) {
+		if (bFurtherRequest)
+		{
+			bFurtherRequest = false;
+			FEditorDelegates::OnMapLoad.Broadcast(Filename, CanLoad);
+		}
+	});
+	WriteProjectFile(EngineIni, "");
+	StartEditor();
+	const std::vector<std::string> Log = TakeModuleLog();
+	EXPECT_EQ(std::count(Log.begin(), Log.end(), WrittenLine), 1);
+	EXPECT_EQ(NotificationTitles(), (TArray<FString>{MissingTitle, MissingTitle})) << "each check asks";
 }
 
 TEST_F(CollisionCheck, EveryFailedCheckAsksByItself)

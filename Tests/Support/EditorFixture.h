@@ -36,6 +36,7 @@ protected:
 		Options.Project = Folder.Get("Project/Test.uproject");
 		Options.UserSettingsDir = Folder.Get("UserConfig");
 		Options.CommandLine = CommandLine;
+		Options.bAllowNotifications = bAllowNotifications;
 		Options.PluginDirs = PluginDirs;
 		Editor = MakeUnique<FEditorHost>(Options);
 	}
@@ -91,6 +92,7 @@ protected:
 
 	FTemporaryFolder Folder;
 	FString CommandLine;
+	bool bAllowNotifications = true;
 	TArray<FString> PluginDirs; // empty: the toolkit's own
 	TUniquePtr<FEditorHost> Editor;
 };

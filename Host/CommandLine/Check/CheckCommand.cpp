@@ -4,8 +4,31 @@
 
 #include "Check/CheckReport.h"
 #include "Check/CollisionCheck.h"
+#include "Check/RepairUndo.h"
 #include "Console.h"
 #include "ProjectArgument.h"
+#include "Refusal.h"
+
+namespace CheckCommand
+{
+	namespace
+	{
+		/** Unset when there is no repair to take back. */
+		TOptional<FCheckReport> Do(const FCheckArguments& Arguments, const FString& Project)
+		{
+			if (Arguments.bUndo)
+			{
+				return RepairUndo::Run(Project);
+			}
+			if (Arguments.bRepair)
+			{
+				return CollisionCheck::Repair(Project, Arguments.Editor);
+			}
+			const bool bPreview = Arguments.bDiff || Arguments.bJson;
+			return CollisionCheck::Look(Project, Arguments.Editor, bPreview ? CollisionCheck::EPreview::OfRepair : CollisionCheck::EPreview::No);
+		}
+	}
+}
 
 EExitStatus CheckCommand::Run(const FCheckArguments& Arguments)
 {
@@ -15,15 +38,20 @@ EExitStatus CheckCommand::Run(const FCheckArguments& Arguments)
 	{
 		return End.GetValue();
 	}
-	const FCheckReport Report = Arguments.bRepair ? CollisionCheck::Repair(Project) : CollisionCheck::Look(Project);
+	const TOptional<FCheckReport> Report = Do(Arguments, Project);
+	if (!Report.IsSet())
+	{
+		Refusal::Print(EExitStatus::Usage, {TEXT("No repair of this project is recorded: there is nothing to take back.")}, Arguments.bJson);
+		return EExitStatus::Usage;
+	}
 	if (Arguments.bJson)
 	{
-		CheckReport::PrintJson(Report);
+		CheckReport::PrintJson(*Report);
 	}
 	else
 	{
-		CheckReport::PrintText(Report);
+		CheckReport::PrintText(*Report, Arguments.bDiff ? CheckReport::EChanges::Difference : CheckReport::EChanges::Lines);
 	}
-	Console::PrintProblems(Report.Problems);
-	return CheckReport::GetExitStatus(Report.Status);
+	Console::PrintProblems(Report->Problems);
+	return CheckReport::GetExitStatus(Report->Status);
 }

@@ -2,10 +2,14 @@
 
 #pragma once
 
+#include "Check/FileChanges.h"
+#include "Check/SpoiledSetup.h"
 #include "Containers/Array.h"
 #include "Containers/UnrealString.h"
 #include "ExitStatus.h"
 #include "HostProblems.h"
+
+#include <string>
 
 enum class ECheckStatus : uint8
 {
@@ -13,15 +17,9 @@ enum class ECheckStatus : uint8
 	Repaired,
 	Missing,
 	StillMissing, // after the repair
+	Undone,
+	NotUndone, // the lines of the repair are not as they were
 	Trouble, // files, or no verdict
-};
-
-/** A file, and what a write put into it or would have put. */
-struct FFileChange
-{
-	FString Path;
-	bool bDeleted = false;
-	TArray<FString> AddedLines;
 };
 
 /** Everything that a check found out. */
@@ -30,18 +28,27 @@ struct FCheckReport
 	ECheckStatus Status = ECheckStatus::Trouble;
 	FString Project; // full path of the .uproject
 	TArray<FString> Messages; // what the toolkit said, in order
+	TArray<FSpoiler> SpoiledBy; // lines that take the set-up away
 	TArray<FFileChange> PendingWrites; // without repair: what would have been written
-	TArray<FFileChange> WrittenFiles; // by the repair
+	TArray<FFileChange> WrittenFiles; // by the repair, or when it was taken back
+	std::string Difference; // the same, or what the repair would write, as a unified difference; UTF-8
 	TArray<FString> LinesToAdd; // by hand, when the repair did not help
+	FString Reason; // why the repair could not be taken back
 	TArray<FHostProblem> Problems;
 };
 
 namespace CheckReport
 {
+	enum class EChanges : uint8
+	{
+		Lines,
+		Difference
+	};
+
 	EExitStatus GetExitStatus(ECheckStatus Status);
 
 	/** For people. Problems are left out: they go to the error output. */
-	void PrintText(const FCheckReport& Report);
+	void PrintText(const FCheckReport& Report, EChanges Changes);
 
 	/** One object. */
 	void PrintJson(const FCheckReport& Report);

@@ -45,11 +45,10 @@ namespace RunCommand
 
 		FEditorHostOptions MakeOptions(const FString& Project, const FRunArguments& Arguments)
 		{
-			FEditorHostOptions Options;
-			Options.Project = Project;
+			FEditorHostOptions Options = EditorArguments::MakeOptions(Project, Arguments.Editor);
 			if (!Arguments.Service.IsEmpty())
 			{
-				Options.CommandLine = FString::Printf(TEXT("-VelmorantService=\"%s\""), *FPaths::ConvertRelativePathToFull(Arguments.Service));
+				Options.CommandLine += FString::Printf(TEXT(" -VelmorantService=\"%s\""), *FPaths::ConvertRelativePathToFull(Arguments.Service));
 			}
 			return Options;
 		}

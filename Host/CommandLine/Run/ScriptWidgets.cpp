@@ -2,6 +2,7 @@
 
 #include "Run/ScriptWidgets.h"
 
+#include "Framework/Application/SlateApplication.h"
 #include "HostDetailsView.h"
 #include "HostSettings.h"
 #include "HostSnapshot.h"
@@ -23,6 +24,10 @@ namespace ScriptWidgets
 		FString Explain(FScriptContext& Context, const FString& Name)
 		{
 			FString Reason;
+			if (!CheckUserInterface(Reason))
+			{
+				return Reason;
+			}
 			const TOptional<FHostWidgetDescription> Button = HostSnapshot::Describe(Context.Session.GetToolbar().GetContent(), Name, Reason);
 			if (Button.IsSet() && Button->Role == TEXT("menu button"))
 			{
@@ -30,6 +35,13 @@ namespace ScriptWidgets
 			}
 			return FString::Printf(TEXT("no panel named %s is open"), *Name);
 		}
+	}
+
+	bool CheckUserInterface(FString& OutReason)
+	{
+		const bool bThere = FSlateApplication::IsInitialized();
+		OutReason = bThere ? FString() : FString(TEXT("there is no user interface: the editor runs as a commandlet"));
+		return bThere;
 	}
 
 	TSharedPtr<SWidget> FindRoot(FScriptContext& Context, const FString& Name, FString& OutReason)

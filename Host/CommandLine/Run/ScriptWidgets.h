@@ -12,6 +12,9 @@ class SWidget;
 /** What scripts can look at and click in, by name. */
 namespace ScriptWidgets
 {
+	/** @return false with a reason when the editor has no user interface. */
+	bool CheckUserInterface(FString& OutReason);
+
 	/**
 	 * An open panel, by the name it was opened under
 	 * a tab that something else opened, by its asset's name

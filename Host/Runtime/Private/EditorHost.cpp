@@ -2,6 +2,8 @@
 
 #include "EditorHost.h"
 
+#include "CoreGlobals.h"
+#include "Framework/Notifications/NotificationManager.h"
 #include "HostClock.h"
 #include "HostConfig.h"
 #include "HostDelayedRegistration.h"
@@ -106,12 +108,20 @@ void FEditorHost::BringUpEngine(const FEditorHostOptions& Options)
 	}
 
 	FCommandLine::Set(*Options.CommandLine);
+	if (!Options.Platform.IsEmpty())
+	{
+		HostConfig::SetPlatform(Options.Platform);
+	}
 	HostConfig::Boot();
 	HostObjects::Boot();
 	HostPlugins::Discover(HostPaths::GetPluginDirs());
 	MountContent();
 	HostEditor::Create();
-	HostSlate::Start();
+	if (!IsRunningCommandlet())
+	{
+		HostSlate::Start();
+	}
+	FSlateNotificationManager::Get().SetAllowNotifications(Options.bAllowNotifications);
 }
 
 void FEditorHost::MountContent()

@@ -13,8 +13,17 @@ struct FEditorHostOptions
 	/** A .uproject, or a folder. Relative to the working directory. */
 	FString Project;
 
-	/** Added to the process's command line: switches such as -VelmorantService=FILE, which the toolkit's modules read. */
+	/**
+	 * The process's command line: switches such as -VelmorantService=FILE, which the toolkit's modules read, and the engine's own:
+	 * -unattended (nobody answers questions), -run=NAME (a commandlet: no user interface), -nullrhi (a user interface that is not drawn).
+	 */
 	FString CommandLine;
+
+	/** Whether notifications are shown; the switch for it is process-wide in the engine, and lasts as long as the editor here. */
+	bool bAllowNotifications = true;
+
+	/** Whose configuration counts, one of HostConfig::GetPlatforms(); empty: this machine's. */
+	FString Platform;
 
 	/** Folders whose sub-folders are plugins; empty: those that this program was built with. */
 	TArray<FString> PluginDirs;

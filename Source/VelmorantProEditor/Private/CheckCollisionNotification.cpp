@@ -2,11 +2,11 @@
 
 #include "CheckCollisionNotification.h"
 
-#include "Framework/Notifications/NotificationManager.h"
 #include "Styling/ISlateStyle.h"
 #include "UnrealEdMisc.h"
 #include "VelmorantEditorStyle.h"
 #include "VelmorantEditorUtilitiesLibrary.h"
+#include "VelmorantNotifications.h"
 #include "Widgets/Notifications/SNotificationList.h"
 
 #define LOCTEXT_NAMESPACE "FVelmorantProEditor"
@@ -35,7 +35,7 @@ void UCheckCollisionNotification::ShowMissingProfileNotification()
 void UCheckCollisionNotification::OnAddToProjectConfig()
 {
 	UVelmorantEditorUtilitiesLibrary::AddUnitVolumeCollisionProfile();
-	NotificationItem->ExpireAndFadeout();
+	TakeQuestionAway();
 	ShowProfilesAddedNotification();
 	ShowRestartNotification();
 }
@@ -44,7 +44,7 @@ void UCheckCollisionNotification::OnDismiss()
 {
 	if (NotificationItem.IsValid())
 	{
-		NotificationItem->ExpireAndFadeout();
+		TakeQuestionAway();
 	}
 	RemoveFromRoot();
 }
@@ -62,7 +62,7 @@ void UCheckCollisionNotification::ShowProfilesAddedNotification()
 	Info.WidthOverride = CheckCollisionNotification::NotificationWidth;
 	Info.ExpireDuration = CheckCollisionNotification::AddedSeconds;
 	Info.bFireAndForget = true;
-	FSlateNotificationManager::Get().AddNotification(Info)->SetCompletionState(SNotificationItem::CS_Success);
+	VelmorantNotifications::Show(Info, SNotificationItem::CS_Success);
 }
 
 void UCheckCollisionNotification::ShowRestartNotification()
@@ -86,8 +86,18 @@ void UCheckCollisionNotification::ShowQuestion(FNotificationInfo& Info)
 	Info.WidthOverride = CheckCollisionNotification::NotificationWidth;
 	Info.bFireAndForget = false;
 
-	NotificationItem = FSlateNotificationManager::Get().AddNotification(Info);
-	NotificationItem->SetCompletionState(SNotificationItem::CS_Pending); // the buttons show only while pending
+	NotificationItem = VelmorantNotifications::Show(Info, SNotificationItem::CS_Pending); // the buttons show only while pending
+	if (!NotificationItem.IsValid())
+	{
+		RemoveFromRoot(); // nobody can answer
+	}
+}
+
+void UCheckCollisionNotification::TakeQuestionAway()
+{
+	// Out of the pending state first: a notification that fades can still be clicked, and no answer counts twice.
+	NotificationItem->SetCompletionState(SNotificationItem::CS_None);
+	NotificationItem->ExpireAndFadeout();
 }
 
 #undef LOCTEXT_NAMESPACE

@@ -13,7 +13,7 @@ struct FNotificationInfo;
  * Asks the designer whether to add the missing unit-volume collision profile and, once added, whether to restart.
  *
  * One object per failed check, in the transient package. It is rooted while it asks, because nothing else refers to it, and
- * released by "Skip" and "Later".
+ * released by "Skip" and "Later", and where its question cannot be shown.
  */
 UCLASS()
 class UCheckCollisionNotification : public UObject
@@ -34,6 +34,9 @@ private:
 	/** Adds a notification that stays until one of its buttons is pressed, and makes it the current one. */
 	void ShowQuestion(FNotificationInfo& Info);
 
-	/** The question on screen; empty until the first one is shown. */
+	/** Lets the current question fade, without its buttons. There must be one. */
+	void TakeQuestionAway();
+
+	/** The question on screen; empty until the first one is shown, and where none can be. */
 	TSharedPtr<SNotificationItem> NotificationItem;
 };

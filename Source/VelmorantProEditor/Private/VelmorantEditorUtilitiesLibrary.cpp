@@ -2,9 +2,9 @@
 
 #include "VelmorantEditorUtilitiesLibrary.h"
 
-#include "Framework/Notifications/NotificationManager.h"
 #include "HAL/PlatformApplicationMisc.h"
 #include "Interfaces/IPluginManager.h"
+#include "VelmorantNotifications.h"
 
 #define LOCTEXT_NAMESPACE "FVelmorantProEditor"
 
@@ -40,7 +40,7 @@ void UVelmorantEditorUtilitiesLibrary::NotifyPopup(const FString& Title, const F
 	FNotificationInfo Info(FText::AsCultureInvariant(Title));
 	Info.SubText = FText::AsCultureInvariant(SubText);
 	Info.ExpireDuration = Duration;
-	FSlateNotificationManager::Get().AddNotification(Info)->SetCompletionState(State);
+	VelmorantNotifications::Show(Info, State);
 }
 
 void UVelmorantEditorUtilitiesLibrary::PushEditorNotification(const FString& Title, const FString& SubText, EEditorNotificationCompletionState State, float Duration)
@@ -71,7 +71,7 @@ void UVelmorantEditorUtilitiesLibrary::CopyVersionToClipboard(const FString& Ver
 	FNotificationInfo Info(FText::Format(LOCTEXT("VelmorantVersionCopied", "Velmorant version {0} copied to clipboard."), FText::FromString(Version)));
 	Info.bUseSuccessFailIcons = true;
 	Info.ExpireDuration = VelmorantEditorUtilities::VersionCopiedSeconds;
-	FSlateNotificationManager::Get().AddNotification(Info)->SetCompletionState(SNotificationItem::CS_Success);
+	VelmorantNotifications::Show(Info, SNotificationItem::CS_Success);
 }
 
 #undef LOCTEXT_NAMESPACE

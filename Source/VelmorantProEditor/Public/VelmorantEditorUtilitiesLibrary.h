@@ -14,7 +14,8 @@ class UVelmorantConfiguratorDataAsset;
 /**
  * The toolkit's editor operations, for native code, Blueprints and editor scripts. Game thread only.
  *
- * Nothing here throws or returns error codes: outcomes are shown as editor notifications, failures are logged as well.
+ * Nothing here throws or returns error codes: outcomes are shown as editor notifications, failures are logged as well. Where no
+ * notification can be shown, as in commandlets, the log has all of them.
  */
 UCLASS()
 class VELMORANTPROEDITOR_API UVelmorantEditorUtilitiesLibrary : public UBlueprintFunctionLibrary

@@ -79,6 +79,30 @@ namespace
 		EXPECT_TRUE(GConfig->DoesSectionExist(TEXT("t"), File));
 	}
 
+	TEST_F(Config, ACopyOfASingleFileFollowsWhatTheEditorWrites)
+	{
+		const auto MakeLines = [](const TCHAR* Value) { return TArray<TPair<FString, FString>>{TPair<FString, FString>(TEXT("A"), Value)}; };
+		for (const bool bOverlay : {false, true})
+		{
+			SCOPED_TRACE(bOverlay ? "in the overlay" : "on disk");
+			Folder.Write("Config/DefaultEngine.ini", "[T]\nB=1\n");
+			Restart();
+			if (bOverlay)
+			{
+				HostFiles::BeginOverlay();
+			}
+			EXPECT_EQ(GetSection(File, TEXT("S")), std::vector<std::string>{"no such section"});
+			EXPECT_EQ(GetArray(GEngineIni, TEXT("A")), std::vector<std::string>{});
+			HostConfig::UpdateSection(File, TEXT("S"), MakeLines(TEXT("section")), {});
+			EXPECT_EQ(GetSection(File, TEXT("S")), std::vector<std::string>{"A=section"});
+			HostFiles::Write(Folder.Get("Config/../Config/DefaultEngine.ini"), "[S]\nA=text\n");
+			EXPECT_EQ(GetSection(File, TEXT("S")), std::vector<std::string>{"A=text"}) << "whatever the path was called";
+			EXPECT_EQ(GetArray(GEngineIni, TEXT("A")), std::vector<std::string>{}) << "a branch waits until it is reloaded";
+			HostFiles::Delete(File);
+			EXPECT_FALSE(GConfig->DoesSectionExist(TEXT("S"), File));
+		}
+	}
+
 	TEST_F(Config, AMissingFileHasNoSectionsUntilItTurnsUp)
 	{
 		EXPECT_FALSE(GConfig->DoesSectionExist(TEXT("S"), File));
@@ -130,6 +154,67 @@ namespace
 			HostConfig::ReloadBranch(TEXT("Engine"));
 			EXPECT_EQ(GetArray(GEngineIni, TEXT("A")), Case.Expected);
 		}
+	}
+
+	TEST_F(Config, LaterLayersOverruleEarlierOnes)
+	{
+		HostPaths::SetEngineDir(Folder.Get("Engine"));
+		const struct
+		{
+			const char* Platform;
+			std::vector<const char*> Layers; // lowest first
+			std::vector<const char*> Others; // not read
+		} Cases[] = {
+			{"Linux",
+				{"Engine/Config/BaseEngine.ini", "Config/DefaultEngine.ini", "Config/Unix/UnixEngine.ini", "Platforms/Unix/Config/UnixEngine.ini", "Config/Linux/LinuxEngine.ini", "Platforms/Linux/Config/LinuxEngine.ini", "Config/UserEngine.ini", "Saved/Config/LinuxEditor/Engine.ini"},
+				{"Config/Windows/WindowsEngine.ini", "Config/Mac/MacEngine.ini", "Saved/Config/WindowsEditor/Engine.ini"}},
+			{"Windows",
+				{"Engine/Config/BaseEngine.ini", "Config/DefaultEngine.ini", "Config/Windows/WindowsEngine.ini", "Platforms/Windows/Config/WindowsEngine.ini", "Config/UserEngine.ini", "Saved/Config/WindowsEditor/Engine.ini"},
+				{"Config/Linux/LinuxEngine.ini", "Config/Unix/UnixEngine.ini", "Saved/Config/LinuxEditor/Engine.ini"}},
+			{"Mac", {"Engine/Config/BaseEngine.ini", "Config/Mac/MacEngine.ini"}, {"Config/Linux/LinuxEngine.ini", "Config/Unix/UnixEngine.ini"}},
+		};
+		for (const auto& Case : Cases)
+		{
+			SCOPED_TRACE(Case.Platform);
+			Restart();
+			HostPaths::SetEngineDir(Folder.Get("Engine"));
+			HostConfig::SetPlatform(Case.Platform);
+			for (const char* Other : Case.Others)
+			{
+				Folder.Write(Other, "[S]\nA=other\n+List=other\n");
+			}
+			std::vector<std::string> List;
+			for (const char* Layer : Case.Layers)
+			{
+				Folder.Write(Layer, std::string("[S]\nA=") + Layer + "\n+List=" + Layer + "\n");
+				List.push_back(Layer);
+				const FString Branch = HostConfig::GetBranchFile(TEXT("Engine"));
+				HostConfig::ReloadBranch(TEXT("Engine"));
+				EXPECT_EQ(GetArray(Branch, TEXT("A")), std::vector<std::string>{Layer});
+				EXPECT_EQ(GetArray(Branch, TEXT("List")), List);
+			}
+			for (const std::vector<const char*>& Files : {Case.Layers, Case.Others})
+			{
+				for (const char* Written : Files)
+				{
+					std::filesystem::remove(Folder.GetNative(Written));
+				}
+			}
+		}
+	}
+
+	TEST_F(Config, TellsWhichLineTookAValueAway)
+	{
+		Folder.Write("Config/DefaultEngine.ini", "; c\n[S]\n+A=1\n+A=2\n+A=3\nB=4\n+C=5\n[T]\n!C=ClearArray\n");
+		Folder.Write("Config/Linux/LinuxEngine.ini", "[S]\r\n-a = 2\r\nB=6\r\n");
+		Folder.Write("Config/UserEngine.ini", "[Other]\n\n[s]\n!A=ClearArray\n+A=3\n");
+		std::vector<std::string> Found;
+		for (const HostConfig::FRemovedValue& Removed : HostConfig::GetRemovedValues(TEXT("Engine"), TEXT("S")))
+		{
+			const std::string Relative = std::filesystem::relative(ToUtf8(Removed.File), Folder.GetNative()).string();
+			Found.push_back(ToUtf8(Removed.Key) + "=" + ToUtf8(Removed.Value) + " by " + Relative + "(" + std::to_string(Removed.Line) + ") " + ToUtf8(Removed.LineText));
+		}
+		EXPECT_EQ(Found, (std::vector<std::string>{"A=1 by Config/UserEngine.ini(4) !A=ClearArray", "A=2 by Config/Linux/LinuxEngine.ini(2) -a = 2", "A=3 by Config/UserEngine.ini(4) !A=ClearArray", "B=4 by Config/Linux/LinuxEngine.ini(3) B=6"}));
 	}
 
 	TEST_F(Config, AnyNameIsABranchAndAnyLayerMayBeMissing)
@@ -272,6 +357,90 @@ namespace
 		std::filesystem::permissions(Folder.GetNative("Config/DefaultEngine.ini"), std::filesystem::perms::owner_read);
 		EXPECT_FALSE(Update({{"A", "1"}}));
 		EXPECT_EQ(HostProblems::GetAll().Num(), 2) << GetProblems();
+	}
+
+	class LineRemoval : public Config
+	{
+	protected:
+		HostConfig::ERemoval Remove(const std::vector<std::vector<const char*>>& Blocks)
+		{
+			TArray<TArray<FString>> Texts;
+			for (const std::vector<const char*>& Block : Blocks)
+			{
+				TArray<FString>& Lines = Texts.AddDefaulted_GetRef();
+				for (const char* Line : Block)
+				{
+					Lines.Add(FString(UTF8_TO_TCHAR(Line)));
+				}
+			}
+			Reason.Empty();
+			return HostConfig::RemoveLines(File, Texts, Reason);
+		}
+
+		FString Reason;
+	};
+
+	TEST_F(LineRemoval, TakesOutWhatWasPutInWhereverItStandsNow)
+	{
+		const struct
+		{
+			const char* Behaviour;
+			std::string Before;
+			std::vector<std::vector<const char*>> Blocks;
+			std::string After;
+		} Cases[] = {
+			{"a block", "[S]\nA=1\nP=1\nC=1\nB=1\n", {{"P=1", "C=1"}}, "[S]\nA=1\nB=1\n"},
+			{"with lines before, between and behind it", "; new\n[S]\nA=1\nX=1\nP=1\nY=1\nC=1\nZ=1\n", {{"P=1", "C=1"}}, "; new\n[S]\nA=1\nX=1\nY=1\nZ=1\n"},
+			{"of two that are equal, the last", "[S]\nP=1\nC=1\nA=1\nP=1\nC=1\nB=1\n", {{"P=1", "C=1"}}, "[S]\nP=1\nC=1\nA=1\nB=1\n"},
+			{"the lines that stand closest", "[S]\nP=1\nC=1\nA=1\nP=1\nB=1\nC=1\n", {{"P=1", "C=1"}}, "[S]\nA=1\nP=1\nB=1\nC=1\n"},
+			{"the same block twice", "[S]\nP=1\nA=1\nP=1\n", {{"P=1"}, {"P=1"}}, "[S]\nA=1\n"},
+			{"a section with the blank line in front", "[A]\nK=1\n\n[S]\nP=1\n", {{"", "[S]", "P=1"}}, "[A]\nK=1\n"},
+			{"a section whose blank line is gone", "[A]\nK=1\n[S]\nP=1\n", {{"", "[S]", "P=1"}}, "[A]\nK=1\n"},
+			{"no more blank lines than were put in", "[A]\n\n\n[S]\nP=1\n", {{"", "[S]", "P=1"}}, "[A]\n\n"},
+			{"a section with a comment and another section behind it", "[A]\nK=1\n[S]\nP=1\n; c\n[B]\nL=1\n", {{"[S]", "P=1"}}, "[A]\nK=1\n; c\n[B]\nL=1\n"},
+			{"everything", "[S]\nP=1\n", {{"[S]", "P=1"}}, ""},
+			{"line ends stay, each its own", "[S]\r\nA=1\nP=1\r\nB=1\r\n", {{"P=1"}}, "[S]\r\nA=1\nB=1\r\n"},
+			{"a missing last line end stays missing", "[S]\nA=1\nP=1", {{"P=1"}}, "[S]\nA=1"},
+			{"letters beyond ASCII and a mark", "\xEF\xBB\xBF; \xC3\xBC\n[S]\nP=\xC3\xA1\n", {{"P=\xC3\xA1"}}, "\xEF\xBB\xBF; \xC3\xBC\n[S]\n"},
+			{"a header that another line continues is none", "[A]\nK=1\\\n[S]\nL=2\nP=1\n", {{"P=1"}}, "[A]\nK=1\\\n[S]\nL=2\n"},
+		};
+		for (const auto& Case : Cases)
+		{
+			SCOPED_TRACE(Case.Behaviour);
+			Folder.Write("Config/DefaultEngine.ini", Case.Before);
+			EXPECT_EQ(Remove(Case.Blocks), HostConfig::ERemoval::Done) << ToUtf8(Reason);
+			EXPECT_EQ(Folder.Read("Config/DefaultEngine.ini"), Case.After);
+		}
+	}
+
+	TEST_F(LineRemoval, LeavesAFileAloneThatIsNotAsItWas)
+	{
+		const struct
+		{
+			const char* Behaviour;
+			std::string Text;
+			std::vector<std::vector<const char*>> Blocks;
+			const char* Reason;
+		} Cases[] = {
+			{"a line is gone", "[S]\nP=1\n", {{"P=1", "C=1"}}, "the line \"C=1\" is not there any more"},
+			{"blanks and case count", "[S]\nP= 1\np=1\n", {{"P=1"}}, "the line \"P=1\" is not there any more"},
+			{"the second block is gone", "[S]\nP=1\n", {{"P=1"}, {"P=1"}}, "the line \"P=1\" is not there any more"},
+			{"another order", "[S]\nC=1\nP=1\n", {{"P=1", "C=1"}}, "the lines from \"P=1\" on do not stand in their order any more"},
+			{"something was added at the end of the section", "[A]\nK=1\n[S]\nP=1\nMine=1\n", {{"[S]", "P=1"}}, "line 5, \"Mine=1\", was added to the section that would go"},
+			{"something was added in the middle of it", "[S]\nMine=1\nP=1\n", {{"[S]", "P=1"}}, "line 2, \"Mine=1\", was added to the section that would go"},
+		};
+		for (const auto& Case : Cases)
+		{
+			SCOPED_TRACE(Case.Behaviour);
+			Folder.Write("Config/DefaultEngine.ini", Case.Text);
+			EXPECT_EQ(Remove(Case.Blocks), HostConfig::ERemoval::NotThere);
+			EXPECT_EQ(ToUtf8(Reason), Case.Reason);
+			EXPECT_EQ(Folder.Read("Config/DefaultEngine.ini"), Case.Text);
+		}
+		std::filesystem::remove(Folder.GetNative("Config/DefaultEngine.ini"));
+		EXPECT_EQ(Remove({{"P=1"}}), HostConfig::ERemoval::NotThere);
+		Folder.Write("Config/DefaultEngine.ini", "[S]\nA=T\xFCr\n");
+		EXPECT_EQ(Remove({{"[S]"}}), HostConfig::ERemoval::Failed);
 	}
 
 	TEST_F(SectionUpdate, TwoProcessesAtOnceKeepEachOthersKeys)

@@ -3,6 +3,7 @@
 #include "HostLog.h"
 #include "HostQuestions.h"
 #include "HostState.h"
+#include "Misc/CommandLine.h"
 #include "Misc/MessageDialog.h"
 
 #include <gtest/gtest.h>
@@ -63,6 +64,20 @@ TEST_F(Questions, TheResponderIsAskedAfterTheQueueAndMayPass)
 	EXPECT_TRUE(HostQuestions::Ask(MakeSaveQuestion()).Choice.Equals(TEXT("Save")));
 	EXPECT_EQ(HostQuestions::GetAsked()[1].Source, EHostAnswerSource::Responder);
 	EXPECT_EQ(HostQuestions::GetAsked()[2].Source, EHostAnswerSource::Unattended);
+}
+
+TEST_F(Questions, AnUnattendedEditorAndACommandletAskNobody)
+{
+	for (const TCHAR* Switches : {TEXT("-unattended"), TEXT("-nullrhi -run=Cook")})
+	{
+		FCommandLine::Set(Switches);
+		HostQuestions::Enqueue(FName(TEXT("SaveAsset")), {TEXT("Cancel"), {}});
+		EXPECT_TRUE(HostQuestions::Ask(MakeSaveQuestion()).Choice.Equals(TEXT("Save"))) << "the default";
+		EXPECT_EQ(HostQuestions::GetAsked().Last().Source, EHostAnswerSource::Unattended);
+
+		FCommandLine::Set(TEXT(""));
+		EXPECT_TRUE(HostQuestions::Ask(MakeSaveQuestion()).Choice.Equals(TEXT("Cancel"))) << "the answer was not used up";
+	}
 }
 
 TEST_F(Questions, AChoiceThatIsNotOfferedIsReportedAndNotTaken)

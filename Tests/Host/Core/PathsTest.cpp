@@ -4,6 +4,7 @@
 #include "HAL/PlatformApplicationMisc.h"
 #include "HAL/PlatformProcess.h"
 #include "HostClipboard.h"
+#include "HostFiles.h"
 #include "HostProcess.h"
 #include "Misc/Paths.h"
 
@@ -69,17 +70,25 @@ namespace
 		EXPECT_EQ(ToUtf8(FPaths::ConvertRelativePathToFull(TEXT("a/b"))), (std::filesystem::current_path() / "a/b").string());
 	}
 
-	TEST_F(Paths, UserSettingsFollowTheDesktopsConvention)
+	TEST_F(Paths, TheUsersFoldersFollowTheDesktopsConvention)
 	{
 		HostState::DestroyAll();
 		setenv("XDG_CONFIG_HOME", Folder.GetNative("xdg").c_str(), 1);
+		setenv("XDG_STATE_HOME", Folder.GetNative("state").c_str(), 1);
 		EXPECT_EQ(ToUtf8(FString(FPlatformProcess::UserSettingsDir())), ToUtf8(Folder.Get("xdg/velmorant/")));
+		EXPECT_EQ(ToUtf8(HostPaths::GetUserStateDir()), ToUtf8(Folder.Get("state/velmorant/")));
 		HostState::DestroyAll();
 		unsetenv("XDG_CONFIG_HOME");
+		setenv("XDG_STATE_HOME", "relative", 1);
 		const char* Home = std::getenv("HOME");
 		const std::string OldHome = Home != nullptr ? Home : "";
 		setenv("HOME", Folder.GetNative("home").c_str(), 1);
 		EXPECT_EQ(ToUtf8(FString(FPlatformProcess::UserSettingsDir())), ToUtf8(Folder.Get("home/.config/velmorant/")));
+		EXPECT_EQ(ToUtf8(HostPaths::GetUserStateDir()), ToUtf8(Folder.Get("home/.local/state/velmorant/")));
+		HostFiles::Write(HostPaths::GetUserStateDir() + TEXT("Record"), "private");
+		EXPECT_EQ(std::filesystem::status(Folder.GetNative("home/.local/state/velmorant/Record")).permissions(), std::filesystem::perms(0600));
+		EXPECT_EQ(std::filesystem::status(Folder.GetNative("home/.local/state/velmorant")).permissions(), std::filesystem::perms(0700));
+		unsetenv("XDG_STATE_HOME");
 		setenv("HOME", OldHome.c_str(), 1);
 	}
 

@@ -130,6 +130,26 @@ namespace
 		EXPECT_EQ(GetDefault<UTestSettings>()->Finishes[1].Name, FName("B"));
 	}
 
+	TEST_F(ObjectConfig, ThePlatformsFileIsOneOfThoseThatTheUsersFileDiffersFrom)
+	{
+		Folder.Write(DefaultFile, "[/Script/TestObjects.TestSettings]\nFloors=12\nOwner=Ann\n+Finishes=(Name=\"A\")\n");
+		Folder.Write("Config/Linux/LinuxTestHouse.ini", "[/Script/TestObjects.TestSettings]\nFloors=9\n!Finishes=ClearArray\n");
+		Restart();
+		EXPECT_EQ(GetDefault<UTestSettings>()->Floors, 9);
+		EXPECT_EQ(GetDefault<UTestSettings>()->Finishes.Num(), 0);
+		UTestSettings* Settings = NewObject<UTestSettings>();
+		Settings->Owner = TEXT("Bo");
+		Settings->SaveConfig();
+		const std::string Text = Folder.Read(UserFile);
+		EXPECT_THAT(Text, testing::HasSubstr("Owner=Bo\n"));
+		EXPECT_THAT(Text, testing::Not(testing::HasSubstr("Floors"))) << "as in the platform's file";
+
+		Settings->Floors = 12;
+		Settings->SaveConfig();
+		Restart();
+		EXPECT_EQ(GetDefault<UTestSettings>()->Floors, 12) << "the platform's file says something else";
+	}
+
 	TEST_F(ObjectConfig, OnePropertyCanBeWrittenAlone)
 	{
 		UTestSettings* Settings = GetMutableDefault<UTestSettings>();

@@ -165,11 +165,15 @@ TEST_F(FNotificationTest, PressesOnlyWhatAPersonCouldPress)
 	EXPECT_EQ(NumPressed, 2);
 
 	Wait(5.5);
-	EXPECT_EQ(Refusal(HostNotifications::PressButton(TEXT("Go"))), "is on a notification that has gone") << "it fades";
+	EXPECT_EQ(Phase(Newest()), "fading");
+	EXPECT_EQ(Refusal(HostNotifications::PressButton(TEXT("Go"))), "") << "what fades can still be clicked";
+	Item->SetCompletionState(SNotificationItem::CS_None);
+	EXPECT_EQ(Refusal(HostNotifications::PressButton(TEXT("Go"))), "does not show in the notification's present state");
+	Item->SetCompletionState(SNotificationItem::CS_Pending);
 	Wait(2.0);
 	EXPECT_EQ(Refusal(HostNotifications::PressButton(TEXT("Go"))), "is on no notification that shows");
-	EXPECT_EQ(NumPressed, 2);
-	EXPECT_EQ(Newest().PressedButtons, (TArray<FString>{TEXT("Go"), TEXT("Later")}));
+	EXPECT_EQ(NumPressed, 3);
+	EXPECT_EQ(Newest().PressedButtons, (TArray<FString>{TEXT("Go"), TEXT("Later"), TEXT("Go")}));
 }
 
 TEST_F(FNotificationTest, PressesTheNewestOfTwoEqualButtons)
@@ -201,11 +205,19 @@ TEST_F(FNotificationTest, AButtonMayTakeItsOwnNotificationAway)
 	EXPECT_EQ(Phase(Newest()), "gone");
 }
 
-TEST_F(FNotificationTest, IsNotShownWithoutAUserInterface)
+TEST_F(FNotificationTest, IsShownOnlyWhereItIsAllowedAndThereIsAUserInterface)
 {
+	FSlateNotificationManager& Manager = FSlateNotificationManager::Get();
+	Show(MakeInfo(60.0f, 1.0f));
+	Manager.SetAllowNotifications(false);
+	EXPECT_FALSE(Manager.AddNotification(MakeInfo(1.0f, 1.0f)).IsValid());
+	EXPECT_EQ(HostNotifications::GetStanding().Num(), 1) << "what stands, stays";
+
+	Manager.SetAllowNotifications(true);
+	Show(MakeInfo(60.0f, 1.0f));
 	HostSlate::Stop();
-	EXPECT_FALSE(FSlateNotificationManager::Get().AddNotification(MakeInfo(1.0f, 1.0f)).IsValid());
-	EXPECT_TRUE(HostNotifications::GetHistory().IsEmpty());
+	EXPECT_FALSE(Manager.AddNotification(MakeInfo(1.0f, 1.0f)).IsValid());
+	EXPECT_EQ(HostNotifications::GetHistory().Num(), 2);
 }
 
 TEST_F(FNotificationTest, HistoryBelongsToOneEditor)

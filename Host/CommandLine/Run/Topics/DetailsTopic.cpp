@@ -17,6 +17,11 @@ namespace DetailsTopic
 		/** "OBJECT … [as NAME]" */
 		FStepResult Inspect(FScriptContext& Context, const FScriptArguments& Arguments)
 		{
+			FString Missing;
+			if (!ScriptWidgets::CheckUserInterface(Missing))
+			{
+				return FStepResult::Error(Missing);
+			}
 			const bool bNamed = Arguments.Num() >= 3 && Arguments[Arguments.Num() - 2].Equals(AsWord);
 			const FString Name = bNamed ? Arguments[Arguments.Num() - 1] : FString(DefaultName);
 			TArray<UObject*> Objects;

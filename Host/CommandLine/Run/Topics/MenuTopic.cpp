@@ -6,6 +6,7 @@
 #include "HostSnapshot.h"
 #include "Run/ScriptContext.h"
 #include "Run/ScriptTopics.h"
+#include "Run/ScriptWidgets.h"
 
 namespace MenuTopic
 {
@@ -14,12 +15,17 @@ namespace MenuTopic
 		FStepResult OpenMenu(FScriptContext& Context, const FScriptArguments& Arguments)
 		{
 			FString Reason;
-			const bool bOpened = Context.Session.GetToolbar().OpenMenu(Arguments[0], Reason).IsValid();
+			const bool bOpened = ScriptWidgets::CheckUserInterface(Reason) && Context.Session.GetToolbar().OpenMenu(Arguments[0], Reason).IsValid();
 			return bOpened ? FStepResult::Done() : FStepResult::Error(Reason);
 		}
 
 		FStepResult PrintToolbar(FScriptContext& Context, const FScriptArguments&)
 		{
+			FString Reason;
+			if (!ScriptWidgets::CheckUserInterface(Reason))
+			{
+				return FStepResult::Error(Reason);
+			}
 			Context.Print(HostSnapshot::Take(Context.Session.GetToolbar().GetContent()).TrimEnd());
 			return FStepResult::Done();
 		}
@@ -48,7 +54,7 @@ namespace MenuTopic
 		{
 			FToolbarHost& Toolbar = Context.Session.GetToolbar();
 			FString Reason;
-			if (!Toolbar.FindButton(Arguments[0], Reason).IsValid())
+			if (!ScriptWidgets::CheckUserInterface(Reason) || !Toolbar.FindButton(Arguments[0], Reason).IsValid())
 			{
 				return FExpectation::Unanswerable(Reason);
 			}

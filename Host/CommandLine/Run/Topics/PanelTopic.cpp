@@ -45,7 +45,7 @@ namespace PanelTopic
 		{
 			const FString* Name = Arguments.FindOption(1, TEXT("as"));
 			FString Reason;
-			const bool bOpened = Context.Session.GetPanels().Open(Arguments[0], Name != nullptr ? *Name : FString(), Reason) != nullptr;
+			const bool bOpened = ScriptWidgets::CheckUserInterface(Reason) && Context.Session.GetPanels().Open(Arguments[0], Name != nullptr ? *Name : FString(), Reason) != nullptr;
 			return bOpened ? FStepResult::Done() : FStepResult::Error(Reason);
 		}
 

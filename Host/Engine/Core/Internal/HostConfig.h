@@ -9,11 +9,20 @@
 /**
  * Configuration of the running editor.
  *
- * A branch has a name ("Engine", "Game", "EditorPerProjectUserSettings", any name a class gives as its config) and three files, each of which
- * may be missing: the host's Base<Name>.ini, the project's Config/Default<Name>.ini and the user's Saved/Config/LinuxEditor/<Name>.ini.
+ * A branch has a name ("Engine", "Game", "EditorPerProjectUserSettings", any name a class gives as its config) and layers, each of which
+ * may be missing and overrules those before it: the host's Base<Name>.ini; of the project Config/Default<Name>.ini, then the platform's
+ * Config/<Platform>/<Platform><Name>.ini and Platforms/<Platform>/Config/<Platform><Name>.ini (those of Unix before those of Linux), then
+ * Config/User<Name>.ini; last the user's Saved/Config/<Platform>Editor/<Name>.ini.
  */
 namespace HostConfig
 {
+	/** Platforms that an editor runs on. */
+	const TArray<FString>& GetPlatforms();
+
+	/** Whose settings count in the running editor: one of GetPlatforms(), this machine's unless set. To be set before Boot(). */
+	void SetPlatform(const FString& Platform);
+	const FString& GetPlatform();
+
 	/** Makes GConfig and names the branches. HostPaths must know the project. Nothing is read yet. GConfig goes with the editor. */
 	void Boot();
 
@@ -23,7 +32,23 @@ namespace HostConfig
 	/** <Project>/Config/Default<Name>.ini. */
 	FString GetDefaultFile(const FString& Name);
 
-	/** Makes GConfig see what was written to the files of a branch. Copies of single files that were read by path stay as they are. */
+	/** The files of a branch as listed above, lowest first. */
+	TArray<FString> GetLayers(const FString& Name);
+
+	/** A value that one line of a branch brings and a later one takes away. */
+	struct FRemovedValue
+	{
+		FString Key; // without operation
+		FString Value;
+		FString File; // of the line that takes it away
+		int32 Line = 0; // one-based
+		FString LineText;
+	};
+
+	/** What a section of a branch brings and takes away again, as its files are now, in the order in which it was brought. */
+	TArray<FRemovedValue> GetRemovedValues(const FString& Name, const FString& Section);
+
+	/** Makes GConfig see what was written to the files of a branch. Copies of single files follow by themselves. */
 	void ReloadBranch(const FString& Name);
 
 	/**
@@ -39,4 +64,22 @@ namespace HostConfig
 	 * @return false when the file could not be read or written (reported); it is as it was then.
 	 */
 	bool UpdateSection(const FString& File, const FString& Section, const TArray<TPair<FString, FString>>& Lines, const TArray<FString>& OwnedKeys);
+
+	enum class ERemoval : uint8
+	{
+		Done,
+		NotThere, // what was to go does not stand there as it was put in
+		Failed // the file could not be read or written; reported
+	};
+
+	/**
+	 * Takes lines out of a file that were put in once, wherever they stand now, and nothing else: encoding, line ends and all other lines
+	 * stay as they are. Either all blocks go, or the file is not touched.
+	 *
+	 * The lines of a block are to stand in their order; others may have come between them. Blank lines at a block's beginning go with it
+	 * where they are. Entries that stay must stay in their section: a header goes only when nothing was added below it.
+	 *
+	 * @param OutReason for NotThere, as the end of a sentence
+	 */
+	ERemoval RemoveLines(const FString& File, const TArray<TArray<FString>>& Blocks, FString& OutReason);
 }

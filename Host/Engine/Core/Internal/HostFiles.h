@@ -43,6 +43,9 @@ namespace HostFiles
 	bool FileExists(const FString& Path);
 	bool DirectoryExists(const FString& Path);
 
+	/** The full path without links: where a read or write of Path ends up. */
+	FString Resolve(const FString& Path);
+
 	/** OutBytes is empty unless the result is Done. */
 	ERead Read(const FString& Path, std::string& OutBytes);
 
@@ -77,6 +80,9 @@ namespace HostFiles
 
 	/** Full paths of the files written since the editor went up, in order of their first write; overlay writes do not count. */
 	TArray<FString> GetWrittenFiles();
+
+	/** How often this editor changed the file, on disk or in its overlay: who keeps a copy can tell that it is old. */
+	uint32 GetNumChanges(const FString& Path);
 
 	//~ Overlay: writes that only this editor sees.
 

@@ -31,6 +31,9 @@ namespace HostPaths
 	void SetUserSettingsDir(const FString& Directory);
 	const FString& GetUserSettingsDir();
 
+	/** What programs remember between runs: $XDG_STATE_HOME/velmorant/, else ~/.local/state/velmorant/. As private as the settings. */
+	const FString& GetUserStateDir();
+
 	/** Folders that hold plugins, each in a folder of its own, beside the project's Plugins folder, which always counts. */
 	void SetPluginDirs(const TArray<FString>& Directories);
 	TArray<FString> GetPluginDirs();

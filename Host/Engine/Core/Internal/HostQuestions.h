@@ -46,7 +46,7 @@ struct FAskedQuestion
  * The questions of the running editor, and who answers them.
  *
  * Answers that were put in the queue for the question's kind come first, then a responder (the person at the window), then the
- * default. No question ever waits.
+ * default. An unattended editor and a commandlet ask nobody: the default is taken at once. No question ever waits.
  */
 namespace HostQuestions
 {

@@ -2,6 +2,9 @@
 
 #include "CoreGlobals.h"
 
+#include "Misc/CommandLine.h"
+#include "Misc/Parse.h"
+
 DEFINE_LOG_CATEGORY(LogTemp);
 DEFINE_LOG_CATEGORY(LogCore);
 DEFINE_LOG_CATEGORY(LogInit);
@@ -9,3 +12,9 @@ DEFINE_LOG_CATEGORY(LogInit);
 ITransaction* GUndo = nullptr;
 bool GIsTransacting = false;
 bool GIsEditor = true;
+
+bool IsRunningCommandlet()
+{
+	FString Name;
+	return FParse::Value(FCommandLine::Get(), TEXT("-run="), Name);
+}

@@ -30,7 +30,7 @@ extern ITransaction* GUndo;
 /** Whether a step is being undone or redone just now. */
 extern bool GIsTransacting;
 
-/** Host: always true. */
+/** Host: always true, in a commandlet as well. */
 extern bool GIsEditor;
 
 /** Host: everything runs on one thread. */
@@ -39,8 +39,5 @@ inline bool IsInGameThread()
 	return true;
 }
 
-/** Host: programs of the host drive an editor; none of them is a commandlet. */
-inline bool IsRunningCommandlet()
-{
-	return false;
-}
+/** Whether the editor runs a command and ends, without a user interface: it was started with -run=NAME. */
+bool IsRunningCommandlet();

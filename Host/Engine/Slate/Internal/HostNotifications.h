@@ -76,7 +76,10 @@ namespace HostNotifications
 	/** Labels of the buttons that show just now. */
 	TArray<FString> GetVisibleButtons(const FHostNotification& Notification);
 
-	/** Presses a button, if a person could: refuses when the notification is gone or fading, or the button does not show or is disabled. */
+	/**
+	 * Presses a button, if a person could: refuses when the notification is gone, or the button does not show or is disabled. A notification
+	 * that fades can still be clicked.
+	 */
 	FHostInputResult PressButton(const FHostNotification& Notification, const FString& Label);
 
 	/** Presses the button of that label on the newest notification on which a person could. */

@@ -13,6 +13,6 @@ namespace HostSlate
 	/** Takes it down: standing notifications go away without being expired, registered command sets are dropped. */
 	void Stop();
 
-	/** How often the renderer was asked to load its textures again. */
+	/** How often the renderer loaded its textures again; one that draws nothing has none. */
 	int32 GetTextureReloads();
 }

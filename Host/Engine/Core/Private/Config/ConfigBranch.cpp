@@ -11,7 +11,14 @@ namespace ConfigBranch
 	{
 		FString GetUserFolder()
 		{
-			return FPaths::GeneratedConfigDir() + TEXT("LinuxEditor/");
+			return FPaths::GeneratedConfigDir() + HostConfig::GetPlatform() + TEXT("Editor/");
+		}
+
+		/** A platform, after the one whose settings it shares. */
+		TArray<FString> GetPlatformChain()
+		{
+			const FString& Platform = HostConfig::GetPlatform();
+			return Platform == TEXT("Linux") ? TArray<FString>{TEXT("Unix"), Platform} : TArray<FString>{Platform};
 		}
 	}
 
@@ -28,6 +35,15 @@ namespace ConfigBranch
 
 	TArray<FString> GetLayers(const FString& Name)
 	{
-		return {FPaths::EngineConfigDir() + TEXT("Base") + Name + TEXT(".ini"), HostConfig::GetDefaultFile(Name), GetFile(Name)};
+		TArray<FString> Layers = {FPaths::EngineConfigDir() + TEXT("Base") + Name + TEXT(".ini"), HostConfig::GetDefaultFile(Name)};
+		for (const FString& Platform : GetPlatformChain())
+		{
+			const FString File = Platform + Name + TEXT(".ini");
+			Layers.Add(FPaths::ProjectConfigDir() + Platform / File);
+			Layers.Add(FPaths::ProjectDir() + TEXT("Platforms") / Platform / TEXT("Config") / File);
+		}
+		Layers.Add(FPaths::ProjectConfigDir() + TEXT("User") + Name + TEXT(".ini"));
+		Layers.Add(GetFile(Name));
+		return Layers;
 	}
 }

@@ -5,7 +5,7 @@
 #include "Containers/Array.h"
 #include "Containers/UnrealString.h"
 
-/** Which files a branch of the configuration is made of. */
+/** Which files a branch of the configuration is made of, for the platform that HostConfig names. */
 namespace ConfigBranch
 {
 	/** The user's own file, under which the branch is known. */
@@ -14,6 +14,6 @@ namespace ConfigBranch
 	/** Whether Filename is such a file, and of which branch. */
 	bool IsBranchFile(const FString& Filename, FString& OutName);
 
-	/** Lowest first. Any of them may be missing on disk. */
+	/** Lowest first; the user's own file is the last. Any of them may be missing on disk. */
 	TArray<FString> GetLayers(const FString& Name);
 }

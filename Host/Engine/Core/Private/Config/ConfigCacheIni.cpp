@@ -4,8 +4,7 @@
 
 #include "Config/ConfigBranch.h"
 #include "Config/IniMerge.h"
-#include "Config/IniSyntax.h"
-#include "Files/TextCoding.h"
+#include "HostFiles.h"
 #include "Misc/Paths.h"
 
 #include <memory>
@@ -22,13 +21,6 @@ namespace ConfigCacheIni
 {
 	namespace
 	{
-		std::string ToFoldedUtf8(const FString& Text)
-		{
-			std::string Result;
-			TextCoding::EncodeUtf8(std::u16string_view(*Text, static_cast<size_t>(Text.Len())), Result);
-			return IniSyntax::Fold(std::string_view(Result));
-		}
-
 		FString Expand(const FString& Value)
 		{
 			int32 Percent = INDEX_NONE;
@@ -48,25 +40,24 @@ namespace ConfigCacheIni
 		class FCachedFile
 		{
 		public:
-			explicit FCachedFile(const FString& Filename)
+			explicit FCachedFile(const FString& InFilename)
+				: Filename(InFilename)
+				, NumChanges(HostFiles::GetNumChanges(InFilename))
 			{
 				FString Branch;
 				bBranch = ConfigBranch::IsBranchFile(Filename, Branch);
-				for (const FString& File : bBranch ? ConfigBranch::GetLayers(Branch) : TArray<FString>{Filename})
-				{
-					if (std::unique_ptr<FIniFile> Layer = FIniFile::Read(File))
-					{
-						Layers.push_back(std::move(Layer));
-					}
-				}
+				Layers = IniMerge::ReadLayers(bBranch ? ConfigBranch::GetLayers(Branch) : TArray<FString>{Filename});
 			}
 
 			/** A single file that is missing is looked for again with every question. */
 			bool IsMissing() const { return !bBranch && Layers.empty(); }
 
+			/** Whether this editor wrote a single file since. What others write is not looked for, and a branch waits until it is reloaded. */
+			bool IsOutdated() const { return !bBranch && HostFiles::GetNumChanges(Filename) != NumChanges; }
+
 			bool HasSection(const FString& Section) const
 			{
-				const std::string Name = ToFoldedUtf8(Section);
+				const std::string Name = FIniFile::FoldName(Section);
 				for (const std::unique_ptr<FIniFile>& Layer : Layers)
 				{
 					if (Layer->HasSection(Name))
@@ -79,7 +70,7 @@ namespace ConfigCacheIni
 
 			FConfigSection* FindSection(const FString& Section, bool bForce)
 			{
-				const std::string Name = ToFoldedUtf8(Section);
+				const std::string Name = FIniFile::FoldName(Section);
 				const auto Known = Sections.find(Name);
 				if (Known != Sections.end())
 				{
@@ -94,6 +85,8 @@ namespace ConfigCacheIni
 			}
 
 		private:
+			FString Filename;
+			uint32 NumChanges = 0;
 			bool bBranch = false;
 			IniMerge::FLayers Layers;
 			std::unordered_map<std::string, std::unique_ptr<FConfigSection>> Sections; // by folded name
@@ -114,17 +107,18 @@ public:
 	/** Null for a single file that is missing. */
 	ConfigCacheIni::FCachedFile* Find(const FString& Filename)
 	{
-		const std::string Key = ConfigCacheIni::ToFoldedUtf8(Filename);
+		const std::string Key = FIniFile::FoldName(Filename);
 		const auto Known = Files.find(Key);
-		if (Known != Files.end())
+		if (Known != Files.end() && !Known->second->IsOutdated())
 		{
 			return Known->second.get();
 		}
+		Files.erase(Key);
 		std::unique_ptr<ConfigCacheIni::FCachedFile> Read = std::make_unique<ConfigCacheIni::FCachedFile>(Filename);
 		return !Read->IsMissing() ? (Files[Key] = std::move(Read)).get() : nullptr;
 	}
 
-	void Forget(const FString& Filename) { Files.erase(ConfigCacheIni::ToFoldedUtf8(Filename)); }
+	void Forget(const FString& Filename) { Files.erase(FIniFile::FoldName(Filename)); }
 
 private:
 	std::unordered_map<std::string, std::unique_ptr<ConfigCacheIni::FCachedFile>> Files;

@@ -3,6 +3,7 @@
 #include "HostConfig.h"
 
 #include "Config/ConfigBranch.h"
+#include "Config/IniMerge.h"
 #include "HostState.h"
 #include "Misc/ConfigCacheIni.h"
 #include "Misc/Paths.h"
@@ -36,6 +37,29 @@ namespace HostConfig
 		};
 
 		THostState<FBootedConfig> Booted;
+
+		struct FPlatform
+		{
+			FString Name = TEXT("Linux"); // the host runs nowhere else
+		};
+
+		THostState<FPlatform> Platform;
+	}
+
+	const TArray<FString>& GetPlatforms()
+	{
+		static const TArray<FString> Names = {TEXT("Windows"), TEXT("Linux"), TEXT("Mac")};
+		return Names;
+	}
+
+	void SetPlatform(const FString& Name)
+	{
+		Platform->Name = Name;
+	}
+
+	const FString& GetPlatform()
+	{
+		return Platform->Name;
 	}
 
 	void Boot()
@@ -51,6 +75,16 @@ namespace HostConfig
 	FString GetDefaultFile(const FString& Name)
 	{
 		return FPaths::ProjectConfigDir() + TEXT("Default") + Name + TEXT(".ini");
+	}
+
+	TArray<FString> GetLayers(const FString& Name)
+	{
+		return ConfigBranch::GetLayers(Name);
+	}
+
+	TArray<FRemovedValue> GetRemovedValues(const FString& Name, const FString& Section)
+	{
+		return IniMerge::FindRemovedValues(IniMerge::ReadLayers(GetLayers(Name)), FIniFile::FoldName(Section));
 	}
 
 	void ReloadBranch(const FString& Name)

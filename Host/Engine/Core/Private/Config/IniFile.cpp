@@ -3,6 +3,7 @@
 #include "Config/IniFile.h"
 
 #include "Config/IniSyntax.h"
+#include "Files/TextCoding.h"
 #include "HostTextFiles.h"
 
 namespace IniFile
@@ -13,10 +14,11 @@ namespace IniFile
 		class FLines
 		{
 		public:
-			FLines(std::string_view InText, size_t Begin)
+			FLines(std::string_view InText, FIniFile::FLine First)
 				: Text(InText)
-				, Start(Begin)
-				, Next(Begin)
+				, Start(First.Begin)
+				, Next(First.Begin)
+				, Number(First.Number - 1)
 			{
 			}
 
@@ -27,6 +29,7 @@ namespace IniFile
 					return false;
 				}
 				Start = Next;
+				++Number;
 				size_t End = Text.find('\n', Start);
 				Next = End == std::string_view::npos ? Text.size() : End + 1;
 				End = End == std::string_view::npos ? Text.size() : End;
@@ -41,14 +44,15 @@ namespace IniFile
 			}
 
 			std::string_view Get() const { return Line; }
-			size_t GetStart() const { return Start; }
-			size_t GetNext() const { return Next; }
+			FIniFile::FLine GetPlace() const { return {Number, Start}; }
+			FIniFile::FLine GetNextPlace() const { return {Number + 1, Next}; }
 
 		private:
 			std::string_view Text;
 			std::string_view Line;
 			size_t Start;
 			size_t Next;
+			int32 Number; // of the current line
 		};
 
 		/** The current line with those that continue it. @param Joined holds the result when there are any */
@@ -72,9 +76,17 @@ namespace IniFile
 	}
 }
 
+std::string FIniFile::FoldName(const FString& Name)
+{
+	std::string Utf8;
+	TextCoding::EncodeUtf8(std::u16string_view(*Name, static_cast<size_t>(Name.Len())), Utf8);
+	return IniSyntax::Fold(std::string_view(Utf8));
+}
+
 std::unique_ptr<FIniFile> FIniFile::Read(const FString& File)
 {
 	std::unique_ptr<FIniFile> Result = std::make_unique<FIniFile>();
+	Result->Path = File;
 	switch (HostTextFiles::ReadUtf8(File, Result->Text))
 	{
 		case HostFiles::ERead::Missing:
@@ -93,7 +105,7 @@ void FIniFile::FindSections()
 {
 	FRange* Open = nullptr;
 	bool bContinued = false;
-	for (IniFile::FLines Lines(Text, 0); Lines.Advance();)
+	for (IniFile::FLines Lines(Text, FLine{1, 0}); Lines.Advance();)
 	{
 		const std::string_view Line = Lines.Get();
 		std::string_view Name;
@@ -101,10 +113,10 @@ void FIniFile::FindSections()
 		{
 			if (Open != nullptr)
 			{
-				Open->End = Lines.GetStart();
+				Open->End = Lines.GetPlace().Begin;
 			}
 			std::vector<FRange>& Ranges = Sections[IniSyntax::Fold(Name)];
-			Ranges.push_back(FRange{Lines.GetNext(), Text.size()});
+			Ranges.push_back(FRange{Lines.GetNextPlace(), Text.size()});
 			Open = &Ranges.back();
 		}
 		bContinued = IniSyntax::IsContinued(Line);
@@ -122,15 +134,22 @@ std::vector<FIniFile::FEntry> FIniFile::ReadSection(const std::string& Section) 
 	for (const FRange& Range : Found->second)
 	{
 		std::string Joined;
-		IniFile::FLines Lines(std::string_view(Text).substr(0, Range.End), Range.Begin);
+		IniFile::FLines Lines(std::string_view(Text).substr(0, Range.End), Range.First);
 		while (Lines.Advance())
 		{
+			const FLine Place = Lines.GetPlace();
 			IniSyntax::TEntry<char> Entry;
 			if (IniSyntax::ParseEntry(IniFile::JoinContinued(Lines, Joined), Entry))
 			{
-				Result.push_back(FEntry{std::string(Entry.Key), IniSyntax::Unquote(Entry.Value)});
+				Result.push_back(FEntry{std::string(Entry.Key), IniSyntax::Unquote(Entry.Value), Place});
 			}
 		}
 	}
 	return Result;
+}
+
+std::string_view FIniFile::GetText(const FLine& Line) const
+{
+	IniFile::FLines Lines(Text, Line);
+	return Lines.Advance() ? Lines.Get() : std::string_view();
 }

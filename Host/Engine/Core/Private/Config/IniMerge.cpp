@@ -26,8 +26,9 @@ namespace IniMerge
 		class FSectionBuilder
 		{
 		public:
-			void Apply(const FIniFile::FEntry& Entry)
+			void Apply(const FIniFile& Layer, const FIniFile::FEntry& Entry)
 			{
+				Current = FOrigin{&Layer, Entry.Line};
 				const char Operation = IniSyntax::IsPrefix(Entry.Key.front()) ? Entry.Key.front() : '=';
 				const std::string_view Name = IniSyntax::WithoutPrefix(std::string_view(Entry.Key));
 				if (Name.empty() || Operation == '@')
@@ -54,7 +55,7 @@ namespace IniMerge
 				std::unique_ptr<FConfigSection> Result = std::make_unique<FConfigSection>();
 				for (const FValue& Value : Values)
 				{
-					if (!Value.bRemoved)
+					if (Value.RemovedBy.Layer == nullptr)
 					{
 						Result->Add(Value.Key, FConfigValue(TextCoding::ToFString(Value.Text)));
 					}
@@ -62,7 +63,28 @@ namespace IniMerge
 				return Result;
 			}
 
+			TArray<HostConfig::FRemovedValue> GetRemoved() const
+			{
+				TArray<HostConfig::FRemovedValue> Result;
+				for (const FValue& Value : Values)
+				{
+					const auto& [Layer, Line] = Value.RemovedBy;
+					if (Layer != nullptr)
+					{
+						Result.Add(HostConfig::FRemovedValue{Value.Key.ToString(), TextCoding::ToFString(Value.Text), Layer->GetPath(), Line.Number, TextCoding::ToFString(Layer->GetText(Line))});
+					}
+				}
+				return Result;
+			}
+
 		private:
+			/** A line of a layer. */
+			struct FOrigin
+			{
+				const FIniFile* Layer = nullptr;
+				FIniFile::FLine Line;
+			};
+
 			struct FKey
 			{
 				std::unordered_multimap<std::string, size_t> Places; // value to index into Values
@@ -72,7 +94,7 @@ namespace IniMerge
 			{
 				FName Key;
 				std::string Text;
-				bool bRemoved = false;
+				FOrigin RemovedBy; // of no layer while the value counts
 			};
 
 			FKey& FindOrAddKey(std::string_view Name) { return Keys[IniSyntax::Fold(Name)]; }
@@ -80,7 +102,7 @@ namespace IniMerge
 			void Add(FKey& Key, std::string_view Name, const std::string& Value)
 			{
 				Key.Places.emplace(Value, Values.size());
-				Values.push_back(FValue{ToKey(Name), Value});
+				Values.push_back(FValue{ToKey(Name), Value, FOrigin()});
 			}
 
 			void Remove(FKey& Key, const std::string& Value)
@@ -88,7 +110,7 @@ namespace IniMerge
 				const auto [First, Last] = Key.Places.equal_range(Value);
 				for (auto Place = First; Place != Last; ++Place)
 				{
-					Values[Place->second].bRemoved = true;
+					Values[Place->second].RemovedBy = Current;
 				}
 				Key.Places.erase(First, Last);
 			}
@@ -97,14 +119,44 @@ namespace IniMerge
 			{
 				for (const auto& [Text, Place] : Key.Places)
 				{
-					Values[Place].bRemoved = true;
+					Values[Place].RemovedBy = Current;
 				}
 				Key.Places.clear();
 			}
 
 			std::unordered_map<std::string, FKey> Keys; // by folded name
 			std::vector<FValue> Values; // in order, removed ones included
+			FOrigin Current; // of the entry that is being applied
 		};
+
+		FSectionBuilder ApplyAll(const FLayers& Layers, const std::string& Section)
+		{
+			FSectionBuilder Builder;
+			for (const std::unique_ptr<FIniFile>& Layer : Layers)
+			{
+				for (const FIniFile::FEntry& Entry : Layer->ReadSection(Section))
+				{
+					if (Entry.Key.size() <= MaxKeyLength)
+					{
+						Builder.Apply(*Layer, Entry);
+					}
+				}
+			}
+			return Builder;
+		}
+	}
+
+	FLayers ReadLayers(const TArray<FString>& Files)
+	{
+		FLayers Layers;
+		for (const FString& File : Files)
+		{
+			if (std::unique_ptr<FIniFile> Layer = FIniFile::Read(File))
+			{
+				Layers.push_back(std::move(Layer));
+			}
+		}
+		return Layers;
 	}
 
 	std::unique_ptr<FConfigSection> ReadAsWritten(const FIniFile& File, const std::string& Section)
@@ -131,17 +183,11 @@ namespace IniMerge
 		{
 			return nullptr;
 		}
-		FSectionBuilder Builder;
-		for (const std::unique_ptr<FIniFile>& Layer : Layers)
-		{
-			for (const FIniFile::FEntry& Entry : Layer->ReadSection(Section))
-			{
-				if (Entry.Key.size() <= MaxKeyLength)
-				{
-					Builder.Apply(Entry);
-				}
-			}
-		}
-		return Builder.Build();
+		return ApplyAll(Layers, Section).Build();
+	}
+
+	TArray<HostConfig::FRemovedValue> FindRemovedValues(const FLayers& Layers, const std::string& Section)
+	{
+		return ApplyAll(Layers, Section).GetRemoved();
 	}
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Config/IniFile.h"
+#include "HostConfig.h"
 #include "Misc/ConfigCacheIni.h"
 
 #include <memory>
@@ -13,6 +14,9 @@
 namespace IniMerge
 {
 	using FLayers = std::vector<std::unique_ptr<FIniFile>>; // lowest first; those that are not there are left out
+
+	/** Those of the files that are there. */
+	FLayers ReadLayers(const TArray<FString>& Files);
 
 	/** The entries as they stand, prefixes being part of the keys. Null when the file has no such section. */
 	std::unique_ptr<FConfigSection> ReadAsWritten(const FIniFile& File, const std::string& Section);
@@ -28,4 +32,7 @@ namespace IniMerge
 	 * Null when no layer has the section.
 	 */
 	std::unique_ptr<FConfigSection> Merge(const FLayers& Layers, const std::string& Section);
+
+	/** The values that Merge() leaves out because a later line takes them away. */
+	TArray<HostConfig::FRemovedValue> FindRemovedValues(const FLayers& Layers, const std::string& Section);
 }

@@ -16,6 +16,7 @@
 #include <set>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <unordered_map>
 #include <vector>
 
 namespace HostFiles
@@ -30,6 +31,7 @@ namespace HostFiles
 			std::vector<std::string> Written; // in order of the first write
 			std::set<std::string> WrittenLookup; // the same paths
 			std::set<std::string> TidiedFolders; // leftovers are looked for once in each
+			std::unordered_map<std::string, uint32> NumChanges; // by resolved path
 		};
 
 		THostState<FState> State;
@@ -82,6 +84,12 @@ namespace HostFiles
 			return true;
 		}
 
+		bool CountChange(const std::string& Path)
+		{
+			++State.Get().NumChanges[Path];
+			return true;
+		}
+
 		TArray<FString> ToStrings(const std::vector<std::string>& Paths)
 		{
 			TArray<FString> Result;
@@ -107,6 +115,11 @@ namespace HostFiles
 	bool DirectoryExists(const FString& Path)
 	{
 		return GetKind(Path) == EKind::Directory;
+	}
+
+	FString Resolve(const FString& Path)
+	{
+		return NativePath::ToString(NativePath::Resolve(Path));
 	}
 
 	ERead Read(const FString& Path, std::string& OutBytes)
@@ -145,7 +158,7 @@ namespace HostFiles
 		if (Overlay != nullptr && Overlay->Find(Resolved) != nullptr)
 		{
 			Overlay->Write(Resolved, Bytes); // the disk had its say the first time
-			return true;
+			return CountChange(Resolved);
 		}
 		const FOnDisk OnDisk(Resolved);
 		if (OnDisk.bExists && DiskFile::Holds(Resolved, OnDisk.Status, Bytes))
@@ -159,9 +172,9 @@ namespace HostFiles
 		if (Overlay != nullptr)
 		{
 			Overlay->Write(Resolved, Bytes);
-			return true;
+			return CountChange(Resolved);
 		}
-		return MakeFolderOrReport(NativePath::FolderOf(Resolved)) && WriteDisk(Resolved, Bytes, OnDisk);
+		return MakeFolderOrReport(NativePath::FolderOf(Resolved)) && WriteDisk(Resolved, Bytes, OnDisk) && CountChange(Resolved);
 	}
 
 	bool Delete(const FString& Path, EReadOnly ReadOnly)
@@ -181,14 +194,14 @@ namespace HostFiles
 		if (Overlay != nullptr)
 		{
 			Overlay->Delete(Resolved);
-			return true;
+			return CountChange(Resolved);
 		}
 		if (unlink(Resolved.c_str()) != 0 && errno != ENOENT)
 		{
 			Report(Resolved, Describe(TEXT("the file cannot be deleted"), errno), TEXT("Check the permissions of its folder."));
 			return false;
 		}
-		return true;
+		return CountChange(Resolved);
 	}
 
 	bool MakeDirectory(const FString& Path)
@@ -246,6 +259,12 @@ namespace HostFiles
 	TArray<FString> GetWrittenFiles()
 	{
 		return ToStrings(State.Get().Written);
+	}
+
+	uint32 GetNumChanges(const FString& Path)
+	{
+		const auto Found = State.Get().NumChanges.find(NativePath::Resolve(Path));
+		return Found != State.Get().NumChanges.end() ? Found->second : 0;
 	}
 
 	void BeginOverlay()

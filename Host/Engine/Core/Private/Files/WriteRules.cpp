@@ -20,8 +20,11 @@ namespace WriteRules
 
 		bool IsPrivate(const std::string& Path)
 		{
-			const std::string Settings = NativePath::Resolve(HostPaths::GetUserSettingsDir());
-			return Path == Settings || Path.starts_with(Settings + "/");
+			const auto IsIn = [&Path](const FString& Directory) {
+				const std::string Folder = NativePath::Resolve(Directory);
+				return Path == Folder || Path.starts_with(Folder + "/");
+			};
+			return IsIn(HostPaths::GetUserSettingsDir()) || IsIn(HostPaths::GetUserStateDir());
 		}
 	}
 

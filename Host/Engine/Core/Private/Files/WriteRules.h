@@ -31,7 +31,7 @@ namespace WriteRules
 	/** Whether what is on disk, if anything, may be replaced or removed. */
 	bool MayReplace(const std::string& Path, const FOnDisk& OnDisk, HostFiles::EReadOnly ReadOnly);
 
-	/** What lies in the user's settings folder is for its owner only; anything else follows the umask. */
+	/** What lies in the user's settings or state folder is for its owner only; anything else follows the umask. */
 	mode_t GetModeOfNewFile(const std::string& Path);
 
 	/** Creates the folder and those above it. @return 0 or an errno, which is not reported */

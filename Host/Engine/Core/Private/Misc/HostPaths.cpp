@@ -21,6 +21,7 @@ namespace HostPaths
 			FString ProjectDir;
 			FString EngineDir;
 			FString UserSettingsDir;
+			FString UserStateDir;
 			TArray<FString> PluginDirs;
 		};
 
@@ -43,11 +44,12 @@ namespace HostPaths
 			return User != nullptr && User->pw_dir != nullptr ? std::string(User->pw_dir) : std::string("/");
 		}
 
-		FString MakeDefaultUserSettingsDir()
+		/** The program's own folder below the one that a variable names, or else below a folder of the user's home. */
+		FString MakeUserDir(const char* Variable, const char* FolderInHome)
 		{
-			const char* Configured = std::getenv("XDG_CONFIG_HOME");
+			const char* Configured = std::getenv(Variable);
 			const bool bUsable = Configured != nullptr && *Configured == '/'; // relative ones are to be ignored
-			return MakeFolder(NativePath::ToString((bUsable ? std::string(Configured) : GetHome() + "/.config") + "/velmorant"));
+			return MakeFolder(NativePath::ToString((bUsable ? std::string(Configured) : GetHome() + FolderInHome) + "/velmorant"));
 		}
 	}
 
@@ -97,7 +99,17 @@ namespace HostPaths
 		FString& Directory = State.Get().UserSettingsDir;
 		if (Directory.IsEmpty())
 		{
-			Directory = MakeDefaultUserSettingsDir();
+			Directory = MakeUserDir("XDG_CONFIG_HOME", "/.config");
+		}
+		return Directory;
+	}
+
+	const FString& GetUserStateDir()
+	{
+		FString& Directory = State.Get().UserStateDir;
+		if (Directory.IsEmpty())
+		{
+			Directory = MakeUserDir("XDG_STATE_HOME", "/.local/state");
 		}
 		return Directory;
 	}

@@ -2,8 +2,10 @@
 
 #include "HostQuestions.h"
 
+#include "CoreGlobals.h"
 #include "HostState.h"
 #include "Logging/LogMacros.h"
+#include "Misc/App.h"
 
 DEFINE_LOG_CATEGORY_STATIC(LogHostQuestions, Log, All);
 
@@ -36,8 +38,18 @@ namespace HostQuestionsImpl
 		return Answer;
 	}
 
+	/** Whether the editor may ask at all. */
+	bool MayAsk()
+	{
+		return !FApp::IsUnattended() && !IsRunningCommandlet();
+	}
+
 	TOptional<FHostAnswer> FindAnswer(const FHostQuestion& Question, EHostAnswerSource& OutSource)
 	{
+		if (!MayAsk())
+		{
+			return NullOpt;
+		}
 		if (TOptional<FHostAnswer> Queued = TakeQueued(Question.Kind))
 		{
 			OutSource = EHostAnswerSource::Queue;

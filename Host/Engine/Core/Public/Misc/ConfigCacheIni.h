@@ -40,9 +40,11 @@ class FConfigSection : public FConfigSectionMap
 /**
  * The configuration that this editor has read.
  *
- * Filename is either the file of a branch (GEngineIni and its like: the engine's base file, the project's Default….ini and the user's own
- * file, merged) or any other file, which is then read alone, with the + - . ! of its keys kept as part of their names. Sections and keys
+ * Filename is either the file of a branch (GEngineIni and its like: the engine's base file, the project's Default….ini, its platform's file
+ * and the user's own, merged) or any other file, which is then read alone, with the + - . ! of its keys kept as part of their names. Sections and keys
  * ignore case. A file is read when it is first asked for and stays as it was until UnloadFile() or LoadFile(); nothing here writes it.
+ *
+ * Host: the copy of a single file also follows what this editor writes to that file, by whatever way. What others write stays unseen.
  */
 class FConfigCacheIni
 {
@@ -57,7 +59,7 @@ public:
 	/** One "Key=Value" per entry, in order. Result is emptied first. @return false for a missing section or file. */
 	bool GetSection(const TCHAR* Section, TArray<FString>& Result, const FString& Filename);
 
-	/** Null when missing, or, with Force, an empty section. Good until the file is unloaded or loaded again. */
+	/** Null when missing, or, with Force, an empty section. Good until the file is unloaded, loaded again or written. */
 	const FConfigSection* GetSection(const TCHAR* Section, const bool Force, const FString& Filename);
 
 	/** @return false, Value untouched, when there is no such key; of several values the last one counts. */

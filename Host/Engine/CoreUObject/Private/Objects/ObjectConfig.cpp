@@ -2,7 +2,6 @@
 // Config properties: read when the class default object is made, written to the user's layer or to the project's default file.
 
 #include "HostConfig.h"
-#include "HostPaths.h"
 #include "Logging/LogMacros.h"
 #include "Misc/ConfigCacheIni.h"
 #include "UObject/Class.h"
@@ -99,7 +98,7 @@ namespace ObjectConfig
 	/** What Key is in one file, read alone, on top of Values. */
 	static void ApplyLayer(const FString& File, const FString& Section, const FString& Key, TArray<FString>& Values)
 	{
-		FConfigCacheIni Layer; // one of its own: GConfig's copies of single files stay as the editor first saw them
+		FConfigCacheIni Layer; // one of its own: GConfig's copies of single files do not see what others write
 		TArray<FString> Entries;
 		Layer.GetSection(*Section, Entries, File);
 		for (const FString& Entry : Entries)
@@ -133,9 +132,26 @@ namespace ObjectConfig
 		}
 	}
 
-	static FString GetBaseFile(const FString& Config)
+	enum class ELayer
 	{
-		return HostPaths::GetEngineDir() + TEXT("Config/Base") + Config + TEXT(".ini");
+		Default, // of the project
+		User
+	};
+
+	/** What the layers below the one that is to be written say. */
+	static TArray<FString> ReadBelow(ELayer Layer, const FString& Config, const FString& Section, const FString& Key)
+	{
+		const FString Written = Layer == ELayer::Default ? HostConfig::GetDefaultFile(Config) : HostConfig::GetBranchFile(Config);
+		TArray<FString> Values;
+		for (const FString& File : HostConfig::GetLayers(Config))
+		{
+			if (File.Equals(Written))
+			{
+				break;
+			}
+			ApplyLayer(File, Section, Key, Values);
+		}
+		return Values;
 	}
 
 	static bool Equal(const TArray<FString>& A, const TArray<FString>& B)
@@ -193,12 +209,6 @@ namespace ObjectConfig
 		}
 	}
 
-	enum class ELayer
-	{
-		Default, // of the project
-		User
-	};
-
 	/** What to write of one object. */
 	struct FRequest
 	{
@@ -226,15 +236,15 @@ namespace ObjectConfig
 			}
 			OwnedKeys.Add(Property->GetName());
 			const TArray<FString> Values = ExportValues(Property, Request.Object);
-			TArray<FString> Below;
-			ApplyLayer(GetBaseFile(Config), Section, Property->GetName(), Below);
+			const TArray<FString> Below = ReadBelow(Request.Layer, Config, Section, Property->GetName());
 			if (Request.Layer == ELayer::Default)
 			{
 				AddDefaultLines(Property, Values, Below, Lines);
-				continue;
 			}
-			ApplyLayer(HostConfig::GetDefaultFile(Config), Section, Property->GetName(), Below);
-			AddUserLines(Property, Values, Below, Lines);
+			else
+			{
+				AddUserLines(Property, Values, Below, Lines);
+			}
 		}
 		const FString LayerFile = Request.Layer == ELayer::Default ? HostConfig::GetDefaultFile(Config) : HostConfig::GetBranchFile(Config);
 		const bool bWritten = HostConfig::UpdateSection(Request.SpecificFile.IsEmpty() ? LayerFile : Request.SpecificFile, Section, Lines, OwnedKeys);

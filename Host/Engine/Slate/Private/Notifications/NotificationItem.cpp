@@ -260,7 +260,7 @@ TArray<FString> SNotificationItemWidget::GetVisibleButtons() const
 FHostInputResult SNotificationItemWidget::PressButton(const FString& Label)
 {
 	Update();
-	if (Record->IsGone() || IsFading())
+	if (Record->IsGone())
 	{
 		return FHostInputResult::Refused(TEXT("is on a notification that has gone"));
 	}

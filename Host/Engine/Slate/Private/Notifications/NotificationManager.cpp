@@ -83,7 +83,7 @@ FSlateNotificationManager& FSlateNotificationManager::Get()
 
 TSharedPtr<SNotificationItem> FSlateNotificationManager::AddNotification(const FNotificationInfo& Info)
 {
-	if (!FSlateApplication::IsInitialized())
+	if (!AreNotificationsAllowed() || !FSlateApplication::IsInitialized())
 	{
 		return nullptr;
 	}
@@ -106,6 +106,16 @@ void FSlateNotificationManager::QueueNotification(FNotificationInfo* Info)
 {
 	NotificationManager::GetState().Queued.Add(TUniquePtr<FNotificationInfo>(Info));
 	NotificationManager::EnsureTicking();
+}
+
+void FSlateNotificationManager::SetAllowNotifications(const bool bShouldAllow)
+{
+	bAllowNotifications = bShouldAllow;
+}
+
+bool FSlateNotificationManager::AreNotificationsAllowed() const
+{
+	return bAllowNotifications;
 }
 
 TArray<HostNotifications::FRecord> HostNotifications::GetHistory()

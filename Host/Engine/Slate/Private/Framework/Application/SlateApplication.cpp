@@ -6,21 +6,15 @@
 #include "HostNotifications.h"
 #include "HostSlate.h"
 #include "HostState.h"
+#include "Misc/App.h"
 #include "Rendering/SlateRenderer.h"
 
 namespace SlateApplication
 {
-	class FCountingRenderer : public FSlateRenderer
-	{
-	public:
-		virtual void ReloadTextureResources() override { ++NumReloads; }
-
-		int32 NumReloads = 0;
-	};
-
 	struct FState
 	{
 		TUniquePtr<FSlateApplication> Application;
+		int32 NumTextureReloads = 0;
 	};
 
 	static FState& GetState()
@@ -28,10 +22,22 @@ namespace SlateApplication
 		static THostState<FState> State;
 		return State.Get();
 	}
+
+	class FCountingRenderer : public FSlateRenderer
+	{
+	public:
+		virtual void ReloadTextureResources() override { ++GetState().NumTextureReloads; }
+	};
+
+	/** Never null: where nothing can be drawn, the renderer does nothing. */
+	static TUniquePtr<FSlateRenderer> MakeRenderer()
+	{
+		return FApp::CanEverRender() ? TUniquePtr<FSlateRenderer>(new FCountingRenderer) : MakeUnique<FSlateRenderer>();
+	}
 }
 
 FSlateApplication::FSlateApplication()
-	: Renderer(new SlateApplication::FCountingRenderer)
+	: Renderer(SlateApplication::MakeRenderer())
 {
 }
 
@@ -69,5 +75,5 @@ void HostSlate::Stop()
 
 int32 HostSlate::GetTextureReloads()
 {
-	return FSlateApplication::IsInitialized() ? static_cast<SlateApplication::FCountingRenderer*>(FSlateApplication::Get().GetRenderer())->NumReloads : 0;
+	return SlateApplication::GetState().NumTextureReloads;
 }

@@ -15,10 +15,17 @@ public:
 
 	/**
 	 * Shows a notification. It starts in state None, so buttons for another state appear when that state is set.
-	 * @return null when there is no user interface to show it in.
+	 * @return null, and nothing is shown, when notifications are not allowed or there is no user interface to show them in.
 	 */
 	TSharedPtr<SNotificationItem> AddNotification(const FNotificationInfo& Info);
 
 	/** Takes ownership of Info and shows it at the next tick. */
 	void QueueNotification(FNotificationInfo* Info);
+
+	/** Whether new notifications are shown, which they are unless somebody said otherwise. Those that stand stay. */
+	void SetAllowNotifications(const bool bShouldAllow);
+	bool AreNotificationsAllowed() const;
+
+private:
+	bool bAllowNotifications = true;
 };
