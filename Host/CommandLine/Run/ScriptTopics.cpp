@@ -5,6 +5,6 @@
 TConstArrayView<FScriptTopic> ScriptTopics::GetAll()
 {
 	static const FScriptTopic Topics[] = {
-		GetPanels(), GetMenus(), GetDetails(), GetNotifications(), GetQuestions(), GetAssets(), GetIcons(), GetCalls(), GetLevel(), GetFiles(), GetEditor()};
+		GetPanels(), GetMenus(), GetDetails(), GetNotifications(), GetQuestions(), GetAssets(), GetIcons(), GetCalls(), GetLevel(), GetPlacement(), GetFiles(), GetEditor()};
 	return Topics;
 }

@@ -16,6 +16,7 @@ namespace ScriptTopics
 	FScriptTopic GetIcons();
 	FScriptTopic GetCalls();
 	FScriptTopic GetLevel();
+	FScriptTopic GetPlacement();
 	FScriptTopic GetFiles();
 	FScriptTopic GetEditor();
 
