@@ -61,6 +61,8 @@ TEST_F(FScriptErrors, StepsThatCannotBeDoneEndTheScriptWithThree)
 		{"no such asset", "select /Game/Nothing", "/Game/Nothing"},
 		{"no such class", "call Nothing.Anything", "neither an open panel nor a class"},
 		{"no such function", "call VelmorantEditorUtilitiesLibrary.Anything", "no function Anything"},
+		{"nothing to place", "place Sunshine", "Sun Sky Velmorant"},
+		{"no place", "place \"Sun Sky Velmorant\" at home", "\"home\" is no place"},
 		{"not reflected", "call VelmorantEditorUtilitiesLibrary.NotifyPopup a b c d", "no function NotifyPopup"},
 		{"not for Blueprints to call", "call default:VlmEWLoginUser.OnLoginInProcess true", "cannot call OnLoginInProcess"},
 		{"wrong number of arguments", "call VelmorantEditorUtilitiesLibrary.CopyToClipboard a", "Text: FString, SubText: FString"},
