@@ -10,6 +10,17 @@ foreach(Source ${ModuleSources})
 endforeach()
 file(CONFIGURE OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/ModuleUnity.cpp CONTENT "${UnityText}" @ONLY)
 
+# How a test compiles that unity file for itself, to hear of its uses of the companions.
+file(GENERATE OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/ModuleFlags.txt CONTENT "-std=c++20 -fsyntax-only -Wdeprecated-declarations
+'-I$<JOIN:$<TARGET_PROPERTY:VelmorantProEditor,INCLUDE_DIRECTORIES>,'
+'-I>'
+'-D$<JOIN:$<TARGET_PROPERTY:VelmorantProEditor,COMPILE_DEFINITIONS>,'
+'-D>'
+'${CMAKE_CURRENT_BINARY_DIR}/ModuleUnity.cpp'
+")
+set_property(SOURCE Module/CompanionContractTest.cpp APPEND PROPERTY COMPILE_DEFINITIONS
+	VELMORANT_COMPILER="${CMAKE_CXX_COMPILER}" VELMORANT_MODULE_FLAGS="${CMAKE_CURRENT_BINARY_DIR}/ModuleFlags.txt")
+
 # Each header of a folder alone, before anything else. OutVar gets the sources that include them.
 function(velmorant_headers_alone OutVar Folder)
 	file(GLOB_RECURSE Headers CONFIGURE_DEPENDS ${Folder}/*.h)

@@ -1,59 +1,25 @@
 // Copyright Velmorant. All Rights Reserved.
 
-#include <filesystem>
-#include <fstream>
+#include "SourceText.h"
+
 #include <gmock/gmock.h>
 #include <map>
-#include <regex>
 #include <set>
-#include <sstream>
-#include <string>
-#include <vector>
 
 namespace ModuleDependenciesTest
 {
 	namespace fs = std::filesystem;
+	using SourceText::FindAll;
+	using SourceText::IncludesOf;
+	using SourceText::Root;
 
-	const fs::path Root = VELMORANT_SOURCE_DIR;
 	const fs::path ModuleFolder = Root / "Source/VelmorantProEditor";
-
-	std::string ReadText(const fs::path& File)
-	{
-		std::ifstream Stream(File);
-		std::stringstream Text;
-		Text << Stream.rdbuf();
-		return Text.str();
-	}
-
-	std::vector<std::string> FindAll(const std::string& Text, const std::regex& Pattern)
-	{
-		std::vector<std::string> Result;
-		for (auto Match = std::sregex_iterator(Text.begin(), Text.end(), Pattern); Match != std::sregex_iterator(); ++Match)
-		{
-			Result.push_back((*Match)[1]);
-		}
-		return Result;
-	}
-
-	std::vector<std::string> IncludesOf(const fs::path& File)
-	{
-		static const std::regex Include("(?:^|\n)#include \"([^\"]+)\"");
-		std::vector<std::string> Result;
-		for (const std::string& Path : FindAll(ReadText(File), Include))
-		{
-			if (Path.find(".generated.h") == std::string::npos)
-			{
-				Result.push_back(Path);
-			}
-		}
-		return Result;
-	}
 
 	/** The names between Begin and the first End behind it, which are regular expressions. */
 	std::set<std::string> NamesOf(const fs::path& File, const std::string& Begin, const std::string& End)
 	{
 		static const std::regex Name("(\\w+)");
-		const std::vector<std::string> Lists = FindAll(ReadText(File), std::regex(Begin + "([^]*?)" + End));
+		const std::vector<std::string> Lists = FindAll(SourceText::Read(File), std::regex(Begin + "([^]*?)" + End));
 		EXPECT_EQ(Lists.size(), 1u) << File << ": " << Begin;
 		const std::vector<std::string> Names = Lists.empty() ? Lists : FindAll(Lists[0], Name);
 		const std::set<std::string> Result(Names.begin(), Names.end());
@@ -84,12 +50,9 @@ namespace ModuleDependenciesTest
 				{
 					continue;
 				}
-				for (const auto& Entry : fs::recursive_directory_iterator(Public))
+				for (const fs::path& Header : SourceText::FindSources(Public))
 				{
-					if (Entry.path().extension() == ".h")
-					{
-						Result[fs::relative(Entry.path(), Public).generic_string()] = {Module.path().filename().string(), Entry.path()};
-					}
+					Result[fs::relative(Header, Public).generic_string()] = {Module.path().filename().string(), Header};
 				}
 			}
 		}
@@ -101,25 +64,12 @@ namespace ModuleDependenciesTest
 		return fs::exists(ModuleFolder / "Public" / Include) || fs::exists(ModuleFolder / "Private" / Include);
 	}
 
-	std::vector<fs::path> FindSources(const char* Folder = "")
-	{
-		std::vector<fs::path> Result;
-		for (const auto& Entry : fs::recursive_directory_iterator(ModuleFolder / Folder))
-		{
-			if (Entry.path().extension() == ".h" || Entry.path().extension() == ".cpp")
-			{
-				Result.push_back(Entry.path());
-			}
-		}
-		return Result;
-	}
-
 	/** The modules whose headers a folder's files include themselves. */
 	std::set<std::string> ModulesIncludedBy(const char* Folder)
 	{
 		const auto Headers = FindPublicHeaders();
 		std::set<std::string> Result;
-		for (const fs::path& Source : FindSources(Folder))
+		for (const fs::path& Source : SourceText::FindSources(ModuleFolder / Folder))
 		{
 			for (const std::string& Include : IncludesOf(Source))
 			{
@@ -138,7 +88,7 @@ namespace ModuleDependenciesTest
 	std::set<std::string> ModulesReached()
 	{
 		const auto Headers = FindPublicHeaders();
-		std::vector<fs::path> Open = FindSources();
+		std::vector<fs::path> Open = SourceText::FindSources(ModuleFolder);
 		std::set<fs::path> Seen;
 		std::set<std::string> Result;
 		while (!Open.empty())
@@ -189,8 +139,8 @@ TEST(ModuleDependencies, AreTheSameWhereTheHostBuildsIt)
 TEST(ModuleDependencies, TheSourcesKnowNothingOfTheHost)
 {
 	static const std::regex Forbidden("(#\\s*if|\"Host\\w*\\.h\"|FEditorHost|gtest)");
-	for (const fs::path& Source : FindSources())
+	for (const fs::path& Source : SourceText::FindSources(ModuleFolder))
 	{
-		EXPECT_FALSE(std::regex_search(ReadText(Source), Forbidden)) << Source;
+		EXPECT_FALSE(std::regex_search(SourceText::Read(Source), Forbidden)) << Source;
 	}
 }
