@@ -2,8 +2,6 @@
 # What the compiler itself says of the sources: the product as one unity file, each of its headers alone, and code that the real
 # engine refuses and so must this host.
 
-get_target_property(ModuleIncludes VelmorantProEditor INCLUDE_DIRECTORIES)
-
 # The product's sources in one translation unit: helpers and macros of one file must not get into the way of another's.
 file(GLOB_RECURSE ModuleSources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/Source/VelmorantProEditor/Private/*.cpp)
 set(UnityText "// Generated: every source of the module in one file.\n")
@@ -12,24 +10,45 @@ foreach(Source ${ModuleSources})
 endforeach()
 file(CONFIGURE OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/ModuleUnity.cpp CONTENT "${UnityText}" @ONLY)
 
-# Each header alone, before anything else.
-set(HeaderSources "")
-file(GLOB_RECURSE ModuleHeaders CONFIGURE_DEPENDS
-	${CMAKE_SOURCE_DIR}/Source/VelmorantProEditor/Public/*.h ${CMAKE_SOURCE_DIR}/Source/VelmorantProEditor/Private/*.h)
-foreach(Header ${ModuleHeaders})
-	string(MAKE_C_IDENTIFIER ${Header} Identifier)
-	string(REGEX REPLACE "^.*_VelmorantProEditor_" "" Identifier ${Identifier})
-	set(HeaderSource ${CMAKE_CURRENT_BINARY_DIR}/HeaderAlone_${Identifier}.cpp)
-	file(CONFIGURE OUTPUT ${HeaderSource} CONTENT "// Generated: the header compiles alone.\n#include \"${Header}\"\n" @ONLY)
-	list(APPEND HeaderSources ${HeaderSource})
-endforeach()
+# How a test compiles that unity file for itself, to hear of its uses of the companions.
+file(GENERATE OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/ModuleFlags.txt CONTENT "-std=c++20 -fsyntax-only -Wdeprecated-declarations
+'-I$<JOIN:$<TARGET_PROPERTY:VelmorantProEditor,INCLUDE_DIRECTORIES>,'
+'-I>'
+'-D$<JOIN:$<TARGET_PROPERTY:VelmorantProEditor,COMPILE_DEFINITIONS>,'
+'-D>'
+'${CMAKE_CURRENT_BINARY_DIR}/ModuleUnity.cpp'
+")
+set_property(SOURCE Module/CompanionContractTest.cpp APPEND PROPERTY COMPILE_DEFINITIONS
+	VELMORANT_COMPILER="${CMAKE_CXX_COMPILER}" VELMORANT_MODULE_FLAGS="${CMAKE_CURRENT_BINARY_DIR}/ModuleFlags.txt")
 
-add_library(ModuleSourceChecks OBJECT ${CMAKE_CURRENT_BINARY_DIR}/ModuleUnity.cpp ${HeaderSources})
+# Each header of a folder alone, before anything else. OutVar gets the sources that include them.
+function(velmorant_headers_alone OutVar Folder)
+	file(GLOB_RECURSE Headers CONFIGURE_DEPENDS ${Folder}/*.h)
+	set(Sources "")
+	foreach(Header ${Headers})
+		string(MAKE_C_IDENTIFIER ${Header} Identifier)
+		string(REGEX REPLACE "^.*_VelmorantProEditor_" "" Identifier ${Identifier})
+		set(Source ${CMAKE_CURRENT_BINARY_DIR}/HeaderAlone_${Identifier}.cpp)
+		file(CONFIGURE OUTPUT ${Source} CONTENT "// Generated: the header compiles alone.\n#include \"${Header}\"\n" @ONLY)
+		list(APPEND Sources ${Source})
+	endforeach()
+	set(${OutVar} ${Sources} PARENT_SCOPE)
+endfunction()
+
+velmorant_headers_alone(PrivateHeaders ${CMAKE_SOURCE_DIR}/Source/VelmorantProEditor/Private)
+add_library(ModuleSourceChecks OBJECT ${CMAKE_CURRENT_BINARY_DIR}/ModuleUnity.cpp ${PrivateHeaders})
 target_link_libraries(ModuleSourceChecks PRIVATE VelmorantBuild)
-target_include_directories(ModuleSourceChecks PRIVATE
-	$<TARGET_PROPERTY:VelmorantProEditor,INCLUDE_DIRECTORIES> $<TARGET_PROPERTY:VelmorantProEditor,INTERFACE_INCLUDE_DIRECTORIES>)
+target_include_directories(ModuleSourceChecks PRIVATE $<TARGET_PROPERTY:VelmorantProEditor,INCLUDE_DIRECTORIES>)
 target_compile_definitions(ModuleSourceChecks PRIVATE $<TARGET_PROPERTY:VelmorantProEditor,COMPILE_DEFINITIONS>)
 add_dependencies(ModuleSourceChecks VelmorantProEditor)
+
+# The public ones as another module would include them: it sees the public folder and the public dependencies, no more.
+velmorant_headers_alone(PublicHeaders ${CMAKE_SOURCE_DIR}/Source/VelmorantProEditor/Public)
+add_library(ModulePublicHeaders OBJECT ${PublicHeaders})
+target_link_libraries(ModulePublicHeaders PRIVATE VelmorantBuild)
+target_include_directories(ModulePublicHeaders PRIVATE $<TARGET_PROPERTY:VelmorantProEditor,INTERFACE_INCLUDE_DIRECTORIES>)
+target_compile_definitions(ModulePublicHeaders PRIVATE $<TARGET_PROPERTY:VelmorantProEditor,INTERFACE_COMPILE_DEFINITIONS>)
+add_dependencies(ModulePublicHeaders VelmorantProEditor)
 
 # Each file must be refused, for the reason that its first line gives as a regular expression after "refused: ".
 file(GLOB RefusedSources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/Host/Refused/*.cpp)

@@ -67,15 +67,16 @@ function(velmorant_reflect Name ReflectedHeaders Dependencies)
 	set_property(GLOBAL PROPERTY VELMORANT_REFLECTION_TARGETS_${Name} ${Name}Reflection)
 endfunction()
 
-# velmorant_engine_module(Name [DEPENDS Module...] [LIBRARIES Target...] [SEES_INTERNAL])
-#   DEPENDS    the modules whose Public (and, for engine modules, Internal) folders it may include
-#   LIBRARIES  packages that only its own sources use
+# velmorant_engine_module(Name [DEPENDS Module...] [PRIVATE_DEPENDS Module...] [LIBRARIES Target...])
+#   DEPENDS          the modules whose Public (and, for engine modules, Internal) folders it may include; who uses it sees them too
+#   PRIVATE_DEPENDS  the same for its own sources alone
+#   LIBRARIES        packages that only its own sources use
 function(velmorant_engine_module Name)
 	velmorant_module(${Name} SEES_INTERNAL ${ARGN})
 endfunction()
 
 function(velmorant_module Name)
-	cmake_parse_arguments(Arg "SEES_INTERNAL" "" "DEPENDS;LIBRARIES" ${ARGN})
+	cmake_parse_arguments(Arg "SEES_INTERNAL" "" "DEPENDS;PRIVATE_DEPENDS;LIBRARIES" ${ARGN})
 	file(GLOB_RECURSE Sources CONFIGURE_DEPENDS Private/*.cpp)
 	file(GLOB_RECURSE Headers CONFIGURE_DEPENDS Public/*.h Internal/*.h Private/*.h)
 	set(Reflected "")
@@ -91,7 +92,7 @@ function(velmorant_module Name)
 		set(Sources ${CMAKE_SOURCE_DIR}/cmake/HeaderOnlyModule.cpp)
 	endif()
 	add_library(${Name} OBJECT ${Sources} ${Headers})
-	velmorant_collect_dependencies(Dependencies ${Arg_DEPENDS})
+	velmorant_collect_dependencies(Dependencies ${Arg_DEPENDS} ${Arg_PRIVATE_DEPENDS})
 	set_property(GLOBAL PROPERTY VELMORANT_DEPENDENCIES_${Name} ${Dependencies})
 	set_property(GLOBAL APPEND PROPERTY VELMORANT_MODULES ${Name})
 
@@ -110,7 +111,7 @@ function(velmorant_module Name)
 	else()
 		target_include_directories(${Name} PRIVATE Private)
 	endif()
-	target_link_libraries(${Name} PUBLIC VelmorantBuild ${Arg_DEPENDS} PRIVATE ${Arg_LIBRARIES})
+	target_link_libraries(${Name} PUBLIC VelmorantBuild ${Arg_DEPENDS} PRIVATE ${Arg_PRIVATE_DEPENDS} ${Arg_LIBRARIES})
 	foreach(Dependency ${Dependencies})
 		get_property(Reflection GLOBAL PROPERTY VELMORANT_REFLECTION_TARGETS_${Dependency})
 		if(Reflection)

@@ -51,11 +51,16 @@ namespace HeaderTool
 			return Enumerator;
 		}
 
+		/** As it is written, whether it can be reflected or not. */
 		void ParseUnderlying(FTokenCursor& Cursor, FEnum& Enum)
 		{
 			if (Cursor.Accept(":"))
 			{
-				Enum.Underlying = ParseType(Cursor).Spell();
+				Enum.Underlying = Cursor.ExpectIdentifier("the underlying type of '" + Enum.Name + "'");
+				while (!Cursor.AtEnd() && !Cursor.Is("{") && !Cursor.Is(";"))
+				{
+					AppendToken(Enum.Underlying, Cursor.Next());
+				}
 			}
 		}
 

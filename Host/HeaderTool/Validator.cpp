@@ -63,17 +63,28 @@ namespace HeaderTool
 				}
 			}
 
-			void CheckEnum(const FEnum& Enum)
+			/** Fixed widths, and for enums that TEnumAsByte wraps plain int; nothing written is int as well. */
+			void CheckUnderlying(const FEnum& Enum)
 			{
-				static const std::set<std::string> Allowed = {"", "uint8", "uint16", "uint32", "uint64", "int8", "int16", "int32", "int64", "int"};
-				if (!Allowed.count(Enum.Underlying))
-				{
-					Error(Enum.Line, "enum '" + Enum.Name + "' has the underlying type '" + Enum.Underlying + "', which is not supported; use uint8.");
-				}
-				else if (Enum.bBlueprintType && Enum.Form == EEnumForm::Scoped && Enum.Underlying != "uint8")
+				static const std::set<std::string> FixedWidths = {"uint8", "uint16", "uint32", "uint64", "int8", "int16", "int32", "int64"};
+				const bool bScoped = Enum.Form == EEnumForm::Scoped;
+				if (bScoped && Enum.bBlueprintType && Enum.Underlying != "uint8")
 				{
 					Error(Enum.Line, "enum '" + Enum.Name + "' is a BlueprintType, and Blueprints know only bytes; declare it as 'enum class " + Enum.Name + " : uint8'.");
 				}
+				else if (bScoped && Enum.Underlying == "int")
+				{
+					Error(Enum.Line, "enum class '" + Enum.Name + "' has the underlying type 'int', which only unscoped enums can have; use uint8, or int32 for more values.");
+				}
+				else if (!Enum.Underlying.empty() && Enum.Underlying != "int" && !FixedWidths.count(Enum.Underlying))
+				{
+					Error(Enum.Line, "enum '" + Enum.Name + "' has the underlying type '" + Enum.Underlying + "', which is not supported; use uint8, or another of int8 to int64 and uint16 to uint64.");
+				}
+			}
+
+			void CheckEnum(const FEnum& Enum)
+			{
+				CheckUnderlying(Enum);
 				std::set<std::string> Names;
 				for (const FEnumerator& Enumerator : Enum.Enumerators)
 				{

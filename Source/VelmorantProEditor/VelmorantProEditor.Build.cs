@@ -8,33 +8,35 @@ public class VelmorantProEditor : ModuleRules
 	{
 		PCHUsage = PCHUsageMode.UseExplicitOrSharedPCHs;
 
-		// Public headers derive from classes of these modules.
+		// Modules whose headers the public headers include.
 		PublicDependencyModuleNames.AddRange(new[]
 		{
 			"Core",
 			"CoreUObject",
 			"Engine",
-			"UMG",
-			"AssetDefinition",
-			"UnrealEd",
-			"VelmorantSDK",
-			"VelmorantPro",
-			"VelmorantProUI"
-		});
-
-		PrivateDependencyModuleNames.AddRange(new[]
-		{
 			"Slate",
 			"SlateCore",
+			"UMG",
+			"VelmorantSDK"
+		});
+
+		// Modules that only the sources need, some through headers of others: EditorFramework by way of the actor factories.
+		PrivateDependencyModuleNames.AddRange(new[]
+		{
+			"VelmorantPro",
+			"VelmorantProUI",
 			"InputCore",
 			"ApplicationCore",
 			"Projects",
 			"ToolMenus",
+			"ToolWidgets",
 			"UMGEditor",
 			"Blutility",
 			"EditorScriptingUtilities",
+			"UnrealEd",
 			"EditorSubsystem",
-			"ToolWidgets",
+			"EditorFramework",
+			"AssetDefinition",
 			"AssetTools",
 			"AssetRegistry",
 			"ContentBrowser",

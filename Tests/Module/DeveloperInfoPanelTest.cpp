@@ -180,9 +180,13 @@ TEST_F(DeveloperInfoPanel, SwitchesTheUserOfTheRunningModel)
 	const FTestPanel Panel(PanelLayouts::DeveloperInfo, {});
 	UVlmEWDevInfo* Info = Panel.Get<UVlmEWDevInfo>();
 	EXPECT_FALSE(Info->GetDevUserInRuntime());
+	UVelmorantSDKEngineSubsystem* Subsystem = UVelmorantSDKEngineSubsystem::Get();
+	const UVelmorantUser* RuntimeUser = Subsystem->GetVelmorantUser();
+	EXPECT_NE(RuntimeUser, GetUser());
 	Info->SetDevUserInRuntime(true);
 	EXPECT_TRUE(Info->GetDevUserInRuntime());
-	EXPECT_TRUE(GetUser()->ShouldUseAtRuntime());
+	EXPECT_EQ(Subsystem->GetVelmorantUser(), GetUser());
 	Info->SetDevUserInRuntime(false);
-	EXPECT_FALSE(GetUser()->ShouldUseAtRuntime());
+	EXPECT_FALSE(Info->GetDevUserInRuntime());
+	EXPECT_EQ(Subsystem->GetVelmorantUser(), RuntimeUser);
 }

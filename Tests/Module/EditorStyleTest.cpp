@@ -76,6 +76,23 @@ TEST_F(EditorStyle, HasAnImageFileForEveryBrush)
 	}
 }
 
+TEST_F(EditorStyle, HasImagesForClassesThatExist)
+{
+	StartEditor();
+	std::vector<std::string> Missing;
+	for (const FHostBrushRegistration& Registration : GetBrushes())
+	{
+		FString ClassName = Registration.Key.ToString();
+		const bool bOfAClass = ClassName.RemoveFromStart(TEXT("ClassIcon.")) || ClassName.RemoveFromStart(TEXT("ClassThumbnail."));
+		const auto Exists = [&ClassName](const TCHAR* Module) { return FindObject<UClass>(nullptr, *FString::Printf(TEXT("/Script/%s.%s"), Module, *ClassName)) != nullptr; };
+		if (bOfAClass && !Exists(TEXT("VelmorantPro")) && !Exists(TEXT("VelmorantProUI")))
+		{
+			Missing.push_back(ToUtf8(ClassName));
+		}
+	}
+	EXPECT_THAT(Missing, testing::ElementsAre("VlmISPActionBase")) << "its class has an s more; the key stays as it is";
+}
+
 TEST_F(EditorStyle, AsksTheRendererToLoadTexturesAgain)
 {
 	StartEditor();

@@ -1,65 +1,40 @@
 // Copyright Velmorant. All Rights Reserved.
 
-#include <filesystem>
-#include <fstream>
-#include <gtest/gtest.h>
+#include "SourceText.h"
+
+#include <gmock/gmock.h>
 #include <map>
-#include <regex>
 #include <set>
-#include <sstream>
-#include <string>
-#include <vector>
 
 namespace ModuleDependenciesTest
 {
 	namespace fs = std::filesystem;
+	using SourceText::FindAll;
+	using SourceText::IncludesOf;
+	using SourceText::Root;
 
-	const fs::path Root = VELMORANT_SOURCE_DIR;
 	const fs::path ModuleFolder = Root / "Source/VelmorantProEditor";
 
-	std::string ReadText(const fs::path& File)
+	/** The names between Begin and the first End behind it, which are regular expressions. */
+	std::set<std::string> NamesOf(const fs::path& File, const std::string& Begin, const std::string& End)
 	{
-		std::ifstream Stream(File);
-		std::stringstream Text;
-		Text << Stream.rdbuf();
-		return Text.str();
-	}
-
-	std::vector<std::string> FindAll(const std::string& Text, const std::regex& Pattern)
-	{
-		std::vector<std::string> Result;
-		for (auto Match = std::sregex_iterator(Text.begin(), Text.end(), Pattern); Match != std::sregex_iterator(); ++Match)
-		{
-			Result.push_back((*Match)[1]);
-		}
+		static const std::regex Name("(\\w+)");
+		const std::vector<std::string> Lists = FindAll(SourceText::Read(File), std::regex(Begin + "([^]*?)" + End));
+		EXPECT_EQ(Lists.size(), 1u) << File << ": " << Begin;
+		const std::vector<std::string> Names = Lists.empty() ? Lists : FindAll(Lists[0], Name);
+		const std::set<std::string> Result(Names.begin(), Names.end());
+		EXPECT_EQ(Result.size(), Names.size()) << File << " names a module twice";
 		return Result;
 	}
 
-	std::vector<std::string> IncludesOf(const fs::path& File)
+	std::set<std::string> GetPublicModules()
 	{
-		static const std::regex Include("(?:^|\n)#include \"([^\"]+)\"");
-		std::vector<std::string> Result;
-		for (const std::string& Path : FindAll(ReadText(File), Include))
-		{
-			if (Path.find(".generated.h") == std::string::npos)
-			{
-				Result.push_back(Path);
-			}
-		}
-		return Result;
+		return NamesOf(ModuleFolder / "VelmorantProEditor.Build.cs", "PublicDependencyModuleNames\\.AddRange\\(new\\[\\]\\s*\\{", "\\}");
 	}
 
-	std::set<std::string> ModulesNamedInBuildRules()
+	std::set<std::string> GetPrivateModules()
 	{
-		static const std::regex Lists("DependencyModuleNames\\.AddRange\\(new\\[\\]\\s*\\{([^}]*)\\}");
-		static const std::regex Name("\"(\\w+)\"");
-		std::set<std::string> Result;
-		for (const std::string& List : FindAll(ReadText(ModuleFolder / "VelmorantProEditor.Build.cs"), Lists))
-		{
-			const std::vector<std::string> Names = FindAll(List, Name);
-			Result.insert(Names.begin(), Names.end());
-		}
-		return Result;
+		return NamesOf(ModuleFolder / "VelmorantProEditor.Build.cs", "PrivateDependencyModuleNames\\.AddRange\\(new\\[\\]\\s*\\{", "\\}");
 	}
 
 	/** Every public header of the engine surface and the companions: include path to (module, file). */
@@ -75,12 +50,9 @@ namespace ModuleDependenciesTest
 				{
 					continue;
 				}
-				for (const auto& Entry : fs::recursive_directory_iterator(Public))
+				for (const fs::path& Header : SourceText::FindSources(Public))
 				{
-					if (Entry.path().extension() == ".h")
-					{
-						Result[fs::relative(Entry.path(), Public).generic_string()] = {Module.path().filename().string(), Entry.path()};
-					}
+					Result[fs::relative(Header, Public).generic_string()] = {Module.path().filename().string(), Header};
 				}
 			}
 		}
@@ -92,14 +64,45 @@ namespace ModuleDependenciesTest
 		return fs::exists(ModuleFolder / "Public" / Include) || fs::exists(ModuleFolder / "Private" / Include);
 	}
 
-	std::vector<fs::path> FindModuleSources()
+	/** The modules whose headers a folder's files include themselves. */
+	std::set<std::string> ModulesIncludedBy(const char* Folder)
 	{
-		std::vector<fs::path> Result;
-		for (const auto& Entry : fs::recursive_directory_iterator(ModuleFolder))
+		const auto Headers = FindPublicHeaders();
+		std::set<std::string> Result;
+		for (const fs::path& Source : SourceText::FindSources(ModuleFolder / Folder))
 		{
-			if (Entry.path().extension() == ".h" || Entry.path().extension() == ".cpp")
+			for (const std::string& Include : IncludesOf(Source))
 			{
-				Result.push_back(Entry.path());
+				const auto Header = Headers.find(Include);
+				EXPECT_TRUE(IsOwnHeader(Include) || Header != Headers.end()) << Source << " includes " << Include << ", which no module offers";
+				if (!IsOwnHeader(Include) && Header != Headers.end())
+				{
+					Result.insert(Header->second.first);
+				}
+			}
+		}
+		return Result;
+	}
+
+	/** The modules that take part in compiling the module: those it includes, and those that their headers include. */
+	std::set<std::string> ModulesReached()
+	{
+		const auto Headers = FindPublicHeaders();
+		std::vector<fs::path> Open = SourceText::FindSources(ModuleFolder);
+		std::set<fs::path> Seen;
+		std::set<std::string> Result;
+		while (!Open.empty())
+		{
+			const fs::path File = Open.back();
+			Open.pop_back();
+			for (const std::string& Include : IncludesOf(File))
+			{
+				const auto Header = Headers.find(Include);
+				if (Header != Headers.end() && Seen.insert(Header->second.second).second)
+				{
+					Result.insert(Header->second.first);
+					Open.push_back(Header->second.second);
+				}
 			}
 		}
 		return Result;
@@ -107,70 +110,37 @@ namespace ModuleDependenciesTest
 }
 
 using namespace ModuleDependenciesTest;
+using testing::IsSubsetOf;
 
-TEST(ModuleDependencies, EveryIncludeComesFromAModuleThatTheBuildRulesName)
+TEST(ModuleDependencies, ArePublicWherePublicHeadersIncludeThemAndNowhereElse)
 {
-	const std::set<std::string> Named = ModulesNamedInBuildRules();
-	const auto Headers = FindPublicHeaders();
-	ASSERT_FALSE(Named.empty());
-	ASSERT_FALSE(Headers.empty());
-
-	for (const fs::path& Source : FindModuleSources())
-	{
-		for (const std::string& Include : IncludesOf(Source))
-		{
-			if (IsOwnHeader(Include))
-			{
-				continue;
-			}
-			const auto Header = Headers.find(Include);
-			ASSERT_NE(Header, Headers.end()) << Source << " includes " << Include << ", which no module offers";
-			EXPECT_TRUE(Named.count(Header->second.first)) << Source << " includes " << Include << " of the module " << Header->second.first << ", which the build rules do not name";
-		}
-	}
+	// A module that derives from the panels must be able to include their headers, and must not be made to depend on more.
+	EXPECT_EQ(GetPublicModules(), ModulesIncludedBy("Public"));
 }
 
-TEST(ModuleDependencies, EveryModuleThatTheBuildRulesNameIsUsed)
+TEST(ModuleDependencies, ArePrivateWhereOnlySourcesNeedThem)
 {
-	const auto Headers = FindPublicHeaders();
-	std::vector<fs::path> Open = FindModuleSources();
-	std::set<fs::path> Seen;
-	std::set<std::string> Used;
-	while (!Open.empty())
+	std::set<std::string> Named = GetPublicModules();
+	for (const std::string& Module : GetPrivateModules())
 	{
-		const fs::path File = Open.back();
-		Open.pop_back();
-		for (const std::string& Include : IncludesOf(File))
-		{
-			const auto Header = Headers.find(Include);
-			if (Header != Headers.end() && Seen.insert(Header->second.second).second)
-			{
-				Used.insert(Header->second.first);
-				Open.push_back(Header->second.second);
-			}
-		}
+		EXPECT_TRUE(Named.insert(Module).second) << Module << " is both public and private";
 	}
-	for (const std::string& Module : ModulesNamedInBuildRules())
-	{
-		EXPECT_TRUE(Used.count(Module)) << Module << " is named, but nothing that the module includes needs it";
-	}
+	EXPECT_THAT(ModulesIncludedBy("Private"), IsSubsetOf(Named)) << "the build rules do not name all that is included";
+	EXPECT_THAT(Named, IsSubsetOf(ModulesReached())) << "the build rules name what nothing that is included needs";
 }
 
-TEST(ModuleDependencies, TheHostBuildsItAgainstTheSameModules)
+TEST(ModuleDependencies, AreTheSameWhereTheHostBuildsIt)
 {
-	static const std::regex Depends("DEPENDS([^)]*)\\)");
-	static const std::regex Name("(\\w+)");
-	const std::vector<std::string> Lists = FindAll(ReadText(ModuleFolder / "CMakeLists.txt"), Depends);
-	ASSERT_EQ(Lists.size(), 1u);
-	const std::vector<std::string> Names = FindAll(Lists[0], Name);
-	EXPECT_EQ(std::set<std::string>(Names.begin(), Names.end()), ModulesNamedInBuildRules());
+	const fs::path File = ModuleFolder / "CMakeLists.txt";
+	EXPECT_EQ(NamesOf(File, "\\sDEPENDS", "PRIVATE_DEPENDS"), GetPublicModules());
+	EXPECT_EQ(NamesOf(File, "\\sPRIVATE_DEPENDS", "\\)"), GetPrivateModules());
 }
 
 TEST(ModuleDependencies, TheSourcesKnowNothingOfTheHost)
 {
 	static const std::regex Forbidden("(#\\s*if|\"Host\\w*\\.h\"|FEditorHost|gtest)");
-	for (const fs::path& Source : FindModuleSources())
+	for (const fs::path& Source : SourceText::FindSources(ModuleFolder))
 	{
-		EXPECT_FALSE(std::regex_search(ReadText(Source), Forbidden)) << Source;
+		EXPECT_FALSE(std::regex_search(SourceText::Read(Source), Forbidden)) << Source;
 	}
 }

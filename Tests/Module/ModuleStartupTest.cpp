@@ -2,6 +2,7 @@
 
 #include "AssetTypeActions_Base.h"
 #include "Editor.h"
+#include "EngineUtils.h"
 #include "Framework/Commands/InputBindingManager.h"
 #include "HostAssertions.h"
 #include "HostAssetTools.h"
@@ -13,6 +14,10 @@
 #include "IAssetTools.h"
 #include "Modules/ModuleManager.h"
 #include "ToolkitTest.h"
+#include "UObject/UObjectHash.h"
+#include "UObject/UnrealType.h"
+
+#include <set>
 
 using testing::AllOf;
 using testing::Contains;
@@ -130,10 +135,21 @@ TEST_F(ModuleStartup, GroupsTheRuntimeClassesCategoriesInOneDetailsSection)
 	EXPECT_EQ(ToUtf8(Section->GetDisplayName()), "Velmorant");
 	EXPECT_EQ(ToUtf8(*FTextInspector::GetNamespace(Section->GetDisplayName())), "FVelmorantProEditor");
 	EXPECT_EQ(ToUtf8(*FTextInspector::GetKey(Section->GetDisplayName())), "Velmorant");
+	std::set<FString> OfRuntimeClasses;
+	TArray<UClass*> Classes;
+	GetDerivedClasses(AActor::StaticClass(), Classes);
+	for (const UClass* Class : Classes)
+	{
+		for (const FProperty* Property : Class->GetOwnProperties())
+		{
+			OfRuntimeClasses.insert(Class->GetPathName().StartsWith(TEXT("/Script/VelmorantPro.")) ? Property->GetMetaData(TEXT("Category")) : FString());
+		}
+	}
 	for (const TCHAR* Category : {TEXT("VelmorantLevelConfiguration"), TEXT("VelmorantCharacter"), TEXT("VelmorantPanoramicChar"), TEXT("VelmorantPlayerController"),
 			 TEXT("UnitVolumeConfig"), TEXT("UnitVolumesManager"), TEXT("ControllerSwitchPawn"), TEXT("MinimapLevelController")})
 	{
 		EXPECT_TRUE(Section->HasAddedCategory(Category)) << ToUtf8(FString(Category));
+		EXPECT_TRUE(OfRuntimeClasses.count(Category)) << ToUtf8(FString(Category)) << " would be grouped, but no actor has it";
 	}
 }
 
@@ -160,6 +176,33 @@ TEST_F(ModuleStartup, OffersItsActorsForPlacement)
 	EXPECT_EQ(ToUtf8((*SunSky)->ClassThumbnailBrushOverride), "SunPosition.ModesThumbnail");
 	EXPECT_EQ(ToUtf8((*SunSky)->ClassIconBrushOverride), "SunPosition.ModesIcon");
 	EXPECT_GT(Items.Num(), 1) << "the toolkit's own actors are missing";
+}
+
+TEST_F(ModuleStartup, OffersActorsThatCanBePlacedAndAreThereAgainInTheSavedLevel)
+{
+	StartEditor();
+	std::vector<std::string> Placed;
+	for (const TSharedRef<FPlaceableItem>& Item : HostPlacement::GetItems("VelmorantActors"))
+	{
+		FText Reason;
+		const AActor* Actor = HostPlacement::Place(*Item, FTransform(FVector(0.0, 0.0, 10.0)), Reason);
+		ASSERT_NE(Actor, nullptr) << ToUtf8(Item->DisplayName) << ": " << ToUtf8(Reason);
+		EXPECT_TRUE(Actor->IsSelected());
+		EXPECT_EQ(GEditor->GetSelectedActorCount(), 1);
+		Placed.push_back(ToUtf8(Actor->GetClass()->GetPathName()) + " " + ToUtf8(Actor->GetActorLabel()));
+	}
+	EXPECT_THAT(Placed, Contains("/VelmorantPro/Features/SunAndLights/SunSkyVlm.SunSkyVlm_C SunSkyVlm"));
+	ASSERT_TRUE(HostEditor::SaveOpenMapAs(TEXT("/Game/Placed")));
+
+	StartEditor();
+	ASSERT_EQ(HostEditor::OpenMap(TEXT("/Game/Placed")), HostEditor::EOpenMap::Opened);
+	std::vector<std::string> Found;
+	for (FActorIterator It(GEditor->GetEditorWorldContext().World()); It; ++It)
+	{
+		EXPECT_EQ(It->GetActorLocation(), FVector(0.0, 0.0, 10.0));
+		Found.push_back(ToUtf8(It->GetClass()->GetPathName()) + " " + ToUtf8(It->GetActorLabel()));
+	}
+	EXPECT_EQ(Found, Placed);
 }
 
 TEST_F(ModuleStartup, RegistersTheSameInEveryEditorOfOneProcess)

@@ -134,14 +134,14 @@ TEST_F(PanelInterface, KnowsItsObject)
 	EXPECT_EQ(Interface->_getUObject(), Panel.Get());
 }
 
-TEST_F(PanelInterface, CanBeCalledInTheEditor)
+TEST_F(PanelInterface, CanBeCalledAndOverriddenByBlueprintsAndPressedInTheEditor)
 {
 	StartEditor();
 	for (const TCHAR* Name : {TEXT("ActivateDataPanel"), TEXT("RefreshPanelData")})
 	{
 		const UFunction* Function = UVlmEditorPanelInterface::StaticClass()->FindFunctionByName(Name);
 		ASSERT_NE(Function, nullptr);
-		EXPECT_TRUE(Function->HasAllFunctionFlags(static_cast<EFunctionFlags>(FUNC_BlueprintEvent | FUNC_Native)));
+		EXPECT_TRUE(Function->HasAllFunctionFlags(static_cast<EFunctionFlags>(FUNC_BlueprintCallable | FUNC_BlueprintEvent | FUNC_Native)));
 		EXPECT_TRUE(Function->HasMetaData(TEXT("CallInEditor")));
 		EXPECT_EQ(ToUtf8(Function->GetMetaData(TEXT("Category"))), "VlmPanelData");
 	}
@@ -238,6 +238,7 @@ TEST_F(PanelInterface, KindsOfRowsHaveTheNamesAndNumbersThatBlueprintsSwitchOn)
 		EXPECT_EQ(ToUtf8(Kinds->GetNameStringByValue(Case.Value)), Case.Name);
 		EXPECT_EQ(ToUtf8(Kinds->GetDisplayNameTextByValue(Case.Value)), Case.DisplayName);
 	}
+	EXPECT_TRUE((std::is_same_v<std::underlying_type_t<EListDisplayItemType>, int>)) << "unscoped, as TEnumAsByte needs it";
 	EXPECT_EQ(sizeof(UListDisplayerItemBase::ItemBaseType), 1u) << "a byte in the row";
 }
 

@@ -8,11 +8,23 @@
 #include "VelmorantColorHandler.h"
 #include "VelmorantLevelActors.generated.h"
 
+class UVelmorantMapsLinkerConfig;
+class UVelmorantViewConfig;
+
 /** Level-wide settings of the model. */
 UCLASS(Blueprintable)
 class VELMORANTPRO_API AVelmorantLevelConfiguration : public AActor
 {
 	GENERATED_BODY()
+
+public:
+	/** The other levels that a visitor can go to. */
+	UPROPERTY(EditAnywhere, BlueprintReadOnly, Category = "VelmorantLevelConfiguration")
+	TObjectPtr<UVelmorantMapsLinkerConfig> MapsLinker;
+
+	/** For all characters that have none of their own. */
+	UPROPERTY(EditAnywhere, BlueprintReadOnly, Category = "VelmorantLevelConfiguration")
+	TObjectPtr<UVelmorantViewConfig> ViewConfig;
 };
 
 /** Looks after all unit volumes of the level. */
@@ -20,6 +32,15 @@ UCLASS(Blueprintable)
 class VELMORANTPRO_API AUnitVolumesManager : public AActor
 {
 	GENERATED_BODY()
+
+public:
+	/** Whether the volumes show while no unit is pointed at. */
+	UPROPERTY(EditAnywhere, BlueprintReadOnly, Category = "UnitVolumesManager")
+	bool bShowVolumes = true;
+
+	/** Of the volume that is pointed at. */
+	UPROPERTY(EditAnywhere, BlueprintReadOnly, Category = "UnitVolumesManager")
+	FVelmorantColorHandler HighlightColor;
 };
 
 /** A place in the model that a visitor can click. */

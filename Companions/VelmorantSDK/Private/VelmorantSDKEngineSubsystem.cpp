@@ -39,7 +39,7 @@ void UVelmorantSDKEngineSubsystem::EnsureUserEditorContext()
 
 UVelmorantUser* UVelmorantSDKEngineSubsystem::GetVelmorantUser()
 {
-	if (bEditorContext)
+	if (bEditorContext || (DeveloperUser && DeveloperUser->ShouldUseAtRuntime()))
 	{
 		return GetVelmorantEditorUser(true);
 	}

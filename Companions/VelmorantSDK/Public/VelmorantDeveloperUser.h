@@ -36,6 +36,7 @@ public:
 	/** Keeps the user information in the user's own configuration folder, readable by nobody else. */
 	virtual void SaveUserData();
 
+	/** Whether the running model, which has no user of its own then, acts as this one; until the editor closes. */
 	bool ShouldUseAtRuntime() const { return bUseAtRuntime; }
 	void SetDevAsRuntimeUser(bool bInUseAtRuntime) { bUseAtRuntime = bInUseAtRuntime; }
 

@@ -33,7 +33,7 @@ public:
 	/** Makes sure that the developer user exists and is the current user while no model runs. */
 	static void EnsureUserEditorContext();
 
-	/** The current user: the developer user in the editor context, otherwise the user of the running model. Never null. */
+	/** The current user: the developer user in the editor context, and in the running model too if they act there; otherwise the model's own. Never null. */
 	UVelmorantUser* GetVelmorantUser();
 
 	/** Where requests go; made on first use from the settings. Never null. */

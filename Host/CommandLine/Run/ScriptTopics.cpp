@@ -5,6 +5,6 @@
 TConstArrayView<FScriptTopic> ScriptTopics::GetAll()
 {
 	static const FScriptTopic Topics[] = {
-		GetPanels(), GetMenus(), GetDetails(), GetNotifications(), GetQuestions(), GetAssets(), GetIcons(), GetCalls(), GetLevel(), GetUndo(), GetFiles(), GetEditor()};
+		GetPanels(), GetMenus(), GetDetails(), GetNotifications(), GetQuestions(), GetAssets(), GetIcons(), GetCalls(), GetLevel(), GetPlacement(), GetUndo(), GetFiles(), GetEditor()};
 	return Topics;
 }

@@ -17,6 +17,7 @@ namespace ScriptTopics
 	FScriptTopic GetCalls();
 	FScriptTopic GetLevel();
 	FScriptTopic GetUndo();
+	FScriptTopic GetPlacement();
 	FScriptTopic GetFiles();
 	FScriptTopic GetEditor();
 

@@ -7,6 +7,7 @@
 #include "MinimapLevelController.h"
 #include "Textures/SlateIcon.h"
 #include "UnitVolumeActor.h"
+#include "VelmorantCharacters.h"
 #include "VelmorantEditorStyle.h"
 #include "VelmorantLevelActors.h"
 #include "VelmorantLevelVariantSetsActor.h"
@@ -60,6 +61,9 @@ TArray<TSharedRef<FPlaceableItem>> VelmorantPlaceableItems::MakeItems()
 		MakeNativeItem(AVlmInteractiveSpot::StaticClass()),
 		MakeNativeItem(ACuttingSectionScene::StaticClass()),
 		MakeNativeItem(AVelmorantLevelConfiguration::StaticClass()),
+		MakeNativeItem(AVelmorantWalkCharacter::StaticClass()),
+		MakeNativeItem(AVelmorantOrbitalCharacter::StaticClass()),
+		MakeNativeItem(AVelmorantPanoramicCharacter::StaticClass()),
 		MakeNativeItem(AVelmorantLevelVariantSetsActor::StaticClass()),
 		MakeNativeItem(AMinimapLevelController::StaticClass()),
 		MakeNativeItem(AMinimapFloorAnchor::StaticClass()),

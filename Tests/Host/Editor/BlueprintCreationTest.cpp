@@ -1,8 +1,11 @@
 // Copyright Velmorant. All Rights Reserved.
 
+#include "ActorFactories/ActorFactoryBlueprint.h"
 #include "HostAssertions.h"
 #include "HostObjects.h"
 #include "HostPackages.h"
+#include "HostPlacement.h"
+#include "HostProblems.h"
 #include "Kismet2/KismetEditorUtilities.h"
 #include "LevelTestEditor.h"
 #include "TestActors.h"
@@ -64,6 +67,28 @@ TEST_F(BlueprintCreation, RefusesATakenName)
 {
 	Make(ATestActor::StaticClass());
 	EXPECT_THROW(Make(ATestActor::StaticClass()), FHostAssertionFailure);
+}
+
+TEST_F(BlueprintCreation, IsPlacedWhenItIsABlueprintOfActors)
+{
+	const auto Place = [](const FPlaceableItem& Item) {
+		FText Reason;
+		const AActor* Actor = HostPlacement::Place(Item, FTransform(FVector(1.0, 2.0, 3.0)), Reason);
+		return Actor != nullptr ? Utf8(Actor->GetClass()->GetName() + TEXT(" at ") + Actor->GetActorLocation().ToString()) : Utf8(Reason.ToString());
+	};
+	UClass& Factory = *UActorFactoryBlueprint::StaticClass();
+	const FAssetData Missing(TEXT("/Game/Sun"), TEXT("/Game"), TEXT("Sun"), FTopLevelAssetPath(TEXT("/Script/Engine"), TEXT("Blueprint")));
+	EXPECT_EQ(Place(FPlaceableItem(Factory, Missing)), "/Game/Sun.Sun is no Blueprint with a class.");
+
+	UBlueprint* Blueprint = Make(ATestActor::StaticClass());
+	EXPECT_EQ(Place(FPlaceableItem(Factory, FAssetData(Blueprint))), "Action_C at X=1.000 Y=2.000 Z=3.000");
+	EXPECT_EQ(Place(FPlaceableItem(nullptr, FAssetData(Blueprint))), "Action_C at X=1.000 Y=2.000 Z=3.000") << "the editor finds the factory";
+	EXPECT_EQ(Place(FPlaceableItem(nullptr, FAssetData(ATestActor::StaticClass()))), "TestActor at X=1.000 Y=2.000 Z=3.000");
+
+	UBlueprint* NoActor = FKismetEditorUtilities::CreateBlueprint(UObject::StaticClass(), CreatePackage(TEXT("/Game/Rule")), TEXT("Rule"), BPTYPE_Normal);
+	EXPECT_EQ(Place(FPlaceableItem(Factory, FAssetData(NoActor))), "Rule is no class of actors.");
+	EXPECT_EQ(Place(FPlaceableItem(nullptr, FAssetData(NoActor))), "Nothing makes actors of /Game/Rule.Rule.");
+	EXPECT_EQ(Place(FPlaceableItem(nullptr, FAssetData(ATestAbstractActor::StaticClass()))), "Nothing makes actors of /Script/TestActors.TestAbstractActor.");
 }
 
 TEST_F(BlueprintCreation, HasItsClassAgainAfterLoading)

@@ -44,6 +44,23 @@ TEST(GeneratedFiles, ComeInPairsForEachHeaderOfTheModule)
 	EXPECT_EQ(Run.Folder.Count("Out"), 4u) << "something was generated for a module that is only referenced";
 }
 
+TEST(GeneratedFiles, AreMadeForEnumsOfEachTypeThatTheEngineReflects)
+{
+	FHeaderToolRun Run;
+	std::string Source = "#include \"X.generated.h\"\n";
+	for (const char* Type : {"uint8", "uint16", "uint32", "uint64", "int8", "int16", "int32", "int64"})
+	{
+		const std::string Name = std::string("EOf") + Type;
+		Source += "UENUM()\nenum class " + Name + " : " + Type + " { A };\nUENUM()\nenum " + Name + "Plain : " + Type + " { " + Name + "_A };\n";
+	}
+	Source += "UENUM()\nenum class EOfNothing { A };\nUENUM(BlueprintType)\nenum EPlainOfNothing { Nothing_A };\n";
+	Source += "UENUM(BlueprintType)\nenum EOfInt : int { Int_A };\nUENUM(BlueprintType)\nnamespace ESpaced { enum Type : int { A }; }\n";
+	Run.AddHeader("Module", "X.h", Source);
+	const FHeaderToolRun::FResult Result = Run.Generate("Module");
+	EXPECT_EQ(Result.Errors, "");
+	EXPECT_EQ(Result.ExitStatus, 0);
+}
+
 TEST(GeneratedFiles, IncludeValueTypesAndOnlyDeclareClasses)
 {
 	FHeaderToolRun Run;

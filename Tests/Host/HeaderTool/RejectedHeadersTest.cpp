@@ -157,7 +157,6 @@ TEST(RejectedHeaders, ShowBlueprintsWhatTheyCannotUse)
 		{"number", ClassWith("UPROPERTY(BlueprintReadOnly)\nuint32 A;"), "X.h(9): error: UPROPERTY type 'uint32' is not known to Blueprints; use int32, int64 or uint8."},
 		{"struct", ClassWith("UFUNCTION(BlueprintCallable)\nFNotShown A();"), "X.h(9): error: return value of 'A': type 'FNotShown' is not known to Blueprints; write USTRUCT(BlueprintType) before 'struct FNotShown'."},
 		{"enum that is no byte", ClassWith("UFUNCTION(BlueprintPure)\nstatic bool A(EWide B);"), "X.h(9): error: parameter 'B' of 'A': type 'EWide' is not known to Blueprints, whose enums are bytes; declare it as 'enum class EWide : uint8'."},
-		{"BlueprintType enum that is no byte", FileWith("UENUM(BlueprintType)\nenum class EX : int32 { A };"), "X.h(4): error: enum 'EX' is a BlueprintType, and Blueprints know only bytes; declare it as 'enum class EX : uint8'."},
 		{"assignable number", ClassWith("UPROPERTY(BlueprintAssignable)\nint32 A;"), "X.h(9): error: BlueprintAssignable on UPROPERTY 'A' is only for multicast delegates; remove it, or declare the type by DECLARE_DYNAMIC_MULTICAST_DELEGATE."},
 		{"pure function without result", ClassWith("UFUNCTION(BlueprintPure)\nvoid A(int32 B);"), "X.h(9): error: the BlueprintPure function 'A' returns nothing; give it a result, or make it BlueprintCallable."},
 	});
@@ -236,7 +235,6 @@ TEST(RejectedHeaders, DeclareTypesTheReflectionSystemCannotHold)
 		{"two properties of a name", ClassWith("UPROPERTY()\nint32 A;\nUPROPERTY()\nint32 a;"), "X.h(11): error: UPROPERTY 'a' has the name of a UPROPERTY of 'UX' (case does not count); rename one of the two."},
 		{"property of the super class", FileWith("UCLASS()\nclass UX : public UBase\n{\nGENERATED_BODY()\nUPROPERTY()\nint32 BaseSize;\n};"), "X.h(8): error: UPROPERTY 'BaseSize' has the name of a UPROPERTY of 'UBase' (case does not count); rename one of the two."},
 		{"two enumerators of a name", FileWith("UENUM()\nenum class EX : uint8\n{\nOne,\nONE\n};"), "X.h(7): error: 'EX' has two enumerators named 'ONE' (case does not count); rename one."},
-		{"enum of an odd size", FileWith("UENUM()\nenum class EX : char { A };"), "X.h(4): error: enum 'EX' has the underlying type 'char', which is not supported; use uint8."},
 		{"inside of a namespace", FileWith("namespace N\n{\nUSTRUCT()\nstruct FX { GENERATED_BODY() };\n}"), "X.h(5): error: USTRUCT inside of the namespace of line 3: reflected types must stand at file scope; move it out."},
 		{"nested in a class", ClassWith("USTRUCT()\nstruct FX { GENERATED_BODY() };"),
 			"X.h(8): error: USTRUCT inside of 'UX': a reflected type cannot be nested; move it to file scope."},
@@ -244,6 +242,23 @@ TEST(RejectedHeaders, DeclareTypesTheReflectionSystemCannotHold)
 		{"macro at file scope", FileWith("UPROPERTY()\nint32 A;"), "X.h(3): error: UPROPERTY stands outside of a reflected class; move it into one."},
 		{"under a condition of its own", ClassWith("#if UE_BUILD_DEVELOPMENT\nUPROPERTY()\nint32 A;\n#endif"), "X.h(9): error: UPROPERTY must not stand inside '#if UE_BUILD_DEVELOPMENT' (line 8): reflected code may only be surrounded by '#if WITH_EDITOR' or '#if WITH_EDITORONLY_DATA'; move it out."},
 		{"in the other branch of a condition", ClassWith("#ifdef SOME\nint32 A;\n#else\nUFUNCTION()\nvoid B();\n#endif"), "X.h(11): error: UFUNCTION must not stand inside '#ifdef SOME' (line 8): reflected code may only be surrounded by '#if WITH_EDITOR' or '#if WITH_EDITORONLY_DATA'; move it out."},
+	});
+}
+
+TEST(RejectedHeaders, DeclareEnumsOfTypesThatTheEngineDoesNotReflect)
+{
+	const std::string NoByte = "X.h(4): error: enum 'EX' is a BlueprintType, and Blueprints know only bytes; declare it as 'enum class EX : uint8'.";
+	const auto Unknown = [](const std::string& Type) { return "X.h(4): error: enum 'EX' has the underlying type '" + Type + "', which is not supported; use uint8, or another of int8 to int64 and uint16 to uint64."; };
+	Check({
+		{"for Blueprints, wider than a byte", FileWith("UENUM(BlueprintType)\nenum class EX : int32 { A };"), NoByte},
+		{"for Blueprints, plain int", FileWith("UENUM(BlueprintType)\nenum class EX : int { A };"), NoByte},
+		{"for Blueprints, nothing written", FileWith("UENUM(BlueprintType)\nenum class EX { A };"), NoByte},
+		{"scoped, plain int", FileWith("UENUM()\nenum class EX : int { A };"), "X.h(4): error: enum class 'EX' has the underlying type 'int', which only unscoped enums can have; use uint8, or int32 for more values."},
+		{"a character type", FileWith("UENUM()\nenum class EX : char { A };"), Unknown("char")},
+		{"several words", FileWith("UENUM()\nenum EX : unsigned int { A };"), Unknown("unsigned int")},
+		{"with a qualifier", FileWith("UENUM()\nenum class EX : const uint8 { A };"), Unknown("const uint8")},
+		{"of the standard library", FileWith("UENUM()\nenum class EX : std::uint8_t { A };"), Unknown("std::uint8_t")},
+		{"in a namespace", FileWith("UENUM()\nnamespace EX { enum Type : long { A }; }"), Unknown("long")},
 	});
 }
 
@@ -262,7 +277,7 @@ TEST(RejectedHeaders, AreReportedAllAtOnceInOrder)
 {
 	FHeaderToolRun Run;
 	Run.AddHeader("Module", "X.h", ClassWith("UPROPERTY()\nstd::string A;\nUFUNCTION(Slow)\nvoid B(int32);\nUPROPERTY()\nTSharedPtr<int32> C[2];\nUPROPERTY()\nint32 Fine;"));
-	Run.AddHeader("Module", "Y.h", "#include \"Y.generated.h\"\nUENUM()\nenum class EY : int { A };\nUCLASS()\nclass UY : public UZ { GENERATED_BODY() };\n");
+	Run.AddHeader("Module", "Y.h", "#include \"Y.generated.h\"\nUENUM()\nenum class EY : int32 { A };\nUCLASS()\nclass UY : public UZ { GENERATED_BODY() };\n");
 	const FHeaderToolRun::FResult Result = Run.Generate("Module");
 	EXPECT_EQ(Result.Errors,
 		"X.h(9): error: UPROPERTY type 'std::string' is not supported here; use FString.\n"

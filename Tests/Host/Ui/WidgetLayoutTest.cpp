@@ -175,14 +175,14 @@ TEST_F(FWidgetLayoutTest, ACallGoesOnByWhatItReturned)
 TEST_F(FWidgetLayoutTest, ActionsThatRaiseTheirOwnEventAreStopped)
 {
 	WriteLogin(R"("Events": {
-		"OnLoginInProcess": [{"Call": "OnLoginInProcess"}, {"Call": "OnLoginInProcess"}, {"Set": "Status.Text", "To": "never"}],
+		"OnVisitorChanged": [{"Call": "OnVisitorChanged"}, {"Call": "OnVisitorChanged"}, {"Set": "Status.Text", "To": "never"}],
 		"OnMoodChanged": [{"Set": "Status.Text", "To": "works on"}]})");
 	ASSERT_NE(Open(), nullptr);
 	HostLog::Clear();
-	Panel->OnLoginInProcess(true);
+	Panel->OnVisitorChanged(1, FTestLoginInfo());
 	EXPECT_EQ(Read(TEXT("Status")), "Welcome");
 	ASSERT_EQ(HostLog::GetLines().Num(), 1);
-	EXPECT_NE(Utf8(HostLog::GetLines()[0].Text).find("the actions of 'OnLoginInProcess' raise it again and again"), std::string::npos);
+	EXPECT_NE(Utf8(HostLog::GetLines()[0].Text).find("the actions of 'OnVisitorChanged' raise it again and again"), std::string::npos);
 	Panel->OnMoodChanged(ETestMood::Busy);
 	EXPECT_EQ(Read(TEXT("Status")), "works on");
 }
@@ -269,7 +269,7 @@ TEST_F(FWidgetLayoutTest, RowsOfAListAreEntriesOfALayout)
 {
 	WriteLayout("Entry", R"("ParentClass": "/Script/TestPanels.TestListEntry",
 		"Tree": {"Class": "TextBlock", "Name": "Label"},
-		"Events": {"OnListItemObjectSet": [{"Set": "Label.Text", "To": "* {ListItemObject.DisplayName}{ListItemObject.NoSuchMember}"}]})");
+		"Events": {"OnListItemObjectSet": [{"Set": "Label.Text", "To": "* {ListItemObject.DisplayName}{ListItemObject.NoSuchMember}{ListItemObject.Price}"}]})");
 	WriteLogin(R"("Calls": {"Items.BP_OnItemClicked": [{"Call": "Note", "With": {"InText": "{Item.DisplayName}"}}]})",
 		R"(, {"Class": "ListView", "Name": "Items", "Properties": {"EntryWidgetClass": "/Game/Entry"}})");
 	ASSERT_NE(Open(), nullptr);
@@ -289,6 +289,7 @@ TEST_F(FWidgetLayoutTest, RowsOfAListAreEntriesOfALayout)
 	EXPECT_EQ(Refusal(HostSnapshot::Choose(Root.ToSharedRef(), TEXT("Items"), TEXT("* Ash"))), "");
 	EXPECT_EQ(Panel->Happened.Last(), TEXT("Ash 0"));
 	EXPECT_EQ(List->GetSelectedItem(), Items[1]);
+	EXPECT_TRUE(HostLog::GetLines().ContainsByPredicate([](const auto& Line) { return Line.Text.Equals(TEXT("Blueprints cannot read 'Price' of TestListItem; it reads as empty in layouts.")); }));
 }
 
 TEST_F(FWidgetLayoutTest, AClosedPanelIsCollectedAndItsClassLivesOnWithItsAsset)

@@ -18,11 +18,6 @@ namespace CallTopic
 			UFunction* Function = nullptr;
 		};
 
-		bool IsCallable(const UFunction& Function)
-		{
-			return Function.HasAnyFunctionFlags(FUNC_BlueprintCallable) || Function.HasMetaData(TEXT("CallInEditor"));
-		}
-
 		/** What stands before the last dot: an object, else a class, whose functions must be static then. */
 		UObject* FindObject(FScriptContext& Context, const FString& Text, bool& bOutClass, FString& OutReason)
 		{
@@ -55,9 +50,14 @@ namespace CallTopic
 				return false;
 			}
 			OutTarget.Function = OutTarget.Object->GetClass()->FindFunctionByName(FName(*FunctionText));
-			if (OutTarget.Function == nullptr || !IsCallable(*OutTarget.Function))
+			if (OutTarget.Function == nullptr)
 			{
-				OutReason = FString::Printf(TEXT("%s has no function %s that Blueprints can call"), *ObjectText, *FunctionText);
+				OutReason = FString::Printf(TEXT("%s has no function %s"), *ObjectText, *FunctionText);
+				return false;
+			}
+			if (!OutTarget.Function->HasAnyFunctionFlags(FUNC_BlueprintCallable))
+			{
+				OutReason = FString::Printf(TEXT("Blueprints cannot call %s of %s, and neither can scripts; it would have to be BlueprintCallable"), *FunctionText, *ObjectText);
 				return false;
 			}
 			if (bClass && !OutTarget.Function->HasAnyFunctionFlags(FUNC_Static))

@@ -14,7 +14,7 @@ class BLUTILITY_API UEditorUtilityWidget : public UUserWidget
 	GENERATED_BODY()
 
 public:
-	UFUNCTION(BlueprintNativeEvent, Category = "Editor")
+	UFUNCTION(BlueprintNativeEvent, BlueprintCallable, Category = "Editor")
 	void Run();
 
 	//~ Begin UObject

@@ -2,8 +2,6 @@
 
 #include "PlacementModeModule.h"
 
-#include "HostPlacement.h"
-
 IMPLEMENT_MODULE(FPlacementModeModule, PlacementMode)
 
 bool FPlacementModeModule::RegisterPlacementCategory(const FPlacementCategoryInfo& Info)
@@ -55,46 +53,4 @@ const FPlacementModeModule::FCategory* FPlacementModeModule::FindCategory(FName 
 FPlacementModeModule::FCategory* FPlacementModeModule::FindCategory(FName Handle)
 {
 	return Categories.FindByPredicate([Handle](const FCategory& Category) { return Category.Info.UniqueHandle == Handle; });
-}
-
-namespace HostPlacement
-{
-	static const FPlacementModeModule* GetModule()
-	{
-		return static_cast<const FPlacementModeModule*>(FModuleManager::GetModulePtr<IPlacementModeModule>("PlacementMode"));
-	}
-}
-
-TArray<FName> HostPlacement::GetCategories()
-{
-	TArray<FName> Handles;
-	if (const FPlacementModeModule* Module = GetModule())
-	{
-		TArray<FPlacementModeModule::FCategory> Categories = Module->GetCategories();
-		Categories.StableSort([](const auto& Left, const auto& Right) { return Left.Info.SortOrder < Right.Info.SortOrder; });
-		for (const FPlacementModeModule::FCategory& Category : Categories)
-		{
-			Handles.Add(Category.Info.UniqueHandle);
-		}
-	}
-	return Handles;
-}
-
-TArray<TSharedRef<FPlaceableItem>> HostPlacement::GetItems(FName Handle)
-{
-	TArray<TSharedRef<FPlaceableItem>> Items;
-	const FPlacementModeModule* Module = GetModule();
-	const FPlacementModeModule::FCategory* Category = Module != nullptr ? Module->FindCategory(Handle) : nullptr;
-	if (Category != nullptr)
-	{
-		for (const FPlacementModeModule::FItem& Item : Category->Items)
-		{
-			Items.Add(Item.Item);
-		}
-		const bool bByName = Category->Info.bSortable;
-		Items.StableSort([bByName](const TSharedRef<FPlaceableItem>& Left, const TSharedRef<FPlaceableItem>& Right) {
-			return bByName ? Left->DisplayName.CompareTo(Right->DisplayName) < 0 : Left->SortOrder.Get(0) < Right->SortOrder.Get(0);
-		});
-	}
-	return Items;
 }

@@ -19,12 +19,12 @@ class VELMORANTPROEDITOR_API IVlmEditorPanelInterface
 
 public:
 	/** Loads the panel's data. */
-	UFUNCTION(BlueprintNativeEvent, CallInEditor, Category = "VlmPanelData")
+	UFUNCTION(BlueprintNativeEvent, BlueprintCallable, CallInEditor, Category = "VlmPanelData")
 	void ActivateDataPanel();
 	virtual void ActivateDataPanel_Implementation() { bPanelActivated = true; }
 
 	/** Shows the panel's data anew. */
-	UFUNCTION(BlueprintNativeEvent, CallInEditor, Category = "VlmPanelData")
+	UFUNCTION(BlueprintNativeEvent, BlueprintCallable, CallInEditor, Category = "VlmPanelData")
 	void RefreshPanelData();
 	virtual void RefreshPanelData_Implementation() {}
 

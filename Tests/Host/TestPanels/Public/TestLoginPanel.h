@@ -44,7 +44,7 @@ class ITestPanelInterface
 	GENERATED_BODY()
 
 public:
-	UFUNCTION(BlueprintNativeEvent, Category = "Test")
+	UFUNCTION(BlueprintNativeEvent, BlueprintCallable, Category = "Test")
 	void ActivateDataPanel();
 };
 
@@ -58,7 +58,7 @@ public:
 	UFUNCTION(BlueprintImplementableEvent, Category = "Test")
 	void OnLoginInProcess(bool bInProgress);
 
-	UFUNCTION(BlueprintImplementableEvent, Category = "Test")
+	UFUNCTION(BlueprintImplementableEvent, BlueprintCallable, Category = "Test")
 	void OnVisitorChanged(int32 Count, const FTestLoginInfo& Visitor);
 
 	UFUNCTION(BlueprintNativeEvent, Category = "Test")
@@ -77,11 +77,22 @@ public:
 	FString GetGreeting() const { return TEXT("Ahoy"); }
 
 	/** For combo boxes: the option in brackets. */
-	UFUNCTION()
+	UFUNCTION(BlueprintCallable, Category = "Test")
 	UWidget* MakeOptionWidget(FString Item);
+
+	//~ Reflected, but not for Blueprints
 
 	UFUNCTION()
 	void ReceivedSubmit();
+
+	UFUNCTION()
+	FString GetSecret() const { return TEXT("1234"); }
+
+	UPROPERTY()
+	int32 NumVisits = 0;
+
+	UPROPERTY()
+	FTestLoginResult OnVisit;
 
 	UPROPERTY(BlueprintReadOnly, Category = "Test", meta = (BindWidget))
 	TObjectPtr<UEditableText> UserName;

@@ -20,6 +20,10 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "Test")
 	void CloseMyTab();
 
+	/** For combo boxes, if Blueprints could call it. */
+	UFUNCTION()
+	UWidget* MakeSecretWidget(FString Item) { return Item.IsEmpty() ? nullptr : this; }
+
 	static int32 NumDestructed;
 
 protected:
@@ -33,8 +37,12 @@ class UTestListItem : public UObject
 	GENERATED_BODY()
 
 public:
-	UPROPERTY()
+	UPROPERTY(BlueprintReadOnly, Category = "Test")
 	FString DisplayName;
+
+	/** Not for Blueprints. */
+	UPROPERTY()
+	int32 Price = 7;
 };
 
 /** Shows one item of a list. */

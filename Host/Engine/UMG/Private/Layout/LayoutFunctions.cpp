@@ -4,6 +4,7 @@
 
 #include "Blueprint/UserWidget.h"
 #include "Components/ComboBoxString.h"
+#include "Layout/LayoutAccess.h"
 
 namespace LayoutFunctions
 {
@@ -32,6 +33,11 @@ namespace LayoutFunctions
 		if (!Function)
 		{
 			OutReason = FString::Printf(TEXT("panel %s has no function '%s'"), *PanelClass.GetName(), *Name);
+			return false;
+		}
+		if (!LayoutAccess::CanCall(*Function))
+		{
+			OutReason = FString::Printf(TEXT("Blueprints cannot call '%s' of panel %s"), *Name, *PanelClass.GetName());
 			return false;
 		}
 		OutReason = FString::Printf(TEXT("'%s' of panel %s does not make a widget of one text (FString)"), *Name, *PanelClass.GetName());

@@ -4,6 +4,7 @@
 
 #include "Blueprint/UserWidget.h"
 #include "HostObjects.h"
+#include "Layout/LayoutAccess.h"
 #include "Layout/LayoutValues.h"
 #include "UObject/Package.h"
 
@@ -215,6 +216,11 @@ void FLayoutReader::ReadCalls(const FJson& Document)
 		if (!Listener)
 		{
 			Complain(Pointer, FString::Printf(TEXT("%s raises no event '%s'"), *Class->GetName(), *Call.Event.ToString()));
+			continue;
+		}
+		if (!LayoutAccess::CanListen(*Event))
+		{
+			Complain(Pointer, FString::Printf(TEXT("Blueprints cannot listen to '%s' of %s"), *Call.Event.ToString(), *Class->GetName()), TEXT("Make it BlueprintAssignable."));
 			continue;
 		}
 		Call.Actions = ReadActions(Member.value(), Pointer, *Listener, false);

@@ -48,6 +48,8 @@ private:
 	bool ReadAction(const FJson& Json, const FString& Pointer, bool bCanCallParent, FLayoutAction& OutAction);
 	bool ReadSet(const FJson& Json, const FString& Pointer, FLayoutAction& OutAction);
 	bool ReadCall(const FJson& Json, const FString& Pointer, bool bCanCallParent, FLayoutAction& OutAction);
+	/** Complains when Blueprints cannot call it. */
+	bool CheckCall(const UClass& Class, const UFunction& Function, const FString& Pointer);
 	bool ReadBranches(const FJson& Json, const FString& Pointer, bool bCanCallParent, const UFunction& Function, FLayoutAction& OutAction);
 	bool ReadArguments(const FJson& Json, const FString& Pointer, UFunction& Function, FLayoutAction& OutAction);
 	/** "Widget.Member", or "Member" of the panel. Null when there is no such widget. */

@@ -1,5 +1,6 @@
 // Copyright Velmorant. All Rights Reserved.
 
+#include "Layout/LayoutAccess.h"
 #include "Layout/LayoutReader.h"
 
 #include <utility>
@@ -125,6 +126,11 @@ bool FLayoutReader::ReadSet(const FJson& Json, const FString& Pointer, FLayoutAc
 		Complain(SetPointer, FString::Printf(TEXT("%s has no property '%s'"), *Class->GetName(), *OutAction.Member.ToString()));
 		return false;
 	}
+	if (!Setter.Function && !LayoutAccess::CanWrite(*Setter.Property))
+	{
+		Complain(SetPointer, FString::Printf(TEXT("Blueprints cannot set '%s' of %s"), *OutAction.Member.ToString(), *Class->GetName()), TEXT("Make it BlueprintReadWrite."));
+		return false;
+	}
 	if (!Json.contains("To"))
 	{
 		Complain(Pointer, TEXT("'Set' needs a 'To'"));
@@ -156,12 +162,23 @@ bool FLayoutReader::ReadCall(const FJson& Json, const FString& Pointer, bool bCa
 		Complain(CallPointer, FString::Printf(TEXT("%s has no function '%s'"), *Class->GetName(), *OutAction.Member.ToString()));
 		return false;
 	}
-	if (!ReadBranches(Json, Pointer, bCanCallParent, *Function, OutAction))
+	if (!CheckCall(*Class, *Function, CallPointer) || !ReadBranches(Json, Pointer, bCanCallParent, *Function, OutAction))
 	{
 		return false;
 	}
 	OutAction.bPassArgumentsOn = !Json.contains("With");
 	return OutAction.bPassArgumentsOn || ReadArguments(Json["With"], LayoutPointer::Child(Pointer, std::string("With")), *Function, OutAction);
+}
+
+bool FLayoutReader::CheckCall(const UClass& Class, const UFunction& Function, const FString& Pointer)
+{
+	if (LayoutAccess::CanCall(Function))
+	{
+		return true;
+	}
+	Complain(Pointer, FString::Printf(TEXT("Blueprints cannot call '%s' of %s"), *Function.GetName(), *Class.GetName()),
+		Function.HasAnyFunctionFlags(FUNC_BlueprintEvent) ? TEXT("It is an event: answer it under 'Events', or make it BlueprintCallable.") : TEXT("Make it BlueprintCallable."));
+	return false;
 }
 
 bool FLayoutReader::ReadBranches(const FJson& Json, const FString& Pointer, bool bCanCallParent, const UFunction& Function, FLayoutAction& OutAction)

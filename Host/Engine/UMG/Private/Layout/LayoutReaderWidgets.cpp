@@ -2,6 +2,7 @@
 
 #include "Blueprint/UserWidget.h"
 #include "Components/ContentWidget.h"
+#include "Layout/LayoutAccess.h"
 #include "Layout/LayoutReader.h"
 
 namespace LayoutReaderWidgets
@@ -153,6 +154,12 @@ void FLayoutReader::CheckAssignments(const TArray<FLayoutAssignment>& Assignment
 		if (!Setter.IsValid())
 		{
 			Complain(Assignment.Value->Pointer, FString::Printf(TEXT("%s has no property '%s'"), *Class.GetName(), *Assignment.Property.ToString()));
+			continue;
+		}
+		if (!Setter.Function && !LayoutAccess::CanDesign(*Setter.Property))
+		{
+			Complain(Assignment.Value->Pointer, FString::Printf(TEXT("'%s' of %s cannot be set in a layout"), *Assignment.Property.ToString(), *Class.GetName()),
+				TEXT("Make it EditAnywhere or BlueprintReadWrite."));
 			continue;
 		}
 		CheckValue(*Assignment.Value, Setter.Property);

@@ -3,6 +3,7 @@
 #include "Layout/LayoutTypes.h"
 
 #include "Components/Widget.h"
+#include "Layout/LayoutAccess.h"
 
 UClass* FLayoutTypes::FindTarget(FName Widget) const
 {
@@ -12,14 +13,19 @@ UClass* FLayoutTypes::FindTarget(FName Widget) const
 
 namespace LayoutTypes
 {
-	static UFunction* FindGetter(const UClass& Class, const FString& Name)
+	/** One that Blueprints can call comes before one that they cannot. */
+	static UFunction* FindGetter(const UClass& Class, const FString& Name, bool& bOutHidden)
 	{
 		for (const TCHAR* Prefix : {TEXT("Get"), TEXT(""), TEXT("Is"), TEXT("Has")})
 		{
 			UFunction* Function = Class.FindFunctionByName(FName(*(FString(Prefix) + Name)));
 			if (Function && Function->GetReturnProperty() && ParametersOf(*Function).IsEmpty())
 			{
-				return Function;
+				if (LayoutAccess::CanCall(*Function))
+				{
+					return Function;
+				}
+				bOutHidden = true;
 			}
 		}
 		return nullptr;
@@ -40,9 +46,14 @@ namespace LayoutTypes
 		FMember Member;
 		if (const UClass* Class = Cast<UClass>(&Owner))
 		{
-			Member.Getter = FindGetter(*Class, Name);
+			Member.Getter = FindGetter(*Class, Name, Member.bHidden);
 		}
 		Member.Property = Member.Getter ? Member.Getter->GetReturnProperty() : Owner.FindPropertyByName(FName(*Name));
+		if (!Member.Getter && Member.Property && !LayoutAccess::CanRead(*Member.Property))
+		{
+			Member.Property = nullptr;
+			Member.bHidden = true;
+		}
 		return Member;
 	}
 
@@ -50,7 +61,8 @@ namespace LayoutTypes
 	{
 		FSetter Setter;
 		Setter.Function = Owner.FindFunctionByName(FName(*(TEXT("Set") + Name.ToString())));
-		const TArray<const FProperty*> Parameters = Setter.Function ? ParametersOf(*Setter.Function) : TArray<const FProperty*>();
+		const bool bCallable = Setter.Function && LayoutAccess::CanCall(*Setter.Function);
+		const TArray<const FProperty*> Parameters = bCallable ? ParametersOf(*Setter.Function) : TArray<const FProperty*>();
 		if (Parameters.Num() == 1)
 		{
 			Setter.Property = Parameters[0];
@@ -115,6 +127,11 @@ namespace LayoutTypes
 			const FString& Part = Path.Parts[Index];
 			const UStruct* Owner = Type.GetValue().Struct;
 			const FMember Member = Owner ? FindMember(*Owner, Part) : FMember();
+			if (Member.bHidden && !Member.Property)
+			{
+				OutReason = FString::Printf(TEXT("Blueprints cannot read '%s' of %s"), *Part, *Owner->GetName());
+				return {};
+			}
 			if (!Member.Property && (Type.GetValue().bOpen || Owner == UObject::StaticClass()))
 			{
 				Type = FLayoutType{nullptr, nullptr, true};

@@ -30,11 +30,12 @@ struct FLayoutTypes
 /** Reading reflected objects by the names that a layout uses. */
 namespace LayoutTypes
 {
-	/** How a member of an object is read: by a function without parameters (GetX, X, IsX), or as a property. Both null: no such member. */
+	/** How a member of an object is read: by a function without parameters (GetX, X, IsX), or as a property. Both null: no member that Blueprints read. */
 	struct FMember
 	{
 		UFunction* Getter = nullptr;
 		const FProperty* Property = nullptr;
+		bool bHidden = false; // there is one, which Blueprints cannot read
 	};
 	FMember FindMember(const UStruct& Owner, const FString& Name);
 

@@ -57,10 +57,14 @@ namespace LayoutValues
 			{
 				TakeProperty(Datum, *Member.Property, Member.Property->ContainerPtrToValuePtr<void>(Owner));
 			}
+			else if (Member.bHidden)
+			{
+				UE_LOG(LogTemp, Warning, TEXT("Blueprints cannot read '%s' of %s; it reads as empty in layouts."), *Part, *Owner->GetClass()->GetName());
+			}
 			return Member.Property != nullptr;
 		}
 		const FStructProperty* Struct = Datum.Property ? CastField<FStructProperty>(Datum.Property) : nullptr;
-		const FProperty* Member = Struct ? Struct->Struct->FindPropertyByName(FName(*Part)) : nullptr;
+		const FProperty* Member = Struct ? LayoutTypes::FindMember(*Struct->Struct, Part).Property : nullptr;
 		if (Member)
 		{
 			TakeProperty(Datum, *Member, Member->ContainerPtrToValuePtr<void>(Datum.Value));

@@ -11,4 +11,10 @@ UCLASS()
 class UNREALED_API UActorFactoryBlueprint : public UActorFactory
 {
 	GENERATED_BODY()
+
+public:
+	//~ Begin UActorFactory
+	virtual bool CanCreateActorFrom(const FAssetData& AssetData, FText& OutErrorMsg) override;
+	virtual UClass* GetDefaultActorClass(const FAssetData& AssetData) override;
+	//~ End UActorFactory
 };
