@@ -1,6 +1,7 @@
 // Copyright Velmorant. All Rights Reserved.
 
 #include "AssetTestEditor.h"
+#include "HostJsonMembers.h"
 #include "Kismet2/KismetEditorUtilities.h"
 #include "TestAssets.h"
 #include "UObject/Package.h"
@@ -340,10 +341,10 @@ TEST_F(FAssetStorage, ReadsClassesWithAFormatOfTheirOwnAndDoesNotWriteThem)
 	// The registration lasts as long as the process; no other test stores this class.
 	HostPackages::RegisterReader(UTestLayoutAsset::StaticClass()->GetClassPathName(), [](const HostPackages::FDocument& Document, UPackage* Package) {
 		UTestLayoutAsset* Asset = NewObject<UTestLayoutAsset>(Package, FName(*Document.AssetName), RF_Public | RF_Standalone);
-		Asset->Text = Document.Json;
+		Asset->Text = FString(UTF8_TO_TCHAR(Document.Json.dump().c_str()));
 		return Asset;
 	});
-	const std::string File = R"({"Tree": ["anything"], "Class": "/Script/TestAssets.TestLayoutAsset"})";
+	const std::string File = R"({"Tree":["anything"],"Class":"/Script/TestAssets.TestLayoutAsset"})";
 	WriteContent("Layout.uasset.json", File);
 
 	UTestAsset* Asset = LoadTestAsset(TEXT("/Game/Layout"));
