@@ -264,6 +264,9 @@ TEST_F(FAssetStorage, FindsAssetsWhateverTheCaseOfTheirName)
 	ASSERT_NE(Asset, nullptr) << Problems();
 	EXPECT_EQ(Utf8(Asset->GetPathName()), "/Game/Dir/Tower.Tower");
 	EXPECT_EQ(LoadTestAsset(TEXT("/Game/Dir/Tower")), Asset);
+
+	ASSERT_TRUE(HostPackages::Save(MakeAsset(TEXT("/Game/Dir/House"))->GetPackage()).Succeeded()) << Problems();
+	EXPECT_TRUE(HostPackages::FindFile(TEXT("/Game/dir/HOUSE")).EndsWith(TEXT("/Dir/House.uasset.json"), ESearchCase::CaseSensitive));
 }
 
 TEST_F(FAssetStorage, LoadsThroughTheEnginesOwnLookUps)

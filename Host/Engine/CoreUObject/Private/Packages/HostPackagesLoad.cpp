@@ -58,7 +58,10 @@ namespace HostPackages
 		for (const FJsonProblem& Missing : Unresolved)
 		{
 			PackageJson::Report(File, Missing);
-			FPackageStorage::Get().MarkIncomplete(Asset, Missing.Pointer + TEXT(": ") + Missing.Message);
+		}
+		if (!Unresolved.IsEmpty())
+		{
+			FPackageStorage::Get().MarkIncomplete(Asset, Unresolved[0].Pointer + TEXT(": ") + Unresolved[0].Message);
 		}
 	}
 

@@ -101,7 +101,7 @@ namespace HostPackages
 		{
 			HostFiles::Delete(OldFile); // an asset became a level, or the other way round: only one of them can have the name
 		}
-		FPackageStorage::Get().NoteChange();
+		FPackageStorage::Get().NoteWritten(File);
 		Package->SetDirtyFlag(false);
 		Report.WrittenFiles.Add(File);
 		return true;
