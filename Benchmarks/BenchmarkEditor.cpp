@@ -18,7 +18,7 @@ FBenchmarkEditor::FBenchmarkEditor(std::string_view Service)
 FEditorHostOptions FBenchmarkEditor::MakeOptions(std::string_view Service) const
 {
 	Folder.Write("Bench.uproject", "{ \"FileVersion\": 3 }\n");
-	Folder.Write("Service.json", Service);
+	WriteService(Service);
 	FEditorHostOptions Options;
 	Options.Project = Folder.Get("Bench.uproject");
 	Options.UserSettingsDir = Folder.Get("UserConfig");

@@ -16,6 +16,9 @@ public:
 	/** The toolkit's service answers from this data file (JSON). */
 	explicit FBenchmarkEditor(std::string_view Service);
 
+	/** Edits the service's data file. */
+	void WriteService(std::string_view Service) const { Folder.Write("Service.json", Service); }
+
 	/** Signs in and waits for the answer. */
 	void SignIn(const TCHAR* UserName, const TCHAR* Password);
 

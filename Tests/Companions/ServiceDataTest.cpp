@@ -74,6 +74,7 @@ TEST_F(ServiceData, ThatCannotBeUsedIsRefusedWithItsPlaceAndReason)
 		{"negative seconds", R"({"tokenSeconds": -1})", "/tokenSeconds: must be a number of seconds, at least 0"},
 		{"a number that is not whole", WithUnits(R"({"keyCode": "U", "name": "U", "unitID": 1.5})"), "/projects/0/unitGroups/0/units/0/unitID: must be a whole number of 32 bits"},
 		{"a number that is too large", WithUnits(R"({"keyCode": "U", "name": "U", "unitID": 2147483648})"), "/projects/0/unitGroups/0/units/0/unitID: must be a whole number of 32 bits"},
+		{"a member twice, of which the last one counts", R"({"delaySeconds": 0, "delaySeconds": -1})", "/delaySeconds: must be a number of seconds, at least 0"},
 		{"a project twice", R"({"projects": [{"keyCode": "HT", "name": "A"}, {"keyCode": "ht", "name": "B"}]})", "/projects/1/keyCode: \"ht\" is there already; letter case does not count"},
 		{"a user twice", R"({"users": [{"userName": "a", "password": "x"}, {"userName": "A", "password": "y"}]})", "/users/1/userName: \"A\" is there already; letter case does not count"},
 		{"a unit twice", WithUnits(R"({"keyCode": "U", "name": "U", "unitID": 1}, {"keyCode": "u", "name": "V", "unitID": 2})"), "/projects/0/unitGroups/0/units/1/keyCode: \"u\" is there already; letter case does not count"},

@@ -65,6 +65,10 @@ TEST_F(ServiceSession, TellsWhoSignedIn)
 	const FLoginInfo Info = GetUser()->GetUserLoginInfo();
 	EXPECT_EQ(ToUtf8(Info.FirstName) + " " + ToUtf8(Info.LastName) + " " + ToUtf8(Info.Email), "Ada Byron ada@example.com");
 	EXPECT_EQ(Info.Picture.Data, (TArray<uint8>{0x89, 'P', 'N', 'G', 0}));
+
+	WriteProjectFile("ada.png", "other");
+	ASSERT_TRUE(LogIn(TEXT("ada"), TEXT("sesame-77")));
+	EXPECT_EQ(GetUser()->GetUserLoginInfo().Picture.Data, (TArray<uint8>{'o', 't', 'h', 'e', 'r'})) << "an edit of the picture alone shows, too";
 }
 
 TEST_F(ServiceSession, AnswersAfterTheDelayOnTheEditorsClock)

@@ -7,15 +7,14 @@
 #include "Misc/CommandLine.h"
 #include "Misc/Parse.h"
 #include "Misc/Paths.h"
-#include "ServiceDataReader.h"
 #include "VelmorantSDKLog.h"
 #include "VelmorantSDKSettings.h"
 
 FDataFileService::FDataFileService(const FString& InPath)
-	: Path(InPath)
+	: File(InPath)
 	, Alive(MakeShared<bool>(true))
 {
-	if (Path.IsEmpty())
+	if (File.GetPath().IsEmpty())
 	{
 		UE_LOG(LogVelmorantSDK, Warning, TEXT("No service data file is set, so every request will fail. Set ServiceDataFile in the Velmorant SDK settings, or start with -VelmorantService=FILE."));
 	}
@@ -32,23 +31,24 @@ FString FDataFileService::FindDataFile()
 	return File.IsEmpty() || File.StartsWith(TEXT("/")) ? File : FPaths::Combine(FPaths::ProjectDir(), File);
 }
 
-TOptional<FServiceData> FDataFileService::ReadFor(EServiceRequest Request) const
+const FServiceData* FDataFileService::ReadFor(EServiceRequest Request)
 {
-	if (Path.IsEmpty())
+	if (File.GetPath().IsEmpty())
 	{
-		return {};
+		return nullptr;
 	}
 
 	FString Error;
-	TOptional<FServiceData> Data = ServiceDataReader::Read(Path, Error);
-	if (!Data.IsSet())
+	const FServiceData* Data = File.Read(Error);
+	if (!Data)
 	{
 		UE_LOG(LogVelmorantSDK, Error, TEXT("%s"), *Error);
+		return nullptr;
 	}
-	else if (Data.GetValue().FailingRequests.Contains(Request))
+	if (Data->FailingRequests.Contains(Request))
 	{
-		UE_LOG(LogVelmorantSDK, Warning, TEXT("%s has this request fail."), *Path);
-		Data.Reset();
+		UE_LOG(LogVelmorantSDK, Warning, TEXT("%s has this request fail."), *File.GetPath());
+		return nullptr;
 	}
 	return Data;
 }
@@ -89,8 +89,8 @@ void FDataFileService::AnswerLater(double DelaySeconds, TFunction<void()> Answer
 void FDataFileService::RequestLogin(const FVelmorantUserInformation& UserInformation, TFunction<void(const FVelmorantLoginAnswer&)> OnAnswer)
 {
 	FVelmorantLoginAnswer Answer;
-	const TOptional<FServiceData> Data = ReadFor(EServiceRequest::Login);
-	const FServiceUser* User = !Data.IsSet() ? nullptr : Data.GetValue().Users.FindByPredicate([&UserInformation](const FServiceUser& Candidate) {
+	const FServiceData* Data = ReadFor(EServiceRequest::Login);
+	const FServiceUser* User = !Data ? nullptr : Data->Users.FindByPredicate([&UserInformation](const FServiceUser& Candidate) {
 		return Candidate.UserName == UserInformation.UserName && Candidate.Password.Equals(UserInformation.Password, ESearchCase::CaseSensitive);
 	});
 	if (User)
@@ -98,14 +98,14 @@ void FDataFileService::RequestLogin(const FVelmorantUserInformation& UserInforma
 		Answer.bSuccess = true;
 		Answer.LoginInfo = User->LoginInfo;
 		Answer.Token = FString::Printf(TEXT("token-%d"), NextToken++);
-		Answer.TokenSeconds = Data.GetValue().TokenSeconds;
-		Sessions.Add(Answer.Token, FSession{User->UserName, FApp::GetCurrentTime() + Data.GetValue().DelaySeconds + Answer.TokenSeconds});
+		Answer.TokenSeconds = Data->TokenSeconds;
+		Sessions.Add(Answer.Token, FSession{User->UserName, FApp::GetCurrentTime() + Data->DelaySeconds + Answer.TokenSeconds});
 	}
 	else
 	{
 		UE_LOG(LogVelmorantSDK, Warning, TEXT("The login of \"%s\" was refused."), *UserInformation.UserName);
 	}
-	AnswerLater(Data.IsSet() ? Data.GetValue().DelaySeconds : 0.0, [OnAnswer = MoveTemp(OnAnswer), Answer] { OnAnswer(Answer); });
+	AnswerLater(Data ? Data->DelaySeconds : 0.0, [OnAnswer = MoveTemp(OnAnswer), Answer] { OnAnswer(Answer); });
 }
 
 void FDataFileService::RequestLogout(const FString& Token)
@@ -116,40 +116,41 @@ void FDataFileService::RequestLogout(const FString& Token)
 void FDataFileService::RequestProjects(const FString& Token, TFunction<void(bool bSuccess, const TArray<FProject>&)> OnAnswer)
 {
 	TArray<FProject> Projects;
-	const TOptional<FServiceData> Data = ReadFor(EServiceRequest::Projects);
-	const FServiceUser* User = Data.IsSet() ? FindUser(Data.GetValue(), Token) : nullptr;
+	const FServiceData* Data = ReadFor(EServiceRequest::Projects);
+	const FServiceUser* User = Data ? FindUser(*Data, Token) : nullptr;
 	if (User)
 	{
-		for (const FServiceProject& Project : Data.GetValue().Projects)
+		const TSet<FString> KeyCodes(User->ProjectKeyCodes);
+		for (const FServiceProject& Project : Data->Projects)
 		{
-			if (User->ProjectKeyCodes.ContainsByPredicate([&Project](const FString& KeyCode) { return KeyCode == Project.Project.KeyCode; }))
+			if (KeyCodes.Contains(Project.Project.KeyCode))
 			{
 				Projects.Add(Project.Project);
 			}
 		}
 	}
 	const bool bSuccess = User != nullptr;
-	AnswerLater(Data.IsSet() ? Data.GetValue().DelaySeconds : 0.0, [OnAnswer = MoveTemp(OnAnswer), bSuccess, Projects] { OnAnswer(bSuccess, Projects); });
+	AnswerLater(Data ? Data->DelaySeconds : 0.0, [OnAnswer = MoveTemp(OnAnswer), bSuccess, Projects = MoveTemp(Projects)] { OnAnswer(bSuccess, Projects); });
 }
 
 void FDataFileService::RequestProjectData(const FString& Token, const FString& ProjectKeyCode, TFunction<void(const FVelmorantProjectAnswer&)> OnAnswer)
 {
 	FVelmorantProjectAnswer Answer;
-	const TOptional<FServiceData> Data = ReadFor(EServiceRequest::ProjectData);
-	if (const FServiceProject* Project = Data.IsSet() ? FindProject(Data.GetValue(), Token, ProjectKeyCode) : nullptr)
+	const FServiceData* Data = ReadFor(EServiceRequest::ProjectData);
+	if (const FServiceProject* Project = Data ? FindProject(*Data, Token, ProjectKeyCode) : nullptr)
 	{
 		Answer.bSuccess = true;
 		Answer.UnitGroups = Project->UnitGroups;
 		Answer.Configurators = Project->Configurators;
 	}
-	AnswerLater(Data.IsSet() ? Data.GetValue().DelaySeconds : 0.0, [OnAnswer = MoveTemp(OnAnswer), Answer] { OnAnswer(Answer); });
+	AnswerLater(Data ? Data->DelaySeconds : 0.0, [OnAnswer = MoveTemp(OnAnswer), Answer = MoveTemp(Answer)] { OnAnswer(Answer); });
 }
 
 void FDataFileService::RequestConfigurator(const FString& Token, const FString& ProjectKeyCode, FName ConfiguratorName, TFunction<void(const TOptional<FVelmorantConfiguratorRecord>&)> OnAnswer)
 {
 	TOptional<FVelmorantConfiguratorRecord> Record;
-	const TOptional<FServiceData> Data = ReadFor(EServiceRequest::Configurator);
-	if (const FServiceProject* Project = Data.IsSet() ? FindProject(Data.GetValue(), Token, ProjectKeyCode) : nullptr)
+	const FServiceData* Data = ReadFor(EServiceRequest::Configurator);
+	if (const FServiceProject* Project = Data ? FindProject(*Data, Token, ProjectKeyCode) : nullptr)
 	{
 		const FVelmorantConfiguratorRecord* Found = Project->Configurators.FindByPredicate([&ConfiguratorName](const FVelmorantConfiguratorRecord& Candidate) { return Candidate.Name == ConfiguratorName; });
 		if (Found)
@@ -157,5 +158,5 @@ void FDataFileService::RequestConfigurator(const FString& Token, const FString& 
 			Record = *Found;
 		}
 	}
-	AnswerLater(Data.IsSet() ? Data.GetValue().DelaySeconds : 0.0, [OnAnswer = MoveTemp(OnAnswer), Record] { OnAnswer(Record); });
+	AnswerLater(Data ? Data->DelaySeconds : 0.0, [OnAnswer = MoveTemp(OnAnswer), Record] { OnAnswer(Record); });
 }

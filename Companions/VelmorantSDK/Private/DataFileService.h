@@ -3,13 +3,13 @@
 #pragma once
 
 #include "IVelmorantService.h"
-#include "ServiceData.h"
+#include "ServiceDataFile.h"
 
 /**
  * Stands in for the online service: answers from a data file, after the file's delay on the application's clock.
  *
- * The file is read anew for every request, so that an edit shows at the next refresh. A file that cannot be used fails every
- * request; the log says why.
+ * The file is read for every request, so that an edit shows at the next refresh. A file that cannot be used fails every request; the
+ * log says why.
  */
 class FDataFileService final : public IVelmorantService
 {
@@ -35,8 +35,8 @@ private:
 		double Expiry = 0.0; // seconds on the application's clock
 	};
 
-	/** The file's data when it can be used and does not make this request fail. */
-	TOptional<FServiceData> ReadFor(EServiceRequest Request) const;
+	/** The file's data, until the next call; null when it cannot be used or makes this request fail. */
+	const FServiceData* ReadFor(EServiceRequest Request);
 
 	const FServiceUser* FindUser(const FServiceData& Data, const FString& Token) const;
 
@@ -46,7 +46,7 @@ private:
 	/** Delivers an answer after the delay, unless the service is gone by then. */
 	void AnswerLater(double DelaySeconds, TFunction<void()> Answer) const;
 
-	FString Path;
+	FServiceDataFile File;
 	TMap<FString, FSession> Sessions; // by token
 	int32 NextToken = 1;
 	TSharedRef<bool> Alive; // pending answers hold it weakly

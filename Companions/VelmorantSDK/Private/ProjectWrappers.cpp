@@ -8,6 +8,7 @@
 TArray<FUnitGroupData> UProjectWrapper::GetUnitGroupListData() const
 {
 	TArray<FUnitGroupData> Result;
+	Result.Reserve(UnitGroups.Num());
 	for (const UUnitGroupWrapper* UnitGroup : UnitGroups)
 	{
 		Result.Add(UnitGroup->GetUnitGroupData());

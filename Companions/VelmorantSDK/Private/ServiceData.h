@@ -18,7 +18,8 @@ struct FServiceUser
 {
 	FString UserName; // compared without regard to case
 	FString Password;
-	FLoginInfo LoginInfo;
+	FLoginInfo LoginInfo; // the picture as its file was at the last request
+	FString PictureFile; // empty for none
 	TArray<FString> ProjectKeyCodes;
 };
 

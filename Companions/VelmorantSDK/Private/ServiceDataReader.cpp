@@ -2,11 +2,11 @@
 
 #include "ServiceDataReader.h"
 
-#include "Misc/FileHelper.h"
 #include "Misc/Paths.h"
 #include "ServiceDocument.h"
 
 #include <algorithm>
+#include <nlohmann/json.hpp>
 
 namespace ServiceDataReader
 {
@@ -14,35 +14,26 @@ namespace ServiceDataReader
 	class FUniqueNames
 	{
 	public:
-		void Add(const FString& Name, const FServiceDocumentValue& Place)
+		/** @param Member of Value that has the name */
+		void Add(const FString& Name, const FServiceDocumentValue& Value, std::string_view Member)
 		{
-			bool bAlreadyThere = false;
-			Names.Add(Name, &bAlreadyThere);
-			if (bAlreadyThere)
+			const int32 Place = Places.Num();
+			if (Places.FindOrAdd(Name, Place) != Place)
 			{
-				Place.Fail(std::string("\"") + TCHAR_TO_UTF8(*Name) + "\" is there already; letter case does not count");
+				Value.Get(Member).Fail(std::string("\"") + TCHAR_TO_UTF8(*Name) + "\" is there already; letter case does not count");
 			}
 		}
 
-		bool Contains(const FString& Name) const { return Names.Contains(Name); }
+		/** The number of names that were added before; INDEX_NONE when this one was not. */
+		int32 Find(const FString& Name) const
+		{
+			const int32* Place = Places.Find(Name);
+			return Place ? *Place : INDEX_NONE;
+		}
 
 	private:
-		TSet<FString> Names;
+		TMap<FString, int32> Places;
 	};
-
-	FImageObjectData ReadPicture(const FServiceDocumentValue& User, const FString& Folder)
-	{
-		FImageObjectData Picture;
-		if (User.Has("picture"))
-		{
-			const FString Path = FPaths::Combine(Folder, User.GetName("picture"));
-			if (!FFileHelper::LoadFileToArray(Picture.Data, *Path))
-			{
-				User.Get("picture").Fail(std::string("the file ") + TCHAR_TO_UTF8(*Path) + " cannot be read");
-			}
-		}
-		return Picture;
-	}
 
 	FServiceUser ReadUser(const FServiceDocumentValue& Value, const FUniqueNames& ProjectKeyCodes, const FString& Folder)
 	{
@@ -53,13 +44,13 @@ namespace ServiceDataReader
 		User.LoginInfo.FirstName = Value.GetString("firstName", FString());
 		User.LoginInfo.LastName = Value.GetString("lastName", FString());
 		User.LoginInfo.Email = Value.GetString("email", FString());
-		User.LoginInfo.Picture = ReadPicture(Value, Folder);
+		User.PictureFile = Value.Has("picture") ? FPaths::Combine(Folder, Value.GetName("picture")) : FString();
 		Value.ForEach("projects", [&](const FServiceDocumentValue& KeyCode) {
-			if (!ProjectKeyCodes.Contains(KeyCode.AsString()))
+			const FString& Added = User.ProjectKeyCodes.Add_GetRef(KeyCode.AsString());
+			if (ProjectKeyCodes.Find(Added) == INDEX_NONE)
 			{
 				KeyCode.Fail("there is no project with this key code");
 			}
-			User.ProjectKeyCodes.Add(KeyCode.AsString());
 		});
 		return User;
 	}
@@ -77,7 +68,7 @@ namespace ServiceDataReader
 			Data.KeyCode = Unit.GetName("keyCode");
 			Data.Name = Unit.GetString("name");
 			Data.UnitID = Unit.GetInteger("unitID");
-			KeyCodes.Add(Data.KeyCode, Unit.Get("keyCode"));
+			KeyCodes.Add(Data.KeyCode, Unit, "keyCode");
 		});
 		return Record;
 	}
@@ -101,7 +92,8 @@ namespace ServiceDataReader
 		return Unit;
 	}
 
-	FVelmorantConfiguratorRecord ReadConfigurator(const FServiceDocumentValue& Value, const TArray<FVelmorantUnitGroupRecord>& UnitGroups)
+	/** @param KeyCodes of the unit groups, in their order */
+	FVelmorantConfiguratorRecord ReadConfigurator(const FServiceDocumentValue& Value, const TArray<FVelmorantUnitGroupRecord>& UnitGroups, const FUniqueNames& KeyCodes)
 	{
 		Value.AllowMembers({"name", "recordName", "unitGroups", "rooms"});
 		FVelmorantConfiguratorRecord Record;
@@ -109,16 +101,15 @@ namespace ServiceDataReader
 		Record.Name = FName(Name);
 		Record.Units.Add(FName(Value.GetString("recordName", Name)), ReadRooms(Value));
 		Value.ForEach("unitGroups", [&](const FServiceDocumentValue& KeyCode) {
-			const FVelmorantUnitGroupRecord* UnitGroup = UnitGroups.FindByPredicate([&KeyCode](const FVelmorantUnitGroupRecord& Candidate) {
-				return Candidate.Group.KeyCode == KeyCode.AsString();
-			});
-			if (!UnitGroup)
+			const int32 Place = KeyCodes.Find(KeyCode.AsString());
+			if (Place == INDEX_NONE)
 			{
 				KeyCode.Fail("there is no unit group with this key code in the project");
 			}
+			const FUnitGroupData& UnitGroup = UnitGroups[Place].Group;
 			FVelmorantConfiguratorUnitGroup& Entry = Record.UnitGroups.AddDefaulted_GetRef();
-			Entry.Key = UnitGroup->Group.KeyCode;
-			Entry.Name = UnitGroup->Group.Name;
+			Entry.Key = UnitGroup.KeyCode;
+			Entry.Name = UnitGroup.Name;
 		});
 		return Record;
 	}
@@ -134,13 +125,13 @@ namespace ServiceDataReader
 		FUniqueNames KeyCodes;
 		Value.ForEach("unitGroups", [&](const FServiceDocumentValue& UnitGroup) {
 			Result.UnitGroups.Add(ReadUnitGroup(UnitGroup));
-			KeyCodes.Add(Result.UnitGroups.Last().Group.KeyCode, UnitGroup.Get("keyCode"));
+			KeyCodes.Add(Result.UnitGroups.Last().Group.KeyCode, UnitGroup, "keyCode");
 		});
 
 		FUniqueNames Names;
 		Value.ForEach("configurators", [&](const FServiceDocumentValue& Configurator) {
-			Result.Configurators.Add(ReadConfigurator(Configurator, Result.UnitGroups));
-			Names.Add(Configurator.GetString("name"), Configurator.Get("name"));
+			Result.Configurators.Add(ReadConfigurator(Configurator, Result.UnitGroups, KeyCodes));
+			Names.Add(Configurator.GetString("name"), Configurator, "name");
 		});
 		return Result;
 	}
@@ -170,53 +161,44 @@ namespace ServiceDataReader
 		FUniqueNames KeyCodes;
 		Document.ForEach("projects", [&](const FServiceDocumentValue& Project) {
 			Data.Projects.Add(ReadProject(Project));
-			KeyCodes.Add(Data.Projects.Last().Project.KeyCode, Project.Get("keyCode"));
+			KeyCodes.Add(Data.Projects.Last().Project.KeyCode, Project, "keyCode");
 		});
 
 		FUniqueNames UserNames;
 		Document.ForEach("users", [&](const FServiceDocumentValue& User) {
 			Data.Users.Add(ReadUser(User, KeyCodes, Folder));
-			UserNames.Add(Data.Users.Last().UserName, User.Get("userName"));
+			UserNames.Add(Data.Users.Last().UserName, User, "userName");
 		});
 
 		Document.ForEach("failingRequests", [&](const FServiceDocumentValue& Request) { Data.FailingRequests.Add(ReadRequest(Request)); });
 		return Data;
 	}
 
-	FString DescribeParseError(const std::string& Text, const nlohmann::json::parse_error& Error)
+	FString DescribeParseError(std::string_view Json, const nlohmann::json::parse_error& Error)
 	{
-		const size_t End = std::min(Error.byte, Text.size());
-		const auto Line = 1 + std::count(Text.begin(), Text.begin() + static_cast<std::ptrdiff_t>(End), '\n');
+		const auto Line = 1 + std::count(Json.begin(), Json.begin() + static_cast<std::ptrdiff_t>(std::min(Error.byte, Json.size())), '\n');
 		return FString::Printf(TEXT("line %d: this is not JSON: %s"), static_cast<int32>(Line), UTF8_TO_TCHAR(Error.what()));
 	}
 }
 
-TOptional<FServiceData> ServiceDataReader::Read(const FString& Path, FString& OutError)
+TOptional<FServiceData> ServiceDataReader::Read(std::string_view Json, const FString& Folder, FString& OutError)
 {
-	TArray<uint8> Bytes;
-	if (!FFileHelper::LoadFileToArray(Bytes, *Path))
-	{
-		OutError = FString::Printf(TEXT("%s: the file cannot be read"), *Path);
-		return {};
-	}
-
-	const std::string Text(reinterpret_cast<const char*>(Bytes.GetData()), static_cast<size_t>(Bytes.Num()));
 	try
 	{
-		const nlohmann::json Document = nlohmann::json::parse(Text);
-		return ReadDocument(FServiceDocumentValue(Document, ""), FPaths::GetPath(Path));
+		const FServiceDocument Document(Json);
+		return ReadDocument(FServiceDocumentValue(Document), Folder);
 	}
 	catch (const nlohmann::json::parse_error& Error)
 	{
-		OutError = FString::Printf(TEXT("%s: %s"), *Path, *DescribeParseError(Text, Error));
+		OutError = DescribeParseError(Json, Error);
 	}
 	catch (const nlohmann::json::out_of_range& Error)
 	{
-		OutError = FString::Printf(TEXT("%s: this is not JSON: %s"), *Path, UTF8_TO_TCHAR(Error.what())); // a number that no type can hold
+		OutError = FString::Printf(TEXT("this is not JSON: %s"), UTF8_TO_TCHAR(Error.what())); // a number that no type can hold
 	}
 	catch (const FServiceDocumentError& Error)
 	{
-		OutError = FString::Printf(TEXT("%s: %s"), *Path, UTF8_TO_TCHAR(Error.what()));
+		OutError = UTF8_TO_TCHAR(Error.what());
 	}
 	return {};
 }

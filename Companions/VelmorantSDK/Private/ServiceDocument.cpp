@@ -3,52 +3,173 @@
 #include "ServiceDocument.h"
 
 #include <algorithm>
-#include <cmath>
 #include <limits>
+#include <nlohmann/json.hpp>
+#include <utility>
+
+/** Takes the parser's events. */
+class FServiceDocumentBuilder
+{
+public:
+	explicit FServiceDocumentBuilder(FServiceDocument& InDocument)
+		: Document(InDocument)
+	{
+	}
+
+	bool null() { return Add(EKind::Other); }
+	bool boolean(bool) { return Add(EKind::Other); }
+	bool number_integer(std::int64_t Number) { return AddNumber(EKind::Integer, static_cast<double>(Number)); }
+	bool number_unsigned(std::uint64_t Number) { return AddNumber(EKind::Integer, static_cast<double>(Number)); }
+	bool number_float(double Number, const std::string&) { return AddNumber(EKind::Float, Number); }
+	bool string(std::string& Text)
+	{
+		Add(EKind::Text);
+		Document.Values.back().Text = Keep(Text);
+		return true;
+	}
+	bool binary(nlohmann::json::binary_t&) { return false; } // not in texts
+	bool start_object(std::size_t) { return Enter(EKind::Object); }
+	bool key(std::string& Name)
+	{
+		NextName = Keep(Name);
+		return true;
+	}
+	bool end_object() { return Leave(); }
+	bool start_array(std::size_t) { return Enter(EKind::Array); }
+	bool end_array() { return Leave(); }
+
+	template<typename ErrorType>
+	bool parse_error(std::size_t, const std::string&, const ErrorType& Error)
+	{
+		throw Error;
+	}
+
+private:
+	using EKind = FServiceDocument::EKind;
+
+	bool Add(EKind Kind)
+	{
+		FServiceDocument::FValue& Value = Document.Values.emplace_back();
+		Value.Kind = Kind;
+		Value.Name = std::exchange(NextName, {});
+		Value.End = static_cast<uint32>(Document.Values.size());
+		return true;
+	}
+
+	bool AddNumber(EKind Kind, double Number)
+	{
+		Add(Kind);
+		Document.Values.back().Number = Number;
+		return true;
+	}
+
+	bool Enter(EKind Kind)
+	{
+		Open.push_back(Document.Values.size());
+		return Add(Kind);
+	}
+
+	bool Leave()
+	{
+		Document.Values[Open.back()].End = static_cast<uint32>(Document.Values.size());
+		Open.pop_back();
+		return true;
+	}
+
+	FServiceDocument::FPiece Keep(const std::string& Text)
+	{
+		const FServiceDocument::FPiece Kept{static_cast<uint32>(Document.Texts.size()), static_cast<uint32>(Text.size())};
+		Document.Texts.append(Text.c_str(), Text.size() + 1);
+		return Kept;
+	}
+
+	FServiceDocument& Document;
+	FServiceDocument::FPiece NextName = {}; // of the value that comes next
+	std::vector<size_t> Open; // indices of objects and arrays from the root down
+};
+
+FServiceDocument::FServiceDocument(std::string_view Json)
+{
+	Texts.reserve(Json.size());
+	FServiceDocumentBuilder Builder(*this);
+	nlohmann::json::sax_parse(Json.begin(), Json.end(), &Builder);
+}
 
 void FServiceDocumentValue::Fail(const std::string& Problem) const
 {
-	throw FServiceDocumentError((Pointer.empty() ? "the document" : Pointer) + ": " + Problem);
+	throw FServiceDocumentError((Parent ? GetPointer() : "the document") + ": " + Problem);
+}
+
+std::string FServiceDocumentValue::GetPointer() const
+{
+	if (!Parent)
+	{
+		return {};
+	}
+	const bool bElement = Parent->Value.Kind == FServiceDocument::EKind::Array;
+	return Parent->GetPointer() + "/" + (bElement ? std::to_string(OwnIndex) : std::string(OwnName));
 }
 
 void FServiceDocumentValue::RequireObject() const
 {
-	if (!Value.is_object())
+	if (Value.Kind != FServiceDocument::EKind::Object)
 	{
 		Fail("must be an object");
 	}
 }
 
-void FServiceDocumentValue::AllowMembers(std::initializer_list<const char*> Names) const
+void FServiceDocumentValue::RequireArray() const
+{
+	if (Value.Kind != FServiceDocument::EKind::Array)
+	{
+		Fail("must be an array");
+	}
+}
+
+void FServiceDocumentValue::AllowMembers(std::initializer_list<std::string_view> Names) const
 {
 	RequireObject();
-	for (const auto& [Name, Member] : Value.items())
+	for (const FServiceDocument::FValue* Member = GetFirst(); Member < GetEnd(); Member = GetNext(Member))
 	{
+		const std::string_view Name = Document.GetText(Member->Name);
 		if (std::find(Names.begin(), Names.end(), Name) == Names.end())
 		{
-			FServiceDocumentValue(Member, Pointer + "/" + Name).Fail("is not known here; is it misspelt?");
+			FServiceDocumentValue(*this, *Member, Name, 0).Fail("is not known here; is it misspelt?");
 		}
 	}
 }
 
-FServiceDocumentValue FServiceDocumentValue::Get(const char* Name) const
+const FServiceDocument::FValue* FServiceDocumentValue::Find(std::string_view Name) const
+{
+	const FServiceDocument::FValue* Found = nullptr;
+	if (Value.Kind == FServiceDocument::EKind::Object)
+	{
+		for (const FServiceDocument::FValue* Member = GetFirst(); Member < GetEnd(); Member = GetNext(Member))
+		{
+			Found = Document.GetText(Member->Name) == Name ? Member : Found;
+		}
+	}
+	return Found;
+}
+
+FServiceDocumentValue FServiceDocumentValue::Get(std::string_view Name) const
 {
 	RequireObject();
-	const auto Found = Value.find(Name);
-	if (Found == Value.end())
+	const FServiceDocument::FValue* Found = Find(Name);
+	if (!Found)
 	{
-		Fail(std::string("misses \"") + Name + "\"");
+		Fail("misses \"" + std::string(Name) + "\"");
 	}
-	return FServiceDocumentValue(*Found, Pointer + "/" + Name);
+	return FServiceDocumentValue(*this, *Found, Name, 0);
 }
 
 FString FServiceDocumentValue::AsString() const
 {
-	if (!Value.is_string())
+	if (Value.Kind != FServiceDocument::EKind::Text)
 	{
 		Fail("must be a text");
 	}
-	const FString Result(UTF8_TO_TCHAR(Value.get_ref<const std::string&>().c_str()));
+	const FString Result(UTF8_TO_TCHAR(Document.GetText(Value.Text).data()));
 	if (Result.Len() > MaxTextLength)
 	{
 		Fail("must not be longer than " + std::to_string(MaxTextLength) + " characters");
@@ -56,7 +177,7 @@ FString FServiceDocumentValue::AsString() const
 	return Result;
 }
 
-FString FServiceDocumentValue::GetName(const char* Name) const
+FString FServiceDocumentValue::GetName(std::string_view Name) const
 {
 	const FString Result = GetString(Name);
 	if (Result.IsEmpty())
@@ -66,27 +187,28 @@ FString FServiceDocumentValue::GetName(const char* Name) const
 	return Result;
 }
 
-double FServiceDocumentValue::GetSeconds(const char* Name, double Default) const
+double FServiceDocumentValue::GetSeconds(std::string_view Name, double Default) const
 {
 	if (!Has(Name))
 	{
 		return Default;
 	}
 	const FServiceDocumentValue Member = Get(Name);
-	if (!Member.Value.is_number() || !(Member.Value.get<double>() >= 0.0))
+	const bool bNumber = Member.Value.Kind == FServiceDocument::EKind::Integer || Member.Value.Kind == FServiceDocument::EKind::Float;
+	if (!bNumber || !(Member.Value.Number >= 0.0))
 	{
 		Member.Fail("must be a number of seconds, at least 0");
 	}
-	return Member.Value.get<double>();
+	return Member.Value.Number;
 }
 
-int32 FServiceDocumentValue::GetInteger(const char* Name) const
+int32 FServiceDocumentValue::GetInteger(std::string_view Name) const
 {
 	const FServiceDocumentValue Member = Get(Name);
-	const bool bInRange = Member.Value.is_number_integer() && Member.Value.get<double>() >= std::numeric_limits<int32>::min() && Member.Value.get<double>() <= std::numeric_limits<int32>::max();
+	const bool bInRange = Member.Value.Kind == FServiceDocument::EKind::Integer && Member.Value.Number >= std::numeric_limits<int32>::min() && Member.Value.Number <= std::numeric_limits<int32>::max();
 	if (!bInRange)
 	{
 		Member.Fail("must be a whole number of 32 bits");
 	}
-	return Member.Value.get<int32>();
+	return static_cast<int32>(Member.Value.Number);
 }

@@ -72,10 +72,15 @@ void UVelmorantProjectRequestManager::ReceiveProjectData(const FVelmorantProject
 	}
 
 	// Wrappers that stay keep their identity: others may hold on to them.
+	TMap<FName, UConfiguratorWrapper*> Known;
+	for (UConfiguratorWrapper* Configurator : ProjectWrapper->Configurators)
+	{
+		Known.Add(Configurator->ConfiguratorName, Configurator);
+	}
 	TArray<TObjectPtr<UConfiguratorWrapper>> Configurators;
 	for (const FVelmorantConfiguratorRecord& Record : Answer.Configurators)
 	{
-		UConfiguratorWrapper* Configurator = ProjectWrapper->GetConfiguratorByName(Record.Name);
+		UConfiguratorWrapper* Configurator = Known.FindRef(Record.Name);
 		if (!Configurator)
 		{
 			Configurator = NewObject<UConfiguratorWrapper>(ProjectWrapper);

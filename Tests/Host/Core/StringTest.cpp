@@ -33,6 +33,24 @@ TEST(String, OperatorsAndMapKeysIgnoreCaseAlsoBeyondAscii)
 	EXPECT_EQ(Map.FindRef(TEXT("straße ä")), 2);
 }
 
+TEST(String, LowersEachCharacterByItself)
+{
+	for (const int32 Umlaut : {-1, 0, 63, 64, 100, 149})
+	{
+		FString Text;
+		for (int32 Index = 0; Index < 150; ++Index)
+		{
+			Text.AppendChar(Index == Umlaut ? TEXT('Ä') : static_cast<TCHAR>('!' + Index % 94)); // all that can be seen of ASCII
+		}
+		const FString Lower = Text.ToLower();
+		ASSERT_EQ(Lower.Len(), Text.Len());
+		for (int32 Index = 0; Index < Text.Len(); ++Index)
+		{
+			EXPECT_EQ(Lower[Index], FChar::ToLower(Text[Index])) << Index << " beside an umlaut at " << Umlaut;
+		}
+	}
+}
+
 TEST(String, NeverGivesANullPointer)
 {
 	EXPECT_EQ((*FString())[0], 0);

@@ -86,6 +86,22 @@ namespace
 		EXPECT_EQ(Utf8(MakeUniqueObjectName(A, UTestWall::StaticClass(), TEXT("Wall")).ToString()), "Wall_0");
 	}
 
+	TEST_F(ObjectNames, NumbersOfSeveralClassesGoOnSideBySideAndBeginAnewInANewOuter)
+	{
+		UPackage* Package = CreatePackage(TEXT("/Game/A"));
+		for (int32 Round = 0; Round < 3; ++Round)
+		{
+			UTestWall* Outer = NewObject<UTestWall>(Package); // from the second round on in the place of one that is gone
+			for (const char* Number : {"_0", "_1", "_2"})
+			{
+				EXPECT_EQ(Utf8(NewObject<UTestWall>(Outer)->GetName()), std::string("TestWall") + Number);
+				EXPECT_EQ(Utf8(NewObject<UTestOuterWall>(Outer)->GetName()), std::string("TestOuterWall") + Number);
+				EXPECT_EQ(Utf8(NewObject<UTestSkirting>(Outer)->GetName()), std::string("TestSkirting") + Number);
+			}
+			HostObjects::CollectGarbage();
+		}
+	}
+
 	TEST_F(ObjectNames, RenamingMovesAnObjectWithAllThatLiesInIt)
 	{
 		UPackage* From = CreatePackage(TEXT("/Game/From"));

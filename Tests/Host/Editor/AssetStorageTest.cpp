@@ -1,6 +1,7 @@
 // Copyright Velmorant. All Rights Reserved.
 
 #include "AssetTestEditor.h"
+#include "HostJsonMembers.h"
 #include "Kismet2/KismetEditorUtilities.h"
 #include "TestAssets.h"
 #include "UObject/Package.h"
@@ -263,6 +264,9 @@ TEST_F(FAssetStorage, FindsAssetsWhateverTheCaseOfTheirName)
 	ASSERT_NE(Asset, nullptr) << Problems();
 	EXPECT_EQ(Utf8(Asset->GetPathName()), "/Game/Dir/Tower.Tower");
 	EXPECT_EQ(LoadTestAsset(TEXT("/Game/Dir/Tower")), Asset);
+
+	ASSERT_TRUE(HostPackages::Save(MakeAsset(TEXT("/Game/Dir/House"))->GetPackage()).Succeeded()) << Problems();
+	EXPECT_TRUE(HostPackages::FindFile(TEXT("/Game/dir/HOUSE")).EndsWith(TEXT("/Dir/House.uasset.json"), ESearchCase::CaseSensitive));
 }
 
 TEST_F(FAssetStorage, LoadsThroughTheEnginesOwnLookUps)
@@ -340,10 +344,10 @@ TEST_F(FAssetStorage, ReadsClassesWithAFormatOfTheirOwnAndDoesNotWriteThem)
 	// The registration lasts as long as the process; no other test stores this class.
 	HostPackages::RegisterReader(UTestLayoutAsset::StaticClass()->GetClassPathName(), [](const HostPackages::FDocument& Document, UPackage* Package) {
 		UTestLayoutAsset* Asset = NewObject<UTestLayoutAsset>(Package, FName(*Document.AssetName), RF_Public | RF_Standalone);
-		Asset->Text = Document.Json;
+		Asset->Text = FString(UTF8_TO_TCHAR(Document.Json.dump().c_str()));
 		return Asset;
 	});
-	const std::string File = R"({"Tree": ["anything"], "Class": "/Script/TestAssets.TestLayoutAsset"})";
+	const std::string File = R"({"Tree":["anything"],"Class":"/Script/TestAssets.TestLayoutAsset"})";
 	WriteContent("Layout.uasset.json", File);
 
 	UTestAsset* Asset = LoadTestAsset(TEXT("/Game/Layout"));

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
-#include "Misc/Optional.h"
+#include "HostJson.h"
 #include "Templates/Function.h"
 #include "UObject/TopLevelAssetPath.h"
 
@@ -112,14 +112,14 @@ namespace HostPackages
 	{
 		FString File; // for messages
 		FString AssetName; // the package's short name
-		FString Json; // the whole document; its "Class" member names the class
+		const FHostJson& Json; // the whole document, an object; its "Class" member names the class
 	};
 
 	/** Makes the asset, named Document.AssetName, in Package. Reports problems itself and returns null when it refuses the document. */
 	using FReader = TFunction<UObject*(const FDocument& Document, UPackage* Package)>;
 
-	/** The JSON text of the asset, a whole document. Unset refuses to save. */
-	using FWriter = TFunction<TOptional<FString>(const UObject* Asset)>;
+	/** Writes the asset as a whole document. False refuses to save. */
+	using FWriter = TFunction<bool(const UObject* Asset, FHostJson& OutJson)>;
 
 	/**
 	 * Reads assets of exactly this class through Reader. Lasts as long as the process; registering again replaces.

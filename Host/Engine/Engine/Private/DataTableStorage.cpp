@@ -3,22 +3,19 @@
 #include "DataTableStorage.h"
 
 #include "Engine/DataTable.h"
+#include "HostJsonMembers.h"
 #include "HostProblems.h"
 #include "UObject/Package.h"
 #include "UObject/UObjectGlobals.h"
 
-#include <nlohmann/json.hpp>
-
 namespace DataTableStorage
 {
-	using FJson = nlohmann::ordered_json; // rows keep their order
-
 	FString ToText(const std::string& Utf8)
 	{
 		return FString(UTF8_TO_TCHAR(Utf8.c_str()));
 	}
 
-	FString GetText(const FJson& Object, const char* Key)
+	FString GetText(const FHostJson& Object, const char* Key)
 	{
 		const auto Found = Object.find(Key);
 		return Found != Object.end() && Found->is_string() ? ToText(Found->get_ref<const std::string&>()) : FString();
@@ -48,8 +45,7 @@ void FDataTableStorage::Register()
 UObject* FDataTableStorage::Read(const HostPackages::FDocument& Document, UPackage* Package)
 {
 	using namespace DataTableStorage;
-	const FJson Json = FJson::parse(TCHAR_TO_UTF8(*Document.Json), nullptr, false);
-	const FString StructPath = Json.is_object() ? GetText(Json, "RowStruct") : FString();
+	const FString StructPath = GetText(Document.Json, "RowStruct");
 	UScriptStruct* RowStruct = StructPath.IsEmpty() ? nullptr : FindObject<UScriptStruct>(nullptr, *StructPath);
 	if (RowStruct == nullptr || !RowStruct->IsChildOf(FTableRowBase::StaticStruct()))
 	{
@@ -58,8 +54,8 @@ UObject* FDataTableStorage::Read(const HostPackages::FDocument& Document, UPacka
 	}
 	UDataTable* Table = NewObject<UDataTable>(Package, FName(Document.AssetName), RF_Public | RF_Standalone | RF_Transactional);
 	Table->RowStruct = RowStruct;
-	const auto Rows = Json.find("Rows");
-	if (Rows == Json.end() || ReadRows(Document, *Rows, *Table))
+	const auto Rows = Document.Json.find("Rows");
+	if (Rows == Document.Json.end() || ReadRows(Document, *Rows, *Table))
 	{
 		return Table;
 	}
@@ -67,7 +63,7 @@ UObject* FDataTableStorage::Read(const HostPackages::FDocument& Document, UPacka
 	return nullptr;
 }
 
-bool FDataTableStorage::ReadRows(const HostPackages::FDocument& Document, const nlohmann::ordered_json& Rows, UDataTable& Table)
+bool FDataTableStorage::ReadRows(const HostPackages::FDocument& Document, const FHostJson& Rows, UDataTable& Table)
 {
 	using namespace DataTableStorage;
 	if (!Rows.is_object())
@@ -96,24 +92,21 @@ bool FDataTableStorage::ReadRow(UDataTable& Table, const FString& RowName, const
 	return Table.RowStruct->ImportText(*RowText, Table.MakeRow(FName(RowName)), &Table, 0, nullptr, Table.RowStruct->GetName()) != nullptr;
 }
 
-TOptional<FString> FDataTableStorage::Write(const UObject* Asset)
+bool FDataTableStorage::Write(const UObject* Asset, FHostJson& OutJson)
 {
-	using namespace DataTableStorage;
 	const UDataTable* Table = CastChecked<UDataTable>(Asset);
 	if (Table->RowStruct == nullptr)
 	{
-		return TOptional<FString>();
+		return false;
 	}
-	FJson::object_t Rows; // filled at its end: an ordered object looks its keys up one by one
+	OutJson["Class"] = TCHAR_TO_UTF8(*Table->GetClass()->GetPathName());
+	OutJson["RowStruct"] = TCHAR_TO_UTF8(*Table->RowStruct->GetPathName());
+	FHostJson& Rows = OutJson["Rows"] = FHostJson::object();
 	for (const TPair<FName, uint8*>& Row : Table->GetRowMap())
 	{
 		FString Text;
 		Table->RowStruct->ExportText(Text, Row.Value, nullptr, nullptr, 0, nullptr);
-		Rows.emplace_back(TCHAR_TO_UTF8(*Row.Key.ToString()), TCHAR_TO_UTF8(*Text));
+		Rows[TCHAR_TO_UTF8(*Row.Key.ToString())] = TCHAR_TO_UTF8(*Text);
 	}
-	FJson Json;
-	Json["Class"] = TCHAR_TO_UTF8(*Table->GetClass()->GetPathName());
-	Json["RowStruct"] = TCHAR_TO_UTF8(*Table->RowStruct->GetPathName());
-	Json["Rows"] = std::move(Rows);
-	return FString(UTF8_TO_TCHAR((Json.dump(1, '\t') + "\n").c_str()));
+	return true;
 }

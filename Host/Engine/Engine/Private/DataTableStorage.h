@@ -3,9 +3,8 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "HostJson.h"
 #include "HostPackages.h"
-
-#include <nlohmann/json_fwd.hpp>
 
 class UDataTable;
 
@@ -20,7 +19,7 @@ public:
 
 private:
 	static UObject* Read(const HostPackages::FDocument& Document, UPackage* Package);
-	static TOptional<FString> Write(const UObject* Asset);
-	static bool ReadRows(const HostPackages::FDocument& Document, const nlohmann::ordered_json& Rows, UDataTable& Table);
+	static bool Write(const UObject* Asset, FHostJson& OutJson);
+	static bool ReadRows(const HostPackages::FDocument& Document, const FHostJson& Rows, UDataTable& Table);
 	static bool ReadRow(UDataTable& Table, const FString& RowName, const FString& RowText);
 };

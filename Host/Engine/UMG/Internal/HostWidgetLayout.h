@@ -3,6 +3,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "HostJson.h"
 
 class UClass;
 class UObject;
@@ -28,6 +29,7 @@ namespace HostWidgetLayout
 	 * @return null when anything is wrong; OutProblems then holds all of it.
 	 */
 	TSharedPtr<const FWidgetLayout> Read(const FString& Json, TArray<FProblem>& OutProblems);
+	TSharedPtr<const FWidgetLayout> Read(const FHostJson& Json, TArray<FProblem>& OutProblems);
 
 	/** The native panel class that the layout is for. */
 	UClass* GetParentClass(const FWidgetLayout& Layout);

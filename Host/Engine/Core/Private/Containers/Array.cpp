@@ -2,6 +2,8 @@
 
 #include "Containers/Array.h"
 
+#include "HAL/SmallBlocks.h"
+
 namespace UE::Core::Private
 {
 	void OnArrayIndexOutOfRange(int64 Index, int64 Num)
@@ -29,14 +31,33 @@ namespace UE::Core::Private
 		checkf(false, TEXT("Trying to resize a container to an invalid size of %lld"), Num);
 	}
 
-	void* AllocateElements(int64 Num, std::size_t Size, std::size_t Alignment)
+	static bool IsSmall(std::size_t AllSize, std::size_t Alignment)
 	{
-		return Num == 0 ? nullptr : ::operator new(static_cast<std::size_t>(Num) * Size, std::align_val_t(Alignment));
+		return AllSize <= SmallBlocks::MaxSize && Alignment <= SmallBlocks::Alignment;
 	}
 
-	void FreeElements(void* Elements, std::size_t Alignment)
+	void* AllocateElements(int64 Num, std::size_t Size, std::size_t Alignment)
 	{
-		if (Elements)
+		if (Num == 0)
+		{
+			return nullptr;
+		}
+		const std::size_t AllSize = static_cast<std::size_t>(Num) * Size;
+		return IsSmall(AllSize, Alignment) ? SmallBlocks::Allocate(AllSize) : ::operator new(AllSize, std::align_val_t(Alignment));
+	}
+
+	void FreeElements(void* Elements, int64 Num, std::size_t Size, std::size_t Alignment)
+	{
+		if (Elements == nullptr)
+		{
+			return;
+		}
+		const std::size_t AllSize = static_cast<std::size_t>(Num) * Size;
+		if (IsSmall(AllSize, Alignment))
+		{
+			SmallBlocks::Free(Elements, AllSize);
+		}
+		else
 		{
 			::operator delete(Elements, std::align_val_t(Alignment));
 		}

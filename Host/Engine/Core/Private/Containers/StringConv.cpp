@@ -3,6 +3,8 @@
 #include "Containers/StringConv.h"
 #include "Containers/StringView.h"
 
+#include <type_traits>
+
 namespace StringConvPrivate
 {
 	constexpr uint32 Replacement = 0xfffd;
@@ -124,6 +126,11 @@ void TStringConversion<FromType, ToType>::Convert(const FromType* Source, int32 
 	const FromType* const End = Source + SourceLen;
 	for (const FromType* At = Source; At < End;)
 	{
+		if (static_cast<std::make_unsigned_t<FromType>>(*At) < 0x80)
+		{
+			*Out++ = static_cast<ToType>(*At++); // most texts hold little else
+			continue;
+		}
 		Out = StringConvPrivate::Encode(Out, StringConvPrivate::Decode(At, End));
 	}
 	*Out = 0;

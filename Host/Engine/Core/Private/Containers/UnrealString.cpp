@@ -5,9 +5,36 @@
 #include "Containers/StringConv.h"
 #include "String/FormatMessage.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cstdio>
 #include <cstring>
+
+namespace UnrealString
+{
+	constexpr std::ptrdiff_t BlockSize = 64;
+
+	// Without branches, so that the compiler makes them work on many characters at once.
+
+	bool IsAscii(const TCHAR* Begin, const TCHAR* End)
+	{
+		TCHAR All = 0;
+		for (; Begin < End; ++Begin)
+		{
+			All = static_cast<TCHAR>(All | *Begin);
+		}
+		return All < 0x80;
+	}
+
+	void MakeAsciiLower(TCHAR* Begin, const TCHAR* End)
+	{
+		for (; Begin < End; ++Begin)
+		{
+			const bool bUpper = *Begin >= 'A' && *Begin <= 'Z';
+			*Begin = static_cast<TCHAR>(*Begin + (bUpper ? 'a' - 'A' : 0));
+		}
+	}
+}
 
 FString::FString(const TCHAR* InText)
 	: FString(FStringView(InText))
@@ -305,9 +332,19 @@ FString FString::ToUpper() &&
 
 void FString::ToLowerInline()
 {
-	for (TCHAR& Char : *this)
+	TCHAR* const End = end();
+	for (TCHAR* At = begin(); At < End;)
 	{
-		Char = FChar::ToLower(Char);
+		TCHAR* const BlockEnd = End - At < UnrealString::BlockSize ? End : At + UnrealString::BlockSize;
+		if (UnrealString::IsAscii(At, BlockEnd))
+		{
+			UnrealString::MakeAsciiLower(At, BlockEnd);
+		}
+		else
+		{
+			std::transform(At, BlockEnd, At, &FChar::ToLower);
+		}
+		At = BlockEnd;
 	}
 }
 

@@ -2,34 +2,43 @@
 
 #include "HostProblems.h"
 
+#include "Containers/Map.h"
 #include "HostState.h"
 
 namespace HostProblems
 {
 	namespace
 	{
-		THostState<TArray<FHostProblem>> Problems;
+		struct FProblems
+		{
+			TArray<FHostProblem> All;
+			TMap<FString, TArray<int32>> PlacesByText; // file and message; those that may be the same, for letter case and lines do not count here
+		};
+
+		THostState<FProblems> Problems;
 	}
 
 	void Report(const FString& File, int32 Line, const FString& Message, const FString& Remedy)
 	{
-		const bool bKnown = Problems.Get().ContainsByPredicate([&](const FHostProblem& Problem) {
-			return Problem.Line == Line && Problem.File.Equals(File) && Problem.Message.Equals(Message);
+		TArray<FHostProblem>& All = Problems.Get().All;
+		TArray<int32>& Places = Problems.Get().PlacesByText.FindOrAdd(File + TEXT("\n") + Message);
+		const bool bKnown = Places.ContainsByPredicate([&](int32 Place) {
+			return All[Place].Line == Line && All[Place].File.Equals(File) && All[Place].Message.Equals(Message);
 		});
 		if (!bKnown)
 		{
-			Problems.Get().Add(FHostProblem{File, Line, Message, Remedy});
+			Places.Add(All.Add(FHostProblem{File, Line, Message, Remedy}));
 		}
 	}
 
 	const TArray<FHostProblem>& GetAll()
 	{
-		return Problems.Get();
+		return Problems.Get().All;
 	}
 
 	void Clear()
 	{
-		Problems.Get().Empty();
+		Problems.Get() = FProblems();
 	}
 
 	FString ToString(const FHostProblem& Problem)

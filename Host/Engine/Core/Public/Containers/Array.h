@@ -24,7 +24,8 @@ namespace UE::Core::Private
 
 	/** Room for Num elements of the given size and alignment; null for none. */
 	CORE_API void* AllocateElements(int64 Num, std::size_t Size, std::size_t Alignment);
-	CORE_API void FreeElements(void* Elements, std::size_t Alignment);
+	/** Null is ignored. The numbers must be those of the allocation. */
+	CORE_API void FreeElements(void* Elements, int64 Num, std::size_t Size, std::size_t Alignment);
 
 	/** Iterator of range-for: reports when the container grew or shrank while it is being walked. */
 	template<typename ElementType>
@@ -135,7 +136,7 @@ public:
 	~TArray()
 	{
 		DestroyRange(0, ArrayNum);
-		UE::Core::Private::FreeElements(Data, alignof(ElementType));
+		UE::Core::Private::FreeElements(Data, ArrayMax, sizeof(ElementType), alignof(ElementType));
 	}
 
 	TArray& operator=(const TArray& Other)
@@ -761,6 +762,16 @@ private:
 	void AppendConverted(const OtherElementType* Ptr, SizeType Count)
 	{
 		MakeRoom(Count);
+		if constexpr (std::is_same_v<OtherElementType, ElementType> && std::is_trivially_copyable_v<ElementType>)
+		{
+			if (Count == 0)
+			{
+				return; // there may be no memory to copy to
+			}
+			__builtin_memcpy(static_cast<void*>(Data + ArrayNum), static_cast<const void*>(Ptr), sizeof(ElementType) * static_cast<std::size_t>(Count));
+			ArrayNum += Count;
+			return;
+		}
 		for (SizeType Index = 0; Index < Count; ++Index)
 		{
 			new (Data + ArrayNum) ElementType(Ptr[Index]);
@@ -874,7 +885,7 @@ private:
 	{
 		ElementType* const NewData = static_cast<ElementType*>(UE::Core::Private::AllocateElements(NewMax, sizeof(ElementType), alignof(ElementType)));
 		RelocateRange(NewData, Data, ArrayNum);
-		UE::Core::Private::FreeElements(Data, alignof(ElementType));
+		UE::Core::Private::FreeElements(Data, ArrayMax, sizeof(ElementType), alignof(ElementType));
 		Data = NewData;
 		ArrayMax = NewMax;
 	}

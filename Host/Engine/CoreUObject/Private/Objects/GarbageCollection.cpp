@@ -9,8 +9,6 @@
 #include "UObject/StrongObjectPtr.h"
 #include "UObject/UnrealType.h"
 
-#include <new>
-
 /** Marks whatever it is told of, and then what those refer to. */
 class FReachability final : public FReferenceCollector
 {
@@ -110,6 +108,7 @@ void FObjectTable::Destroy(const TArray<int32>& Doomed)
 	}
 	TArray<int32> Plain;
 	TArray<int32> TypesAndPackages;
+	Plain.Reserve(Doomed.Num());
 	for (const int32 Index : Doomed)
 	{
 		const UClass* Class = Items[Index].Object->GetClass();
@@ -134,15 +133,17 @@ void FObjectTable::DestroyOne(int32 Index)
 {
 	UObject* Object = Items[Index].Object;
 	const UClass* Class = Object->GetClass();
-	const std::align_val_t Alignment{static_cast<std::size_t>(Class->GetMinAlignment())}; // the class itself may be what dies
+	const int32 Size = Class->GetPropertiesSize(); // the class itself may be what dies
+	const int32 Alignment = Class->GetMinAlignment();
 	Object->~UObject();
-	::operator delete(static_cast<void*>(Object), Alignment);
+	Free(Object, Size, Alignment);
 	FreeSlot(Index);
 }
 
 void FObjectTable::FreeSlot(int32 Index)
 {
 	Items[Index].Object = nullptr;
+	DropNextNumbers(Items[Index]);
 	FreeSlots.Add(Index);
 	--NumObjects;
 }
@@ -159,7 +160,7 @@ void FObjectTable::DropHalfMade(UObject* Object, UClass* Class, bool bRegistered
 		Unlink(Index);
 		FreeSlot(Index);
 	}
-	::operator delete(static_cast<void*>(Object), std::align_val_t(static_cast<std::size_t>(Class->GetMinAlignment())));
+	Free(Object, Class->GetPropertiesSize(), Class->GetMinAlignment());
 }
 
 void FObjectTable::TearDown()
@@ -186,7 +187,7 @@ void FObjectTable::TearDown()
 		}
 		for (FObjectItem& Item : Items)
 		{
-			Item.NextNumbers.Reset();
+			DropNextNumbers(Item);
 		}
 		TransientPackage = nullptr;
 	} while (!Doomed.IsEmpty()); // a destructor may have asked for a default object

@@ -49,7 +49,7 @@ namespace ObjectConstruction
 		UObject* To;
 	};
 
-	static void CopyProperty(const FProperty* Property, UObject* To, const UObject* From, FReferenceMapper& Mapper)
+	static void CopyReferences(const FProperty* Property, UObject* To, const UObject* From, FReferenceMapper& Mapper)
 	{
 		if (const FObjectProperty* ObjectProperty = CastField<FObjectProperty>(Property))
 		{
@@ -65,10 +65,7 @@ namespace ObjectConstruction
 			}
 		}
 		Property->CopyCompleteValue_InContainer(To, From);
-		if (Property->ContainsObjectReference())
-		{
-			Property->CollectReferences(Property->ContainerPtrToValuePtr(To), Mapper);
-		}
+		Property->CollectReferences(Property->ContainerPtrToValuePtr(To), Mapper);
 	}
 
 	/** The object whose values a new one starts with. */
@@ -146,12 +143,18 @@ void FObjectInitializer::InitProperties() const
 	const UClass* ArchetypeClass = ObjectArchetype->GetClass();
 	const UStruct* Common = Class->IsChildOf(ArchetypeClass) ? static_cast<const UStruct*>(ArchetypeClass) : Class;
 	const UObject* Defaults = bCopyTransients ? Class->GetDefaultObject() : ObjectArchetype;
-	ObjectConstruction::FReferenceMapper ArchetypeMapper(ObjectArchetype, Obj);
-	ObjectConstruction::FReferenceMapper DefaultsMapper(Defaults, Obj);
-	for (const FProperty* Property : Common->GetAllProperties())
+	const auto ChooseSource = [this, Defaults](const FProperty* Property) {
+		return Property->HasAnyPropertyFlags(CPF_Transient | CPF_DuplicateTransient) ? Defaults : ObjectArchetype;
+	};
+	for (const FProperty* Property : Common->GetPlainProperties())
 	{
-		const bool bTransient = Property->HasAnyPropertyFlags(CPF_Transient | CPF_DuplicateTransient);
-		ObjectConstruction::CopyProperty(Property, Obj, bTransient ? Defaults : ObjectArchetype, bTransient ? DefaultsMapper : ArchetypeMapper);
+		Property->CopyCompleteValue_InContainer(Obj, ChooseSource(Property));
+	}
+	for (const FProperty* Property : Common->GetReferenceProperties())
+	{
+		const UObject* Source = ChooseSource(Property);
+		ObjectConstruction::FReferenceMapper Mapper(Source, Obj);
+		ObjectConstruction::CopyReferences(Property, Obj, Source, Mapper);
 	}
 }
 
@@ -194,11 +197,11 @@ UObject* StaticConstructObject_Internal(const FStaticConstructObjectParameters& 
 	return FObjectTable::Get().Construct(Params);
 }
 
-UObject* FObjectTable::FindForRebuild(const FStaticConstructObjectParameters& Params, FName Name) const
+UObject* FObjectTable::FindForRebuild(const FStaticConstructObjectParameters& Params) const
 {
-	UObject* Existing = Find(nullptr, Params.Outer, Name);
+	UObject* Existing = Params.Name.IsNone() ? nullptr : Find(nullptr, Params.Outer, Params.Name);
 	checkf(!Existing || Existing->GetClass() == Params.Class, TEXT("Cannot make a %s named %s: %s is there already, and of another class."),
-		*Params.Class->GetName(), *Name.ToString(), *Existing->GetFullName());
+		*Params.Class->GetName(), *Params.Name.ToString(), *Existing->GetFullName());
 	checkf(!Existing || !Items[IndexOf(Existing)].bNative, TEXT("Cannot replace %s."), *Existing->GetFullName());
 	return Existing;
 }
@@ -217,7 +220,7 @@ UObject* FObjectTable::Construct(const FStaticConstructObjectParameters& Params)
 		*Archetype->GetPathName(), *Class->GetName());
 	void* Memory = nullptr;
 	int32 ReusedIndex = INDEX_NONE;
-	if (UObject* Existing = FindForRebuild(Params, Name))
+	if (UObject* Existing = FindForRebuild(Params))
 	{
 		ReusedIndex = IndexOf(Existing);
 		Existing->ConditionalBeginDestroy();

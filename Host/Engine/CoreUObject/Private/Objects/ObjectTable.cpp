@@ -8,7 +8,9 @@
 #include "UObject/Package.h"
 
 #include <cstring>
-#include <new>
+#include <type_traits>
+
+static_assert(std::is_trivially_copyable_v<FObjectItem>);
 
 FObjectTable& FObjectTable::Get()
 {
@@ -143,21 +145,46 @@ UObject* FObjectTable::Find(const UClass* Class, const UObject* Outer, FName Nam
 
 FName FObjectTable::MakeUniqueName(UObject* Outer, const UClass* Class, FName BaseName)
 {
-	FNextNumber Probe{Class, 0};
-	FNextNumber* Counter = &Probe;
-	if (Outer && (BaseName.IsNone() || BaseName == Class->GetFName()))
-	{
-		TArray<FNextNumber>& Counters = GetItem(Outer).NextNumbers;
-		Counter = Counters.FindByPredicate([Class](const FNextNumber& Number) { return Number.Class == Class; });
-		Counter = Counter ? Counter : &Counters[Counters.Add(Probe)];
-	}
 	const FName Base = BaseName.IsNone() ? Class->GetFName() : BaseName;
+	const bool bCounted = Outer && Base == Class->GetFName();
+	int32 Uncounted = 0;
+	int32& Next = bCounted ? FindNextNumber(Outer, Class).Next : Uncounted;
 	FName Name;
 	do
 	{
-		Name = FName(Base, NAME_EXTERNAL_TO_INTERNAL(Counter->Next++));
+		Name = FName(Base, NAME_EXTERNAL_TO_INTERNAL(Next++));
 	} while (Find(nullptr, Outer, Name));
 	return Name;
+}
+
+FNextNumber& FObjectTable::FindNextNumber(const UObject* Outer, const UClass* Class)
+{
+	int32& First = GetItem(Outer).FirstNextNumber;
+	for (int32* Place = &First; *Place != INDEX_NONE; Place = &NextNumbers[*Place].NextOfOuter)
+	{
+		const int32 Known = *Place;
+		if (NextNumbers[Known].Class == Class)
+		{
+			// To the front: who makes one object of a class makes more of them.
+			*Place = NextNumbers[Known].NextOfOuter;
+			NextNumbers[Known].NextOfOuter = First;
+			First = Known;
+			return NextNumbers[Known];
+		}
+	}
+	const int32 Added = FreeNextNumbers.IsEmpty() ? NextNumbers.AddDefaulted() : FreeNextNumbers.Pop();
+	NextNumbers[Added] = FNextNumber{Class, 0, First};
+	First = Added;
+	return NextNumbers[Added];
+}
+
+void FObjectTable::DropNextNumbers(FObjectItem& Item)
+{
+	for (int32 Index = Item.FirstNextNumber; Index != INDEX_NONE; Index = NextNumbers[Index].NextOfOuter)
+	{
+		FreeNextNumbers.Add(Index);
+	}
+	Item.FirstNextNumber = INDEX_NONE;
 }
 
 void FObjectTable::ChangeName(UObject* Object, FName NewName, UObject* NewOuter)
@@ -186,9 +213,14 @@ void FObjectTable::ChangeName(UObject* Object, FName NewName, UObject* NewOuter)
 
 void* FObjectTable::Allocate(int32 Size, int32 Alignment)
 {
-	void* Memory = ::operator new(static_cast<std::size_t>(Size), std::align_val_t(static_cast<std::size_t>(Alignment)));
+	void* Memory = UE::Core::Private::AllocateElements(1, static_cast<std::size_t>(Size), static_cast<std::size_t>(Alignment));
 	std::memset(Memory, 0, static_cast<std::size_t>(Size));
 	return Memory;
+}
+
+void FObjectTable::Free(void* Memory, int32 Size, int32 Alignment)
+{
+	UE::Core::Private::FreeElements(Memory, 1, static_cast<std::size_t>(Size), static_cast<std::size_t>(Alignment));
 }
 
 UPackage* FObjectTable::GetTransientPackage()

@@ -17,11 +17,12 @@ struct FStaticConstructObjectParameters;
 /** The next "Class_N" among the objects of one outer. */
 struct FNextNumber
 {
-	const UClass* Class;
-	int32 Next;
+	const UClass* Class = nullptr;
+	int32 Next = 0;
+	int32 NextOfOuter = INDEX_NONE; // the counter of another class; few
 };
 
-/** What the table knows of one object. Slots are reused; the serial number tells their users apart. */
+/** What the table knows of one object. Slots are reused; the serial number tells their users apart. Moved as plain memory. */
 struct FObjectItem
 {
 	UObject* Object = nullptr; // null: free
@@ -32,7 +33,7 @@ struct FObjectItem
 	int32 FirstInner = INDEX_NONE; // ring of objects with this outer, oldest first
 	int32 NextInner = INDEX_NONE;
 	int32 PreviousInner = INDEX_NONE;
-	TArray<FNextNumber> NextNumbers; // few: one per class of unnamed inner objects
+	int32 FirstNextNumber = INDEX_NONE; // counters of its unnamed inner objects
 	bool bNative = false; // lives as long as the process
 	bool bRooted = false;
 	bool bGarbage = false;
@@ -85,6 +86,7 @@ public:
 	/** A type of the object system, or its package: memory that exists already, no values from templates. */
 	void ConstructNative(void* Memory, UClass* Class, UObject* Outer, FName Name, void (*Constructor)(void*, const class FObjectInitializer&));
 	static void* Allocate(int32 Size, int32 Alignment);
+	static void Free(void* Memory, int32 Size, int32 Alignment);
 	/** Object was left by its constructor through an exception; its bases are destroyed already. */
 	void DropHalfMade(UObject* Object, UClass* Class, bool bRegistered);
 
@@ -111,10 +113,14 @@ private:
 	void Destroy(const TArray<int32>& Doomed);
 	void DestroyOne(int32 Index);
 	void FreeSlot(int32 Index);
-	UObject* FindForRebuild(const FStaticConstructObjectParameters& Params, FName Name) const;
+	UObject* FindForRebuild(const FStaticConstructObjectParameters& Params) const;
+	FNextNumber& FindNextNumber(const UObject* Outer, const UClass* Class);
+	void DropNextNumbers(FObjectItem& Item);
 
 	TArray<FObjectItem> Items;
 	TArray<int32> FreeSlots;
+	TArray<FNextNumber> NextNumbers;
+	TArray<int32> FreeNextNumbers;
 	TArray<int32> Buckets; // number is a power of two
 	int32 NumObjects = 0;
 	int32 LastSerialNumber = 0;

@@ -33,10 +33,10 @@ namespace HostPackages
 		FName Name;
 	};
 
-	UPackage* LoadByReader(const FReader& Reader, const FString& File, const FString& PackageName, const std::string& Text)
+	UPackage* LoadByReader(const FReader& Reader, const FString& File, const FString& PackageName, const FJson& Document)
 	{
 		UPackage* Package = CreatePackage(*PackageName);
-		UObject* Asset = Reader({File, PackageFiles::ShortNameOf(PackageName), PackageJson::ToString(Text)}, Package);
+		UObject* Asset = Reader({File, PackageFiles::ShortNameOf(PackageName), Document}, Package);
 		Package->SetDirtyFlag(false);
 		if (Asset == nullptr)
 		{
@@ -46,12 +46,22 @@ namespace HostPackages
 		return Package;
 	}
 
+	/** Null for a document that is read like all others, or is none of an asset. */
+	const FPackageFormat* FindFormat(const FJson& Document)
+	{
+		const auto Class = Document.is_object() ? Document.find(PackageFormat::Class) : Document.end();
+		return Class != Document.end() && Class->is_string() ? FPackageFormat::Find(PackageJson::ToString(Class->get_ref<const std::string&>())) : nullptr;
+	}
+
 	void ReportUnresolved(const FString& File, UObject* Asset, const TArray<FJsonProblem>& Unresolved)
 	{
 		for (const FJsonProblem& Missing : Unresolved)
 		{
 			PackageJson::Report(File, Missing);
-			FPackageStorage::Get().MarkIncomplete(Asset, Missing.Pointer + TEXT(": ") + Missing.Message);
+		}
+		if (!Unresolved.IsEmpty())
+		{
+			FPackageStorage::Get().MarkIncomplete(Asset, Unresolved[0].Pointer + TEXT(": ") + Unresolved[0].Message);
 		}
 	}
 
@@ -62,9 +72,6 @@ namespace HostPackages
 		{
 			return nullptr;
 		}
-		std::string ClassText;
-		const bool bHasClass = PackageJson::ReadClass(Text, ClassText);
-		const FPackageFormat* Format = bHasClass ? FPackageFormat::Find(PackageJson::ToString(ClassText)) : nullptr;
 		FJson Document;
 		FJsonProblem Problem;
 		if (!PackageJson::Parse(Text, Document, Problem))
@@ -72,9 +79,9 @@ namespace HostPackages
 			PackageJson::Report(File, Problem);
 			return nullptr;
 		}
-		if (Format != nullptr)
+		if (const FPackageFormat* Format = FindFormat(Document))
 		{
-			return LoadByReader(Format->Reader, File, PackageName, Text);
+			return LoadByReader(Format->Reader, File, PackageName, Document);
 		}
 		FPackageReader Reader(PackageName, Document);
 		UPackage* Package = Reader.Read();

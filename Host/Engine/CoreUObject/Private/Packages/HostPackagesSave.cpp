@@ -58,18 +58,17 @@ namespace HostPackages
 	bool MakeText(const UPackage* Package, UObject* Asset, std::string& OutText)
 	{
 		const FPackageFormat* Format = FPackageFormat::Find(ClassPathOf(Asset));
+		FJson Document;
 		if (Format == nullptr)
 		{
-			return PackageJson::Print(PackageWriter::Write(Asset), OutText) ||
-				Refuse(Package->GetName(), TEXT("a text in it is not valid Unicode"), TEXT("Enter the text again."));
+			Document = PackageWriter::Write(Asset);
 		}
-		const TOptional<FString> Json = Format->Writer ? Format->Writer(Asset) : TOptional<FString>();
-		if (!Json.IsSet())
+		else if (!Format->Writer || !Format->Writer(Asset, Document))
 		{
 			return Refuse(Package->GetName(), TEXT("assets of this class are made from their files and not written back"), TEXT("Edit the file itself."));
 		}
-		OutText = PackageJson::FromString(Json.GetValue());
-		return true;
+		return PackageJson::Print(Document, OutText) ||
+			Refuse(Package->GetName(), TEXT("a text in it is not valid Unicode"), TEXT("Enter the text again."));
 	}
 
 	/** Where the package belongs; its old file when that has the right suffix, so that the case of its name stays. */
@@ -102,7 +101,7 @@ namespace HostPackages
 		{
 			HostFiles::Delete(OldFile); // an asset became a level, or the other way round: only one of them can have the name
 		}
-		FPackageStorage::Get().NoteChange();
+		FPackageStorage::Get().NoteWritten(File);
 		Package->SetDirtyFlag(false);
 		Report.WrittenFiles.Add(File);
 		return true;

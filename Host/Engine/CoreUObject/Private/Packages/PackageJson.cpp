@@ -5,7 +5,6 @@
 #include "HostProblems.h"
 
 #include <algorithm>
-#include <set>
 #include <vector>
 
 namespace PackageJson
@@ -24,35 +23,84 @@ namespace PackageJson
 		return static_cast<int32>(std::count(Text.begin(), End, '\n')) + 1;
 	}
 
-	/** Finds keys that occur twice, of which the parser itself would silently drop one. */
-	class FDuplicateKeys
+	/** Builds a document as it is parsed, each value once and in its place, and finds keys that occur twice in an object. */
+	class FDocumentBuilder final : public nlohmann::json_sax<FJson>
 	{
 	public:
-		void OnEvent(FJson::parse_event_t Event, const FJson& Value)
+		FDocumentBuilder(const std::string& InText, FJson& OutDocument)
+			: Text(InText)
+			, Next(&OutDocument)
 		{
-			switch (Event)
-			{
-				case FJson::parse_event_t::object_start:
-					Objects.emplace_back();
-					break;
-				case FJson::parse_event_t::object_end:
-					Objects.pop_back();
-					break;
-				case FJson::parse_event_t::key:
-					if (!Objects.back().insert(Value.get<std::string>()).second && Duplicate.empty())
-					{
-						Duplicate = Value.get<std::string>();
-					}
-					break;
-				default:
-					break;
-			}
 		}
 
-		std::string Duplicate; // the first one found; empty when there is none
+		FJsonProblem Problem; // why parsing ended early
+		TOptional<FString> Duplicate; // the first such key
+
+		//~ Begin json_sax
+		bool null() override { return Put(nullptr); }
+		bool boolean(bool bValue) override { return Put(bValue); }
+		bool number_integer(number_integer_t Value) override { return Put(Value); }
+		bool number_unsigned(number_unsigned_t Value) override { return Put(Value); }
+		bool number_float(number_float_t Value, const string_t&) override { return Put(Value); }
+		bool string(string_t& Value) override { return Put(Value); }
+		bool binary(binary_t&) override { return false; } // not in texts
+		bool start_object(std::size_t) override { return Enter(FJson::object()); }
+		bool key(string_t& Key) override
+		{
+			const auto [Member, bNew] = Open.back()->get_ref<FJson::object_t&>().emplace(Key, nullptr);
+			if (!bNew && !Duplicate.IsSet())
+			{
+				Duplicate = ToString(Key);
+			}
+			Next = &Member->second;
+			return true;
+		}
+		bool end_object() override { return Leave(); }
+		bool start_array(std::size_t) override { return Enter(FJson::array()); }
+		bool end_array() override { return Leave(); }
+		bool parse_error(std::size_t, const std::string&, const nlohmann::detail::exception& Error) override
+		{
+			const auto* Syntax = dynamic_cast<const FJson::parse_error*>(&Error);
+			Problem.Line = Syntax != nullptr ? LineOf(Text, Syntax->byte) : 0; // what no number can hold has no place
+			Problem.Message = FString(TEXT("not valid JSON: ")) + WithoutCode(Error.what());
+			Problem.Remedy = TEXT("Mend the file in a text editor or take it back from version control.");
+			return false;
+		}
+		//~ End json_sax
 
 	private:
-		std::vector<std::set<std::string>> Objects; // keys seen, of each open object
+		template<typename ValueType>
+		FJson& Place(ValueType&& Value)
+		{
+			if (!Open.empty() && Open.back()->is_array())
+			{
+				return Open.back()->get_ref<FJson::array_t&>().emplace_back(std::forward<ValueType>(Value));
+			}
+			return *Next = std::forward<ValueType>(Value);
+		}
+
+		template<typename ValueType>
+		bool Put(ValueType&& Value)
+		{
+			Place(std::forward<ValueType>(Value));
+			return true;
+		}
+
+		bool Enter(FJson&& Empty)
+		{
+			Open.push_back(&Place(std::move(Empty)));
+			return true;
+		}
+
+		bool Leave()
+		{
+			Open.pop_back();
+			return true;
+		}
+
+		const std::string& Text;
+		FJson* Next; // where the value goes that comes next, unless it is an element of an array
+		std::vector<FJson*> Open; // objects and arrays from the root down; they stay in place while something in them is open
 	};
 
 	/** Stops the parser as soon as the "Class" of the outermost object is known. */
@@ -124,32 +172,19 @@ FString FJsonPlace::ToString() const
 
 bool PackageJson::Parse(const std::string& Text, FJson& OutDocument, FJsonProblem& OutProblem)
 {
-	try
+	FDocumentBuilder Builder(Text, OutDocument);
+	if (!FJson::sax_parse(Text, &Builder))
 	{
-		FDuplicateKeys Keys;
-		OutDocument = FJson::parse(Text, [&Keys](int, FJson::parse_event_t Event, FJson& Value) {
-			Keys.OnEvent(Event, Value);
-			return true;
-		});
-		if (!Keys.Duplicate.empty())
-		{
-			OutProblem.Message = FString::Printf(TEXT("the key \"%s\" occurs twice in one object"), *ToString(Keys.Duplicate));
-			OutProblem.Remedy = TEXT("Keep one of the two; both versions of a merge may have been left in the file.");
-			return false;
-		}
-		return true;
+		OutProblem = Builder.Problem;
+		return false;
 	}
-	catch (const FJson::parse_error& Error)
+	if (Builder.Duplicate.IsSet())
 	{
-		OutProblem.Line = LineOf(Text, Error.byte);
-		OutProblem.Message = FString(TEXT("not valid JSON: ")) + WithoutCode(Error.what());
+		OutProblem.Message = FString::Printf(TEXT("the key \"%s\" occurs twice in one object"), **Builder.Duplicate);
+		OutProblem.Remedy = TEXT("Keep one of the two; both versions of a merge may have been left in the file.");
+		return false;
 	}
-	catch (const FJson::exception& Error)
-	{
-		OutProblem.Message = FString(TEXT("not valid JSON: ")) + WithoutCode(Error.what());
-	}
-	OutProblem.Remedy = TEXT("Mend the file in a text editor or take it back from version control.");
-	return false;
+	return true;
 }
 
 bool PackageJson::ReadClass(const std::string& Text, std::string& OutClass)

@@ -3,14 +3,12 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "HostJsonMembers.h"
 
 #include <cstddef>
 #include <string>
 
-#include <nlohmann/json.hpp>
-
-/** Members keep the order in which they were written, so that files stay diffable. */
-using FJson = nlohmann::ordered_json;
+using FJson = FHostJson;
 
 /** Where a value stands in its document. Lives on the stack of whoever descends into the document: a chain up to the root. */
 class FJsonPlace

@@ -39,7 +39,7 @@ void FPackageStorage::Mount(const FString& Root, const FString& Directory)
 	FMount NewMount;
 	NewMount.Root = Root.EndsWith(TEXT("/")) ? Root : Root + TEXT("/");
 	NewMount.Directory = Directory.EndsWith(TEXT("/")) ? Directory : Directory + TEXT("/");
-	NoteChange();
+	++Version;
 	for (FMount& Known : Mounts)
 	{
 		if (Known.Root == NewMount.Root)
@@ -140,6 +140,17 @@ FPackageStorage::FFound FPackageStorage::FindIgnoringCase(const FString& Stem) c
 		}
 	}
 	return FFound();
+}
+
+void FPackageStorage::NoteWritten(const FString& File)
+{
+	if (ListedVersion == Version)
+	{
+		// Listing all files again after each save would make saving many packages slow.
+		FilesByLowerCase.Add(File.ToLower(), File);
+		++ListedVersion;
+	}
+	++Version;
 }
 
 TArray<FString> FPackageStorage::ListFiles() const

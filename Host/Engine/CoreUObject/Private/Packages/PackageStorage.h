@@ -36,7 +36,9 @@ public:
 	TArray<FString> ListFiles() const;
 
 	uint64 GetVersion() const { return Version; }
-	void NoteChange() { ++Version; }
+
+	/** A package was written to this file. */
+	void NoteWritten(const FString& File);
 
 	/** Packages whose files are being read: their objects may be found before their values are in. */
 	TSet<FName> Loading;

@@ -12,7 +12,6 @@
 
 #include <charconv>
 #include <cmath>
-#include <vector>
 
 namespace PropertyWriter
 {
@@ -68,22 +67,21 @@ namespace PropertyWriter
 		return Name.IsEmpty() ? FJson(Value) : FromText(Name);
 	}
 
-	/** Own properties after those of the parents, each in order of declaration. */
-	std::vector<const FProperty*> StoredProperties(const UStruct* Struct)
+	/** Calls Function with each stored property: own ones after those of the parents, each in order of declaration. */
+	template<typename FunctionType>
+	void ForEachStoredProperty(const UStruct* Struct, FunctionType&& Function)
 	{
-		std::vector<const FProperty*> Properties;
 		if (Struct->GetSuperStruct() != nullptr)
 		{
-			Properties = StoredProperties(Struct->GetSuperStruct());
+			ForEachStoredProperty(Struct->GetSuperStruct(), Function);
 		}
 		for (const FProperty* Property : Struct->GetOwnProperties())
 		{
 			if (IsStoredInPackages(Property))
 			{
-				Properties.push_back(Property);
+				Function(Property);
 			}
 		}
-		return Properties;
 	}
 }
 
@@ -95,7 +93,10 @@ void FPropertyWriter::SetAlias(const UObject* From, const UObject* To)
 
 FJson FPropertyWriter::WriteDifferences(const UObject* Object, const UObject* Defaults)
 {
-	FPropertyWriter DefaultsWriter;
+	if (DefaultsWriter == nullptr)
+	{
+		DefaultsWriter = std::make_unique<FPropertyWriter>();
+	}
 	const UObject* AliasedDefaults = Defaults;
 	const UObject* AliasedObject = Object;
 	while (AliasedDefaults->GetOuter() != nullptr && !AliasedDefaults->GetOuter()->IsA<UPackage>() && AliasedObject->GetOuter() != nullptr)
@@ -103,18 +104,17 @@ FJson FPropertyWriter::WriteDifferences(const UObject* Object, const UObject* De
 		AliasedDefaults = AliasedDefaults->GetOuter();
 		AliasedObject = AliasedObject->GetOuter();
 	}
-	DefaultsWriter.SetAlias(AliasedDefaults, AliasedObject);
+	DefaultsWriter->SetAlias(AliasedDefaults, AliasedObject);
 
 	FJson Json = FJson::object();
-	for (const FProperty* Property : PropertyWriter::StoredProperties(Object->GetClass()))
-	{
+	PropertyWriter::ForEachStoredProperty(Object->GetClass(), [this, Object, Defaults, &Json](const FProperty* Property) {
 		FJson Value = WriteProperty(Property, Object);
 		const bool bHasDefault = Defaults->GetClass()->IsChildOf(Property->GetOwnerStruct());
-		if (!bHasDefault || Value != DefaultsWriter.WriteProperty(Property, Defaults))
+		if (!bHasDefault || Value != DefaultsWriter->WriteProperty(Property, Defaults))
 		{
 			Json[PackageJson::FromString(Property->GetName())] = MoveTemp(Value);
 		}
-	}
+	});
 	return Json;
 }
 
@@ -214,38 +214,36 @@ FJson FPropertyWriter::WriteStruct(const UScriptStruct* Struct, const void* Valu
 	{
 		return PropertyWriter::FromText(Format->Write(Value));
 	}
-	// A copy: values of the same struct type deeper down may enlarge the map of defaults.
-	const FJson Defaults = GetStructDefaults(Struct);
+	const FJson& Defaults = GetStructDefaults(Struct);
 	FJson Json = FJson::object();
-	for (const FProperty* Property : PropertyWriter::StoredProperties(Struct))
-	{
+	PropertyWriter::ForEachStoredProperty(Struct, [this, Value, &Defaults, &Json](const FProperty* Property) {
 		const std::string Name = PackageJson::FromString(Property->GetName());
 		FJson Field = WriteProperty(Property, Value);
-		if (Field != Defaults[Name])
+		if (Field != Defaults.at(Name))
 		{
 			Json[Name] = MoveTemp(Field);
 		}
-	}
+	});
 	return Json;
 }
 
 const FJson& FPropertyWriter::GetStructDefaults(const UScriptStruct* Struct)
 {
-	if (const FJson* Known = StructDefaults.Find(Struct))
+	const auto Known = StructDefaults.find(Struct);
+	if (Known != StructDefaults.end())
 	{
-		return *Known;
+		return Known->second;
 	}
 	const std::align_val_t Alignment{static_cast<size_t>(FMath::Max(Struct->GetMinAlignment(), 1))};
 	void* Fresh = ::operator new(static_cast<size_t>(FMath::Max(Struct->GetStructureSize(), 1)), Alignment);
 	Struct->InitializeStruct(Fresh);
 	FJson Defaults = FJson::object();
-	for (const FProperty* Property : PropertyWriter::StoredProperties(Struct))
-	{
+	PropertyWriter::ForEachStoredProperty(Struct, [this, Fresh, &Defaults](const FProperty* Property) {
 		Defaults[PackageJson::FromString(Property->GetName())] = WriteProperty(Property, Fresh);
-	}
+	});
 	Struct->DestroyStruct(Fresh);
 	::operator delete(Fresh, Alignment);
-	return StructDefaults.Add(Struct, MoveTemp(Defaults));
+	return StructDefaults.emplace(Struct, MoveTemp(Defaults)).first->second;
 }
 
 FJson FPropertyWriter::WriteArray(const FProperty* Property, const void* Value)

@@ -3,6 +3,9 @@
 #pragma once
 
 #include "PackageJson.h"
+
+#include <memory>
+#include <unordered_map>
 #include "Templates/Function.h"
 
 class FProperty;
@@ -45,5 +48,6 @@ private:
 	FOnReference OnReference;
 	const UObject* AliasFrom = nullptr;
 	const UObject* AliasTo = nullptr;
-	TMap<const UScriptStruct*, FJson> StructDefaults; // every stored field of a fresh value
+	std::unordered_map<const UScriptStruct*, FJson> StructDefaults; // every stored field of a fresh value; each stays in place
+	std::unique_ptr<FPropertyWriter> DefaultsWriter; // made when first needed
 };

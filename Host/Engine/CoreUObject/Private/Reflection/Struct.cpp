@@ -50,10 +50,7 @@ void UStruct::LinkProperties() const
 	}
 	for (FProperty* Property : AllProperties)
 	{
-		if (Property->ContainsObjectReference())
-		{
-			ReferenceProperties.Add(Property);
-		}
+		(Property->ContainsObjectReference() ? ReferenceProperties : PlainProperties).Add(Property);
 	}
 	bLinking = false;
 }
@@ -83,6 +80,15 @@ const TArray<FProperty*>& UStruct::GetReferenceProperties() const
 		LinkProperties();
 	}
 	return ReferenceProperties;
+}
+
+const TArray<FProperty*>& UStruct::GetPlainProperties() const
+{
+	if (!bLinked)
+	{
+		LinkProperties();
+	}
+	return PlainProperties;
 }
 
 bool UStruct::HoldsReferences() const

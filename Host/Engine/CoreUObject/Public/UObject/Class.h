@@ -114,6 +114,8 @@ public:
 	const TArray<FProperty*>& GetAllProperties() const;
 	/** Those of GetAllProperties() that can keep objects alive. */
 	const TArray<FProperty*>& GetReferenceProperties() const;
+	/** Those that cannot. */
+	const TArray<FProperty*>& GetPlainProperties() const;
 	/** Whether there are such; true for a type that is asked while it is being linked, as recursive ones are. */
 	bool HoldsReferences() const;
 	/** Own functions in declaration order; empty for all but classes. */
@@ -138,6 +140,7 @@ private:
 	mutable TArray<FProperty*> OwnProperties; // owned
 	mutable TArray<FProperty*> AllProperties;
 	mutable TArray<FProperty*> ReferenceProperties;
+	mutable TArray<FProperty*> PlainProperties;
 	int32 Depth = 0;
 	TArray<const UStruct*> Chain; // [0] is the root type, [Depth] this one
 };

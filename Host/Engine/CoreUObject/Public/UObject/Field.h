@@ -110,7 +110,7 @@ public:
 	template<typename T>
 	bool IsA() const
 	{
-		return GetClass()->IsChildOf(T::StaticClass());
+		return GetClass()->HasAnyCastFlags(T::StaticClassCastFlags());
 	}
 
 	FName GetFName() const { return NamePrivate; }

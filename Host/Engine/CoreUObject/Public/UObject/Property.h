@@ -17,6 +17,10 @@ class FReferenceCollector;
 public: \
 	using Super = TSuperClass; \
 	static FFieldClass* StaticClass(); \
+	static constexpr uint64 StaticClassCastFlags() \
+	{ \
+		return CASTCLASS_##TClass; \
+	} \
 	FFieldClass* GetClass() const override \
 	{ \
 		return StaticClass(); \

@@ -127,6 +127,11 @@ TSharedPtr<const FWidgetLayout> HostWidgetLayout::Read(const FString& Json, TArr
 	return FLayoutReader(OutProblems).Read(Json);
 }
 
+TSharedPtr<const FWidgetLayout> HostWidgetLayout::Read(const FHostJson& Json, TArray<FProblem>& OutProblems)
+{
+	return FLayoutReader(OutProblems).Read(Json);
+}
+
 UClass* HostWidgetLayout::GetParentClass(const FWidgetLayout& Layout)
 {
 	return Layout.ParentClass;

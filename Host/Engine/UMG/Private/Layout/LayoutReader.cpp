@@ -97,6 +97,11 @@ TSharedPtr<FWidgetLayout> FLayoutReader::Read(const FString& Text)
 		Complain(FString(), FString::Printf(TEXT("this is not JSON: %s"), *LayoutReader::ToString(Error.what())));
 		return nullptr;
 	}
+	return Read(Document);
+}
+
+TSharedPtr<FWidgetLayout> FLayoutReader::Read(const FJson& Document)
+{
 	if (!Document.is_object())
 	{
 		Complain(FString(), TEXT("a layout is a JSON object"));

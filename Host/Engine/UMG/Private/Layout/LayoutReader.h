@@ -2,19 +2,18 @@
 
 #pragma once
 
+#include "HostJsonMembers.h"
 #include "HostWidgetLayout.h"
 #include "Layout/LayoutTypes.h"
 
 #include <initializer_list>
 #include <string>
 
-#include <nlohmann/json.hpp>
-
 /** Reads one layout document. Goes on after a problem, so that one reading tells all of them. */
 class FLayoutReader
 {
 public:
-	using FJson = nlohmann::ordered_json;
+	using FJson = FHostJson;
 
 	explicit FLayoutReader(TArray<HostWidgetLayout::FProblem>& InProblems)
 		: Problems(InProblems)
@@ -22,6 +21,7 @@ public:
 	}
 
 	/** Null when there were problems. */
+	TSharedPtr<FWidgetLayout> Read(const FJson& Document);
 	TSharedPtr<FWidgetLayout> Read(const FString& Text);
 
 private:

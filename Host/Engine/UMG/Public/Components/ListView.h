@@ -46,7 +46,7 @@ public:
 	template<typename ItemObjectT>
 	void SetListItems(const TArray<ItemObjectT>& InListItems)
 	{
-		ListItems.Empty();
+		ListItems.Reset(InListItems.Num());
 		for (const ItemObjectT& Item : InListItems)
 		{
 			if (Item != nullptr)

@@ -1,0 +1,50 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "ServiceDataFile.h"
+
+#include "Misc/FileHelper.h"
+#include "Misc/Paths.h"
+#include "ServiceDataReader.h"
+
+const FServiceData* FServiceDataFile::Read(FString& OutError)
+{
+	return ReadData(OutError) && ReadPictures(OutError) ? &Data.GetValue() : nullptr;
+}
+
+bool FServiceDataFile::ReadData(FString& OutError)
+{
+	TArray<uint8> NewBytes;
+	if (!FFileHelper::LoadFileToArray(NewBytes, *Path))
+	{
+		OutError = FString::Printf(TEXT("%s: the file cannot be read"), *Path);
+		return false;
+	}
+	if (Data.IsSet() && NewBytes == Bytes)
+	{
+		return true;
+	}
+
+	FString Problem;
+	Bytes = MoveTemp(NewBytes);
+	Data = ServiceDataReader::Read(std::string_view(reinterpret_cast<const char*>(Bytes.GetData()), static_cast<size_t>(Bytes.Num())), FPaths::GetPath(Path), Problem);
+	if (!Data.IsSet())
+	{
+		OutError = FString::Printf(TEXT("%s: %s"), *Path, *Problem);
+	}
+	return Data.IsSet();
+}
+
+bool FServiceDataFile::ReadPictures(FString& OutError)
+{
+	TArray<FServiceUser>& Users = Data.GetValue().Users;
+	for (int32 Index = 0; Index < Users.Num(); ++Index)
+	{
+		FServiceUser& User = Users[Index];
+		if (!User.PictureFile.IsEmpty() && !FFileHelper::LoadFileToArray(User.LoginInfo.Picture.Data, *User.PictureFile))
+		{
+			OutError = FString::Printf(TEXT("%s: /users/%d/picture: the file %s cannot be read"), *Path, Index, *User.PictureFile);
+			return false;
+		}
+	}
+	return true;
+}
