@@ -121,6 +121,13 @@ TEST_F(ListDisplayerPanel, ShowsTheUnitGroupsOfASelectedProject)
 	EXPECT_EQ(ToUtf8(ListOf(Panel)->GetUnitGroupTargetName()), "");
 }
 
+TEST_F(ListDisplayerPanel, TakesAKeyCodeLongerThanAnyName)
+{
+	const FTestPanel Panel = MakePanel();
+	ClickRow(Panel, UListDisplayerItemBase::CreateListDisplayerItemBase(-1, FString::ChrN(NAME_SIZE + 100, TEXT('k')), TEXT("Long"), ELDIT_UnitGroup));
+	EXPECT_FALSE(ListOf(Panel)->IsUnitGroupTarget()) << "no unit group has that key code";
+}
+
 TEST_F(ListDisplayerPanel, ShowsNothingUntilAProjectIsSelected)
 {
 	StartEditor();

@@ -116,6 +116,20 @@ TEST_F(ProjectSelector, PreselectsTheProjectOfTheDefaultKey)
 	}
 }
 
+TEST_F(ProjectSelector, TakesNamesAndKeyCodesLongerThanAnyName)
+{
+	FTestPanel Panel = MakePanel();
+	Activate(Panel);
+	Wait(0.0);
+	FProject Long;
+	Long.ProjectName = FString::ChrN(NAME_SIZE + 100, TEXT('n'));
+	Long.KeyCode = FString::ChrN(NAME_SIZE + 100, TEXT('k'));
+	GetUser()->GetOnProjectsResponse().Broadcast(true, {Long});
+	Panel.Choose(TEXT("ProjectSelection"), *Long.ProjectName);
+	EXPECT_EQ(SelectedKeyCode(Panel), ToUtf8(Long.KeyCode));
+	EXPECT_EQ(ToUtf8(Panel.Get<UVlmEWProjectSelector>()->GetProjectByKeyCode(FName(*Long.KeyCode.Left(NAME_SIZE - 1))).ProjectName), ToUtf8(Long.ProjectName));
+}
+
 TEST_F(ProjectSelector, MakesTheChosenProjectTheUsersOwn)
 {
 	FTestPanel Panel = MakeFilledPanel();
