@@ -129,6 +129,23 @@ TEST_F(FWidgetLayoutRefusalTest, SaysWhatIsWrongWithEventsAndCalls)
 		{R"("Calls": {"Submit.OnTextChanged": []})", "/Calls/Submit.OnTextChanged: Button raises no event 'OnTextChanged'\n"},
 		{R"("Calls": {"Submit.OnClicked": [{"CallParent": true}]})", "/Calls/Submit.OnClicked/0: an action has a 'Set' or a 'Call'\n"},
 		{R"("Extra": 1)", "/Extra: this member is not known here\n"},
+		{R"("Objects": [])", "/Objects: objects are a JSON object: from a name to the value that leads to the object\n"},
+		{R"("Objects": {"status": "{self}"})", "/Objects/status: a widget is named 'status'; case does not tell them apart\n"},
+		{R"("Objects": {"A.B": "{self}"})", "/Objects/A.B: 'A.B' cannot be the name of an object\n"},
+		{R"("Objects": {"Book": "pier"})", "/Objects/Book: this leads to no object\n"},
+		{R"("Objects": {"Book": "{Status.Text}"})", "/Objects/Book: this leads to no object\n"},
+		{R"("Objects": {"Book": {"ResultOf": "GetGreeting"}})", "/Objects/Book: this leads to no object\n"},
+		{R"("Objects": {"Copy": "{Book.Copy}", "Book": {"ResultOf": "/Script/TestPanels.TestVisitorBook.GetBook"}})",
+			"/Objects/Copy: 'Book' is neither a parameter of the event nor a widget of the layout\n"},
+		{R"("Objects": {"Book": {"ResultOf": "/Script/TestPanels.TestVisitorBook.GetBook"}}, "Calls": {"Book.OnClicked": []})",
+			"/Calls/Book.OnClicked: TestVisitorBook raises no event 'OnClicked'\n"},
+		{R"("Events": {"Construct": [{"Set": "Status.Text", "To": {"ResultOf": "Note"}}]})", "/Events/Construct/0/To/ResultOf: 'Note' returns nothing\n"},
+		{R"("Events": {"Construct": [{"Set": "Status.Text", "To": {"ResultOf": "Dance"}}]})", "/Events/Construct/0/To/ResultOf: TestLoginPanel has no function 'Dance'\n"},
+		{R"("Events": {"Construct": [{"Set": "Status.Text", "To": {"ResultOf": "/Script/TestPanels.TestVisitorBook.MakeVisitor", "Member": "Nmae"}}]})",
+			"/Events/Construct/0/To: 'TestLoginInfo' of 'MakeVisitor.Nmae' has nothing called 'Nmae'\n"},
+		{R"("Events": {"Construct": [{"Set": "Status.Text", "To": {"ResultOf": "/Script/TestPanels.TestVisitorBook.MakeVisitor", "With": {"Visits": "many"}}}]})",
+			"/Events/Construct/0/To/With/Visits: 'many' is not a whole number\n"},
+		{R"("Properties": {"ToolTipText": {"ResultOf": "GetGreeting"}})", "/Properties/ToolTipText: what a function returns can be used in actions and in 'Objects' only\n"},
 	};
 	for (const FCase& Case : Cases)
 	{

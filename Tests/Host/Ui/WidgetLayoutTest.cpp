@@ -172,6 +172,57 @@ TEST_F(FWidgetLayoutTest, ACallGoesOnByWhatItReturned)
 	EXPECT_EQ(Panel->Happened, (TArray<FString>{TEXT("after 0"), TEXT("submit ada"), TEXT("kept 0"), TEXT("after 0"), TEXT("submit ada")}));
 }
 
+TEST_F(FWidgetLayoutTest, ObjectsThatAreNoWidgetsAreAskedAndHeardWhileThePanelShows)
+{
+	WriteLogin(R"("Objects": {
+			"Book": {"ResultOf": "/Script/TestPanels.TestVisitorBook.GetBook", "With": {"InWhere": "{UserName.Text}"}},
+			"Copy": "{Book.Copy}",
+			"Gone": "{Book.Nothing}"},
+		"Events": {"Construct": [{"Set": "Status.Text", "To": "{Copy.Place}{Gone.Place}"}]},
+		"Calls": {
+			"Copy.OnVisit": [{"Call": "Note", "With": {"InText": "{LoginInfo.Name} at {Book.Place}"}}],
+			"Gone.OnVisit": [{"Call": "Gone.Forget"}],
+			"Submit.OnClicked": [{"Call": "Gone.Forget", "With": {}}, {"Call": "Note", "With": {"InText": "still there"}}]},
+		"Properties": {"IsEnabled": true})");
+	ASSERT_NE(Open(), nullptr);
+	EXPECT_EQ(Read(TEXT("Status")), "");
+	HostSnapshot::Type(Root.ToSharedRef(), TEXT("UserName"), TEXT("the pier"));
+	const TStrongObjectPtr<UTestLoginPanel> Kept(Panel);
+	const auto Visit = [this] {
+		Panel->Happened.Empty();
+		GetMutableDefault<UTestVisitorBook>()->OnVisit.Broadcast(true, FTestLoginInfo{TEXT("Ada"), 1});
+		return Panel->Happened;
+	};
+	EXPECT_EQ(Visit(), TArray<FString>{TEXT("Ada at the pier 0")});
+	HostSnapshot::Click(Root.ToSharedRef(), TEXT("Sign in"));
+	EXPECT_EQ(Panel->Happened[1], TEXT("still there 0"));
+	Root.Reset();
+	EXPECT_EQ(Visit(), TArray<FString>()) << "off the screen";
+	Root = Panel->TakeWidget();
+	EXPECT_EQ(Read(TEXT("Status")), "the pier");
+	EXPECT_EQ(Visit(), TArray<FString>{TEXT("Ada at the pier 0")}) << "once";
+}
+
+TEST_F(FWidgetLayoutTest, ValuesCanBeWhatAFunctionReturns)
+{
+	const std::string Visitor = R"({"ResultOf": "/Script/TestPanels.TestVisitorBook.MakeVisitor", "With": {"Name": "{UserName.Text}", "Visits": 7})";
+	WriteLogin(R"("Calls": {"Submit.OnClicked": [
+			{"Call": "OnVisitorChanged", "With": {"Count": 2, "Visitor": )" +
+		Visitor + R"(}}},
+			{"When": {"Value": )" +
+		Visitor + R"(, "Member": "Name"}, "Is": "ada"}, "Call": "Note", "With": {"InText": {"ResultOf": "GetGreeting"}}}]},
+		"Events": {"OnVisitorChanged": [{"Set": "Status.Text", "To": "{Visitor.Name}, {Visitor.Visits}"}]})");
+	ASSERT_NE(Open(), nullptr);
+	Panel->Happened.Empty();
+	for (const TCHAR* Name : {TEXT("eve"), TEXT("ada")})
+	{
+		HostSnapshot::Type(Root.ToSharedRef(), TEXT("UserName"), Name);
+		HostSnapshot::Click(Root.ToSharedRef(), TEXT("Sign in"));
+	}
+	EXPECT_EQ(Read(TEXT("Status")), "ada, 7");
+	EXPECT_EQ(Panel->Happened, (TArray<FString>{TEXT("submit eve"), TEXT("Ahoy 0"), TEXT("submit ada")}));
+}
+
 TEST_F(FWidgetLayoutTest, ActionsThatRaiseTheirOwnEventAreStopped)
 {
 	WriteLogin(R"("Events": {
