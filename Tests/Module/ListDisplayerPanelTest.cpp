@@ -144,7 +144,7 @@ TEST_F(ListDisplayerPanel, ShowsNothingUntilAProjectIsSelected)
 	Activate(Panel);
 	EXPECT_THAT(Panel.TakeEvents(), IsEmpty());
 	SelectProject(TEXT("HT"));
-	EXPECT_THAT(Panel.TakeEvents(), ElementsAre("OnSelectionTypeChange(ELDIT_UnitGroup)", "OnListCountChange(2)"));
+	EXPECT_THAT(Panel.TakeEvents(), ElementsAre("OnSelectionTypeChange(ELDIT_UnitGroup)", "OnListCountChange(0)", "OnSelectionTypeChange(ELDIT_UnitGroup)", "OnListCountChange(2)"));
 	EXPECT_THAT(Rows(Panel), TwoTowers);
 }
 

@@ -245,7 +245,7 @@ TEST_F(ProjectSelector, CopiesTheKeyOfTheSelectedProject)
 
 TEST_F(ProjectSelector, WritesTheDefaultKeyAndNothingElseIntoTheProject)
 {
-	const std::string Before = "; by hand\r\n[/Script/EngineSettings.GeneralProjectSettings]\r\nProjectName=Harbor Tower\r\n\r\n[/Script/VelmorantSDK.VelmorantSDKSettings]\r\nApiKey=old\r\nServiceDataFile=\r\n[Other]\r\n+A=1\r\n+A=1\r\n";
+	const std::string Before = "; by hand\r\n[/Script/EngineSettings.GeneralProjectSettings]\r\nProjectName=Harbor Tower\r\n\r\n[/Script/VelmorantSDK.VelmorantSDKSettings]\r\nApiKey=old\r\nServiceDataFile=\r\nRequestTimeoutSeconds=30.000000\r\n[Other]\r\n+A=1\r\n+A=1\r\n";
 	WriteProjectFile(GameIni, Before);
 	FTestPanel Panel = MakeFilledPanel();
 	TakeModuleLog();
@@ -290,7 +290,7 @@ TEST_F(ProjectSelector, FetchesAProjectAnewOnlyWhenToldTo)
 	FTestPanel Panel = MakeFilledPanel();
 	int32 NumFetched = 0;
 	GetRequests()->GetOnUpdateRequest().AddLambda([&NumFetched](EUpdateRequestDataType DataType, EUpdateRequestType) {
-		NumFetched += DataType == EUpdateRequestDataType::ProjectData ? 1 : 0;
+		NumFetched += DataType == EUpdateRequestDataType::ProjectData && GetRequests()->HasProjectData() ? 1 : 0;
 	});
 	const auto ChooseAgain = [&Panel, this] {
 		Panel.Choose(TEXT("ProjectSelection"), TEXT("No Selection"));

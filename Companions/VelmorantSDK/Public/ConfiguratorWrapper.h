@@ -15,6 +15,7 @@ class VELMORANTSDK_API UConfiguratorWrapper : public UObject
 	GENERATED_BODY()
 
 public:
+	UFUNCTION(BlueprintPure, Category = "Velmorant|Configurator")
 	FName GetConfiguratorName() const { return ConfiguratorName; }
 
 	/** The unit records by configurator name. */
