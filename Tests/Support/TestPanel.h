@@ -57,6 +57,9 @@ public:
 	std::string Read(const TCHAR* Widget) const;
 	std::vector<std::string> Options(const TCHAR* Widget) const;
 
+	/** All that they see, a widget a line. */
+	std::string Snapshot() const { return TCHAR_TO_UTF8(*HostSnapshot::Take(Screen.ToSharedRef())); }
+
 	/** Events since the last call. */
 	std::vector<std::string> TakeEvents();
 

@@ -342,6 +342,33 @@ TEST_F(FWidgetLayoutTest, RowsOfAListAreEntriesOfALayout)
 	EXPECT_EQ(List->GetSelectedItem(), Items[1]);
 }
 
+TEST_F(FWidgetLayoutTest, ARowOfSeveralTextsIsMeantByAnyOfThem)
+{
+	WriteLayout("Entry", R"("ParentClass": "/Script/TestPanels.TestListEntry",
+		"Tree": {"Class": "HorizontalBox", "Children": [{"Class": "TextBlock", "Properties": {"Text": "Wood"}}, {"Class": "TextBlock", "Name": "Label"}, {"Class": "ListView", "Name": "Inner"}]},
+		"Events": {"OnListItemObjectSet": [{"Set": "Label.Text", "To": "{ListItemObject.DisplayName}"}, {"Call": "Inner.AddItem", "With": {"Item": "{ListItemObject}"}}]})");
+	WriteLogin(R"("Calls": {"Items.BP_OnItemClicked": [{"Call": "Note", "With": {"InText": "{Item.DisplayName}, {Items.BP_GetSelectedItem.DisplayName}"}}]})",
+		R"(, {"Class": "ListView", "Name": "Items", "Properties": {"EntryWidgetClass": "/Game/Entry"}})");
+	ASSERT_NE(Open(), nullptr);
+	TArray<UTestListItem*> Items;
+	for (const TCHAR* Name : {TEXT("Oak"), TEXT("Ash"), TEXT("Elm")})
+	{
+		Items.Add(NewObject<UTestListItem>());
+		Items.Last()->DisplayName = Name;
+	}
+	Cast<UListView>(Panel->GetWidgetFromName(FName(TEXT("Items"))))->SetListItems(Items);
+	Wait();
+	Wait(); // the lists within the rows
+	EXPECT_EQ(Refusal(HostSnapshot::Choose(Root.ToSharedRef(), TEXT("Items"), TEXT("Ash"))), "");
+	EXPECT_EQ(Panel->Happened.Last(), TEXT("Ash, Ash 0"));
+	EXPECT_EQ(Refusal(HostSnapshot::Choose(Root.ToSharedRef(), TEXT("Items"), TEXT("Wood Oak Oak"))), "") << "the whole row";
+	EXPECT_EQ(Panel->Happened.Last(), TEXT("Oak, Oak 0"));
+	EXPECT_EQ(Refusal(HostSnapshot::Choose(Root.ToSharedRef(), TEXT("Items"), TEXT("Oa"))), "The list \"Items\" has no item \"Oa\".");
+	EXPECT_EQ(Refusal(HostSnapshot::Click(Root.ToSharedRef(), TEXT("Items/Wood Elm Elm"))), "");
+	EXPECT_EQ(Panel->Happened.Last(), TEXT("Elm, Elm 0"));
+	EXPECT_NE(Refusal(HostSnapshot::Click(Root.ToSharedRef(), TEXT("Wood"))), "") << "all rows have it";
+}
+
 TEST_F(FWidgetLayoutTest, AClosedPanelIsCollectedAndItsClassLivesOnWithItsAsset)
 {
 	WriteLogin("");

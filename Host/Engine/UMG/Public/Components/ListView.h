@@ -80,6 +80,10 @@ private:
 	UFUNCTION(BlueprintCallable, Category = "ListView", meta = (DisplayName = "Set List Items", AllowPrivateAccess = "true"))
 	void BP_SetListItems(const TArray<UObject*>& InListItems);
 
+	/** GetSelectedItem() for Blueprints. */
+	UFUNCTION(BlueprintCallable, Category = "ListView", meta = (DisplayName = "Get Selected Item", AllowPrivateAccess = "true"))
+	UObject* BP_GetSelectedItem() const { return GetSelectedItem(); }
+
 	TSharedPtr<SListView<UObject*>> GetList() const;
 	TSharedRef<SWidget> MakeEntry(UObject* Item);
 
