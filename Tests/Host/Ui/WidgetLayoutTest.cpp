@@ -223,6 +223,21 @@ TEST_F(FWidgetLayoutTest, ValuesCanBeWhatAFunctionReturns)
 	EXPECT_EQ(Panel->Happened, (TArray<FString>{TEXT("submit eve"), TEXT("Ahoy 0"), TEXT("submit ada")}));
 }
 
+TEST_F(FWidgetLayoutTest, ALayoutsOwnFunctionsAreCalledLikeThoseOfThePanel)
+{
+	WriteLogin(R"("Functions": {
+			"Greet": [{"Set": "Status.Text", "To": "Hello {UserName.Text}"}, {"Call": "Tell"}],
+			"Tell": [{"Call": "Note", "With": {"InText": "{Status.Text}"}}]},
+		"Events": {"OnMoodChanged": [{"Call": "Greet"}]},
+		"Calls": {"Submit.OnClicked": [{"Call": "Greet", "With": {}}]})");
+	ASSERT_NE(Open(), nullptr);
+	Panel->Happened.Empty();
+	HostSnapshot::Type(Root.ToSharedRef(), TEXT("UserName"), TEXT("ada"));
+	HostSnapshot::Click(Root.ToSharedRef(), TEXT("Sign in"));
+	Panel->OnMoodChanged(ETestMood::Busy);
+	EXPECT_EQ(Panel->Happened, (TArray<FString>{TEXT("Hello ada 0"), TEXT("submit ada"), TEXT("Hello ada 0")}));
+}
+
 TEST_F(FWidgetLayoutTest, ActionsThatRaiseTheirOwnEventAreStopped)
 {
 	WriteLogin(R"("Events": {

@@ -188,9 +188,12 @@ UWidgetBlueprintGeneratedClass* HostWidgetLayout::MakeClass(const TSharedRef<con
 	UWidgetBlueprintGeneratedClass* LayoutClass = CastChecked<UWidgetBlueprintGeneratedClass>(Class);
 	LayoutClass->ClassFlags = static_cast<EClassFlags>(LayoutClass->ClassFlags & ~CLASS_Abstract);
 	LayoutClass->SetLayout(Layout);
-	for (const FLayoutEvent& Event : Layout->Events)
+	for (const TArray<FLayoutEvent>* Scripts : {&Layout->Functions, &Layout->Events})
 	{
-		HostObjects::AddScriptFunction(Class, Event.Name, WidgetLayoutClass::ScriptOf(Layout, Event.Actions));
+		for (const FLayoutEvent& Script : *Scripts)
+		{
+			HostObjects::AddScriptFunction(Class, Script.Name, WidgetLayoutClass::ScriptOf(Layout, Script.Actions));
+		}
 	}
 	for (const FLayoutCall& Call : Layout->Calls)
 	{

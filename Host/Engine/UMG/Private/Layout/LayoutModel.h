@@ -147,6 +147,7 @@ struct FWidgetLayout
 	TArray<FLayoutAssignment> Properties; // of the panel
 	FLayoutWidget Tree;
 	TArray<FLayoutObject> Objects; // each knows those before it
+	TArray<FLayoutEvent> Functions; // of the layout's own, without parameters
 	TArray<FLayoutEvent> Events;
 	TArray<FLayoutCall> Calls;
 	TArray<TStrongObjectPtr<UClass>> UsedClasses; // those of widget blueprints would go otherwise

@@ -102,7 +102,7 @@ TSharedPtr<FWidgetLayout> FLayoutReader::Read(const FString& Text)
 		return nullptr;
 	}
 	Layout = MakeShared<FWidgetLayout>();
-	CheckKeys(Document, FString(), {"Class", "Comment", "ParentClass", "Properties", "Tree", "Objects", "Events", "Calls"});
+	CheckKeys(Document, FString(), {"Class", "Comment", "ParentClass", "Properties", "Tree", "Objects", "Functions", "Events", "Calls"});
 	if (!ReadParentClass(Document))
 	{
 		return nullptr;
@@ -116,9 +116,11 @@ TSharedPtr<FWidgetLayout> FLayoutReader::Read(const FString& Text)
 		CheckWidgetValues(Layout->Tree);
 		bTreeIsKnown = true;
 		ReadObjects(Document);
+		ReadFunctionNames(Document);
 	}
 	if (Problems.Num() == 0)
 	{
+		ReadFunctions(Document);
 		ReadEvents(Document);
 		ReadCalls(Document);
 	}
@@ -220,6 +222,46 @@ bool FLayoutReader::ReadObject(const std::string& Name, const FJson& Json, FLayo
 		Complain(Pointer, Reason);
 	}
 	return OutObject.Class != nullptr;
+}
+
+void FLayoutReader::ReadFunctionNames(const FJson& Document)
+{
+	const FJson* Functions = LayoutReader::Find(Document, "Functions");
+	if (!Functions)
+	{
+		return;
+	}
+	if (!Functions->is_object())
+	{
+		Complain(TEXT("/Functions"), TEXT("functions are a JSON object: from a name to a list of actions"));
+		return;
+	}
+	for (const auto& Member : Functions->items())
+	{
+		const FString Pointer = LayoutPointer::Child(TEXT("/Functions"), Member.key());
+		const FString Name = LayoutReader::ToString(Member.key());
+		if (!CanBeNamed(Name))
+		{
+			Complain(Pointer, FString::Printf(TEXT("'%s' cannot be the name of a function"), *Name));
+			continue;
+		}
+		if (Scratch->FindFunctionByName(FName(*Name)))
+		{
+			Complain(Pointer, FString::Printf(TEXT("panel %s has a '%s' of its own"), *Layout->ParentClass->GetName(), *Name));
+			continue;
+		}
+		HostObjects::AddScriptFunction(Scratch, FName(*Name), nullptr);
+		Layout->Functions.Add({FName(*Name), {}});
+	}
+}
+
+void FLayoutReader::ReadFunctions(const FJson& Document)
+{
+	for (FLayoutEvent& Function : Layout->Functions)
+	{
+		const std::string Name = TCHAR_TO_UTF8(*Function.Name.ToString());
+		Function.Actions = ReadActions(Document["Functions"][Name], LayoutPointer::Child(TEXT("/Functions"), Name), *Scratch->FindFunctionByName(Function.Name), false);
+	}
 }
 
 void FLayoutReader::ReadEvents(const FJson& Document)

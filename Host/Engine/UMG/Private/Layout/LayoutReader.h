@@ -30,6 +30,9 @@ private:
 	void ReadTree(const FJson& Document);
 	void CheckBindings();
 	void ReadObjects(const FJson& Document);
+	/** All names first: functions may call each other. */
+	void ReadFunctionNames(const FJson& Document);
+	void ReadFunctions(const FJson& Document);
 	bool ReadObject(const std::string& Name, const FJson& Json, FLayoutObject& OutObject);
 	void ReadEvents(const FJson& Document);
 	void ReadCalls(const FJson& Document);

@@ -116,6 +116,10 @@ UFunction* FLayoutReader::ReadFunction(const FJson& Json, const char* Key, const
 	const FString Text = ScalarText(Json[Key]).Get(FString());
 	UClass* Class = Text.StartsWith(TEXT("/")) ? ReadLibrary(Text, CallPointer, OutCall) : ReadTarget(Json[Key], CallPointer, OutCall.Target, OutCall.Function);
 	UFunction* Function = Class ? Class->FindFunctionByName(OutCall.Function) : nullptr;
+	if (!Function && Class == Layout->ParentClass && OutCall.Target.IsNone())
+	{
+		Function = Scratch->FindFunctionByName(OutCall.Function); // one of the layout's own
+	}
 	if (Class && !Function)
 	{
 		Complain(CallPointer, FString::Printf(TEXT("%s has no function '%s'"), *Class->GetName(), *OutCall.Function.ToString()));

@@ -168,6 +168,27 @@ namespace LayoutValues
 		return bFits;
 	}
 
+	/** An array of objects into an array of any of their classes. */
+	static bool PassObjects(const FDatum& Datum, const FProperty& Property, void* Dest)
+	{
+		const FArrayProperty* From = Datum.Property ? CastField<FArrayProperty>(Datum.Property) : nullptr;
+		const FArrayProperty* To = CastField<FArrayProperty>(&Property);
+		const FObjectPropertyBase* Given = From ? CastField<FObjectPropertyBase>(From->Inner) : nullptr;
+		const FObjectPropertyBase* Wanted = To ? CastField<FObjectPropertyBase>(To->Inner) : nullptr;
+		if (!Given || !Wanted || !Given->PropertyClass->IsChildOf(Wanted->PropertyClass))
+		{
+			return false;
+		}
+		FScriptArrayHelper Source(From, Datum.Value);
+		FScriptArrayHelper Target(To, Dest);
+		Target.Resize(Source.Num());
+		for (int32 Index = 0; Index < Source.Num(); ++Index)
+		{
+			Wanted->SetObjectPropertyValue(Target.GetElementPtr(Index), Given->GetObjectPropertyValue(Source.GetElementPtr(Index)));
+		}
+		return true;
+	}
+
 	/** Passes a value on with its type. False when the types differ: its text may still do. */
 	static bool Pass(const FDatum& Datum, const FProperty& Property, void* Dest)
 	{
@@ -175,6 +196,10 @@ namespace LayoutValues
 		if (Object && (!Datum.Object || Datum.Object->IsA(Object->PropertyClass)))
 		{
 			Object->SetObjectPropertyValue(Dest, Datum.Object);
+			return true;
+		}
+		if (PassObjects(Datum, Property, Dest))
+		{
 			return true;
 		}
 		const bool bSame = Datum.Property && LayoutTypes::IsSameType(*Datum.Property, Property);
