@@ -95,11 +95,14 @@ void UVelmorantUser::BeginSession(const FVelmorantLoginAnswer& Answer, const FSt
 		return false; // once
 	}),
 		static_cast<float>(Answer.TokenSeconds));
-	const bool bOtherAccount = !Account.IsEmpty() && Account != UserName;
-	Account = UserName;
-	if (bOtherAccount)
+	if (Account != UserName) // letter case does not make another account
 	{
-		HandleAccountLeft();
+		const bool bLeft = !Account.IsEmpty();
+		Account = UserName;
+		if (bLeft)
+		{
+			HandleAccountLeft();
+		}
 	}
 	HandleLoggedIn();
 	OnSessionChanged.Broadcast();

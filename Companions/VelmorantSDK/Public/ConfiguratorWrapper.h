@@ -24,6 +24,10 @@ public:
 	/** The unit groups that the configurator applies to, in the service's order. */
 	const TArray<FVelmorantConfiguratorUnitGroup>& GetConfigtorUnitGroupCollection() const { return UnitGroupCollection; }
 
+	/** The names of those unit groups, for people. */
+	UFUNCTION(BlueprintPure, Category = "Velmorant|Configurator")
+	FString GetUnitGroupNames() const;
+
 	/**
 	 * Asks the service to refresh this configurator.
 	 * The request manager's update event tells when the data has arrived, never within this call.
