@@ -410,6 +410,10 @@ TEST_F(DeveloperPanel, MakesADataAssetOfTheConfiguratorThatIsClicked)
 	Wait(0.0);
 	Tab.Choose(TEXT("ConfiguratorList"), TEXT("Loft"));
 	EXPECT_EQ(Tab.Read(TEXT("CreateAsset")), "Create a data asset of Loft");
+	Tab.Click(TEXT("HomeButton"));
+	EXPECT_FALSE(IsEnabled(Tab, TEXT("CreateAsset")));
+	EXPECT_THAT(Tab.Snapshot(), Not(HasSubstr("item (selected)"))) << "listed anew, none is chosen";
+	Tab.Choose(TEXT("ConfiguratorList"), TEXT("Loft"));
 	TakeOutcomes();
 	Tab.Click(TEXT("CreateAsset"));
 	Tab.Click(TEXT("CreateAsset"));

@@ -84,6 +84,9 @@ private:
 	UFUNCTION(BlueprintCallable, Category = "ListView", meta = (DisplayName = "Get Selected Item", AllowPrivateAccess = "true"))
 	UObject* BP_GetSelectedItem() const { return GetSelectedItem(); }
 
+	UFUNCTION(BlueprintCallable, Category = "ListView", meta = (DisplayName = "Clear Selection", AllowPrivateAccess = "true"))
+	void BP_ClearSelection() { SetSelectedItem(nullptr); }
+
 	TSharedPtr<SListView<UObject*>> GetList() const;
 	TSharedRef<SWidget> MakeEntry(UObject* Item);
 
