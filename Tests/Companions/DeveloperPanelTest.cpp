@@ -320,6 +320,24 @@ TEST_F(DeveloperPanel, AFailedProjectListSaysSoBesideTheOldOne)
 	EXPECT_THAT(Rows(Tab), ElementsAre("QV-P Pier"));
 }
 
+TEST_F(DeveloperPanel, ALateAnswerForTheAccountBeforeSaysNothingToTheNext)
+{
+	WriteService(TwoAccounts(R"("delaySeconds": 2,)"));
+	StartEditor();
+	FTestTab Tab = Open();
+	Click(Tab, TEXT("ada"), TEXT("sesame-77"));
+	Wait(2.1); // her projects are asked for
+	WriteService(TwoAccounts());
+	SignIn(Tab, TEXT("eve"), TEXT("sesame-78"));
+	for (int32 Time = 0; Time < 2; ++Time)
+	{
+		EXPECT_EQ(Tab.Read(TEXT("ProjectsStatus")), "");
+		EXPECT_THAT(Tab.Options(TEXT("ProjectSelection")), ElementsAre("No Selection", "Eve's Garden"));
+		EXPECT_EQ(Tab.Read(TEXT("LoginStatus")), "Signed in as eve");
+		Wait(2.1);
+	}
+}
+
 TEST_F(DeveloperPanel, ProjectsAreChosenByKeyCodeAndTheirKeysUsedOnlyWhenTheyHaveOne)
 {
 	FTestTab Tab = OpenAndSignIn();

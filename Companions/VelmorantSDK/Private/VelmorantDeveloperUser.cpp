@@ -73,11 +73,9 @@ void UVelmorantDeveloperUser::RequestEditorUserProjects()
 		}
 		else if (This)
 		{
-			// An answer for an account that was left meanwhile still ends the request, but as a failed one. The same account may have
-			// signed in once more: its projects are the same.
-			FVelmorantProjectsAnswer GivenUp;
-			GivenUp.Failure = EVelmorantFailure::GivenUp;
-			This->ReceiveProjects(GivenUp);
+			// An answer for an account that was left meanwhile still ends the request, but as a failed one. It says nothing of the
+			// requests of the next account.
+			This->OnProjectsResponse.Broadcast(false, {});
 		}
 	});
 }
