@@ -345,6 +345,7 @@ TEST_F(DeveloperPanel, ProjectsAreChosenByKeyCodeAndTheirKeysUsedOnlyWhenTheyHav
 	EXPECT_FALSE(IsEnabled(Tab, TEXT("CopyApyKey")));
 	Tab.Type(TEXT("FindByKeyCode"), TEXT("qv"));
 	EXPECT_EQ(Tab.Read(TEXT("ProjectSelection")), "Quay View");
+	EXPECT_EQ(Tab.Read(TEXT("FindByKeyCode")), "") << "committed once more later, it must not choose again";
 	EXPECT_EQ(Tab.Read(TEXT("ProjectsStatus")), "");
 	EXPECT_TRUE(IsEnabled(Tab, TEXT("SetAsDefault")));
 	Tab.Click(TEXT("CopyApyKey"));
