@@ -93,10 +93,14 @@ TEST_F(ProjectData, IsToldWhenItHasArrived)
 	GetUser()->SetSelectedProject(GetUser()->GetEditorUserProjects()[0], false);
 	EXPECT_EQ(ToUtf8(Project().GetProjectData().ProjectName), "Harbor Tower") << "name and key are there at once";
 	EXPECT_THAT(UnitGroupNames(), IsEmpty());
-	EXPECT_THAT(Updates, IsEmpty());
+	EXPECT_THAT(Updates, ElementsAre(5)) << "told as new data: none, so far";
+	EXPECT_TRUE(GetRequests()->IsRequestingProjectData());
+	EXPECT_FALSE(GetRequests()->HasProjectData());
 	Wait(0.0);
-	EXPECT_THAT(Updates, ElementsAre(5));
+	EXPECT_THAT(Updates, ElementsAre(5, 5));
 	EXPECT_THAT(UnitGroupNames(), ElementsAre("Tower 2", "Tower 1"));
+	EXPECT_FALSE(GetRequests()->IsRequestingProjectData());
+	EXPECT_TRUE(GetRequests()->HasProjectData());
 }
 
 TEST_F(ProjectData, OfAProjectThatWasLeftMeanwhileIsDropped)
@@ -109,7 +113,7 @@ TEST_F(ProjectData, OfAProjectThatWasLeftMeanwhileIsDropped)
 	GetRequests()->RequestConfigurator("Tower", EUpdateRequestType::Get);
 	GetUser()->SetSelectedProject(Projects[1], false);
 	Wait(0.0);
-	EXPECT_THAT(Updates, ElementsAre(5)) << "only the last selection's answer counts";
+	EXPECT_THAT(Updates, ElementsAre(5, 5, 5, 5)) << "three other projects; only the last one's answer counts";
 	EXPECT_THAT(UnitGroupNames(), ElementsAre("Quay"));
 }
 
@@ -142,6 +146,38 @@ TEST_F(ProjectData, SelectedAgainIsNotFetchedAgain)
 	GetUser()->SetSelectedProject(Same, true);
 	Wait(0.0);
 	EXPECT_THAT(Updates, ElementsAre(5));
+}
+
+TEST_F(ProjectData, ThatCouldNotBeFetchedIsAskedForAgain)
+{
+	StartWithProject();
+	const TArray<FProject> Projects = GetUser()->GetEditorUserProjects();
+	const std::string Sound = ReadProjectFile("Service.json");
+	const std::string Failing = R"({"failingRequests": ["projectData"], )" + Sound.substr(1);
+	WriteService(Failing);
+	GetUser()->SetSelectedProject(Projects[1], false);
+	Wait(0.0);
+	EXPECT_FALSE(GetRequests()->HasProjectData());
+	Listen();
+	GetUser()->SetSelectedProject(Projects[1], false); // chosen again
+	GetUser()->SetSelectedProject(Projects[1], false); // once more, while the answer is on its way
+	Wait(0.0);
+	EXPECT_THAT(Updates, ElementsAre(0)) << "asked again, once, and failed again";
+
+	WriteService(Sound);
+	GetRequests()->RefreshProject();
+	GetRequests()->RefreshProject();
+	EXPECT_EQ(ToUtf8(GetRequests()->GetProjectDataFailureText()), "") << "nothing is known of this request";
+	Wait(0.0);
+	EXPECT_THAT(Updates, ElementsAre(0, 5));
+	EXPECT_THAT(UnitGroupNames(), ElementsAre("Quay"));
+
+	WriteService(Failing);
+	GetRequests()->RefreshProject();
+	Wait(0.0);
+	EXPECT_THAT(UnitGroupNames(), ElementsAre("Quay")) << "what is there stays";
+	EXPECT_TRUE(GetRequests()->HasProjectData());
+	EXPECT_NE(ToUtf8(GetRequests()->GetProjectDataFailureText()), "");
 }
 
 TEST_F(ProjectData, OfOneConfiguratorIsRefreshedAlone)

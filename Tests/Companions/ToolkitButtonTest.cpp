@@ -4,6 +4,8 @@
 #include "ToolkitTest.h"
 #include "VlmButton.h"
 
+using testing::HasSubstr;
+
 namespace
 {
 	const char* const Layout = R"({
@@ -39,9 +41,11 @@ TEST_F(ToolkitButton, StaysSelectedUntilClickedAgain)
 	FTestPanel Panel(Layout, {});
 	Panel.Show();
 	const UVlmButton* Button = Panel.Find<UVlmButton>(TEXT("Toggle"));
+	EXPECT_THAT(Panel.Snapshot(), HasSubstr("button Toggle [Units]\n"));
 	Panel.Click(TEXT("Toggle"));
 	EXPECT_TRUE(Button->IsButtonSelected());
 	EXPECT_EQ(Panel.Read(TEXT("ProjectName")), "true");
+	EXPECT_THAT(Panel.Snapshot(), HasSubstr("button Toggle [Units] (selected)\n")) << "a person sees it";
 	Panel.Click(TEXT("Toggle"));
 	EXPECT_FALSE(Button->IsButtonSelected());
 	EXPECT_EQ(Panel.Read(TEXT("ProjectName")), "false");
@@ -57,6 +61,7 @@ TEST_F(ToolkitButton, TellsOnlyOfChangesItIsAskedToTell)
 	UVlmButton* Button = Panel.Find<UVlmButton>(TEXT("Toggle"));
 	Button->SetSelectionState(true, false);
 	EXPECT_TRUE(Button->IsButtonSelected());
+	EXPECT_THAT(Panel.Snapshot(), HasSubstr("(selected)"));
 	EXPECT_EQ(Panel.Read(TEXT("ProjectName")), "") << "quietly";
 	Button->SetSelectionState(true, true);
 	EXPECT_EQ(Panel.Read(TEXT("ProjectName")), "") << "nothing has changed";

@@ -32,7 +32,7 @@ TEST_F(FIconScripts, TheSampleHasIconsAndColoursOfItsOwn)
 		"expect no icon HarborIcons submarine\n"
 		"expect property actor:VlmInteractiveSpot BackgroundColor.ColorID Primary\n"
 		"expect property /Game/UI/HarborStyle SimpleColors.Num 6\n"
-		"expect property /Game/UI/HarborStyle StyleColors.Num 5\n"
+		"expect property /Game/UI/HarborStyle StyleColors.Num 6\n"
 		"expect no unsaved\n");
 	EXPECT_NE(Result.Output.find("HarborIcons: 30 icons (Regular, Bold)"), std::string::npos) << Result.Output;
 }

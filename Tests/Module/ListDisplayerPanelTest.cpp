@@ -121,6 +121,13 @@ TEST_F(ListDisplayerPanel, ShowsTheUnitGroupsOfASelectedProject)
 	EXPECT_EQ(ToUtf8(ListOf(Panel)->GetUnitGroupTargetName()), "");
 }
 
+TEST_F(ListDisplayerPanel, TakesAKeyCodeLongerThanAnyName)
+{
+	const FTestPanel Panel = MakePanel();
+	ClickRow(Panel, UListDisplayerItemBase::CreateListDisplayerItemBase(-1, FString::ChrN(NAME_SIZE + 100, TEXT('k')), TEXT("Long"), ELDIT_UnitGroup));
+	EXPECT_FALSE(ListOf(Panel)->IsUnitGroupTarget()) << "no unit group has that key code";
+}
+
 TEST_F(ListDisplayerPanel, ShowsNothingUntilAProjectIsSelected)
 {
 	StartEditor();
@@ -137,7 +144,7 @@ TEST_F(ListDisplayerPanel, ShowsNothingUntilAProjectIsSelected)
 	Activate(Panel);
 	EXPECT_THAT(Panel.TakeEvents(), IsEmpty());
 	SelectProject(TEXT("HT"));
-	EXPECT_THAT(Panel.TakeEvents(), ElementsAre("OnSelectionTypeChange(ELDIT_UnitGroup)", "OnListCountChange(2)"));
+	EXPECT_THAT(Panel.TakeEvents(), ElementsAre("OnSelectionTypeChange(ELDIT_UnitGroup)", "OnListCountChange(0)", "OnSelectionTypeChange(ELDIT_UnitGroup)", "OnListCountChange(2)"));
 	EXPECT_THAT(Rows(Panel), TwoTowers);
 }
 

@@ -116,6 +116,20 @@ TEST_F(ProjectSelector, PreselectsTheProjectOfTheDefaultKey)
 	}
 }
 
+TEST_F(ProjectSelector, TakesNamesAndKeyCodesLongerThanAnyName)
+{
+	FTestPanel Panel = MakePanel();
+	Activate(Panel);
+	Wait(0.0);
+	FProject Long;
+	Long.ProjectName = FString::ChrN(NAME_SIZE + 100, TEXT('n'));
+	Long.KeyCode = FString::ChrN(NAME_SIZE + 100, TEXT('k'));
+	GetUser()->GetOnProjectsResponse().Broadcast(true, {Long});
+	Panel.Choose(TEXT("ProjectSelection"), *Long.ProjectName);
+	EXPECT_EQ(SelectedKeyCode(Panel), ToUtf8(Long.KeyCode));
+	EXPECT_EQ(ToUtf8(Panel.Get<UVlmEWProjectSelector>()->GetProjectByKeyCode(FName(*Long.KeyCode.Left(NAME_SIZE - 1))).ProjectName), ToUtf8(Long.ProjectName));
+}
+
 TEST_F(ProjectSelector, MakesTheChosenProjectTheUsersOwn)
 {
 	FTestPanel Panel = MakeFilledPanel();
@@ -231,7 +245,7 @@ TEST_F(ProjectSelector, CopiesTheKeyOfTheSelectedProject)
 
 TEST_F(ProjectSelector, WritesTheDefaultKeyAndNothingElseIntoTheProject)
 {
-	const std::string Before = "; by hand\r\n[/Script/EngineSettings.GeneralProjectSettings]\r\nProjectName=Harbor Tower\r\n\r\n[/Script/VelmorantSDK.VelmorantSDKSettings]\r\nApiKey=old\r\nServiceDataFile=\r\n[Other]\r\n+A=1\r\n+A=1\r\n";
+	const std::string Before = "; by hand\r\n[/Script/EngineSettings.GeneralProjectSettings]\r\nProjectName=Harbor Tower\r\n\r\n[/Script/VelmorantSDK.VelmorantSDKSettings]\r\nApiKey=old\r\nServiceDataFile=\r\nRequestTimeoutSeconds=30.000000\r\n[Other]\r\n+A=1\r\n+A=1\r\n";
 	WriteProjectFile(GameIni, Before);
 	FTestPanel Panel = MakeFilledPanel();
 	TakeModuleLog();
@@ -276,7 +290,7 @@ TEST_F(ProjectSelector, FetchesAProjectAnewOnlyWhenToldTo)
 	FTestPanel Panel = MakeFilledPanel();
 	int32 NumFetched = 0;
 	GetRequests()->GetOnUpdateRequest().AddLambda([&NumFetched](EUpdateRequestDataType DataType, EUpdateRequestType) {
-		NumFetched += DataType == EUpdateRequestDataType::ProjectData ? 1 : 0;
+		NumFetched += DataType == EUpdateRequestDataType::ProjectData && GetRequests()->HasProjectData() ? 1 : 0;
 	});
 	const auto ChooseAgain = [&Panel, this] {
 		Panel.Choose(TEXT("ProjectSelection"), TEXT("No Selection"));

@@ -10,6 +10,7 @@
 #include "ToolkitTest.h"
 #include "UObject/Package.h"
 #include "UObject/StrongObjectPtr.h"
+#include "UnitVolumeClashLibrary.h"
 
 #include <random>
 
@@ -64,6 +65,28 @@ protected:
 			Groups.push_back(Group);
 		}
 		return Groups;
+	}
+
+	/** What the layout counts and marks: the clashes of now, not those found earlier. */
+	void ExpectClashesAsTheyAre(const TArray<AUnitVolumeActor*>& Volumes) const
+	{
+		TSet<FString> Clashing;
+		for (const AUnitVolumeActor* One : Volumes)
+		{
+			for (const AUnitVolumeActor* Other : Volumes)
+			{
+				const FUnitVolumeUniqueIdentifier& Identifier = One->UniqueIdentifier;
+				if (One != Other && Identifier.HasValidKeycode() && Identifier.UnitID == Other->UniqueIdentifier.UnitID && Identifier.Keycode == Other->UniqueIdentifier.Keycode)
+				{
+					Clashing.Add(Identifier.Keycode);
+				}
+			}
+		}
+		EXPECT_EQ(UUnitVolumeClashLibrary::CountClashingKeycodes(List.Get()), Clashing.Num());
+		for (const UVlmEWUnitVolumeDuplication_Item* Item : Items)
+		{
+			EXPECT_EQ(UUnitVolumeClashLibrary::DoVolumesClash(TArray<AActor*>(Item->DuplicateActors)), Clashing.Contains(Item->Identifier.ToString())) << ToUtf8(Item->Identifier);
+		}
 	}
 
 	TStrongObjectPtr<UVlmEWUnitVolumeDuplicationList> List;
@@ -201,6 +224,7 @@ TEST_F(UnitVolumeDuplication, FindsWhatComparingAllPairsFinds)
 				}
 			}
 			EXPECT_EQ(Check(), Expected);
+			ExpectClashesAsTheyAre(Volumes);
 		}
 	}
 }

@@ -3,7 +3,12 @@
 #include "TestPanel.h"
 
 #include "Blueprint/WidgetBlueprintGeneratedClass.h"
+#include "Editor.h"
+#include "EditorAssetLibrary.h"
+#include "EditorUtilitySubsystem.h"
+#include "EditorUtilityWidgetBlueprint.h"
 #include "HostObjects.h"
+#include "HostTabs.h"
 #include "HostUserWidgets.h"
 #include "HostWidgetLayout.h"
 #include "TestPrinters.h"
@@ -76,32 +81,32 @@ void FTestPanel::Hide()
 	Screen.Reset();
 }
 
-void FTestPanel::Expect(const FHostInputResult& Result) const
+void FTestScreen::Expect(const FHostInputResult& Result) const
 {
 	EXPECT_TRUE(Result.bDone) << ToUtf8(Result.Reason);
 }
 
-void FTestPanel::Click(const TCHAR* Widget)
+void FTestScreen::Click(const TCHAR* Widget)
 {
 	Expect(HostSnapshot::Click(Screen.ToSharedRef(), Widget));
 }
 
-void FTestPanel::Type(const TCHAR* Widget, const TCHAR* Text)
+void FTestScreen::Type(const TCHAR* Widget, const TCHAR* Text)
 {
 	Expect(HostSnapshot::Type(Screen.ToSharedRef(), Widget, Text));
 }
 
-void FTestPanel::Choose(const TCHAR* Widget, const TCHAR* Option)
+void FTestScreen::Choose(const TCHAR* Widget, const TCHAR* Option)
 {
 	Expect(HostSnapshot::Choose(Screen.ToSharedRef(), Widget, Option));
 }
 
-void FTestPanel::Check(const TCHAR* Widget, bool bOn)
+void FTestScreen::Check(const TCHAR* Widget, bool bOn)
 {
 	Expect(HostSnapshot::Check(Screen.ToSharedRef(), Widget, bOn));
 }
 
-std::string FTestPanel::Read(const TCHAR* Widget) const
+std::string FTestScreen::Read(const TCHAR* Widget) const
 {
 	FString Reason;
 	const TOptional<FString> Text = HostSnapshot::Read(Screen.ToSharedRef(), Widget, Reason);
@@ -109,12 +114,43 @@ std::string FTestPanel::Read(const TCHAR* Widget) const
 	return Text.IsSet() ? ToUtf8(Text.GetValue()) : std::string();
 }
 
-std::vector<std::string> FTestPanel::Options(const TCHAR* Widget) const
+std::vector<std::string> FTestScreen::Options(const TCHAR* Widget) const
 {
 	FString Reason;
 	const std::vector<std::string> Options = ToUtf8(HostSnapshot::GetOptions(Screen.ToSharedRef(), Widget, Reason));
 	EXPECT_TRUE(Reason.IsEmpty()) << ToUtf8(Reason);
 	return Options;
+}
+
+FHostWidgetDescription FTestScreen::Look(const TCHAR* Widget) const
+{
+	FString Reason;
+	const TOptional<FHostWidgetDescription> Seen = HostSnapshot::Describe(Screen.ToSharedRef(), Widget, Reason);
+	EXPECT_TRUE(Seen.IsSet()) << ToUtf8(Reason);
+	return Seen.Get(FHostWidgetDescription());
+}
+
+std::string FTestScreen::Snapshot() const
+{
+	return ToUtf8(HostSnapshot::Take(Screen.ToSharedRef()));
+}
+
+FTestTab::FTestTab(const TCHAR* Asset)
+{
+	UEditorUtilityWidgetBlueprint* Blueprint = Cast<UEditorUtilityWidgetBlueprint>(UEditorAssetLibrary::LoadAsset(Asset));
+	check(Blueprint);
+	GEditor->GetEditorSubsystem<UEditorUtilitySubsystem>()->SpawnAndRegisterTabAndGetID(Blueprint, Id);
+	Screen = HostTabs::Find(Id.ToString()).Content;
+	check(Screen.IsValid());
+}
+
+FTestTab::~FTestTab()
+{
+	if (Screen.IsValid() && GEditor)
+	{
+		Screen.Reset();
+		GEditor->GetEditorSubsystem<UEditorUtilitySubsystem>()->CloseTabByID(Id);
+	}
 }
 
 std::vector<std::string> FTestPanel::TakeEvents()

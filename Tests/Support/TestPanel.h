@@ -4,6 +4,7 @@
 
 #include "Blueprint/UserWidget.h"
 #include "HostSnapshot.h"
+#include "HostWidget.h"
 #include "UObject/StrongObjectPtr.h"
 #include "Widgets/SWidget.h"
 
@@ -12,13 +13,52 @@
 #include <string>
 #include <vector>
 
+/** A person's hands and eyes on something that shows. The test fails when it does not let them. */
+class FTestScreen
+{
+public:
+	void Click(const TCHAR* Widget);
+	void Type(const TCHAR* Widget, const TCHAR* Text);
+	void Choose(const TCHAR* Widget, const TCHAR* Option);
+	void Check(const TCHAR* Widget, bool bOn);
+
+	/** What a person reads in a widget. */
+	std::string Read(const TCHAR* Widget) const;
+	std::vector<std::string> Options(const TCHAR* Widget) const;
+
+	/** What they see of a widget: it may be hidden or disabled by what it stands in. */
+	FHostWidgetDescription Look(const TCHAR* Widget) const;
+
+	/** All that they see, a widget a line. */
+	std::string Snapshot() const;
+
+protected:
+	TSharedPtr<SWidget> Screen;
+
+private:
+	void Expect(const FHostInputResult& Result) const;
+};
+
+/** A tab of the editor with a panel of the toolkit's own content. Closes with this object. */
+class FTestTab : public FTestScreen
+{
+public:
+	/** The test fails when there is no such asset, or its layout is not sound. */
+	explicit FTestTab(const TCHAR* Asset);
+	~FTestTab();
+	FTestTab(FTestTab&& Other) = default;
+
+private:
+	FName Id;
+};
+
 /**
  * A panel of a layout of the test's own, on screen, with a person's hands on it.
  *
  * Its class is derived at run time, as a widget blueprint's is. The given Blueprint events are answered by recording them: "Name", or
  * "Name(true)" for one with a flag, a number, a text or an enumerator.
  */
-class FTestPanel
+class FTestPanel : public FTestScreen
 {
 public:
 	/**
@@ -47,16 +87,6 @@ public:
 		return CastChecked<WidgetT>(Panel->GetWidgetFromName(FName(Name)));
 	}
 
-	//~ What a person does. The test fails when the panel does not let them.
-	void Click(const TCHAR* Widget);
-	void Type(const TCHAR* Widget, const TCHAR* Text);
-	void Choose(const TCHAR* Widget, const TCHAR* Option);
-	void Check(const TCHAR* Widget, bool bOn);
-
-	/** What a person reads in a widget. */
-	std::string Read(const TCHAR* Widget) const;
-	std::vector<std::string> Options(const TCHAR* Widget) const;
-
 	/** Events since the last call. */
 	std::vector<std::string> TakeEvents();
 
@@ -64,11 +94,8 @@ public:
 	void ListenTo(const TCHAR* Delegate);
 
 private:
-	void Expect(const FHostInputResult& Result) const;
-
 	// Shared with the recording scripts, which may outlive this object.
 	std::shared_ptr<std::vector<std::string>> Events = std::make_shared<std::vector<std::string>>();
 	TStrongObjectPtr<UClass> Class;
 	TStrongObjectPtr<UUserWidget> Panel;
-	TSharedPtr<SWidget> Screen;
 };

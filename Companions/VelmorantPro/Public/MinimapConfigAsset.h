@@ -31,4 +31,8 @@ public:
 	/** Lowest floor first. */
 	UPROPERTY(EditAnywhere, BlueprintReadOnly, Category = "Velmorant|Minimap")
 	TArray<FMinimapFloor> Floors;
+
+	/** "0 (Ground floor), 1 (Gallery), 2": which floors there are, for people. */
+	UFUNCTION(BlueprintPure, Category = "Velmorant|Minimap")
+	FString GetFloorList() const;
 };

@@ -38,4 +38,8 @@ class VELMORANTPRO_API AUnitVolumeActor : public AActor
 public:
 	UPROPERTY(EditAnywhere, BlueprintReadOnly, Category = "UnitVolumeConfig")
 	FUnitVolumeUniqueIdentifier UniqueIdentifier;
+
+	/** The name that the level shows; outside the editor the object's own. */
+	UFUNCTION(BlueprintPure, Category = "UnitVolumeConfig")
+	FString GetVolumeLabel() const;
 };

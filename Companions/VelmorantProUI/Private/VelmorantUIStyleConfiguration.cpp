@@ -13,3 +13,8 @@ const FVelmorantPaletteColor* UVelmorantUIStyleConfiguration::FindColor(FName ID
 	}
 	return nullptr;
 }
+
+const FVelmorantFontStyle* UVelmorantUIStyleConfiguration::FindFontStyle(FName ID) const
+{
+	return FontStyles.FindByPredicate([ID](const FVelmorantFontStyle& Entry) { return Entry.ID == ID; });
+}

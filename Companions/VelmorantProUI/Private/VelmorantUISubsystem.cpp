@@ -3,6 +3,8 @@
 #include "VelmorantUISubsystem.h"
 
 #include "Engine/Engine.h"
+#include "Styling/AppStyle.h"
+#include "VelmorantColorHandler.h"
 #include "VelmorantProUILog.h"
 #include "VelmorantProUISettings.h"
 #include "VelmorantUIStyleConfiguration.h"
@@ -97,7 +99,7 @@ FFontIconData UVelmorantUISubsystem::GetFontIconDataByID(FName FontID) const
 	Data.IconDataTable = Load(Source->IconDataTable);
 	if (Data.IconDataTable != nullptr && (Data.IconDataTable->RowStruct == nullptr || !Data.IconDataTable->RowStruct->IsChildOf(FFontIconRow::StaticStruct())))
 	{
-		Complain(Source->IconDataTable.ToSoftObjectPath(), TEXT("its rows are no icons"));
+		Complain(FString::Printf(TEXT("The Velmorant Pro UI settings name %s: its rows are no icons."), *Source->IconDataTable.ToString()));
 		Data.IconDataTable = nullptr;
 	}
 	return Data;
@@ -126,6 +128,41 @@ FLinearColor UVelmorantUISubsystem::GetVelmorantColorByID(FName ID, bool bUseCon
 	return bUseContrast ? Entry->ContrastColor : Entry->Color;
 }
 
+FLinearColor UVelmorantUISubsystem::ResolveColor(const FVelmorantColorHandler& Handler) const
+{
+	FLinearColor Color = Handler.ColorMode == EVelmorantColorMode::Custom ? Handler.ColorCustom : GetVelmorantColorByID(Handler.ColorID, Handler.bUseContrast);
+	if (Handler.bOverrideOpacity)
+	{
+		Color.A = Handler.OpacityOverride;
+	}
+	return Color;
+}
+
+FSlateFontInfo UVelmorantUISubsystem::GetFontStyleByID(FName ID) const
+{
+	FSlateFontInfo Info = FAppStyle::GetFontStyle("NormalFont");
+	const UVelmorantUIStyleConfiguration* Style = GetStyleConfiguration();
+	const FVelmorantFontStyle* Entry = Style != nullptr ? Style->FindFontStyle(ID) : nullptr;
+	if (Entry == nullptr)
+	{
+		if (Style != nullptr) // without one, nobody said how texts look
+		{
+			Complain(FString::Printf(TEXT("%s has no font style \"%s\"."), *Style->GetPathName(), *ID.ToString()));
+		}
+		return Info;
+	}
+	if (const UFont* Font = Load(Entry->Font))
+	{
+		Info.FontObject = const_cast<UFont*>(Font);
+	}
+	if (!Entry->Typeface.IsNone())
+	{
+		Info.TypefaceFontName = Entry->Typeface;
+	}
+	Info.Size = Entry->Size;
+	return Info;
+}
+
 UVelmorantUIStyleConfiguration* UVelmorantUISubsystem::GetStyleConfiguration() const
 {
 	return Load(GetDefault<UVelmorantProUISettings>()->StyleConfiguration);
@@ -145,14 +182,14 @@ AssetType* UVelmorantUISubsystem::Load(const TSoftObjectPtr<AssetType>& Asset) c
 	}
 	if (Loaded == nullptr)
 	{
-		Complain(Asset.ToSoftObjectPath(), *FString::Printf(TEXT("there is no such %s"), *AssetType::StaticClass()->GetName()));
+		Complain(FString::Printf(TEXT("The Velmorant Pro UI settings name %s: there is no such %s."), *Asset.ToString(), *AssetType::StaticClass()->GetName()));
 	}
 	return Loaded;
 }
 
-void UVelmorantUISubsystem::Complain(const FSoftObjectPath& Asset, const TCHAR* Problem) const
+void UVelmorantUISubsystem::Complain(const FString& Problem) const
 {
 	bool bAlreadySaid = false;
-	Complaints.Add(Asset.ToString() + Problem, &bAlreadySaid);
-	UE_CLOG(!bAlreadySaid, LogVelmorantProUI, Warning, TEXT("The Velmorant Pro UI settings name %s: %s."), *Asset.ToString(), Problem);
+	Complaints.Add(Problem, &bAlreadySaid);
+	UE_CLOG(!bAlreadySaid, LogVelmorantProUI, Warning, TEXT("%s"), *Problem);
 }

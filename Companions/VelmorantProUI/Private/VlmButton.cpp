@@ -3,13 +3,22 @@
 #include "VlmButton.h"
 
 #include "Framework/SlateDelegates.h"
-#include "Widgets/Input/SButton.h"
+#include "Widgets/Input/SCheckBox.h"
+#include "Widgets/Text/STextBlock.h"
 
 TSharedRef<SWidget> UVlmButton::RebuildWidget()
 {
-	return SNew(SButton)
-		.Text(TAttribute<FText>::CreateUObject(this, &UVlmButton::GetLabel))
-		.OnClicked(FOnClicked::CreateUObject(this, &UVlmButton::HandleClicked));
+	// A toggle button, so that the selection shows; what a click does to it is decided here.
+	// clang-format off
+	return SNew(SCheckBox)
+		.Type(ESlateCheckBoxType::ToggleButton)
+		.IsChecked(TAttribute<ECheckBoxState>::CreateUObject(this, &UVlmButton::GetCheckState))
+		.OnCheckStateChanged(FOnCheckStateChanged::CreateUObject(this, &UVlmButton::HandleClicked))
+		[
+			SNew(STextBlock)
+			.Text(TAttribute<FText>::CreateUObject(this, &UVlmButton::GetLabel))
+		];
+	// clang-format on
 }
 
 void UVlmButton::SetLabel(const FText& InLabel)
@@ -30,12 +39,16 @@ void UVlmButton::SetSelectionState(bool bInSelected, bool bBroadcast)
 	}
 }
 
-FReply UVlmButton::HandleClicked()
+ECheckBoxState UVlmButton::GetCheckState() const
+{
+	return bSelected ? ECheckBoxState::Checked : ECheckBoxState::Unchecked;
+}
+
+void UVlmButton::HandleClicked(ECheckBoxState)
 {
 	if (bSelectable)
 	{
 		SetSelectionState(!bSelected, true);
 	}
 	OnButtonClicked.Broadcast(ButtonID);
-	return FReply::Handled();
 }

@@ -48,3 +48,8 @@ void UVlmImage::SetImageFromData(const FImageObjectData& Image, EImageRequestSiz
 		SetBrush(FSlateImageBrush(VlmImage::MakeName(Image.Data), VlmImage::Fit(PictureSize.GetValue(), Size)));
 	}
 }
+
+void UVlmImage::ClearImage()
+{
+	SetBrush(FSlateBrush());
+}

@@ -4,11 +4,13 @@
 
 #include "CoreMinimal.h"
 #include "FontIconData.h"
+#include "Fonts/SlateFontInfo.h"
 #include "Subsystems/EngineSubsystem.h"
 #include "UObject/SoftObjectPtr.h"
 #include "VelmorantUISubsystem.generated.h"
 
 class UVelmorantUIStyleConfiguration;
+struct FVelmorantColorHandler;
 
 /**
  * Answers what colours and icons the project's user interface can use.
@@ -53,6 +55,13 @@ public:
 	UFUNCTION(BlueprintPure, Category = "Velmorant|UI")
 	FLinearColor GetVelmorantColorByID(FName ID, bool bUseContrast) const;
 
+	/** The colour that the handler stands for, with its opacity. */
+	FLinearColor ResolveColor(const FVelmorantColorHandler& Handler) const;
+
+	/** A font style of the project's style configuration. An ID that it does not have gives the app's normal font, and the log says so once. */
+	UFUNCTION(BlueprintPure, Category = "Velmorant|UI")
+	FSlateFontInfo GetFontStyleByID(FName ID) const;
+
 	/** The palette that the project uses; null when none is set or it cannot be loaded. */
 	UVelmorantUIStyleConfiguration* GetStyleConfiguration() const;
 
@@ -62,7 +71,7 @@ private:
 	AssetType* Load(const TSoftObjectPtr<AssetType>& Asset) const;
 
 	/** Says each thing once: the questions come with every paint. */
-	void Complain(const FSoftObjectPath& Asset, const TCHAR* Problem) const;
+	void Complain(const FString& Problem) const;
 
 	mutable TSet<FString> Complaints;
 };

@@ -4,7 +4,7 @@
 
 #include "CoreMinimal.h"
 #include "Components/ContentWidget.h"
-#include "Input/Reply.h"
+#include "Styling/SlateTypes.h"
 #include "VlmButton.generated.h"
 
 class UVlmButton;
@@ -15,7 +15,7 @@ DECLARE_DYNAMIC_MULTICAST_DELEGATE_OneParam(FOnVlmButtonClicked, FName, ButtonID
 /** A change of the selection state: which button, and its new state. */
 DECLARE_DYNAMIC_MULTICAST_DELEGATE_TwoParams(FOnVlmButtonSelectionChanged, UVlmButton*, ButtonChanged, bool, bSelected);
 
-/** The toolkit's button: has an identifier and a label, and can stay selected. */
+/** The toolkit's button: has an identifier and a label, and can stay selected, which shows. */
 UCLASS()
 class VELMORANTPROUI_API UVlmButton : public UContentWidget
 {
@@ -55,7 +55,8 @@ protected:
 	//~ End UWidget
 
 private:
-	FReply HandleClicked();
+	void HandleClicked(ECheckBoxState ClickedState);
+	ECheckBoxState GetCheckState() const;
 	FText GetLabel() const { return Label; }
 
 	bool bSelected = false;

@@ -20,4 +20,8 @@ public:
 	 */
 	UFUNCTION(BlueprintCallable, Category = "Velmorant|Image")
 	void SetImageFromData(const FImageObjectData& Image, EImageRequestSize Size);
+
+	/** Shows no picture any more. */
+	UFUNCTION(BlueprintCallable, Category = "Velmorant|Image")
+	void ClearImage();
 };

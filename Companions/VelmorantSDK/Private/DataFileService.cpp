@@ -10,14 +10,9 @@
 #include "VelmorantSDKLog.h"
 #include "VelmorantSDKSettings.h"
 
-FDataFileService::FDataFileService(const FString& InPath)
-	: File(InPath)
-	, Alive(MakeShared<bool>(true))
+FDataFileService::FDataFileService()
+	: Alive(MakeShared<bool>(true))
 {
-	if (File.GetPath().IsEmpty())
-	{
-		UE_LOG(LogVelmorantSDK, Warning, TEXT("No service data file is set, so every request will fail. Set ServiceDataFile in the Velmorant SDK settings, or start with -VelmorantService=FILE."));
-	}
 }
 
 FString FDataFileService::FindDataFile()
@@ -31,47 +26,62 @@ FString FDataFileService::FindDataFile()
 	return File.IsEmpty() || File.StartsWith(TEXT("/")) ? File : FPaths::Combine(FPaths::ProjectDir(), File);
 }
 
-const FServiceData* FDataFileService::ReadFor(EServiceRequest Request)
+const FServiceData* FDataFileService::ReadFor(EServiceRequest Request, EVelmorantFailure& OutFailure)
 {
-	if (File.GetPath().IsEmpty())
+	const FString Path = FindDataFile();
+	if (Path.IsEmpty())
 	{
+		UE_LOG(LogVelmorantSDK, Warning, TEXT("No service data file is set, so every request fails. Set ServiceDataFile in the Velmorant SDK settings, or start with -VelmorantService=FILE."));
+		OutFailure = EVelmorantFailure::NotConfigured;
 		return nullptr;
 	}
 
 	FString Error;
-	const FServiceData* Data = File.Read(Error);
+	const FServiceData* Data = File.Read(Path, Error);
 	if (!Data)
 	{
 		UE_LOG(LogVelmorantSDK, Error, TEXT("%s"), *Error);
-		return nullptr;
+		OutFailure = FPaths::FileExists(Path) ? EVelmorantFailure::UnusableData : EVelmorantFailure::NotReachable;
 	}
-	if (Data->FailingRequests.Contains(Request))
+	else if (Data->FailingRequests.Contains(Request))
 	{
-		UE_LOG(LogVelmorantSDK, Warning, TEXT("%s has this request fail."), *File.GetPath());
-		return nullptr;
+		UE_LOG(LogVelmorantSDK, Warning, TEXT("%s has this request fail."), *Path);
+		OutFailure = EVelmorantFailure::NotReachable;
+		Data = nullptr;
 	}
 	return Data;
 }
 
-const FServiceUser* FDataFileService::FindUser(const FServiceData& Data, const FString& Token) const
+const FServiceUser* FDataFileService::FindUser(const FServiceData& Data, const FString& Token, EVelmorantFailure& OutFailure) const
 {
 	const FSession* Session = Sessions.Find(Token);
-	if (!Session || FApp::GetCurrentTime() >= Session->Expiry)
+	const FServiceUser* User = !Session || FApp::GetCurrentTime() >= Session->Expiry
+		? nullptr
+		: Data.Users.FindByPredicate([Session](const FServiceUser& Candidate) { return Candidate.UserName == Session->UserName; });
+	if (!User)
 	{
-		UE_LOG(LogVelmorantSDK, Warning, TEXT("The login is not valid any more; sign in again."));
-		return nullptr;
+		OutFailure = EVelmorantFailure::NotSignedIn;
 	}
-	return Data.Users.FindByPredicate([Session](const FServiceUser& User) { return User.UserName == Session->UserName; });
+	return User;
 }
 
-const FServiceProject* FDataFileService::FindProject(const FServiceData& Data, const FString& Token, const FString& KeyCode) const
+const FServiceProject* FDataFileService::FindProject(const FServiceData& Data, const FString& Token, const FString& KeyCode, EVelmorantFailure& OutFailure) const
 {
-	const FServiceUser* User = FindUser(Data, Token);
-	if (!User || !User->ProjectKeyCodes.ContainsByPredicate([&KeyCode](const FString& Candidate) { return Candidate == KeyCode; }))
+	const FServiceUser* User = FindUser(Data, Token, OutFailure);
+	if (!User)
 	{
 		return nullptr;
 	}
-	return Data.Projects.FindByPredicate([&KeyCode](const FServiceProject& Project) { return Project.Project.KeyCode == KeyCode; });
+	const auto IsMeant = [&KeyCode](const FString& Candidate) { return Candidate == KeyCode; };
+	const FServiceProject* Project = !User->ProjectKeyCodes.ContainsByPredicate(IsMeant)
+		? nullptr
+		: Data.Projects.FindByPredicate([&IsMeant](const FServiceProject& Candidate) { return IsMeant(Candidate.Project.KeyCode); });
+	if (!Project)
+	{
+		UE_LOG(LogVelmorantSDK, Warning, TEXT("There is no project \"%s\", or \"%s\" may not see it."), *KeyCode, *User->UserName);
+		OutFailure = EVelmorantFailure::Refused;
+	}
+	return Project;
 }
 
 void FDataFileService::AnswerLater(double DelaySeconds, TFunction<void()> Answer) const
@@ -89,23 +99,23 @@ void FDataFileService::AnswerLater(double DelaySeconds, TFunction<void()> Answer
 void FDataFileService::RequestLogin(const FVelmorantUserInformation& UserInformation, TFunction<void(const FVelmorantLoginAnswer&)> OnAnswer)
 {
 	FVelmorantLoginAnswer Answer;
-	const FServiceData* Data = ReadFor(EServiceRequest::Login);
+	const FServiceData* Data = ReadFor(EServiceRequest::Login, Answer.Failure);
 	const FServiceUser* User = !Data ? nullptr : Data->Users.FindByPredicate([&UserInformation](const FServiceUser& Candidate) {
 		return Candidate.UserName == UserInformation.UserName && Candidate.Password.Equals(UserInformation.Password, ESearchCase::CaseSensitive);
 	});
 	if (User)
 	{
-		Answer.bSuccess = true;
 		Answer.LoginInfo = User->LoginInfo;
 		Answer.Token = FString::Printf(TEXT("token-%d"), NextToken++);
 		Answer.TokenSeconds = Data->TokenSeconds;
 		Sessions.Add(Answer.Token, FSession{User->UserName, FApp::GetCurrentTime() + Data->DelaySeconds + Answer.TokenSeconds});
 	}
-	else
+	else if (Data)
 	{
 		UE_LOG(LogVelmorantSDK, Warning, TEXT("The login of \"%s\" was refused."), *UserInformation.UserName);
+		Answer.Failure = EVelmorantFailure::WrongCredentials;
 	}
-	AnswerLater(Data ? Data->DelaySeconds : 0.0, [OnAnswer = MoveTemp(OnAnswer), Answer] { OnAnswer(Answer); });
+	AnswerLater(Data ? Data->DelaySeconds : 0.0, [OnAnswer = MoveTemp(OnAnswer), Answer = MoveTemp(Answer)] { OnAnswer(Answer); });
 }
 
 void FDataFileService::RequestLogout(const FString& Token)
@@ -113,50 +123,52 @@ void FDataFileService::RequestLogout(const FString& Token)
 	Sessions.Remove(Token);
 }
 
-void FDataFileService::RequestProjects(const FString& Token, TFunction<void(bool bSuccess, const TArray<FProject>&)> OnAnswer)
+void FDataFileService::RequestProjects(const FString& Token, TFunction<void(const FVelmorantProjectsAnswer&)> OnAnswer)
 {
-	TArray<FProject> Projects;
-	const FServiceData* Data = ReadFor(EServiceRequest::Projects);
-	const FServiceUser* User = Data ? FindUser(*Data, Token) : nullptr;
-	if (User)
+	FVelmorantProjectsAnswer Answer;
+	const FServiceData* Data = ReadFor(EServiceRequest::Projects, Answer.Failure);
+	if (const FServiceUser* User = Data ? FindUser(*Data, Token, Answer.Failure) : nullptr)
 	{
 		const TSet<FString> KeyCodes(User->ProjectKeyCodes);
 		for (const FServiceProject& Project : Data->Projects)
 		{
 			if (KeyCodes.Contains(Project.Project.KeyCode))
 			{
-				Projects.Add(Project.Project);
+				Answer.Projects.Add(Project.Project);
 			}
 		}
 	}
-	const bool bSuccess = User != nullptr;
-	AnswerLater(Data ? Data->DelaySeconds : 0.0, [OnAnswer = MoveTemp(OnAnswer), bSuccess, Projects = MoveTemp(Projects)] { OnAnswer(bSuccess, Projects); });
+	AnswerLater(Data ? Data->DelaySeconds : 0.0, [OnAnswer = MoveTemp(OnAnswer), Answer = MoveTemp(Answer)] { OnAnswer(Answer); });
 }
 
 void FDataFileService::RequestProjectData(const FString& Token, const FString& ProjectKeyCode, TFunction<void(const FVelmorantProjectAnswer&)> OnAnswer)
 {
 	FVelmorantProjectAnswer Answer;
-	const FServiceData* Data = ReadFor(EServiceRequest::ProjectData);
-	if (const FServiceProject* Project = Data ? FindProject(*Data, Token, ProjectKeyCode) : nullptr)
+	const FServiceData* Data = ReadFor(EServiceRequest::ProjectData, Answer.Failure);
+	if (const FServiceProject* Project = Data ? FindProject(*Data, Token, ProjectKeyCode, Answer.Failure) : nullptr)
 	{
-		Answer.bSuccess = true;
 		Answer.UnitGroups = Project->UnitGroups;
 		Answer.Configurators = Project->Configurators;
 	}
 	AnswerLater(Data ? Data->DelaySeconds : 0.0, [OnAnswer = MoveTemp(OnAnswer), Answer = MoveTemp(Answer)] { OnAnswer(Answer); });
 }
 
-void FDataFileService::RequestConfigurator(const FString& Token, const FString& ProjectKeyCode, FName ConfiguratorName, TFunction<void(const TOptional<FVelmorantConfiguratorRecord>&)> OnAnswer)
+void FDataFileService::RequestConfigurator(const FString& Token, const FString& ProjectKeyCode, FName ConfiguratorName, TFunction<void(const FVelmorantConfiguratorAnswer&)> OnAnswer)
 {
-	TOptional<FVelmorantConfiguratorRecord> Record;
-	const FServiceData* Data = ReadFor(EServiceRequest::Configurator);
-	if (const FServiceProject* Project = Data ? FindProject(*Data, Token, ProjectKeyCode) : nullptr)
+	FVelmorantConfiguratorAnswer Answer;
+	const FServiceData* Data = ReadFor(EServiceRequest::Configurator, Answer.Failure);
+	if (const FServiceProject* Project = Data ? FindProject(*Data, Token, ProjectKeyCode, Answer.Failure) : nullptr)
 	{
 		const FVelmorantConfiguratorRecord* Found = Project->Configurators.FindByPredicate([&ConfiguratorName](const FVelmorantConfiguratorRecord& Candidate) { return Candidate.Name == ConfiguratorName; });
 		if (Found)
 		{
-			Record = *Found;
+			Answer.Configurator = *Found;
+		}
+		else
+		{
+			UE_LOG(LogVelmorantSDK, Warning, TEXT("Project \"%s\" has no configurator \"%s\" any more."), *ProjectKeyCode, *ConfiguratorName.ToString());
+			Answer.Failure = EVelmorantFailure::Refused;
 		}
 	}
-	AnswerLater(Data ? Data->DelaySeconds : 0.0, [OnAnswer = MoveTemp(OnAnswer), Record] { OnAnswer(Record); });
+	AnswerLater(Data ? Data->DelaySeconds : 0.0, [OnAnswer = MoveTemp(OnAnswer), Answer = MoveTemp(Answer)] { OnAnswer(Answer); });
 }

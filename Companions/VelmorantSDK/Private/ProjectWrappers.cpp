@@ -38,6 +38,16 @@ UConfiguratorWrapper* UProjectWrapper::GetConfiguratorByName(const FName& Config
 	return nullptr;
 }
 
+FString UConfiguratorWrapper::GetUnitGroupNames() const
+{
+	TArray<FString> Names;
+	for (const FVelmorantConfiguratorUnitGroup& UnitGroup : UnitGroupCollection)
+	{
+		Names.Add(UnitGroup.Name);
+	}
+	return FString::Join(Names, TEXT(", "));
+}
+
 void UConfiguratorWrapper::RequestUpdateData(EUpdateRequestDataType DataType, EUpdateRequestType RequestType)
 {
 	if (DataType == EUpdateRequestDataType::Configurator)

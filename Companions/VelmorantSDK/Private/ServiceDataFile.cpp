@@ -6,12 +6,12 @@
 #include "Misc/Paths.h"
 #include "ServiceDataReader.h"
 
-const FServiceData* FServiceDataFile::Read(FString& OutError)
+const FServiceData* FServiceDataFile::Read(const FString& Path, FString& OutError)
 {
-	return ReadData(OutError) && ReadPictures(OutError) ? &Data.GetValue() : nullptr;
+	return ReadData(Path, OutError) && ReadPictures(OutError) ? &Data.GetValue() : nullptr;
 }
 
-bool FServiceDataFile::ReadData(FString& OutError)
+bool FServiceDataFile::ReadData(const FString& Path, FString& OutError)
 {
 	TArray<uint8> NewBytes;
 	if (!FFileHelper::LoadFileToArray(NewBytes, *Path))
@@ -19,12 +19,13 @@ bool FServiceDataFile::ReadData(FString& OutError)
 		OutError = FString::Printf(TEXT("%s: the file cannot be read"), *Path);
 		return false;
 	}
-	if (Data.IsSet() && NewBytes == Bytes)
+	if (Data.IsSet() && Path == LastPath && NewBytes == Bytes)
 	{
 		return true;
 	}
 
 	FString Problem;
+	LastPath = Path;
 	Bytes = MoveTemp(NewBytes);
 	Data = ServiceDataReader::Read(std::string_view(reinterpret_cast<const char*>(Bytes.GetData()), static_cast<size_t>(Bytes.Num())), FPaths::GetPath(Path), Problem);
 	if (!Data.IsSet())
@@ -42,7 +43,7 @@ bool FServiceDataFile::ReadPictures(FString& OutError)
 		FServiceUser& User = Users[Index];
 		if (!User.PictureFile.IsEmpty() && !FFileHelper::LoadFileToArray(User.LoginInfo.Picture.Data, *User.PictureFile))
 		{
-			OutError = FString::Printf(TEXT("%s: /users/%d/picture: the file %s cannot be read"), *Path, Index, *User.PictureFile);
+			OutError = FString::Printf(TEXT("%s: /users/%d/picture: the file %s cannot be read"), *LastPath, Index, *User.PictureFile);
 			return false;
 		}
 	}

@@ -13,25 +13,18 @@
 class FServiceDataFile
 {
 public:
-	explicit FServiceDataFile(const FString& InPath)
-		: Path(InPath)
-	{
-	}
-
-	/** Empty when no file is set; then nothing may be read. */
-	const FString& GetPath() const { return Path; }
-
 	/**
 	 * The data is good until the next call.
+	 * @param Path the file; another one than the last time is read as it is.
 	 * @return null when the file, or a picture that it names, cannot be used; OutError then says which file, where in it, and why.
 	 */
-	const FServiceData* Read(FString& OutError);
+	const FServiceData* Read(const FString& Path, FString& OutError);
 
 private:
-	bool ReadData(FString& OutError);
+	bool ReadData(const FString& Path, FString& OutError);
 	bool ReadPictures(FString& OutError);
 
-	FString Path;
+	FString LastPath;
 	TArray<uint8> Bytes; // that Data was made of
 	TOptional<FServiceData> Data;
 };

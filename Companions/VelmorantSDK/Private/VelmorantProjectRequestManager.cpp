@@ -6,13 +6,23 @@
 #include "IVelmorantService.h"
 #include "ProjectWrapper.h"
 #include "UnitGroupWrapper.h"
+#include "VelmorantFailureTexts.h"
 #include "VelmorantSDKEngineSubsystem.h"
 #include "VelmorantUser.h"
+
+namespace VelmorantProjectRequestManager
+{
+	/** Key codes may be longer than any name; those that only differ further on share one. */
+	FName MakeName(const FString& KeyCode)
+	{
+		return FName(FStringView(KeyCode).Left(NAME_SIZE - 1));
+	}
+}
 
 void UVelmorantProjectRequestManager::SelectProject(const FProject& Project, bool bForceUpdate)
 {
 	const bool bSameProject = ProjectWrapper && ProjectWrapper->ProjectData.KeyCode == Project.KeyCode;
-	if (bSameProject && !bForceUpdate)
+	if (bSameProject && !bForceUpdate && (ProjectWrapper->bFetched || IsRequestingProjectData()))
 	{
 		return;
 	}
@@ -20,42 +30,94 @@ void UVelmorantProjectRequestManager::SelectProject(const FProject& Project, boo
 	if (!bSameProject)
 	{
 		// There at once, with its name and key; its lists fill when the service answers.
-		ProjectWrapper = NewObject<UProjectWrapper>(this);
+		SetProjectWrapper(NewObject<UProjectWrapper>(this));
 	}
 	ProjectWrapper->ProjectData = Project;
 	RequestProjectData();
+	if (!bSameProject)
+	{
+		OnUpdateRequest.Broadcast(EUpdateRequestDataType::ProjectData, EUpdateRequestType::Get);
+	}
 }
 
 void UVelmorantProjectRequestManager::ClearProject()
 {
 	if (ProjectWrapper)
 	{
-		ProjectWrapper = nullptr;
+		SetProjectWrapper(nullptr);
+		OnProjectDataRequest.Broadcast();
 		OnUpdateRequest.Broadcast(EUpdateRequestDataType::ProjectData, EUpdateRequestType::Get);
 	}
 }
 
+void UVelmorantProjectRequestManager::SetProjectWrapper(UProjectWrapper* InProjectWrapper)
+{
+	ProjectWrapper = InProjectWrapper;
+	ProjectFailure = EVelmorantFailure::None;
+	NumProjectRequests = 0;
+}
+
+void UVelmorantProjectRequestManager::RefreshProject()
+{
+	if (ProjectWrapper && !IsRequestingProjectData())
+	{
+		RequestProjectData();
+	}
+}
+
+void UVelmorantProjectRequestManager::Resume()
+{
+	if (!HasProjectData())
+	{
+		RefreshProject();
+	}
+}
+
+FString UVelmorantProjectRequestManager::GetSelectedProjectName() const
+{
+	return ProjectWrapper ? ProjectWrapper->ProjectData.ProjectName : FString();
+}
+
+bool UVelmorantProjectRequestManager::HasProjectData() const
+{
+	return ProjectWrapper && ProjectWrapper->bFetched;
+}
+
+FText UVelmorantProjectRequestManager::GetProjectDataFailureText() const
+{
+	return VelmorantFailureTexts::Get(ProjectFailure);
+}
+
 void UVelmorantProjectRequestManager::RequestProjectData()
 {
+	++NumProjectRequests;
+	ProjectFailure = EVelmorantFailure::None;
 	const TWeakObjectPtr<UProjectWrapper> Requested(ProjectWrapper.Get());
-	UVelmorantSDKEngineSubsystem::Get()->GetService().RequestProjectData(GetToken(), ProjectWrapper->ProjectData.KeyCode, [WeakThis = TWeakObjectPtr<UVelmorantProjectRequestManager>(this), Requested](const FVelmorantProjectAnswer& Answer) {
+	const FString Token = GetUser().GetToken();
+	UVelmorantSDKEngineSubsystem::Get()->GetService().RequestProjectData(Token, ProjectWrapper->ProjectData.KeyCode, [WeakThis = TWeakObjectPtr<UVelmorantProjectRequestManager>(this), Requested, Token](const FVelmorantProjectAnswer& Answer) {
 		// An answer for a project that is no longer the selected one comes too late to be of use.
 		UVelmorantProjectRequestManager* This = WeakThis.Get();
 		if (This && This->ProjectWrapper && This->ProjectWrapper == Requested.Get())
 		{
+			--This->NumProjectRequests;
+			This->ProjectFailure = Answer.Failure;
+			This->GetUser().NoteFailure(Answer.Failure, Token);
 			This->ReceiveProjectData(Answer);
+			This->OnProjectDataRequest.Broadcast();
 		}
 	});
+	OnProjectDataRequest.Broadcast();
 }
 
 void UVelmorantProjectRequestManager::ReceiveProjectData(const FVelmorantProjectAnswer& Answer)
 {
-	if (!Answer.bSuccess)
+	if (!Answer.IsSuccess())
 	{
 		OnUpdateRequest.Broadcast(EUpdateRequestDataType::None, EUpdateRequestType::Get); // finished, without data
 		return;
 	}
 
+	ProjectWrapper->bFetched = true;
 	const FString TargetKeyCode = ProjectWrapper->UnitGroupTarget ? ProjectWrapper->UnitGroupTarget->UnitGroupData.KeyCode : FString();
 	ProjectWrapper->UnitGroupTarget = nullptr;
 	ProjectWrapper->UnitGroups.Reset();
@@ -68,7 +130,7 @@ void UVelmorantProjectRequestManager::ReceiveProjectData(const FVelmorantProject
 	}
 	if (!TargetKeyCode.IsEmpty())
 	{
-		SetSelectedUnitGroup(FName(TargetKeyCode));
+		SetSelectedUnitGroup(VelmorantProjectRequestManager::MakeName(TargetKeyCode));
 	}
 
 	// Wrappers that stay keep their identity: others may hold on to them.
@@ -103,7 +165,7 @@ void UVelmorantProjectRequestManager::SetSelectedUnitGroup(FName KeyCode)
 	}
 	for (UUnitGroupWrapper* UnitGroup : ProjectWrapper->UnitGroups)
 	{
-		if (FName(UnitGroup->UnitGroupData.KeyCode) == KeyCode)
+		if (VelmorantProjectRequestManager::MakeName(UnitGroup->UnitGroupData.KeyCode) == KeyCode)
 		{
 			ProjectWrapper->UnitGroupTarget = UnitGroup;
 			return;
@@ -119,30 +181,32 @@ void UVelmorantProjectRequestManager::RequestConfigurator(FName ConfiguratorName
 	}
 
 	const TWeakObjectPtr<UProjectWrapper> Requested(ProjectWrapper.Get());
-	UVelmorantSDKEngineSubsystem::Get()->GetService().RequestConfigurator(GetToken(), ProjectWrapper->ProjectData.KeyCode, ConfiguratorName, [WeakThis = TWeakObjectPtr<UVelmorantProjectRequestManager>(this), Requested](const TOptional<FVelmorantConfiguratorRecord>& Record) {
+	const FString Token = GetUser().GetToken();
+	UVelmorantSDKEngineSubsystem::Get()->GetService().RequestConfigurator(Token, ProjectWrapper->ProjectData.KeyCode, ConfiguratorName, [WeakThis = TWeakObjectPtr<UVelmorantProjectRequestManager>(this), Requested, Token](const FVelmorantConfiguratorAnswer& Answer) {
 		UVelmorantProjectRequestManager* This = WeakThis.Get();
 		if (This && This->ProjectWrapper && This->ProjectWrapper == Requested.Get())
 		{
-			This->ReceiveConfigurator(Record);
+			This->GetUser().NoteFailure(Answer.Failure, Token);
+			This->ReceiveConfigurator(Answer);
 		}
 	});
 }
 
-void UVelmorantProjectRequestManager::ReceiveConfigurator(const TOptional<FVelmorantConfiguratorRecord>& Record)
+void UVelmorantProjectRequestManager::ReceiveConfigurator(const FVelmorantConfiguratorAnswer& Answer)
 {
-	UConfiguratorWrapper* Configurator = Record.IsSet() ? ProjectWrapper->GetConfiguratorByName(Record.GetValue().Name) : nullptr;
+	UConfiguratorWrapper* Configurator = Answer.IsSuccess() ? ProjectWrapper->GetConfiguratorByName(Answer.Configurator.Name) : nullptr;
 	if (!Configurator)
 	{
 		OnUpdateRequest.Broadcast(EUpdateRequestDataType::None, EUpdateRequestType::Get); // finished, without data
 		return;
 	}
 
-	Configurator->UnitCollection = Record.GetValue().Units;
-	Configurator->UnitGroupCollection = Record.GetValue().UnitGroups;
+	Configurator->UnitCollection = Answer.Configurator.Units;
+	Configurator->UnitGroupCollection = Answer.Configurator.UnitGroups;
 	OnUpdateRequest.Broadcast(EUpdateRequestDataType::ConfiguratorData, EUpdateRequestType::Get);
 }
 
-const FString& UVelmorantProjectRequestManager::GetToken() const
+UVelmorantUser& UVelmorantProjectRequestManager::GetUser() const
 {
-	return CastChecked<UVelmorantUser>(GetOuter())->GetToken();
+	return *CastChecked<UVelmorantUser>(GetOuter());
 }

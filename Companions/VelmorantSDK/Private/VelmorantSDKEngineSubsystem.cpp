@@ -4,6 +4,7 @@
 
 #include "DataFileService.h"
 #include "Engine/Engine.h"
+#include "TimeLimitedService.h"
 #include "VelmorantDeveloperUser.h"
 
 UVelmorantSDKEngineSubsystem::UVelmorantSDKEngineSubsystem() = default;
@@ -54,7 +55,7 @@ IVelmorantService& UVelmorantSDKEngineSubsystem::GetService()
 {
 	if (!Service)
 	{
-		Service = MakeUnique<FDataFileService>(FDataFileService::FindDataFile());
+		Service = MakeUnique<FTimeLimitedService>(MakeUnique<FDataFileService>());
 	}
 	return *Service;
 }

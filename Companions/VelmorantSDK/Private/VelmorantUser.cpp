@@ -4,7 +4,9 @@
 
 #include "IVelmorantService.h"
 #include "Misc/App.h"
+#include "VelmorantFailureTexts.h"
 #include "VelmorantProjectRequestManager.h"
+#include "VelmorantSDKLog.h"
 #include "VelmorantSDKEngineSubsystem.h"
 
 void UVelmorantUser::PostInitProperties()
@@ -21,9 +23,15 @@ UVelmorantProjectRequestManager* UVelmorantUser::GetProjectRequestManager() cons
 	return ProjectRequestManager;
 }
 
+FText UVelmorantUser::GetLoginFailureText() const
+{
+	return VelmorantFailureTexts::Get(LoginFailure);
+}
+
 void UVelmorantUser::RequestUserLogin(const FVelmorantUserInformation& InUserInformation)
 {
 	UserInformation = InUserInformation;
+	++NumLoginsInProcess;
 	UVelmorantSDKEngineSubsystem::Get()->GetService().RequestLogin(UserInformation, [WeakThis = TWeakObjectPtr<UVelmorantUser>(this), UserName = UserInformation.UserName, AskedAfter = NumLogouts](const FVelmorantLoginAnswer& Answer) {
 		UVelmorantUser* This = WeakThis.Get();
 		if (This && This->NumLogouts == AskedAfter)
@@ -34,7 +42,9 @@ void UVelmorantUser::RequestUserLogin(const FVelmorantUserInformation& InUserInf
 		{
 			// Whoever signed out meanwhile stays signed out; the request still ends, as a failed one.
 			UVelmorantSDKEngineSubsystem::Get()->GetService().RequestLogout(Answer.Token);
-			This->ReceiveLoginAnswer(FVelmorantLoginAnswer(), UserName);
+			FVelmorantLoginAnswer GivenUp;
+			GivenUp.Failure = EVelmorantFailure::GivenUp;
+			This->ReceiveLoginAnswer(GivenUp, UserName);
 		}
 	});
 }
@@ -46,15 +56,16 @@ void UVelmorantUser::RequestUserLogout()
 		UVelmorantSDKEngineSubsystem::Get()->GetService().RequestLogout(Token);
 	}
 	++NumLogouts;
-	Token.Empty();
-	LoginInfo = FLoginInfo();
+	DropToken();
 	Account.Empty();
 	HandleAccountLeft();
+	OnSessionChanged.Broadcast();
 }
 
 void UVelmorantUser::HandleAccountLeft()
 {
 	ProjectRequestManager->ClearProject();
+	OnAccountLeft.Broadcast();
 }
 
 bool UVelmorantUser::HasValidToken() const
@@ -64,18 +75,70 @@ bool UVelmorantUser::HasValidToken() const
 
 void UVelmorantUser::ReceiveLoginAnswer(const FVelmorantLoginAnswer& Answer, const FString& UserName)
 {
-	// A failed login signs nobody in, but nobody out either.
-	if (Answer.bSuccess)
+	--NumLoginsInProcess;
+	LoginFailure = Answer.Failure;
+	if (Answer.IsSuccess()) // a failed login signs nobody in, but nobody out either
 	{
-		LoginInfo = Answer.LoginInfo;
-		Token = Answer.Token;
-		TokenExpiry = FApp::GetCurrentTime() + Answer.TokenSeconds;
-		if (!Account.IsEmpty() && Account != UserName)
+		BeginSession(Answer, UserName);
+	}
+	OnLoginResult.Broadcast(Answer.IsSuccess(), Answer.LoginInfo);
+}
+
+void UVelmorantUser::BeginSession(const FVelmorantLoginAnswer& Answer, const FString& UserName)
+{
+	DropToken();
+	LoginInfo = Answer.LoginInfo;
+	Token = Answer.Token;
+	TokenExpiry = FApp::GetCurrentTime() + Answer.TokenSeconds;
+	TokenTimer = FTSTicker::GetCoreTicker().AddTicker(FTickerDelegate::CreateWeakLambda(this, [this](float) {
+		EndSession();
+		return false; // once
+	}),
+		static_cast<float>(Answer.TokenSeconds));
+	if (Account != UserName) // letter case does not make another account
+	{
+		const bool bLeft = !Account.IsEmpty();
+		Account = UserName;
+		if (bLeft)
 		{
 			HandleAccountLeft();
 		}
-		Account = UserName;
-		HandleLoggedIn();
 	}
-	OnLoginResult.Broadcast(Answer.bSuccess, Answer.LoginInfo);
+	HandleLoggedIn();
+	OnSessionChanged.Broadcast();
+}
+
+void UVelmorantUser::EndSession()
+{
+	DropToken();
+	UE_LOG(LogVelmorantSDK, Warning, TEXT("The login is not valid any more; sign in again."));
+	bNotSignedInTold = true;
+	OnSessionChanged.Broadcast();
+}
+
+/** Nobody is signed in then. The account stays: it may sign in again and go on. */
+void UVelmorantUser::DropToken()
+{
+	FTSTicker::RemoveTicker(TokenTimer);
+	TokenTimer.Reset();
+	Token.Empty();
+	LoginInfo = FLoginInfo();
+	bNotSignedInTold = false;
+}
+
+void UVelmorantUser::NoteFailure(EVelmorantFailure Failure, const FString& TokenOfRequest)
+{
+	if (Failure != EVelmorantFailure::NotSignedIn || TokenOfRequest != Token)
+	{
+		return; // a request of an earlier session says nothing of this one
+	}
+	if (!Token.IsEmpty())
+	{
+		EndSession();
+	}
+	else if (!bNotSignedInTold)
+	{
+		UE_LOG(LogVelmorantSDK, Warning, TEXT("Nobody is signed in, so requests fail; sign in first."));
+		bNotSignedInTold = true;
+	}
 }

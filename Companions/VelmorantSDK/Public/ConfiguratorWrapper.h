@@ -15,6 +15,7 @@ class VELMORANTSDK_API UConfiguratorWrapper : public UObject
 	GENERATED_BODY()
 
 public:
+	UFUNCTION(BlueprintPure, Category = "Velmorant|Configurator")
 	FName GetConfiguratorName() const { return ConfiguratorName; }
 
 	/** The unit records by configurator name. */
@@ -22,6 +23,10 @@ public:
 
 	/** The unit groups that the configurator applies to, in the service's order. */
 	const TArray<FVelmorantConfiguratorUnitGroup>& GetConfigtorUnitGroupCollection() const { return UnitGroupCollection; }
+
+	/** The names of those unit groups, for people. */
+	UFUNCTION(BlueprintPure, Category = "Velmorant|Configurator")
+	FString GetUnitGroupNames() const;
 
 	/**
 	 * Asks the service to refresh this configurator.

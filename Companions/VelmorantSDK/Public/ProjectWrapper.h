@@ -28,6 +28,7 @@ public:
 	UUnitGroupWrapper* GetUnitGroupTarget() const { return UnitGroupTarget; }
 
 	/** In the service's order. */
+	UFUNCTION(BlueprintPure, Category = "Velmorant|Project")
 	TArray<UConfiguratorWrapper*> GetConfigurators() const;
 
 	/** The configurator of that name (names ignore case), or null. */
@@ -46,4 +47,6 @@ private:
 
 	UPROPERTY()
 	TObjectPtr<UUnitGroupWrapper> UnitGroupTarget;
+
+	bool bFetched = false; // the service has sent the data at least once
 };

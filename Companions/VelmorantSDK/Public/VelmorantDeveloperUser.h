@@ -9,6 +9,8 @@
 /** The answer to a request for the developer's projects. Native: handlers are added with AddUObject and accumulate. */
 DECLARE_MULTICAST_DELEGATE_TwoParams(FOnEditorProjectsResponse, bool /*bSuccess*/, TArray<FProject> /*Projects*/);
 
+struct FVelmorantProjectsAnswer;
+
 /** The user who works in the editor: knows the projects, which one is selected, and whether they also act when the model runs in the editor. */
 UCLASS(BlueprintType)
 class VELMORANTSDK_API UVelmorantDeveloperUser : public UVelmorantUser
@@ -21,6 +23,14 @@ public:
 
 	/** Asks the service for the projects; the answer arrives at GetOnProjectsResponse(), never within this call. */
 	void RequestEditorUserProjects();
+
+	/** Why the last request for the projects failed, and what to do; empty when it did not. */
+	UFUNCTION(BlueprintPure, Category = "Velmorant|Developer")
+	FText GetProjectsFailureText() const;
+
+	/** Whether the project's default API key is that of none of the user's projects. False while these are not known. */
+	UFUNCTION(BlueprintPure, Category = "Velmorant|Developer")
+	bool IsDefaultApiKeyForeign() const;
 
 	FOnEditorProjectsResponse& GetOnProjectsResponse() { return OnProjectsResponse; }
 
@@ -47,10 +57,12 @@ protected:
 	virtual void HandleAccountLeft() override;
 
 private:
-	void ReceiveProjects(bool bSuccess, const TArray<FProject>& Projects);
+	void ReceiveProjects(const FVelmorantProjectsAnswer& Answer);
 
 	FOnEditorProjectsResponse OnProjectsResponse;
 	TArray<FProject> EditorUserProjects;
+	EVelmorantFailure ProjectsFailure{};
+	bool bProjectsKnown = false;
 	int32 NumAccountsLeft = 0; // tells answers for the account from those for one before
 	bool bHasSavedUserData = false;
 	bool bUseAtRuntime = false;

@@ -28,6 +28,7 @@ public:
 	 * The developer user of the editor.
 	 * @param bCreateIfMissing make one when there is none; otherwise null is returned then.
 	 */
+	UFUNCTION(BlueprintCallable, Category = "Velmorant|User")
 	static UVelmorantDeveloperUser* GetVelmorantEditorUser(bool bCreateIfMissing);
 
 	/** Makes sure that the developer user exists and is the current user while no model runs. */

@@ -21,6 +21,10 @@ public:
 	UPROPERTY(Config, EditAnywhere, Category = "Velmorant")
 	FString ServiceDataFile;
 
+	/** Seconds that the service has to answer a request. 0 for no limit. */
+	UPROPERTY(Config, EditAnywhere, Category = "Velmorant", meta = (ClampMin = "0"))
+	float RequestTimeoutSeconds = 30.0f;
+
 	//~ Begin UDeveloperSettings
 	virtual FName GetCategoryName() const override;
 	//~ End UDeveloperSettings

@@ -172,6 +172,72 @@ TEST_F(FWidgetLayoutTest, ACallGoesOnByWhatItReturned)
 	EXPECT_EQ(Panel->Happened, (TArray<FString>{TEXT("after 0"), TEXT("submit ada"), TEXT("kept 0"), TEXT("after 0"), TEXT("submit ada")}));
 }
 
+TEST_F(FWidgetLayoutTest, ObjectsThatAreNoWidgetsAreAskedAndHeardWhileThePanelShows)
+{
+	WriteLogin(R"("Objects": {
+			"Book": {"ResultOf": "/Script/TestPanels.TestVisitorBook.GetBook", "With": {"InWhere": "{UserName.Text}"}},
+			"Copy": "{Book.Copy}",
+			"Gone": "{Book.Nothing}"},
+		"Events": {"Construct": [{"Set": "Status.Text", "To": "{Copy.Place}{Gone.Place}"}]},
+		"Calls": {
+			"Copy.OnVisit": [{"Call": "Note", "With": {"InText": "{LoginInfo.Name} at {Book.Place}"}}],
+			"Gone.OnVisit": [{"Call": "Gone.Forget"}],
+			"Submit.OnClicked": [{"Call": "Gone.Forget", "With": {}}, {"Call": "Note", "With": {"InText": "still there"}}]},
+		"Properties": {"IsEnabled": true})");
+	ASSERT_NE(Open(), nullptr);
+	EXPECT_EQ(Read(TEXT("Status")), "");
+	HostSnapshot::Type(Root.ToSharedRef(), TEXT("UserName"), TEXT("the pier"));
+	const TStrongObjectPtr<UTestLoginPanel> Kept(Panel);
+	const auto Visit = [this] {
+		Panel->Happened.Empty();
+		GetMutableDefault<UTestVisitorBook>()->OnVisit.Broadcast(true, FTestLoginInfo{TEXT("Ada"), 1});
+		return Panel->Happened;
+	};
+	EXPECT_EQ(Visit(), TArray<FString>{TEXT("Ada at the pier 0")});
+	HostSnapshot::Click(Root.ToSharedRef(), TEXT("Sign in"));
+	EXPECT_EQ(Panel->Happened[1], TEXT("still there 0"));
+	Root.Reset();
+	EXPECT_EQ(Visit(), TArray<FString>()) << "off the screen";
+	Root = Panel->TakeWidget();
+	EXPECT_EQ(Read(TEXT("Status")), "the pier");
+	EXPECT_EQ(Visit(), TArray<FString>{TEXT("Ada at the pier 0")}) << "once";
+}
+
+TEST_F(FWidgetLayoutTest, ValuesCanBeWhatAFunctionReturns)
+{
+	const std::string Visitor = R"({"ResultOf": "/Script/TestPanels.TestVisitorBook.MakeVisitor", "With": {"Name": "{UserName.Text}", "Visits": 7})";
+	WriteLogin(R"("Calls": {"Submit.OnClicked": [
+			{"Call": "OnVisitorChanged", "With": {"Count": 2, "Visitor": )" +
+		Visitor + R"(}}},
+			{"When": {"Value": )" +
+		Visitor + R"(, "Member": "Name"}, "Is": "ada"}, "Call": "Note", "With": {"InText": {"ResultOf": "GetGreeting"}}}]},
+		"Events": {"OnVisitorChanged": [{"Set": "Status.Text", "To": "{Visitor.Name}, {Visitor.Visits}"}]})");
+	ASSERT_NE(Open(), nullptr);
+	Panel->Happened.Empty();
+	for (const TCHAR* Name : {TEXT("eve"), TEXT("ada")})
+	{
+		HostSnapshot::Type(Root.ToSharedRef(), TEXT("UserName"), Name);
+		HostSnapshot::Click(Root.ToSharedRef(), TEXT("Sign in"));
+	}
+	EXPECT_EQ(Read(TEXT("Status")), "ada, 7");
+	EXPECT_EQ(Panel->Happened, (TArray<FString>{TEXT("submit eve"), TEXT("Ahoy 0"), TEXT("submit ada")}));
+}
+
+TEST_F(FWidgetLayoutTest, ALayoutsOwnFunctionsAreCalledLikeThoseOfThePanel)
+{
+	WriteLogin(R"("Functions": {
+			"Greet": [{"Set": "Status.Text", "To": "Hello {UserName.Text}"}, {"Call": "Tell"}],
+			"Tell": [{"Call": "Note", "With": {"InText": "{Status.Text}"}}]},
+		"Events": {"OnMoodChanged": [{"Call": "Greet"}]},
+		"Calls": {"Submit.OnClicked": [{"Call": "Greet", "With": {}}]})");
+	ASSERT_NE(Open(), nullptr);
+	Panel->Happened.Empty();
+	HostSnapshot::Type(Root.ToSharedRef(), TEXT("UserName"), TEXT("ada"));
+	HostSnapshot::Click(Root.ToSharedRef(), TEXT("Sign in"));
+	Panel->OnMoodChanged(ETestMood::Busy);
+	EXPECT_EQ(Panel->Happened, (TArray<FString>{TEXT("Hello ada 0"), TEXT("submit ada"), TEXT("Hello ada 0")}));
+}
+
 TEST_F(FWidgetLayoutTest, ActionsThatRaiseTheirOwnEventAreStopped)
 {
 	WriteLogin(R"("Events": {
@@ -290,6 +356,33 @@ TEST_F(FWidgetLayoutTest, RowsOfAListAreEntriesOfALayout)
 	EXPECT_EQ(Panel->Happened.Last(), TEXT("Ash 0"));
 	EXPECT_EQ(List->GetSelectedItem(), Items[1]);
 	EXPECT_TRUE(HostLog::GetLines().ContainsByPredicate([](const auto& Line) { return Line.Text.Equals(TEXT("Blueprints cannot read 'Price' of TestListItem; it reads as empty in layouts.")); }));
+}
+
+TEST_F(FWidgetLayoutTest, ARowOfSeveralTextsIsMeantByAnyOfThem)
+{
+	WriteLayout("Entry", R"("ParentClass": "/Script/TestPanels.TestListEntry",
+		"Tree": {"Class": "HorizontalBox", "Children": [{"Class": "TextBlock", "Properties": {"Text": "Wood"}}, {"Class": "TextBlock", "Name": "Label"}, {"Class": "ListView", "Name": "Inner"}]},
+		"Events": {"OnListItemObjectSet": [{"Set": "Label.Text", "To": "{ListItemObject.DisplayName}"}, {"Call": "Inner.AddItem", "With": {"Item": "{ListItemObject}"}}]})");
+	WriteLogin(R"("Calls": {"Items.BP_OnItemClicked": [{"Call": "Note", "With": {"InText": "{Item.DisplayName}, {Items.BP_GetSelectedItem.DisplayName}"}}]})",
+		R"(, {"Class": "ListView", "Name": "Items", "Properties": {"EntryWidgetClass": "/Game/Entry"}})");
+	ASSERT_NE(Open(), nullptr);
+	TArray<UTestListItem*> Items;
+	for (const TCHAR* Name : {TEXT("Oak"), TEXT("Ash"), TEXT("Elm")})
+	{
+		Items.Add(NewObject<UTestListItem>());
+		Items.Last()->DisplayName = Name;
+	}
+	Cast<UListView>(Panel->GetWidgetFromName(FName(TEXT("Items"))))->SetListItems(Items);
+	Wait();
+	Wait(); // the lists within the rows
+	EXPECT_EQ(Refusal(HostSnapshot::Choose(Root.ToSharedRef(), TEXT("Items"), TEXT("Ash"))), "");
+	EXPECT_EQ(Panel->Happened.Last(), TEXT("Ash, Ash 0"));
+	EXPECT_EQ(Refusal(HostSnapshot::Choose(Root.ToSharedRef(), TEXT("Items"), TEXT("Wood Oak Oak"))), "") << "the whole row";
+	EXPECT_EQ(Panel->Happened.Last(), TEXT("Oak, Oak 0"));
+	EXPECT_EQ(Refusal(HostSnapshot::Choose(Root.ToSharedRef(), TEXT("Items"), TEXT("Oa"))), "The list \"Items\" has no item \"Oa\".");
+	EXPECT_EQ(Refusal(HostSnapshot::Click(Root.ToSharedRef(), TEXT("Items/Wood Elm Elm"))), "");
+	EXPECT_EQ(Panel->Happened.Last(), TEXT("Elm, Elm 0"));
+	EXPECT_NE(Refusal(HostSnapshot::Click(Root.ToSharedRef(), TEXT("Wood"))), "") << "all rows have it";
 }
 
 TEST_F(FWidgetLayoutTest, AClosedPanelIsCollectedAndItsClassLivesOnWithItsAsset)

@@ -148,14 +148,26 @@ namespace PanelTopic
 			return FExpectation::Unanswerable(TEXT("a widget is enabled, disabled, visible, hidden, checked, unchecked, read-only, selected or busy"));
 		}
 
+		FString ReadOption(const FHostWidgetDescription& Seen, const FString& Option)
+		{
+			if (Option == TEXT("value"))
+			{
+				return Seen.Value.Get(FString());
+			}
+			if (Option == TEXT("error"))
+			{
+				return Seen.Error;
+			}
+			return Option == TEXT("label") ? Seen.Label : Seen.ToolTip;
+		}
+
 		FExpectation LookAtOption(const FHostWidgetDescription& Seen, const FString& Option, const FString& Value)
 		{
 			if (Option == TEXT("state"))
 			{
 				return LookAtState(Seen, Value);
 			}
-			const FString Shown = Option == TEXT("value") ? Seen.Value.Get(FString()) : Option == TEXT("label") ? Seen.Label
-																												: Seen.ToolTip;
+			const FString Shown = ReadOption(Seen, Option);
 			return {Shown.Equals(Value), FString::Printf(TEXT("its %s is \"%s\""), *Option, *Shown), FString()};
 		}
 
@@ -228,7 +240,7 @@ namespace PanelTopic
 
 		const FScriptExpectation Expectations[] = {
 			{{TEXT("panel"), TEXT("PANEL"), 1, 1, TEXT("")}, &ExpectPanel},
-			{{TEXT("widget"), TEXT("PANEL WIDGET [value TEXT] [label TEXT] [tooltip TEXT] [state STATE]"), 2, 2, TEXT("value label tooltip state")}, &ExpectWidget},
+			{{TEXT("widget"), TEXT("PANEL WIDGET [value TEXT] [label TEXT] [tooltip TEXT] [error TEXT] [state STATE]"), 2, 2, TEXT("value label tooltip error state")}, &ExpectWidget},
 			{{TEXT("option"), TEXT("PANEL WIDGET OPTION"), 3, 3, TEXT("")}, &ExpectOption},
 		};
 	}

@@ -19,6 +19,8 @@ struct FHostWidgetDescription
 	/** What the widget holds, or what was chosen in it; unset for widgets that hold nothing. */
 	TOptional<FString> Value;
 	FString ToolTip;
+	/** What is wrong with the value, as it stands beside the widget. */
+	FString Error;
 
 	bool bEnabled = true;
 	bool bVisible = true;
@@ -78,6 +80,9 @@ public:
 
 	/** The texts that show in a widget and below it, in order, one blank between. Secrets, colours and tool tips are not texts. */
 	static FString TextOf(SWidget& Widget);
+
+	/** Whether one of those texts is exactly this one. Rows of lists within the widget are widgets of their own. */
+	static bool ShowsText(SWidget& Widget, const FString& Text);
 
 	static TArray<TSharedRef<SWidget>> ChildrenOf(SWidget& Widget);
 };

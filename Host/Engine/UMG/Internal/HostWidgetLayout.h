@@ -37,9 +37,6 @@ namespace HostWidgetLayout
 	/** The class of a layout, derived from its parent class: "<Name>" in Outer. Its widgets have the layout's tree. */
 	UWidgetBlueprintGeneratedClass* MakeClass(const TSharedRef<const FWidgetLayout>& Layout, FName Name, UObject* Outer);
 
-	/** The class of a named widget; null when the layout has none of that name. */
-	UClass* FindWidgetClass(const FWidgetLayout& Layout, FName Widget);
-
 	/** A class by path ("/Script/UMG.TextBlock"), by plain name ("TextBlock"), or of a widget blueprint by asset path. Null with a reason. */
 	UClass* FindClass(const FString& Text, FString& OutReason);
 }

@@ -11,6 +11,7 @@
 #include "VelmorantDeveloperUser.h"
 #include "VelmorantProjectRequestManager.h"
 #include "VelmorantSDKEngineSubsystem.h"
+#include "VelmorantServiceNames.h"
 #include "VlmButton.h"
 
 namespace VlmEWListDisplayer
@@ -128,7 +129,7 @@ void UVlmEWListDisplayer::ReceivedItemClicked(UObject* Item)
 	CurrentSelectionLevel = UnitLevel;
 	if (UVelmorantProjectRequestManager* RequestManager = GetRequestManager())
 	{
-		RequestManager->SetSelectedUnitGroup(FName(Row->Keycode));
+		RequestManager->SetSelectedUnitGroup(VelmorantServiceNames::Make(Row->Keycode));
 	}
 	RefreshListView();
 }

@@ -13,6 +13,7 @@
 #include "VelmorantProEditor.h"
 #include "VelmorantSDKEngineSubsystem.h"
 #include "VelmorantSDKSettings.h"
+#include "VelmorantServiceNames.h"
 #include "VlmButton.h"
 #include "VlmText.h"
 
@@ -153,7 +154,7 @@ void UVlmEWProjectSelector::Received_SelectionChanged(FString SelectedItem, ESel
 {
 	if (!SelectedItem.IsEmpty())
 	{
-		SelectedProject = GetProjectByName(FName(SelectedItem));
+		SelectedProject = GetProjectByName(VelmorantServiceNames::Make(SelectedItem));
 		UpdateSelectedProject();
 	}
 }
@@ -162,7 +163,7 @@ FProject UVlmEWProjectSelector::GetProjectByKeyCode(FName KeyCode) const
 {
 	const FString KeyCodeString = KeyCode.ToString();
 	const FProject* Project = UserProjectList.FindByPredicate([&KeyCodeString](const FProject& Candidate) {
-		return Candidate.KeyCode.Equals(KeyCodeString, ESearchCase::IgnoreCase);
+		return VelmorantServiceNames::Shorten(Candidate.KeyCode).Equals(KeyCodeString, ESearchCase::IgnoreCase);
 	});
 	return Project ? *Project : FProject();
 }
@@ -171,7 +172,7 @@ FProject UVlmEWProjectSelector::GetProjectByName(FName Name) const
 {
 	const FString NameString = Name.ToString();
 	const FProject* Project = UserProjectList.FindByPredicate([&NameString](const FProject& Candidate) {
-		return Candidate.ProjectName.Equals(NameString, ESearchCase::IgnoreCase);
+		return VelmorantServiceNames::Shorten(Candidate.ProjectName).Equals(NameString, ESearchCase::IgnoreCase);
 	});
 	return Project ? *Project : FProject();
 }

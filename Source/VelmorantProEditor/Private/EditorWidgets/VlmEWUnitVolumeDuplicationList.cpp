@@ -5,6 +5,7 @@
 #include "EngineUtils.h"
 #include "UnitVolumeActor.h"
 #include "UObject/Package.h"
+#include "VelmorantServiceNames.h"
 
 namespace VlmEWUnitVolumeDuplicationList
 {
@@ -80,12 +81,6 @@ namespace VlmEWUnitVolumeDuplicationList
 		}
 		return Clashes;
 	}
-
-	/** A key code may be longer than any name; those that only differ further on share a group. */
-	FName MakeGroupKey(const FString& Keycode)
-	{
-		return FName(FStringView(Keycode).Left(NAME_SIZE - 1));
-	}
 }
 
 void UVlmEWUnitVolumeDuplicationList::CheckForDuplications()
@@ -128,7 +123,7 @@ void UVlmEWUnitVolumeDuplicationList::GroupClashes(const TArray<AUnitVolumeActor
 	{
 		if (const FClash* Clash = ClashByClaimant[Claimant])
 		{
-			FGroup& Group = Groups.FindOrAdd(MakeGroupKey(Volumes[Claimant]->UniqueIdentifier.Keycode));
+			FGroup& Group = Groups.FindOrAdd(VelmorantServiceNames::Make(Volumes[Claimant]->UniqueIdentifier.Keycode));
 			Group.Add(Volumes[Claimant]);
 			for (const int32 Index : *Clash)
 			{

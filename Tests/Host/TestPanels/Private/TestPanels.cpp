@@ -10,6 +10,13 @@
 #include "TestLoginPanel.h"
 #include "TestToolPanel.h"
 
+UTestVisitorBook* UTestVisitorBook::GetBook(const FString& InWhere)
+{
+	UTestVisitorBook* Book = GetMutableDefault<UTestVisitorBook>();
+	Book->Place = InWhere;
+	return Book;
+}
+
 void UTestLoginPanel::OnMoodChanged_Implementation(ETestMood NewMood)
 {
 	Mood = NewMood;

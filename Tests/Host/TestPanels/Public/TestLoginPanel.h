@@ -33,6 +33,36 @@ enum class ETestMood : uint8
 
 DECLARE_DYNAMIC_MULTICAST_DELEGATE_TwoParams(FTestLoginResult, bool, bSuccess, FTestLoginInfo, LoginInfo);
 
+/** Something that is no widget, for layouts to ask and to listen to. */
+UCLASS()
+class UTestVisitorBook : public UObject
+{
+	GENERATED_BODY()
+
+public:
+	/** The only one; keeps where it lies. */
+	UFUNCTION(BlueprintCallable, Category = "Test")
+	static UTestVisitorBook* GetBook(const FString& InWhere);
+
+	UFUNCTION(BlueprintPure, Category = "Test")
+	static FTestLoginInfo MakeVisitor(const FString& Name, int32 Visits) { return FTestLoginInfo{Name, Visits}; }
+
+	UFUNCTION(BlueprintPure, Category = "Test")
+	UTestVisitorBook* GetCopy() { return this; }
+
+	UFUNCTION(BlueprintPure, Category = "Test")
+	UTestVisitorBook* GetNothing() const { return nullptr; }
+
+	UFUNCTION(BlueprintCallable, Category = "Test")
+	void Forget() { Place = TEXT("nowhere"); }
+
+	UPROPERTY()
+	FString Place;
+
+	UPROPERTY(BlueprintAssignable, Category = "Test")
+	FTestLoginResult OnVisit;
+};
+
 UINTERFACE()
 class UTestPanelInterface : public UInterface
 {

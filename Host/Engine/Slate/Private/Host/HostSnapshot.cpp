@@ -60,6 +60,10 @@ namespace HostSnapshotText
 		{
 			Facts.Add(TEXT("read-only"));
 		}
+		if (!Description.Error.IsEmpty())
+		{
+			Facts.Add(FString(TEXT("error: ")) + Escape(Description.Error));
+		}
 		Facts.Append(Description.Notes);
 		if (!Description.ToolTip.IsEmpty())
 		{
@@ -145,7 +149,7 @@ namespace HostSnapshotFind
 		const FHostWidgetDescription& Description = Seen.Description;
 		if (!Description.Name.IsNone() && Description.Name.ToString().Equals(Text, ESearchCase::IgnoreCase))
 		{
-			return 4;
+			return 5;
 		}
 		if (Description.bTransparent || Seen.bPartOfOther)
 		{
@@ -153,12 +157,16 @@ namespace HostSnapshotFind
 		}
 		if (!Description.Label.IsEmpty() && Description.Label.Equals(Text))
 		{
-			return 3;
+			return 4;
 		}
-		const bool bShowsText = Description.Role == TEXT("item") || Description.Role == TEXT("text");
-		if (bShowsText && FHostWidgetAccess::TextOf(*Seen.Widget).Equals(Text))
+		const bool bRow = Description.Role == TEXT("item");
+		if ((bRow || Description.Role == TEXT("text")) && FHostWidgetAccess::TextOf(*Seen.Widget).Equals(Text))
 		{
-			return Description.Role == TEXT("item") ? 2 : 1; // the row rather than the text in it
+			return bRow ? 3 : 1; // the row rather than the text in it
+		}
+		if (bRow && FHostWidgetAccess::ShowsText(*Seen.Widget, Text))
+		{
+			return 2;
 		}
 		return Description.ToolTip.Equals(Text) && !Text.IsEmpty() ? 1 : 0;
 	}

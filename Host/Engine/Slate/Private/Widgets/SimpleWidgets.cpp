@@ -6,6 +6,22 @@
 #include "Widgets/Layout/SBox.h"
 #include "Widgets/Text/STextBlock.h"
 
+namespace SlateText
+{
+	/** A face that is not the plain one, with its size; a colour that is not the plain white. */
+	static void NoteLook(const FSlateFontInfo& Font, const FSlateColor& Color, TArray<FString>& OutNotes)
+	{
+		if (!Font.TypefaceFontName.IsNone() && Font.TypefaceFontName != FName(TEXT("Regular")))
+		{
+			OutNotes.Add(Font.TypefaceFontName.ToString() + TEXT(" ") + FString::SanitizeFloat(Font.Size, 0));
+		}
+		if (Color.IsColorSpecified() && Color.GetSpecifiedColor() != FLinearColor::White)
+		{
+			OutNotes.Add(TEXT("#") + Color.GetSpecifiedColor().ToFColor(true).ToHex().Left(6));
+		}
+	}
+}
+
 void STextBlock::Construct(const FArguments& InArgs)
 {
 	Text = InArgs._Text;
@@ -23,6 +39,7 @@ void STextBlock::DescribeToHost(FHostWidgetDescription& OutDescription) const
 {
 	OutDescription.Role = TEXT("text");
 	OutDescription.Value = GetText().ToString();
+	SlateText::NoteLook(GetFont(), GetColorAndOpacity(), OutDescription.Notes);
 }
 
 void SBox::Construct(const FArguments& InArgs)

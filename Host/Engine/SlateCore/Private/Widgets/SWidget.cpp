@@ -23,26 +23,31 @@ namespace SlateWidget
 		virtual void DescribeToHost(FHostWidgetDescription& OutDescription) const override { OutDescription.bTransparent = true; }
 	};
 
-	static void AppendText(SWidget& Widget, FString& InOutText)
+	/** Visits the texts that show in a widget and below it, in order, until the visitor returns false. @return whether it never did */
+	static bool VisitTexts(SWidget& Widget, TFunctionRef<bool(const FString&)> Visit, TFunctionRef<bool(const FHostWidgetDescription&)> IsPassedOver)
 	{
 		const FHostWidgetDescription Description = FHostWidgetAccess::Describe(Widget);
 		if (!Description.bVisible || Description.bPassword || Description.Role == TEXT("swatch")) // a colour is no text
 		{
-			return;
+			return true;
 		}
 		const FString Own = Description.Value.IsSet() ? Description.Value.GetValue() : Description.Label;
-		if (!Own.IsEmpty())
+		if (!Own.IsEmpty() && !Visit(Own))
 		{
-			InOutText += InOutText.IsEmpty() ? Own : TEXT(" ") + Own;
+			return false;
 		}
 		if (Description.bSealed)
 		{
-			return;
+			return true;
 		}
 		for (const TSharedRef<SWidget>& Child : FHostWidgetAccess::ChildrenOf(Widget))
 		{
-			AppendText(*Child, InOutText);
+			if (!IsPassedOver(FHostWidgetAccess::Describe(*Child)) && !VisitTexts(*Child, Visit, IsPassedOver))
+			{
+				return false;
+			}
 		}
+		return true;
 	}
 }
 
@@ -131,8 +136,18 @@ TArray<FString> FHostWidgetAccess::OptionsOf(const TSharedRef<SWidget>& Widget)
 FString FHostWidgetAccess::TextOf(SWidget& Widget)
 {
 	FString Text;
-	SlateWidget::AppendText(Widget, Text);
+	const auto Append = [&Text](const FString& Own) {
+		Text += Text.IsEmpty() ? Own : TEXT(" ") + Own;
+		return true;
+	};
+	SlateWidget::VisitTexts(Widget, Append, [](const FHostWidgetDescription&) { return false; });
 	return Text;
+}
+
+bool FHostWidgetAccess::ShowsText(SWidget& Widget, const FString& Text)
+{
+	const auto IsAnother = [&Text](const FString& Own) { return !Own.Equals(Text); };
+	return !SlateWidget::VisitTexts(Widget, IsAnother, [](const FHostWidgetDescription& Child) { return Child.Role == TEXT("item"); });
 }
 
 TArray<TSharedRef<SWidget>> FHostWidgetAccess::ChildrenOf(SWidget& Widget)

@@ -15,6 +15,16 @@ enum class ECheckBoxState : uint8
 	Undetermined,
 };
 
+/** How a check box looks: a box to tick, or a button that stays pressed. */
+namespace ESlateCheckBoxType
+{
+	enum Type : int
+	{
+		CheckBox,
+		ToggleButton,
+	};
+}
+
 /** The look of a kind of widget. Host: nothing is painted, so looks are names only. */
 struct FSlateWidgetStyle
 {

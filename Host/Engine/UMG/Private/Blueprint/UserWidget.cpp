@@ -92,6 +92,10 @@ TSharedRef<SWidget> UUserWidget::RebuildWidget()
 void UUserWidget::OnWidgetRebuilt()
 {
 	bConstructed = true;
+	if (const UWidgetBlueprintGeneratedClass* LayoutClass = Cast<UWidgetBlueprintGeneratedClass>(GetClass()))
+	{
+		LayoutClass->ListenToObjects(this, true);
+	}
 	NativePreConstruct();
 	NativeConstruct();
 }
@@ -102,6 +106,10 @@ void UUserWidget::EndConstruction()
 	{
 		bConstructed = false;
 		NativeDestruct();
+		if (const UWidgetBlueprintGeneratedClass* LayoutClass = Cast<UWidgetBlueprintGeneratedClass>(GetClass()))
+		{
+			LayoutClass->ListenToObjects(this, false);
+		}
 	}
 }
 

@@ -153,6 +153,25 @@ void UEditableTextBox::SetIsReadOnly(bool bReadOnly)
 	SynchronizeProperties();
 }
 
+void UEditableTextBox::SetError(FText InError)
+{
+	if (const TSharedPtr<SEditableTextBox> Widget = StaticCastSharedPtr<SEditableTextBox>(MyWidget.Pin()))
+	{
+		Widget->SetError(InError);
+	}
+}
+
+void UEditableTextBox::ClearError()
+{
+	SetError(FText::GetEmpty());
+}
+
+bool UEditableTextBox::HasError() const
+{
+	const TSharedPtr<SEditableTextBox> Widget = StaticCastSharedPtr<SEditableTextBox>(MyWidget.Pin());
+	return Widget.IsValid() && Widget->HasError();
+}
+
 void UEditableTextBox::HandleOnTextChanged(const FText& InText)
 {
 	Text = InText;

@@ -83,19 +83,64 @@ namespace WidgetLayoutClass
 		}
 	}
 
-	static void BindCalls(UUserWidget& Panel, const FWidgetLayout& Layout)
+	/** Has the panel listen, or no longer listen, to one of its widgets or objects. */
+	static void Listen(UUserWidget& Panel, const FLayoutCall& Call, bool bListen)
+	{
+		UObject* Source = FLayoutScope{&Panel}.FindTarget(Call.Source);
+		const FMulticastDelegateProperty* Event = Source ? FindFProperty<FMulticastDelegateProperty>(Source->GetClass(), Call.Event) : nullptr;
+		if (!Event)
+		{
+			return;
+		}
+		FScriptDelegate Listener;
+		Listener.BindUFunction(&Panel, Call.GetListenerName());
+		if (bListen)
+		{
+			Event->AddDelegate(Listener, Source);
+		}
+		else
+		{
+			Event->RemoveDelegate(Listener, Source);
+		}
+	}
+
+	/** Widgets live with their panel; objects go on without it, and are listened to only while it shows. */
+	static void ListenToAll(UUserWidget& Panel, const FWidgetLayout& Layout, bool bToObjects, bool bListen)
 	{
 		for (const FLayoutCall& Call : Layout.Calls)
 		{
-			UObject* Source = FLayoutScope{&Panel}.FindTarget(Call.Widget);
-			const FMulticastDelegateProperty* Event = Source ? FindFProperty<FMulticastDelegateProperty>(Source->GetClass(), Call.Event) : nullptr;
-			if (Event)
+			if ((Layout.FindObject(Call.Source) != nullptr) == bToObjects)
 			{
-				FScriptDelegate Listener;
-				Listener.BindUFunction(&Panel, Call.GetListenerName());
-				Event->AddDelegate(Listener, Source);
+				Listen(Panel, Call, bListen);
 			}
 		}
+	}
+
+	static const UClass* FindIn(const FLayoutWidget& Widget, FName Name)
+	{
+		if (Widget.Name == Name)
+		{
+			return Widget.Class;
+		}
+		for (const FLayoutWidget& Child : Widget.Children)
+		{
+			if (const UClass* Class = FindIn(Child, Name))
+			{
+				return Class;
+			}
+		}
+		return nullptr;
+	}
+
+	/** The class of the panel (None), of a widget, or of an object. */
+	static const UClass* FindSourceClass(const FWidgetLayout& Layout, FName Source)
+	{
+		if (Source.IsNone())
+		{
+			return Layout.ParentClass;
+		}
+		const FLayoutObject* Object = Layout.FindObject(Source);
+		return Object ? Object->Class : FindIn(Layout.Tree, Source);
 	}
 
 	/** A script that does the actions on whichever panel the event was raised. */
@@ -119,7 +164,12 @@ void UWidgetBlueprintGeneratedClass::InitializeWidget(UUserWidget* UserWidget) c
 		LayoutRunner::Assign(*UserWidget, Assignment.Property, *Assignment.Value, Scope);
 	}
 	WidgetLayoutClass::SetUpAll(*Root, Layout->Tree, Scope);
-	WidgetLayoutClass::BindCalls(*UserWidget, *Layout);
+	WidgetLayoutClass::ListenToAll(*UserWidget, *Layout, false, true);
+}
+
+void UWidgetBlueprintGeneratedClass::ListenToObjects(UUserWidget* UserWidget, bool bListen) const
+{
+	WidgetLayoutClass::ListenToAll(*UserWidget, *Layout, true, bListen);
 }
 
 TSharedPtr<const FWidgetLayout> HostWidgetLayout::Read(const FString& Json, TArray<FProblem>& OutProblems)
@@ -143,45 +193,20 @@ UWidgetBlueprintGeneratedClass* HostWidgetLayout::MakeClass(const TSharedRef<con
 	UWidgetBlueprintGeneratedClass* LayoutClass = CastChecked<UWidgetBlueprintGeneratedClass>(Class);
 	LayoutClass->ClassFlags = static_cast<EClassFlags>(LayoutClass->ClassFlags & ~CLASS_Abstract);
 	LayoutClass->SetLayout(Layout);
-	for (const FLayoutEvent& Event : Layout->Events)
+	for (const TArray<FLayoutEvent>* Scripts : {&Layout->Functions, &Layout->Events})
 	{
-		HostObjects::AddScriptFunction(Class, Event.Name, WidgetLayoutClass::ScriptOf(Layout, Event.Actions));
+		for (const FLayoutEvent& Script : *Scripts)
+		{
+			HostObjects::AddScriptFunction(Class, Script.Name, WidgetLayoutClass::ScriptOf(Layout, Script.Actions));
+		}
 	}
 	for (const FLayoutCall& Call : Layout->Calls)
 	{
-		const UClass* Source = Layout->ParentClass;
-		if (!Call.Widget.IsNone())
-		{
-			Source = HostWidgetLayout::FindWidgetClass(*Layout, Call.Widget);
-		}
+		const UClass* Source = WidgetLayoutClass::FindSourceClass(*Layout, Call.Source);
 		const FMulticastDelegateProperty* Event = FindFProperty<FMulticastDelegateProperty>(Source, Call.Event);
 		HostObjects::AddScriptListener(Class, Call.GetListenerName(), *Event, WidgetLayoutClass::ScriptOf(Layout, Call.Actions));
 	}
 	return LayoutClass;
-}
-
-namespace WidgetLayoutClass
-{
-	static UClass* FindIn(const FLayoutWidget& Widget, FName Name)
-	{
-		if (Widget.Name == Name)
-		{
-			return Widget.Class;
-		}
-		for (const FLayoutWidget& Child : Widget.Children)
-		{
-			if (UClass* Class = FindIn(Child, Name))
-			{
-				return Class;
-			}
-		}
-		return nullptr;
-	}
-}
-
-UClass* HostWidgetLayout::FindWidgetClass(const FWidgetLayout& Layout, FName Widget)
-{
-	return WidgetLayoutClass::FindIn(Layout.Tree, Widget);
 }
 
 UClass* HostWidgetLayout::FindClass(const FString& Text, FString& OutReason)

@@ -140,8 +140,9 @@ namespace LayoutValues
 		}
 		if (Property.IsA<FNameProperty>())
 		{
-			FNameProperty::SetPropertyValue(Dest, FName(*Text));
-			return true;
+			const bool bFits = Text.Len() < NAME_SIZE;
+			FNameProperty::SetPropertyValue(Dest, bFits ? FName(*Text) : FName());
+			return bFits;
 		}
 		if (Property.IsA<FBoolProperty>())
 		{
@@ -218,6 +219,10 @@ namespace LayoutValues
 		if (Value.Kind == FLayoutValue::EKind::Choice)
 		{
 			return Check(Value.If, Types, OutPointer, OutReason) && Check(*Value.Then, Types, Property, OutPointer, OutReason) && Check(*Value.Else, Types, Property, OutPointer, OutReason);
+		}
+		if (Value.Kind == FLayoutValue::EKind::Result)
+		{
+			return LayoutTypes::TypeOfResult(Value, Types, OutReason).IsSet(); // the call was checked when it was read
 		}
 		const FArrayProperty* Array = Property ? CastField<FArrayProperty>(Property) : nullptr;
 		if (Value.Kind == FLayoutValue::EKind::List)

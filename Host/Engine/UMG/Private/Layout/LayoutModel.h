@@ -7,6 +7,7 @@
 #include "UObject/StrongObjectPtr.h"
 
 class UClass;
+struct FLayoutFunctionCall;
 struct FLayoutValue;
 
 /** "ListCount", "Item.DisplayName", "UserName.Text": a parameter, a widget or the panel, and members from there on. */
@@ -32,7 +33,7 @@ struct FLayoutCondition
 	TSharedPtr<const FLayoutValue> Is; // may be null
 };
 
-/** Something that is worked out when it is needed: a text with paths in it, a list of values, or one of two values. */
+/** Something that is worked out when it is needed: a text with paths in it, a list of values, one of two values, or what a function returns. */
 struct FLayoutValue
 {
 	enum class EKind : uint8
@@ -40,6 +41,7 @@ struct FLayoutValue
 		Text,
 		List,
 		Choice,
+		Result,
 	};
 
 	EKind Kind = EKind::Text;
@@ -50,6 +52,8 @@ struct FLayoutValue
 	FLayoutCondition If;
 	TSharedPtr<const FLayoutValue> Then;
 	TSharedPtr<const FLayoutValue> Else;
+	TSharedPtr<const FLayoutFunctionCall> Call; // Result
+	TArray<FString> Members; // Result: from what is returned on; may be empty
 
 	/** The path when the value is nothing but one, so that it can be passed on with its type. */
 	const FLayoutPath* GetSolePath() const
@@ -71,6 +75,16 @@ struct FLayoutAssignment
 	TSharedPtr<const FLayoutValue> Value;
 };
 
+/** Which function, of what, with which arguments. */
+struct FLayoutFunctionCall
+{
+	FName Target; // a widget or object; None: the panel itself
+	FName Function;
+	UClass* Library = nullptr; // the native class of a static function, instead of a target
+	TArray<FLayoutAssignment> Arguments;
+	bool bPassArgumentsOn = false; // those of the event, by position
+};
+
 /** One step of what an event does. */
 struct FLayoutAction
 {
@@ -83,13 +97,9 @@ struct FLayoutAction
 
 	EKind Kind = EKind::Set;
 	TOptional<FLayoutCondition> When;
-	FName Widget; // None: the panel itself
-	FName Member; // property or function
-	UClass* Library = nullptr; // Call: the native class of a static function, instead of a widget
-
-	TSharedPtr<const FLayoutValue> To; // Set
-	TArray<FLayoutAssignment> Arguments; // Call
-	bool bPassArgumentsOn = false; // Call: those of the event, by position
+	FName Target; // Set: a widget or object; None: the panel itself
+	FLayoutAssignment Assignment; // Set
+	FLayoutFunctionCall Function; // Call
 	TArray<FLayoutAction> Then; // Call: what follows when the function returned true
 	TArray<FLayoutAction> Else; // Call: and when it returned false
 };
@@ -103,16 +113,16 @@ struct FLayoutWidget
 	TArray<FLayoutWidget> Children;
 };
 
-/** What happens when a widget (None: the panel itself) raises an event. */
+/** What happens when a widget or object (None: the panel itself) raises an event. */
 struct FLayoutCall
 {
-	FName Widget;
+	FName Source;
 	FName Event;
 	TArray<FLayoutAction> Actions;
 
 	FName GetListenerName() const
 	{
-		return FName(*FString::Printf(TEXT("BndEvt__%s_%s"), Widget.IsNone() ? TEXT("self") : *Widget.ToString(), *Event.ToString()));
+		return FName(*FString::Printf(TEXT("BndEvt__%s_%s"), Source.IsNone() ? TEXT("self") : *Source.ToString(), *Event.ToString()));
 	}
 };
 
@@ -122,13 +132,28 @@ struct FLayoutEvent
 	TArray<FLayoutAction> Actions;
 };
 
+/** Something that is no widget, by a name of the layout's own. Asked for anew at each use. */
+struct FLayoutObject
+{
+	FName Name;
+	UClass* Class = nullptr;
+	TSharedPtr<const FLayoutValue> Value;
+};
+
 /** A layout that was read and found sound. */
 struct FWidgetLayout
 {
 	UClass* ParentClass = nullptr;
 	TArray<FLayoutAssignment> Properties; // of the panel
 	FLayoutWidget Tree;
+	TArray<FLayoutObject> Objects; // each knows those before it
+	TArray<FLayoutEvent> Functions; // of the layout's own, without parameters
 	TArray<FLayoutEvent> Events;
 	TArray<FLayoutCall> Calls;
 	TArray<TStrongObjectPtr<UClass>> UsedClasses; // those of widget blueprints would go otherwise
+
+	const FLayoutObject* FindObject(FName Name) const
+	{
+		return Objects.FindByPredicate([Name](const FLayoutObject& Object) { return Object.Name == Name; });
+	}
 };

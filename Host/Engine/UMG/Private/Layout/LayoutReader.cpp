@@ -108,7 +108,7 @@ TSharedPtr<FWidgetLayout> FLayoutReader::Read(const FJson& Document)
 		return nullptr;
 	}
 	Layout = MakeShared<FWidgetLayout>();
-	CheckKeys(Document, FString(), {"Class", "Comment", "ParentClass", "Properties", "Tree", "Events", "Calls"});
+	CheckKeys(Document, FString(), {"Class", "Comment", "ParentClass", "Properties", "Tree", "Objects", "Functions", "Events", "Calls"});
 	if (!ReadParentClass(Document))
 	{
 		return nullptr;
@@ -120,6 +120,13 @@ TSharedPtr<FWidgetLayout> FLayoutReader::Read(const FJson& Document)
 		CheckBindings();
 		CheckAssignments(Layout->Properties, *Layout->ParentClass);
 		CheckWidgetValues(Layout->Tree);
+		bTreeIsKnown = true;
+		ReadObjects(Document);
+		ReadFunctionNames(Document);
+	}
+	if (Problems.Num() == 0)
+	{
+		ReadFunctions(Document);
 		ReadEvents(Document);
 		ReadCalls(Document);
 	}
@@ -166,6 +173,103 @@ void FLayoutReader::ReadTree(const FJson& Document)
 	ReadWidget(*Tree, TEXT("/Tree"), Layout->Tree);
 }
 
+void FLayoutReader::ReadObjects(const FJson& Document)
+{
+	const FJson* Objects = LayoutReader::Find(Document, "Objects");
+	if (!Objects)
+	{
+		return;
+	}
+	if (!Objects->is_object())
+	{
+		Complain(TEXT("/Objects"), TEXT("objects are a JSON object: from a name to the value that leads to the object"));
+		return;
+	}
+	for (const auto& Member : Objects->items())
+	{
+		FLayoutObject Object;
+		if (ReadObject(Member.key(), Member.value(), Object))
+		{
+			Types.Widgets.Add(Object.Name, Object.Class);
+			Layout->Objects.Add(MoveTemp(Object));
+		}
+	}
+}
+
+bool FLayoutReader::ReadObject(const std::string& Name, const FJson& Json, FLayoutObject& OutObject)
+{
+	const FString Pointer = LayoutPointer::Child(TEXT("/Objects"), Name);
+	const FString NameText = LayoutReader::ToString(Name);
+	if (!CanBeNamed(NameText))
+	{
+		Complain(Pointer, FString::Printf(TEXT("'%s' cannot be the name of an object"), *NameText));
+		return false;
+	}
+	OutObject.Name = FName(*NameText);
+	if (Types.Widgets.Contains(OutObject.Name))
+	{
+		Complain(Pointer, FString::Printf(TEXT("a widget is named '%s'; case does not tell them apart"), *NameText));
+		return false;
+	}
+	OutObject.Value = ReadValue(Json, Pointer);
+	FString Reason(TEXT("this leads to no object"));
+	TOptional<FLayoutType> Type;
+	if (OutObject.Value.IsValid() && OutObject.Value->GetSolePath())
+	{
+		Type = LayoutTypes::TypeOf(*OutObject.Value->GetSolePath(), Types, Reason);
+	}
+	else if (OutObject.Value.IsValid() && OutObject.Value->Kind == FLayoutValue::EKind::Result)
+	{
+		Type = LayoutTypes::TypeOfResult(*OutObject.Value, Types, Reason);
+	}
+	OutObject.Class = Type.IsSet() ? const_cast<UClass*>(Cast<UClass>(Type.GetValue().Struct)) : nullptr;
+	if (!OutObject.Class && OutObject.Value.IsValid())
+	{
+		Complain(Pointer, Reason);
+	}
+	return OutObject.Class != nullptr;
+}
+
+void FLayoutReader::ReadFunctionNames(const FJson& Document)
+{
+	const FJson* Functions = LayoutReader::Find(Document, "Functions");
+	if (!Functions)
+	{
+		return;
+	}
+	if (!Functions->is_object())
+	{
+		Complain(TEXT("/Functions"), TEXT("functions are a JSON object: from a name to a list of actions"));
+		return;
+	}
+	for (const auto& Member : Functions->items())
+	{
+		const FString Pointer = LayoutPointer::Child(TEXT("/Functions"), Member.key());
+		const FString Name = LayoutReader::ToString(Member.key());
+		if (!CanBeNamed(Name))
+		{
+			Complain(Pointer, FString::Printf(TEXT("'%s' cannot be the name of a function"), *Name));
+			continue;
+		}
+		if (Scratch->FindFunctionByName(FName(*Name)))
+		{
+			Complain(Pointer, FString::Printf(TEXT("panel %s has a '%s' of its own"), *Layout->ParentClass->GetName(), *Name));
+			continue;
+		}
+		HostObjects::AddScriptFunction(Scratch, FName(*Name), nullptr);
+		Layout->Functions.Add({FName(*Name), {}});
+	}
+}
+
+void FLayoutReader::ReadFunctions(const FJson& Document)
+{
+	for (FLayoutEvent& Function : Layout->Functions)
+	{
+		const std::string Name = TCHAR_TO_UTF8(*Function.Name.ToString());
+		Function.Actions = ReadActions(Document["Functions"][Name], LayoutPointer::Child(TEXT("/Functions"), Name), *Scratch->FindFunctionByName(Function.Name), false);
+	}
+}
+
 void FLayoutReader::ReadEvents(const FJson& Document)
 {
 	const FJson* Events = LayoutReader::Find(Document, "Events");
@@ -209,11 +313,11 @@ void FLayoutReader::ReadCalls(const FJson& Document)
 	{
 		const FString Pointer = LayoutPointer::Child(TEXT("/Calls"), Member.key());
 		FLayoutCall Call;
-		LayoutReader::SplitTarget(LayoutReader::ToString(Member.key()), Call.Widget, Call.Event);
-		UClass* Class = Types.FindTarget(Call.Widget);
+		LayoutReader::SplitTarget(LayoutReader::ToString(Member.key()), Call.Source, Call.Event);
+		UClass* Class = Types.FindTarget(Call.Source);
 		if (!Class)
 		{
-			Complain(Pointer, FString::Printf(TEXT("the layout has no widget '%s'"), *Call.Widget.ToString()));
+			Complain(Pointer, FString::Printf(TEXT("the layout has no widget '%s'"), *Call.Source.ToString()));
 			continue;
 		}
 		const FMulticastDelegateProperty* Event = FindFProperty<FMulticastDelegateProperty>(Class, Call.Event);

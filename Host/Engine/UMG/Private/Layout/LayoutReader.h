@@ -29,12 +29,19 @@ private:
 	bool ReadParentClass(const FJson& Document);
 	void ReadTree(const FJson& Document);
 	void CheckBindings();
+	void ReadObjects(const FJson& Document);
+	/** All names first: functions may call each other. */
+	void ReadFunctionNames(const FJson& Document);
+	void ReadFunctions(const FJson& Document);
+	bool ReadObject(const std::string& Name, const FJson& Json, FLayoutObject& OutObject);
 	void ReadEvents(const FJson& Document);
 	void ReadCalls(const FJson& Document);
 
 	//~ Widgets
 	bool ReadWidget(const FJson& Json, const FString& Pointer, FLayoutWidget& OutWidget);
 	UClass* ReadWidgetClass(const FJson& Json, const FString& Pointer);
+	/** Whether widgets and objects can have that name. */
+	static bool CanBeNamed(const FString& Text);
 	void ReadWidgetName(const FJson& Json, const FString& Pointer, FLayoutWidget& OutWidget);
 	void ReadChildren(const FJson& Json, const FString& Pointer, FLayoutWidget& OutWidget);
 	/** Values are checked once all widgets are known. */
@@ -51,10 +58,12 @@ private:
 	/** Complains when Blueprints cannot call it. */
 	bool CheckCall(const UClass& Class, const UFunction& Function, const FString& Pointer);
 	bool ReadBranches(const FJson& Json, const FString& Pointer, bool bCanCallParent, const UFunction& Function, FLayoutAction& OutAction);
-	bool ReadArguments(const FJson& Json, const FString& Pointer, UFunction& Function, FLayoutAction& OutAction);
+	bool ReadArguments(const FJson& Json, const FString& Pointer, UFunction& Function, FLayoutFunctionCall& OutCall);
+	/** The function that a member of the document names. Null, with a complaint, when there is none. */
+	UFunction* ReadFunction(const FJson& Json, const char* Key, const FString& Pointer, FLayoutFunctionCall& OutCall);
 	/** "Widget.Member", or "Member" of the panel. Null when there is no such widget. */
-	UClass* ReadTarget(const FJson& Json, const FString& Pointer, FLayoutAction& OutAction);
-	UClass* ReadLibrary(const FString& Text, const FString& Pointer, FLayoutAction& OutAction);
+	UClass* ReadTarget(const FJson& Json, const FString& Pointer, FName& OutTarget, FName& OutMember);
+	UClass* ReadLibrary(const FString& Text, const FString& Pointer, FLayoutFunctionCall& OutCall);
 
 	//~ Values
 	/** Constants as they read in a text; unset for null and for what is no scalar. */
@@ -62,6 +71,7 @@ private:
 	TSharedPtr<FLayoutValue> ReadValue(const FJson& Json, const FString& Pointer);
 	bool ReadText(const FString& Text, FLayoutValue& OutValue);
 	bool ReadChoice(const FJson& Json, FLayoutValue& OutValue);
+	bool ReadResult(const FJson& Json, FLayoutValue& OutValue);
 	bool ReadList(const FJson& Json, FLayoutValue& OutValue);
 	bool ReadCondition(const FJson& Json, const FString& Pointer, FLayoutCondition& OutCondition);
 	void CheckValue(const FLayoutValue& Value, const FProperty* Property);
@@ -76,6 +86,7 @@ private:
 	TArray<HostWidgetLayout::FProblem>& Problems;
 	TSharedPtr<FWidgetLayout> Layout;
 	FLayoutTypes Types;
+	bool bTreeIsKnown = false; // before that, not every name is
 	UClass* Scratch = nullptr; // derived from the parent class, to try events out on
 };
 

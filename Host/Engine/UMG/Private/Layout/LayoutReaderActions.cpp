@@ -66,69 +66,91 @@ bool FLayoutReader::ReadAction(const FJson& Json, const FString& Pointer, bool b
 	return false;
 }
 
-UClass* FLayoutReader::ReadTarget(const FJson& Json, const FString& Pointer, FLayoutAction& OutAction)
+UClass* FLayoutReader::ReadTarget(const FJson& Json, const FString& Pointer, FName& OutTarget, FName& OutMember)
 {
 	const TOptional<FString> Text = ScalarText(Json);
-	FString Widget;
+	FString Target;
 	FString Member = Text.Get(FString());
 	if (Member.IsEmpty())
 	{
 		Complain(Pointer, TEXT("this is a text: 'Widget.Member', or 'Member' of the panel"));
 		return nullptr;
 	}
-	if (Text.GetValue().Split(TEXT("."), &Widget, &Member) && Widget != TEXT("self"))
+	if (Text.GetValue().Split(TEXT("."), &Target, &Member) && Target != TEXT("self"))
 	{
-		OutAction.Widget = FName(*Widget);
+		OutTarget = FName(*Target);
 	}
-	OutAction.Member = FName(*Member);
-	UClass* Class = Types.FindTarget(OutAction.Widget);
+	OutMember = FName(*Member);
+	UClass* Class = Types.FindTarget(OutTarget);
 	if (!Class)
 	{
-		Complain(Pointer, FString::Printf(TEXT("the layout has no widget '%s'"), *Widget));
+		Complain(Pointer, FString::Printf(TEXT("the layout has no widget '%s'"), *Target));
 	}
 	return Class;
 }
 
 /** "/Script/Module.Class.Function": a static function that Blueprints can call. */
-UClass* FLayoutReader::ReadLibrary(const FString& Text, const FString& Pointer, FLayoutAction& OutAction)
+UClass* FLayoutReader::ReadLibrary(const FString& Text, const FString& Pointer, FLayoutFunctionCall& OutCall)
 {
 	int32 Dot = INDEX_NONE;
 	Text.FindLastChar(TEXT('.'), Dot);
 	const FString ClassPath = Text.Left(Dot);
-	OutAction.Member = FName(*Text.RightChop(Dot + 1));
-	OutAction.Library = FindObject<UClass>(nullptr, *ClassPath);
-	if (!OutAction.Library)
+	OutCall.Function = FName(*Text.RightChop(Dot + 1));
+	OutCall.Library = FindObject<UClass>(nullptr, *ClassPath);
+	if (!OutCall.Library)
 	{
 		Complain(Pointer, FString::Printf(TEXT("there is no class '%s'"), *ClassPath));
 		return nullptr;
 	}
-	const UFunction* Function = OutAction.Library->FindFunctionByName(OutAction.Member);
+	const UFunction* Function = OutCall.Library->FindFunctionByName(OutCall.Function);
 	if (Function && !Function->HasAllFunctionFlags(static_cast<EFunctionFlags>(FUNC_Static | FUNC_BlueprintCallable)))
 	{
-		Complain(Pointer, FString::Printf(TEXT("'%s' is no static function that Blueprints can call"), *OutAction.Member.ToString()));
+		Complain(Pointer, FString::Printf(TEXT("'%s' is no static function that Blueprints can call"), *OutCall.Function.ToString()));
 		return nullptr;
 	}
-	return OutAction.Library;
+	return OutCall.Library;
+}
+
+UFunction* FLayoutReader::ReadFunction(const FJson& Json, const char* Key, const FString& Pointer, FLayoutFunctionCall& OutCall)
+{
+	const FString CallPointer = LayoutPointer::Child(Pointer, std::string(Key));
+	const FString Text = ScalarText(Json[Key]).Get(FString());
+	UClass* Class = Text.StartsWith(TEXT("/")) ? ReadLibrary(Text, CallPointer, OutCall) : ReadTarget(Json[Key], CallPointer, OutCall.Target, OutCall.Function);
+	UFunction* Function = Class ? Class->FindFunctionByName(OutCall.Function) : nullptr;
+	if (Function)
+	{
+		return CheckCall(*Class, *Function, CallPointer) ? Function : nullptr;
+	}
+	if (Class == Layout->ParentClass && OutCall.Target.IsNone())
+	{
+		Function = Scratch->FindFunctionByName(OutCall.Function); // one of the layout's own
+	}
+	if (Class && !Function)
+	{
+		Complain(CallPointer, FString::Printf(TEXT("%s has no function '%s'"), *Class->GetName(), *OutCall.Function.ToString()));
+	}
+	return Function;
 }
 
 bool FLayoutReader::ReadSet(const FJson& Json, const FString& Pointer, FLayoutAction& OutAction)
 {
 	OutAction.Kind = FLayoutAction::EKind::Set;
 	const FString SetPointer = LayoutPointer::Child(Pointer, std::string("Set"));
-	UClass* Class = ReadTarget(Json["Set"], SetPointer, OutAction);
+	FName& Property = OutAction.Assignment.Property;
+	UClass* Class = ReadTarget(Json["Set"], SetPointer, OutAction.Target, Property);
 	if (!Class)
 	{
 		return false;
 	}
-	const LayoutTypes::FSetter Setter = LayoutTypes::FindSetter(*Class, OutAction.Member);
+	const LayoutTypes::FSetter Setter = LayoutTypes::FindSetter(*Class, Property);
 	if (!Setter.IsValid())
 	{
-		Complain(SetPointer, FString::Printf(TEXT("%s has no property '%s'"), *Class->GetName(), *OutAction.Member.ToString()));
+		Complain(SetPointer, FString::Printf(TEXT("%s has no property '%s'"), *Class->GetName(), *Property.ToString()));
 		return false;
 	}
 	if (!Setter.Function && !LayoutAccess::CanWrite(*Setter.Property))
 	{
-		Complain(SetPointer, FString::Printf(TEXT("Blueprints cannot set '%s' of %s"), *OutAction.Member.ToString(), *Class->GetName()), TEXT("Make it BlueprintReadWrite."));
+		Complain(SetPointer, FString::Printf(TEXT("Blueprints cannot set '%s' of %s"), *Property.ToString(), *Class->GetName()), TEXT("Make it BlueprintReadWrite."));
 		return false;
 	}
 	if (!Json.contains("To"))
@@ -142,32 +164,20 @@ bool FLayoutReader::ReadSet(const FJson& Json, const FString& Pointer, FLayoutAc
 		return false;
 	}
 	CheckValue(*Value, Setter.Property);
-	OutAction.To = Value;
+	OutAction.Assignment.Value = Value;
 	return true;
 }
 
 bool FLayoutReader::ReadCall(const FJson& Json, const FString& Pointer, bool bCanCallParent, FLayoutAction& OutAction)
 {
 	OutAction.Kind = FLayoutAction::EKind::Call;
-	const FString CallPointer = LayoutPointer::Child(Pointer, std::string("Call"));
-	const FString Text = ScalarText(Json["Call"]).Get(FString());
-	UClass* Class = Text.StartsWith(TEXT("/")) ? ReadLibrary(Text, CallPointer, OutAction) : ReadTarget(Json["Call"], CallPointer, OutAction);
-	if (!Class)
+	UFunction* Function = ReadFunction(Json, "Call", Pointer, OutAction.Function);
+	if (!Function || !ReadBranches(Json, Pointer, bCanCallParent, *Function, OutAction))
 	{
 		return false;
 	}
-	UFunction* Function = Class->FindFunctionByName(OutAction.Member);
-	if (!Function)
-	{
-		Complain(CallPointer, FString::Printf(TEXT("%s has no function '%s'"), *Class->GetName(), *OutAction.Member.ToString()));
-		return false;
-	}
-	if (!CheckCall(*Class, *Function, CallPointer) || !ReadBranches(Json, Pointer, bCanCallParent, *Function, OutAction))
-	{
-		return false;
-	}
-	OutAction.bPassArgumentsOn = !Json.contains("With");
-	return OutAction.bPassArgumentsOn || ReadArguments(Json["With"], LayoutPointer::Child(Pointer, std::string("With")), *Function, OutAction);
+	OutAction.Function.bPassArgumentsOn = !Json.contains("With");
+	return OutAction.Function.bPassArgumentsOn || ReadArguments(Json["With"], LayoutPointer::Child(Pointer, std::string("With")), *Function, OutAction.Function);
 }
 
 bool FLayoutReader::CheckCall(const UClass& Class, const UFunction& Function, const FString& Pointer)
@@ -200,15 +210,15 @@ bool FLayoutReader::ReadBranches(const FJson& Json, const FString& Pointer, bool
 	return true;
 }
 
-bool FLayoutReader::ReadArguments(const FJson& Json, const FString& Pointer, UFunction& Function, FLayoutAction& OutAction)
+bool FLayoutReader::ReadArguments(const FJson& Json, const FString& Pointer, UFunction& Function, FLayoutFunctionCall& OutCall)
 {
 	if (!Json.is_object())
 	{
 		Complain(Pointer, TEXT("arguments are a JSON object: from the name of a parameter to its value"));
 		return false;
 	}
-	ReadAssignments(Json, Pointer, OutAction.Arguments);
-	for (const FLayoutAssignment& Argument : OutAction.Arguments)
+	ReadAssignments(Json, Pointer, OutCall.Arguments);
+	for (const FLayoutAssignment& Argument : OutCall.Arguments)
 	{
 		const FProperty* Parameter = Function.FindPropertyByName(Argument.Property);
 		if (!Parameter || Parameter->HasAnyPropertyFlags(CPF_ReturnParm))

@@ -19,7 +19,8 @@ TSharedPtr<FLayoutValue> FLayoutReader::ReadValue(const FJson& Json, const FStri
 	Value->Pointer = Pointer;
 	if (Json.is_object())
 	{
-		return ReadChoice(Json, *Value) ? Value.ToSharedPtr() : nullptr;
+		const bool bRead = Json.contains("ResultOf") ? ReadResult(Json, *Value) : ReadChoice(Json, *Value);
+		return bRead ? Value.ToSharedPtr() : nullptr;
 	}
 	if (Json.is_array())
 	{
@@ -112,10 +113,38 @@ bool FLayoutReader::ReadChoice(const FJson& Json, FLayoutValue& OutValue)
 	return OutValue.If.Value.IsValid() && (OutValue.If.Is.IsValid() || !Json.contains("Is")) && OutValue.Then.IsValid() && OutValue.Else.IsValid();
 }
 
+bool FLayoutReader::ReadResult(const FJson& Json, FLayoutValue& OutValue)
+{
+	OutValue.Kind = FLayoutValue::EKind::Result;
+	const FString& Pointer = OutValue.Pointer;
+	if (!bTreeIsKnown)
+	{
+		Complain(Pointer, TEXT("what a function returns can be used in actions and in 'Objects' only"));
+		return false;
+	}
+	const TSharedRef<FLayoutFunctionCall> Call = MakeShared<FLayoutFunctionCall>();
+	UFunction* Function = CheckKeys(Json, Pointer, {"ResultOf", "With", "Member"}) ? ReadFunction(Json, "ResultOf", Pointer, *Call) : nullptr;
+	if (!Function)
+	{
+		return false;
+	}
+	if (!Function->GetReturnProperty())
+	{
+		Complain(LayoutPointer::Child(Pointer, std::string("ResultOf")), FString::Printf(TEXT("'%s' returns nothing"), *Function->GetName()));
+		return false;
+	}
+	if (Json.contains("Member"))
+	{
+		ReadString(Json, "Member", Pointer).Get(FString()).ParseIntoArray(OutValue.Members, TEXT("."), false);
+	}
+	OutValue.Call = Call;
+	return !Json.contains("With") || ReadArguments(Json["With"], LayoutPointer::Child(Pointer, std::string("With")), *Function, *Call);
+}
+
 /** A value that is true, or {"Value": …, "Is": …}. */
 bool FLayoutReader::ReadCondition(const FJson& Json, const FString& Pointer, FLayoutCondition& OutCondition)
 {
-	if (!Json.is_object() || Json.contains("If"))
+	if (!Json.is_object() || Json.contains("If") || Json.contains("ResultOf"))
 	{
 		OutCondition.Value = ReadValue(Json, Pointer);
 		return OutCondition.Value.IsValid();

@@ -46,6 +46,11 @@ UClass* FLayoutReader::ReadWidgetClass(const FJson& Json, const FString& Pointer
 	return Class;
 }
 
+bool FLayoutReader::CanBeNamed(const FString& Text)
+{
+	return Text.Len() < NAME_SIZE && !FName(*Text).IsNone() && Text != TEXT("self") && !Text.Contains(TEXT(".")) && !Text.Contains(TEXT("/"));
+}
+
 void FLayoutReader::ReadWidgetName(const FJson& Json, const FString& Pointer, FLayoutWidget& OutWidget)
 {
 	if (!LayoutReaderWidgets::Find(Json, "Name"))
@@ -58,12 +63,13 @@ void FLayoutReader::ReadWidgetName(const FJson& Json, const FString& Pointer, FL
 		return;
 	}
 	const FString NamePointer = LayoutPointer::Child(Pointer, std::string("Name"));
-	OutWidget.Name = FName(*Name.GetValue());
-	if (OutWidget.Name.IsNone() || Name.GetValue() == TEXT("self") || Name.GetValue().Contains(TEXT(".")) || Name.GetValue().Contains(TEXT("/")))
+	if (!CanBeNamed(Name.GetValue()))
 	{
 		Complain(NamePointer, FString::Printf(TEXT("'%s' cannot be the name of a widget"), *Name.GetValue()));
+		return;
 	}
-	else if (Types.Widgets.Contains(OutWidget.Name))
+	OutWidget.Name = FName(*Name.GetValue());
+	if (Types.Widgets.Contains(OutWidget.Name))
 	{
 		Complain(NamePointer, FString::Printf(TEXT("another widget is named '%s'; case does not tell them apart"), *Name.GetValue()));
 	}

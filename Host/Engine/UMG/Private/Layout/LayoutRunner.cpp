@@ -3,6 +3,7 @@
 #include "Layout/LayoutRunner.h"
 
 #include "Blueprint/UserWidget.h"
+#include "Layout/LayoutCalls.h"
 #include "UObject/StrongObjectPtr.h"
 
 namespace LayoutRunner
@@ -49,49 +50,14 @@ namespace LayoutRunner
 		}
 	}
 
-	static void PassOn(const UFunction& From, const uint8* Locals, UFunction& To, FLayoutParameterBlock& OutBlock)
-	{
-		const TArray<const FProperty*> Given = LayoutTypes::ParametersOf(From);
-		const TArray<const FProperty*> Wanted = LayoutTypes::ParametersOf(To);
-		for (int32 Index = 0; Index < FMath::Min(Given.Num(), Wanted.Num()); ++Index)
-		{
-			if (LayoutTypes::IsSameType(*Given[Index], *Wanted[Index]))
-			{
-				Wanted[Index]->CopyCompleteValue(OutBlock.Get(*Wanted[Index]), Given[Index]->ContainerPtrToValuePtr<void>(Locals));
-			}
-		}
-	}
-
 	/** Then goes on by what the function returned; not at all when it could not be called. */
 	static void Call(const FLayoutAction& Action, const FLayoutScope& Scope)
 	{
-		UObject* Target = Action.Library ? Action.Library->GetDefaultObject() : Scope.FindTarget(Action.Widget);
-		UFunction* Function = Target ? Target->FindFunction(Action.Member) : nullptr;
-		if (!Function)
+		const TSharedPtr<FLayoutParameterBlock> Block = LayoutCalls::Make(Action.Function, Scope);
+		const FBoolProperty* Result = Block.IsValid() ? CastField<FBoolProperty>(Block->GetResultProperty()) : nullptr;
+		if (Result)
 		{
-			return; // the widget was taken out of the tree meanwhile
-		}
-		FLayoutParameterBlock Block(*Function);
-		if (Action.bPassArgumentsOn && Scope.Event)
-		{
-			PassOn(*Scope.Event, Scope.Locals, *Function, Block);
-		}
-		for (const FLayoutAssignment& Argument : Action.Arguments)
-		{
-			const FProperty* Parameter = Function->FindPropertyByName(Argument.Property);
-			if (Parameter && !LayoutValues::Evaluate(*Argument.Value, Scope, *Parameter, Block.Get(*Parameter)))
-			{
-				// Better nothing than a call with a value that nobody entered.
-				UE_LOG(LogTemp, Warning, TEXT("%s: %s is not called, for '%s' is not a %s."), *Scope.Panel->GetClass()->GetName(), *Function->GetName(),
-					*LayoutValues::EvaluateText(*Argument.Value, Scope), *LayoutTypes::Describe(*Parameter));
-				return;
-			}
-		}
-		Block.Call(*Target);
-		if (const FBoolProperty* Result = CastField<FBoolProperty>(Function->GetReturnProperty()))
-		{
-			const bool bResult = Result->GetPropertyValue(Block.Get(*Result));
-			Run(bResult ? Action.Then : Action.Else, Scope);
+			Run(Result->GetPropertyValue(Block->Get(*Result)) ? Action.Then : Action.Else, Scope);
 		}
 	}
 
@@ -128,9 +94,9 @@ namespace LayoutRunner
 			switch (Action.Kind)
 			{
 				case FLayoutAction::EKind::Set:
-					if (UObject* Target = Scope.FindTarget(Action.Widget))
+					if (UObject* Target = Scope.FindTarget(Action.Target))
 					{
-						Assign(*Target, Action.Member, *Action.To, Scope);
+						Assign(*Target, Action.Assignment.Property, *Action.Assignment.Value, Scope);
 					}
 					break;
 				case FLayoutAction::EKind::Call: Call(Action, Scope); break;

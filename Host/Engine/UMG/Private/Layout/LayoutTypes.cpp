@@ -5,9 +5,9 @@
 #include "Components/Widget.h"
 #include "Layout/LayoutAccess.h"
 
-UClass* FLayoutTypes::FindTarget(FName Widget) const
+UClass* FLayoutTypes::FindTarget(FName Name) const
 {
-	UClass* const* Class = Widget.IsNone() ? &PanelClass : Widgets.Find(Widget);
+	UClass* const* Class = Name.IsNone() ? &PanelClass : Widgets.Find(Name);
 	return Class ? *Class : nullptr;
 }
 
@@ -119,9 +119,9 @@ namespace LayoutTypes
 		return {};
 	}
 
-	TOptional<FLayoutType> TypeOf(const FLayoutPath& Path, const FLayoutTypes& Types, FString& OutReason)
+	/** From a type on by the members of a path; the first part is where the type comes from. */
+	static TOptional<FLayoutType> FollowMembers(TOptional<FLayoutType> Type, const FLayoutPath& Path, FString& OutReason)
 	{
-		TOptional<FLayoutType> Type = RootOf(Path.Parts[0], Types, OutReason);
 		for (int32 Index = 1; Type.IsSet() && Index < Path.Parts.Num(); ++Index)
 		{
 			const FString& Part = Path.Parts[Index];
@@ -146,6 +146,21 @@ namespace LayoutTypes
 			Type = FLayoutType{Member.Property, StructOf(*Member.Property), false};
 		}
 		return Type;
+	}
+
+	TOptional<FLayoutType> TypeOf(const FLayoutPath& Path, const FLayoutTypes& Types, FString& OutReason)
+	{
+		return FollowMembers(RootOf(Path.Parts[0], Types, OutReason), Path, OutReason);
+	}
+
+	TOptional<FLayoutType> TypeOfResult(const FLayoutValue& Value, const FLayoutTypes& Types, FString& OutReason)
+	{
+		const UClass* Class = Value.Call->Library ? Value.Call->Library : Types.FindTarget(Value.Call->Target);
+		const FProperty& Result = *Class->FindFunctionByName(Value.Call->Function)->GetReturnProperty();
+		FLayoutPath Path;
+		Path.Parts = {Value.Call->Function.ToString()};
+		Path.Parts.Append(Value.Members);
+		return FollowMembers(FLayoutType{&Result, StructOf(Result), false}, Path, OutReason);
 	}
 
 	FString Describe(const FProperty& Property)

@@ -21,10 +21,10 @@ struct FLayoutTypes
 {
 	const UFunction* Event = nullptr; // whose parameters are at hand; may be null
 	UClass* PanelClass = nullptr;
-	TMap<FName, UClass*> Widgets;
+	TMap<FName, UClass*> Widgets; // and the objects that are none
 
-	/** The class of a widget by name, of the panel for None; null when there is none. */
-	UClass* FindTarget(FName Widget) const;
+	/** The class of a widget or object by name, of the panel for None; null when there is none. */
+	UClass* FindTarget(FName Name) const;
 };
 
 /** Reading reflected objects by the names that a layout uses. */
@@ -57,6 +57,9 @@ namespace LayoutTypes
 	/** The type a path leads to; unset with a reason. */
 	TOptional<FLayoutType> TypeOf(const FLayoutPath& Path, const FLayoutTypes& Types, FString& OutReason);
 
+	/** The type that the call's result, or a member of it, has; unset with a reason. The call itself is sound. */
+	TOptional<FLayoutType> TypeOfResult(const FLayoutValue& Value, const FLayoutTypes& Types, FString& OutReason);
+
 	/** "text", "number", …: how a person would call it. */
 	FString Describe(const FProperty& Property);
 }
@@ -72,6 +75,9 @@ public:
 	FLayoutParameterBlock& operator=(const FLayoutParameterBlock&) = delete;
 
 	void* GetData() { return Memory.GetData(); }
+	/** Null when the function returns nothing. */
+	const FProperty* GetResultProperty() const { return Function.GetReturnProperty(); }
+
 	void* Get(const FProperty& Property) { return Property.ContainerPtrToValuePtr<void>(GetData()); }
 	void Call(UObject& Object);
 

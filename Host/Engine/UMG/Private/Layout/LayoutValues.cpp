@@ -3,11 +3,23 @@
 #include "Layout/LayoutValues.h"
 
 #include "Blueprint/UserWidget.h"
+#include "Blueprint/WidgetBlueprintGeneratedClass.h"
+#include "Layout/LayoutCalls.h"
 #include "Layout/LayoutFunctions.h"
 
-UObject* FLayoutScope::FindTarget(FName Widget) const
+UObject* FLayoutScope::FindTarget(FName Name) const
 {
-	return Widget.IsNone() ? static_cast<UObject*>(Panel) : Panel->GetWidgetFromName(Widget);
+	if (Name.IsNone())
+	{
+		return Panel;
+	}
+	if (UWidget* Widget = Panel->GetWidgetFromName(Name))
+	{
+		return Widget;
+	}
+	const UWidgetBlueprintGeneratedClass* Class = Cast<UWidgetBlueprintGeneratedClass>(Panel->GetClass());
+	const FLayoutObject* Object = Class ? Class->GetLayout()->FindObject(Name) : nullptr;
+	return Object ? LayoutValues::EvaluateObject(*Object->Value, FLayoutScope{Panel}) : nullptr;
 }
 
 namespace LayoutValues
@@ -72,16 +84,11 @@ namespace LayoutValues
 		return Member != nullptr;
 	}
 
-	/** False when something on the way is null just now. */
-	static bool Follow(const FLayoutPath& Path, const FLayoutScope& Scope, FDatum& OutDatum)
+	static bool TakeMembers(FDatum& Datum, const TArray<FString>& Parts, int32 First)
 	{
-		if (!TakeRoot(OutDatum, Path.Parts[0], Scope))
+		for (int32 Index = First; Index < Parts.Num(); ++Index)
 		{
-			return false;
-		}
-		for (int32 Index = 1; Index < Path.Parts.Num(); ++Index)
-		{
-			if (!TakeMember(OutDatum, Path.Parts[Index]))
+			if (!TakeMember(Datum, Parts[Index]))
 			{
 				return false;
 			}
@@ -89,15 +96,43 @@ namespace LayoutValues
 		return true;
 	}
 
+	/** False when something on the way is null just now. */
+	static bool Follow(const FLayoutPath& Path, const FLayoutScope& Scope, FDatum& OutDatum)
+	{
+		return TakeRoot(OutDatum, Path.Parts[0], Scope) && TakeMembers(OutDatum, Path.Parts, 1);
+	}
+
+	/** The same for what a function returns. */
+	static bool FollowResult(const FLayoutValue& Value, const FLayoutScope& Scope, FDatum& OutDatum)
+	{
+		const TSharedPtr<FLayoutParameterBlock> Block = LayoutCalls::Make(*Value.Call, Scope);
+		if (!Block.IsValid())
+		{
+			return false;
+		}
+		OutDatum.Blocks.Add(Block);
+		TakeProperty(OutDatum, *Block->GetResultProperty(), Block->Get(*Block->GetResultProperty()));
+		return TakeMembers(OutDatum, Value.Members, 0);
+	}
+
+	static FString ReadDatum(const FDatum& Datum)
+	{
+		return Datum.Property ? ToText(*Datum.Property, Datum.Value) : Datum.Object->GetName();
+	}
+
 	static FString ReadPath(const FLayoutPath& Path, const FLayoutScope& Scope)
 	{
 		FDatum Datum;
-		FString Text;
-		if (Follow(Path, Scope, Datum))
-		{
-			Text = Datum.Property ? ToText(*Datum.Property, Datum.Value) : Datum.Object->GetName();
-		}
+		const FString Text = Follow(Path, Scope, Datum) ? ReadDatum(Datum) : FString();
 		return Path.bNot ? FString(IsTrue(Text) ? TEXT("false") : TEXT("true")) : Text;
+	}
+
+	UObject* EvaluateObject(const FLayoutValue& Value, const FLayoutScope& Scope)
+	{
+		FDatum Datum;
+		const FLayoutPath* Path = Value.GetSolePath();
+		const bool bFound = Path ? Follow(*Path, Scope, Datum) : Value.Kind == FLayoutValue::EKind::Result && FollowResult(Value, Scope, Datum);
+		return bFound ? Datum.Object : nullptr;
 	}
 
 	FString EvaluateText(const FLayoutValue& Value, const FLayoutScope& Scope)
@@ -105,6 +140,11 @@ namespace LayoutValues
 		if (Value.Kind == FLayoutValue::EKind::Choice)
 		{
 			return EvaluateText(IsMet(Value.If, Scope) ? *Value.Then : *Value.Else, Scope);
+		}
+		if (Value.Kind == FLayoutValue::EKind::Result)
+		{
+			FDatum Datum;
+			return FollowResult(Value, Scope, Datum) ? ReadDatum(Datum) : FString();
 		}
 		FString Text;
 		for (const FLayoutPiece& Piece : Value.Pieces)
@@ -132,6 +172,48 @@ namespace LayoutValues
 		return bFits;
 	}
 
+	/** An array of objects into an array of any of their classes. */
+	static bool PassObjects(const FDatum& Datum, const FProperty& Property, void* Dest)
+	{
+		const FArrayProperty* From = Datum.Property ? CastField<FArrayProperty>(Datum.Property) : nullptr;
+		const FArrayProperty* To = CastField<FArrayProperty>(&Property);
+		const FObjectPropertyBase* Given = From ? CastField<FObjectPropertyBase>(From->Inner) : nullptr;
+		const FObjectPropertyBase* Wanted = To ? CastField<FObjectPropertyBase>(To->Inner) : nullptr;
+		if (!Given || !Wanted || !Given->PropertyClass->IsChildOf(Wanted->PropertyClass))
+		{
+			return false;
+		}
+		FScriptArrayHelper Source(From, Datum.Value);
+		FScriptArrayHelper Target(To, Dest);
+		Target.Resize(Source.Num());
+		for (int32 Index = 0; Index < Source.Num(); ++Index)
+		{
+			Wanted->SetObjectPropertyValue(Target.GetElementPtr(Index), Given->GetObjectPropertyValue(Source.GetElementPtr(Index)));
+		}
+		return true;
+	}
+
+	/** Passes a value on with its type. False when the types differ: its text may still do. */
+	static bool Pass(const FDatum& Datum, const FProperty& Property, void* Dest)
+	{
+		const FObjectPropertyBase* Object = CastField<FObjectPropertyBase>(&Property);
+		if (Object && (!Datum.Object || Datum.Object->IsA(Object->PropertyClass)))
+		{
+			Object->SetObjectPropertyValue(Dest, Datum.Object);
+			return true;
+		}
+		if (PassObjects(Datum, Property, Dest))
+		{
+			return true;
+		}
+		const bool bSame = Datum.Property && LayoutTypes::IsSameType(*Datum.Property, Property);
+		if (bSame)
+		{
+			Property.CopyCompleteValue(Dest, Datum.Value);
+		}
+		return bSame;
+	}
+
 	bool Evaluate(const FLayoutValue& Value, const FLayoutScope& Scope, const FProperty& Property, void* Dest)
 	{
 		if (Property.IsA<FDelegateProperty>())
@@ -148,27 +230,18 @@ namespace LayoutValues
 		{
 			return Evaluate(IsMet(Value.If, Scope) ? *Value.Then : *Value.Else, Scope, Property, Dest);
 		}
-		if (const FLayoutPath* Path = Value.GetSolePath())
-		{
-			FDatum Datum;
-			if (!Follow(*Path, Scope, Datum))
-			{
-				return true;
-			}
-			const FObjectPropertyBase* Object = CastField<FObjectPropertyBase>(&Property);
-			if (Object && (!Datum.Object || Datum.Object->IsA(Object->PropertyClass)))
-			{
-				Object->SetObjectPropertyValue(Dest, Datum.Object);
-				return true;
-			}
-			if (Datum.Property && LayoutTypes::IsSameType(*Datum.Property, Property))
-			{
-				Property.CopyCompleteValue(Dest, Datum.Value);
-				return true;
-			}
-		}
+		const auto FindWidget = [&Scope](const FString& Name) { return Scope.FindTarget(FName(*Name)); };
 		FString Reason;
-		return SetFromText(
-			Property, Dest, EvaluateText(Value, Scope), [&Scope](const FString& Name) { return Scope.FindTarget(FName(*Name)); }, Reason);
+		const FLayoutPath* Path = Value.GetSolePath();
+		if (!Path && Value.Kind != FLayoutValue::EKind::Result)
+		{
+			return SetFromText(Property, Dest, EvaluateText(Value, Scope), FindWidget, Reason);
+		}
+		FDatum Datum;
+		if (!(Path ? Follow(*Path, Scope, Datum) : FollowResult(Value, Scope, Datum)))
+		{
+			return Path != nullptr; // a call that could not be made gives no value
+		}
+		return Pass(Datum, Property, Dest) || SetFromText(Property, Dest, ReadDatum(Datum), FindWidget, Reason);
 	}
 }

@@ -11,8 +11,8 @@ struct FLayoutScope
 	const UFunction* Event = nullptr;
 	const uint8* Locals = nullptr; // the event's parameters
 
-	/** The panel for None; null for a widget that is not there. */
-	UObject* FindTarget(FName Widget) const;
+	/** The panel for None, otherwise a widget or object of the layout; null for one that is not there just now. */
+	UObject* FindTarget(FName Name) const;
 };
 
 /** Values at run time, and constants on their way into properties. */
@@ -29,11 +29,15 @@ namespace LayoutValues
 
 	/**
 	 * Works a value out into a property.
-	 * @return false when it does not fit; the property may then hold anything of its type. A path that leads nowhere just now leaves it as it is.
+	 * @return false when it does not fit; the property may then hold anything of its type. A path that leads nowhere just now leaves it
+	 * as it is.
 	 */
 	bool Evaluate(const FLayoutValue& Value, const FLayoutScope& Scope, const FProperty& Property, void* Dest);
 
 	FString EvaluateText(const FLayoutValue& Value, const FLayoutScope& Scope);
+
+	/** The object that a path or a function's result leads to; null when it leads nowhere just now. */
+	UObject* EvaluateObject(const FLayoutValue& Value, const FLayoutScope& Scope);
 	bool IsMet(const FLayoutCondition& Condition, const FLayoutScope& Scope);
 	bool IsTrue(const FString& Text);
 

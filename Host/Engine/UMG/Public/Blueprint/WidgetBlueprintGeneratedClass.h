@@ -20,6 +20,9 @@ public:
 	/** Gives a new widget its tree and binds its members and events by name. */
 	void InitializeWidget(UUserWidget* UserWidget) const;
 
+	/** Host: has a panel listen to the objects that its layout names, or no longer; as a blueprint binds in Construct and unbinds in Destruct. */
+	void ListenToObjects(UUserWidget* UserWidget, bool bListen) const;
+
 	/** Host: what the class was made from; set once, by the reader of layouts. It keeps the classes of its widgets. */
 	void SetLayout(const TSharedRef<const FWidgetLayout>& InLayout) { Layout = InLayout; }
 	const TSharedPtr<const FWidgetLayout>& GetLayout() const { return Layout; }

@@ -34,6 +34,16 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "Widget")
 	void SetHintText(FText InHintText);
 
+	/** Shows beside the text what is wrong with it. */
+	UFUNCTION(BlueprintCallable, Category = "Widget")
+	void SetError(FText InError);
+
+	UFUNCTION(BlueprintCallable, Category = "Widget")
+	void ClearError();
+
+	UFUNCTION(BlueprintCallable, Category = "Widget")
+	bool HasError() const;
+
 	UPROPERTY(BlueprintAssignable, Category = "Widget Event")
 	FOnEditableTextBoxChangedEvent OnTextChanged;
 

@@ -80,6 +80,13 @@ private:
 	UFUNCTION(BlueprintCallable, Category = "ListView", meta = (DisplayName = "Set List Items", AllowPrivateAccess = "true"))
 	void BP_SetListItems(const TArray<UObject*>& InListItems);
 
+	/** GetSelectedItem() for Blueprints. */
+	UFUNCTION(BlueprintCallable, Category = "ListView", meta = (DisplayName = "Get Selected Item", AllowPrivateAccess = "true"))
+	UObject* BP_GetSelectedItem() const { return GetSelectedItem(); }
+
+	UFUNCTION(BlueprintCallable, Category = "ListView", meta = (DisplayName = "Clear Selection", AllowPrivateAccess = "true"))
+	void BP_ClearSelection() { SetSelectedItem(nullptr); }
+
 	TSharedPtr<SListView<UObject*>> GetList() const;
 	TSharedRef<SWidget> MakeEntry(UObject* Item);
 

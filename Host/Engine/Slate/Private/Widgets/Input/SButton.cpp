@@ -55,6 +55,7 @@ FHostInputResult SButton::TakeHostInput(const FHostInput& Input)
 
 void SCheckBox::Construct(const FArguments& InArgs)
 {
+	Type = InArgs._Type.Get(ESlateCheckBoxType::CheckBox);
 	IsCheckboxChecked = InArgs._IsChecked;
 	OnCheckStateChanged = InArgs._OnCheckStateChanged;
 	ChildSlot[InArgs._Content.Widget];
@@ -72,18 +73,26 @@ void SCheckBox::ToggleCheckedState()
 
 void SCheckBox::DescribeToHost(FHostWidgetDescription& OutDescription) const
 {
-	OutDescription.Role = TEXT("checkbox");
+	OutDescription.Role = IsToggleButton() ? TEXT("button") : TEXT("checkbox");
 	OutDescription.Label = FHostWidgetAccess::TextOf(*ChildSlot.GetWidget());
-	OutDescription.Checked = GetCheckedState();
 	OutDescription.bSealed = true;
+	if (IsToggleButton())
+	{
+		OutDescription.bSelected = IsChecked();
+	}
+	else
+	{
+		OutDescription.Checked = GetCheckedState();
+	}
 }
 
 FHostInputResult SCheckBox::TakeHostInput(const FHostInput& Input)
 {
-	if (Input.Kind == EHostInput::Click || (Input.Kind == EHostInput::Check && Input.bOn != IsChecked()))
+	const bool bCheck = Input.Kind == EHostInput::Check && !IsToggleButton();
+	if (Input.Kind == EHostInput::Click || (bCheck && Input.bOn != IsChecked()))
 	{
 		ToggleCheckedState();
 		return FHostInputResult::Done();
 	}
-	return Input.Kind == EHostInput::Check ? FHostInputResult::Done() : SCompoundWidget::TakeHostInput(Input);
+	return bCheck ? FHostInputResult::Done() : SCompoundWidget::TakeHostInput(Input);
 }

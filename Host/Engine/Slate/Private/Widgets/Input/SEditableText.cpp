@@ -88,6 +88,7 @@ void SEditableTextBox::DescribeToHost(FHostWidgetDescription& OutDescription) co
 	OutDescription.Role = TEXT("edit");
 	OutDescription.Label = Inner.Label;
 	OutDescription.Value = Inner.Value;
+	OutDescription.Error = Error.ToString();
 	OutDescription.bReadOnly = Inner.bReadOnly;
 	OutDescription.bPassword = Inner.bPassword;
 	OutDescription.bSealed = true;

@@ -105,8 +105,19 @@ FHostInputResult STableViewBase::TakeHostInput(const FHostInput& Input)
 	return Input.Kind == EHostInput::Choose ? ChooseItem(Input.Text) : SCompoundWidget::TakeHostInput(Input);
 }
 
-/** Scrolls through the items as a person would, a view at a time, until one shows the text. */
 FHostInputResult STableViewBase::ChooseItem(const FString& Shown)
+{
+	const auto IsWholeRow = [&Shown](SWidget& Row) { return FHostWidgetAccess::TextOf(Row).Equals(Shown) || FHostWidgetAccess::Describe(Row).ToolTip.Equals(Shown); };
+	const auto IsPartOfRow = [&Shown](SWidget& Row) { return FHostWidgetAccess::ShowsText(Row, Shown); };
+	if (ClickFirst(IsWholeRow) || ClickFirst(IsPartOfRow))
+	{
+		return FHostInputResult::Done();
+	}
+	return FHostInputResult::Refused(FString::Printf(TEXT("has no item \"%s\""), *Shown));
+}
+
+/** Scrolls through the items as a person would, a view at a time, to the first row that is meant. */
+bool STableViewBase::ClickFirst(TFunctionRef<bool(SWidget&)> IsMeant)
 {
 	for (int32 First = 0; First < CountItems(); First += HostRowsInView)
 	{
@@ -114,15 +125,14 @@ FHostInputResult STableViewBase::ChooseItem(const FString& Shown)
 		GenerateRows();
 		for (int32 Row = 0; Row < Rows.Num(); ++Row)
 		{
-			const TSharedRef<SWidget> RowWidget = Rows.GetChildAt(Row);
-			if (FHostWidgetAccess::TextOf(*RowWidget).Equals(Shown) || FHostWidgetAccess::Describe(*RowWidget).ToolTip.Equals(Shown))
+			if (IsMeant(*Rows.GetChildAt(Row)))
 			{
 				ClickItem(FirstItemInView + Row);
-				return FHostInputResult::Done();
+				return true;
 			}
 		}
 	}
-	return FHostInputResult::Refused(FString::Printf(TEXT("has no item \"%s\""), *Shown));
+	return false;
 }
 
 void STableRowBorder::DescribeToHost(FHostWidgetDescription& OutDescription) const

@@ -3,10 +3,11 @@
 #pragma once
 
 #include "Framework/SlateDelegates.h"
+#include "Misc/Optional.h"
 #include "Styling/SlateTypes.h"
 #include "Widgets/SCompoundWidget.h"
 
-/** A box to tick, with whatever is put beside it as its label. */
+/** A box to tick, with whatever is put beside it as its label; as a toggle button, a button that shows whether it is pressed. */
 class SLATE_API SCheckBox : public SCompoundWidget
 {
 public:
@@ -16,6 +17,7 @@ public:
 		}
 		SLATE_DEFAULT_SLOT(FArguments, Content)
 		SLATE_STYLE_ARGUMENT(FCheckBoxStyle, Style)
+		SLATE_ARGUMENT(TOptional<ESlateCheckBoxType::Type>, Type)
 		SLATE_EVENT(FOnCheckStateChanged, OnCheckStateChanged)
 		SLATE_ATTRIBUTE(ECheckBoxState, IsChecked)
 		SLATE_ATTRIBUTE(FMargin, Padding)
@@ -36,6 +38,9 @@ protected:
 	virtual FHostInputResult TakeHostInput(const FHostInput& Input) override;
 
 private:
+	bool IsToggleButton() const { return Type == ESlateCheckBoxType::ToggleButton; }
+
+	ESlateCheckBoxType::Type Type = ESlateCheckBoxType::CheckBox;
 	TAttribute<ECheckBoxState> IsCheckboxChecked;
 	FOnCheckStateChanged OnCheckStateChanged;
 };

@@ -32,9 +32,16 @@ public:
 	void SetIsReadOnly(const TAttribute<bool>& InIsReadOnly) { EditableText->SetIsReadOnly(InIsReadOnly); }
 	void SetIsPassword(const TAttribute<bool>& InIsPassword) { EditableText->SetIsPassword(InIsPassword); }
 
+	/** Shows beside the text what is wrong with it; nothing for the empty text. */
+	void SetError(const FText& InError) { Error = InError; }
+	bool HasError() const { return !Error.IsEmpty(); }
+
 protected:
 	virtual void DescribeToHost(FHostWidgetDescription& OutDescription) const override;
 	virtual FHostInputResult TakeHostInput(const FHostInput& Input) override;
 
 	TSharedPtr<SEditableText> EditableText;
+
+private:
+	FText Error;
 };

@@ -53,6 +53,7 @@ private:
 	bool HandleTick(float DeltaTime);
 	void GenerateRows();
 	FHostInputResult ChooseItem(const FString& Shown);
+	bool ClickFirst(TFunctionRef<bool(SWidget&)> IsMeant);
 	int32 FindItemOfRow(const SWidget& Row) const;
 
 	TPanelChildren<FSlotBase> Rows;
