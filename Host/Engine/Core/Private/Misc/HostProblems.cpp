@@ -9,6 +9,14 @@ namespace HostProblems
 	namespace
 	{
 		THostState<TArray<FHostProblem>> Problems;
+
+		struct FNotWritten
+		{
+			TArray<FHostProblem> All;
+			TFunction<void(const FHostProblem&)> Listener;
+		};
+
+		THostState<FNotWritten> NotWritten;
 	}
 
 	void Report(const FString& File, int32 Line, const FString& Message, const FString& Remedy)
@@ -22,6 +30,27 @@ namespace HostProblems
 		}
 	}
 
+	void ReportNotWritten(const FString& File, const FString& Message, const FString& Remedy)
+	{
+		Report(File, 0, Message, Remedy);
+		const FHostProblem Problem{File, 0, Message, Remedy};
+		NotWritten->All.Add(Problem);
+		if (NotWritten->Listener)
+		{
+			NotWritten->Listener(Problem);
+		}
+	}
+
+	const TArray<FHostProblem>& GetNotWritten()
+	{
+		return NotWritten->All;
+	}
+
+	void SetNotWrittenListener(TFunction<void(const FHostProblem&)> Listener)
+	{
+		NotWritten->Listener = MoveTemp(Listener);
+	}
+
 	const TArray<FHostProblem>& GetAll()
 	{
 		return Problems.Get();
@@ -30,6 +59,7 @@ namespace HostProblems
 	void Clear()
 	{
 		Problems.Get().Empty();
+		NotWritten->All.Empty();
 	}
 
 	FString ToString(const FHostProblem& Problem)
