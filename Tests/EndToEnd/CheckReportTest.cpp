@@ -49,6 +49,8 @@ protected:
 
 	static inline const std::string Loaded = "LogVelmorantProEditor: Warning: VelmorantProEditor module has been loaded";
 	static inline const std::string Asked = "Notification: Velmorant: Missing UnitVolume Profile";
+	static inline const std::string Added = "Notification: UnitVolume Collision Profiles Added";
+	static inline const std::string Restart = "Notification: Restart Editor Required";
 	static inline const std::string Checked = "LogVelmorantProEditor: Checked UnitVolume DefaultChannelResponses and profile exist.";
 };
 
@@ -160,12 +162,12 @@ TEST_F(FCheckReports, TheProgramFillsThemIn)
 		size_t NumLinesToAdd;
 	} Cases[] = {
 		{"missing", Usual, {}, WithMessages({Loaded, Asked}) + "Missing: the UnitVolume channel or profile is not there. --repair adds them.\n", Usual, 0},
-		{"repaired", Usual, {"--repair"}, WithMessages({Loaded, Asked, Loaded, Checked}) + "Written " + Ini + "\n" + Lines + "Repaired: the UnitVolume channel and profile were missing and have been added.\n", Usual + ProfileLine + ChannelLine, 0},
+		{"repaired", Usual, {"--repair"}, WithMessages({Loaded, Asked, Added, Restart, Loaded, Checked}) + "Written " + Ini + "\n" + Lines + "Repaired: the UnitVolume channel and profile were missing and have been added.\n", Usual + ProfileLine + ChannelLine, 0},
 		{"sound", Usual + ProfileLine + ChannelLine, {"--repair"}, WithMessages({Loaded, Checked}) + "Sound: the UnitVolume channel and profile are there.\n", Usual + ProfileLine + ChannelLine, 0},
-		{"to be done by hand", Section + "Key=1\n", {"--repair"}, WithMessages({Loaded, Asked, Loaded, Asked}) + Hand, Section + "Key=1\n", 2},
-		{"by hand, beside a line that is there", Section + "Key=1\n" + ChannelLine, {"--repair"}, WithMessages({Loaded, Asked, Loaded, Asked}) + Hand, Section + "Key=1\n" + ChannelLine, 2},
-		{"letters of every length stay", "; \xE2\x82\xAC \xF0\x9F\x8F\xA0 \xC3\xBC\n" + Usual + "; \xE2\x82\xAC\n", {"--repair"}, WithMessages({Loaded, Asked, Loaded, Checked}) + "Written " + Ini + "\n" + Lines + "Repaired: the UnitVolume channel and profile were missing and have been added.\n", "; \xE2\x82\xAC \xF0\x9F\x8F\xA0 \xC3\xBC\n" + Usual + ProfileLine + ChannelLine + "; \xE2\x82\xAC\n", 0},
-		{"a second copy of the channel", Usual + ChannelLine, {"--repair"}, WithMessages({Loaded, Asked, Loaded, Checked}) + "Written " + Ini + "\n" + Lines + "Repaired: the UnitVolume channel and profile were missing and have been added.\n", Usual + ProfileLine + ChannelLine + ChannelLine, 0},
+		{"to be done by hand", Section + "Key=1\n", {"--repair"}, WithMessages({Loaded, Asked, Added, Restart, Loaded, Asked}) + Hand, Section + "Key=1\n", 2},
+		{"by hand, beside a line that is there", Section + "Key=1\n" + ChannelLine, {"--repair"}, WithMessages({Loaded, Asked, Added, Restart, Loaded, Asked}) + Hand, Section + "Key=1\n" + ChannelLine, 2},
+		{"letters of every length stay", "; \xE2\x82\xAC \xF0\x9F\x8F\xA0 \xC3\xBC\n" + Usual + "; \xE2\x82\xAC\n", {"--repair"}, WithMessages({Loaded, Asked, Added, Restart, Loaded, Checked}) + "Written " + Ini + "\n" + Lines + "Repaired: the UnitVolume channel and profile were missing and have been added.\n", "; \xE2\x82\xAC \xF0\x9F\x8F\xA0 \xC3\xBC\n" + Usual + ProfileLine + ChannelLine + "; \xE2\x82\xAC\n", 0},
+		{"a second copy of the channel", Usual + ChannelLine, {"--repair"}, WithMessages({Loaded, Asked, Added, Restart, Loaded, Checked}) + "Written " + Ini + "\n" + Lines + "Repaired: the UnitVolume channel and profile were missing and have been added.\n", Usual + ProfileLine + ChannelLine + ChannelLine, 0},
 	};
 	for (const auto& Case : Cases)
 	{
@@ -229,8 +231,8 @@ TEST_F(FCheckReports, DifferencesAreThoseThatPatchReads)
 		const FFileText File{FString(Path), true, "a\n"};
 		EXPECT_EQ(FileChanges::Describe(TEXT("/p/"), FFileText{FString(Path), true, ""}, File), std::string("--- ") + Name + "\n+++ " + Name + "\n@@ -0,0 +1 @@\n+a\n");
 	}
-	const TArray<FString> Added = LineDifference::GetAdded("a\nb\nb\r\n", "b\na\na\r\nc\nb\nb\na");
-	EXPECT_EQ(TCHAR_TO_UTF8(*FString::Join(Added, TEXT(","))), std::string("a,c,b,a")) << "a second copy is one more line";
+	const TArray<FString> Extra = LineDifference::GetAdded("a\nb\nb\r\n", "b\na\na\r\nc\nb\nb\na");
+	EXPECT_EQ(TCHAR_TO_UTF8(*FString::Join(Extra, TEXT(","))), std::string("a,c,b,a")) << "a second copy is one more line";
 	EXPECT_EQ(LineDifference::Split("a\r\nb\rc\n\nd\r\r\n\n"), (LineDifference::FLines{"a", "b", "c", "", "d", "", ""}));
 	EXPECT_EQ(LineDifference::Split("\ra\n\rb"), (LineDifference::FLines{"", "a", "", "b"}));
 }
