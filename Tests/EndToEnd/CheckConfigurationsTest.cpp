@@ -111,17 +111,6 @@ TEST_F(FCheckConfigurations, AProjectWithoutTheSectionGetsItFirst)
 	}
 }
 
-TEST_F(FCheckConfigurations, ASectionWithoutProfilesIsLeftToThePerson)
-{
-	const std::string Ini = Section + "Key=1\n";
-	WriteIni(Ini);
-	const FProgramResult Result = Check({"--repair"});
-	EXPECT_EQ(Result.ExitStatus, 1) << Result.Errors;
-	EXPECT_NE(Result.Output.find(ProfileLine + ChannelLine), std::string::npos) << Result.Output;
-	EXPECT_EQ(ReadIni(), Ini);
-	EXPECT_FALSE(Folder.Exists("Project/Saved/VelmorantScratch"));
-}
-
 TEST_F(FCheckConfigurations, AReadOnlyFileIsRefused)
 {
 	WriteIni(Section + OtherProfile);

@@ -38,6 +38,8 @@ TEST_F(FCheckPlatforms, ALayerThatTakesTheProfileAwayIsNamed)
 		{"the user's", "UserEngine.ini", Clear, {}, "UserEngine.ini(3)"},
 		{"the one profile alone", "Linux/LinuxEngine.ini", Section + "-" + ProfileLine.substr(1), {}, "Linux/LinuxEngine.ini(2)"},
 		{"another list in its place", "Linux/LinuxEngine.ini", Section + "Profiles=(Name=\"Only\")\n", {}, "Linux/LinuxEngine.ini(2)"},
+		{"taken twice: the line that counts", "Linux/LinuxEngine.ini", Clear + ProfileLine + "!Profiles=ClearArray\n", {}, "Linux/LinuxEngine.ini(5)"},
+		{"another profile alone", "Linux/LinuxEngine.ini", Section + "-" + OtherProfile.substr(1), {}, ""},
 		{"cleared and brought again", "Linux/LinuxEngine.ini", Clear + ProfileLine, {}, ""},
 		{"another section", "Linux/LinuxEngine.ini", "[Other]\n!Profiles=ClearArray\n", {}, ""},
 	};

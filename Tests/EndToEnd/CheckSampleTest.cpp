@@ -3,8 +3,6 @@
 #include "CollisionIni.h"
 #include "ProjectOnDisk.h"
 
-#include <nlohmann/json.hpp>
-
 class FCheckSample : public FProjectOnDisk
 {
 protected:
@@ -57,23 +55,6 @@ TEST_F(FCheckSample, TheProjectMayBeNamedByItsFileOrItsFolder)
 {
 	EXPECT_EQ(FProgramRun::Run({"check", GetProject() + "/HarborTower.uproject"}, GetEnvironment()).ExitStatus, 1);
 	EXPECT_EQ(FProgramRun::Run({"check", GetProject() + "/"}, GetEnvironment()).ExitStatus, 1);
-}
-
-TEST_F(FCheckSample, JsonTellsWhatWasWritten)
-{
-	const FProgramResult Result = Check({"--repair", "--json"});
-	const nlohmann::json Report = nlohmann::json::parse(Result.Output, nullptr, false);
-	ASSERT_TRUE(Report.is_object()) << Result.Output;
-	EXPECT_EQ(Report.value("status", -1), 0);
-	EXPECT_EQ(Report.value("verdict", ""), "repaired");
-	EXPECT_EQ(Report.value("project", ""), GetProject() + "/HarborTower.uproject");
-	EXPECT_TRUE(Report["pendingWrites"].empty());
-	EXPECT_TRUE(Report["problems"].empty());
-	ASSERT_EQ(Report["writtenFiles"].size(), 1u) << Result.Output;
-	EXPECT_EQ(Report["writtenFiles"][0].value("path", ""), Folder.GetNative(IniFile).string());
-	ASSERT_EQ(Report["writtenFiles"][0]["addedLines"].size(), 2u);
-	EXPECT_EQ(Report["writtenFiles"][0]["addedLines"][0].get<std::string>() + "\n", CollisionIni::ProfileLine);
-	EXPECT_EQ(Report["writtenFiles"][0]["addedLines"][1].get<std::string>() + "\n", CollisionIni::ChannelLine);
 }
 
 TEST_F(FCheckSample, UnreadableMapsDoNotSpoilTheVerdict)

@@ -62,6 +62,7 @@ TEST_F(FCheckUndo, GivesTheFileBackAsItWas)
 		const FProgramResult Result = Check({"--undo"});
 		EXPECT_EQ(Result.ExitStatus, 0) << Result.Output << Result.Errors;
 		EXPECT_EQ(ReadIni(), Case.Before);
+		EXPECT_TRUE(Folder.Exists(IniFile)) << "it was there, be it empty";
 		EXPECT_EQ(Check().ExitStatus, 1);
 		EXPECT_EQ(Check({"--undo"}).ExitStatus, 2) << "there is nothing left to take back";
 		EXPECT_EQ(ReadIni(), Case.Before);
@@ -72,6 +73,12 @@ TEST_F(FCheckUndo, GivesTheFileBackAsItWas)
 	EXPECT_EQ(Check({"--repair"}).ExitStatus, 0);
 	EXPECT_EQ(Check({"--undo"}).ExitStatus, 0);
 	EXPECT_FALSE(Folder.Exists(IniFile));
+
+	SCOPED_TRACE("no file, and somebody put something into the new one");
+	EXPECT_EQ(Check({"--repair"}).ExitStatus, 0);
+	WriteIni("; mine\n" + ReadIni());
+	EXPECT_EQ(Check({"--undo"}).ExitStatus, 0);
+	EXPECT_EQ(ReadIni(), "; mine\n");
 }
 
 TEST_F(FCheckUndo, FindsTheLinesWhereTheyStandNow)

@@ -6,11 +6,11 @@
 #include "HAL/PlatformProcess.h"
 #include "Misc/FileHelper.h"
 #include "Misc/Paths.h"
-#include "PrivateFile.h"
 #include "VelmorantSDKLog.h"
 #include "VelmorantSDKTypes.h"
 
 #include <nlohmann/json.hpp>
+#include <string>
 
 namespace SavedUserData
 {
@@ -48,11 +48,12 @@ bool SavedUserData::Save(const FVelmorantUserInformation& UserInformation)
 	Document["userName"] = TCHAR_TO_UTF8(*UserInformation.UserName);
 	Document["password"] = TCHAR_TO_UTF8(*UserInformation.Password);
 
-	FString Error;
-	const bool bSaved = PrivateFile::Write(GetPath(), Document.dump(), Error);
+	const std::string Text = Document.dump();
+	const TArrayView<const uint8> Bytes(reinterpret_cast<const uint8*>(Text.data()), static_cast<int32>(Text.size()));
+	const bool bSaved = FFileHelper::SaveArrayToFile(Bytes, *GetPath());
 	if (!bSaved)
 	{
-		UE_LOG(LogVelmorantSDK, Error, TEXT("The user could not be remembered in %s: %s"), *GetPath(), *Error);
+		UE_LOG(LogVelmorantSDK, Error, TEXT("The user could not be remembered in %s."), *GetPath());
 	}
 	return bSaved;
 }

@@ -89,10 +89,7 @@ namespace CollisionCheck
 		{
 			for (const FString& File : Files)
 			{
-				if (!Report.WrittenFiles.ContainsByPredicate([&File](const FFileChange& Change) { return Change.Path.Equals(File); }))
-				{
-					Report.WrittenFiles.Add(File.Equals(After.Path) ? FileChanges::Compare(Before, After) : FFileChange{File, false, {}, {}});
-				}
+				Report.WrittenFiles.Add(File.Equals(After.Path) ? FileChanges::Compare(Before, After) : FFileChange{File, false, {}, {}});
 			}
 		}
 
@@ -160,7 +157,12 @@ namespace CollisionCheck
 		});
 		if (bRestart)
 		{
-			Verdict = RunEditor(Report, Editor, EWrites::OnDisk, [&Written](EToolkitVerdict) { Written.Append(HostFiles::GetWrittenFiles()); });
+			Verdict = RunEditor(Report, Editor, EWrites::OnDisk, [&Written](EToolkitVerdict) {
+				for (const FString& File : HostFiles::GetWrittenFiles())
+				{
+					Written.AddUnique(File);
+				}
+			});
 		}
 		const FFileText After = FFileText::Read(IniFile);
 		AddWritten(Report, Written, Before, After);

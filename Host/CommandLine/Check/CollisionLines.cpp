@@ -2,15 +2,14 @@
 
 #include "Check/CollisionLines.h"
 
-#include "Check/LineDifference.h"
+#include "Check/FileChanges.h"
 #include "EditorHost.h"
 #include "HostFiles.h"
-#include "HostTextFiles.h"
 #include "Misc/Paths.h"
 #include "UObject/Class.h"
 #include "UObject/UObjectGlobals.h"
 
-#include <string>
+#include <string_view>
 
 namespace CollisionLines
 {
@@ -35,9 +34,8 @@ namespace CollisionLines
 		const FEditorHost Editor(Options);
 		const FString File = FPaths::SourceConfigDir() + TEXT("DefaultEngine.ini");
 		HostFiles::Write(File, Configuration);
+		const FFileText Before = FFileText::Read(File);
 		CallRepair();
-		std::string After;
-		HostTextFiles::ReadUtf8(File, After);
-		return LineDifference::GetAdded(Configuration, After);
+		return FileChanges::Compare(Before, FFileText::Read(File)).AddedLines;
 	}
 }

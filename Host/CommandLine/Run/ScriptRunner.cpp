@@ -48,6 +48,21 @@ namespace ScriptRunner
 			return Result;
 		}
 
+		/** A person sees that work was not kept, and goes no further. */
+		FStepResult JudgeWrites(const FStepResult& Result, const TArray<FHostProblem>& NotWritten)
+		{
+			if (Result.Outcome != EStepOutcome::Done || NotWritten.IsEmpty())
+			{
+				return Result;
+			}
+			TArray<FString> Texts;
+			for (const FHostProblem& Problem : NotWritten)
+			{
+				Texts.AddUnique(HostProblems::ToString(Problem));
+			}
+			return FStepResult::Error(FString::Join(Texts, TEXT("\n")));
+		}
+
 		/** What the engine would not survive ends the script, not the program. */
 		FStepResult RunGuarded(const FScriptStep& Step, FScriptContext& Context)
 		{
@@ -125,7 +140,7 @@ FStepResult FScriptRunner::Do(const FScriptStep& Step, FStepRecord& Record)
 	Record.Text = ScriptRunner::GetShownText(Step, Context);
 	Record.Output = Context.GetOutput();
 	Record.Events = Session.GetEvents().Take();
-	return Result;
+	return ScriptRunner::JudgeWrites(Result, Record.Events.NotWritten);
 }
 
 void FScriptRunner::RestartIfWanted(FStepResult& Result)

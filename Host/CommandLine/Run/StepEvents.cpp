@@ -37,6 +37,7 @@ void FEventWatch::Collect()
 	CollectUrls();
 	CollectLog();
 	CollectProblems();
+	CollectNotWritten();
 }
 
 void FEventWatch::CollectNotifications()
@@ -102,6 +103,15 @@ void FEventWatch::CollectProblems()
 	}
 }
 
+void FEventWatch::CollectNotWritten()
+{
+	const TArray<FHostProblem>& NotWritten = HostProblems::GetNotWritten();
+	for (; NumNotWritten < NotWritten.Num(); ++NumNotWritten)
+	{
+		Events.NotWritten.Add(NotWritten[NumNotWritten]);
+	}
+}
+
 FStepEvents FEventWatch::Take()
 {
 	FStepEvents Taken = MoveTemp(Events);
@@ -116,4 +126,5 @@ void FEventWatch::StartAnew()
 	NumUrls = 0;
 	NumLogLines = 0;
 	NumProblems = 0;
+	NumNotWritten = 0;
 }

@@ -32,6 +32,7 @@ struct FStepEvents
 	TArray<FString> Log; // warnings, errors, and all that the toolkit says
 	TArray<FString> Urls; // web pages that were opened
 	TArray<FHostProblem> Problems;
+	TArray<FHostProblem> NotWritten; // the work that was not kept; also where it stands among the problems from an earlier step
 };
 
 /** Notes what is new in the running editor since it was last asked. */
@@ -55,6 +56,7 @@ private:
 	void CollectQuestions();
 	void CollectUrls();
 	void CollectProblems();
+	void CollectNotWritten();
 
 	FStepEvents Events;
 	int32 NumNotifications = 0;
@@ -62,6 +64,7 @@ private:
 	int32 NumUrls = 0;
 	int32 NumLogLines = 0;
 	int32 NumProblems = 0;
+	int32 NumNotWritten = 0;
 };
 
 namespace StepEvents

@@ -26,6 +26,7 @@
 #include "Misc/Paths.h"
 #include "Modules/ModuleManager.h"
 #include "ToolbarHost.h"
+#include "WriteNotices.h"
 
 #include <cstdlib>
 
@@ -121,6 +122,7 @@ void FEditorHost::BringUpEngine(const FEditorHostOptions& Options)
 	{
 		HostSlate::Start();
 	}
+	WriteNotices::Start();
 	FSlateNotificationManager::Get().SetAllowNotifications(Options.bAllowNotifications);
 }
 

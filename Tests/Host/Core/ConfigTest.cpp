@@ -54,7 +54,18 @@ namespace
 			{"a lone CR", "[S]\rA=1\rB=2\r", {"A=1", "B=2"}},
 			{"a mark in front", "\xEF\xBB\xBF[S]\nA=\xC3\xBC\n", {"A=\xC3\xBC"}},
 			{"a key may look numbered", "[S]\nA_01=1\nA_1=2\nA_0=3\n", {"A_01=1", "A_1=2", "A_0=3"}},
-			{"what is too long for a key is none", "[S]\n" + std::string(2000, 'k') + "=1\nA=2\n", {"A=2"}},
+			{"a key may be as long as a name", "[S]\n" + std::string(1023, 'k') + "=1\nA=2\n", {std::string(1023, 'k') + "=1", "A=2"}},
+			{"what is too long for a key is none", "[S]\n" + std::string(1024, 'k') + "=1\nA=2\n", {"A=2"}},
+			{"all kinds of blanks go", "[S]\n\f\v\tA\v=\f1\v \n", {"A=1"}},
+			{"a bracket alone is no header", "[S]\n[\n]\n[T\nT]\nA=1\n", {"A=1"}},
+			{"a header may name nothing", "[S]\nA=1\n[]\nB=2\n", {"A=1"}},
+			{"a comment joins nothing", "[S]\n; c\\\nA=1\n ; c\\\n[T]\nB=2\n", {"A=1"}},
+			{"a comment within joined lines is text", "[S]\nA=1\\\n;2\nB=3\n", {"A=1;2", "B=3"}},
+			{"joined lines at the very end", "[S]\nA=1\\", {"A=1"}},
+			{"what stands behind the closing quote goes", "[S]\nA=\"x\" y\nB=\"open\nC=x \"y\"\n", {"A=x", "B=open", "C=x \"y\""}},
+			{"other letters behind a backslash mean themselves", "[S]\nA=\"\\t\\\\n\\\"\nB=\\n\n", {"A=\\t\\n\"", "B=\\n"}},
+			{"all mixed line ends", "[S]\rA=1\r\nB=2\n\rC=3\r\r\nD=4", {"A=1", "B=2", "C=3", "D=4"}},
+			{"a mark in UTF-16", std::string("\xFF\xFE[\0S\0]\0\n\0A\0=\0\xAC\x20\n\0", 18), {"A=\xE2\x82\xAC"}},
 			{"an empty section", "[S]\n[T]\nA=1\n", {}},
 			{"no such section", "[T]\nA=1\n", {"no such section"}},
 		};
@@ -74,9 +85,19 @@ namespace
 		Folder.Write("Config/DefaultEngine.ini", "[S]\nA=2\n[T]\n");
 		EXPECT_EQ(GetSection(File, TEXT("S")), std::vector<std::string>{"A=1"});
 		EXPECT_FALSE(GConfig->DoesSectionExist(TEXT("T"), File));
+		const FConfigSection* const Forced = GConfig->GetSection(TEXT("T"), true, File);
+		ASSERT_NE(Forced, nullptr);
+		EXPECT_EQ(Forced->Num(), 0) << "whoever insists gets an empty one";
+		EXPECT_FALSE(GConfig->DoesSectionExist(TEXT("T"), File));
 		GConfig->UnloadFile(File);
 		EXPECT_EQ(GetSection(File, TEXT("S")), std::vector<std::string>{"A=2"});
 		EXPECT_TRUE(GConfig->DoesSectionExist(TEXT("t"), File));
+		Folder.Write("Config/DefaultEngine.ini", "A=0\n[S]\nA=3\n");
+		GConfig->LoadFile(File);
+		EXPECT_EQ(GetSection(File, TEXT("S")), std::vector<std::string>{"A=3"});
+		EXPECT_EQ(GetSection(File, TEXT("")), std::vector<std::string>{"no such section"});
+		Folder.Write("Engine.ini", "[S]\n+A=1\n-A=1\n");
+		EXPECT_EQ(GetSection(Folder.Get("Engine.ini"), TEXT("S")), (std::vector<std::string>{"+A=1", "-A=1"})) << "a branch's name alone makes none";
 	}
 
 	TEST_F(Config, ACopyOfASingleFileFollowsWhatTheEditorWrites)
@@ -140,6 +161,12 @@ namespace
 			{"minus of an unknown value does nothing", "+A=1", "-A=2", "", {"1"}},
 			{"what was removed can be added at the end", "+A=1\n+A=2", "-A=1\n+A=1", "", {"2", "1"}},
 			{"an exclamation mark removes all", "+A=1\n+A=2", "!A=ClearArray\n+A=3", "", {"3"}},
+			{"minus removes every copy", ".A=1\n.A=2\n.A=1", "-A=1", "", {"2"}},
+			{"a star adds as plus does", "*A=1", "*A=1\n*A=2", "", {"1", "2"}},
+			{"an at sign brings nothing", "A=1", "@A=2", "", {"1"}},
+			{"an operation without key brings nothing", "A=1", "+=2\n!=3", "", {"1"}},
+			{"what is too long for a key is none", std::string(1024, 'k') + "=1\nA=1", "", "", {"1"}},
+			{"keys above the first header belong to none", "A=1", "", "", {"1"}},
 			{"keys ignore case", "+a=1", "+A=2", "", {"1", "2"}},
 			{"the user has the last word", "A=1", "A=2", "A=3", {"3"}},
 			{"no layer has the key", "", "", "", {}},
@@ -149,7 +176,7 @@ namespace
 		{
 			SCOPED_TRACE(Case.Behaviour);
 			Folder.Write("Engine/Config/BaseEngine.ini", "[S]\n" + Case.Base);
-			Folder.Write("Config/DefaultEngine.ini", "[S]\n" + Case.Project);
+			Folder.Write("Config/DefaultEngine.ini", "A=above\n[S]\n" + Case.Project);
 			Folder.Write("Saved/Config/LinuxEditor/Engine.ini", "[S]\n" + Case.User);
 			HostConfig::ReloadBranch(TEXT("Engine"));
 			EXPECT_EQ(GetArray(GEngineIni, TEXT("A")), Case.Expected);
@@ -207,14 +234,14 @@ namespace
 	{
 		Folder.Write("Config/DefaultEngine.ini", "; c\n[S]\n+A=1\n+A=2\n+A=3\nB=4\n+C=5\n[T]\n!C=ClearArray\n");
 		Folder.Write("Config/Linux/LinuxEngine.ini", "[S]\r\n-a = 2\r\nB=6\r\n");
-		Folder.Write("Config/UserEngine.ini", "[Other]\n\n[s]\n!A=ClearArray\n+A=3\n");
+		Folder.Write("Config/UserEngine.ini", "[Other]\n\n[s]\rX=1\\\n2\r!A=ClearArray\n+A=3\n");
 		std::vector<std::string> Found;
 		for (const HostConfig::FRemovedValue& Removed : HostConfig::GetRemovedValues(TEXT("Engine"), TEXT("S")))
 		{
 			const std::string Relative = std::filesystem::relative(ToUtf8(Removed.File), Folder.GetNative()).string();
 			Found.push_back(ToUtf8(Removed.Key) + "=" + ToUtf8(Removed.Value) + " by " + Relative + "(" + std::to_string(Removed.Line) + ") " + ToUtf8(Removed.LineText));
 		}
-		EXPECT_EQ(Found, (std::vector<std::string>{"A=1 by Config/UserEngine.ini(4) !A=ClearArray", "A=2 by Config/Linux/LinuxEngine.ini(2) -a = 2", "A=3 by Config/UserEngine.ini(4) !A=ClearArray", "B=4 by Config/Linux/LinuxEngine.ini(3) B=6"}));
+		EXPECT_EQ(Found, (std::vector<std::string>{"A=1 by Config/UserEngine.ini(6) !A=ClearArray", "A=2 by Config/Linux/LinuxEngine.ini(2) -a = 2", "A=3 by Config/UserEngine.ini(6) !A=ClearArray", "B=4 by Config/Linux/LinuxEngine.ini(3) B=6"}));
 	}
 
 	TEST_F(Config, AnyNameIsABranchAndAnyLayerMayBeMissing)
@@ -226,12 +253,22 @@ namespace
 
 	TEST_F(Config, MacrosInValuesStandForFolders)
 	{
-		Folder.Write("Config/DefaultGame.ini", "[S]\nA=%GAMEDIR%Content\nB=100%\n");
+		HostPaths::SetProjectFile(Folder.Get("Harbor.uproject"));
+		HostPaths::SetEngineDir(Folder.Get("Engine"));
+		Folder.Write("Config/DefaultGame.ini", "[S]\nA=%GAMEDIR%Content %GAMEDIR%\nB=100%\nD=%GAME%-%ENGINEDIR%-%game%\nE=%APPSETTINGSDIR%\n");
 		FString Value;
-		ASSERT_TRUE(GConfig->GetString(TEXT("S"), TEXT("A"), Value, GGameIni));
-		EXPECT_EQ(ToUtf8(Value), ToUtf8(Folder.Get("Content")));
-		ASSERT_TRUE(GConfig->GetString(TEXT("S"), TEXT("B"), Value, GGameIni));
-		EXPECT_EQ(ToUtf8(Value), "100%");
+		const std::string Project = Folder.GetNative().string() + "/";
+		const std::pair<const TCHAR*, std::string> Expected[] = {
+			{TEXT("A"), Project + "Content " + Project},
+			{TEXT("B"), "100%"},
+			{TEXT("D"), "Harbor-" + Project + "Engine/-%game%"},
+			{TEXT("E"), Project + "Saved/Config/"},
+		};
+		for (const auto& [Key, Text] : Expected)
+		{
+			ASSERT_TRUE(GConfig->GetString(TEXT("S"), Key, Value, GGameIni));
+			EXPECT_EQ(ToUtf8(Value), Text);
+		}
 		EXPECT_FALSE(GConfig->GetString(TEXT("S"), TEXT("C"), Value, GGameIni));
 	}
 
@@ -306,6 +343,18 @@ namespace
 			{"a missing last line end stays missing", "[S]\nX=1", {{"A", "2"}}, "[S]\nX=1\nA=2"},
 			{"an entry on several lines is one", "[S]\nA=1\\\n2\nX=1\n", {{"A", "3"}}, "[S]\nA=3\nX=1\n"},
 			{"a comment that looks like an entry", "[S]\n;A=1\n", {{"A", "2"}}, "[S]\n;A=1\nA=2\n"},
+			{"keys above the first header are none of its", "A=0\n\n[S]\nA=1\n", {{"A", "2"}}, "A=0\n\n[S]\nA=2\n"},
+			{"entries on several lines that say the same stay", "[S]\nA=1\\\n2\\\n3\nX=1\n", {{"A", "123"}}, "[S]\nA=1\\\n2\\\n3\nX=1\n"},
+			{"what is wanted on one line comes in place of several", "[S]\r\nA=1\\\r\n2\nX=1\r\n", {{"A", "1"}}, "[S]\r\nA=1\nX=1\r\n"},
+			{"foreign entries on several lines stay", "[S]\nX=1\\\nA=9\n", {{"A", "1"}}, "[S]\nX=1\\\nA=9\nA=1\n"},
+			{"other operation, same value", "[S]\n-List=1\n", {{"+List", "1"}}, "[S]\n+List=1\n"},
+			{"new keys come in the caller's order", "[S]\n\n", {{"+List", "1"}, {"A", "2"}, {"+List", "3"}}, "[S]\n+List=1\n+List=3\nA=2\n\n"},
+			{"a blank line in front of a new section is there already", "[T]\nB=2\n \n", {{"A", "1"}}, "[T]\nB=2\n \n[S]\nA=1\n"},
+			{"a file of comments", "; c", {{"A", "1"}}, "; c\n\n[S]\nA=1"},
+			{"a section's last line is a comment", "[S]\n; c\n\n[T]\n", {{"A", "1"}}, "[S]\n; c\nA=1\n\n[T]\n"},
+			{"line breaks in values", "[S]\n", {{"A", "a\r\nb"}, {"+List", "x\\y"}, {"+List", "a\"b"}, {"+List", ""}}, "[S]\nA=\"a\\nb\"\n+List=x\\y\n+List=a\"b\n+List=\n"},
+			{"nothing to say to a section that is not there", "[T]\nA=1\n", {}, "[T]\nA=1\n"},
+			{"a euro sign beside it", "; \xE2\x82\xAC\n[S]\nA=1\n; \xF0\x9F\x8F\xA0\n", {{"A", "2"}}, "; \xE2\x82\xAC\n[S]\nA=2\n; \xF0\x9F\x8F\xA0\n"},
 			{"values are quoted where they must be", "[S]\n", {{"+List", " x "}, {"+List", "\"q\""}, {"+List", "(a=\"b\")"}, {"+List", "c\\"}}, "[S]\n+List=\" x \"\n+List=\"\\\"q\\\"\"\n+List=(a=\"b\")\n+List=\"c\\\\\"\n"},
 			{"a mark stays", "\xEF\xBB\xBF[S]\nA=1\n", {{"A", "\xC3\xBC"}}, "\xEF\xBB\xBF[S]\nA=\xC3\xBC\n"},
 		};
@@ -336,6 +385,9 @@ namespace
 		EXPECT_FALSE(Folder.Exists("Config/DefaultEngine.ini"));
 		EXPECT_TRUE(Update({{"A", "1"}}));
 		EXPECT_EQ(Folder.Read("Config/DefaultEngine.ini"), "[S]\nA=1\n");
+		Folder.Write("Config/DefaultEngine.ini", "");
+		EXPECT_TRUE(Update({{"A", "\xC3\xBC"}}));
+		EXPECT_EQ(Folder.Read("Config/DefaultEngine.ini").substr(0, 4), std::string("\xFF\xFE[\0", 4)) << "as the editor encodes a new file";
 	}
 
 	TEST_F(SectionUpdate, WhatIsWrittenReadsBackAfterAReload)
@@ -356,7 +408,8 @@ namespace
 		Folder.Write("Config/DefaultEngine.ini", "[S]\n");
 		std::filesystem::permissions(Folder.GetNative("Config/DefaultEngine.ini"), std::filesystem::perms::owner_read);
 		EXPECT_FALSE(Update({{"A", "1"}}));
-		EXPECT_EQ(HostProblems::GetAll().Num(), 2) << GetProblems();
+		EXPECT_EQ(HostProblems::GetAll().Num(), 3) << GetProblems();
+		EXPECT_EQ(HostProblems::GetNotWritten().Num(), 2) << "the fault in the text, and that nothing was written";
 	}
 
 	class LineRemoval : public Config
@@ -402,6 +455,11 @@ namespace
 			{"line ends stay, each its own", "[S]\r\nA=1\nP=1\r\nB=1\r\n", {{"P=1"}}, "[S]\r\nA=1\nB=1\r\n"},
 			{"a missing last line end stays missing", "[S]\nA=1\nP=1", {{"P=1"}}, "[S]\nA=1"},
 			{"letters beyond ASCII and a mark", "\xEF\xBB\xBF; \xC3\xBC\n[S]\nP=\xC3\xA1\n", {{"P=\xC3\xA1"}}, "\xEF\xBB\xBF; \xC3\xBC\n[S]\n"},
+			{"keys above the first header", "A=1\n[S]\nP=1\n", {{"[S]", "P=1"}}, "A=1\n"},
+			{"the second header of a section", "[S]\nA=1\n[s]\nP=1\nB=1\n", {{"[s]", "P=1"}}, "[S]\nA=1\nB=1\n"},
+			{"nothing but blank lines", "[S]\n\nP=1\n", {{"", ""}}, "[S]\n\nP=1\n"},
+			{"blank lines behind the block stay", "[S]\nP=1\n\nA=1\n", {{"P=1", ""}}, "[S]\n\nA=1\n"},
+			{"three lines, the closest of which are in the middle", "P=1\nX=1\nC=1\nD=1\nP=1\nC=1\nD=1\nP=1\nC=1\nX=1\nD=1\n", {{"P=1", "C=1", "D=1"}}, "P=1\nX=1\nC=1\nD=1\nP=1\nC=1\nX=1\nD=1\n"},
 			{"a header that another line continues is none", "[A]\nK=1\\\n[S]\nL=2\nP=1\n", {{"P=1"}}, "[A]\nK=1\\\n[S]\nL=2\n"},
 		};
 		for (const auto& Case : Cases)
@@ -439,6 +497,14 @@ namespace
 		}
 		std::filesystem::remove(Folder.GetNative("Config/DefaultEngine.ini"));
 		EXPECT_EQ(Remove({{"P=1"}}), HostConfig::ERemoval::NotThere);
+		EXPECT_EQ(ToUtf8(Reason), "the file is not there any more");
+		Folder.Write("Config/DefaultEngine.ini", "[S]\nA=1\n");
+		for (const size_t Length : {80u, 81u})
+		{
+			const std::string Line(Length, 'x');
+			EXPECT_EQ(Remove({{Line.c_str()}}), HostConfig::ERemoval::NotThere);
+			EXPECT_EQ(ToUtf8(Reason), "the line \"" + Line.substr(0, 80) + (Length > 80 ? "...\"" : "\"") + " is not there any more");
+		}
 		Folder.Write("Config/DefaultEngine.ini", "[S]\nA=T\xFCr\n");
 		EXPECT_EQ(Remove({{"[S]"}}), HostConfig::ERemoval::Failed);
 	}

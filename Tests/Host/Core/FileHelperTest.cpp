@@ -2,9 +2,11 @@
 
 #include "EditorFilesFixture.h"
 #include "HostFiles.h"
+#include "HostTextFiles.h"
 #include "Misc/FileHelper.h"
 
 #include <algorithm>
+#include <sys/stat.h>
 #include <utility>
 
 namespace
@@ -71,6 +73,8 @@ namespace
 			{"characters beyond the first plane", "\xF0\x9F\x8F\xA0\n", {"\xF0\x9F\x8F\xA0"}},
 			{"surrogate pairs", "\xFF\xFE\x3C\xD8\xE0\xDF"s, {"\xF0\x9F\x8F\xA0"}},
 			{"only a mark", "\xEF\xBB\xBF", {}},
+			{"the first and last characters of every length", "\x01\x7F\xC2\x80\xDF\xBF\xE0\xA0\x80\xED\x9F\xBF\xEE\x80\x80\xEF\xBF\xBF\xF0\x90\x80\x80\xF4\x8F\xBF\xBF", {"\x01\x7F\xC2\x80\xDF\xBF\xE0\xA0\x80\xED\x9F\xBF\xEE\x80\x80\xEF\xBF\xBF\xF0\x90\x80\x80\xF4\x8F\xBF\xBF"}},
+			{"behind eight and sixteen plain bytes", "12345678\xE2\x82\xAC 12345678901\xE2\x82\xAC", {"12345678\xE2\x82\xAC 12345678901\xE2\x82\xAC"}},
 		};
 		for (const FCase& Case : Cases)
 		{
@@ -78,6 +82,25 @@ namespace
 			Folder.Write("File.ini", Case.Bytes);
 			EXPECT_EQ(Load(), Case.Expected);
 			EXPECT_TRUE(bLoaded);
+			std::string Utf8;
+			EXPECT_EQ(HostTextFiles::ReadUtf8(Folder.Get("File.ini"), Utf8), HostFiles::ERead::Done);
+			EXPECT_EQ(Utf8.substr(0, Utf8.find_first_of("\r\n")), Case.Expected.empty() ? "" : Case.Expected.front());
+			EXPECT_TRUE(HostTextFiles::CheckReadable(Folder.Get("File.ini")));
+		}
+	}
+
+	TEST_F(FileHelper, WhereACharacterStandsDoesNotMatter)
+	{
+		for (size_t Before = 0; Before <= 9; ++Before)
+		{
+			for (const auto& [Character, bValid] : {std::pair("\xC3\xBC", true), std::pair("\xE2\x82\xAC", true), std::pair("\xF0\x9F\x8F\xA0", true), std::pair("\xFF", false), std::pair("\xC3", false), std::pair("\xE2\x82", false)})
+			{
+				const std::string Text = std::string(Before, 'a') + Character + std::string(9, 'b');
+				Folder.Write("File.ini", Text);
+				EXPECT_EQ(Load(), bValid ? std::vector<std::string>{Text} : std::vector<std::string>{}) << Before << Character;
+				std::string Utf8;
+				EXPECT_EQ(HostTextFiles::ReadUtf8(Folder.Get("File.ini"), Utf8), bValid ? HostFiles::ERead::Done : HostFiles::ERead::Failed);
+			}
 		}
 	}
 
@@ -130,6 +153,9 @@ namespace
 		const FCase Cases[] = {
 			{"ASCII is single-byte, every line with an end", EOptions::AutoDetect, {"a", "b"}, "a\nb\n"},
 			{"anything else is UTF-16, little endian, with mark", EOptions::AutoDetect, {"a", "\xC3\xBC"}, "\xFF\xFE" + Utf16("a\n") + "\xFC\0"s + Utf16("\n")},
+			{"the last ASCII character is one", EOptions::AutoDetect, {"\x7F"}, "\x7F\n"},
+			{"the next one is not", EOptions::AutoDetect, {"\xC2\x80"}, "\xFF\xFE\x80\0"s + Utf16("\n")},
+			{"ASCII that is forced", EOptions::ForceAnsi, {"a"}, "a\n"},
 			{"no lines make an empty file", EOptions::AutoDetect, {}, ""},
 			{"forced UTF-8 has a mark", EOptions::ForceUTF8, {"\xC3\xBC"}, "\xEF\xBB\xBF\xC3\xBC\n"},
 			{"forced UTF-8 without mark has none", EOptions::ForceUTF8WithoutBOM, {"\xC3\xBC"}, "\xC3\xBC\n"},
@@ -166,6 +192,9 @@ namespace
 											   "a\r\nb\r\n",
 				"\xEF\xBB\xBF"
 				"a\r\nnew\r\nb\r\n"},
+			{"as many of both line ends: the new line has LF", "a\r\nb\nc", "a\r\nnew\nb\nc"},
+			{"characters of three and four bytes", "\xE2\x82\xAC \xF0\x9F\x8F\xA0\n\xE0\xA0\x80\xEF\xBF\xBF\xF0\x90\x80\x80\xF4\x8F\xBF\xBF\n", "\xE2\x82\xAC \xF0\x9F\x8F\xA0\nnew\n\xE0\xA0\x80\xEF\xBF\xBF\xF0\x90\x80\x80\xF4\x8F\xBF\xBF\n"},
+			{"UTF-16 with both bytes in use", "\xFF\xFE\xAC\x20\n\0\x3C\xD8\xE0\xDF"s, "\xFF\xFE\xAC\x20\n\0"s + Utf16("new\n") + "\x3C\xD8\xE0\xDF"},
 			{"UTF-16 little endian", "\xFF\xFE" + Utf16("a\r\nb"), "\xFF\xFE" + Utf16("a\r\nnew\r\nb")},
 			{"UTF-16 big endian", "\xFE\xFF" + SwapBytes(Utf16("a\nb\n")), "\xFE\xFF" + SwapBytes(Utf16("a\nnew\nb\n"))},
 		};
@@ -177,6 +206,53 @@ namespace
 			Lines.insert(Lines.begin() + 1, "new");
 			EXPECT_TRUE(Save(Lines));
 			EXPECT_EQ(Folder.Read("File.ini"), Case.After);
+		}
+	}
+
+	TEST_F(FileHelper, TakingALineOutLeavesTheEndsOfTheOthers)
+	{
+		Folder.Write("File.ini", "a\r\na\nb\n");
+		Load();
+		EXPECT_TRUE(Save({"a", "b"}));
+		EXPECT_EQ(Folder.Read("File.ini"), "a\r\nb\n");
+		EXPECT_TRUE(Save({"a"})) << "what was written here is nobody else's change";
+		EXPECT_EQ(Folder.Read("File.ini"), "a\r\n");
+		EXPECT_TRUE(Save({"c"}, FFileHelper::EEncodingOptions::ForceUnicode)) << "another encoding, where it is asked for";
+		EXPECT_EQ(Folder.Read("File.ini"), "\xFF\xFE" + Utf16("c\r\n"));
+	}
+
+	TEST_F(FileHelper, WhatIsReadOnlyIsWrittenOnlyWhenTheCallerSaysSo)
+	{
+		const uint8 Bytes[] = {'b', 0xFF, 0};
+		const FString Path = Folder.Get("File.ini");
+		const auto Write = [&](int32 How, uint32 Flags) {
+			const TArray<FString> Lines{TEXT("line")};
+			IFileManager* const Files = &IFileManager::Get();
+			const auto Automatic = FFileHelper::EEncodingOptions::AutoDetect;
+			switch (How)
+			{
+				case 0:
+					return FFileHelper::SaveArrayToFile(Bytes, *Path, Files, Flags);
+				case 1:
+					return FFileHelper::SaveStringToFile(TEXT("text"), *Path, Automatic, Files, Flags);
+				default:
+					return FFileHelper::SaveStringArrayToFile(Lines, *Path, Automatic, Files, Flags);
+			}
+		};
+		for (const auto& [How, Expected] : {std::pair(0, "b\xFF\0"s), std::pair(1, "text"s), std::pair(2, "line\n"s)})
+		{
+			SCOPED_TRACE(Expected);
+			Restart();
+			std::filesystem::remove(Folder.GetNative("File.ini"));
+			Folder.Write("File.ini", "old\n");
+			chmod(Folder.GetNative("File.ini").c_str(), 0444);
+			EXPECT_FALSE(Write(How, FILEWRITE_None));
+			EXPECT_EQ(Folder.Read("File.ini"), "old\n");
+			EXPECT_TRUE(Write(How, FILEWRITE_EvenIfReadOnly));
+			EXPECT_EQ(Folder.Read("File.ini").substr(0, 4), Expected.substr(0, 4));
+			TArray<uint8> Read;
+			EXPECT_TRUE(FFileHelper::LoadFileToArray(Read, *Path));
+			EXPECT_EQ(std::string(reinterpret_cast<const char*>(Read.GetData()), static_cast<size_t>(Read.Num())), Folder.Read("File.ini"));
 		}
 	}
 
@@ -216,6 +292,14 @@ namespace
 			{"an overlong form of three bytes", "a\xE0\x80\xAF\n", 1},
 			{"a surrogate in UTF-8", "\n\n\xED\xA0\x80", 3},
 			{"a character that is cut off", "a\xE2\x82", 1},
+			{"an overlong form of four bytes", "a\xF0\x8F\xBF\xBF\n", 1},
+			{"beyond the last character", "a\n\xF4\x90\x80\x80\n", 2},
+			{"a length that no character has", "\n\xF5\x80\x80\x80\n", 2},
+			{"the last surrogate", "\xED\xBF\xBF", 1},
+			{"a continuation without beginning", "1234567\x80", 1},
+			{"a beginning without continuation", "a\xE2\x28\xAC\n", 1},
+			{"null characters in UTF-8", "a\n1234567\0"s, 2},
+			{"null characters in UTF-16", "\xFF\xFE" + Utf16("a\n") + std::string(2, '\0'), 2},
 		};
 		for (const FCase& Case : Cases)
 		{
@@ -228,7 +312,14 @@ namespace
 			EXPECT_EQ(Folder.Read("File.ini"), Case.Bytes);
 			ASSERT_FALSE(HostProblems::GetAll().IsEmpty());
 			EXPECT_EQ(HostProblems::GetAll()[0].Line, Case.Line);
+			EXPECT_EQ(HostProblems::GetNotWritten().Num(), 1) << "the load is no write";
 			EXPECT_EQ(ToUtf8(HostProblems::GetAll()[0].File), ToUtf8(Folder.Get("File.ini")));
+			const std::string Told = GetProblems();
+			std::string Utf8 = "left over";
+			EXPECT_EQ(HostTextFiles::ReadUtf8(Folder.Get("File.ini"), Utf8), HostFiles::ERead::Failed);
+			EXPECT_EQ(Utf8, "");
+			EXPECT_FALSE(HostTextFiles::CheckReadable(Folder.Get("File.ini")));
+			EXPECT_EQ(GetProblems(), Told) << "every reader finds the same fault in the same line";
 		}
 	}
 
@@ -265,6 +356,14 @@ namespace
 			{"I change what they removed", "a\nb\nc\n", "a\nc\n", {"a", "mine", "c"}, "a\nc\n", false},
 			{"changes of neighbouring lines", "a\nb\nc\nd\n", "a\nother\nc\nd\n", {"a", "b", "mine", "d"}, "a\nother\nc\nd\n", false},
 			{"the file turned up meanwhile", "", "other\n", {}, "other\n", true},
+			{"the same line in two places", "a\nb\nc\nd\n", "a\nnew\nb\nc\nd\n", {"a", "b", "c", "new", "d"}, "a\nnew\nb\nc\nnew\nd\n", true},
+			{"I put a line where they put it in front", "a\nb\nc\n", "a\nnew\nb\nc\n", {"a", "new", "c"}, "a\nnew\nb\nc\n", false},
+			{"mine in front of what they changed", "a\nb\nc\n", "a\nother\nc\n", {"a", "mine", "b", "c"}, "a\nother\nc\n", false},
+			{"mine behind what they changed", "a\nb\nc\n", "a\nother\nc\n", {"a", "b", "mine", "c"}, "a\nother\nc\n", false},
+			{"theirs in front of what I changed", "a\nb\nc\n", "a\nother\nb\nc\n", {"a", "mine", "c"}, "a\nother\nb\nc\n", false},
+			{"they changed line ends alone", "a\nb\n", "a\r\nb\r\n", {"a", "mine"}, "a\r\nmine\r\n", true},
+			{"both take the same out", "a\nb\nc\n", "a\nc\n", {"a", "c"}, "a\nc\n", true},
+			{"a line between what both take out", "a\nb\nc\n", "b\nc\n", {"a", "b"}, "b\n", true},
 		};
 		for (const FCase& Case : Cases)
 		{
@@ -277,6 +376,21 @@ namespace
 			EXPECT_EQ(Folder.Read("File.ini"), Case.Expected);
 			EXPECT_EQ(HostProblems::GetAll().IsEmpty(), Case.bSaved) << GetProblems();
 		}
+	}
+
+	TEST_F(FileHelper, OnlyTheLastLoadCountsAsWhatWasSeen)
+	{
+		FString Text;
+		Folder.Write("File.ini", "a\nb\n");
+		Load();
+		Folder.Write("File.ini", "other\nb\n");
+		ASSERT_TRUE(FFileHelper::LoadFileToString(Text, *Folder.Get("File.ini")));
+		EXPECT_TRUE(Save({"mine", "b"})) << "whoever has the whole text knows what it writes over";
+		EXPECT_EQ(Folder.Read("File.ini"), "mine\nb\n");
+		Load();
+		std::filesystem::remove(Folder.GetNative("File.ini"));
+		EXPECT_TRUE(Save({"mine", "more"}));
+		EXPECT_EQ(Folder.Read("File.ini"), "mine\nmore\n") << "nothing is left of what was loaded";
 	}
 
 	TEST_F(FileHelper, TwoProcessesThatRepairAtOnceLoseNoLines)
@@ -326,6 +440,28 @@ namespace
 		Folder.Write("File.ini", "a\r\nb\r\n");
 		ASSERT_TRUE(FFileHelper::SaveStringToFile(TEXT("a\nx\nb"), *Folder.Get("File.ini")));
 		EXPECT_EQ(Folder.Read("File.ini"), "a\r\nx\r\nb");
+		ASSERT_TRUE(FFileHelper::SaveStringToFile(TEXT("a\nb\n"), *Folder.Get("File.ini")));
+		EXPECT_EQ(Folder.Read("File.ini"), "a\r\nb\r\n");
+		Folder.Write("File.ini", "");
+		ASSERT_TRUE(FFileHelper::SaveStringToFile(TEXT("a\r\nb\n"), *Folder.Get("File.ini")));
+		EXPECT_EQ(Folder.Read("File.ini"), "a\r\nb\n") << "an empty file has no line ends to keep";
+	}
+
+	TEST_F(FileHelper, HalfOfASurrogatePairIsNotWrittenAsUtf8)
+	{
+		const TCHAR* const Halves[] = {TEXT("a\xD83C"), TEXT("\xD83Cz"), TEXT("\xDFE0\xD83C"), TEXT("\xD83C\xD83C"), TEXT("\xD83C\xE000")};
+		for (const TCHAR* Half : Halves)
+		{
+			Folder.Write("File.ini", "old\n");
+			HostProblems::Clear();
+			EXPECT_FALSE(FFileHelper::SaveStringToFile(Half, *Folder.Get("File.ini")));
+			EXPECT_EQ(Folder.Read("File.ini"), "old\n");
+			EXPECT_EQ(HostProblems::GetNotWritten().Num(), 1);
+			ASSERT_TRUE(FFileHelper::SaveStringToFile(Half, *Folder.Get("File.ini"), FFileHelper::EEncodingOptions::ForceUnicode));
+			std::string Utf8;
+			EXPECT_EQ(HostTextFiles::ReadUtf8(Folder.Get("File.ini"), Utf8), HostFiles::ERead::Failed) << "a configuration is read as UTF-8";
+			EXPECT_EQ(Utf8, "");
+		}
 	}
 
 	TEST_F(FileHelper, ASingleByteFileThatIsForcedRefusesOtherLetters)

@@ -3,6 +3,7 @@
 #include "EditorFilesFixture.h"
 #include "HAL/FileManager.h"
 #include "HostFiles.h"
+#include "HostQuestions.h"
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -59,10 +60,14 @@ namespace
 
 	TEST_F(HostFilesTest, KeepsTheModeOfAnExistingFile)
 	{
-		Folder.Write("File", "old");
-		SetMode("File", 0640);
-		ASSERT_TRUE(Write("File", "new"));
-		EXPECT_EQ(GetStatus("File").st_mode & 07777, 0640u);
+		for (const mode_t Mode : {0640u, 01666u, 0200u})
+		{
+			Folder.Write("File", "old");
+			SetMode("File", Mode);
+			ASSERT_TRUE(Write("File", "new"));
+			EXPECT_EQ(GetStatus("File").st_mode & 07777, Mode);
+			std::filesystem::remove(Folder.GetNative("File"));
+		}
 	}
 
 	TEST_F(HostFilesTest, KeepsTheOwnerWhereItMay)
@@ -117,18 +122,22 @@ namespace
 		const FCase Cases[] = {
 			{"a read-only file, even for root", "ReadOnly", "read-only"},
 			{"a folder in the way", "Directory", "a folder stands"},
-			{"a file where a folder is needed", "Plain/File", "the folder cannot be created"},
+			{"a file where a folder is needed", "Plain/File", "the folder cannot be created: Not a directory"},
+			{"what is no file at all", "Pipe", "no ordinary file"},
 		};
+		ASSERT_EQ(mkfifo(Folder.GetNative("Pipe").c_str(), 0666), 0);
 		for (const FCase& Case : Cases)
 		{
 			SCOPED_TRACE(Case.Behaviour);
 			HostProblems::Clear();
 			EXPECT_FALSE(Write(Case.Path, "new"));
 			EXPECT_NE(GetProblems().find(Case.Message), std::string::npos) << GetProblems();
+			EXPECT_EQ(HostProblems::GetNotWritten().Num(), 1);
 		}
+		EXPECT_EQ(HostFiles::GetKind(Folder.Get("Pipe")), HostFiles::EKind::Other);
 		EXPECT_EQ(Folder.Read("ReadOnly"), "old");
 		EXPECT_EQ(Folder.Read("Plain"), "old");
-		EXPECT_EQ(Folder.Count(), 3u) << "something was left behind";
+		EXPECT_EQ(Folder.Count(), 4u) << "something was left behind";
 		EXPECT_TRUE(HostFiles::Write(Folder.Get("ReadOnly"), "new", HostFiles::EReadOnly::Override));
 		EXPECT_EQ(Folder.Read("ReadOnly"), "new");
 	}
@@ -157,6 +166,170 @@ namespace
 		ASSERT_TRUE(Write("sub/File", "newer"));
 		EXPECT_EQ(Folder.Read("sub/File"), "newer");
 		EXPECT_EQ(Folder.Count("sub"), 1u);
+	}
+
+	TEST_F(HostFilesTest, WhatOthersCallTemporaryIsTheirs)
+	{
+		const std::vector<std::string> Theirs = {"Config/.velmorant-notes", "Config/File.ini.tmp", "Config/a.velmorant-1-2.tmp"};
+		for (const std::string& File : Theirs)
+		{
+			Folder.Write(File, "theirs");
+		}
+		Folder.Write("Config/.velmorant-1-2.tmp", "left over");
+		ASSERT_TRUE(Write("Config/File.ini", "new"));
+		std::vector<std::string> Files = Theirs;
+		Files.insert(Files.begin() + 1, "Config/File.ini");
+		EXPECT_EQ(Find("Config", TEXT("")), Files);
+		EXPECT_EQ(Folder.Count("Config"), Files.size());
+		EXPECT_EQ(Folder.Read(Theirs[1]), "theirs");
+	}
+
+	TEST_F(HostFilesTest, AWriteThatFailsHalfWayIsToldEachTimeAndLeavesNothing)
+	{
+		std::vector<std::string> Told;
+		HostProblems::SetNotWrittenListener([&Told](const FHostProblem& Problem) { Told.push_back(ToUtf8(HostProblems::ToString(Problem))); });
+		HostFiles::SetBeforeRename([](const char*, const char* Target) { std::filesystem::create_directory(Target); }); // nothing can be renamed over it
+		for (int Attempt = 0; Attempt < 2; ++Attempt)
+		{
+			std::filesystem::remove(Folder.GetNative("sub/File"));
+			EXPECT_FALSE(Write("sub/File", "new"));
+			EXPECT_EQ(Folder.Count("sub"), 1u);
+		}
+		const std::string Expected = Folder.GetNative("sub/File").string() + ": the file cannot be written and is as it was: Is a directory. Check free space and the permissions of its folder.";
+		EXPECT_EQ(Told, (std::vector<std::string>{Expected, Expected}));
+		EXPECT_EQ(HostProblems::GetAll().Num(), 1) << "programs print it once";
+		EXPECT_EQ(HostProblems::GetNotWritten().Num(), 2);
+		EXPECT_TRUE(HostFiles::GetWrittenFiles().IsEmpty());
+	}
+
+	TEST_F(HostFilesTest, AsksBeforeAReadOnlyFileOfAProjectUnderVersionControlIsWritten)
+	{
+		const struct
+		{
+			const char* Behaviour;
+			const char* Marker; // below the folder in which the project is
+			const char* Command;
+			const char* Answer; // null: nobody answers
+			const char* File;
+			const char* Question; // its choices; empty: none
+			const char* Problem; // empty: written
+		} Cases[] = {
+			{"no version control", nullptr, nullptr, "Make Writable", "Project/File", "", "read-only and was left"},
+			{"nobody answers", "Project/.git/HEAD", nullptr, nullptr, "Project/File", "Make Writable,Leave", "read-only and was left"},
+			{"made writable", "Project/.git", nullptr, "Make Writable", "Project/sub/File", "Make Writable,Leave", ""},
+			{"a working copy of folders above", ".svn/entries", nullptr, "Make Writable", "Project/File", "Make Writable,Leave", ""},
+			{"other systems", "Project/.hg/store", nullptr, "Make Writable", "Project/File", "Make Writable,Leave", ""},
+			{"yet other systems", "Project/.p4config", nullptr, "Make Writable", "Project/File", "Make Writable,Leave", ""},
+			{"left alone", "Project/.git", nullptr, "Leave", "Project/File", "Make Writable,Leave", "read-only and was left"},
+			{"not of the project", "Project/.git", nullptr, "Make Writable", "Projects/File", "", "read-only and was left"},
+			{"checked out, whatever the file is called", nullptr, "chmod u+w", "Check Out", "Project/$x \"y' z", "Check Out,Make Writable,Leave", ""},
+			{"a command that runs in the project's folder and prints", nullptr, "echo told; test -d sub && chmod 644", "Check Out", "Project/sub/File", "Check Out,Make Writable,Leave", ""},
+			{"a command that fails", "Project/.git", "false", "Check Out", "Project/File", "Check Out,Make Writable,Leave", "was not checked out, \"false\" ended with status 1"},
+			{"a command that is ended", nullptr, "kill -9 $$;", "Check Out", "Project/File", "Check Out,Make Writable,Leave", "ended with status 137"},
+			{"a command that does nothing", nullptr, "true", "Check Out", "Project/File", "Check Out,Make Writable,Leave", "read-only and was left"},
+			{"another version comes", nullptr, "sed -i s/old/odd/", "Check Out", "Project/File", "Check Out,Make Writable,Leave", "brought another version"},
+		};
+		for (const auto& Case : Cases)
+		{
+			SCOPED_TRACE(Case.Behaviour);
+			HostState::DestroyAll();
+			HostPaths::SetProjectDir(Folder.Get("Project"));
+			HostPaths::SetUserSettingsDir(Folder.Get("settings"));
+			HostConfig::Boot();
+			std::filesystem::create_directories(Folder.GetNative("Project/sub"));
+			if (Case.Marker != nullptr)
+			{
+				Folder.Write(Case.Marker, "");
+			}
+			if (Case.Command != nullptr)
+			{
+				Folder.Write("Project/Config/DefaultEditor.ini", std::string("[Velmorant.VersionControl]\nCheckOutCommand=") + Case.Command + "\n");
+			}
+			if (Case.Answer != nullptr)
+			{
+				HostQuestions::Enqueue(FName(TEXT("ReadOnlyFile")), {FString(Case.Answer), {}});
+			}
+			Folder.Write(Case.File, "old");
+			SetMode(Case.File, 0444);
+			const bool bWritten = *Case.Problem == '\0';
+			EXPECT_EQ(Write(Case.File, "new"), bWritten) << GetProblems();
+			EXPECT_EQ(Folder.Read(Case.File) == "new", bWritten);
+			EXPECT_EQ(GetProblems().empty(), bWritten) << GetProblems();
+			EXPECT_NE(GetProblems().find(Case.Problem), std::string::npos) << GetProblems();
+			EXPECT_EQ((GetStatus(Case.File).st_mode & 0777) == 0644u, bWritten) << "nobody else may write it";
+			std::string Asked;
+			for (const FAskedQuestion& Each : HostQuestions::GetAsked())
+			{
+				Asked += ToUtf8(FString::Join(Each.Question.Choices, TEXT(",")));
+				EXPECT_EQ(ToUtf8(Each.Question.Message.ToString()), Folder.GetNative(Case.File).string() + " is read-only. What is to be done before it is written?");
+			}
+			EXPECT_EQ(Asked, Case.Question);
+			for (const auto& Entry : std::filesystem::directory_iterator(Folder.GetNative()))
+			{
+				std::filesystem::remove_all(Entry.path());
+			}
+		}
+	}
+
+	TEST_F(HostFilesTest, AsksNothingWhereNothingIsAtStake)
+	{
+		Folder.Write(".git", "");
+		Folder.Write("File", "old");
+		EXPECT_TRUE(Write("File", "new"));
+		EXPECT_TRUE(Write("New", "new"));
+		SetMode("File", 0444);
+		EXPECT_TRUE(Write("File", "new")) << "it holds these bytes already";
+		EXPECT_TRUE(HostFiles::Write(Folder.Get("File"), "newer", HostFiles::EReadOnly::Override));
+		HostFiles::CheckWritable(Folder.Get("File"));
+		HostFiles::BeginOverlay();
+		EXPECT_FALSE(Write("File", "overlay"));
+		EXPECT_TRUE(HostQuestions::GetAsked().IsEmpty());
+		EXPECT_EQ(GetStatus("File").st_mode & 0777, 0444u);
+	}
+
+	TEST_F(HostFilesTest, ReadsWhatIsThereAndSaysWhatIsNot)
+	{
+		Folder.Write("File", "text");
+		std::string Bytes = "left over";
+		EXPECT_EQ(HostFiles::Read(Folder.Get("Missing"), Bytes), HostFiles::ERead::Missing);
+		EXPECT_EQ(Bytes, "");
+		EXPECT_EQ(HostFiles::Read(Folder.Get("File/Below"), Bytes), HostFiles::ERead::Missing);
+		EXPECT_EQ(GetProblems(), "");
+		EXPECT_EQ(HostFiles::Read(Folder.Get(), Bytes), HostFiles::ERead::Failed);
+		EXPECT_EQ(GetProblems(), "a folder stands where a file is to be read\n");
+		EXPECT_TRUE(HostProblems::GetNotWritten().IsEmpty());
+		std::filesystem::create_symlink("Loop", Folder.GetNative("Loop"));
+		EXPECT_EQ(HostFiles::Read(Folder.Get("Loop"), Bytes), HostFiles::ERead::Failed);
+		EXPECT_NE(GetProblems().find("the file cannot be read: Too many levels of symbolic links"), std::string::npos) << GetProblems();
+		std::ifstream Endless("/proc/filesystems"); // the system says that it is empty
+		EXPECT_EQ(HostFiles::Read(TEXT("/proc/filesystems"), Bytes), HostFiles::ERead::Done);
+		EXPECT_EQ(Bytes, std::string(std::istreambuf_iterator<char>(Endless), {}));
+	}
+
+	TEST_F(HostFilesTest, ResolvesPathsToWhereTheyLead)
+	{
+		Folder.Write("Real/File", "");
+		std::filesystem::create_directory_symlink("Real", Folder.GetNative("Link"));
+		std::filesystem::create_symlink("Link/New", Folder.GetNative("Dangling"));
+		std::filesystem::create_symlink(Folder.GetNative("Nowhere/New"), Folder.GetNative("Absolute"));
+		std::filesystem::create_symlink("Loop", Folder.GetNative("Loop"));
+		const std::string Root = Folder.GetNative().string();
+		const std::pair<std::string, std::string> Cases[] = {
+			{Root + "/Link/File", Root + "/Real/File"},
+			{Root + "/Link/New/Deep", Root + "/Real/New/Deep"},
+			{Root + "/Dangling", Root + "/Real/New"},
+			{Root + "/Absolute", Root + "/Nowhere/New"},
+			{Root + "/Loop", Root + "/Loop"},
+			{Root + "//a/./b/../c/", Root + "/a/c"},
+			{Root + "\\Link\\File", Root + "/Real/File"},
+			{"/../../missing", "/missing"},
+			{"/", "/"},
+			{"missing.txt", std::filesystem::current_path().string() + "/missing.txt"},
+		};
+		for (const auto& [Path, Expected] : Cases)
+		{
+			EXPECT_EQ(ToUtf8(HostFiles::Resolve(FString(UTF8_TO_TCHAR(Path.c_str())))), Expected) << Path;
+		}
 	}
 
 	TEST_F(HostFilesTest, TheNewFileIsCompleteBeforeTheOldOneGoes)
@@ -190,6 +363,9 @@ namespace
 		EXPECT_EQ(GetStatus("settings/sub/User.json").st_mode & 0777, 0600u);
 		EXPECT_EQ(GetStatus("settings/sub").st_mode & 0777, 0700u);
 		EXPECT_NE(GetStatus("project/File").st_mode & 0777, 0600u);
+		SetMode("settings/sub/User.json", 0644);
+		ASSERT_TRUE(Write("settings/sub/User.json", "{ }"));
+		EXPECT_EQ(GetStatus("settings/sub/User.json").st_mode & 0777, 0600u) << "who could read it before cannot any longer";
 	}
 
 	TEST_F(HostFilesTest, FindsFilesInAllFoldersSortedAndWithoutGoingInCircles)
@@ -200,6 +376,12 @@ namespace
 		std::filesystem::create_directory_symlink("..", Folder.GetNative("Content/A/up"));
 		EXPECT_EQ(Find("Content", TEXT(".json")), (std::vector<std::string>{"Content/A/c.json", "Content/b.json"}));
 		EXPECT_EQ(Find("Missing", TEXT(".json")), std::vector<std::string>{});
+		Folder.Write("Content/T\xFCr", "");
+		EXPECT_EQ(Find("Content", TEXT("\uFFFD")), std::vector<std::string>{"Content/T\uFFFD"}) << "a name that is no text";
+		EXPECT_EQ(ToUtf8(HostFiles::FindFilesIn(Folder.Get("Content"), TEXT("json"))), std::vector<std::string>{ToUtf8(Folder.Get("Content/b.json"))});
+		Folder.Write("Content/0/File", "");
+		std::filesystem::create_directory_symlink("A", Folder.GetNative("Content/Z"));
+		EXPECT_EQ(ToUtf8(HostFiles::FindDirectories(Folder.Get("Content"))), ToUtf8(TArray<FString>{Folder.Get("Content/0"), Folder.Get("Content/A"), Folder.Get("Content/Z")}));
 	}
 
 	TEST_F(HostFilesTest, AnOverlayShowsWritesAndLeavesTheDiskAlone)
@@ -227,6 +409,41 @@ namespace
 		EXPECT_EQ(Pending[0].Bytes, "overlay");
 		EXPECT_TRUE(Pending[1].bDeleted);
 		EXPECT_FALSE(Pending[2].bDeleted);
+	}
+
+	TEST_F(HostFilesTest, AnOverlayKnowsFoldersAndForgetsWhatIsDeleted)
+	{
+		using EKind = HostFiles::EKind;
+		Folder.Write("Content/disk.json", "disk");
+		HostFiles::BeginOverlay();
+		Write("Content/New/Deep/a.json", "1");
+		Write("Content/New.txt", "1");
+		EXPECT_TRUE(HostFiles::MakeDirectory(Folder.Get("Made/Below")));
+		EXPECT_TRUE(HostFiles::MakeDirectory(Folder.Get("Content")));
+		EXPECT_FALSE(HostFiles::MakeDirectory(Folder.Get("Content/New.txt")));
+		const std::pair<const char*, EKind> Kinds[] = {{"Made/Below", EKind::Directory}, {"Made", EKind::Directory}, {"Mad", EKind::Missing}, {"Content/New", EKind::Directory}, {"Content/Ne", EKind::Missing}, {"Content/New.txt", EKind::File}, {"Content/disk.json", EKind::File}};
+		for (const auto& [Path, Kind] : Kinds)
+		{
+			EXPECT_EQ(HostFiles::GetKind(Folder.Get(Path)), Kind) << Path;
+		}
+		EXPECT_EQ(ToUtf8(HostFiles::FindFilesIn(Folder.Get("Content"), TEXT(".json"))), std::vector<std::string>{ToUtf8(Folder.Get("Content/disk.json"))});
+		EXPECT_EQ(Find("Content", TEXT(".json")).size(), 2u);
+		std::filesystem::create_directory_symlink("Content", Folder.GetNative("Link"));
+		EXPECT_EQ(ToUtf8(HostFiles::FindFilesIn(Folder.Get("Link"), TEXT(".txt"))), std::vector<std::string>{ToUtf8(Folder.Get("Link/New.txt"))}) << "answers begin as the question did";
+
+		std::string Bytes = "left over";
+		const uint32 NumChanges = HostFiles::GetNumChanges(Folder.Get("Content/New/Deep/a.json"));
+		EXPECT_TRUE(HostFiles::Delete(Folder.Get("Content/New/Deep/a.json")));
+		EXPECT_GT(HostFiles::GetNumChanges(Folder.Get("Content/New/Deep/a.json")), NumChanges);
+		EXPECT_EQ(HostFiles::GetKind(Folder.Get("Content/New")), EKind::Missing);
+		EXPECT_EQ(HostFiles::Read(Folder.Get("Content/New/Deep/a.json"), Bytes), HostFiles::ERead::Missing);
+		EXPECT_EQ(Bytes, "");
+		EXPECT_TRUE(HostFiles::Delete(Folder.Get("Content/disk.json")));
+		EXPECT_EQ(HostFiles::GetPendingWrites().Num(), 2) << "what was never there is not deleted";
+		EXPECT_TRUE(Write("Content/disk.json", "disk"));
+		EXPECT_EQ(Read("Content/disk.json"), "disk");
+		EXPECT_EQ(HostFiles::GetPendingWrites().Num(), 1);
+		EXPECT_FALSE(Folder.Exists("Made"));
 	}
 
 	TEST_F(HostFilesTest, AnOverlayRefusesWhatTheDiskWouldRefuse)

@@ -52,7 +52,7 @@ namespace HostFiles
 	/**
 	 * Puts Bytes in the place of the file, creating missing folders. Keeps mode and, where permitted, owner of an existing file.
 	 * A file that holds these bytes already is left alone, time stamp included. A file without any write permission counts as read-only
-	 * even for root.
+	 * even for root; below a project under version control the person is asked about it first.
 	 * @return false when refused or failed; the old file is whole then.
 	 */
 	bool Write(const FString& Path, std::string_view Bytes, EReadOnly ReadOnly = EReadOnly::Refuse);

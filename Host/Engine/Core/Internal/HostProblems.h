@@ -5,6 +5,7 @@
 #include "CoreTypes.h"
 #include "Containers/Array.h"
 #include "Containers/UnrealString.h"
+#include "Templates/Function.h"
 
 /** Something wrong with a file that the host read or was asked to write, told so that a person can put it right. */
 struct FHostProblem
@@ -25,6 +26,15 @@ namespace HostProblems
 {
 	/** Keeps the problem; one that was already reported word for word for the same place is not kept twice. */
 	void Report(const FString& File, int32 Line, const FString& Message, const FString& Remedy = FString());
+
+	/** The same for work that was to be kept and could not be written: whoever listens is told, every time anew. */
+	void ReportNotWritten(const FString& File, const FString& Message, const FString& Remedy);
+
+	/** Everything that could not be written, oldest first; what failed twice is there twice. */
+	const TArray<FHostProblem>& GetNotWritten();
+
+	/** Who tells the person at the editor. Goes with the editor; null for nobody. */
+	void SetNotWrittenListener(TFunction<void(const FHostProblem&)> Listener);
 
 	/** All problems since the editor went up or Clear() was called, oldest first. */
 	const TArray<FHostProblem>& GetAll();

@@ -56,7 +56,7 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "Test")
 	void Forget() { Place = TEXT("nowhere"); }
 
-	UPROPERTY()
+	UPROPERTY(BlueprintReadOnly, Category = "Test")
 	FString Place;
 
 	UPROPERTY(BlueprintAssignable, Category = "Test")

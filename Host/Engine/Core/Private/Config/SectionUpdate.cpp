@@ -241,6 +241,7 @@ bool HostConfig::UpdateSection(const FString& File, const FString& Section, cons
 	const HostFiles::ERead Read = TextFile::Load(File, Document, Bytes);
 	if (Read == HostFiles::ERead::Failed)
 	{
+		TextFile::ReportUnreadable(File);
 		return false;
 	}
 	if (Read == HostFiles::ERead::Missing && Lines.IsEmpty())

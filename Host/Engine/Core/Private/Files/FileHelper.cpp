@@ -31,7 +31,7 @@ namespace FileHelper
 
 		void ReportNotWritten(const FString& Path, const TCHAR* Message, const TCHAR* Remedy)
 		{
-			HostProblems::Report(NativePath::ToString(NativePath::MakeFull(Path)), 0, Message, Remedy);
+			HostProblems::ReportNotWritten(NativePath::ToString(NativePath::MakeFull(Path)), Message, Remedy);
 		}
 
 		LineMerge::FLines GetTexts(const std::vector<FTextLine>& Lines)
@@ -122,7 +122,12 @@ namespace FileHelper
 			{
 				LoadedText::Forget(Resolved); // nothing is left of what was loaded: there is nothing to lose
 			}
-			if (Read == HostFiles::ERead::Failed || !SaveOver(Request, Current, CurrentBytes))
+			if (Read == HostFiles::ERead::Failed)
+			{
+				TextFile::ReportUnreadable(Request.Path);
+				return false;
+			}
+			if (!SaveOver(Request, Current, CurrentBytes))
 			{
 				return false;
 			}
@@ -196,6 +201,12 @@ bool FFileHelper::LoadFileToStringArray(TArray<FString>& Result, const TCHAR* Fi
 		Result.Emplace(static_cast<int32>(Line.Text.size()), Line.Text.data());
 	}
 	return Read == HostFiles::ERead::Done;
+}
+
+bool FFileHelper::SaveArrayToFile(TArrayView<const uint8> Array, const TCHAR* Filename, IFileManager*, uint32 WriteFlags)
+{
+	const std::string_view Bytes(reinterpret_cast<const char*>(Array.GetData()), static_cast<size_t>(Array.Num()));
+	return HostFiles::Write(Filename, Bytes, FileHelper::ToReadOnly(WriteFlags));
 }
 
 bool FFileHelper::SaveStringToFile(FStringView String, const TCHAR* Filename, EEncodingOptions EncodingOptions, IFileManager*, uint32 WriteFlags)

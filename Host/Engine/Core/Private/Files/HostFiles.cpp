@@ -8,7 +8,9 @@
 #include "Files/FileOverlay.h"
 #include "Files/FolderListing.h"
 #include "Files/NativePath.h"
+#include "Files/ReadOnlyFiles.h"
 #include "Files/WriteRules.h"
+#include "HostProblems.h"
 #include "HostState.h"
 
 #include <cerrno>
@@ -62,8 +64,27 @@ namespace HostFiles
 			return S_ISDIR(OnDisk.Status.st_mode) ? EKind::Directory : EKind::Other;
 		}
 
+		void ReportNotRead(const std::string& Path, const FString& Message, const TCHAR* Remedy)
+		{
+			HostProblems::Report(NativePath::ToString(Path), 0, Message, Remedy);
+		}
+
+		/**
+		 * What is the user's own stays theirs alone, whoever else could read it before; other files keep their mode.
+		 *
+		 * @return null for a file that is new
+		 */
+		const struct stat* GetStatusToKeep(const std::string& Path, FOnDisk& OnDisk)
+		{
+			if (IsPrivate(Path))
+			{
+				OnDisk.Status.st_mode = (OnDisk.Status.st_mode & S_IFMT) | GetModeOfNewFile(Path);
+			}
+			return OnDisk.bExists ? &OnDisk.Status : nullptr;
+		}
+
 		/** In the locked folder of Path. */
-		bool WriteDisk(const std::string& Path, std::string_view Bytes, const FOnDisk& OnDisk)
+		bool WriteDisk(const std::string& Path, std::string_view Bytes, FOnDisk OnDisk)
 		{
 			const std::string Folder = NativePath::FolderOf(Path);
 			FState& Own = State.Get();
@@ -71,10 +92,10 @@ namespace HostFiles
 			{
 				AtomicReplace::RemoveLeftovers(Folder);
 			}
-			const int Error = AtomicReplace::Replace(Path, Bytes, OnDisk.bExists ? &OnDisk.Status : nullptr, GetModeOfNewFile(Path));
+			const int Error = AtomicReplace::Replace(Path, Bytes, GetStatusToKeep(Path, OnDisk), GetModeOfNewFile(Path));
 			if (Error != 0)
 			{
-				Report(Path, Describe(TEXT("the file cannot be written and is as it was"), Error), TEXT("Check free space and the permissions of its folder."));
+				ReportNotWritten(Path, Describe(TEXT("the file cannot be written and is as it was"), Error), TEXT("Check free space and the permissions of its folder."));
 				return false;
 			}
 			if (Own.WrittenLookup.insert(Path).second)
@@ -141,11 +162,11 @@ namespace HostFiles
 		}
 		if (Error == EISDIR)
 		{
-			Report(Full, TEXT("a folder stands where a file is to be read"), TEXT("Move the folder away."));
+			ReportNotRead(Full, TEXT("a folder stands where a file is to be read"), TEXT("Move the folder away."));
 		}
 		else
 		{
-			Report(Full, Describe(TEXT("the file cannot be read"), Error), TEXT("Check its permissions."));
+			ReportNotRead(Full, Describe(TEXT("the file cannot be read"), Error), TEXT("Check its permissions."));
 		}
 		return ERead::Failed;
 	}
@@ -160,10 +181,15 @@ namespace HostFiles
 			Overlay->Write(Resolved, Bytes); // the disk had its say the first time
 			return CountChange(Resolved);
 		}
-		const FOnDisk OnDisk(Resolved);
+		FOnDisk OnDisk(Resolved);
 		if (OnDisk.bExists && DiskFile::Holds(Resolved, OnDisk.Status, Bytes))
 		{
 			return true;
+		}
+		const bool bAsk = Overlay == nullptr && ReadOnly == EReadOnly::Refuse;
+		if (bAsk && !ReadOnlyFiles::AskToOpen(Resolved, OnDisk))
+		{
+			return false;
 		}
 		if (!MayReplace(Resolved, OnDisk, ReadOnly))
 		{
@@ -174,7 +200,7 @@ namespace HostFiles
 			Overlay->Write(Resolved, Bytes);
 			return CountChange(Resolved);
 		}
-		return MakeFolderOrReport(NativePath::FolderOf(Resolved)) && WriteDisk(Resolved, Bytes, OnDisk) && CountChange(Resolved);
+		return MakeFolderOrReport(NativePath::FolderOf(Resolved), Resolved) && WriteDisk(Resolved, Bytes, OnDisk) && CountChange(Resolved);
 	}
 
 	bool Delete(const FString& Path, EReadOnly ReadOnly)
@@ -198,7 +224,7 @@ namespace HostFiles
 		}
 		if (unlink(Resolved.c_str()) != 0 && errno != ENOENT)
 		{
-			Report(Resolved, Describe(TEXT("the file cannot be deleted"), errno), TEXT("Check the permissions of its folder."));
+			ReportNotWritten(Resolved, Describe(TEXT("the file cannot be deleted"), errno), TEXT("Check the permissions of its folder."));
 			return false;
 		}
 		return CountChange(Resolved);
@@ -210,7 +236,7 @@ namespace HostFiles
 		FFileOverlay* Overlay = GetOverlay();
 		if (Overlay == nullptr)
 		{
-			return MakeFolderOrReport(Resolved);
+			return MakeFolderOrReport(Resolved, Resolved);
 		}
 		const EKind Kind = GetKindOf(Resolved);
 		if (Kind == EKind::Missing)
@@ -250,7 +276,7 @@ namespace HostFiles
 		const FOnDisk Nearest(Folder);
 		if (!S_ISDIR(Nearest.Status.st_mode) || access(Folder.c_str(), W_OK | X_OK) != 0)
 		{
-			Report(Resolved, TEXT("the file cannot be written, its folder does not permit it"), TEXT("Check the permissions of the folder."));
+			ReportNotWritten(Resolved, TEXT("the file cannot be written, its folder does not permit it"), TEXT("Check the permissions of the folder."));
 			return false;
 		}
 		return true;

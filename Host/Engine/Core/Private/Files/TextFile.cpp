@@ -37,11 +37,17 @@ namespace TextFile
 	{
 		if (!Document.Encode(OutBytes))
 		{
-			HostProblems::Report(NativePath::ToString(NativePath::MakeFull(Path)), 0, TEXT("the file was not written: UTF-8 cannot express half of a surrogate pair"),
+			HostProblems::ReportNotWritten(NativePath::ToString(NativePath::MakeFull(Path)), TEXT("the file was not written: UTF-8 cannot express half of a surrogate pair"),
 				TEXT("Correct the text."));
 			return false;
 		}
 		return HostFiles::Write(Path, OutBytes, ReadOnly);
+	}
+
+	void ReportUnreadable(const FString& Path)
+	{
+		HostProblems::ReportNotWritten(NativePath::ToString(NativePath::MakeFull(Path)), TEXT("the file was not written: what is in it cannot be read"),
+			TEXT("Put the file right or move it away."));
 	}
 
 	ETextEncoding ChooseForNewFile(const FTextDocument& Document)

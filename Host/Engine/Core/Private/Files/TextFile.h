@@ -17,6 +17,9 @@ namespace TextFile
 	/** Writes the document. False, and the file stays as it is, when its encoding cannot express the text or the file cannot be written. */
 	bool Save(const FString& Path, const FTextDocument& Document, HostFiles::EReadOnly ReadOnly, std::string& OutBytes);
 
+	/** Of a file that was to be written over what Load() failed to read. */
+	void ReportUnreadable(const FString& Path);
+
 	/** The encoding that the editor gives to a new file with these lines. */
 	ETextEncoding ChooseForNewFile(const FTextDocument& Document);
 }

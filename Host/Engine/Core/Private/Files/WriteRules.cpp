@@ -17,20 +17,20 @@ namespace WriteRules
 		constexpr mode_t PrivateFileMode = 0600;
 		constexpr mode_t PrivateFolderMode = 0700;
 		constexpr mode_t SharedFolderMode = 0777; // less what the umask takes
-
-		bool IsPrivate(const std::string& Path)
-		{
-			const auto IsIn = [&Path](const FString& Directory) {
-				const std::string Folder = NativePath::Resolve(Directory);
-				return Path == Folder || Path.starts_with(Folder + "/");
-			};
-			return IsIn(HostPaths::GetUserSettingsDir()) || IsIn(HostPaths::GetUserStateDir());
-		}
 	}
 
-	void Report(const std::string& Path, const FString& Message, const TCHAR* Remedy)
+	bool IsPrivate(const std::string& Path)
 	{
-		HostProblems::Report(NativePath::ToString(Path), 0, Message, Remedy);
+		const auto IsIn = [&Path](const FString& Directory) {
+			const std::string Folder = NativePath::Resolve(Directory);
+			return Path == Folder || Path.starts_with(Folder + "/");
+		};
+		return IsIn(HostPaths::GetUserSettingsDir()) || IsIn(HostPaths::GetUserStateDir());
+	}
+
+	void ReportNotWritten(const std::string& Path, const FString& Message, const TCHAR* Remedy)
+	{
+		HostProblems::ReportNotWritten(NativePath::ToString(Path), Message, Remedy);
 	}
 
 	FString Describe(const TCHAR* What, int Error)
@@ -46,17 +46,17 @@ namespace WriteRules
 		}
 		if (S_ISDIR(OnDisk.Status.st_mode))
 		{
-			Report(Path, TEXT("a folder stands where a file is to be written"), TEXT("Move the folder away."));
+			ReportNotWritten(Path, TEXT("a folder stands where a file is to be written"), TEXT("Move the folder away."));
 			return false;
 		}
 		if (!S_ISREG(OnDisk.Status.st_mode))
 		{
-			Report(Path, TEXT("what stands where a file is to be written is no ordinary file"), TEXT("Move it away."));
+			ReportNotWritten(Path, TEXT("what stands where a file is to be written is no ordinary file"), TEXT("Move it away."));
 			return false;
 		}
 		if (ReadOnly == HostFiles::EReadOnly::Refuse && DiskFile::IsReadOnly(Path, OnDisk.Status))
 		{
-			Report(Path, TEXT("the file is read-only and was left as it is"), TEXT("Make it writable, or check it out in version control."));
+			ReportNotWritten(Path, TEXT("the file is read-only and was left as it is"), TEXT("Make it writable, or check it out in version control."));
 			return false;
 		}
 		return true;
@@ -77,12 +77,12 @@ namespace WriteRules
 		return DiskFile::MakeDirectory(Folder, IsPrivate(Folder) ? PrivateFolderMode : SharedFolderMode);
 	}
 
-	bool MakeFolderOrReport(const std::string& Folder)
+	bool MakeFolderOrReport(const std::string& Folder, const std::string& For)
 	{
 		const int Error = MakeFolder(Folder);
 		if (Error != 0)
 		{
-			Report(Folder, Describe(TEXT("the folder cannot be created"), Error), TEXT("Check its path and permissions."));
+			ReportNotWritten(For, Describe(TEXT("the folder cannot be created"), Error), TEXT("Check its path and permissions."));
 		}
 		return Error == 0;
 	}

@@ -23,7 +23,8 @@ namespace WriteRules
 		bool bExists;
 	};
 
-	void Report(const std::string& Path, const FString& Message, const TCHAR* Remedy);
+	/** Of what was to be written. */
+	void ReportNotWritten(const std::string& Path, const FString& Message, const TCHAR* Remedy);
 
 	/** What failed, and what the system says about it. Error is an errno. */
 	FString Describe(const TCHAR* What, int Error);
@@ -31,11 +32,15 @@ namespace WriteRules
 	/** Whether what is on disk, if anything, may be replaced or removed. */
 	bool MayReplace(const std::string& Path, const FOnDisk& OnDisk, HostFiles::EReadOnly ReadOnly);
 
-	/** What lies in the user's settings or state folder is for its owner only; anything else follows the umask. */
+	/** Whether it lies in the user's settings or state folder: that is for its owner only. */
+	bool IsPrivate(const std::string& Path);
+
+	/** Anything that is not private follows the umask. */
 	mode_t GetModeOfNewFile(const std::string& Path);
 
 	/** Creates the folder and those above it. @return 0 or an errno, which is not reported */
 	int MakeFolder(const std::string& Folder);
 
-	bool MakeFolderOrReport(const std::string& Folder);
+	/** @param For what the report names: the folder itself, or the file that was to be written in it */
+	bool MakeFolderOrReport(const std::string& Folder, const std::string& For);
 }

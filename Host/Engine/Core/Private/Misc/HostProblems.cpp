@@ -16,6 +16,14 @@ namespace HostProblems
 		};
 
 		THostState<FProblems> Problems;
+
+		struct FNotWritten
+		{
+			TArray<FHostProblem> All;
+			TFunction<void(const FHostProblem&)> Listener;
+		};
+
+		THostState<FNotWritten> NotWritten;
 	}
 
 	void Report(const FString& File, int32 Line, const FString& Message, const FString& Remedy)
@@ -31,6 +39,27 @@ namespace HostProblems
 		}
 	}
 
+	void ReportNotWritten(const FString& File, const FString& Message, const FString& Remedy)
+	{
+		Report(File, 0, Message, Remedy);
+		const FHostProblem Problem{File, 0, Message, Remedy};
+		NotWritten->All.Add(Problem);
+		if (NotWritten->Listener)
+		{
+			NotWritten->Listener(Problem);
+		}
+	}
+
+	const TArray<FHostProblem>& GetNotWritten()
+	{
+		return NotWritten->All;
+	}
+
+	void SetNotWrittenListener(TFunction<void(const FHostProblem&)> Listener)
+	{
+		NotWritten->Listener = MoveTemp(Listener);
+	}
+
 	const TArray<FHostProblem>& GetAll()
 	{
 		return Problems.Get().All;
@@ -39,6 +68,7 @@ namespace HostProblems
 	void Clear()
 	{
 		Problems.Get() = FProblems();
+		NotWritten->All.Empty();
 	}
 
 	FString ToString(const FHostProblem& Problem)

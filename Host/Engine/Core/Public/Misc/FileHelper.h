@@ -4,6 +4,7 @@
 
 #include "CoreTypes.h"
 #include "Containers/Array.h"
+#include "Containers/ArrayView.h"
 #include "Containers/StringView.h"
 #include "Containers/UnrealString.h"
 #include "HAL/FileManager.h"
@@ -43,6 +44,9 @@ struct FFileHelper
 
 	/** One string a line, without line ends; CRLF, LF and a lone CR end a line. A line end at the very end starts no further line. */
 	static bool LoadFileToStringArray(TArray<FString>& Result, const TCHAR* Filename);
+
+	/** Writes the bytes as they are. Missing folders are created. */
+	static bool SaveArrayToFile(TArrayView<const uint8> Array, const TCHAR* Filename, IFileManager* FileManager = &IFileManager::Get(), uint32 WriteFlags = 0);
 
 	/** Writes String as it is into a new file; an existing file keeps its kind of line ends. Missing folders are created. */
 	static bool SaveStringToFile(FStringView String, const TCHAR* Filename, EEncodingOptions EncodingOptions = EEncodingOptions::AutoDetect, IFileManager* FileManager = &IFileManager::Get(), uint32 WriteFlags = 0);

@@ -24,7 +24,7 @@ namespace HostPackages
 	bool Refuse(const FString& PackageName, const FString& Message, const FString& Remedy)
 	{
 		const FString File = FindFile(PackageName);
-		HostProblems::Report(File.IsEmpty() ? PackageName : File, 0, Message, Remedy);
+		HostProblems::ReportNotWritten(File.IsEmpty() ? PackageName : File, Message, Remedy);
 		return false;
 	}
 
