@@ -20,6 +20,7 @@ void STableViewBase::RequestListRefresh()
 bool STableViewBase::HandleTick(float)
 {
 	bRefreshPending = false; // first: making rows may ask for another refresh
+	ReadItems();
 	GenerateRows();
 	return false;
 }
@@ -45,7 +46,7 @@ void STableViewBase::GenerateRows()
 
 void STableViewBase::DescribeToHost(FHostWidgetDescription& OutDescription) const
 {
-	const int32 NumItems = CountItems();
+	const int32 NumItems = bRefreshPending ? CountSourceItems() : CountItems(); // a view is asked once it has settled
 	OutDescription.Role = GetHostRole();
 	OutDescription.Notes.Add(FString::Printf(TEXT("%d %s"), NumItems, NumItems == 1 ? TEXT("item") : TEXT("items")));
 	OutDescription.bBusy = bRefreshPending;
@@ -108,6 +109,10 @@ FHostInputResult STableViewBase::TakeHostInput(const FHostInput& Input)
 /** Scrolls through the items as a person would, a view at a time, until one shows the text. */
 FHostInputResult STableViewBase::ChooseItem(const FString& Shown)
 {
+	if (bRefreshPending)
+	{
+		ReadItems(); // as the tick will: a person is not that fast
+	}
 	for (int32 First = 0; First < CountItems(); First += HostRowsInView)
 	{
 		FirstItemInView = First;
