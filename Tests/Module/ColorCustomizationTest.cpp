@@ -72,6 +72,7 @@ TEST_F(ColorCustomization, ListsOneFamilyAtATime)
 	EXPECT_THAT(Colors(), ElementsAre("White", "Both"));
 
 	SwitchFamily();
+	EXPECT_THAT(Snapshot(), HasSubstr("\"White\" (3 options")) << "before anybody opens the list";
 	EXPECT_THAT(Colors(), ElementsAre("Text", "Accent", "Both"));
 	EXPECT_EQ(ToUtf8(Spot->BackgroundColor.ColorID), "White");
 	EXPECT_EQ(Chosen(), "White") << "not among the colours on show";

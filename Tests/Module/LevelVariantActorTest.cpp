@@ -78,12 +78,14 @@ TEST_F(LevelVariantActor, IsSelectedAloneAndInView)
 	StartEditor();
 	AActor* Other = GetWorld()->SpawnActor(AActor::StaticClass());
 	GEditor->SelectActor(Other, true, true);
+	HostEditor::SelectSurfaces(2);
 	std::vector<AActor*> Told; // the first selected actor, at each announcement
 	USelection::SelectionChangedEvent.AddLambda([&Told](UObject* Selection) { Told.push_back(CastChecked<USelection>(Selection)->GetTop<AActor>()); });
 	Place(MakeDataAsset(TEXT("Tower")));
 
 	EXPECT_EQ(GEditor->GetSelectedActorCount(), 1);
 	EXPECT_TRUE(GEditor->GetSelectedActors()->IsSelected(FindActors()[0]));
+	EXPECT_EQ(HostEditor::GetNumSelectedSurfaces(), 0);
 	EXPECT_THAT(Told, ElementsAre(FindActors()[0]));
 	for (const HostEditor::FViewport& Viewport : HostEditor::GetViewports())
 	{

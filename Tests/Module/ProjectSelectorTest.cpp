@@ -83,6 +83,16 @@ TEST_F(ProjectSelector, ListsTheProjectsThatTheServiceSends)
 	EXPECT_EQ(UsersKeyCode(), "none");
 }
 
+TEST_F(ProjectSelector, ShowsTheProjectsInAListThatIsOpenAlready)
+{
+	FTestPanel Panel = MakePanel();
+	Activate(Panel);
+	Panel.Click(TEXT("ProjectSelection"));
+	EXPECT_THAT(Panel.Options(TEXT("ProjectSelection")), IsEmpty());
+	Wait(0.0);
+	EXPECT_THAT(Panel.Options(TEXT("ProjectSelection")), ElementsAre("No Selection", "Harbor Tower", "Quay View"));
+}
+
 TEST_F(ProjectSelector, DoesNothingWithoutAUser)
 {
 	StartEditor();

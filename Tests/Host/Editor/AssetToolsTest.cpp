@@ -73,7 +73,7 @@ TEST_F(FAssetTools, MakesNamesThatNothingHasYet)
 		{"leading zeros stay", {TEXT("/Game/Level09")}, {}, TEXT("/Game/Level09"), TEXT(""), "/Game/Level10"},
 		{"a carry makes room", {TEXT("/Game/Level99")}, {}, TEXT("/Game/Level99"), TEXT(""), "/Game/Level100"},
 		{"a name of digits alone", {TEXT("/Game/9")}, {}, TEXT("/Game/9"), TEXT(""), "/Game/10"},
-		{"forbidden characters become underscores", {}, {}, TEXT("/Game/D/A"), TEXT("_b c:d.e"), "/Game/D/A_b_c_d_e"},
+		{"a name is not mended", {}, {}, TEXT("/Game/D/A"), TEXT("_b c:d"), "/Game/D/A_b c:d"},
 		{"letters beyond ASCII stay", {}, {}, TEXT("/Game/D/A"), TEXT("_Türmchen"), "/Game/D/A_Türmchen"},
 		{"the same name in another folder is free", {TEXT("/Game/E/A_X")}, {}, TEXT("/Game/D/A"), TEXT("_X"), "/Game/D/A_X"},
 	};

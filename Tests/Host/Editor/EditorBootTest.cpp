@@ -184,7 +184,11 @@ TEST_F(EditorBoot, SelectionForgetsWhatWasDestroyedAndTellsOfChanges)
 	EXPECT_EQ(GEditor->GetSelectedActors()->GetSelectedObject(0), A);
 	A->Destroy();
 	EXPECT_EQ(GEditor->GetSelectedActorCount(), 1);
+	HostEditor::SelectSurfaces(3);
+	GEditor->SelectNone(false, false);
+	EXPECT_EQ(HostEditor::GetNumSelectedSurfaces(), 3);
 	GEditor->SelectNone(false, true);
+	EXPECT_EQ(HostEditor::GetNumSelectedSurfaces(), 0);
 	EXPECT_EQ(Changes, 2);
 	EXPECT_EQ(GEditor->GetSelectedActorCount(), 0);
 	EXPECT_FALSE(B->IsSelected());

@@ -89,6 +89,28 @@ TEST_F(FComboBoxTest, ClearingTheOptionsClearsTheSelection)
 	EXPECT_EQ(Heard(), TArray<FString>{TEXT("Harbor 3")}) << "the same text is another option now";
 }
 
+TEST_F(FComboBoxTest, AnOpenBoxShowsNewOptionsOnlyWhenRefreshed)
+{
+	const TSharedRef<SWidget> Widget = Combo()->TakeWidget();
+	const auto Shown = [&Widget]() { return Utf8(HostSnapshot::Take(Widget)); };
+	const std::string Box = "combo " + Utf8(Combo()->GetName()) + " \"\" ";
+	Combo()->AddOption(TEXT("Valley"));
+	EXPECT_EQ(Shown(), Box + "(5 options)\n") << "it is closed";
+	HostSnapshot::Click(Widget, Combo()->GetName());
+	Combo()->AddOption(TEXT("Quay"));
+	Combo()->RemoveOption(TEXT("Hill"));
+	Combo()->AddOption(TEXT("Bay"));
+	EXPECT_EQ(Shown(), Box + "(5 options)\n");
+	EXPECT_FALSE(HostSnapshot::Choose(Widget, Combo()->GetName(), TEXT("Quay")).bDone);
+	EXPECT_TRUE(HostSnapshot::Choose(Widget, Combo()->GetName(), TEXT("Quay")).bDone) << "refusing has closed it";
+
+	HostSnapshot::Click(Widget, Combo()->GetName());
+	Combo()->ClearOptions();
+	Combo()->RefreshOptions();
+	Combo()->AddOption(TEXT("Mole"));
+	EXPECT_EQ(Shown(), Box + "(1 option)\n") << "with what came between the request and the drawing";
+}
+
 TEST_F(FComboBoxTest, ShowsTheWidgetsThatAGeneratorMakes)
 {
 	Combo()->OnGenerateWidgetEvent.BindDynamic(Listener.Get(), &UTestComboListener::MakeOption);

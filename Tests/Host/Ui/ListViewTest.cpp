@@ -102,6 +102,29 @@ TEST_F(FListViewTest, RefusesClicksOnRowsThatAreAboutToGo)
 	EXPECT_EQ(Refusal(HostSnapshot::Click(List, TEXT("Item 1"))), "");
 }
 
+TEST_F(FListViewTest, ItemsThatComeAndGoAreSeenOnlyWithARefresh)
+{
+	AddItems(3);
+	const TSharedRef<SListView<FItem>> List = MakeList();
+	Wait();
+	const std::string Before = Utf8(HostSnapshot::Take(List));
+	AddItems(1);
+	Items.RemoveAt(0);
+	List->SetItemsSource(&Items); // is the source already
+	Wait();
+	EXPECT_EQ(Utf8(HostSnapshot::Take(List)), Before);
+	EXPECT_EQ(Refusal(HostSnapshot::Choose(List, TEXT("List"), TEXT("Item 3"))), "The list \"List\" has no item \"Item 3\".");
+	List->RequestListRefresh();
+	EXPECT_EQ(Refusal(HostSnapshot::Choose(List, TEXT("List"), TEXT("Item 3"))), "");
+	EXPECT_TRUE(List->IsItemSelected(Items[2]));
+
+	const TArray<FItem> Others = {MakeShared<FString>(TEXT("Other"))};
+	List->SetItemsSource(&Others);
+	EXPECT_EQ(List->GetNumItemsSelected(), 0);
+	Wait();
+	EXPECT_NE(Utf8(HostSnapshot::Take(List)).find("(1 item)\n  item (tip: tip of Other)"), std::string::npos);
+}
+
 TEST_F(FListViewTest, AnItemThatLeftCannotStaySelected)
 {
 	AddItems(2);

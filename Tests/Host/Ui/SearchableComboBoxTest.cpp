@@ -127,6 +127,20 @@ TEST_F(SearchableComboBox, TellsOfTheSamePickOnlyWhenAsked)
 	}
 }
 
+TEST_F(SearchableComboBox, ReadsItsOptionsOnlyWhenAskedTo)
+{
+	MakeCombo();
+	Options.Add(MakeShared<FString>(TEXT("Oak")));
+	EXPECT_EQ(Shown(), "combo Woods \"Ash\" (3 options)\n");
+	HostSnapshot::Click(Combo.ToSharedRef(), TEXT("Woods"));
+	HostSnapshot::Type(Combo.ToSharedRef(), TEXT("Search"), TEXT("oak"));
+	Wait();
+	EXPECT_NE(Shown().find("list (2 items)"), std::string::npos) << Shown();
+	EXPECT_EQ(Refusal(HostSnapshot::Choose(Combo.ToSharedRef(), TEXT("Woods"), TEXT("Oak"))), "The combo \"Woods\" has no option \"Oak\".");
+	Combo->RefreshOptions();
+	EXPECT_EQ(Refusal(HostSnapshot::Choose(Combo.ToSharedRef(), TEXT("Woods"), TEXT("Oak"))), "");
+}
+
 TEST_F(SearchableComboBox, RefreshedOptionsGoThroughTheSearchAndKeepTheSelection)
 {
 	MakeCombo();

@@ -30,21 +30,6 @@ namespace AssetNames
 	}
 }
 
-FString AssetNames::Sanitize(const FString& Name)
-{
-	const FString Forbidden = HostPackages::GetForbiddenNameCharacters();
-	FString Result = Name;
-	for (int32 Index = 0; Index < Result.Len(); ++Index)
-	{
-		int32 Unused = INDEX_NONE;
-		if (Result[Index] < 0x20 || Forbidden.FindChar(Result[Index], Unused))
-		{
-			Result[Index] = TEXT('_');
-		}
-	}
-	return Result;
-}
-
 FString AssetNames::Increment(const FString& Name)
 {
 	const int32 Width = CountTrailingDigits(Name);

@@ -7,9 +7,6 @@
 /** Names for new assets. */
 namespace AssetNames
 {
-	/** The name with every character that object names forbid made "_". */
-	FString Sanitize(const FString& Name);
-
 	/**
 	 * The name to try after one that is taken: digits at the end are counted up, keeping their width when leading zeros fill it;
 	 * without any, "1" is put behind.

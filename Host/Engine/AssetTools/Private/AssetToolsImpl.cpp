@@ -99,7 +99,7 @@ void FAssetToolsImpl::CreateUniqueAssetName(const FString& InBasePackageName, co
 	FString Folder;
 	FString BaseName;
 	AssetNames::Split(InBasePackageName, Folder, BaseName);
-	FString Candidate = AssetNames::Sanitize(BaseName + InSuffix);
+	FString Candidate = BaseName + InSuffix; // as it is: characters that names forbid are the caller's to mend
 	while (AssetNames::IsTaken(Folder / Candidate))
 	{
 		Candidate = AssetNames::Increment(Candidate);

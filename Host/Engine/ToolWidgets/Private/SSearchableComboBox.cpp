@@ -52,16 +52,14 @@ TSharedPtr<FString> SSearchableComboBox::GetSelectedItem()
 
 void SSearchableComboBox::RefreshOptions()
 {
+	KnownOptions = OptionsSource != nullptr ? *OptionsSource : TArray<TSharedPtr<FString>>();
+	FilterOptions();
+}
+
+void SSearchableComboBox::FilterOptions()
+{
 	const FHostSearchWords Words(SearchText.ToString());
-	FilteredOptions.Empty();
-	for (int32 Index = 0; OptionsSource != nullptr && Index < OptionsSource->Num(); ++Index)
-	{
-		const TSharedPtr<FString>& Option = (*OptionsSource)[Index];
-		if (Option.IsValid() && Words.AreIn(*Option))
-		{
-			FilteredOptions.Add(Option);
-		}
-	}
+	FilteredOptions = KnownOptions.FilterByPredicate([&Words](const TSharedPtr<FString>& Option) { return Option.IsValid() && Words.AreIn(*Option); });
 	if (ListView.IsValid())
 	{
 		ListView->RequestListRefresh();
@@ -89,7 +87,7 @@ void SSearchableComboBox::SetIsOpen(bool bInIsOpen)
 TSharedRef<SWidget> SSearchableComboBox::MakeMenu()
 {
 	SearchText = FText::GetEmpty();
-	RefreshOptions();
+	FilterOptions();
 	// clang-format off
 	const TSharedRef<SWidget> Menu =
 		SNew(SVerticalBox)
@@ -132,7 +130,7 @@ TSharedRef<ITableRow> SSearchableComboBox::MakeRow(TSharedPtr<FString> Option, c
 void SSearchableComboBox::HandleSearchChanged(const FText& Text)
 {
 	SearchText = Text;
-	RefreshOptions();
+	FilterOptions();
 }
 
 void SSearchableComboBox::HandleOptionClicked(TSharedPtr<FString> Option)
@@ -155,16 +153,16 @@ void SSearchableComboBox::Pick(TSharedPtr<FString> Option)
 
 int32 SSearchableComboBox::CountOptionsForHost() const
 {
-	return OptionsSource != nullptr ? OptionsSource->Num() : 0;
+	return KnownOptions.Num();
 }
 
 TSharedRef<SWidget> SSearchableComboBox::MakeOptionForHost(int32 Index)
 {
-	return OnGenerateWidget.IsBound() ? OnGenerateWidget.Execute((*OptionsSource)[Index]) : SNullWidget::NullWidget;
+	return OnGenerateWidget.IsBound() ? OnGenerateWidget.Execute(KnownOptions[Index]) : SNullWidget::NullWidget;
 }
 
 void SSearchableComboBox::PickOptionForHost(int32 Index)
 {
-	const TSharedPtr<FString> Option = (*OptionsSource)[Index]; // held: the handler may change the list
+	const TSharedPtr<FString> Option = KnownOptions[Index]; // held: the handler may change the list
 	Pick(Option);
 }

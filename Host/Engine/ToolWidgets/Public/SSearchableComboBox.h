@@ -48,7 +48,7 @@ public:
 
 	TSharedPtr<FString> GetSelectedItem();
 
-	/** Reads the options again, through the current search. The selection stays. */
+	/** Reads the options again, through the current search: nothing else does, whatever becomes of the array. The selection stays. */
 	void RefreshOptions();
 
 	/** Takes another array; to be followed by RefreshOptions(). */
@@ -66,11 +66,13 @@ private:
 	TSharedRef<SWidget> MakeMenu();
 	TSharedRef<ITableRow> MakeRow(TSharedPtr<FString> Option, const TSharedRef<STableViewBase>& OwnerTable);
 	void HandleSearchChanged(const FText& Text);
+	void FilterOptions();
 	void HandleOptionClicked(TSharedPtr<FString> Option);
 	void Pick(TSharedPtr<FString> Option);
 
 	const TArray<TSharedPtr<FString>>* OptionsSource = nullptr;
-	TArray<TSharedPtr<FString>> FilteredOptions; // those that the search leaves
+	TArray<TSharedPtr<FString>> KnownOptions; // as they were read last
+	TArray<TSharedPtr<FString>> FilteredOptions; // those of them that the search leaves
 	FText SearchText;
 	TSharedPtr<FString> SelectedItem;
 	TSharedPtr<SListView<TSharedPtr<FString>>> ListView; // while the menu is open

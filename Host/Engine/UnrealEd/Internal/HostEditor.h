@@ -65,6 +65,12 @@ namespace HostEditor
 	/** In order of the calls. */
 	const TArray<FRestartRequest>& GetRestartRequests();
 
+	//~ Selection
+
+	/** Selects so many surfaces of brushes, as a person may beside actors; that is all that is known of them here. */
+	void SelectSurfaces(int32 Num);
+	int32 GetNumSelectedSurfaces();
+
 	//~ Viewports
 
 	struct FViewport

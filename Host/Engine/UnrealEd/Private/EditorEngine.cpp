@@ -15,6 +15,7 @@
 namespace EditorEngine
 {
 	THostState<FEditorViewports> Viewports;
+	THostState<int32> NumSelectedSurfaces;
 }
 
 void UEditorEngine::Init(IEngineLoop* InEngineLoop)
@@ -45,8 +46,12 @@ FWorldContext& UEditorEngine::GetEditorWorldContext(bool)
 	return EditorWorldContext;
 }
 
-void UEditorEngine::SelectNone(bool bNoteSelectionChange, bool, bool)
+void UEditorEngine::SelectNone(bool bNoteSelectionChange, bool bDeselectBSPSurfs, bool)
 {
+	if (bDeselectBSPSurfs)
+	{
+		EditorEngine::NumSelectedSurfaces.Get() = 0;
+	}
 	SelectedActors->DeselectAll();
 	if (bNoteSelectionChange)
 	{
@@ -158,6 +163,16 @@ void UEditorEngine::MoveViewportCamerasToActor(const TArray<AActor*>& Actors, bo
 	{
 		EditorEngine::Viewports.Get().LookAt(Sum * (1.0 / Labels.Num()), Labels, bActiveViewportOnly);
 	}
+}
+
+void HostEditor::SelectSurfaces(int32 Num)
+{
+	EditorEngine::NumSelectedSurfaces.Get() = Num;
+}
+
+int32 HostEditor::GetNumSelectedSurfaces()
+{
+	return EditorEngine::NumSelectedSurfaces.Get();
 }
 
 const TArray<HostEditor::FViewport>& HostEditor::GetViewports()

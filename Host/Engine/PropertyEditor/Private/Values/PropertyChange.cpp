@@ -46,10 +46,6 @@ FPropertyAccess::Result FPropertyChange::Apply(EPropertyValueSetFlags::Type Flag
 	const bool bInteractive = (Flags & EPropertyValueSetFlags::InteractiveChange) != 0;
 	const bool bRecorded = !bInteractive && (Flags & EPropertyValueSetFlags::NotTransactable) == 0;
 	const bool bEndsInteraction = bRecorded && !Node->ValuesBeforeInteraction.IsEmpty();
-	if (!IsAnyNew(Values) && !bEndsInteraction)
-	{
-		return FPropertyAccess::Success;
-	}
 	const FScopedTransaction Transaction(FText::Format(LOCTEXT("EditProperty", "Edit {0}"), Node->GetDisplayName()), bRecorded);
 	if (bInteractive)
 	{
@@ -81,18 +77,6 @@ FPropertyAccess::Result FPropertyChange::Apply(EPropertyValueSetFlags::Type Flag
 	TellObjects(Objects, bInteractive ? EPropertyChangeType::Interactive : ChangeType);
 	TellListeners();
 	return FPropertyAccess::Success;
-}
-
-bool FPropertyChange::IsAnyNew(const TArray<void*>& Values) const
-{
-	for (int32 Index = 0; Index < Values.Num(); ++Index)
-	{
-		if (!Node->GetProperty()->Identical(Values[Index], GetNewValue(Index)))
-		{
-			return true;
-		}
-	}
-	return false;
 }
 
 bool FPropertyChange::Write() const

@@ -22,12 +22,12 @@ public:
 	/**
 	 * Tells the objects, writes, tells the objects again, then the listeners of the property, of what is below it and of what is above it.
 	 * All that is one step of undo; interactive changes belong to the step of the change that ends them.
-	 * @return a failure, with nothing written, when there is no value (any more) or it lies in a set; a success also when nothing is new, and then nobody is told
+	 * A value that is there already is written, dirties and is told like any other; only a step does not come of it.
+	 * @return a failure, with nothing written, when there is no value (any more) or it lies in a set
 	 */
 	FPropertyAccess::Result Apply(EPropertyValueSetFlags::Type Flags, EPropertyChangeType::Type ChangeType = EPropertyChangeType::ValueSet);
 
 private:
-	bool IsAnyNew(const TArray<void*>& Values) const;
 	bool Write() const;
 	void KeepValuesBeforeInteraction(const TArray<void*>& Values) const;
 	void TakeInteractionBack(const TArray<void*>& Values) const;

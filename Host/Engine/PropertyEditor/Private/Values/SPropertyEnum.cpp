@@ -52,10 +52,19 @@ FText SPropertyEnum::GetCurrentText() const
 	}
 }
 
-/** The value may have changed since the last pick: the box would take the same pick for none. */
+/** The value may have changed since the last pick: only one that differs from it is a pick. Several values are none. */
 void SPropertyEnum::HandleOpening()
 {
-	Combo->ClearSelection();
+	TArray<void*> Values;
+	if (PropertyValue::FindOne(*Node, Values) != FPropertyAccess::Success)
+	{
+		Combo->ClearSelection();
+		return;
+	}
+	const int64 Value = CastField<FNumericProperty>(PropertyValue::GetStorage(*Node))->GetSignedIntPropertyValue(Values[0]);
+	const UEnum* Enum = PropertyValue::GetEnum(*Node->GetProperty());
+	const FEntry* Current = Entries.FindByPredicate([Enum, Value](const FEntry& Entry) { return Enum->GetValueByIndex(*Entry) == Value; });
+	Combo->SetSelectedItem(Current != nullptr ? *Current : nullptr, ESelectInfo::Direct);
 }
 
 TSharedRef<SWidget> SPropertyEnum::MakeEntry(FEntry Entry)
@@ -64,10 +73,10 @@ TSharedRef<SWidget> SPropertyEnum::MakeEntry(FEntry Entry)
 	return SNew(STextBlock).Text(Enum != nullptr ? Enum->GetDisplayNameTextByIndex(*Entry) : FText::GetEmpty());
 }
 
-void SPropertyEnum::HandlePicked(FEntry Entry, ESelectInfo::Type)
+void SPropertyEnum::HandlePicked(FEntry Entry, ESelectInfo::Type SelectInfo)
 {
 	FPropertyChange Change(*Node);
-	if (!Entry.IsValid() || Change.Num() == 0)
+	if (!Entry.IsValid() || SelectInfo == ESelectInfo::Direct || Change.Num() == 0)
 	{
 		return;
 	}

@@ -55,6 +55,7 @@ void UComboBoxString::HandleSelectionChanged(TSharedPtr<FString> Item, ESelectIn
 
 void UComboBoxString::HandleOpening()
 {
+	RefreshOptions(); // they may have changed while it was open last
 	OnOpening.Broadcast();
 }
 
@@ -66,7 +67,7 @@ void UComboBoxString::Select(const TSharedPtr<FString>& Item, ESelectInfo::Type 
 		return;
 	}
 	CurrentOptionPtr = Item;
-	if (const TSharedPtr<SComboBox<TSharedPtr<FString>>> Box = StaticCastSharedPtr<SComboBox<TSharedPtr<FString>>>(MyWidget.Pin()))
+	if (const TSharedPtr<SComboBox<TSharedPtr<FString>>> Box = GetBox())
 	{
 		Box->SetSelectedItem(Item, SelectionType); // comes back here and finds nothing to do
 	}
@@ -86,6 +87,7 @@ void UComboBoxString::UpdateContent()
 void UComboBoxString::AddOption(const FString& Option)
 {
 	Options.Add(MakeShared<FString>(Option));
+	NoteOptionsChanged();
 }
 
 bool UComboBoxString::RemoveOption(const FString& Option)
@@ -100,6 +102,7 @@ bool UComboBoxString::RemoveOption(const FString& Option)
 		ClearSelection();
 	}
 	Options.RemoveAt(Index);
+	NoteOptionsChanged();
 	return true;
 }
 
@@ -117,6 +120,7 @@ void UComboBoxString::ClearOptions()
 {
 	ClearSelection();
 	Options.Empty();
+	NoteOptionsChanged();
 }
 
 void UComboBoxString::ClearSelection()
@@ -126,7 +130,24 @@ void UComboBoxString::ClearSelection()
 
 void UComboBoxString::RefreshOptions()
 {
-	UpdateContent();
+	if (const TSharedPtr<SComboBox<TSharedPtr<FString>>> Box = GetBox())
+	{
+		Box->RefreshOptions();
+	}
+}
+
+TSharedPtr<SComboBox<TSharedPtr<FString>>> UComboBoxString::GetBox() const
+{
+	return StaticCastSharedPtr<SComboBox<TSharedPtr<FString>>>(MyWidget.Pin());
+}
+
+void UComboBoxString::NoteOptionsChanged()
+{
+	const TSharedPtr<SComboBox<TSharedPtr<FString>>> Box = GetBox();
+	if (Box.IsValid() && !Box->IsOpen())
+	{
+		Box->RefreshOptions();
+	}
 }
 
 void UComboBoxString::SetSelectedOption(FString Option)

@@ -44,7 +44,7 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "ComboBox")
 	void ClearSelection();
 
-	/** The options are read each time the box opens; nothing else is to be done. */
+	/** A box that is open shows options that came or went only after this; a closed one shows them when it opens. */
 	UFUNCTION(BlueprintCallable, Category = "ComboBox")
 	void RefreshOptions();
 
@@ -88,6 +88,8 @@ protected:
 private:
 	void Select(const TSharedPtr<FString>& Item, ESelectInfo::Type SelectionType);
 	void UpdateContent();
+	TSharedPtr<SComboBox<TSharedPtr<FString>>> GetBox() const;
+	void NoteOptionsChanged();
 
 	UPROPERTY(EditAnywhere, Category = "Content")
 	TArray<FString> DefaultOptions;

@@ -30,7 +30,7 @@ public:
 
 	//~ Selection
 
-	/** Host: there are no surfaces to deselect and nobody to warn about many actors. */
+	/** Host: there is nobody to warn about many actors. */
 	virtual void SelectNone(bool bNoteSelectionChange, bool bDeselectBSPSurfs, bool WarnAboutManyActors = true);
 
 	/** A hidden actor is selected only when bSelectEvenIfHidden. Without bNotify, call NoteSelectionChange() afterwards. */

@@ -20,6 +20,7 @@ void STableViewBase::RequestListRefresh()
 bool STableViewBase::HandleTick(float)
 {
 	bRefreshPending = false; // first: making rows may ask for another refresh
+	ReadItems();
 	GenerateRows();
 	return false;
 }
@@ -45,7 +46,7 @@ void STableViewBase::GenerateRows()
 
 void STableViewBase::DescribeToHost(FHostWidgetDescription& OutDescription) const
 {
-	const int32 NumItems = CountItems();
+	const int32 NumItems = bRefreshPending ? CountSourceItems() : CountItems(); // a view is asked once it has settled
 	OutDescription.Role = GetHostRole();
 	OutDescription.Notes.Add(FString::Printf(TEXT("%d %s"), NumItems, NumItems == 1 ? TEXT("item") : TEXT("items")));
 	OutDescription.bBusy = bRefreshPending;
@@ -107,6 +108,10 @@ FHostInputResult STableViewBase::TakeHostInput(const FHostInput& Input)
 
 FHostInputResult STableViewBase::ChooseItem(const FString& Shown)
 {
+	if (bRefreshPending)
+	{
+		ReadItems(); // as the tick will: a person is not that fast
+	}
 	const auto IsWholeRow = [&Shown](SWidget& Row) { return FHostWidgetAccess::TextOf(Row).Equals(Shown) || FHostWidgetAccess::Describe(Row).ToolTip.Equals(Shown); };
 	const auto IsPartOfRow = [&Shown](SWidget& Row) { return FHostWidgetAccess::ShowsText(Row, Shown); };
 	if (ClickFirst(IsWholeRow) || ClickFirst(IsPartOfRow))

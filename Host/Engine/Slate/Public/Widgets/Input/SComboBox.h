@@ -56,9 +56,13 @@ public:
 
 	void ClearSelection() { SetSelectedItem(OptionType(), ESelectInfo::Direct); }
 
-	/** The options are read each time they are shown, so there is nothing to keep in step. The selection stays. */
-	void RefreshOptions() {}
-	void SetItemsSource(const TArray<OptionType>* InListItemsSource) { OptionsSource = InListItemsSource; }
+	/** Has the options read again when they show next: nothing else does, whatever becomes of the array. The selection stays. */
+	void RefreshOptions() { bRefreshPending = true; }
+	void SetItemsSource(const TArray<OptionType>* InListItemsSource)
+	{
+		OptionsSource = InListItemsSource;
+		RefreshOptions();
+	}
 
 	virtual void SetIsOpen(bool bInIsOpen) override
 	{
@@ -70,19 +74,32 @@ public:
 	}
 
 protected:
-	virtual int32 CountOptionsForHost() const override { return OptionsSource ? OptionsSource->Num() : 0; }
+	virtual int32 CountOptionsForHost() const override { return ReadOptions().Num(); }
 	virtual TSharedRef<SWidget> MakeOptionForHost(int32 Index) override
 	{
-		return OnGenerateWidget.IsBound() ? OnGenerateWidget.Execute((*OptionsSource)[Index]) : SNullWidget::NullWidget;
+		return OnGenerateWidget.IsBound() ? OnGenerateWidget.Execute(ReadOptions()[Index]) : SNullWidget::NullWidget;
 	}
 	virtual void PickOptionForHost(int32 Index) override
 	{
-		const OptionType Picked = (*OptionsSource)[Index]; // a copy: the handler may change the list
+		const OptionType Picked = ReadOptions()[Index]; // a copy: the handler may change the list
 		SetSelectedItem(Picked, ESelectInfo::OnMouseClick);
 	}
 
 private:
+	/** The options that show. */
+	const TArray<OptionType>& ReadOptions() const
+	{
+		if (bRefreshPending)
+		{
+			bRefreshPending = false;
+			KnownOptions = OptionsSource ? *OptionsSource : TArray<OptionType>();
+		}
+		return KnownOptions;
+	}
+
 	const TArray<OptionType>* OptionsSource = nullptr;
+	mutable TArray<OptionType> KnownOptions; // as they were read last
+	mutable bool bRefreshPending = true;
 	OptionType SelectedItem{};
 	FOnSelectionChanged OnSelectionChanged;
 	FOnGenerateWidget OnGenerateWidget;

@@ -42,12 +42,15 @@ public:
 		RequestListRefresh();
 	}
 
-	/** Takes another array; selection and rows start anew. */
+	/** Takes another array; selection and rows start anew. The array that is shown already changes nothing: see RequestListRefresh(). */
 	void SetItemsSource(const TArray<ItemType>* InListItemsSource)
 	{
-		ItemsSource = InListItemsSource;
-		SelectedItems.Empty();
-		RebuildList();
+		if (ItemsSource != InListItemsSource)
+		{
+			ItemsSource = InListItemsSource;
+			SelectedItems.Empty();
+			RebuildList();
+		}
 	}
 	void ClearItemsSource() { SetItemsSource(nullptr); }
 	bool HasValidItemsSource() const { return ItemsSource != nullptr; }
@@ -107,19 +110,21 @@ public:
 	}
 
 protected:
-	virtual int32 CountItems() const override { return ItemsSource ? ItemsSource->Num() : 0; }
+	virtual int32 CountSourceItems() const override { return GetItems().Num(); }
+	virtual void ReadItems() override { ShownItems = ItemsSource ? *ItemsSource : TArray<ItemType>(); }
+	virtual int32 CountItems() const override { return ShownItems.Num(); }
 	virtual const TCHAR* GetHostRole() const override { return TEXT("list"); }
 	virtual int32 TakeScrollTarget() override
 	{
-		const int32 Index = ItemsSource && ItemToScrollTo.IsSet() ? ItemsSource->Find(ItemToScrollTo.GetValue()) : INDEX_NONE;
+		const int32 Index = ItemToScrollTo.IsSet() ? ShownItems.Find(ItemToScrollTo.GetValue()) : INDEX_NONE;
 		ItemToScrollTo.Reset();
 		return Index;
 	}
-	virtual bool IsItemIndexSelected(int32 ItemIndex) const override { return IsItemSelected((*ItemsSource)[ItemIndex]); }
+	virtual bool IsItemIndexSelected(int32 ItemIndex) const override { return IsItemSelected(ShownItems[ItemIndex]); }
 
 	virtual TSharedRef<ITableRow> MakeRow(int32 ItemIndex) override
 	{
-		const ItemType Item = (*ItemsSource)[ItemIndex];
+		const ItemType Item = ShownItems[ItemIndex];
 		if (const TSharedRef<ITableRow>* Row = RowsByItem.Find(Item))
 		{
 			return *Row;
@@ -135,7 +140,7 @@ protected:
 		TMap<ItemType, TSharedRef<ITableRow>> Kept;
 		for (int32 Index = FirstItem; Index < FirstItem + NumItems; ++Index)
 		{
-			const ItemType Item = (*ItemsSource)[Index];
+			const ItemType Item = ShownItems[Index];
 			if (const TSharedRef<ITableRow>* Row = RowsByItem.Find(Item))
 			{
 				const TSharedRef<ITableRow> Keep = *Row;
@@ -147,7 +152,7 @@ protected:
 
 	virtual void ClickItem(int32 ItemIndex) override
 	{
-		const ItemType Item = (*ItemsSource)[ItemIndex]; // a copy: handlers may change the list
+		const ItemType Item = ShownItems[ItemIndex]; // a copy: handlers may change the list
 		const bool bToggleOff = SelectionMode.Get(ESelectionMode::Multi) == ESelectionMode::SingleToggle && IsItemSelected(Item);
 		if (bToggleOff)
 		{
@@ -166,7 +171,7 @@ private:
 	/** Items that left the array cannot stay selected; whoever listens is told once. */
 	void DropSelectionOfMissingItems()
 	{
-		const int32 NumGone = SelectedItems.RemoveAll([this](const ItemType& Item) { return !ItemsSource || !ItemsSource->Contains(Item); });
+		const int32 NumGone = SelectedItems.RemoveAll([this](const ItemType& Item) { return !ShownItems.Contains(Item); });
 		if (NumGone > 0)
 		{
 			OnSelectionChanged.ExecuteIfBound(NullableItemType(), ESelectInfo::Direct);
@@ -174,6 +179,7 @@ private:
 	}
 
 	const TArray<ItemType>* ItemsSource = nullptr;
+	TArray<ItemType> ShownItems; // what was in it at the last refresh
 	TArray<ItemType> SelectedItems; // in order of selection
 	TOptional<ItemType> ItemToScrollTo; // until the next tick
 	TMap<ItemType, TSharedRef<ITableRow>> RowsByItem; // of the items in view

@@ -9,6 +9,7 @@ class ITableRow;
 
 /**
  * What lists and tile views share: rows exist only for the items that show, and are made anew at the tick after a refresh was asked for.
+ * Items that come, go or move without one are not seen.
  *
  * Host: the view shows up to HostRowsInView items from the first one in view on.
  */
@@ -36,6 +37,10 @@ protected:
 	virtual void ListHostOptions(TArray<FString>& OutOptions) override;
 	static void NoteTileSize(float Width, float Height, FHostWidgetDescription& OutDescription);
 
+	/** Items that the array of the owner has by now. */
+	virtual int32 CountSourceItems() const = 0;
+	/** Takes the items from the array of the owner: all else goes by these. */
+	virtual void ReadItems() = 0;
 	virtual int32 CountItems() const = 0;
 	/** The row of an item, reused or made. */
 	virtual TSharedRef<ITableRow> MakeRow(int32 ItemIndex) = 0;
