@@ -106,7 +106,7 @@ void UVelmorantProjectRequestManager::SetSelectedUnitGroup(FName KeyCode)
 	}
 }
 
-void UVelmorantProjectRequestManager::RequestConfigurator(FName ConfiguratorName, EUpdateRequestType)
+void UVelmorantProjectRequestManager::RequestConfigurator(FName ConfiguratorName, EUpdateRequestType RequestType)
 {
 	if (!ProjectWrapper)
 	{
@@ -114,27 +114,27 @@ void UVelmorantProjectRequestManager::RequestConfigurator(FName ConfiguratorName
 	}
 
 	const TWeakObjectPtr<UProjectWrapper> Requested(ProjectWrapper.Get());
-	UVelmorantSDKEngineSubsystem::Get()->GetService().RequestConfigurator(GetToken(), ProjectWrapper->ProjectData.KeyCode, ConfiguratorName, [WeakThis = TWeakObjectPtr<UVelmorantProjectRequestManager>(this), Requested](const TOptional<FVelmorantConfiguratorRecord>& Record) {
+	UVelmorantSDKEngineSubsystem::Get()->GetService().RequestConfigurator(GetToken(), ProjectWrapper->ProjectData.KeyCode, ConfiguratorName, [WeakThis = TWeakObjectPtr<UVelmorantProjectRequestManager>(this), Requested, RequestType](const TOptional<FVelmorantConfiguratorRecord>& Record) {
 		UVelmorantProjectRequestManager* This = WeakThis.Get();
 		if (This && This->ProjectWrapper && This->ProjectWrapper == Requested.Get())
 		{
-			This->ReceiveConfigurator(Record);
+			This->ReceiveConfigurator(Record, RequestType);
 		}
 	});
 }
 
-void UVelmorantProjectRequestManager::ReceiveConfigurator(const TOptional<FVelmorantConfiguratorRecord>& Record)
+void UVelmorantProjectRequestManager::ReceiveConfigurator(const TOptional<FVelmorantConfiguratorRecord>& Record, EUpdateRequestType RequestType)
 {
 	UConfiguratorWrapper* Configurator = Record.IsSet() ? ProjectWrapper->GetConfiguratorByName(Record.GetValue().Name) : nullptr;
 	if (!Configurator)
 	{
-		OnUpdateRequest.Broadcast(EUpdateRequestDataType::None, EUpdateRequestType::Get); // finished, without data
+		OnUpdateRequest.Broadcast(EUpdateRequestDataType::None, RequestType); // finished, without data
 		return;
 	}
 
 	Configurator->UnitCollection = Record.GetValue().Units;
 	Configurator->UnitGroupCollection = Record.GetValue().UnitGroups;
-	OnUpdateRequest.Broadcast(EUpdateRequestDataType::ConfiguratorData, EUpdateRequestType::Get);
+	OnUpdateRequest.Broadcast(EUpdateRequestDataType::ConfiguratorData, RequestType);
 }
 
 const FString& UVelmorantProjectRequestManager::GetToken() const

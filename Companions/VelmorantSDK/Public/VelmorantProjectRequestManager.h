@@ -42,7 +42,7 @@ public:
 private:
 	void RequestProjectData();
 	void ReceiveProjectData(const FVelmorantProjectAnswer& Answer);
-	void ReceiveConfigurator(const TOptional<FVelmorantConfiguratorRecord>& Record);
+	void ReceiveConfigurator(const TOptional<FVelmorantConfiguratorRecord>& Record, EUpdateRequestType RequestType);
 
 	/** The token of the user that this manager belongs to. */
 	const FString& GetToken() const;
