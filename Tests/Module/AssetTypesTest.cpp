@@ -5,6 +5,7 @@
 #include "Factories/Factory.h"
 #include "HostAssetDefinitions.h"
 #include "HostAssetTools.h"
+#include "HostObjects.h"
 #include "HostPackages.h"
 #include "HostQuestions.h"
 #include "MinimapConfigAsset.h"
@@ -153,9 +154,10 @@ TEST_F(AssetTypes, AreMadeWithTheFlagsOfTheirFactories)
 		EXPECT_TRUE(Factory->bCreateNew);
 		EXPECT_TRUE(Factory->bEditAfterNew);
 
-		UObject* Plain = Factory->FactoryCreateNew(Factory->SupportedClass, GetTransientPackage(), TEXT("Plain"), RF_Public, nullptr, nullptr);
+		UClass* Asked = HostObjects::DeriveClass(Factory->SupportedClass, TEXT("Derived_C"), GetTransientPackage());
+		UObject* Plain = Factory->FactoryCreateNew(Asked, GetTransientPackage(), TEXT("Plain"), RF_Public, nullptr, nullptr);
 		ASSERT_NE(Plain, nullptr);
-		EXPECT_EQ(Plain->GetClass(), Factory->SupportedClass);
+		EXPECT_EQ(Plain->GetClass(), Asked);
 		EXPECT_EQ(Plain->GetOuter(), GetTransientPackage());
 		EXPECT_EQ(ToUtf8(Plain->GetFName()), "Plain");
 		EXPECT_TRUE(Plain->HasAnyFlags(RF_Public));

@@ -2,8 +2,10 @@
 
 #include "CollisionIni.h"
 #include "Editor.h"
+#include "Engine/CollisionProfile.h"
 #include "HostEditor.h"
 #include "HostObjects.h"
+#include "Misc/ConfigCacheIni.h"
 #include "ToolkitTest.h"
 #include "UObject/Class.h"
 #include "UObject/Package.h"
@@ -39,6 +41,23 @@ namespace
 		TArray<UObject*> Dialogues;
 		GetObjectsOfClass(FindObject<UClass>(nullptr, TEXT("/Script/VelmorantProEditor.CheckCollisionNotification")), Dialogues);
 		return Dialogues;
+	}
+
+	/** Under which its texts are translated: title, sub-text, then its buttons. */
+	std::vector<std::string> KeysOf(const FHostNotification& Notification)
+	{
+		std::vector<std::string> Keys;
+		const auto Add = [&Keys](const FText& Text) {
+			EXPECT_EQ(ToUtf8(FTextInspector::GetNamespace(Text).Get(FString())), "FVelmorantProEditor") << ToUtf8(Text);
+			Keys.push_back(ToUtf8(FTextInspector::GetKey(Text).Get(FString())));
+		};
+		Add(Notification.Text);
+		Add(Notification.SubText);
+		for (const FHostNotificationButton& Button : Notification.Buttons)
+		{
+			Add(Button.Label);
+		}
+		return Keys;
 	}
 
 	std::vector<std::string> LabelsOf(const FHostNotification& Notification)
@@ -132,6 +151,18 @@ TEST_F(CollisionCheck, WritesTheEnginesProfilesWhenTheProjectHasNoCollisionSecti
 	EXPECT_EQ(NotificationTitles(), TArray<FString>{MissingTitle});
 }
 
+TEST_F(CollisionCheck, WritesTheProfilesAsTheyAreNow)
+{
+	WriteProjectFile(EngineIni, "");
+	FEditorDelegates::OnMapLoad.AddLambda([this](const FString&, FCanLoadMap&) {
+		UCollisionProfile::Get(); // somebody looks before the check does, and then a profile comes
+		WriteProjectFile("Config/Linux/LinuxEngine.ini", CollisionIni::Section + "\n" + CollisionIni::Glass + "\n");
+		GConfig->UnloadFile(GEngineIni);
+	});
+	StartEditor();
+	EXPECT_THAT(ReadProjectFile(EngineIni), HasSubstr("Name=\"Glass\""));
+}
+
 TEST_F(CollisionCheck, TreatsAMissingFileLikeAMissingSection)
 {
 	std::filesystem::remove(Folder.GetNative("Project/Config/DefaultEngine.ini"));
@@ -150,6 +181,7 @@ TEST_F(CollisionCheck, AsksWhetherToAddAMissingProfile)
 		"The UnitVolume profile was not found. This profile is required for UnitVolumes. Make sure to add it to your project to avoid issues. \n\n"
 		" Do you want to add this configuration to the project?");
 	EXPECT_THAT(LabelsOf(*Question), ElementsAre("Add to Project Config", "Skip"));
+	EXPECT_THAT(KeysOf(*Question), ElementsAre("MissingUnitVolumeProfile", "MissingUnitVolumeProfile_SubText", "AddToProjectConfig", "SkipUnitVolumeProfile"));
 	ExpectQuestion(*Question);
 
 	Wait(3600.0);
@@ -192,6 +224,8 @@ TEST_F(CollisionCheck, AddWritesTheLinesThenConfirmsThenAsksForARestart)
 	EXPECT_EQ(ToUtf8(Restart->SubText),
 		"A restart is required to apply the changes properly. Save your work and restart the project. \n\n Do you want to restart the editor now?");
 	EXPECT_THAT(LabelsOf(*Restart), ElementsAre("Restart Editor", "Later"));
+	EXPECT_THAT(KeysOf(*Restart), ElementsAre("RestartEditorRequired", "RestartEditorRequired_SubText", "RestartEditor", "RestartLater"));
+	EXPECT_EQ(ToUtf8(FTextInspector::GetKey(Added->Text).Get(FString())), "UnitVolumeProfilesAdded");
 	ExpectQuestion(*Restart);
 	EXPECT_EQ(FindDialogues().Num(), 1);
 }

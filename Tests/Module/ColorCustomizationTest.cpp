@@ -173,11 +173,16 @@ TEST_F(ColorCustomization, EditsSeveralColorsAtOnce)
 	EXPECT_THAT(Snapshot(), HasSubstr("[Use Contrast] (undetermined"));
 	ChooseColor(TEXT("Both"));
 	UseContrast(true);
-	for (const AVlmInteractiveSpot* Spot : {First, Second})
+	for (AVlmInteractiveSpot* Spot : {First, Second})
 	{
 		EXPECT_EQ(ToUtf8(Spot->BackgroundColor.ColorID), "Both");
 		EXPECT_TRUE(Spot->BackgroundColor.bUseContrast);
+		Spot->BackgroundColor.ColorMode = EVelmorantColorMode::Custom;
 	}
+	First->BackgroundColor.ColorCustom = Second->BackgroundColor.ColorCustom = FLinearColor(0.1f, 0.2f, 0.3f, 0.4f);
+	EXPECT_EQ(Preview(), Free);
+	Second->BackgroundColor.ColorCustom.G = 0.9f;
+	EXPECT_EQ(Preview(), Magenta) << "several free colours have none in common";
 }
 
 TEST_F(ColorCustomization, IsShownForTheColorOfAnIcon)
@@ -209,6 +214,7 @@ TEST_F(ColorCustomization, IsMagentaWithoutAPalette)
 
 TEST_F(ColorCustomization, RaisesItsChecksOnceTheObjectIsGone)
 {
+	bEnsuresMayFail = true;
 	AVlmInteractiveSpot* Spot = OpenColor(TEXT("White"));
 	const TSharedRef<SWidget> Panel = View->GetWidget();
 	Spot->Destroy();

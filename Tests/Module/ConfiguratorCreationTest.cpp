@@ -133,13 +133,14 @@ TEST_F(ConfiguratorCreation, ACancelledDialogLeavesNoAsset)
 
 TEST_F(ConfiguratorCreation, RefusesASecondAssetWhereverTheFirstOneIs)
 {
-	StartWithConfigurators(OneRoomConfigurator);
-	AnswerSaveDialog(TEXT("Save"), {{TEXT("Name"), TEXT("Elsewhere")}, {TEXT("Path"), TEXT("/Game/Sales/Old")}});
+	StartWithConfigurators(std::string(R"({"name": "Loft"}, )") + OneRoomConfigurator);
+	Create(TEXT("Loft")); // another one's stands before it
+	AnswerSaveDialog(TEXT("Save"), {{TEXT("Name"), TEXT("Elsewhere")}, {TEXT("Path"), TEXT("/Game/Z/Old")}});
 	Create(TEXT("Tower"));
 	Create(TEXT("Tower"));
 	Create(TEXT("TOWER"));
-	EXPECT_THAT(TakeOutcomes(), ElementsAre(Created, AlreadyThere, AlreadyThere));
-	EXPECT_EQ(HostQuestions::GetAsked().Num(), 1) << "the dialog must not come up again";
+	EXPECT_THAT(TakeOutcomes(), ElementsAre(Created, Created, AlreadyThere, AlreadyThere));
+	EXPECT_EQ(HostQuestions::GetAsked().Num(), 2) << "the dialog must not come up again";
 }
 
 TEST_F(ConfiguratorCreation, RefusesASecondAssetWhenTheFirstOneIsOnDiskOnly)
@@ -148,7 +149,7 @@ TEST_F(ConfiguratorCreation, RefusesASecondAssetWhenTheFirstOneIsOnDiskOnly)
 	Create(TEXT("Tower"));
 	ASSERT_TRUE(HostPackages::SaveAll().Succeeded());
 
-	StartWithProject();
+	StartEditor(); // nobody has signed in: that does not matter yet
 	Create(TEXT("Tower"));
 	EXPECT_THAT(TakeOutcomes(), ElementsAre(AlreadyThere));
 }

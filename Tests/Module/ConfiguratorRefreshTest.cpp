@@ -10,6 +10,7 @@
 #include "VelmorantDeveloperUser.h"
 #include "VelmorantEditorUtilitiesLibrary.h"
 #include "VelmorantProjectRequestManager.h"
+#include "VelmorantSDKEngineSubsystem.h"
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -47,11 +48,17 @@ protected:
 TEST_F(ConfiguratorRefresh, BringsTheNewDataOnceTheServiceAnswers)
 {
 	UVelmorantConfiguratorDataAsset* Asset = StartWithGrownConfigurator();
+	std::vector<std::string> Told;
+	GetRequests()->GetOnUpdateRequest().AddLambda([&Told](EUpdateRequestDataType DataType, EUpdateRequestType RequestType) {
+		Told.push_back(std::to_string(static_cast<int>(DataType)) + "/" + std::to_string(static_cast<int>(RequestType)));
+	});
 	EXPECT_TRUE(Refresh(Asset));
+	Asset->ConfiguratorName = TEXT("Renamed"); // what is on its way is still Tower's
 	EXPECT_THAT(TakeOutcomes(), ElementsAre(Requested));
 	EXPECT_THAT(DescribeRooms(Asset), ElementsAre("Kitchen/Fronts: Oak, Lacquer")) << "an answer within the call, even without delay";
 
 	Wait(0.0);
+	EXPECT_THAT(Told, ElementsAre("4/0")) << "configurator data, fetched";
 	EXPECT_THAT(DescribeRooms(Asset), ElementsAre("Kitchen/Fronts: Oak, Lacquer, Steel"));
 	EXPECT_THAT(TakeOutcomes(), IsEmpty());
 	EXPECT_TRUE(Asset->LevelVariantSets.IsNull()) << "a refresh makes no level variant sets";
@@ -110,13 +117,21 @@ TEST_F(ConfiguratorRefresh, LeavesEverythingCleanThatIsThereAlready)
 
 TEST_F(ConfiguratorRefresh, CopiesOnlyTheRecordWhenThePathIsNotLoaded)
 {
-	UVelmorantConfiguratorDataAsset* Asset = StartWithGrownConfigurator();
-	Asset->LevelVariantSets = FSoftObjectPath(TEXT("/Game/Gone/LevelVariant_Tower.LevelVariant_Tower"));
-	Refresh(Asset);
-	TakeOutcomes();
-	Wait(0.0);
-	EXPECT_THAT(DescribeRooms(Asset), ElementsAre("Kitchen/Fronts: Oak, Lacquer, Steel"));
-	EXPECT_THAT(TakeOutcomes(), IsEmpty());
+	UVelmorantEditorUtilitiesLibrary::CreateVariantSetFromConfigurator(StartWithGrownConfigurator());
+	SaveAll();
+	for (const TCHAR* Path : {TEXT("/Game/Velmorant/Configurator/LevelVariant_Tower.LevelVariant_Tower"), TEXT("/Game/Gone/LevelVariant_Tower.LevelVariant_Tower")})
+	{
+		StartWithProject(); // on disk, or nowhere
+		UVelmorantConfiguratorDataAsset* Asset = LoadObject<UVelmorantConfiguratorDataAsset>(nullptr, TEXT("/Game/Velmorant/Configurator/Configurator_Tower.Configurator_Tower"));
+		ASSERT_NE(Asset, nullptr);
+		Asset->LevelVariantSets = FSoftObjectPath(FString(Path));
+		Refresh(Asset);
+		TakeOutcomes();
+		Wait(0.0);
+		EXPECT_THAT(DescribeRooms(Asset), ElementsAre("Kitchen/Fronts: Oak, Lacquer, Steel"));
+		EXPECT_THAT(TakeOutcomes(), IsEmpty());
+		EXPECT_EQ(Asset->LevelVariantSets.ResolveObject(), nullptr) << ToUtf8(FString(Path));
+	}
 }
 
 TEST_F(ConfiguratorRefresh, RefusesWithoutAnAssetSilently)
@@ -132,6 +147,7 @@ TEST_F(ConfiguratorRefresh, NeedsAUserWithAValidToken)
 	UVelmorantConfiguratorDataAsset* Loose = NewObject<UVelmorantConfiguratorDataAsset>();
 	EXPECT_FALSE(Refresh(Loose));
 	EXPECT_THAT(TakeOutcomes(), ElementsAre(NoValidUser)) << "there is no user";
+	EXPECT_EQ(UVelmorantSDKEngineSubsystem::GetVelmorantEditorUser(false), nullptr) << "and none is made";
 
 	WriteServiceWith("\"tokenSeconds\": 60");
 	SignIn();

@@ -166,9 +166,22 @@ TEST_F(DeveloperInfoPanel, APictureOfNoKnownFormatDoesNotShow)
 
 TEST_F(DeveloperInfoPanel, SignsOut)
 {
-	FTestPanel Panel = MakePanel();
+	StartEditor();
+	FTestPanel Panel(PanelLayouts::DeveloperInfo, {});
+	Panel.Show();
+	Panel.Click(TEXT("LogoutButton")); // there is no user; nothing happens
+	UVelmorantUser* RuntimeUser = UVelmorantSDKEngineSubsystem::Get()->GetVelmorantUser();
+	for (UVelmorantUser* User : {RuntimeUser, static_cast<UVelmorantUser*>(GetUser())})
+	{
+		User->RequestUserLogin(FVelmorantUserInformation(false, TEXT("ada"), TEXT("sesame-77")));
+	}
+	Wait(0.0);
+	Panel.Hide();
+	Panel.Show();
+	ASSERT_TRUE(GetUser()->HasValidToken());
 	Panel.Click(TEXT("LogoutButton"));
 	EXPECT_FALSE(GetUser()->HasValidToken());
+	EXPECT_TRUE(RuntimeUser->HasValidToken()) << "the running model's user stays";
 	EXPECT_THAT(TakeOutcomes(), IsEmpty());
 	Panel.Click(TEXT("LogoutButton")); // nobody is signed in; nothing happens
 	EXPECT_FALSE(GetUser()->HasValidToken());
@@ -176,7 +189,14 @@ TEST_F(DeveloperInfoPanel, SignsOut)
 
 TEST_F(DeveloperInfoPanel, SwitchesTheUserOfTheRunningModel)
 {
-	StartEditor(); // nobody has signed in: asking makes the user
+	for (const bool bUse : {true, false}) // nobody has signed in: telling makes the user, and so does asking
+	{
+		StartEditor();
+		const FTestPanel Panel(PanelLayouts::DeveloperInfo, {});
+		Panel.Get<UVlmEWDevInfo>()->SetDevUserInRuntime(bUse);
+		EXPECT_EQ(Panel.Get<UVlmEWDevInfo>()->GetDevUserInRuntime(), bUse);
+	}
+	StartEditor();
 	const FTestPanel Panel(PanelLayouts::DeveloperInfo, {});
 	UVlmEWDevInfo* Info = Panel.Get<UVlmEWDevInfo>();
 	EXPECT_FALSE(Info->GetDevUserInRuntime());

@@ -2,11 +2,13 @@
 
 #include "HostAssertions.h"
 #include "HostClipboard.h"
+#include "SourceText.h"
 #include "ToolkitTest.h"
 #include "UObject/Class.h"
 #include "VelmorantEditorUtilitiesLibrary.h"
 
 #include <filesystem>
+#include <regex>
 
 using testing::ElementsAre;
 
@@ -98,6 +100,26 @@ TEST_F(EditorServices, VersionsAreTheFreeTextsOfTheCompanionPlugins)
 	std::filesystem::remove_all(Folder.GetNative("Plugins/VelmorantSDK"));
 	StartEditor();
 	EXPECT_THROW(UVelmorantEditorUtilitiesLibrary::GetVelmorantSDKVersion(), FHostAssertionFailure) << "a missing companion has no version to fall back to";
+}
+
+TEST(EditorTexts, WhatIsFormattedHasTheKeysThatTranslationsKnow)
+{
+	// Once formatted, a text no longer tells its key.
+	std::vector<std::string> Keys;
+	for (const std::filesystem::path& File : SourceText::FindSources(SourceText::Root / "Source"))
+	{
+		const std::string Text = SourceText::Read(File);
+		const std::vector<std::string> Namespace = SourceText::FindAll(Text, std::regex("#define LOCTEXT_NAMESPACE \"(\\w+)\""));
+		for (const std::string& Key : SourceText::FindAll(Text, std::regex("FText::Format\\(LOCTEXT\\((\"\\w+\", \"[^\"]+\")")))
+		{
+			Keys.push_back(Namespace.at(0) + ": " + Key);
+		}
+		for (const std::string& Key : SourceText::FindAll(Text, std::regex("NSLOCTEXT\\((\"[^\"]*\", \"[^\"]*\", \"[^\"]*\")\\)")))
+		{
+			Keys.push_back(Key);
+		}
+	}
+	EXPECT_THAT(Keys, testing::UnorderedElementsAre(R"x("UnrealEd", "Null", "(null)")x", R"("UnrealEd", "CannotCreateBlueprintFromClass", "Cannot create a blueprint based on the class '{ClassName}'.")", R"(FVelmorantProEditor: "VelmorantVersionCopied", "Velmorant version {0} copied to clipboard.")", R"(FVelmorantProEditor: "VelmorantVersion", "Velmorant Version: {0}")"));
 }
 
 TEST_F(EditorServices, CopyingTheVersionTellsWhichOne)

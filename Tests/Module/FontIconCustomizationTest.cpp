@@ -6,7 +6,9 @@
 #include "FontIconData.h"
 #include "HostObjects.h"
 #include "HostSnapshot.h"
+#include "SSearchableComboBox.h"
 #include "ScopedTransaction.h"
+#include "Styling/AppStyle.h"
 #include "UObject/Package.h"
 #include "UObject/StrongObjectPtr.h"
 #include "VelmorantProUISettings.h"
@@ -25,6 +27,14 @@ class FontIconCustomization : public FDetailsTest
 protected:
 	void Search(const TCHAR* Text) { Type(TEXT("Icon List/Search"), Text); }
 	void PickTile(const TCHAR* Icon) { Choose(TEXT("Icon List"), Icon); }
+
+	static void ExpectIconFont(const STextBlock& Glyph)
+	{
+		EXPECT_EQ(Glyph.GetFont().Size, 16.0f);
+		EXPECT_EQ(ToUtf8(Glyph.GetFont().TypefaceFontName), "Thin");
+		ASSERT_NE(Glyph.GetFont().FontObject, nullptr);
+		EXPECT_EQ(ToUtf8(Glyph.GetFont().FontObject->GetName()), "Face");
+	}
 };
 
 TEST_F(FontIconCustomization, OffersWhatTheFontHas)
@@ -58,9 +68,29 @@ TEST_F(FontIconCustomization, DrawsTheGridAndItsGlyphsInTheirSizes)
 	EXPECT_THAT(BoxSizes(TEXT("Icon List")), ElementsAre("150 high"));
 	const std::vector<STextBlock*> Glyphs = All<STextBlock>(TEXT("Icon List"));
 	ASSERT_EQ(Glyphs.size(), 3u);
-	EXPECT_EQ(Glyphs[0]->GetFont().Size, 16.0f);
-	EXPECT_EQ(ToUtf8(Glyphs[0]->GetFont().TypefaceFontName), "Thin");
-	EXPECT_EQ(ToUtf8(Glyphs[0]->GetFont().FontObject->GetName()), "Face");
+	const char* const Characters[] = {"⚓", "⛵", "b"};
+	for (int32 Index = 0; Index < 3; ++Index)
+	{
+		EXPECT_EQ(ToUtf8(Glyphs[Index]->GetText()), Characters[Index]);
+		ExpectIconFont(*Glyphs[Index]);
+	}
+
+	const auto FindText = [this](const char* Text) {
+		const std::vector<STextBlock*> Texts = All<STextBlock>(nullptr);
+		const auto Found = std::find_if(Texts.begin(), Texts.end(), [Text](const STextBlock* Block) { return ToUtf8(Block->GetText()) == Text; });
+		return Found != Texts.end() ? *Found : nullptr;
+	};
+	const STextBlock* const Header = FindText("b"); // stands above the grid
+	ASSERT_NE(Header, nullptr);
+	ExpectIconFont(*Header);
+
+	const std::vector<SSearchableComboBox*> Lists = All<SSearchableComboBox>(nullptr);
+	ASSERT_GE(Lists.size(), 3u);
+	Lists[2]->SetIsOpen(true);
+	Wait(0.0);
+	const STextBlock* const Name = FindText("boat-house"); // in the list of names alone
+	ASSERT_NE(Name, nullptr);
+	EXPECT_TRUE(Name->GetFont() == FAppStyle::GetFontStyle("PropertyWindow.NormalFont"));
 }
 
 TEST_F(FontIconCustomization, ItsListsFollowFontsThatComeWhileThePanelIsOpen)
@@ -106,6 +136,9 @@ TEST_F(FontIconCustomization, NarrowsTheGridWithEveryLetter)
 		{TEXT("black ship"), {"anchor"}},
 		{TEXT("black"), {}},
 		{TEXT("boat-house"), {}},
+		{TEXT(" boat"), {}}, // blanks count
+		{TEXT("oat "), {}},
+		{TEXT("buoy"), {"anchor", "Buoy"}}, // by search word, and behind it by name
 		{TEXT("tboat"), {}}, // the end of one name and the beginning of the next
 		{TEXT(""), {"anchor", "sail-boat", "Buoy"}},
 	};
@@ -295,6 +328,7 @@ TEST_F(FontIconCustomization, IsSilentWhenUndoTakesTheObjectAway)
 
 TEST_F(FontIconCustomization, RaisesItsChecksOnceTheObjectIsGone)
 {
+	bEnsuresMayFail = true;
 	AVlmInteractiveSpot* Spot = OpenIcon(TEXT("Ship"), TEXT("Thin"), TEXT("anchor"));
 	const TSharedRef<SWidget> Panel = View->GetWidget();
 	Spot->Destroy();

@@ -143,6 +143,7 @@ TEST_F(LevelVariants, AdoptsAnAssetThatEndsInTheConfiguratorsName)
 		{"the whole last part", TEXT("Old_BigTower"), TEXT("Tower"), false},
 		{"no underscore", TEXT("Tower"), TEXT("Tower"), false},
 		{"another name", TEXT("Old_Loft"), TEXT("Tower"), false},
+		{"a part that is missing is None", TEXT("Tower"), TEXT("None"), true},
 	};
 	for (const auto& Case : Cases)
 	{
@@ -155,6 +156,23 @@ TEST_F(LevelVariants, AdoptsAnAssetThatEndsInTheConfiguratorsName)
 		EXPECT_EQ(Asset->LevelVariantSets.ResolveObject() == Existing, Case.bAdopted);
 		EXPECT_EQ(Describe(Existing).size(), Case.bAdopted ? 1u : 0u);
 	}
+}
+
+TEST_F(LevelVariants, AdoptsTheFirstOfSeveralThatFitBehindOthersThatDoNot)
+{
+	StartEditor();
+	for (const TCHAR* Name : {TEXT("A_Loft"), TEXT("B_Tower"), TEXT("C_Tower"), TEXT("D_Last")})
+	{
+		MakeLevelVariantSets(TEXT("/Game/Elsewhere"), Name);
+	}
+	UVelmorantConfiguratorDataAsset* Asset = MakeDataAsset(TEXT("Tower"), {});
+	Generate(Asset);
+	EXPECT_EQ(ToUtf8(Asset->LevelVariantSets.ToString()), "/Game/Elsewhere/B_Tower.B_Tower");
+	Asset->ConfiguratorName = TEXT("Last");
+	Asset->LevelVariantSets.Reset();
+	Generate(Asset);
+	EXPECT_EQ(ToUtf8(Asset->LevelVariantSets.ToString()), "/Game/Elsewhere/D_Last.D_Last");
+	EXPECT_THAT(TakeOutcomes(), ElementsAre(Adopted, Adopted));
 }
 
 TEST_F(LevelVariants, AdoptsAnAssetThatIsOnDiskOnly)
@@ -259,11 +277,15 @@ TEST_F(LevelVariants, ANameThatNoAssetCanHaveEndsInTwoFailures)
 {
 	StartEditor();
 	TakeModuleLog();
-	UVelmorantConfiguratorDataAsset* Asset = MakeDataAsset(TEXT("Tower:A"), {MakeGroup(TEXT("Fronts"), {TEXT("Oak")})});
-	Generate(Asset);
-	EXPECT_THAT(TakeOutcomes(), ElementsAre(NoSets, FillFailed));
-	EXPECT_THAT(TakeModuleLog(), ElementsAre(FillFailedLine));
-	EXPECT_TRUE(Asset->LevelVariantSets.IsNull());
+	UVelmorantConfiguratorDataAsset* Asset = MakeDataAsset(TEXT(""), {MakeGroup(TEXT("Fronts"), {TEXT("Oak")})});
+	for (const TCHAR* Name : {TEXT("Tower:A"), TEXT("Tower\tA")}) // only blanks are replaced
+	{
+		Asset->ConfiguratorName = Name;
+		Generate(Asset);
+		EXPECT_THAT(TakeOutcomes(), ElementsAre(NoSets, FillFailed)) << ToUtf8(FString(Name));
+		EXPECT_THAT(TakeModuleLog(), ElementsAre(FillFailedLine));
+		EXPECT_TRUE(Asset->LevelVariantSets.IsNull());
+	}
 }
 
 TEST_F(LevelVariants, NeverReplacesASavedAssetUnasked)
@@ -314,6 +336,12 @@ TEST_F(LevelVariants, FillingTellsWhetherThereWasSomethingToFill)
 	EXPECT_TRUE(UVelmorantEditorUtilitiesLibrary::FillOutLevelVariantWithConfigurator(Asset, Sets));
 	EXPECT_THAT(TakeOutcomes(), IsEmpty());
 	EXPECT_THAT(Describe(Sets), ElementsAre("Kitchen - Fronts: Oak"));
+
+	EXPECT_TRUE(UVelmorantEditorUtilitiesLibrary::FillOutLevelVariantWithConfigurator(nullptr, Sets)) << "nothing to add";
+	EXPECT_THAT(TakeOutcomes(), IsEmpty());
+	EXPECT_EQ(Describe(Sets).size(), 1u);
+	EXPECT_FALSE(UVelmorantEditorUtilitiesLibrary::FillOutLevelVariantWithConfigurator(nullptr, nullptr));
+	EXPECT_THAT(TakeOutcomes(), ElementsAre(NoSets));
 }
 
 TEST_F(LevelVariants, SavedAssetsLoadBackEqualAndGoOnFromThere)

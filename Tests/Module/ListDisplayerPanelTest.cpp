@@ -11,6 +11,7 @@
 #include "UObject/Package.h"
 #include "VelmorantDeveloperUser.h"
 #include "VelmorantProjectRequestManager.h"
+#include "VelmorantTextSearch.h"
 #include "VlmButton.h"
 
 #include <random>
@@ -246,6 +247,7 @@ TEST_F(ListDisplayerPanel, SearchesKeyCodeAndNameInOne)
 		{TEXT("FIR"), {"10 A-1 First"}},
 		{TEXT("1f"), {"10 A-1 First"}}, // across the seam
 		{TEXT("1 F"), {}},
+		{TEXT("FIR "), {}}, // blanks count
 		{TEXT("s"), {"10 A-1 First", "20 A-2 Second"}},
 		{TEXT("10"), {}}, // numbers are not searched
 		{TEXT(""), {"10 A-1 First", "20 A-2 Second"}},
@@ -303,6 +305,17 @@ TEST_F(ListDisplayerPanel, FindsWhatComparingRowByRowFinds)
 	EXPECT_LT(NumFound, 300u * 300u / 2u);
 }
 
+TEST(TextSearch, RowsMayBeEmpty)
+{
+	const TCHAR* const Rows[] = {TEXT(""), TEXT("ab"), TEXT(""), TEXT(""), TEXT("B"), TEXT("")}; // some have neither key code nor name
+	FVelmorantTextSearch Search;
+	Search.SetRows(6, [&Rows](int32 Row, FString& InOutText) { InOutText += Rows[Row]; });
+	EXPECT_EQ(Search.Find(TEXT("b")), (TArray<int32>{1, 4}));
+	EXPECT_TRUE(Search.Find(TEXT("bb")).IsEmpty()) << "across empty rows";
+	Search.SetRows(0, [](int32, FString&) {});
+	EXPECT_TRUE(Search.Find(TEXT("b")).IsEmpty());
+}
+
 TEST_F(ListDisplayerPanel, ARebuiltListIsNotSearchedAgain)
 {
 	FTestPanel Panel = MakePanel();
@@ -333,10 +346,11 @@ TEST_F(ListDisplayerPanel, OneNavigationButtonIsSelectedAtATime)
 	FTestPanel Panel = MakePanelOfUnits();
 	SetNavBar(Panel);
 	SetNavBar(Panel); // twice must not count twice
+	Panel.ListenTo(TEXT("OnSelectionStateChanged"), TEXT("NavConfigurators"));
 	Panel.Click(TEXT("NavConfigurators"));
-	EXPECT_THAT(Panel.TakeEvents(), ElementsAre("OnNavBarButtonChanged(1)"));
+	EXPECT_THAT(Panel.TakeEvents(), ElementsAre("OnNavBarButtonChanged(1)", "OnSelectionStateChanged"));
 	ListOf(Panel)->SetNavBarByIndex(0);
-	EXPECT_THAT(Panel.TakeEvents(), ElementsAre("OnNavBarButtonChanged(0)"));
+	EXPECT_THAT(Panel.TakeEvents(), ElementsAre("OnSelectionStateChanged", "OnNavBarButtonChanged(0)")) << "who is released is told";
 	EXPECT_THAT(NavBar(Panel), ElementsAre(true, false));
 
 	Panel.Click(TEXT("NavUnits")); // off: none is selected, and nobody is told

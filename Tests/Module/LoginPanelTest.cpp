@@ -194,13 +194,38 @@ TEST_F(LoginPanel, FillsInWhatIsRemembered)
 	}
 }
 
-TEST_F(LoginPanel, StaysEmptyWhenNothingIsRemembered)
+TEST_F(LoginPanel, KeepsItsFieldsWhereNothingIsRemembered)
 {
+	for (const char* Saved : {R"({"userName": "", "password": ""})", "nothing"})
+	{
+		Folder.Write(SavedUser, Saved);
+		StartEditor();
+		FTestPanel Panel = MakePanel();
+		Panel.Find<UEditableText>(TEXT("UserName"))->SetText(FText::FromString(TEXT("eve")));
+		Panel.Find<UEditableText>(TEXT("UserPassword"))->SetText(FText::FromString(TEXT("typed")));
+		Panel.Show();
+		EXPECT_EQ(Panel.Read(TEXT("UserName")), "eve");
+		EXPECT_EQ(ToUtf8(Panel.Find<UEditableText>(TEXT("UserPassword"))->GetText()), "typed");
+		EXPECT_EQ(Panel.TakeEvents().empty(), Saved == std::string("nothing"));
+		EXPECT_NE(UVelmorantSDKEngineSubsystem::GetVelmorantEditorUser(false), nullptr) << "the panel makes the user whom it asks";
+	}
+}
+
+TEST_F(LoginPanel, TakesNameAndOptionAsTheyAre)
+{
+	Folder.Write(SavedUser, R"({"userName": "ada", "password": "sesame-77"})");
 	StartEditor();
 	FTestPanel Panel = MakePanel();
 	Panel.Show();
-	EXPECT_EQ(Panel.Read(TEXT("UserName")), "");
-	EXPECT_THAT(Panel.TakeEvents(), IsEmpty());
+	Panel.Type(TEXT("UserName"), TEXT(" ada "));
+	Panel.Click(TEXT("SummitButton"));
+	EXPECT_EQ(ToUtf8(GetUser()->GetUserInfo().UserName), " ada ");
+	Wait(0.0);
+	EXPECT_FALSE(GetUser()->HasValidToken()) << "blanks count";
+
+	FTestPanel Next = MakePanel(); // the user is still remembered, but signed in last without the option
+	Next.Show();
+	EXPECT_THAT(Next.TakeEvents(), ElementsAre("OnRememberMeOption(false)"));
 }
 
 TEST_F(LoginPanel, RemembersTheUserInAFileThatOnlyTheyCanRead)

@@ -41,7 +41,7 @@ protected:
 		AMinimapLevelController* Controller = GetWorld().SpawnActor<AMinimapLevelController>();
 		if (NumFloors >= 0)
 		{
-			UMinimapConfigAsset* Config = NewObject<UMinimapConfigAsset>();
+			UMinimapConfigAsset* Config = NewObject<UMinimapConfigAsset>(CreatePackage(TEXT("/Game/Minimap")));
 			Config->Floors.SetNum(NumFloors);
 			SetValue(Controller, TEXT("MinimapConfiguration"), Config->GetPathName());
 		}

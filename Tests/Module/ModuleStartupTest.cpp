@@ -13,6 +13,8 @@
 #include "HostStyles.h"
 #include "IAssetTools.h"
 #include "Modules/ModuleManager.h"
+#include "Styling/SlateStyleRegistry.h"
+#include "ToolMenus.h"
 #include "ToolkitTest.h"
 #include "UObject/UObjectHash.h"
 #include "UObject/UnrealType.h"
@@ -70,20 +72,51 @@ namespace
 
 class ModuleStartup : public FToolkitTest
 {
+protected:
+	/** The steps of start-up and shut-down that were taken. @param Starting a module of the editor that cannot be asked yet */
+	static std::string DescribeSteps(FName Starting = NAME_None)
+	{
+		const std::string Log = WholeLog();
+		TArray<TSharedPtr<FUICommandInfo>> Commands;
+		FInputBindingManager::Get().GetCommandInfosFromContext("VelmorantProEdCommands", Commands);
+		const auto CanAsk = [Starting](FName Module) { return Module != Starting && FModuleManager::Get().IsModuleLoaded(Module); };
+		const bool bProperties = CanAsk("PropertyEditor");
+		const TSharedPtr<FPropertySection> Section = bProperties ? HostPropertyEditor::FindSection("Object", "Velmorant") : nullptr;
+		const bool bDetails = bProperties && HostPropertyEditor::GetCustomizedTypes().Num() == 2 && HostPropertyEditor::GetNumChangeNotes() == 1 && Section.IsValid() && Section->HasAddedCategory("MinimapLevelController");
+		const std::vector<std::string> Assets = CanAsk("AssetTools") ? NewAssetNames() : std::vector<std::string>();
+		std::string Steps;
+		const auto Add = [&Steps](bool bTaken, const char* Step) { Steps += bTaken ? std::string(" ") + Step : ""; };
+		Add(Log.find("VelmorantProEditor module has been loaded") != std::string::npos, "loaded");
+		Add(Log.find("LogVelmorantProEditor module has been unloaded") != std::string::npos, "unloaded");
+		Add(FSlateStyleRegistry::FindSlateStyle("VelmorantEditorStyle") != nullptr, "style");
+		Add(Commands.Num() == 4, "commands");
+		Add(std::count(Assets.begin(), Assets.end(), "Minimap Config Asset") == 1, "assets");
+		Add(bDetails, "details");
+		Add(CanAsk("PlacementMode") && HostPlacement::GetItems("VelmorantActors").Num() == 12, "placement");
+		Add(FEditorDelegates::OnMapLoad.IsBound(), "check");
+		return Steps;
+	}
 };
 
-TEST_F(ModuleStartup, LoadsTheModulesItRegistersWithInTheOrderOfRegistration)
+TEST_F(ModuleStartup, GoesStepByStep)
 {
-	StartEditor();
-	std::vector<std::string> Used;
-	for (const std::string& Module : ToUtf8(HostModules::GetLoaded()))
-	{
-		if (Module == "AssetTools" || Module == "PropertyEditor" || Module == "PlacementMode" || Module == "VelmorantProEditor")
+	// What stands when each of the editor's modules is about to start.
+	std::vector<std::string> Steps;
+	HostModules::SetLoadListener([&Steps](FName Module) {
+		if (Module == "AssetTools" || Module == "PropertyEditor" || Module == "PlacementMode")
 		{
-			Used.push_back(Module);
+			Steps.push_back(ToUtf8(Module) + ":" + DescribeSteps(Module));
 		}
-	}
-	EXPECT_THAT(Used, ElementsAre("AssetTools", "PropertyEditor", "PlacementMode", "VelmorantProEditor"));
+	});
+	StartEditor();
+	EXPECT_THAT(Steps, ElementsAre("AssetTools: loaded style commands", "PropertyEditor: loaded style commands assets", "PlacementMode: loaded style commands assets details"));
+	EXPECT_EQ(DescribeSteps(), " loaded style commands assets details placement check");
+
+	Steps.clear();
+	ASSERT_TRUE(FModuleManager::Get().UnloadModule("PropertyEditor"));
+	ASSERT_TRUE(FModuleManager::Get().UnloadModule("VelmorantProEditor"));
+	EXPECT_THAT(Steps, ElementsAre("PropertyEditor: loaded unloaded commands assets placement check")) << "the style goes first, the category last";
+	HostModules::SetLoadListener(nullptr);
 }
 
 TEST_F(ModuleStartup, TellsOfItsLifeInTheLogAsWarnings)
@@ -173,9 +206,19 @@ TEST_F(ModuleStartup, OffersItsActorsForPlacement)
 	const TSharedRef<FPlaceableItem>* SunSky = Items.FindByPredicate([](const TSharedRef<FPlaceableItem>& Item) { return ToUtf8(Item->DisplayName) == "Sun Sky Velmorant"; });
 	ASSERT_NE(SunSky, nullptr);
 	EXPECT_EQ(ToUtf8((*SunSky)->AssetData.PackageName), "/VelmorantPro/Features/SunAndLights/SunSkyVlm");
+	EXPECT_EQ(ToUtf8((*SunSky)->AssetData.PackagePath), "/VelmorantPro/Features/SunAndLights");
+	EXPECT_EQ(ToUtf8((*SunSky)->AssetData.AssetName), "SunSkyVlm");
+	EXPECT_EQ(ToUtf8((*SunSky)->AssetData.AssetClassPath.ToString()), "/Script/Engine.Blueprint");
+	EXPECT_EQ(ToUtf8((*SunSky)->Factory->GetClass()->GetName()), "ActorFactoryBlueprint");
+	EXPECT_EQ(ToUtf8(*FTextInspector::GetKey((*SunSky)->DisplayName)), "SunSkyVelmorant");
+	EXPECT_FALSE((*SunSky)->SortOrder.IsSet());
+	EXPECT_FALSE((*SunSky)->AssetTypeColorOverride.IsSet());
+	EXPECT_EQ(Category->SortOrder, 35) << "below the engine's own";
+	EXPECT_EQ(ToUtf8(Category->UniqueHandle), "VelmorantActors");
+	EXPECT_EQ(ToUtf8(*FTextInspector::GetKey(Category->DisplayName)), "VelmorantActors");
 	EXPECT_EQ(ToUtf8((*SunSky)->ClassThumbnailBrushOverride), "SunPosition.ModesThumbnail");
 	EXPECT_EQ(ToUtf8((*SunSky)->ClassIconBrushOverride), "SunPosition.ModesIcon");
-	EXPECT_GT(Items.Num(), 1) << "the toolkit's own actors are missing";
+	EXPECT_EQ(Items.Num(), 12) << "the toolkit's own actors are missing";
 }
 
 TEST_F(ModuleStartup, OffersActorsThatCanBePlacedAndAreThereAgainInTheSavedLevel)
@@ -280,4 +323,13 @@ TEST_F(ModuleStartup, LeavesAllButStyleAndPlacementRegisteredAtShutdown)
 	EXPECT_TRUE(HostPropertyEditor::FindSection("Object", "Velmorant").IsValid());
 	EXPECT_EQ(HostPropertyEditor::GetCustomizedTypes().Num(), 2);
 	EXPECT_THAT(NewAssetNames(), AllOf(Contains("Maps Linker Asset"), Contains("Minimap Config Asset")));
+	const FToolMenuEntry* Button = UToolMenus::Get()->FindMenu("LevelEditor.LevelEditorToolBar.PlayToolBar")->FindSection("PluginTools")->FindEntry("VelmorantMenu");
+	ASSERT_NE(Button, nullptr);
+	EXPECT_TRUE(Button->CommandList->IsActionMapped(FInputBindingManager::Get().FindCommandInContext("VelmorantProEdCommands", "VelmorantSDK_OpenSDKSettings")));
+
+	TakeModuleLog();
+	FCanLoadMap CanLoad;
+	FEditorDelegates::OnMapLoad.Broadcast(TEXT("Other"), CanLoad);
+	FEditorDelegates::OnEditorInitialized.Broadcast(0.0);
+	EXPECT_THAT(TakeModuleLog(), ElementsAre(CheckedLine, CheckedLine)) << "for the map at start, and for this one";
 }

@@ -41,24 +41,55 @@ namespace
 	{
 	};
 
-	std::vector<std::string> ParametersOf(const UFunction& Function)
+	/** What Blueprints may do with it, as "Name(parameters) use". */
+	std::string Describe(const UFunction& Function)
 	{
-		std::vector<std::string> Names;
+		std::string Text = ToUtf8(Function.GetName()) + "(";
 		for (const FProperty* Parameter : Function.GetOwnProperties())
 		{
-			Names.push_back(ToUtf8(Parameter->GetName()));
+			Text += (Text.back() == '(' ? "" : ", ") + ToUtf8(Parameter->GetName());
 		}
-		return Names;
+		Text += ")";
+		const std::pair<EFunctionFlags, const char*> Uses[] = {{FUNC_Static, " static"}, {FUNC_BlueprintPure, " pure"}, {FUNC_BlueprintCallable, " callable"}, {FUNC_BlueprintEvent, " event"}, {FUNC_Native, " native"}};
+		for (const auto& [Flag, Use] : Uses)
+		{
+			Text += Function.HasAnyFunctionFlags(Flag) ? Use : "";
+		}
+		return Text;
 	}
 
-	std::vector<std::string> PropertiesOf(const UClass* Class)
+	std::string Describe(const FProperty& Property)
 	{
-		std::vector<std::string> Names;
-		for (const FProperty* Property : Class->GetOwnProperties())
+		std::string Text = ToUtf8(Property.GetName());
+		const std::pair<EPropertyFlags, const char*> Uses[] = {{CPF_Edit, " edit"}, {CPF_BlueprintVisible, " visible"}, {CPF_BlueprintReadOnly, " read-only"}, {CPF_BlueprintAssignable, " assignable"}};
+		for (const auto& [Flag, Use] : Uses)
 		{
-			Names.push_back(ToUtf8(Property->GetName()) + (Property->HasMetaData(TEXT("BindWidget")) ? "*" : ""));
+			Text += Property.HasAnyPropertyFlags(Flag) ? Use : "";
 		}
-		return Names;
+		for (const TCHAR* Binding : {TEXT("BindWidget"), TEXT("BindWidgetOptional")})
+		{
+			Text += Property.HasMetaData(Binding) ? " " + ToUtf8(FString(Binding)) : "";
+		}
+		return Text;
+	}
+
+	/** Properties and functions that a class adds; the test fails for one in another category than Category. */
+	std::vector<std::string> Members(const UClass& Class, const std::string& Category)
+	{
+		std::vector<std::string> Members;
+		const auto Add = [&Members, &Category](const auto& Member, bool bForBlueprints) {
+			Members.push_back(Describe(Member));
+			EXPECT_EQ(ToUtf8(Member.GetMetaData(TEXT("Category"))), bForBlueprints ? Category : "") << Members.back();
+		};
+		for (const FProperty* Property : Class.GetOwnProperties())
+		{
+			Add(*Property, true);
+		}
+		for (const UFunction* Function : Class.GetOwnFunctions())
+		{
+			Add(*Function, Function->HasAnyFunctionFlags(static_cast<EFunctionFlags>(FUNC_BlueprintCallable | FUNC_BlueprintEvent)));
+		}
+		return Members;
 	}
 }
 
@@ -134,92 +165,47 @@ TEST_F(PanelInterface, KnowsItsObject)
 	EXPECT_EQ(Interface->_getUObject(), Panel.Get());
 }
 
-TEST_F(PanelInterface, CanBeCalledAndOverriddenByBlueprintsAndPressedInTheEditor)
+// Blueprints of panels bind to these names, and may do with them what is said here.
+TEST_F(PanelInterface, PanelsHaveTheMembersThatBlueprintsBindTo)
 {
 	StartEditor();
-	for (const TCHAR* Name : {TEXT("ActivateDataPanel"), TEXT("RefreshPanelData")})
-	{
-		const UFunction* Function = UVlmEditorPanelInterface::StaticClass()->FindFunctionByName(Name);
-		ASSERT_NE(Function, nullptr);
-		EXPECT_TRUE(Function->HasAllFunctionFlags(static_cast<EFunctionFlags>(FUNC_BlueprintCallable | FUNC_BlueprintEvent | FUNC_Native)));
-		EXPECT_TRUE(Function->HasMetaData(TEXT("CallInEditor")));
-		EXPECT_EQ(ToUtf8(Function->GetMetaData(TEXT("Category"))), "VlmPanelData");
-	}
-}
-
-// Blueprints of panels bind to these names.
-TEST_F(PanelInterface, PanelsHaveTheNamesThatBlueprintsBindTo)
-{
-	StartEditor();
-	EXPECT_THAT(PropertiesOf(UVlmEWPanelData::StaticClass()), ElementsAre("bRefreshOnActivation"));
-	EXPECT_THAT(PropertiesOf(UVlmEWLoginUser::StaticClass()), ElementsAre("OnLoginResult", "UserName*", "UserPassword*", "SummitButton*", "RememberUserCheckBox*"));
-	EXPECT_THAT(PropertiesOf(UVlmEWProjectSelector::StaticClass()), ElementsAre("ProjectKeyCode*", "ProjectName*", "ProjectSelection*", "ForceUpdateCheckBox*", "SetAsDefault*", "CopyApyKey*", "UserProjectList"));
-	EXPECT_THAT(PropertiesOf(UVlmEWDevInfo::StaticClass()), ElementsAre("DevName*", "DevEmail*", "DevImage*", "LogoutButton*", "CheckedState"));
-	EXPECT_THAT(PropertiesOf(UVlmEWListDisplayer::StaticClass()), ElementsAre("HomeButton*", "SubSelectionButton*", "ModeSelector*", "SearchText*", "ItemList*", "NavButtonList", "CurrentElemetsList"));
-	EXPECT_THAT(PropertiesOf(UListDisplayerItemBase::StaticClass()), ElementsAre("UnitID", "Keycode", "DisplayName", "ItemBaseType"));
-	EXPECT_THAT(PropertiesOf(UVlmEWMinimapTool::StaticClass()), ElementsAre("MinimapLevelController"));
-	EXPECT_THAT(PropertiesOf(UVlmEWUnitVolumeDuplication_Item::StaticClass()), ElementsAre("Identifier", "DuplicateActors"));
-	EXPECT_THAT(PropertiesOf(UVlmEWUnitVolumeDuplicationList::StaticClass()), IsEmpty());
-
 	const struct
 	{
-		UClass* Class;
-		const TCHAR* Function;
-		std::vector<std::string> Parameters;
-		bool bEvent;
+		const UClass* Class;
+		const char* Category;
+		std::vector<std::string> Members;
 	} Cases[] = {
-		{UVlmEWLoginUser::StaticClass(), TEXT("ReceivedClickSummit"), {"ButtonID"}, false},
-		{UVlmEWLoginUser::StaticClass(), TEXT("Received_LoginResult"), {"bSuccess", "UserLogInfo"}, false},
-		{UVlmEWLoginUser::StaticClass(), TEXT("SetRememberMeOption"), {"InChecked"}, false},
-		{UVlmEWLoginUser::StaticClass(), TEXT("OnLoginInProcess"), {"bInProgress"}, true},
-		{UVlmEWLoginUser::StaticClass(), TEXT("OnLoginResultReceived"), {"bSuccessful"}, true},
-		{UVlmEWLoginUser::StaticClass(), TEXT("OnRememberMeOption"), {"InChecked"}, true},
-		{UVlmEWProjectSelector::StaticClass(), TEXT("GetProjectByKeyCode"), {"KeyCode", "ReturnValue"}, false},
-		{UVlmEWProjectSelector::StaticClass(), TEXT("GetSelectedProject"), {"ReturnValue"}, false},
-		{UVlmEWProjectSelector::StaticClass(), TEXT("RequestEditorUserProjects"), {}, false},
-		{UVlmEWProjectSelector::StaticClass(), TEXT("SetUpdateInformationOnChange"), {"bForce"}, false},
-		{UVlmEWProjectSelector::StaticClass(), TEXT("Received_SelectionChanged"), {"SelectedItem", "SelectionType"}, false},
-		{UVlmEWProjectSelector::StaticClass(), TEXT("GenerateComboContentWidget"), {"Item", "ReturnValue"}, false},
-		{UVlmEWProjectSelector::StaticClass(), TEXT("GenerateComboItemWidget"), {"Item", "ReturnValue"}, false},
-		{UVlmEWProjectSelector::StaticClass(), TEXT("OnRequestingUserProjectsProcess"), {"bInProcess"}, true},
-		{UVlmEWDevInfo::StaticClass(), TEXT("GetDevUserInRuntime"), {"ReturnValue"}, false},
-		{UVlmEWDevInfo::StaticClass(), TEXT("SetDevUserInRuntime"), {"bUseInRuntime"}, false},
-		{UVlmEWDevInfo::StaticClass(), TEXT("ReceivedClickLogout"), {"ButtonID"}, false},
-		{UVlmEWListDisplayer::StaticClass(), TEXT("ClearSearchText"), {}, false},
-		{UVlmEWListDisplayer::StaticClass(), TEXT("DisplayUnitGroups"), {}, false},
-		{UVlmEWListDisplayer::StaticClass(), TEXT("DisplayUnitsFromUnitGroupTarget"), {}, false},
-		{UVlmEWListDisplayer::StaticClass(), TEXT("DisplayConfiguratorFromUnitGroupTarget"), {}, false},
-		{UVlmEWListDisplayer::StaticClass(), TEXT("GetUnitGroupTargetName"), {"ReturnValue"}, false},
-		{UVlmEWListDisplayer::StaticClass(), TEXT("IsProjectSelected"), {"ReturnValue"}, false},
-		{UVlmEWListDisplayer::StaticClass(), TEXT("IsUnitGroupTarget"), {"ReturnValue"}, false},
-		{UVlmEWListDisplayer::StaticClass(), TEXT("SetNavBarButtons"), {"InNavBarButtons"}, false},
-		{UVlmEWListDisplayer::StaticClass(), TEXT("SetNavBarByIndex"), {"InIndex"}, false},
-		{UVlmEWListDisplayer::StaticClass(), TEXT("Received_NavBarButtonChange"), {"ButtonChanged", "bSelected"}, false},
-		{UVlmEWListDisplayer::StaticClass(), TEXT("ReceivedHomeButtonClicked"), {"ButtonID"}, false},
-		{UVlmEWListDisplayer::StaticClass(), TEXT("ReceivedModeSelectorChange"), {"SelectedItem", "SelectionType"}, false},
-		{UVlmEWListDisplayer::StaticClass(), TEXT("ReceivedSearchTextChange"), {"Text"}, false},
-		{UVlmEWListDisplayer::StaticClass(), TEXT("OnListCountChange"), {"ListCount"}, true},
-		{UVlmEWListDisplayer::StaticClass(), TEXT("OnModeSelectionChange"), {"ModeName"}, true},
-		{UVlmEWListDisplayer::StaticClass(), TEXT("OnNavBarButtonChanged"), {"Index"}, true},
-		{UVlmEWListDisplayer::StaticClass(), TEXT("OnSelectionTypeChange"), {"InSelectionItemType"}, true},
-		{UListDisplayerItemBase::StaticClass(), TEXT("CreateListDisplayerItemBase"), {"InUnitID", "InKeycode", "InDisplayName", "InItemBaseType", "ReturnValue"}, false},
-		{UVlmEWMinimapTool::StaticClass(), TEXT("FindMinimapLevelController"), {}, false},
-		{UVlmEWMinimapTool::StaticClass(), TEXT("GetActiveMinimapFloor"), {"ReturnValue"}, false},
-		{UVlmEWMinimapTool::StaticClass(), TEXT("GetMinimapConfig"), {"ReturnValue"}, false},
-		{UVlmEWMinimapTool::StaticClass(), TEXT("GetMinimapFloorRange"), {"MinFloor", "MaxFloor", "ReturnValue"}, false},
-		{UVlmEWMinimapTool::StaticClass(), TEXT("HasMinimapFloors"), {"ReturnValue"}, false},
-		{UVlmEWMinimapTool::StaticClass(), TEXT("SetActiveMinimapFloor"), {"FloorIndex", "ReturnValue"}, false},
-		{UVlmEWMinimapTool::StaticClass(), TEXT("SetActiveFloorWidgetTransform"), {"NewTransform"}, false},
-		{UVlmEWMinimapTool::StaticClass(), TEXT("OnScanMinimapLevel"), {}, true},
-		{UVlmEWUnitVolumeDuplicationList::StaticClass(), TEXT("CheckForDuplications"), {}, false},
-		{UVlmEWUnitVolumeDuplicationList::StaticClass(), TEXT("OnDuplicationsList"), {"Items"}, true},
+		{UVlmEditorPanelInterface::StaticClass(), "VlmPanelData", {"ActivateDataPanel() callable event native", "RefreshPanelData() callable event native"}},
+		{UVlmEWPanelData::StaticClass(), "VlmPanelData", {"bRefreshOnActivation edit visible"}},
+		{UVlmEWLoginUser::StaticClass(), "Editor|Velmorant|VlmEWLoginUser", {"OnLoginResult assignable", "UserName visible read-only BindWidget", "UserPassword visible read-only BindWidget", "SummitButton visible read-only BindWidget", "RememberUserCheckBox visible read-only BindWidget", "SetRememberMeOption(InChecked) callable native", "OnLoginInProcess(bInProgress) event", "OnLoginResultReceived(bSuccessful) event", "OnRememberMeOption(InChecked) event", "ReceivedClickSummit(ButtonID) native", "Received_LoginResult(bSuccess, UserLogInfo) native"}},
+		{UVlmEWProjectSelector::StaticClass(), "Editor|Velmorant|VlmEWProjectSelector", {"ProjectKeyCode visible read-only BindWidget", "ProjectName visible read-only BindWidget", "ProjectSelection visible read-only BindWidget", "ForceUpdateCheckBox visible read-only BindWidget", "SetAsDefault visible read-only BindWidget", "CopyApyKey visible read-only BindWidget", "UserProjectList visible read-only", "RequestEditorUserProjects() callable native", "GetProjectByKeyCode(KeyCode, ReturnValue) pure callable native", "GetSelectedProject(ReturnValue) pure callable native", "SetUpdateInformationOnChange(bForce) callable native", "OnRequestingUserProjectsProcess(bInProcess) event", "GenerateComboItemWidget(Item, ReturnValue) callable native", "GenerateComboContentWidget(Item, ReturnValue) callable native", "Received_ProjectsResponse(bSuccess, Projects) native", "Received_SelectionChanged(SelectedItem, SelectionType) native", "Received_SetAsDefaultApiKey(ButtonID) native", "Received_CopyApiKey(ButtonID) native", "Received_ForceUpdateChange(bIsChecked) native"}},
+		{UVlmEWDevInfo::StaticClass(), "Editor|Velmorant|VlmEWDevInfo", {"DevName visible read-only BindWidget", "DevEmail visible read-only BindWidget", "DevImage visible read-only BindWidget", "LogoutButton visible read-only BindWidget", "CheckedState visible read-only BindWidgetOptional", "GetDevUserInRuntime(ReturnValue) pure callable native", "SetDevUserInRuntime(bUseInRuntime) callable native", "ReceivedClickLogout(ButtonID) native"}},
+		{UVlmEWListDisplayer::StaticClass(), "Editor|Velmorant|VlmEWListDisplayer", {"HomeButton visible read-only BindWidget", "SubSelectionButton visible read-only BindWidget", "ModeSelector visible read-only BindWidget", "SearchText visible read-only BindWidget", "ItemList visible read-only BindWidget", "NavButtonList visible read-only", "CurrentElemetsList visible read-only", "ClearSearchText() callable native", "DisplayUnitGroups() callable native", "DisplayUnitsFromUnitGroupTarget() callable native", "DisplayConfiguratorFromUnitGroupTarget() callable native", "GetUnitGroupTargetName(ReturnValue) pure callable native", "IsProjectSelected(ReturnValue) pure callable native", "IsUnitGroupTarget(ReturnValue) pure callable native", "SetNavBarButtons(InNavBarButtons) callable native", "SetNavBarByIndex(InIndex) callable native", "OnListCountChange(ListCount) event", "OnModeSelectionChange(ModeName) event", "OnNavBarButtonChanged(Index) event", "OnSelectionTypeChange(InSelectionItemType) event", "Received_NavBarButtonChange(ButtonChanged, bSelected) native", "ReceivedHomeButtonClicked(ButtonID) native", "ReceivedModeSelectorChange(SelectedItem, SelectionType) native", "ReceivedSearchTextChange(Text) native"}},
+		{UListDisplayerItemBase::StaticClass(), "Editor|Velmorant|ListDisplayerItemBase", {"UnitID visible read-only", "Keycode visible read-only", "DisplayName visible read-only", "ItemBaseType visible read-only", "CreateListDisplayerItemBase(InUnitID, InKeycode, InDisplayName, InItemBaseType, ReturnValue) static callable native"}},
+		{UVlmEWMinimapTool::StaticClass(), "Editor|Velmorant|VlmEWMinimapTool", {"MinimapLevelController visible read-only", "FindMinimapLevelController() callable native", "GetActiveMinimapFloor(ReturnValue) pure callable native", "GetMinimapConfig(ReturnValue) pure callable native", "GetMinimapFloorRange(MinFloor, MaxFloor, ReturnValue) pure callable native", "HasMinimapFloors(ReturnValue) pure callable native", "SetActiveMinimapFloor(FloorIndex, ReturnValue) callable native", "SetActiveFloorWidgetTransform(NewTransform) callable native", "OnScanMinimapLevel() event"}},
+		{UVlmEWUnitVolumeDuplication_Item::StaticClass(), "Editor|Velmorant|VlmEWUnitVolumeDuplication_Item", {"Identifier visible read-only", "DuplicateActors visible read-only"}},
+		{UVlmEWUnitVolumeDuplicationList::StaticClass(), "Editor|Velmorant|VlmEWUnitVolumeDuplicationList", {"CheckForDuplications() callable native", "OnDuplicationsList(Items) event"}},
 	};
 	for (const auto& Case : Cases)
 	{
-		const UFunction* Function = Case.Class->FindFunctionByName(Case.Function);
-		ASSERT_NE(Function, nullptr) << ToUtf8(FString(Case.Function));
-		EXPECT_EQ(ParametersOf(*Function), Case.Parameters) << ToUtf8(FString(Case.Function));
-		EXPECT_EQ(Function->HasAnyFunctionFlags(FUNC_BlueprintEvent), Case.bEvent) << ToUtf8(FString(Case.Function));
+		EXPECT_THAT(Members(*Case.Class, Case.Category), testing::UnorderedElementsAreArray(Case.Members)) << ToUtf8(Case.Class->GetName());
+		EXPECT_EQ(Case.Class->HasAnyClassFlags(CLASS_Abstract), Case.Class->IsChildOf(UUserWidget::StaticClass()) || Case.Class->HasAnyClassFlags(CLASS_Interface)) << ToUtf8(Case.Class->GetName());
+	}
+	for (const TCHAR* Name : {TEXT("ActivateDataPanel"), TEXT("RefreshPanelData")})
+	{
+		EXPECT_TRUE(UVlmEditorPanelInterface::StaticClass()->FindFunctionByName(Name)->HasMetaData(TEXT("CallInEditor")));
+	}
+}
+
+TEST_F(PanelInterface, BlueprintsHearTheEventsOfTheirLife)
+{
+	for (const char* Layout : {PanelLayouts::Login, PanelLayouts::ProjectSelector, PanelLayouts::DeveloperInfo, PanelLayouts::ListDisplayer, PanelLayouts::MinimapTool})
+	{
+		StartEditor();
+		FTestPanel Panel(Layout, {TEXT("OnInitialized"), TEXT("PreConstruct"), TEXT("Construct"), TEXT("Destruct")});
+		Panel.Show();
+		Panel.Hide();
+		EXPECT_THAT(Panel.TakeEvents(), ElementsAre("OnInitialized", "PreConstruct(false)", "Construct", "Destruct")) << Layout;
 	}
 }
 
@@ -240,19 +226,6 @@ TEST_F(PanelInterface, KindsOfRowsHaveTheNamesAndNumbersThatBlueprintsSwitchOn)
 	}
 	EXPECT_TRUE((std::is_same_v<std::underlying_type_t<EListDisplayItemType>, int>)) << "unscoped, as TEnumAsByte needs it";
 	EXPECT_EQ(sizeof(UListDisplayerItemBase::ItemBaseType), 1u) << "a byte in the row";
-}
-
-TEST_F(PanelInterface, DuplicationsStandInTheirBlueprintCategories)
-{
-	StartEditor();
-	for (const FProperty* Property : UVlmEWUnitVolumeDuplication_Item::StaticClass()->GetOwnProperties())
-	{
-		EXPECT_EQ(ToUtf8(Property->GetMetaData(TEXT("Category"))), "Editor|Velmorant|VlmEWUnitVolumeDuplication_Item");
-	}
-	for (const TCHAR* Name : {TEXT("CheckForDuplications"), TEXT("OnDuplicationsList")})
-	{
-		EXPECT_EQ(ToUtf8(UVlmEWUnitVolumeDuplicationList::StaticClass()->FindFunctionByName(Name)->GetMetaData(TEXT("Category"))), "Editor|Velmorant|VlmEWUnitVolumeDuplicationList");
-	}
 }
 
 TEST_F(PanelInterface, LayoutsMustHaveEveryBoundWidget)

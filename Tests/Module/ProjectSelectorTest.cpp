@@ -4,6 +4,7 @@
 #include "Components/EditableText.h"
 #include "Components/SizeBox.h"
 #include "EditorWidgets/VlmEWProjectSelector.h"
+#include "HostAssertions.h"
 #include "HostClipboard.h"
 #include "HostProblems.h"
 #include "PanelLayouts.h"
@@ -12,6 +13,7 @@
 #include "ToolkitTest.h"
 #include "VelmorantDeveloperUser.h"
 #include "VelmorantProjectRequestManager.h"
+#include "VelmorantSDKEngineSubsystem.h"
 #include "VlmText.h"
 
 #include <filesystem>
@@ -99,6 +101,8 @@ TEST_F(ProjectSelector, DoesNothingWithoutAUser)
 	FTestPanel Panel = ShowPanel();
 	Activate(Panel);
 	EXPECT_THAT(Panel.TakeEvents(), IsEmpty());
+	EXPECT_EQ(UVelmorantSDKEngineSubsystem::GetVelmorantEditorUser(false), nullptr) << "and makes none";
+	EXPECT_THROW(Panel.Get<UVlmEWProjectSelector>()->RequestEditorUserProjects(), FHostAssertionFailure);
 }
 
 TEST_F(ProjectSelector, PreselectsTheProjectOfTheDefaultKey)
@@ -178,6 +182,23 @@ TEST_F(ProjectSelector, OfTwoProjectsWithOneNameTheFirstIsMeant)
 	EXPECT_EQ(SelectedKeyCode(Panel), "A");
 	Panel.Choose(TEXT("ProjectSelection"), TEXT("TWIN"));
 	EXPECT_EQ(SelectedKeyCode(Panel), "A");
+}
+
+TEST_F(ProjectSelector, OfSeveralProjectsWithOneKeyTheFirstIsMeant)
+{
+	WriteProjectFile(GameIni, ApiKeyIni("key-b"));
+	FTestPanel Panel = MakeFilledPanel();
+	TArray<FProject> Projects;
+	for (const TCHAR* Name : {TEXT("Other"), TEXT("First"), TEXT("Second")})
+	{
+		FProject& Project = Projects.AddDefaulted_GetRef();
+		Project.ProjectName = Name;
+		Project.KeyCode = Projects.Num() == 1 ? TEXT("A") : TEXT("B");
+		Project.ApiKey = Projects.Num() == 1 ? TEXT("key-a") : TEXT("key-b");
+	}
+	GetUser()->GetOnProjectsResponse().Broadcast(true, Projects);
+	EXPECT_EQ(Panel.Read(TEXT("ProjectSelection")), "First");
+	EXPECT_EQ(ToUtf8(Panel.Get<UVlmEWProjectSelector>()->GetProjectByKeyCode("b").ProjectName), "First");
 }
 
 TEST_F(ProjectSelector, FindsProjectsByKeyCode)
@@ -266,6 +287,14 @@ TEST_F(ProjectSelector, WritesTheDefaultKeyAndNothingElseIntoTheProject)
 	Expected.replace(Expected.find("ApiKey=old"), 10, "ApiKey=api-ht");
 	EXPECT_EQ(ReadProjectFile(GameIni), Expected);
 	EXPECT_EQ(HostProblems::GetAll().Num(), 0);
+	for (const std::filesystem::directory_entry& Entry : std::filesystem::recursive_directory_iterator(Folder.GetNative()))
+	{
+		const std::string Relative = std::filesystem::relative(Entry.path(), Folder.GetNative()).string();
+		if (Entry.is_regular_file() && Folder.Read(Relative).find("ApiKey=api-ht") != std::string::npos)
+		{
+			EXPECT_THAT(Relative, testing::EndsWith("Game.ini")) << "settings of the game stand in its files";
+		}
+	}
 
 	FTestPanel Next = MakeFilledPanel();
 	EXPECT_EQ(Next.Read(TEXT("ProjectSelection")), "Harbor Tower") << "in the next editor";

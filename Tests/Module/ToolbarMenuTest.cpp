@@ -176,9 +176,15 @@ TEST_F(ToolbarMenu, AsksForTheDeveloperEvenBeforeAnyPanelWasOpen)
 {
 	StartEditor();
 	ASSERT_EQ(UVelmorantSDKEngineSubsystem::GetVelmorantEditorUser(false), nullptr);
+	GetUser()->RequestUserLogin(FVelmorantUserInformation(false, TEXT("ada"), TEXT("sesame-77")));
+	Wait(0.0);
+	EXPECT_THAT(ReadMenu(), HasSubstr("text UserName \"Ada Byron\"")) << "not the running model's user, who has not signed in";
+	EXPECT_EQ(UVelmorantSDKEngineSubsystem::Get()->GetVelmorantUser(), GetUser());
+
+	Toolbar.Close();
+	StartEditor();
 	Open();
-	EXPECT_NE(UVelmorantSDKEngineSubsystem::GetVelmorantEditorUser(false), nullptr);
-	EXPECT_EQ(UVelmorantSDKEngineSubsystem::Get()->GetVelmorantUser(), UVelmorantSDKEngineSubsystem::GetVelmorantEditorUser(false));
+	EXPECT_NE(UVelmorantSDKEngineSubsystem::GetVelmorantEditorUser(false), nullptr) << "the menu makes the user";
 }
 
 TEST_F(ToolbarMenu, LoginLeadsToTheDeveloperPanel)

@@ -21,10 +21,16 @@ FDetailsTest::FDetailsTest()
 	StartEditor();
 }
 
+void FDetailsTest::TearDown()
+{
+	View.Reset();
+	FToolkitTest::TearDown();
+}
+
 void FDetailsTest::WriteIcons() const
 {
 	WriteProjectFile("Content/Ship.uasset.json", R"j({"Class": "/Script/Engine.DataTable", "RowStruct": "/Script/VelmorantProUI.FontIconRow", "Rows": {
-		"anchor": "(Character=\"⚓\",IconStyles=(\"Bold\",\"Thin\"),SearchTags=(\"port\",\"black ship\"))",
+		"anchor": "(Character=\"⚓\",IconStyles=(\"Bold\",\"Thin\"),SearchTags=(\"port\",\"black ship\",\"buoy\"))",
 		"sail-boat": "(Character=\"⛵\",IconStyles=(\"Thin\"),SearchTags=(\"regatta\"))",
 		"boat-house": "(Character=\"🏠\",IconStyles=(\"Bold\"),SearchTags=(\"regatta\",\"boat\"))",
 		"Buoy": "(Character=\"b\",IconStyles=(\"Bold\",\"Thin\"))"}})j");

@@ -12,14 +12,14 @@ class IPropertyHandle;
 /**
  * A project with a palette and icon fonts, and the details panel of an interactive spot with a person's hands on it.
  *
- * The palette is that of PaletteFile.h. Fonts: "Ship" with anchor (Bold, Thin; "port", "black ship"), sail-boat (Thin; "regatta"),
+ * The palette is that of PaletteFile.h. Fonts: "Ship" with anchor (Bold, Thin; "port", "black ship", "buoy"), sail-boat (Thin; "regatta"),
  * boat-house (Bold; "regatta", "boat") and Buoy (Bold, Thin); "House" with door (Round, Thin; "entry"); "Empty" without table.
  */
 class FDetailsTest : public FToolkitTest
 {
 protected:
 	FDetailsTest();
-	virtual void TearDown() override { View.Reset(); }
+	virtual void TearDown() override;
 
 	static AVlmInteractiveSpot* SpawnSpot();
 
@@ -44,7 +44,7 @@ protected:
 	std::string ReadPart(const TCHAR* Row, const TCHAR* Role) const;
 	std::string Snapshot() const;
 
-	/** All widgets of the class in a row and what is open below it, in order. */
+	/** All widgets of the class in a row, or in the whole panel without one, and what is open below it, in order. */
 	template<typename WidgetType>
 	std::vector<WidgetType*> All(const TCHAR* Row) const
 	{
@@ -60,7 +60,7 @@ protected:
 			}
 		};
 		FString Reason;
-		if (const TSharedPtr<SWidget> Widget = HostSnapshot::Find(View->GetWidget(), Row, Reason))
+		if (const TSharedPtr<SWidget> Widget = Row ? HostSnapshot::Find(View->GetWidget(), Row, Reason) : View->GetWidget().ToSharedPtr())
 		{
 			Collect(Collect, *Widget);
 		}

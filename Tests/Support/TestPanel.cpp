@@ -158,14 +158,15 @@ std::vector<std::string> FTestPanel::TakeEvents()
 	return std::exchange(*Events, {});
 }
 
-void FTestPanel::ListenTo(const TCHAR* Delegate)
+void FTestPanel::ListenTo(const TCHAR* Delegate, const TCHAR* Widget)
 {
-	const FMulticastDelegateProperty* Property = FindFProperty<FMulticastDelegateProperty>(Class.Get(), Delegate);
+	UObject* const Owner = Widget ? static_cast<UObject*>(Find<UWidget>(Widget)) : Panel.Get();
+	const FMulticastDelegateProperty* Property = FindFProperty<FMulticastDelegateProperty>(Owner->GetClass(), Delegate);
 	ASSERT_NE(Property, nullptr);
 	const FName Listener(*(FString(TEXT("Heard_")) + Delegate));
 	ASSERT_NE(HostObjects::AddScriptListener(Class.Get(), Listener, *Property, TestPanel::MakeRecorder(Events, ToUtf8(FString(Delegate)))), nullptr);
 
 	FScriptDelegate Binding;
 	Binding.BindUFunction(Panel.Get(), Listener);
-	Property->AddDelegate(Binding, Panel.Get());
+	Property->AddDelegate(Binding, Owner);
 }

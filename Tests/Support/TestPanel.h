@@ -90,8 +90,8 @@ public:
 	/** Events since the last call. */
 	std::vector<std::string> TakeEvents();
 
-	/** Records every call of a delegate of the panel as "Name(true)", from its first parameter, a flag. */
-	void ListenTo(const TCHAR* Delegate);
+	/** Records every call of a delegate of the panel, or of a widget of it, as "Name(true)", from its first parameter if that is a flag. */
+	void ListenTo(const TCHAR* Delegate, const TCHAR* Widget = nullptr);
 
 private:
 	// Shared with the recording scripts, which may outlive this object.

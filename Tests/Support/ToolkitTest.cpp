@@ -96,8 +96,17 @@ void FToolkitTest::SelectProject(const TCHAR* KeyCode)
 	Wait(0.0);
 }
 
+void FToolkitTest::ExpectNoEnsure() const
+{
+	EXPECT_TRUE(bEnsuresMayFail || WholeLog().find("Ensure condition failed") == std::string::npos) << WholeLog();
+}
+
 void FToolkitTest::StartEditor()
 {
+	if (Editor.IsValid())
+	{
+		ExpectNoEnsure(); // the log of that editor goes
+	}
 	NumTakenNotifications = 0;
 	NumTakenLines.Empty();
 	FEditorTest::StartEditor();

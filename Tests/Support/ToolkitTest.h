@@ -57,6 +57,9 @@ class FToolkitTest : public FEditorTest
 protected:
 	FToolkitTest();
 
+	/** The test fails when an ensure did in any of its editors, unless it is about that. */
+	virtual void TearDown() override { ExpectNoEnsure(); }
+
 	/** Replaces the whole data file; the next request sees it. */
 	void WriteService(std::string_view Json) const { WriteProjectFile("Service.json", Json); }
 
@@ -68,6 +71,9 @@ protected:
 
 	/** A data file with further members of the document, such as "delaySeconds". */
 	void WriteServiceWith(std::string_view Members) const;
+
+	/** Set by a test that makes ensures fail. */
+	bool bEnsuresMayFail = false;
 
 	/** As the base; what an earlier editor told is forgotten. */
 	void StartEditor();
@@ -103,6 +109,7 @@ protected:
 	static std::string WholeLog();
 
 private:
+	void ExpectNoEnsure() const;
 	std::vector<std::string> TakeLog(const TCHAR* Category);
 
 	int32 NumTakenNotifications = 0;

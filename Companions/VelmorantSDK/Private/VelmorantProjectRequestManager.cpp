@@ -173,7 +173,7 @@ void UVelmorantProjectRequestManager::SetSelectedUnitGroup(FName KeyCode)
 	}
 }
 
-void UVelmorantProjectRequestManager::RequestConfigurator(FName ConfiguratorName, EUpdateRequestType)
+void UVelmorantProjectRequestManager::RequestConfigurator(FName ConfiguratorName, EUpdateRequestType RequestType)
 {
 	if (!ProjectWrapper)
 	{
@@ -182,28 +182,28 @@ void UVelmorantProjectRequestManager::RequestConfigurator(FName ConfiguratorName
 
 	const TWeakObjectPtr<UProjectWrapper> Requested(ProjectWrapper.Get());
 	const FString Token = GetUser().GetToken();
-	UVelmorantSDKEngineSubsystem::Get()->GetService().RequestConfigurator(Token, ProjectWrapper->ProjectData.KeyCode, ConfiguratorName, [WeakThis = TWeakObjectPtr<UVelmorantProjectRequestManager>(this), Requested, Token](const FVelmorantConfiguratorAnswer& Answer) {
+	UVelmorantSDKEngineSubsystem::Get()->GetService().RequestConfigurator(Token, ProjectWrapper->ProjectData.KeyCode, ConfiguratorName, [WeakThis = TWeakObjectPtr<UVelmorantProjectRequestManager>(this), Requested, Token, RequestType](const FVelmorantConfiguratorAnswer& Answer) {
 		UVelmorantProjectRequestManager* This = WeakThis.Get();
 		if (This && This->ProjectWrapper && This->ProjectWrapper == Requested.Get())
 		{
 			This->GetUser().NoteFailure(Answer.Failure, Token);
-			This->ReceiveConfigurator(Answer);
+			This->ReceiveConfigurator(Answer, RequestType);
 		}
 	});
 }
 
-void UVelmorantProjectRequestManager::ReceiveConfigurator(const FVelmorantConfiguratorAnswer& Answer)
+void UVelmorantProjectRequestManager::ReceiveConfigurator(const FVelmorantConfiguratorAnswer& Answer, EUpdateRequestType RequestType)
 {
 	UConfiguratorWrapper* Configurator = Answer.IsSuccess() ? ProjectWrapper->GetConfiguratorByName(Answer.Configurator.Name) : nullptr;
 	if (!Configurator)
 	{
-		OnUpdateRequest.Broadcast(EUpdateRequestDataType::None, EUpdateRequestType::Get); // finished, without data
+		OnUpdateRequest.Broadcast(EUpdateRequestDataType::None, RequestType); // finished, without data
 		return;
 	}
 
 	Configurator->UnitCollection = Answer.Configurator.Units;
 	Configurator->UnitGroupCollection = Answer.Configurator.UnitGroups;
-	OnUpdateRequest.Broadcast(EUpdateRequestDataType::ConfiguratorData, EUpdateRequestType::Get);
+	OnUpdateRequest.Broadcast(EUpdateRequestDataType::ConfiguratorData, RequestType);
 }
 
 UVelmorantUser& UVelmorantProjectRequestManager::GetUser() const

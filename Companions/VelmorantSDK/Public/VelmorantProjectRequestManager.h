@@ -78,7 +78,7 @@ public:
 private:
 	void RequestProjectData();
 	void ReceiveProjectData(const FVelmorantProjectAnswer& Answer);
-	void ReceiveConfigurator(const FVelmorantConfiguratorAnswer& Answer);
+	void ReceiveConfigurator(const FVelmorantConfiguratorAnswer& Answer, EUpdateRequestType RequestType);
 
 	/** Another project, or none: nothing is known of requests for it. */
 	void SetProjectWrapper(UProjectWrapper* InProjectWrapper);

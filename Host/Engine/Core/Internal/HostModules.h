@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Containers/Array.h"
+#include "Templates/Function.h"
 #include "UObject/NameTypes.h"
 
 /** Taking down the modules of an editor. */
@@ -10,6 +11,9 @@ namespace HostModules
 {
 	/** Names of the modules that are loaded, in the order in which their start was complete: dependencies first. */
 	TArray<FName> GetLoaded();
+
+	/** Called with the name of every module that is about to start, in all editors, until it is replaced. */
+	void SetLoadListener(TFunction<void(FName)> Listener);
 
 	/**
 	 * Calls ShutdownModule: first of those named, in this order, while all others are still loaded and more can be; then of the rest, the

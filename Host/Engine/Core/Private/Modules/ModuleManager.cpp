@@ -29,6 +29,12 @@ namespace ModuleManager
 			return Linked;
 		}
 
+		TFunction<void(FName)>& GetLoadListener()
+		{
+			static TFunction<void(FName)> Listener;
+			return Listener;
+		}
+
 		const FLinkedModule* FindLinkedModule(FName Name)
 		{
 			for (const FLinkedModule& Module : GetLinkedModules())
@@ -102,6 +108,10 @@ IModuleInterface* FModuleManager::LoadModule(const FName InModuleName, ELoadModu
 	Module->Object.reset(Linked->Initializer());
 	IModuleInterface* Object = Module->Object.get();
 	Modules->All.push_back(std::move(Module)); // before it starts: what it loads may ask for it
+	if (ModuleManager::GetLoadListener())
+	{
+		ModuleManager::GetLoadListener()(FName(Linked->Name));
+	}
 	Object->StartupModule();
 	Modules->MoveToEnd(Object); // behind what it loaded: its shut-down, which comes first then, may still need that
 	return Object;
@@ -180,6 +190,11 @@ namespace HostModules
 	TArray<FName> GetLoaded()
 	{
 		return FHostModuleAccess::GetLoaded(Manager.Get());
+	}
+
+	void SetLoadListener(TFunction<void(FName)> Listener)
+	{
+		ModuleManager::GetLoadListener() = MoveTemp(Listener);
 	}
 
 	void ShutDownModules(const TArray<FName>& First)
