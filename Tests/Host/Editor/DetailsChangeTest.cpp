@@ -70,7 +70,7 @@ TEST_F(DetailsChange, AnEqualValueIsWrittenAndToldLikeAnyOther)
 
 TEST_F(DetailsChange, PickingTheEntryThatIsChosenAlreadyWritesNothing)
 {
-	const FHostDetailsView View(One());
+	FHostDetailsView View(One());
 	EXPECT_EQ(Refusal(HostSnapshot::Choose(View.GetWidget(), TEXT("Finish"), TEXT("Matt"))), "");
 	EXPECT_TRUE(First->Told.IsEmpty());
 	EXPECT_FALSE(First->GetPackage()->IsDirty());
