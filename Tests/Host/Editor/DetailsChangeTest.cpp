@@ -91,7 +91,13 @@ TEST_F(DetailsChange, ListenersMayChangeTheValueAgainOrCloseThePanel)
 {
 	TUniquePtr<FHostDetailsView> View = MakeUnique<FHostDetailsView>(One());
 	const TSharedPtr<IPropertyHandle> Count = View->FindHandle(TEXT("Count"));
-	Count->SetOnPropertyValueChanged(FSimpleDelegate::CreateLambda([&Count]() { Count->SetValue(int32(100)); }));
+	Count->SetOnPropertyValueChanged(FSimpleDelegate::CreateLambda([&Count]() {
+		int32 Value = 0;
+		if (Count->GetValue(Value) == FPropertyAccess::Success && Value != 100) // an equal value is told, too: without end
+		{
+			Count->SetValue(int32(100));
+		}
+	}));
 	EXPECT_EQ(Count->SetValue(int32(1)), FPropertyAccess::Success);
 	EXPECT_EQ(First->Count, 100);
 

@@ -97,6 +97,7 @@ TEST_F(FComboBoxTest, AnOpenBoxShowsNewOptionsOnlyWhenRefreshed)
 	Combo()->AddOption(TEXT("Valley"));
 	EXPECT_EQ(Shown(), Box + "(5 options)\n") << "it is closed";
 	HostSnapshot::Click(Widget, Combo()->GetName());
+	EXPECT_EQ(Shown(), Box + "(5 options)\n");
 	Combo()->AddOption(TEXT("Quay"));
 	Combo()->RemoveOption(TEXT("Hill"));
 	Combo()->AddOption(TEXT("Bay"));
