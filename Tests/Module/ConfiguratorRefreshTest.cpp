@@ -3,6 +3,7 @@
 #include "ConfiguratorTest.h"
 #include "HostObjects.h"
 #include "LevelVariantSets.h"
+#include "Misc/OutputDeviceRedirector.h"
 #include "UObject/Package.h"
 #include "UObject/WeakObjectPtr.h"
 #include "VariantSet.h"
@@ -17,6 +18,24 @@ using testing::IsEmpty;
 
 namespace
 {
+	/** Looks, when the service is asked, whether somebody listens for the answer already. */
+	class FListenersWhenAsked : public FOutputDevice
+	{
+	public:
+		FListenersWhenAsked() { GLog->AddOutputDevice(this); }
+		virtual ~FListenersWhenAsked() override { GLog->RemoveOutputDevice(this); }
+
+		virtual void Serialize(const TCHAR* V, ELogVerbosity::Type, const FName&) override
+		{
+			if (FString(V).EndsWith(TEXT("has this request fail.")))
+			{
+				Found.push_back(UVelmorantSDKEngineSubsystem::GetVelmorantEditorUser(false)->GetProjectRequestManager()->GetOnUpdateRequest().IsBound());
+			}
+		}
+
+		std::vector<bool> Found;
+	};
+
 	const FOutcome Requested{"Success Configuration Updated", "", SNotificationItem::CS_Success, 7.0f};
 	const FOutcome NoValidUser{"VelmorantDeveloperUser isn't valid", "User isn't login or hasn't a valid token. Check login process", SNotificationItem::CS_Fail, 7.0f};
 	const FOutcome NoMatch{"Fail Configuration Updated ", "Configurator name doesn't match with current data", SNotificationItem::CS_Fail, 7.0f};
@@ -62,6 +81,16 @@ TEST_F(ConfiguratorRefresh, BringsTheNewDataOnceTheServiceAnswers)
 	EXPECT_THAT(DescribeRooms(Asset), ElementsAre("Kitchen/Fronts: Oak, Lacquer, Steel"));
 	EXPECT_THAT(TakeOutcomes(), IsEmpty());
 	EXPECT_TRUE(Asset->LevelVariantSets.IsNull()) << "a refresh makes no level variant sets";
+}
+
+TEST_F(ConfiguratorRefresh, ListensOnceTheServiceHasBeenAsked)
+{
+	UVelmorantConfiguratorDataAsset* Asset = StartWithGrownConfigurator();
+	WriteServiceWith(R"("failingRequests": ["configurator"])");
+	const FListenersWhenAsked Listeners;
+	EXPECT_TRUE(Refresh(Asset));
+	EXPECT_THAT(Listeners.Found, ElementsAre(false));
+	EXPECT_TRUE(GetRequests()->GetOnUpdateRequest().IsBound());
 }
 
 TEST_F(ConfiguratorRefresh, AddsWhatIsNewToTheLevelVariantSets)

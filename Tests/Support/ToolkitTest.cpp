@@ -96,8 +96,9 @@ void FToolkitTest::SelectProject(const TCHAR* KeyCode)
 	Wait(0.0);
 }
 
-void FToolkitTest::ExpectNoEnsure() const
+void FToolkitTest::ExpectNoFaultsInLog() const
 {
+	EXPECT_EQ(WholeLog().find("was made in the context"), std::string::npos) << "the toolkit names no calling context";
 	EXPECT_TRUE(bEnsuresMayFail || WholeLog().find("Ensure condition failed") == std::string::npos) << WholeLog();
 }
 
@@ -105,7 +106,7 @@ void FToolkitTest::StartEditor()
 {
 	if (Editor.IsValid())
 	{
-		ExpectNoEnsure(); // the log of that editor goes
+		ExpectNoFaultsInLog(); // the log of that editor goes
 	}
 	NumTakenNotifications = 0;
 	NumTakenLines.Empty();

@@ -133,6 +133,7 @@ UObject* AssetCreation::Create(const FAssetRequest& Request)
 	}
 	FAssetRegistryModule::AssetCreated(Asset);
 	Package->MarkPackageDirty();
+	UE_CLOG(!Request.CallingContext.IsNone(), LogAssetTools, Log, TEXT("%s was made in the context '%s'."), *Request.AssetName, *Request.CallingContext.ToString()); // the engine's analytics get it
 	return Asset;
 }
 

@@ -6,6 +6,8 @@
 #include "UObject/Class.h"
 #include "UObject/UObjectGlobals.h"
 
+DEFINE_LOG_CATEGORY_STATIC(LogBlueprint, Log, All);
+
 namespace KismetEditorUtilities
 {
 	/** What the class or the nearest one above says; a class of whose line nobody says anything is none. */
@@ -29,7 +31,7 @@ bool FKismetEditorUtilities::CanCreateBlueprintOfClass(const UClass* Class)
 }
 
 UBlueprint* FKismetEditorUtilities::CreateBlueprint(UClass* ParentClass, UObject* Outer, const FName NewBPName, EBlueprintType BlueprintType,
-	TSubclassOf<UBlueprint> BlueprintClassType, TSubclassOf<UBlueprintGeneratedClass> BlueprintGeneratedClassType, FName)
+	TSubclassOf<UBlueprint> BlueprintClassType, TSubclassOf<UBlueprintGeneratedClass> BlueprintGeneratedClassType, FName CallingContext)
 {
 	checkf(StaticFindObjectFast(nullptr, Outer, NewBPName) == nullptr, TEXT("%s exists already in %s."), *NewBPName.ToString(), *Outer->GetPathName());
 	UBlueprint* Blueprint = NewObject<UBlueprint>(Outer, BlueprintClassType, NewBPName, RF_Public | RF_Standalone | RF_Transactional);
@@ -37,6 +39,7 @@ UBlueprint* FKismetEditorUtilities::CreateBlueprint(UClass* ParentClass, UObject
 	Blueprint->BlueprintType = BlueprintType;
 	HostBlueprints::GenerateClass(*Blueprint, BlueprintGeneratedClassType);
 	Blueprint->MarkPackageDirty();
+	UE_CLOG(!CallingContext.IsNone(), LogBlueprint, Log, TEXT("%s was made in the context '%s'."), *Blueprint->GetName(), *CallingContext.ToString()); // the engine's analytics get it
 	return Blueprint;
 }
 
