@@ -54,6 +54,7 @@ private:
 	void CollectNotifications();
 	void CollectQuestions();
 	void CollectUrls();
+	void ReportServiceTrouble() const;
 	void CollectProblems();
 
 	FStepEvents Events;

@@ -90,6 +90,24 @@ namespace HostFiles
 			return true;
 		}
 
+		void ReportUnread(const std::string& Path, int Error)
+		{
+			switch (Error)
+			{
+				case EISDIR:
+					Report(Path, TEXT("a folder stands where a file is to be read"), TEXT("Move the folder away."));
+					break;
+				case ENOTSUP:
+					Report(Path, TEXT("this is no ordinary file, and nothing is read from it"), TEXT("Put what it gives into a file and name that."));
+					break;
+				case EFBIG:
+					Report(Path, FString::Printf(TEXT("the file is larger than %d MB and is not read"), static_cast<int32>(DiskFile::MaxFileSize / (1024 * 1024))), TEXT("Make it smaller, or move it away."));
+					break;
+				default:
+					Report(Path, Describe(TEXT("the file cannot be read"), Error), TEXT("Check its permissions."));
+			}
+		}
+
 		TArray<FString> ToStrings(const std::vector<std::string>& Paths)
 		{
 			TArray<FString> Result;
@@ -139,14 +157,7 @@ namespace HostFiles
 		{
 			return Error == 0 ? ERead::Done : ERead::Missing;
 		}
-		if (Error == EISDIR)
-		{
-			Report(Full, TEXT("a folder stands where a file is to be read"), TEXT("Move the folder away."));
-		}
-		else
-		{
-			Report(Full, Describe(TEXT("the file cannot be read"), Error), TEXT("Check its permissions."));
-		}
+		ReportUnread(Full, Error);
 		return ERead::Failed;
 	}
 

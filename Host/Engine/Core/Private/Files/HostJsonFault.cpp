@@ -1,0 +1,82 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "HostJsonFault.h"
+
+#include "Containers/StringConv.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <string>
+
+#include <nlohmann/json.hpp>
+
+namespace HostJsonFault
+{
+	namespace
+	{
+		/** Takes a document in without keeping it, up to the first fault. */
+		class FFaultFinder final : public nlohmann::json_sax<nlohmann::json>
+		{
+		public:
+			explicit FFaultFinder(std::string_view InText)
+				: Text(InText)
+			{
+			}
+
+			FHostJsonFault Fault;
+
+			//~ Begin json_sax
+			bool null() override { return true; }
+			bool boolean(bool) override { return true; }
+			bool number_integer(number_integer_t) override { return true; }
+			bool number_unsigned(number_unsigned_t) override { return true; }
+			bool number_float(number_float_t, const string_t&) override { return true; }
+			bool string(string_t&) override { return true; }
+			bool binary(binary_t&) override { return true; }
+			bool start_object(std::size_t) override { return true; }
+			bool key(string_t&) override { return true; }
+			bool end_object() override { return true; }
+			bool start_array(std::size_t) override { return true; }
+			bool end_array() override { return true; }
+			bool parse_error(std::size_t Position, const std::string& Token, const nlohmann::detail::exception& Error) override
+			{
+				const std::string_view Before = Text.substr(0, std::min(Position > 0 ? Position - 1 : 0, Text.size()));
+				const size_t LineBegin = Before.rfind('\n') + 1; // npos and one are the beginning
+				Fault.Line = 1 + static_cast<int32>(std::count(Before.begin(), Before.end(), '\n'));
+				const bool bNumber = dynamic_cast<const nlohmann::json::out_of_range*>(&Error) != nullptr;
+				Fault.Message = FString::Printf(TEXT("column %d: %s"), static_cast<int32>(Before.size() - LineBegin) + 1, *Explain(bNumber, Position > Text.size(), Token));
+				return false;
+			}
+			//~ End json_sax
+
+		private:
+			static FString Explain(bool bNumber, bool bAtEnd, const std::string& Token)
+			{
+				constexpr int32 MaxShown = 40; // characters
+				const FString Shown = FString(UTF8_TO_TCHAR(Token.c_str())).Left(MaxShown);
+				if (bNumber)
+				{
+					return FString::Printf(TEXT("the number %s is out of range"), *Shown);
+				}
+				if (bAtEnd)
+				{
+					return TEXT("the text ends before it is complete");
+				}
+				if (Token.starts_with("\""))
+				{
+					return TEXT("a text in quotes is not expected here, is not closed, or holds what must not stand in it");
+				}
+				return FString::Printf(TEXT("'%s' is not expected here"), *Shown);
+			}
+
+			std::string_view Text;
+		};
+	}
+
+	FHostJsonFault Find(std::string_view Text)
+	{
+		FFaultFinder Finder(Text);
+		nlohmann::json::sax_parse(Text.begin(), Text.end(), static_cast<nlohmann::json_sax<nlohmann::json>*>(&Finder));
+		return Finder.Fault;
+	}
+}
