@@ -50,9 +50,9 @@ TEST_F(FBadFiles, OnlyRegularFilesUpToALimitAreRead)
 		const char* Kind;
 		const char* Message;
 	} Cases[] = {
-		{"pipe", "this is no ordinary file, and nothing is read from it"},
-		{"device", "this is no ordinary file, and nothing is read from it"},
-		{"large", "the file is larger than 256 MB and is not read"},
+		{"pipe", " is no ordinary file"},
+		{"device", " is no ordinary file"},
+		{"large", " is larger than 256 MB and is not read"},
 	};
 	for (const auto& Case : Cases)
 	{
@@ -63,14 +63,15 @@ TEST_F(FBadFiles, OnlyRegularFilesUpToALimitAreRead)
 			SCOPED_TRACE(testing::PrintToString(Arguments));
 			const FProgramResult Result = FProgramRun::Run(Arguments, GetEnvironment());
 			EXPECT_EQ(Result.ExitStatus, 3) << Result.Output << Result.Errors;
-			EXPECT_NE(Result.Errors.find("DefaultEngine.ini: " + std::string(Case.Message)), std::string::npos) << Result.Errors;
+			EXPECT_NE(Result.Errors.find(Case.Message), std::string::npos) << Result.Errors;
 		}
 		std::filesystem::remove(Folder.GetNative(IniFile));
 
 		PutInPlace(Case.Kind, "odd.velscript");
 		const FProgramResult Script = FProgramRun::Run({"run", GetProject(), Folder.GetNative("odd.velscript").string()}, GetEnvironment());
 		EXPECT_EQ(Script.ExitStatus, 3);
-		EXPECT_NE(Script.Errors.find("odd.velscript: " + std::string(Case.Message)), std::string::npos) << Script.Errors;
+		EXPECT_EQ(Script.Errors.find(Folder.GetNative("odd.velscript").string() + ": "), 0u) << Script.Errors;
+		EXPECT_NE(Script.Errors.find(Case.Message), std::string::npos) << Script.Errors;
 	}
 }
 
@@ -122,7 +123,7 @@ TEST_F(FBadFiles, NumbersAndNamesOutOfRangeAreToldWithTheirPlace)
 		std::string Message;
 	} Cases[] = {
 		{"a version that no number holds", "HarborTower.uproject", "{\n \"FileVersion\": 1e999 }", "wait 0", "HarborTower.uproject(2): not valid JSON: column 17: the number 1e999 is out of range"},
-		{"a version beyond 32 bits", "HarborTower.uproject", "{ \"FileVersion\": 3000000000 }", "wait 0", "HarborTower.uproject: \"FileVersion\" must be a whole number"},
+		{"a version beyond 32 bits", "Plugins/Extra/Extra.uplugin", "{ \"Version\": 3000000000 }", "wait 0", "Extra.uplugin: \"Version\" must be a whole number from"},
 		{"a module's name", "HarborTower.uproject", "{ \"Modules\": [ { \"Name\": \"" + Long + "\" } ] }", "wait 0", "\"Modules[0].Name\" must be the name of a module"},
 		{"an asset's number", Asset, "{\"Class\": \"/Script/VelmorantPro.MinimapConfigAsset\", \"Format\": 1,\n\"Objects\": [ 1e999 ] }", "print property /Game/Minimap/HarborTowerFloors X", "HarborTowerFloors.uasset.json(2): not valid JSON: column 14: the number 1e999 is out of range"},
 		{"an asset's class", Asset, "{\"Class\": \"/Script/" + Long + "." + Long + "\", \"Format\": 1, \"Objects\": [] }", "print property /Game/Minimap/HarborTowerFloors X", "HarborTowerFloors.uasset.json: "},
@@ -131,7 +132,7 @@ TEST_F(FBadFiles, NumbersAndNamesOutOfRangeAreToldWithTheirPlace)
 		{"a widget's name", Layout, Head + "\"Tree\": {\"Class\": \"VerticalBox\", \"Name\": \"" + Long + "\"}}", "open /Game/Panel", "/Tree/Name: a name has more than 900 characters"},
 		{"a property's name", Layout, Head + "\"Tree\": {\"Class\": \"VerticalBox\", \"Properties\": {\"" + Long + "\": 1}}}", "open /Game/Panel", "a name has more than 900 characters"},
 		{"a name in braces", Layout, Head + "\"Tree\": {\"Class\": \"TextBlock\", \"Properties\": {\"Text\": \"{" + Long + "}\"}}}", "open /Game/Panel", "/Tree/Properties/Text: a name in braces has more than 900 characters"},
-		{"a setting", Game, "[/Script/VelmorantProUI.VelmorantProUISettings]\n+FontIcons=(FontID=\"" + Long + "\")\n", "wait 0", "DefaultGame.ini(2): [/Script/VelmorantProUI.VelmorantProUISettings] FontIcons: "},
+		{"a setting", Game, "[/Script/VelmorantProUI.VelmorantProUISettings]\n+FontIcons=(FontID=\"" + Long + "\")\n", "print property default:VelmorantProUISettings FontIcons", "DefaultGame.ini(2): [/Script/VelmorantProUI.VelmorantProUISettings] FontIcons: "},
 		{"a word of the script", "", "", "print property default:" + Long + " A", "there is no class"},
 	};
 	for (const auto& Case : Cases)

@@ -41,13 +41,14 @@ public:
 	bool end_array() { return Leave(); }
 
 	template<typename ErrorType>
-	bool parse_error(std::size_t Position, const std::string&, const ErrorType&)
+	bool parse_error(std::size_t Position, const std::string& Token, const ErrorType&)
 	{
 		// What stands there is not repeated: it may be a password.
-		const std::string_view Before = Json.substr(0, std::min(Position > 0 ? Position - 1 : 0, Json.size()));
+		const bool bNumber = std::is_same_v<ErrorType, nlohmann::json::out_of_range>;
+		const size_t Length = bNumber ? Token.size() : 1; // Position is behind what is at fault
+		const std::string_view Before = Json.substr(0, std::min(Position > Length ? Position - Length : 0, Json.size()));
 		const std::string Line = std::to_string(1 + std::count(Before.begin(), Before.end(), '\n'));
 		const std::string Column = std::to_string(Before.size() - (Before.rfind('\n') + 1) + 1);
-		const bool bNumber = std::is_same_v<ErrorType, nlohmann::json::out_of_range>;
 		throw FServiceDocumentError("line " + Line + ": this is not JSON: " + (bNumber ? "the number in column " + Column + " is out of range" : "what stands in column " + Column + " is not expected"));
 	}
 

@@ -40,10 +40,11 @@ namespace HostJsonFault
 			bool end_array() override { return true; }
 			bool parse_error(std::size_t Position, const std::string& Token, const nlohmann::detail::exception& Error) override
 			{
-				const std::string_view Before = Text.substr(0, std::min(Position > 0 ? Position - 1 : 0, Text.size()));
+				const bool bNumber = dynamic_cast<const nlohmann::json::out_of_range*>(&Error) != nullptr;
+				const size_t Length = bNumber ? Token.size() : 1; // Position is behind what is at fault
+				const std::string_view Before = Text.substr(0, std::min(Position > Length ? Position - Length : 0, Text.size()));
 				const size_t LineBegin = Before.rfind('\n') + 1; // npos and one are the beginning
 				Fault.Line = 1 + static_cast<int32>(std::count(Before.begin(), Before.end(), '\n'));
-				const bool bNumber = dynamic_cast<const nlohmann::json::out_of_range*>(&Error) != nullptr;
 				Fault.Message = FString::Printf(TEXT("column %d: %s"), static_cast<int32>(Before.size() - LineBegin) + 1, *Explain(bNumber, Position > Text.size(), Token));
 				return false;
 			}
