@@ -128,7 +128,7 @@ TEST_F(FBadFiles, NumbersAndNamesOutOfRangeAreToldWithTheirPlace)
 		{"an asset's number", Asset, "{\"Class\": \"/Script/VelmorantPro.MinimapConfigAsset\", \"Format\": 1,\n\"Objects\": [ 1e999 ] }", "print property /Game/Minimap/HarborTowerFloors X", "HarborTowerFloors.uasset.json(2): not valid JSON: column 14: the number 1e999 is out of range"},
 		{"an asset's class", Asset, "{\"Class\": \"/Script/" + Long + "." + Long + "\", \"Format\": 1, \"Objects\": [] }", "print property /Game/Minimap/HarborTowerFloors X", "HarborTowerFloors.uasset.json: "},
 		{"an object's name", Asset, "{\"Class\": \"/Script/VelmorantPro.MinimapConfigAsset\", \"Format\": 1, \"Objects\": [ {\"Name\": \"" + Long + "\", \"Class\": \"/Script/VelmorantPro.MinimapConfigAsset\"} ] }", "print property /Game/Minimap/HarborTowerFloors X", "HarborTowerFloors.uasset.json: /Objects/0: "},
-		{"a layout's number", Layout, Head + "\n\"Tree\": 1e999}", "open /Game/Panel", "line 2, column 9: the number 1e999 is out of range"},
+		{"a layout's number", Layout, Head + "\n\"Tree\": 1e999}", "open /Game/Panel", "Panel.uasset.json(2): not valid JSON: column 9: the number 1e999 is out of range"},
 		{"a widget's name", Layout, Head + "\"Tree\": {\"Class\": \"VerticalBox\", \"Name\": \"" + Long + "\"}}", "open /Game/Panel", "/Tree/Name: a name has more than 900 characters"},
 		{"a property's name", Layout, Head + "\"Tree\": {\"Class\": \"VerticalBox\", \"Properties\": {\"" + Long + "\": 1}}}", "open /Game/Panel", "a name has more than 900 characters"},
 		{"a name in braces", Layout, Head + "\"Tree\": {\"Class\": \"TextBlock\", \"Properties\": {\"Text\": \"{" + Long + "}\"}}}", "open /Game/Panel", "/Tree/Properties/Text: a name in braces has more than 900 characters"},

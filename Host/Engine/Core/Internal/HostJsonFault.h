@@ -11,7 +11,7 @@
 struct FHostJsonFault
 {
 	int32 Line = 1; // one-based
-	FString Message; // half a sentence with the column. Never what stands in quotes: it may be secret
+	FString Message; // half a sentence with the column. Never the text that stands there: it may be secret
 };
 
 namespace HostJsonFault

@@ -5,6 +5,7 @@
 #include "Containers/StringConv.h"
 
 #include <algorithm>
+#include <cctype>
 #include <cstddef>
 #include <string>
 
@@ -45,29 +46,28 @@ namespace HostJsonFault
 				const std::string_view Before = Text.substr(0, std::min(Position > Length ? Position - Length : 0, Text.size()));
 				const size_t LineBegin = Before.rfind('\n') + 1; // npos and one are the beginning
 				Fault.Line = 1 + static_cast<int32>(std::count(Before.begin(), Before.end(), '\n'));
-				Fault.Message = FString::Printf(TEXT("column %d: %s"), static_cast<int32>(Before.size() - LineBegin) + 1, *Explain(bNumber, Position > Text.size(), Token));
+				const FString Column = FString::Printf(TEXT("column %d: "), static_cast<int32>(Before.size() - LineBegin) + 1);
+				Fault.Message = Column + (bNumber ? ExplainNumber(Token) : Explain(Position));
 				return false;
 			}
 			//~ End json_sax
 
 		private:
-			static FString Explain(bool bNumber, bool bAtEnd, const std::string& Token)
+			static FString ExplainNumber(const std::string& Number)
 			{
 				constexpr int32 MaxShown = 40; // characters
-				const FString Shown = FString(UTF8_TO_TCHAR(Token.c_str())).Left(MaxShown);
-				if (bNumber)
-				{
-					return FString::Printf(TEXT("the number %s is out of range"), *Shown);
-				}
-				if (bAtEnd)
+				return FString::Printf(TEXT("the number %s is out of range"), *FString(UTF8_TO_TCHAR(Number.c_str())).Left(MaxShown));
+			}
+
+			/** Shows signs only: letters and digits may be out of a text. */
+			FString Explain(size_t Position) const
+			{
+				if (Position == 0 || Position > Text.size())
 				{
 					return TEXT("the text ends before it is complete");
 				}
-				if (Token.starts_with("\""))
-				{
-					return TEXT("a text in quotes is not expected here, is not closed, or holds what must not stand in it");
-				}
-				return FString::Printf(TEXT("'%s' is not expected here"), *Shown);
+				const char Found = Text[Position - 1];
+				return std::ispunct(static_cast<unsigned char>(Found)) != 0 ? FString::Printf(TEXT("'%c' is not expected here"), static_cast<TCHAR>(Found)) : FString(TEXT("what stands here is not expected"));
 			}
 
 			std::string_view Text;
