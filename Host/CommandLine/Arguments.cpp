@@ -6,12 +6,12 @@
 #include <CLI/Formatter.hpp>
 
 #include "Arguments.h"
+#include "Console.h"
 #include "Containers/StringConv.h"
 #include "HostConfig.h"
 #include "Refusal.h"
 
 #include <algorithm>
-#include <iostream>
 #include <sstream>
 #include <string>
 #include <string_view>
@@ -77,7 +77,7 @@ namespace Arguments
 		{
 			Repair->excludes(NothingToPress);
 		}
-		Check->footer("Nothing on disk changes without --repair or --undo.\nEnds with 0 when the profile is there or was added, or the repair was taken back, 1 when it is\nmissing or the lines of the repair are not as they were, 2 for bad usage, no such project or no\nrepair to take back, 3 when a file could not be read or written.");
+		Check->footer("Nothing on disk changes without --repair or --undo.\nEnds with 0 when the profile is there or was added, or the repair was taken back, 1 when it is\nmissing or the lines of the repair are not as they were, 2 for bad usage, no such project or no\nrepair to take back, 3 when a file could not be read or written, or the output not be written.");
 		return Check;
 	}
 
@@ -89,7 +89,7 @@ namespace Arguments
 		Run->add_option("--service", Raw.Service, "The data file that the toolkit's service answers from");
 		AddEditor(*Run, Raw);
 		Run->add_flag("--json", Raw.bJson, "Report each step as a JSON object in a line of its own");
-		Run->footer("Ends with 0 when all went well, 1 when an expectation did not hold, 2 for bad usage or\nno such project, 3 when the script is wrong or could not go on, or a file could not be\nread or written.");
+		Run->footer("Ends with 0 when all went well, 1 when an expectation did not hold, 2 for bad usage or\nno such project, 3 when the script is wrong or could not go on, a file or the service's data\ncould not be read or written, or the output could not be written.");
 		return Run;
 	}
 
@@ -100,7 +100,7 @@ namespace Arguments
 		std::ostringstream Errors;
 		if (App.exit(Error, Output, Errors) == 0)
 		{
-			std::cout << Output.str();
+			Console::Print(ToText(Output.str()).TrimEnd());
 			return EExitStatus::Done;
 		}
 		TArray<FString> Lines;

@@ -9,9 +9,21 @@
 
 struct FHostProblem;
 
-/** The program's two outputs, UTF-8, a line at a time and in the order of the calls. */
+/**
+ * The program's two outputs, UTF-8, a line at a time and in the order of the calls. What the standard output does not take, because its
+ * disk is full or nobody reads it any more, is lost: the program must not end as if it had been told.
+ */
 namespace Console
 {
+	/** To be called before anything is printed or opened. */
+	void Prepare();
+
+	/** Hands on what was printed. False once anything of it was lost. */
+	bool Flush();
+
+	/** Flushes for the last time and tells on the error output what was lost. False when something was. */
+	bool Finish();
+
 	void Print(const FString& Line);
 	void PrintUtf8(std::string_view Line);
 	void PrintError(const FString& Line);

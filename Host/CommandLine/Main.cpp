@@ -37,8 +37,10 @@ namespace VelmorantMain
 
 int main(int Count, char** Values)
 {
+	Console::Prepare();
 	HostLocale::UseUnicodeCharacterClasses();
 	FArguments Arguments;
 	const TOptional<EExitStatus> End = Arguments::Parse(Count, Values, Arguments);
-	return static_cast<int>(End.IsSet() ? End.GetValue() : VelmorantMain::RunGuarded(Arguments));
+	const EExitStatus Status = End.IsSet() ? End.GetValue() : VelmorantMain::RunGuarded(Arguments);
+	return static_cast<int>(Console::Finish() ? Status : EExitStatus::Trouble);
 }

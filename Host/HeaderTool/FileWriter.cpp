@@ -19,6 +19,11 @@ namespace HeaderTool
 	{
 		bool HasText(const std::filesystem::path& Path, const std::string& Text)
 		{
+			std::error_code Ignored;
+			if (!std::filesystem::is_regular_file(Path, Ignored))
+			{
+				return false;
+			}
 			std::ifstream Stream(Path, std::ios::binary);
 			std::ostringstream Present;
 			Present << Stream.rdbuf();

@@ -6,6 +6,7 @@
 #include "TextTools.h"
 
 #include <cerrno>
+#include <cstdint>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
@@ -15,6 +16,8 @@ namespace HeaderTool
 {
 	namespace
 	{
+		constexpr std::uintmax_t MaxFileSize = 256 * 1024 * 1024; // bytes; no source is nearly as large
+
 		/** The first word of Text, which keeps the rest. */
 		std::string TakeWord(std::string& Text)
 		{
@@ -31,6 +34,17 @@ namespace HeaderTool
 		if (std::filesystem::is_directory(Path, Code))
 		{
 			Diagnostics.Error(Path, 0, "this is a folder; name a file.");
+			return false;
+		}
+		const std::filesystem::file_status Status = std::filesystem::status(Path, Code);
+		if (std::filesystem::exists(Status) && !std::filesystem::is_regular_file(Status))
+		{
+			Diagnostics.Error(Path, 0, "this is no ordinary file, and nothing is read from it; name a file.");
+			return false;
+		}
+		if (std::filesystem::is_regular_file(Status) && std::filesystem::file_size(Path, Code) > MaxFileSize)
+		{
+			Diagnostics.Error(Path, 0, "the file is larger than 256 MB and is not read; name another one.");
 			return false;
 		}
 		errno = 0;

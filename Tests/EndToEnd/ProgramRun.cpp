@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <pty.h>
 #include <stdexcept>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -28,6 +29,26 @@ namespace
 		close(File);
 	}
 
+	void RedirectToClosedPipe(int Target)
+	{
+		int Ends[2] = {-1, -1};
+		if (pipe(Ends) == 0)
+		{
+			dup2(Ends[1], Target);
+			close(Ends[0]);
+			close(Ends[1]);
+		}
+	}
+
+	FProgramResult WaitFor(pid_t Process)
+	{
+		int Status = 0;
+		waitpid(Process, &Status, 0);
+		FProgramResult Result;
+		Result.ExitStatus = WIFEXITED(Status) ? WEXITSTATUS(Status) : -1;
+		return Result;
+	}
+
 	[[noreturn]] void Execute(const std::vector<std::string>& Arguments, const FProgramRun::FEnvironment& Environment)
 	{
 		for (const auto& [Name, Value] : Environment)
@@ -40,12 +61,13 @@ namespace
 			Values.push_back(const_cast<char*>(Argument.c_str()));
 		}
 		Values.push_back(nullptr);
+		alarm(120); // seconds
 		execv(Binary, Values.data());
 		_exit(127);
 	}
 }
 
-FProgramRun::FProgramRun(const std::vector<std::string>& Arguments, const FEnvironment& Environment)
+FProgramRun::FProgramRun(const std::vector<std::string>& Arguments, const FEnvironment& Environment, EOutput Output)
 {
 	std::string Template = (std::filesystem::temp_directory_path() / "velmorant-run-XXXXXX").string();
 	if (mkdtemp(Template.data()) == nullptr)
@@ -56,7 +78,11 @@ FProgramRun::FProgramRun(const std::vector<std::string>& Arguments, const FEnvir
 	Process = fork();
 	if (Process == 0)
 	{
-		Redirect(Folder + "/out", STDOUT_FILENO);
+		Redirect(Output == EOutput::FullDisk ? "/dev/full" : Folder + "/out", STDOUT_FILENO);
+		if (Output == EOutput::ClosedPipe)
+		{
+			RedirectToClosedPipe(STDOUT_FILENO);
+		}
 		Redirect(Folder + "/err", STDERR_FILENO);
 		Execute(Arguments, Environment);
 	}
@@ -74,17 +100,39 @@ FProgramRun::~FProgramRun()
 
 FProgramResult FProgramRun::Wait()
 {
-	int Status = 0;
-	waitpid(Process, &Status, 0);
+	FProgramResult Result = WaitFor(Process);
 	Process = -1;
-	FProgramResult Result;
-	Result.ExitStatus = WIFEXITED(Status) ? WEXITSTATUS(Status) : -1;
 	Result.Output = ReadAll(Folder + "/out");
 	Result.Errors = ReadAll(Folder + "/err");
 	return Result;
 }
 
-FProgramResult FProgramRun::Run(const std::vector<std::string>& Arguments, const FEnvironment& Environment)
+FProgramResult FProgramRun::Run(const std::vector<std::string>& Arguments, const FEnvironment& Environment, EOutput Output)
 {
-	return FProgramRun(Arguments, Environment).Wait();
+	return FProgramRun(Arguments, Environment, Output).Wait();
+}
+
+FProgramResult FProgramRun::RunOnTerminal(const std::vector<std::string>& Arguments, const FEnvironment& Environment, const std::string& Prompt, const std::string& Line)
+{
+	int Terminal = -1;
+	const pid_t Process = forkpty(&Terminal, nullptr, nullptr, nullptr);
+	if (Process == 0)
+	{
+		Execute(Arguments, Environment);
+	}
+	std::string Shown;
+	std::string Typed = Line + "\n";
+	char Buffer[4096];
+	for (ssize_t Count = 0; (Count = read(Terminal, Buffer, sizeof(Buffer))) > 0;) // fails when the program has closed the terminal
+	{
+		Shown.append(Buffer, static_cast<size_t>(Count));
+		if (!Typed.empty() && Shown.find(Prompt) != std::string::npos)
+		{
+			Typed.erase(0, static_cast<size_t>(write(Terminal, Typed.data(), Typed.size())));
+		}
+	}
+	close(Terminal);
+	FProgramResult Result = WaitFor(Process);
+	Result.Output = Shown;
+	return Result;
 }

@@ -21,8 +21,16 @@ class FProgramRun
 public:
 	using FEnvironment = std::vector<std::pair<std::string, std::string>>;
 
-	/** Starts it; both outputs go to files that are removed with this object. */
-	explicit FProgramRun(const std::vector<std::string>& Arguments, const FEnvironment& Environment = {});
+	/** Where the standard output goes. */
+	enum class EOutput
+	{
+		Kept,
+		FullDisk,
+		ClosedPipe
+	};
+
+	/** Starts it; both outputs go to files that are removed with this object. A program that hangs is ended after two minutes. */
+	explicit FProgramRun(const std::vector<std::string>& Arguments, const FEnvironment& Environment = {}, EOutput Output = EOutput::Kept);
 	~FProgramRun();
 	FProgramRun(const FProgramRun&) = delete;
 	FProgramRun& operator=(const FProgramRun&) = delete;
@@ -30,7 +38,10 @@ public:
 	FProgramResult Wait();
 
 	/** Starts it and waits. */
-	static FProgramResult Run(const std::vector<std::string>& Arguments, const FEnvironment& Environment = {});
+	static FProgramResult Run(const std::vector<std::string>& Arguments, const FEnvironment& Environment = {}, EOutput Output = EOutput::Kept);
+
+	/** The same on a terminal, where somebody types a line once Prompt shows. Output is all that the terminal shows. */
+	static FProgramResult RunOnTerminal(const std::vector<std::string>& Arguments, const FEnvironment& Environment, const std::string& Prompt, const std::string& Line);
 
 private:
 	std::string Folder;

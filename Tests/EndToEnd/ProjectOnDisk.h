@@ -74,6 +74,15 @@ protected:
 		return FProgramRun::Run(Arguments, GetEnvironment());
 	}
 
+	/** What no program says, however wrong its input is. */
+	static void ExpectOwnWords(const FProgramResult& Result)
+	{
+		for (const char* Foreign : {"Assertion", "json.exception", "syntax error", "Fatal", "could not go on"})
+		{
+			EXPECT_EQ((Result.Output + Result.Errors).find(Foreign), std::string::npos) << Result.Output.substr(0, 4000) << Result.Errors.substr(0, 4000);
+		}
+	}
+
 	/** Runs the script and expects that all of it is done. */
 	FProgramResult Do(const std::string& Lines, const std::vector<std::string>& Options = {}) const
 	{

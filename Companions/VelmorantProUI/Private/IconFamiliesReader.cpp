@@ -18,14 +18,6 @@ namespace IconFamiliesReader
 		const TCHAR* const Texts[] = {TEXT("an object"), TEXT("an array"), TEXT("text")};
 		return Texts[Kind];
 	}
-
-	/** What a JSON parser's message says after its own address: "… parse error at line 1, column 2: syntax error …". */
-	FString GetSyntaxProblem(const std::string& What)
-	{
-		const size_t Start = What.find("column ");
-		const size_t Colon = Start == std::string::npos ? Start : What.find(": ", Start);
-		return ToText(Colon == std::string::npos ? What : What.substr(Colon + 2));
-	}
 }
 
 bool FIconFamiliesReader::Read(std::string_view Json, TArray<FPackageIcon>& OutIcons, FFontIconImportError& OutError)
@@ -256,7 +248,8 @@ bool FIconFamiliesReader::parse_error(std::size_t Position, const std::string&, 
 	const size_t Byte = std::min(Position, Json.size());
 	const auto Line = 1 + std::count(Json.begin(), Json.begin() + static_cast<std::ptrdiff_t>(Byte), '\n');
 	Error.Place = FString::Printf(TEXT("line %d, byte %d"), static_cast<int32>(Line), static_cast<int32>(Byte));
-	Error.Reason = TEXT("this is no valid JSON, ") + IconFamiliesReader::GetSyntaxProblem(Exception.what());
+	const bool bNumber = dynamic_cast<const nlohmann::json::out_of_range*>(&Exception) != nullptr;
+	Error.Reason = bNumber ? TEXT("this is no valid JSON, the number there is out of range") : TEXT("this is no valid JSON, what stands there is not expected");
 	Error.Remedy = IconFamiliesReader::ReinstallRemedy;
 	return false;
 }

@@ -40,7 +40,7 @@ const FServiceData* FDataFileService::ReadFor(EServiceRequest Request, EVelmoran
 	const FServiceData* Data = File.Read(Path, Error);
 	if (!Data)
 	{
-		UE_LOG(LogVelmorantSDK, Error, TEXT("%s"), *Error);
+		UE_LOG(LogVelmorantSDK, Error, TEXT("%s. Have this mended, or name another data file, then try again."), *Error);
 		OutFailure = FPaths::FileExists(Path) ? EVelmorantFailure::UnusableData : EVelmorantFailure::NotReachable;
 	}
 	else if (Data->FailingRequests.Contains(Request))

@@ -5,9 +5,6 @@
 #include "Misc/Paths.h"
 #include "ServiceDocument.h"
 
-#include <algorithm>
-#include <nlohmann/json.hpp>
-
 namespace ServiceDataReader
 {
 	/** Key codes and names identify things: a second one of the same text would never be found. */
@@ -173,12 +170,6 @@ namespace ServiceDataReader
 		Document.ForEach("failingRequests", [&](const FServiceDocumentValue& Request) { Data.FailingRequests.Add(ReadRequest(Request)); });
 		return Data;
 	}
-
-	FString DescribeParseError(std::string_view Json, const nlohmann::json::parse_error& Error)
-	{
-		const auto Line = 1 + std::count(Json.begin(), Json.begin() + static_cast<std::ptrdiff_t>(std::min(Error.byte, Json.size())), '\n');
-		return FString::Printf(TEXT("line %d: this is not JSON: %s"), static_cast<int32>(Line), UTF8_TO_TCHAR(Error.what()));
-	}
 }
 
 TOptional<FServiceData> ServiceDataReader::Read(std::string_view Json, const FString& Folder, FString& OutError)
@@ -187,14 +178,6 @@ TOptional<FServiceData> ServiceDataReader::Read(std::string_view Json, const FSt
 	{
 		const FServiceDocument Document(Json);
 		return ReadDocument(FServiceDocumentValue(Document), Folder);
-	}
-	catch (const nlohmann::json::parse_error& Error)
-	{
-		OutError = DescribeParseError(Json, Error);
-	}
-	catch (const nlohmann::json::out_of_range& Error)
-	{
-		OutError = FString::Printf(TEXT("this is not JSON: %s"), UTF8_TO_TCHAR(Error.what())); // a number that no type can hold
 	}
 	catch (const FServiceDocumentError& Error)
 	{

@@ -5,14 +5,16 @@
 #include <algorithm>
 #include <limits>
 #include <nlohmann/json.hpp>
+#include <type_traits>
 #include <utility>
 
 /** Takes the parser's events. */
 class FServiceDocumentBuilder
 {
 public:
-	explicit FServiceDocumentBuilder(FServiceDocument& InDocument)
+	FServiceDocumentBuilder(FServiceDocument& InDocument, std::string_view InJson)
 		: Document(InDocument)
+		, Json(InJson)
 	{
 	}
 
@@ -39,9 +41,15 @@ public:
 	bool end_array() { return Leave(); }
 
 	template<typename ErrorType>
-	bool parse_error(std::size_t, const std::string&, const ErrorType& Error)
+	bool parse_error(std::size_t Position, const std::string& Token, const ErrorType&)
 	{
-		throw Error;
+		// What stands there is not repeated: it may be a password.
+		const bool bNumber = std::is_same_v<ErrorType, nlohmann::json::out_of_range>;
+		const size_t Length = bNumber ? Token.size() : 1; // Position is behind what is at fault
+		const std::string_view Before = Json.substr(0, std::min(Position > Length ? Position - Length : 0, Json.size()));
+		const std::string Line = std::to_string(1 + std::count(Before.begin(), Before.end(), '\n'));
+		const std::string Column = std::to_string(Before.size() - (Before.rfind('\n') + 1) + 1);
+		throw FServiceDocumentError("line " + Line + ": this is not JSON: " + (bNumber ? "the number in column " + Column + " is out of range" : "what stands in column " + Column + " is not expected"));
 	}
 
 private:
@@ -84,6 +92,7 @@ private:
 	}
 
 	FServiceDocument& Document;
+	std::string_view Json;
 	FServiceDocument::FPiece NextName = {}; // of the value that comes next
 	std::vector<size_t> Open; // indices of objects and arrays from the root down
 };
@@ -91,9 +100,11 @@ private:
 FServiceDocument::FServiceDocument(std::string_view Json)
 {
 	Texts.reserve(Json.size());
-	FServiceDocumentBuilder Builder(*this);
+	FServiceDocumentBuilder Builder(*this, Json);
 	nlohmann::json::sax_parse(Json.begin(), Json.end(), &Builder);
 }
+
+constexpr double MaxSeconds = 1e9; // some thirty years
 
 void FServiceDocumentValue::Fail(const std::string& Problem) const
 {
@@ -195,9 +206,9 @@ double FServiceDocumentValue::GetSeconds(std::string_view Name, double Default) 
 	}
 	const FServiceDocumentValue Member = Get(Name);
 	const bool bNumber = Member.Value.Kind == FServiceDocument::EKind::Integer || Member.Value.Kind == FServiceDocument::EKind::Float;
-	if (!bNumber || !(Member.Value.Number >= 0.0))
+	if (!bNumber || !(Member.Value.Number >= 0.0 && Member.Value.Number <= MaxSeconds))
 	{
-		Member.Fail("must be a number of seconds, at least 0");
+		Member.Fail("must be a number of seconds, at least 0 and at most 1000000000");
 	}
 	return Member.Value.Number;
 }

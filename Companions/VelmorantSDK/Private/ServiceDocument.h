@@ -24,7 +24,7 @@ public:
 class FServiceDocument
 {
 public:
-	/** Throws what nlohmann::json::parse throws. */
+	/** Throws an FServiceDocumentError for what is no JSON. */
 	explicit FServiceDocument(std::string_view Json);
 
 private:

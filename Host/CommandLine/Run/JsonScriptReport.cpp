@@ -72,3 +72,8 @@ void FJsonScriptReport::TellEnd(const FRunSummary& Summary)
 		{"unsaved", JsonText::Make(Summary.Unsaved)}, {"unusedAnswers", UnusedAnswers}};
 	Console::PrintUtf8(JsonText::Print(Json, -1));
 }
+
+void FJsonScriptReport::TellStopped(int32 Line, const FString& Reason)
+{
+	Console::PrintError(FScriptProblem{Line, Reason}.ToString(Script));
+}

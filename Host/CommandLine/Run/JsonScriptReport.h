@@ -15,6 +15,7 @@ public:
 
 	virtual void TellStep(const FStepRecord& Record) override;
 	virtual void TellEnd(const FRunSummary& Summary) override;
+	virtual void TellStopped(int32 Line, const FString& Reason) override;
 
 private:
 	const FString Script;

@@ -22,9 +22,10 @@ namespace RunCommand
 		/** Tells what is wrong with the files that were named. */
 		bool CheckFiles(const FRunArguments& Arguments)
 		{
-			if (!Arguments.Service.IsEmpty() && !HostFiles::FileExists(Arguments.Service))
+			const HostFiles::EKind Kind = Arguments.Service.IsEmpty() ? HostFiles::EKind::File : HostFiles::GetKind(Arguments.Service);
+			if (Kind != HostFiles::EKind::File)
 			{
-				HostProblems::Report(FPaths::ConvertRelativePathToFull(Arguments.Service), 0, TEXT("there is no such data file"), TEXT("Name the file that the service answers from."));
+				HostProblems::Report(FPaths::ConvertRelativePathToFull(Arguments.Service), 0, Kind == HostFiles::EKind::Missing ? TEXT("there is no such data file") : TEXT("this is no ordinary file, and nothing is read from it"), TEXT("Name the file that the service answers from."));
 			}
 			Refusal::PrintProblems(EExitStatus::Trouble, Arguments.bJson);
 			return HostProblems::GetAll().IsEmpty();

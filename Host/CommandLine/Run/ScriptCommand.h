@@ -23,6 +23,8 @@ public:
 	int32 Num() const { return Words.Num(); }
 	const FString& operator[](int32 Index) const { return Words[Index].Text; }
 
+	bool IsQuoted(int32 Index) const { return Words[Index].bQuoted; }
+
 	/** Which word of the line an argument is. */
 	int32 GetWordIndex(int32 Index) const { return FirstWord + Index; }
 

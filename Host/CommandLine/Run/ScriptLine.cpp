@@ -33,6 +33,7 @@ namespace ScriptLines
 				}
 				OutWord = FScriptWord();
 				OutWord.Begin = Position;
+				OutWord.bQuoted = Text[Position] == TEXT('"');
 				while (Has() && !IsBlank(Text[Position]) && Problem.IsEmpty())
 				{
 					ReadPiece(OutWord.Text);

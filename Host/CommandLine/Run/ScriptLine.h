@@ -11,6 +11,7 @@ struct FScriptWord
 	FString Text; // quotes removed, escapes resolved
 	int32 Begin = 0;
 	int32 End = 0; // behind the last character
+	bool bQuoted = false; // begins with a quote
 };
 
 /** One line of a script that says something. */

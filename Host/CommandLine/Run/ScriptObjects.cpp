@@ -112,6 +112,11 @@ namespace ScriptObjects
 		return Class;
 	}
 
+	FName ToName(const FString& Text)
+	{
+		return Text.Len() < NAME_SIZE ? FName(*Text) : FName();
+	}
+
 	UWorld* GetWorld()
 	{
 		return GEditor->GetEditorWorldContext().World();

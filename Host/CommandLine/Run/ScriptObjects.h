@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Containers/UnrealString.h"
+#include "UObject/NameTypes.h"
 
 class FScriptContext;
 class UClass;
@@ -28,6 +29,9 @@ namespace ScriptObjects
 
 	/** By its name, with or without the letter that C++ puts in front, or by path. Null with a reason. */
 	UClass* FindClass(const FString& Name, FString& OutReason);
+
+	/** None for a text that is too long to be a name: nothing is called that. */
+	FName ToName(const FString& Text);
 
 	/** The open level's world; null when there is none. */
 	UWorld* GetWorld();

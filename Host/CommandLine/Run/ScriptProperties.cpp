@@ -36,6 +36,7 @@ namespace ScriptProperties
 			}
 
 			/** To be called behind a part that was there. */
+			bool IsSecret() const { return bSecret; }
 			FString GetText() const { return bAtNumber ? FString::FromInt(Count) : ToText(*Property, Value); }
 
 		private:
@@ -77,12 +78,15 @@ namespace ScriptProperties
 
 			bool GoToMember(const FString& Name, FString& OutReason)
 			{
-				Property = Struct->FindPropertyByName(FName(*Name));
+				Property = Struct->FindPropertyByName(ScriptObjects::ToName(Name));
 				if (Property == nullptr)
 				{
 					OutReason = FString::Printf(TEXT("%s has no property %s"), *Struct->GetName(), *Name);
 					return false;
 				}
+				// As UMG's text fields have it.
+				const FBoolProperty* Flag = CastField<FBoolProperty>(Struct->FindPropertyByName(FName("IsPassword")));
+				bSecret = Flag != nullptr && Flag->GetPropertyValue_InContainer(Container) && Property->GetFName() == FName("Text");
 				Value = Property->ContainerPtrToValuePtr(Container);
 				return true;
 			}
@@ -114,6 +118,7 @@ namespace ScriptProperties
 			const FProperty* Property = nullptr; // null before the first part
 			const void* Value = nullptr;
 			bool bAtNumber = false; // behind "Num"
+			bool bSecret = false; // at the text of a password field
 			int32 Count = 0;
 		};
 
@@ -169,25 +174,30 @@ namespace ScriptProperties
 		return bWhole ? FString() : FString::Printf(TEXT("that is no value of the type %s"), *Property.GetCPPType());
 	}
 
-	bool Read(const UObject& Object, const FString& Path, FString& OutText, FString& OutReason)
+	FReading Read(const UObject& Object, const FString& Path)
 	{
+		FReading Result;
 		FPathWalker Walker(Object);
 		TArray<FString> Parts;
 		Path.ParseIntoArray(Parts, TEXT("."));
-		for (const FString& Part : Parts)
-		{
-			if (!Walker.Step(Part, OutReason))
-			{
-				return false;
-			}
-		}
 		if (Parts.IsEmpty())
 		{
-			OutReason = TEXT("a property is to be named");
-			return false;
+			Result.Error = TEXT("a property is to be named");
 		}
-		OutText = Walker.GetText();
-		return true;
+		for (int32 Index = 0; Index < Parts.Num() && Result.Error.IsEmpty(); ++Index)
+		{
+			Walker.Step(Parts[Index], Result.Error);
+		}
+		if (Result.Error.IsEmpty())
+		{
+			Result.Text = Walker.GetText();
+			Result.bSecret = Walker.IsSecret();
+		}
+		if (Result.bSecret && !Result.Text.IsEmpty())
+		{
+			Result.Text = TEXT("\u2022\u2022\u2022\u2022\u2022\u2022\u2022\u2022");
+		}
+		return Result;
 	}
 
 	bool AreEqual(const FString& A, const FString& B)

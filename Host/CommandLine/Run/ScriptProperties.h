@@ -21,9 +21,15 @@ namespace ScriptProperties
 
 	/**
 	 * The value that a path leads to, such as "Rooms[1].Groups.Num": members by name, elements of arrays by index, "Num" for
-	 * their number; through objects, too. @return false with a reason when it leads nowhere
+	 * their number; through objects, too. What stands in a password field reads as bullets.
 	 */
-	bool Read(const UObject& Object, const FString& Path, FString& OutText, FString& OutReason);
+	struct FReading
+	{
+		FString Text;
+		FString Error; // why the path leads nowhere; empty when it leads to a value
+		bool bSecret = false;
+	};
+	FReading Read(const UObject& Object, const FString& Path);
 
 	/** Whether two texts say the same value: equal, or equal as numbers, or both true or both false. */
 	bool AreEqual(const FString& A, const FString& B);

@@ -13,6 +13,9 @@ public:
 
 	virtual void TellStep(const FStepRecord& Record) = 0;
 	virtual void TellEnd(const FRunSummary& Summary) = 0;
+
+	/** On the error output alone: why the script ends before this line. */
+	virtual void TellStopped(int32 Line, const FString& Reason) = 0;
 };
 
 namespace ScriptReport

@@ -2,9 +2,11 @@
 
 #include "Run/ScriptRunner.h"
 
+#include "Console.h"
 #include "Containers/StringConv.h"
 #include "HostAssertions.h"
 #include "Run/ScriptContext.h"
+#include "Run/ScriptSecrets.h"
 
 namespace ScriptRunner
 {
@@ -86,17 +88,25 @@ namespace ScriptRunner
 EExitStatus FScriptRunner::Run(const FScript& Script)
 {
 	EStepOutcome Outcome = EStepOutcome::Done;
-	int32 NumSteps = 0;
-	for (; NumSteps < Script.Steps.Num() && Outcome == EStepOutcome::Done; ++NumSteps)
+	int32 NumDone = 0;
+	for (int32 Index = 0; Index < Script.Steps.Num() && Outcome == EStepOutcome::Done; ++Index)
 	{
-		const FScriptStep& Step = Script.Steps[NumSteps];
+		const FScriptStep& Step = Script.Steps[Index];
+		if (!Console::Flush())
+		{
+			Report.TellStopped(Step.Line.Number, TEXT("the output cannot be written; this step and those after it were not done"));
+			Outcome = EStepOutcome::Error;
+			break;
+		}
 		if (!Step.IsHeading() && !Session.IsRunning())
 		{
 			StartEditor();
 		}
 		Outcome = RunStep(Step).Outcome;
+		NumDone += Outcome == EStepOutcome::Done ? 1 : 0;
 	}
-	const FRunSummary Summary = SumUp(Outcome, Outcome == EStepOutcome::Done ? NumSteps : NumSteps - 1);
+	FRunSummary Summary = SumUp(Outcome, NumDone);
+	ScriptSecrets::Hide(Summary);
 	Report.TellEnd(Summary);
 	return Summary.Status;
 }
@@ -107,6 +117,7 @@ void FScriptRunner::StartEditor()
 	Record.Text = TEXT("(the editor starts)");
 	Session.Start();
 	Record.Events = Session.GetEvents().Take();
+	ScriptSecrets::Hide(Record);
 	Report.TellStep(Record);
 }
 
@@ -118,10 +129,12 @@ FStepResult FScriptRunner::RunStep(const FScriptStep& Step)
 	{
 		Record.Text = Step.Line.Source;
 		Record.Heading = Step.GetArguments()[0];
+		ScriptSecrets::Hide(Record);
 		Report.TellStep(Record);
 		return Record.Result;
 	}
 	Record.Result = Do(Step, Record);
+	ScriptSecrets::Hide(Record);
 	Report.TellStep(Record);
 	return Record.Result;
 }

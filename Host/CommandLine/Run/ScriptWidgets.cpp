@@ -7,6 +7,7 @@
 #include "HostSettings.h"
 #include "HostSnapshot.h"
 #include "Run/ScriptContext.h"
+#include "Run/ScriptObjects.h"
 
 namespace ScriptWidgets
 {
@@ -16,7 +17,7 @@ namespace ScriptWidgets
 		TSharedPtr<SWidget> FindSettingsPage(const FString& Section)
 		{
 			const TOptional<HostSettings::FOpenPage> Page = HostSettings::GetOpenPage();
-			const bool bMeant = Page.IsSet() && Page->Address.Section == FName(*Section);
+			const bool bMeant = Page.IsSet() && Page->Address.Section == ScriptObjects::ToName(Section);
 			return bMeant ? Page->Content : TSharedPtr<SWidget>();
 		}
 

@@ -24,6 +24,12 @@ namespace StepEvents
 		}
 	}
 
+	/** The service's files belong to the run as the project's do; it tells of them in the log only, as the rest of the toolkit does. */
+	static bool IsServiceTrouble(const FHostLogLine& Line)
+	{
+		return Line.Verbosity <= ELogVerbosity::Error && Line.Category == FName("LogVelmorantSDK");
+	}
+
 	static bool IsShown(const FHostLogLine& Line)
 	{
 		return Line.Verbosity <= ELogVerbosity::Warning || Line.Category.ToString().StartsWith(TEXT("LogVelmorant"));
@@ -35,6 +41,7 @@ void FEventWatch::Collect()
 	CollectNotifications();
 	CollectQuestions();
 	CollectUrls();
+	ReportServiceTrouble();
 	CollectLog();
 	CollectProblems();
 	CollectNotWritten();
@@ -90,6 +97,18 @@ void FEventWatch::CollectLog()
 		if (StepEvents::IsShown(Lines[NumLogLines]))
 		{
 			Events.Log.Add(Lines[NumLogLines].ToString());
+		}
+	}
+}
+
+void FEventWatch::ReportServiceTrouble() const
+{
+	const TArray<FHostLogLine>& Lines = HostLog::GetLines();
+	for (int32 Index = NumLogLines; Index < Lines.Num(); ++Index)
+	{
+		if (StepEvents::IsServiceTrouble(Lines[Index]))
+		{
+			HostProblems::Report(FString(), 0, Lines[Index].Text);
 		}
 	}
 }

@@ -55,6 +55,7 @@ private:
 	void CollectNotifications();
 	void CollectQuestions();
 	void CollectUrls();
+	void ReportServiceTrouble() const;
 	void CollectProblems();
 	void CollectNotWritten();
 

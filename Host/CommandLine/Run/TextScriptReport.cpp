@@ -96,3 +96,8 @@ void FTextScriptReport::TellEnd(const FRunSummary& Summary)
 		Console::PrintError(FString::Printf(TEXT("%s: warning: not saved: %s"), *Script, *Package));
 	}
 }
+
+void FTextScriptReport::TellStopped(int32 Line, const FString& Reason)
+{
+	Console::PrintError(FScriptProblem{Line, Reason}.ToString(Script));
+}

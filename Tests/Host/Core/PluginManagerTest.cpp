@@ -70,8 +70,11 @@ namespace
 			const char* Message;
 		};
 		const FCase Cases[] = {
-			{"a comma too many", "{\n\"Version\": 1,\n}", 3, "syntax error"},
-			{"cut off", "{\n\"Version\": ", 2, "unexpected end of input"},
+			{"a comma too many", "{\n\"Version\": 1,\n}", 3, "column 1: '}' is not expected here"},
+			{"cut off", "{\n\"Version\": ", 2, "the text ends before it is complete"},
+			{"a text that is not closed", "{\n\"Version\": \"secret\n\"}", 2, "column 19: what stands here is not expected"},
+			{"a number beyond all bounds", "{\n\"Version\": 1e999}", 2, "column 12: the number 1e999 is out of range"},
+			{"a number beyond 32 bits", "{\"Version\": 3000000000}", 0, "must be a whole number"},
 			{"not an object", "[1]", 1, "one JSON object"},
 			{"a number for a text", "{\"VersionName\": 1}", 0, "\"VersionName\" must be a text"},
 			{"a text for a number", "{\"Version\": \"1\"}", 0, "\"Version\" must be a whole number"},

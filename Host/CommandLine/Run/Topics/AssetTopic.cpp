@@ -55,7 +55,7 @@ namespace AssetTopic
 		FStepResult PrintAssets(FScriptContext& Context, const FScriptArguments& Arguments)
 		{
 			TArray<FAssetData> Assets;
-			GetRegistry().GetAssetsByPath(FName(Arguments.Num() > 0 ? *Arguments[0] : TEXT("/Game")), Assets, true);
+			GetRegistry().GetAssetsByPath(ScriptObjects::ToName(Arguments.Num() > 0 ? Arguments[0] : FString(TEXT("/Game"))), Assets, true);
 			for (const FAssetData& Asset : Assets)
 			{
 				Context.Print(FString::Printf(TEXT("%s (%s)"), *Asset.PackageName.ToString(), *Asset.AssetClassPath.GetAssetName().ToString()));
@@ -97,13 +97,17 @@ namespace AssetTopic
 		FStepResult PrintProperty(FScriptContext& Context, const FScriptArguments& Arguments)
 		{
 			FString Reason;
-			FString Text;
 			const UObject* Object = ScriptObjects::Find(Context, Arguments[0], Reason);
-			if (Object == nullptr || !ScriptProperties::Read(*Object, Arguments[1], Text, Reason))
+			if (Object == nullptr)
 			{
 				return FStepResult::Error(Reason);
 			}
-			Context.Print(Text);
+			const ScriptProperties::FReading Seen = ScriptProperties::Read(*Object, Arguments[1]);
+			if (!Seen.Error.IsEmpty())
+			{
+				return FStepResult::Error(Seen.Error);
+			}
+			Context.Print(Seen.Text);
 			return FStepResult::Done();
 		}
 
@@ -125,15 +129,21 @@ namespace AssetTopic
 
 		FExpectation ExpectProperty(FScriptContext& Context, const FScriptArguments& Arguments)
 		{
+			Context.Mask(Arguments.GetWordIndex(2)); // until it is known not to be a guess at a password
 			FExpectation Result;
-			FString Text;
 			const UObject* Object = ScriptObjects::Find(Context, Arguments[0], Result.Error);
-			if (Object == nullptr || !ScriptProperties::Read(*Object, Arguments[1], Text, Result.Error))
+			if (Object == nullptr)
 			{
 				return Result;
 			}
-			Result.bHolds = ScriptProperties::AreEqual(Text, Arguments[2]);
-			Result.Found = FString::Printf(TEXT("it is \"%s\""), *Text);
+			const ScriptProperties::FReading Seen = ScriptProperties::Read(*Object, Arguments[1]);
+			if (!Seen.Error.IsEmpty() || Seen.bSecret)
+			{
+				return FExpectation::Unanswerable(Seen.bSecret ? FString(TEXT("the value of a password field cannot be looked at")) : Seen.Error);
+			}
+			Context.Unmask(Arguments.GetWordIndex(2));
+			Result.bHolds = ScriptProperties::AreEqual(Seen.Text, Arguments[2]);
+			Result.Found = FString::Printf(TEXT("it is \"%s\""), *Seen.Text);
 			return Result;
 		}
 
@@ -154,7 +164,7 @@ namespace AssetTopic
 		FExpectation ExpectAction(FScriptContext&, const FScriptArguments& Arguments)
 		{
 			const TArray<FHostMenuEntry> Menu = HostContentBrowser::GetContextMenu();
-			return {Menu.ContainsByPredicate([&Arguments](const FHostMenuEntry& Entry) { return Entry.Label.Equals(Arguments[0]) || Entry.Name == FName(*Arguments[0]); }),
+			return {Menu.ContainsByPredicate([&Arguments](const FHostMenuEntry& Entry) { return Entry.Label.Equals(Arguments[0]) || Entry.Name == ScriptObjects::ToName(Arguments[0]); }),
 				FString(TEXT("the menu has: ")) + FString::JoinBy(Menu, TEXT(", "), [](const FHostMenuEntry& Entry) { return Entry.Label; }), FString()};
 		}
 

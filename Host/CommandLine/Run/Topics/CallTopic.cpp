@@ -49,7 +49,7 @@ namespace CallTopic
 			{
 				return false;
 			}
-			OutTarget.Function = OutTarget.Object->GetClass()->FindFunctionByName(FName(*FunctionText));
+			OutTarget.Function = OutTarget.Object->GetClass()->FindFunctionByName(ScriptObjects::ToName(FunctionText));
 			if (OutTarget.Function == nullptr)
 			{
 				OutReason = FString::Printf(TEXT("%s has no function %s"), *ObjectText, *FunctionText);

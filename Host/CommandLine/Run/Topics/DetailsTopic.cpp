@@ -83,6 +83,12 @@ namespace DetailsTopic
 				return Result;
 			}
 			const FString* Value = Arguments.FindOption(2, TEXT("value"));
+			const TOptional<FHostWidgetDescription> Widget = HostSnapshot::Describe(View->GetWidget(), Arguments[1], Result.Found);
+			if (Value != nullptr && Widget.IsSet() && Widget->bPassword)
+			{
+				Context.Mask(Arguments.GetWordIndex(3));
+				return FExpectation::Unanswerable(TEXT("the value of a password field cannot be looked at"));
+			}
 			Result.bHolds = Value == nullptr || Seen->Equals(*Value);
 			Result.Found = FString::Printf(TEXT("it shows \"%s\""), *Seen.GetValue());
 			return Result;

@@ -6,6 +6,7 @@
 #include "HostLog.h"
 #include "HostPackages.h"
 #include "Run/ScriptContext.h"
+#include "Run/ScriptObjects.h"
 #include "Run/ScriptTopics.h"
 #include "UObject/Package.h"
 
@@ -89,7 +90,7 @@ namespace EditorTopic
 		{
 			for (const FHostLogLine& Line : HostLog::GetLines())
 			{
-				if (Arguments.Num() == 0 || Line.Category == FName(*Arguments[0]))
+				if (Arguments.Num() == 0 || Line.Category == ScriptObjects::ToName(Arguments[0]))
 				{
 					Context.Print(Line.ToString());
 				}
@@ -124,7 +125,7 @@ namespace EditorTopic
 			const FString* Category = Arguments.FindOption(1, TEXT("category"));
 			const FString* Verbosity = Arguments.FindOption(1, TEXT("verbosity"));
 			const bool bFound = HostLog::GetLines().ContainsByPredicate([&](const FHostLogLine& Line) {
-				return Line.Text.Contains(Arguments[0], ESearchCase::CaseSensitive) && (Category == nullptr || Line.Category == FName(**Category)) &&
+				return Line.Text.Contains(Arguments[0], ESearchCase::CaseSensitive) && (Category == nullptr || Line.Category == ScriptObjects::ToName(*Category)) &&
 					(Verbosity == nullptr || Verbosity->Equals(::ToString(Line.Verbosity)));
 			});
 			return {bFound, TEXT("no line of the log is like this"), FString()};

@@ -4,6 +4,7 @@
 #include "FontIconImporter.h"
 #include "Misc/Paths.h"
 #include "Run/ScriptContext.h"
+#include "Run/ScriptObjects.h"
 #include "Run/ScriptTopics.h"
 #include "VelmorantUISubsystem.h"
 
@@ -22,7 +23,7 @@ namespace IconTopic
 		const UDataTable* FindTable(const FString& FontID, FString& OutReason)
 		{
 			const UVelmorantUISubsystem* Subsystem = UVelmorantUISubsystem::Get();
-			const UDataTable* Table = Subsystem != nullptr ? Subsystem->GetFontIconDataByID(FName(FontID)).IconDataTable.Get() : nullptr;
+			const UDataTable* Table = Subsystem != nullptr ? Subsystem->GetFontIconDataByID(ScriptObjects::ToName(FontID)).IconDataTable.Get() : nullptr;
 			if (Table == nullptr)
 			{
 				const TArray<FName> Known = Subsystem != nullptr ? Subsystem->GetAllFontIconOptions() : TArray<FName>();
@@ -40,7 +41,7 @@ namespace IconTopic
 				return FStepResult::Error(TEXT("say what the icon font is to be called: import icons FOLDER as FONT-ID"));
 			}
 			const FString Folder = FPaths::IsRelative(Arguments[0]) ? FPaths::Combine(FPaths::ProjectDir(), Arguments[0]) : Arguments[0];
-			const FFontIconImportResult Result = FFontIconImporter::Import(Folder, FName(*FontID), AssetFolder != nullptr ? *AssetFolder : FString(DefaultAssetFolder));
+			const FFontIconImportResult Result = FFontIconImporter::Import(Folder, ScriptObjects::ToName(*FontID), AssetFolder != nullptr ? *AssetFolder : FString(DefaultAssetFolder));
 			if (!Result.Succeeded())
 			{
 				return FStepResult::Error(Result.Error->ToString());
@@ -85,7 +86,7 @@ namespace IconTopic
 			{
 				return Result;
 			}
-			const FFontIconRow* Row = Table->FindRow<FFontIconRow>(FName(Arguments[1]), TEXT("expect icon"), false);
+			const FFontIconRow* Row = Table->FindRow<FFontIconRow>(ScriptObjects::ToName(Arguments[1]), TEXT("expect icon"), false);
 			if (Row == nullptr)
 			{
 				Result.Found = TEXT("the font has no such icon");
@@ -93,7 +94,7 @@ namespace IconTopic
 			}
 			const FString* Style = Arguments.FindOption(2, TEXT("style"));
 			const FString* Word = Arguments.FindOption(2, TEXT("word"));
-			Result.bHolds = (Style == nullptr || Row->IconStyles.Contains(FName(*Style))) && (Word == nullptr || Row->SearchTags.Contains(*Word));
+			Result.bHolds = (Style == nullptr || Row->IconStyles.Contains(ScriptObjects::ToName(*Style))) && (Word == nullptr || Row->SearchTags.Contains(*Word));
 			Result.Found = FString::Printf(TEXT("its styles are %s; its search words are %s"), *JoinNames(Row->IconStyles), *FString::Join(Row->SearchTags.Array(), TEXT(", ")));
 			return Result;
 		}

@@ -5,6 +5,7 @@
 #include "HostSettings.h"
 #include "HostSnapshot.h"
 #include "Run/ScriptContext.h"
+#include "Run/ScriptObjects.h"
 #include "Run/ScriptTopics.h"
 #include "Run/ScriptWidgets.h"
 
@@ -70,8 +71,8 @@ namespace MenuTopic
 			}
 			const FString* Category = Arguments.FindOption(1, TEXT("category"));
 			const FString* Container = Arguments.FindOption(1, TEXT("container"));
-			const bool bHolds = Page->Address.Section == FName(*Arguments[0]) && (Category == nullptr || Page->Address.Category == FName(**Category)) &&
-				(Container == nullptr || Page->Address.Container == FName(**Container));
+			const bool bHolds = Page->Address.Section == ScriptObjects::ToName(Arguments[0]) && (Category == nullptr || Page->Address.Category == ScriptObjects::ToName(*Category)) &&
+				(Container == nullptr || Page->Address.Container == ScriptObjects::ToName(*Container));
 			return {bHolds, FString(TEXT("the page that shows is ")) + Page->Address.ToString(), FString()};
 		}
 

@@ -4,6 +4,7 @@
 #include "Framework/Application/SlateApplication.h"
 #include "HostSnapshot.h"
 #include "Run/ScriptContext.h"
+#include "Run/ScriptSecrets.h"
 #include "Run/ScriptTopics.h"
 #include "Run/ScriptWidgets.h"
 
@@ -60,8 +61,12 @@ namespace PanelTopic
 			return GiveInput(Context, Arguments, [](const TSharedRef<SWidget>& Root, const FString& Widget) { return HostSnapshot::Click(Root, Widget); });
 		}
 
-		/** What is typed shows only where it would show on the screen: a word that goes nowhere might have been a password, too. */
-		FStepResult Type(FScriptContext& Context, const FScriptArguments& Arguments)
+		/**
+		 * Has a person put the third argument into the widget of the first two. It shows only where it would show on the screen: a word that
+		 * goes nowhere might have been a password, too.
+		 */
+		template<typename InputType>
+		FStepResult GiveText(FScriptContext& Context, const FScriptArguments& Arguments, InputType Input)
 		{
 			Context.Mask(Arguments.GetWordIndex(2));
 			return GiveInput(Context, Arguments, [&](const TSharedRef<SWidget>& Root, const FString& Widget) {
@@ -71,13 +76,29 @@ namespace PanelTopic
 				{
 					Context.Unmask(Arguments.GetWordIndex(2));
 				}
-				return HostSnapshot::Type(Root, Widget, Arguments[2]);
+				return Input(Root, Widget);
 			});
+		}
+
+		FStepResult Type(FScriptContext& Context, const FScriptArguments& Arguments)
+		{
+			FString Text;
+			const FString Trouble = ScriptSecrets::Resolve(Arguments, 2, Text);
+			if (!Trouble.IsEmpty())
+			{
+				return FStepResult::Error(Trouble);
+			}
+			FStepResult Result = GiveText(Context, Arguments, [&Text](const TSharedRef<SWidget>& Root, const FString& Widget) { return HostSnapshot::Type(Root, Widget, Text); });
+			if (!Text.Equals(Arguments[2]))
+			{
+				Context.Unmask(Arguments.GetWordIndex(2)); // the script only says where the text comes from
+			}
+			return Result;
 		}
 
 		FStepResult Choose(FScriptContext& Context, const FScriptArguments& Arguments)
 		{
-			return GiveInput(Context, Arguments, [&Arguments](const TSharedRef<SWidget>& Root, const FString& Widget) { return HostSnapshot::Choose(Root, Widget, Arguments[2]); });
+			return GiveText(Context, Arguments, [&Arguments](const TSharedRef<SWidget>& Root, const FString& Widget) { return HostSnapshot::Choose(Root, Widget, Arguments[2]); });
 		}
 
 		FStepResult Check(FScriptContext& Context, const FScriptArguments& Arguments)
@@ -200,7 +221,10 @@ namespace PanelTopic
 				{
 					return FExpectation::Unanswerable(TEXT("the value of a password field cannot be looked at"));
 				}
-				Context.Unmask(Arguments.GetWordIndex(Index + 1));
+				if (!Seen->bPassword)
+				{
+					Context.Unmask(Arguments.GetWordIndex(Index + 1));
+				}
 				Result = LookAtOption(*Seen, Arguments[Index], Arguments[Index + 1]);
 			}
 			return Result;
@@ -213,6 +237,12 @@ namespace PanelTopic
 			if (!Panel.IsValid())
 			{
 				return Result;
+			}
+			FString Reason;
+			const TOptional<FHostWidgetDescription> Seen = HostSnapshot::Describe(Panel.ToSharedRef(), Arguments[1], Reason);
+			if (Seen.IsSet() && Seen->bPassword)
+			{
+				Context.Mask(Arguments.GetWordIndex(2));
 			}
 			const TArray<FString> Options = HostSnapshot::GetOptions(Panel.ToSharedRef(), Arguments[1], Result.Error);
 			Result.bHolds = Options.ContainsByPredicate([&Arguments](const FString& Option) { return Option.Equals(Arguments[2]); });
@@ -230,7 +260,7 @@ namespace PanelTopic
 			{{TEXT("open"), TEXT("PANEL-ASSET [as NAME]"), 1, 1, TEXT("as")}, &Open},
 			{{TEXT("close"), TEXT("PANEL"), 1, 1, TEXT("")}, &Close},
 			{{TEXT("click"), TEXT("PANEL WIDGET"), 2, 2, TEXT("")}, &Click},
-			{{TEXT("type"), TEXT("PANEL WIDGET TEXT"), 3, 3, TEXT("")}, &Type},
+			{{TEXT("type"), TEXT("PANEL WIDGET TEXT|env:NAME"), 3, 3, TEXT("")}, &Type},
 			{{TEXT("choose"), TEXT("PANEL WIDGET OPTION"), 3, 3, TEXT("")}, &Choose},
 			{{TEXT("check"), TEXT("PANEL WIDGET"), 2, 2, TEXT("")}, &Check},
 			{{TEXT("uncheck"), TEXT("PANEL WIDGET"), 2, 2, TEXT("")}, &Uncheck},

@@ -3,6 +3,7 @@
 
 #include "HostQuestions.h"
 #include "Run/ScriptContext.h"
+#include "Run/ScriptObjects.h"
 #include "Run/ScriptTopics.h"
 
 namespace QuestionTopic
@@ -32,7 +33,7 @@ namespace QuestionTopic
 				}
 				Prepared.Fields.Add(Field, Value);
 			}
-			Context.Session.PrepareAnswer(FName(*Arguments[0]), Prepared, Context.Line);
+			Context.Session.PrepareAnswer(ScriptObjects::ToName(Arguments[0]), Prepared, Context.Line);
 			return FStepResult::Done();
 		}
 
@@ -58,7 +59,7 @@ namespace QuestionTopic
 			Result.Found = TEXT("asked was:");
 			for (const FAskedQuestion& Asked : HostQuestions::GetAsked())
 			{
-				Result.bHolds |= Asked.Question.Kind == FName(*Arguments[0]) && (Choice == nullptr || Asked.Answer.Choice.Equals(*Choice)) &&
+				Result.bHolds |= Asked.Question.Kind == ScriptObjects::ToName(Arguments[0]) && (Choice == nullptr || Asked.Answer.Choice.Equals(*Choice)) &&
 					(Text == nullptr || Asked.Question.Message.ToString().Contains(*Text, ESearchCase::CaseSensitive));
 				Result.Found += TEXT(" ") + Describe(Asked) + TEXT(";");
 			}

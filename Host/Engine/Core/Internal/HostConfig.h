@@ -48,6 +48,16 @@ namespace HostConfig
 	/** What a section of a branch brings and takes away again, as its files are now, in the order in which it was brought. */
 	TArray<FRemovedValue> GetRemovedValues(const FString& Name, const FString& Section);
 
+	/** A line of one of the files of a branch. */
+	struct FPlace
+	{
+		FString File; // empty when there is no such line
+		int32 Line = 0; // one-based
+	};
+
+	/** The last line that gives the key, with any operation in front, this value. */
+	FPlace FindLine(const FString& Name, const FString& Section, const FString& Key, const FString& Value);
+
 	/** Makes GConfig see what was written to the files of a branch. Copies of single files follow by themselves. */
 	void ReloadBranch(const FString& Name);
 

@@ -46,7 +46,7 @@ namespace HostFiles
 	/** The full path without links: where a read or write of Path ends up. */
 	FString Resolve(const FString& Path);
 
-	/** OutBytes is empty unless the result is Done. */
+	/** Regular files of up to 256 MB only: a pipe or device may never end. OutBytes is empty unless the result is Done. */
 	ERead Read(const FString& Path, std::string& OutBytes);
 
 	/**

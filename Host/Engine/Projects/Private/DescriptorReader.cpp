@@ -3,12 +3,12 @@
 #include "DescriptorReader.h"
 
 #include "Containers/StringConv.h"
+#include "HostJsonFault.h"
 #include "HostProblems.h"
 #include "HostTextFiles.h"
 
 #include <nlohmann/json.hpp>
 
-#include <algorithm>
 #include <string>
 
 namespace DescriptorReader
@@ -20,20 +20,6 @@ namespace DescriptorReader
 			return FString(UTF8_TO_TCHAR(Utf8.c_str()));
 		}
 
-		/** One-based line of a byte. */
-		int32 LineOf(const std::string& Text, size_t Byte)
-		{
-			const std::ptrdiff_t End = static_cast<std::ptrdiff_t>(std::min(Byte, Text.size()));
-			return 1 + static_cast<int32>(std::count(Text.begin(), Text.begin() + End, '\n'));
-		}
-
-		/** What the library says, without its own number and position in front. */
-		FString Explain(const std::string& What)
-		{
-			const size_t Colon = What.find(": ");
-			return ToFString(Colon == std::string::npos ? What : What.substr(Colon + 2));
-		}
-
 		/** Null for a member that is not there. */
 		const nlohmann::json* FindMember(const nlohmann::json& Object, const char* Member)
 		{
@@ -41,15 +27,18 @@ namespace DescriptorReader
 			return Found != Object.end() ? &*Found : nullptr;
 		}
 
+		bool IsName(const FString& Text)
+		{
+			return !Text.IsEmpty() && Text.Len() < NAME_SIZE;
+		}
+
 		bool Parse(const FString& File, const std::string& Text, nlohmann::json& OutRoot)
 		{
-			try
+			OutRoot = nlohmann::json::parse(Text, nullptr, false);
+			if (OutRoot.is_discarded())
 			{
-				OutRoot = nlohmann::json::parse(Text);
-			}
-			catch (const nlohmann::json::parse_error& Error)
-			{
-				HostProblems::Report(File, LineOf(Text, Error.byte > 0 ? Error.byte - 1 : 0), Explain(Error.what()), TEXT("Correct the JSON of this file."));
+				const FHostJsonFault Fault = HostJsonFault::Find(Text);
+				HostProblems::Report(File, Fault.Line, FString(TEXT("not valid JSON: ")) + Fault.Message, TEXT("Correct the JSON of this file."));
 				return false;
 			}
 			if (!OutRoot.is_object())
@@ -100,13 +89,15 @@ void FDescriptorReader::Read(const char* Member, int32& OutNumber)
 {
 	if (const nlohmann::json* Value = DescriptorReader::FindMember(*Root, Member))
 	{
-		if (Value->is_number_integer())
+		// Beyond 64 bits, a number is no integer any more.
+		const bool bFits = Value->is_number_integer() && (Value->is_number_unsigned() ? Value->get<uint64>() <= static_cast<uint64>(MAX_int32) : Value->get<int64>() >= MIN_int32);
+		if (bFits)
 		{
 			OutNumber = Value->get<int32>();
 		}
 		else
 		{
-			ReportWrongType(FString(), Member, TEXT("a whole number"));
+			ReportWrongType(FString(), Member, TEXT("a whole number from -2147483648 to 2147483647"));
 		}
 	}
 }
@@ -132,13 +123,14 @@ void FDescriptorReader::ReadModules(TArray<FModuleDescriptor>& OutModules)
 		ReadText((*Modules)[Index], "Name", Where, Name);
 		ReadText((*Modules)[Index], "Type", Where, Module.Type);
 		ReadText((*Modules)[Index], "LoadingPhase", Where, Phase);
-		Module.Name = FName(*Name);
 		Module.LoadingPhase = ELoadingPhase::FromString(*Phase);
-		if (Name.IsEmpty() || Module.LoadingPhase == ELoadingPhase::Max)
+		const bool bNamed = DescriptorReader::IsName(Name);
+		if (!bNamed || Module.LoadingPhase == ELoadingPhase::Max)
 		{
-			ReportWrongType(Where, Name.IsEmpty() ? "Name" : "LoadingPhase", Name.IsEmpty() ? TEXT("the name of a module") : TEXT("a loading phase"));
+			ReportWrongType(Where, bNamed ? "LoadingPhase" : "Name", bNamed ? TEXT("a loading phase") : TEXT("the name of a module, of at most 1023 characters"));
 			continue;
 		}
+		Module.Name = FName(*Name);
 		OutModules.Add(MoveTemp(Module));
 	}
 }
@@ -162,9 +154,9 @@ void FDescriptorReader::ReadPlugins(TArray<FPluginReferenceDescriptor>& OutPlugi
 		ReadText((*Plugins)[Index], "Name", Where, Plugin.Name);
 		ReadFlag((*Plugins)[Index], "Enabled", Where, Plugin.bEnabled);
 		ReadFlag((*Plugins)[Index], "Optional", Where, Plugin.bOptional);
-		if (Plugin.Name.IsEmpty())
+		if (!DescriptorReader::IsName(Plugin.Name))
 		{
-			ReportWrongType(Where, "Name", TEXT("the name of a plugin"));
+			ReportWrongType(Where, "Name", TEXT("the name of a plugin, of at most 1023 characters"));
 			continue;
 		}
 		OutPlugins.Add(MoveTemp(Plugin));

@@ -4,6 +4,8 @@
 
 #include "Config/ConfigBranch.h"
 #include "Config/IniMerge.h"
+#include "Config/IniSyntax.h"
+#include "Containers/StringConv.h"
 #include "HostState.h"
 #include "Misc/ConfigCacheIni.h"
 #include "Misc/Paths.h"
@@ -80,6 +82,24 @@ namespace HostConfig
 	TArray<FString> GetLayers(const FString& Name)
 	{
 		return ConfigBranch::GetLayers(Name);
+	}
+
+	FPlace FindLine(const FString& Name, const FString& Section, const FString& Key, const FString& Value)
+	{
+		FPlace Found;
+		const std::string FoldedKey = FIniFile::FoldName(Key);
+		const std::string ValueText(TCHAR_TO_UTF8(*Value));
+		for (const std::unique_ptr<FIniFile>& Layer : IniMerge::ReadLayers(GetLayers(Name)))
+		{
+			for (const FIniFile::FEntry& Entry : Layer->ReadSection(FIniFile::FoldName(Section)))
+			{
+				if (Entry.Value == ValueText && IniSyntax::Fold(IniSyntax::WithoutPrefix(std::string_view(Entry.Key))) == FoldedKey)
+				{
+					Found = FPlace{Layer->GetPath(), Entry.Line.Number};
+				}
+			}
+		}
+		return Found;
 	}
 
 	TArray<FRemovedValue> GetRemovedValues(const FString& Name, const FString& Section)

@@ -12,13 +12,38 @@ namespace DiskFile
 {
 	namespace
 	{
-		int GetStatus(int File, struct stat& OutStatus)
+		int CheckReadable(const struct stat& Status)
 		{
-			if (fstat(File, &OutStatus) != 0)
+			if (!S_ISREG(Status.st_mode))
+			{
+				return S_ISDIR(Status.st_mode) ? EISDIR : ENOTSUP;
+			}
+			return Status.st_size > MaxFileSize ? EFBIG : 0;
+		}
+
+		/**
+		 * What is no file is not even opened: that alone would wake who waits at the other end of a pipe, or rewind a tape. O_NONBLOCK is
+		 * for what takes the file's place between the two looks.
+		 */
+		int OpenToRead(const std::string& Path, struct stat& OutStatus, int& OutFile)
+		{
+			OutFile = -1;
+			int Error = stat(Path.c_str(), &OutStatus) == 0 ? CheckReadable(OutStatus) : errno;
+			if (Error != 0)
+			{
+				return Error;
+			}
+			OutFile = open(Path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+			if (OutFile < 0)
 			{
 				return errno;
 			}
-			return S_ISDIR(OutStatus.st_mode) ? EISDIR : 0;
+			Error = fstat(OutFile, &OutStatus) == 0 ? CheckReadable(OutStatus) : errno;
+			if (Error != 0)
+			{
+				close(OutFile);
+			}
+			return Error;
 		}
 
 		int ReadToEnd(int File, size_t ExpectedSize, std::string& OutBytes)
@@ -27,6 +52,10 @@ namespace DiskFile
 			size_t Length = 0;
 			for (;;)
 			{
+				if (Length > static_cast<size_t>(MaxFileSize))
+				{
+					return EFBIG; // it grows while it is read
+				}
 				if (Length == OutBytes.size())
 				{
 					OutBytes.resize(OutBytes.size() * 2);
@@ -49,17 +78,14 @@ namespace DiskFile
 	int Read(const std::string& Path, std::string& OutBytes)
 	{
 		OutBytes.clear();
-		const int File = open(Path.c_str(), O_RDONLY | O_CLOEXEC);
-		if (File < 0)
-		{
-			return errno;
-		}
 		struct stat Status;
-		int Error = GetStatus(File, Status);
-		if (Error == 0)
+		int File;
+		int Error = OpenToRead(Path, Status, File);
+		if (Error != 0)
 		{
-			Error = ReadToEnd(File, S_ISREG(Status.st_mode) ? static_cast<size_t>(Status.st_size) : 0, OutBytes);
+			return Error;
 		}
+		Error = ReadToEnd(File, static_cast<size_t>(Status.st_size), OutBytes);
 		if (Error != 0)
 		{
 			OutBytes.clear();

@@ -9,7 +9,13 @@
 /** Single steps on the disk's files. Paths are full; results named int are 0 or an errno. */
 namespace DiskFile
 {
-	/** All bytes, also of pipes and devices. OutBytes is empty on failure. */
+	/** Larger files are not read: what they hold is held in memory as a whole, several times. */
+	constexpr off_t MaxFileSize = 256 * 1024 * 1024;
+
+	/**
+	 * All bytes. EISDIR for a folder, ENOTSUP for a pipe, device or socket, which may never end, EFBIG beyond MaxFileSize. OutBytes is
+	 * empty on failure.
+	 */
 	int Read(const std::string& Path, std::string& OutBytes);
 
 	/** Whether the file, whose status this is, has exactly these bytes. */

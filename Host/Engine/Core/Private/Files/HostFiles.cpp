@@ -64,11 +64,6 @@ namespace HostFiles
 			return S_ISDIR(OnDisk.Status.st_mode) ? EKind::Directory : EKind::Other;
 		}
 
-		void ReportNotRead(const std::string& Path, const FString& Message, const TCHAR* Remedy)
-		{
-			HostProblems::Report(NativePath::ToString(Path), 0, Message, Remedy);
-		}
-
 		/**
 		 * What is the user's own stays theirs alone, whoever else could read it before; other files keep their mode.
 		 *
@@ -109,6 +104,25 @@ namespace HostFiles
 		{
 			++State.Get().NumChanges[Path];
 			return true;
+		}
+
+		void ReportNotRead(const std::string& Path, int Error)
+		{
+			const auto Tell = [File = NativePath::ToString(Path)](const FString& Message, const TCHAR* Remedy) { HostProblems::Report(File, 0, Message, Remedy); };
+			switch (Error)
+			{
+				case EISDIR:
+					Tell(TEXT("a folder stands where a file is to be read"), TEXT("Move the folder away."));
+					break;
+				case ENOTSUP:
+					Tell(TEXT("this is no ordinary file, and nothing is read from it"), TEXT("Put what it gives into a file and name that."));
+					break;
+				case EFBIG:
+					Tell(FString::Printf(TEXT("the file is larger than %d MB and is not read"), static_cast<int32>(DiskFile::MaxFileSize / (1024 * 1024))), TEXT("Make it smaller, or move it away."));
+					break;
+				default:
+					Tell(Describe(TEXT("the file cannot be read"), Error), TEXT("Check its permissions."));
+			}
 		}
 
 		TArray<FString> ToStrings(const std::vector<std::string>& Paths)
@@ -160,14 +174,7 @@ namespace HostFiles
 		{
 			return Error == 0 ? ERead::Done : ERead::Missing;
 		}
-		if (Error == EISDIR)
-		{
-			ReportNotRead(Full, TEXT("a folder stands where a file is to be read"), TEXT("Move the folder away."));
-		}
-		else
-		{
-			ReportNotRead(Full, Describe(TEXT("the file cannot be read"), Error), TEXT("Check its permissions."));
-		}
+		ReportNotRead(Full, Error);
 		return ERead::Failed;
 	}
 

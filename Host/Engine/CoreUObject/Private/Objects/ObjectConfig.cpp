@@ -2,6 +2,7 @@
 // Config properties: read when the class default object is made, written to the user's layer or to the project's default file.
 
 #include "HostConfig.h"
+#include "HostProblems.h"
 #include "Logging/LogMacros.h"
 #include "Misc/ConfigCacheIni.h"
 #include "UObject/Class.h"
@@ -45,12 +46,23 @@ namespace ObjectConfig
 		return Values;
 	}
 
-	static void ReportUnreadable(const FProperty* Property, const FString& Section, const FString& Value)
+	/** Element is the property, or what its array holds. */
+	static void ReportUnreadable(const FProperty* Property, const FProperty* Element, const UClass* SectionClass, const FString& Value)
 	{
-		UE_LOG(LogConfigObject, Warning, TEXT("[%s] %s: '%s' is no %s."), *Section, *Property->GetName(), *Value, *Property->GetCPPType());
+		constexpr int32 MaxShown = 100; // characters
+		const FString Section = SectionClass->GetPathName();
+		const HostConfig::FPlace Place = HostConfig::FindLine(SectionClass->ClassConfigName.ToString(), Section, Property->GetName(), Value);
+		const FString Shown = Value.Len() > MaxShown ? Value.Left(MaxShown) + TEXT("…") : Value;
+		const FString Message = FString::Printf(TEXT("[%s] %s: '%s' is no %s"), *Section, *Property->GetName(), *Shown, *Element->GetCPPType());
+		const TCHAR* const Remedy = TEXT("Correct the value, or remove the line.");
+		if (Value.Len() >= NAME_SIZE)
+		{
+			HostProblems::Report(Place.File, Place.Line, Message, Remedy); // a slip of the pen is not as long as that
+		}
+		UE_LOG(LogConfigObject, Warning, TEXT("%s"), *HostProblems::ToString(FHostProblem{Place.File, Place.Line, Message, Remedy}));
 	}
 
-	static void ImportArray(const FArrayProperty* Array, UObject* Object, const TArray<FString>& Values, const FString& Section)
+	static void ImportArray(const FArrayProperty* Array, UObject* Object, const TArray<FString>& Values, const UClass* SectionClass)
 	{
 		FScriptArrayHelper Helper(Array, Array->ContainerPtrToValuePtr(Object));
 		Helper.EmptyValues();
@@ -59,27 +71,28 @@ namespace ObjectConfig
 			const int32 Index = Helper.AddValue();
 			if (!Array->Inner->ImportText_Direct(*Value, Helper.GetRawPtr(Index), Object, PPF_None))
 			{
-				ReportUnreadable(Array->Inner, Section, Value);
+				ReportUnreadable(Array, Array->Inner, SectionClass, Value);
 				Helper.RemoveValues(Index);
 			}
 		}
 	}
 
-	static void ReadProperty(const FProperty* Property, UObject* Object, const FString& Section, const FString& File)
+	static void ReadProperty(const FProperty* Property, UObject* Object, const UClass* SectionClass, const FString& File)
 	{
+		const FString Section = SectionClass->GetPathName();
 		if (const FArrayProperty* Array = CastField<FArrayProperty>(Property))
 		{
 			TArray<FString> Values;
 			if (GConfig->GetArray(*Section, *Property->GetName(), Values, File) > 0)
 			{
-				ImportArray(Array, Object, Values, Section);
+				ImportArray(Array, Object, Values, SectionClass);
 			}
 			return;
 		}
 		FString Value;
 		if (GConfig->GetString(*Section, *Property->GetName(), Value, File) && !Property->ImportText_InContainer(*Value, Object, Object, PPF_None))
 		{
-			ReportUnreadable(Property, Section, Value);
+			ReportUnreadable(Property, Property, SectionClass, Value);
 		}
 	}
 
@@ -92,7 +105,7 @@ namespace ObjectConfig
 			ReadChain(Property, Object, Class->GetSuperClass(), Filename);
 		}
 		const UClass* SectionClass = GetSectionClass(Property, Class);
-		ReadProperty(Property, Object, SectionClass->GetPathName(), Filename ? FString(Filename) : SectionClass->GetConfigName());
+		ReadProperty(Property, Object, SectionClass, Filename ? FString(Filename) : SectionClass->GetConfigName());
 	}
 
 	/** What Key is in one file, read alone, on top of Values. */

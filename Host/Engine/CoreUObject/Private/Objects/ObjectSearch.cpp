@@ -31,7 +31,7 @@ namespace ObjectSearch
 		for (;;)
 		{
 			const int32 End = FindPartEnd(Path, Start);
-			const FName Part(*Path.Mid(Start, End - Start), FNAME_Find);
+			const FName Part = End - Start < NAME_SIZE ? FName(*Path.Mid(Start, End - Start), FNAME_Find) : FName();
 			if (Part.IsNone())
 			{
 				return nullptr; // a name that nobody made has no object
@@ -91,7 +91,7 @@ UObject* StaticFindObjectChecked(UClass* Class, UObject* InOuter, const TCHAR* N
 
 UObject* StaticFindFirstObject(UClass* Class, const TCHAR* Name, EFindFirstObjectOptions Options)
 {
-	const FName Wanted(Name, FNAME_Find);
+	const FName Wanted = FCString::Strlen(Name) < NAME_SIZE ? FName(Name, FNAME_Find) : FName();
 	if (Wanted.IsNone())
 	{
 		return nullptr;
@@ -151,7 +151,8 @@ UClass* StaticLoadClass(UClass* BaseClass, UObject* InOuter, const TCHAR* Name, 
 
 UPackage* FindPackage(UObject* InOuter, const TCHAR* PackageName)
 {
-	return static_cast<UPackage*>(StaticFindObjectFast(UPackage::StaticClass(), InOuter, FName(PackageName, FNAME_Find)));
+	const bool bCanBe = FCString::Strlen(PackageName) < NAME_SIZE;
+	return bCanBe ? static_cast<UPackage*>(StaticFindObjectFast(UPackage::StaticClass(), InOuter, FName(PackageName, FNAME_Find))) : nullptr;
 }
 
 UPackage* CreatePackage(const TCHAR* PackageName)

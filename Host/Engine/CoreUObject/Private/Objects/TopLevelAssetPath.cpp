@@ -50,11 +50,16 @@ bool FTopLevelAssetPath::TrySetPath(FStringView InPath)
 	{
 		return false; // a path to something inside an asset
 	}
-	if (!Path.FindChar(TEXT('.'), Dot))
+	const bool bHasAsset = Path.FindChar(TEXT('.'), Dot);
+	const FString Asset = bHasAsset ? Path.RightChop(Dot + 1) : FString();
+	if ((bHasAsset ? Dot : Path.Len()) >= NAME_SIZE || Asset.Len() >= NAME_SIZE)
+	{
+		return false; // nothing can be called that
+	}
+	if (!bHasAsset)
 	{
 		return TrySetPath(FName(*Path), FName());
 	}
-	const FString Asset = Path.RightChop(Dot + 1);
 	return !Asset.Contains(TEXT(".")) && TrySetPath(FName(*Path.Left(Dot)), FName(*Asset));
 }
 

@@ -12,6 +12,7 @@
 
 namespace HostPackages
 {
+	constexpr int32 MaxShownName = 64; // characters of one that is too long
 	const int32 MaxNameBytes = 240; // of the 255 that file systems allow, less the suffix
 
 	/** What neither file systems nor object paths bear; blanks belong to it. */
@@ -76,6 +77,14 @@ bool HostPackages::IsValidAssetName(const FString& AssetName, FString* OutReason
 
 bool HostPackages::IsValidPackageName(const FString& PackageName, FString* OutReason)
 {
+	if (PackageName.Len() >= NAME_SIZE)
+	{
+		if (OutReason != nullptr)
+		{
+			*OutReason = FString::Printf(TEXT("\"%s…\" has more than %d characters"), *PackageName.Left(MaxShownName), NAME_SIZE - 1);
+		}
+		return false;
+	}
 	for (const FString& Root : GetMountedRoots())
 	{
 		if (!PackageName.StartsWith(Root))
@@ -123,6 +132,11 @@ TArray<HostPackages::FStoredAsset> HostPackages::Scan()
 	{
 		const FString PackageName = Storage.GetPackageName(File);
 		std::string Text;
+		if (PackageName.Len() >= NAME_SIZE)
+		{
+			HostProblems::Report(File, 0, FString::Printf(TEXT("the path of this asset has more than %d characters, so that it cannot be loaded"), NAME_SIZE - 1), TEXT("Move it to a folder with a shorter path."));
+			continue;
+		}
 		if (!IsValidPackageName(PackageName) || HostTextFiles::ReadUtf8(File, Text) != HostFiles::ERead::Done)
 		{
 			continue; // unreadable files report themselves; a file with such a name cannot be an asset

@@ -2,27 +2,13 @@
 
 #include "PackageJson.h"
 
+#include "HostJsonFault.h"
 #include "HostProblems.h"
 
-#include <algorithm>
 #include <vector>
 
 namespace PackageJson
 {
-	/** nlohmann's messages begin with their own error code. */
-	FString WithoutCode(const char* What)
-	{
-		const std::string Message(What);
-		const size_t CodeEnd = Message.find("] ");
-		return ToString(CodeEnd == std::string::npos ? Message : Message.substr(CodeEnd + 2));
-	}
-
-	int32 LineOf(const std::string& Text, size_t Offset)
-	{
-		const auto End = Text.begin() + static_cast<std::ptrdiff_t>(std::min(Offset, Text.size()));
-		return static_cast<int32>(std::count(Text.begin(), End, '\n')) + 1;
-	}
-
 	/** Builds a document as it is parsed, each value once and in its place, and finds keys that occur twice in an object. */
 	class FDocumentBuilder final : public nlohmann::json_sax<FJson>
 	{
@@ -58,11 +44,11 @@ namespace PackageJson
 		bool end_object() override { return Leave(); }
 		bool start_array(std::size_t) override { return Enter(FJson::array()); }
 		bool end_array() override { return Leave(); }
-		bool parse_error(std::size_t, const std::string&, const nlohmann::detail::exception& Error) override
+		bool parse_error(std::size_t, const std::string&, const nlohmann::detail::exception&) override
 		{
-			const auto* Syntax = dynamic_cast<const FJson::parse_error*>(&Error);
-			Problem.Line = Syntax != nullptr ? LineOf(Text, Syntax->byte) : 0; // what no number can hold has no place
-			Problem.Message = FString(TEXT("not valid JSON: ")) + WithoutCode(Error.what());
+			const FHostJsonFault Fault = HostJsonFault::Find(Text);
+			Problem.Line = Fault.Line;
+			Problem.Message = FString(TEXT("not valid JSON: ")) + Fault.Message;
 			Problem.Remedy = TEXT("Mend the file in a text editor or take it back from version control.");
 			return false;
 		}

@@ -7,6 +7,7 @@
 #include "UObject/Class.h"
 #include "UObject/UnrealType.h"
 
+#include <cmath>
 #include <limits>
 
 namespace PropertyReader
@@ -191,6 +192,10 @@ bool FPropertyReader::ReadFloat(const FNumericProperty* Property, void* Value, c
 	{
 		return RefuseType(Place, Json, TEXT("a number"));
 	}
+	if (Property->IsA<FFloatProperty>() && std::isfinite(Number) && std::abs(Number) > static_cast<double>(std::numeric_limits<float>::max()))
+	{
+		return RefuseType(Place, Json, TEXT("a number from -3.4028234e38 to 3.4028234e38"));
+	}
 	if (Value != nullptr)
 	{
 		Property->SetFloatingPointPropertyValue(Value, Number);
@@ -295,5 +300,8 @@ bool FPropertyReader::RefuseType(const FJsonPlace& Place, const FJson& Json, con
 {
 	// Not the contents of arrays and objects: a file can be long.
 	const std::string Found = Json.is_structured() ? Json.type_name() : Json.dump(-1, ' ', false, FJson::error_handler_t::replace);
-	return Refuse(Place, FString::Printf(TEXT("expected %s, found %s"), Expected, *PackageJson::ToString(Found)), TEXT("Correct the value."));
+	constexpr int32 MaxShown = 100; // characters
+	const FString Text = PackageJson::ToString(Found);
+	const FString Shown = Text.Len() > MaxShown ? Text.Left(MaxShown) + TEXT("…") : Text;
+	return Refuse(Place, FString::Printf(TEXT("expected %s, found %s"), Expected, *Shown), TEXT("Correct the value."));
 }

@@ -9,12 +9,34 @@
 #include "UObject/SoftObjectPtr.h"
 #include "UObject/UnrealType.h"
 
+namespace PropertyReader
+{
+	/** Whether a part of "/Package.Object:Inner" is longer than a name can be. */
+	static bool HasLongName(const FString& Path)
+	{
+		int32 Length = 0;
+		for (const TCHAR Character : Path)
+		{
+			Length = Character == TEXT('.') || Character == TEXT(':') ? 0 : Length + 1;
+			if (Length >= NAME_SIZE)
+			{
+				return true;
+			}
+		}
+		return false;
+	}
+}
+
 bool FPropertyReader::ReadReference(const FProperty* Property, void* Value, const FJson& Json, const FJsonPlace& Place)
 {
 	FString Path;
 	if (!Json.is_null() && !ReadString(Json, Place, Path))
 	{
 		return false;
+	}
+	if (PropertyReader::HasLongName(Path))
+	{
+		return RefuseType(Place, Json, TEXT("a path of names with at most 1023 characters each"));
 	}
 	if (Value == nullptr)
 	{

@@ -330,7 +330,7 @@ const TCHAR* FDelegateProperty::ImportText_Internal(const TCHAR* Buffer, void* V
 	FString Text;
 	const TCHAR* Rest = PropertyText::ReadText(Buffer, PortFlags, Text);
 	int32 Dot = INDEX_NONE;
-	if (!Rest || !Text.FindLastChar(TEXT('.'), Dot))
+	if (!Rest || !Text.FindLastChar(TEXT('.'), Dot) || Text.Len() - Dot > NAME_SIZE)
 	{
 		return nullptr;
 	}

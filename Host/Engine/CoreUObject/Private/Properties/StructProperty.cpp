@@ -59,7 +59,7 @@ namespace StructText
 		}
 		const FString Name = FString::ConstructFromPtrSize(Start, static_cast<int32>(Buffer - Start)).TrimStartAndEnd();
 		Buffer = PropertyText::SkipBlanks(Buffer + 1);
-		const FProperty* Property = Name.IsEmpty() ? nullptr : Struct->FindPropertyByName(FName(*Name));
+		const FProperty* Property = Name.IsEmpty() || Name.Len() >= NAME_SIZE ? nullptr : Struct->FindPropertyByName(FName(*Name));
 		return Property ? Property->ImportText_InContainer(Buffer, Value, OwnerObject, PortFlags | PPF_Delimited, ErrorText) : SkipValue(Buffer);
 	}
 }

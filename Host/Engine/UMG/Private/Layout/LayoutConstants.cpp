@@ -6,6 +6,8 @@
 #include "Misc/Char.h"
 
 #include <charconv>
+#include <cmath>
+#include <limits>
 #include <memory>
 
 namespace LayoutValues
@@ -88,6 +90,19 @@ namespace LayoutValues
 		return NumDigits > 0 && NumPoints <= (bWhole ? 0 : 1);
 	}
 
+	/** Whether the property has this number, which is one. */
+	static bool IsInRange(const FNumericProperty& Property, const FString& Text)
+	{
+		const double Number = FCString::Atod(*Text);
+		if (Property.IsFloatingPoint())
+		{
+			return std::abs(Number) <= (Property.IsA<FFloatProperty>() ? static_cast<double>(std::numeric_limits<float>::max()) : std::numeric_limits<double>::max());
+		}
+		const bool bUnsigned = Property.IsA<FByteProperty>() || Property.IsA<FUInt16Property>() || Property.IsA<FUInt32Property>() || Property.IsA<FUInt64Property>();
+		const double End = std::ldexp(1.0, Property.GetElementSize() * 8 - (bUnsigned ? 0 : 1)); // the first number above
+		return Number < End && Number >= (bUnsigned ? 0.0 : -End);
+	}
+
 	static bool SetObject(const FObjectPropertyBase& Property, void* Dest, const FString& Text, FWidgetFinder FindWidget, FString& OutReason)
 	{
 		UObject* Object = nullptr;
@@ -168,6 +183,11 @@ namespace LayoutValues
 			{
 				return false;
 			}
+			if (!IsInRange(*Number, Text))
+			{
+				OutReason = FString::Printf(TEXT("%s is out of range for a %s"), *Text, *LayoutTypes::Describe(Property));
+				return false;
+			}
 			Number->SetNumericPropertyValueFromString(Dest, *Text);
 			return true;
 		}
@@ -189,7 +209,7 @@ namespace LayoutValues
 		void* Value = std::align(alignof(std::max_align_t), static_cast<std::size_t>(Property.GetElementSize()), Place, Space);
 		Property.InitializeValue(Value);
 		const auto FindWidget = [&Types](const FString& Name) -> UObject* {
-			UClass* const* Class = Types.Widgets.Find(FName(*Name));
+			UClass* const* Class = Name.Len() > MaxNameLength ? nullptr : Types.Widgets.Find(FName(*Name));
 			return Class ? (*Class)->GetDefaultObject() : nullptr; // stands for the widget: only its class matters here
 		};
 		const bool bFits = SetFromText(Property, Value, Text, FindWidget, OutReason);

@@ -29,7 +29,7 @@ namespace LayoutFunctions
 			return false;
 		}
 		const FString Name = LayoutValues::EvaluateText(Value, FLayoutScope());
-		const UFunction* Function = PanelClass.FindFunctionByName(FName(*Name));
+		const UFunction* Function = Name.Len() > MaxNameLength ? nullptr : PanelClass.FindFunctionByName(FName(*Name));
 		if (!Function)
 		{
 			OutReason = FString::Printf(TEXT("panel %s has no function '%s'"), *PanelClass.GetName(), *Name);

@@ -6,6 +6,9 @@
 #include "Misc/Optional.h"
 #include "UObject/StrongObjectPtr.h"
 
+/** Of the 1,023 characters that a name can have; the rest is for what getters, setters and listeners put before and behind. */
+constexpr int32 MaxNameLength = 900;
+
 class UClass;
 struct FLayoutFunctionCall;
 struct FLayoutValue;

@@ -3,6 +3,7 @@
 #include "Layout/LayoutReader.h"
 
 #include "Blueprint/UserWidget.h"
+#include "HostJsonFault.h"
 #include "HostObjects.h"
 #include "Layout/LayoutAccess.h"
 #include "Layout/LayoutValues.h"
@@ -21,6 +22,15 @@ namespace LayoutReader
 	{
 		const auto Found = Object.find(Key);
 		return Found != Object.end() ? &*Found : nullptr;
+	}
+
+	static constexpr int32 MaxShownPointer = 120; // characters; its last part is the name that is too long
+
+	/** Members whose texts are names, or paths made of names. */
+	static bool IsWhereNamesStand(const FString& Key)
+	{
+		static const TSet<FString> Keys = {TEXT("Class"), TEXT("ParentClass"), TEXT("Name"), TEXT("Set"), TEXT("Call"), TEXT("ResultOf"), TEXT("Member")};
+		return Keys.Contains(Key);
 	}
 
 	/** "Widget.Event" or "Event" of the panel, which is None. */
@@ -74,6 +84,26 @@ bool FLayoutReader::CheckKeys(const FJson& Json, const FString& Pointer, std::in
 	return bSound;
 }
 
+void FLayoutReader::CheckNameLengths(const FJson& Json, const FString& Pointer)
+{
+	std::size_t Index = 0;
+	for (const auto& Member : Json.items())
+	{
+		const FString Key = LayoutReader::ToString(Member.key());
+		const FString MemberPointer = Json.is_array() ? LayoutPointer::Child(Pointer, Index++) : LayoutPointer::Child(Pointer, Member.key());
+		const FJson& Value = Member.value();
+		const bool bNames = Value.is_string() && LayoutReader::IsWhereNamesStand(Key);
+		if (Json.is_object() && (Key.Len() > MaxNameLength || (bNames && LayoutReader::ToString(Value.get<std::string>()).Len() > MaxNameLength)))
+		{
+			Complain(MemberPointer.Left(LayoutReader::MaxShownPointer), FString::Printf(TEXT("a name has more than %d characters"), MaxNameLength), TEXT("Give it a shorter one."));
+		}
+		else if (Value.is_structured())
+		{
+			CheckNameLengths(Value, MemberPointer);
+		}
+	}
+}
+
 TOptional<FString> FLayoutReader::ReadString(const FJson& Json, const char* Key, const FString& Pointer)
 {
 	const FJson* Value = LayoutReader::Find(Json, Key);
@@ -87,14 +117,12 @@ TOptional<FString> FLayoutReader::ReadString(const FJson& Json, const char* Key,
 
 TSharedPtr<FWidgetLayout> FLayoutReader::Read(const FString& Text)
 {
-	FJson Document;
-	try
+	const std::string Utf8(TCHAR_TO_UTF8(*Text));
+	const FJson Document = FJson::parse(Utf8, nullptr, false);
+	if (Document.is_discarded())
 	{
-		Document = FJson::parse(TCHAR_TO_UTF8(*Text));
-	}
-	catch (const FJson::parse_error& Error)
-	{
-		Complain(FString(), FString::Printf(TEXT("this is not JSON: %s"), *LayoutReader::ToString(Error.what())));
+		const FHostJsonFault Fault = HostJsonFault::Find(Utf8);
+		Complain(FString(), FString::Printf(TEXT("this is not JSON: line %d, %s"), Fault.Line, *Fault.Message));
 		return nullptr;
 	}
 	return Read(Document);
@@ -106,6 +134,11 @@ TSharedPtr<FWidgetLayout> FLayoutReader::Read(const FJson& Document)
 	{
 		Complain(FString(), TEXT("a layout is a JSON object"));
 		return nullptr;
+	}
+	CheckNameLengths(Document, FString());
+	if (Problems.Num() > 0)
+	{
+		return nullptr; // no name can be made of them, not even to look for it
 	}
 	Layout = MakeShared<FWidgetLayout>();
 	CheckKeys(Document, FString(), {"Class", "Comment", "ParentClass", "Properties", "Tree", "Objects", "Functions", "Events", "Calls"});

@@ -80,6 +80,8 @@ private:
 	//~ Complaints
 	void Complain(const FString& Pointer, const FString& Message, const FString& Remedy = FString());
 	bool CheckKeys(const FJson& Json, const FString& Pointer, std::initializer_list<const char*> Known);
+	/** Members, and texts that are names, all the way down. */
+	void CheckNameLengths(const FJson& Json, const FString& Pointer);
 	/** The string member of an object; unset when it is missing or no string, which is a problem. */
 	TOptional<FString> ReadString(const FJson& Json, const char* Key, const FString& Pointer);
 

@@ -59,6 +59,11 @@ bool FLayoutReader::ReadText(const FString& Text, FLayoutValue& OutValue)
 		FLayoutPath Path;
 		Path.bNot = Inner.RemoveFromStart(TEXT("!"));
 		Inner.ParseIntoArray(Path.Parts, TEXT("."), false);
+		if (Inner.Len() > MaxNameLength)
+		{
+			Complain(OutValue.Pointer, FString::Printf(TEXT("a name in braces has more than %d characters"), MaxNameLength), TEXT("Write {{ for a brace that is meant as such."));
+			return false;
+		}
 		if (End == INDEX_NONE || Inner.IsEmpty() || Path.Parts.ContainsByPredicate([](const FString& Part) { return Part.IsEmpty(); }))
 		{
 			Complain(OutValue.Pointer, FString::Printf(TEXT("'%s' has a brace that begins no name"), *Text), TEXT("Write {{ for a brace that is meant as such."));

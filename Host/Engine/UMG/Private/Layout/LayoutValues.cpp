@@ -230,7 +230,7 @@ namespace LayoutValues
 		{
 			return Evaluate(IsMet(Value.If, Scope) ? *Value.Then : *Value.Else, Scope, Property, Dest);
 		}
-		const auto FindWidget = [&Scope](const FString& Name) { return Scope.FindTarget(FName(*Name)); };
+		const auto FindWidget = [&Scope](const FString& Name) { return Name.Len() > MaxNameLength ? nullptr : Scope.FindTarget(FName(*Name)); };
 		FString Reason;
 		const FLayoutPath* Path = Value.GetSolePath();
 		if (!Path && Value.Kind != FLayoutValue::EKind::Result)

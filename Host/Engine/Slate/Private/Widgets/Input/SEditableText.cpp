@@ -2,6 +2,7 @@
 
 #include "Widgets/Input/SEditableText.h"
 
+#include "HostSecrets.h"
 #include "HostWidget.h"
 #include "Widgets/Input/SEditableTextBox.h"
 
@@ -13,6 +14,21 @@ void SEditableText::Construct(const FArguments& InArgs)
 	Password = InArgs._IsPassword;
 	OnTextChanged = InArgs._OnTextChanged;
 	OnTextCommitted = InArgs._OnTextCommitted;
+	NoteSecret(GetText());
+}
+
+void SEditableText::SetIsPassword(const TAttribute<bool>& InIsPassword)
+{
+	Password = InIsPassword;
+	NoteSecret(GetText());
+}
+
+void SEditableText::NoteSecret(const FText& Held) const
+{
+	if (IsTextPassword())
+	{
+		HostSecrets::Note(Held.ToString());
+	}
 }
 
 void SEditableText::SetText(const TAttribute<FText>& InText)
@@ -20,6 +36,7 @@ void SEditableText::SetText(const TAttribute<FText>& InText)
 	const FText Old = GetText();
 	Text = InText;
 	const FText New = GetText();
+	NoteSecret(New);
 	if (!New.EqualTo(Old))
 	{
 		OnTextChanged.ExecuteIfBound(New);
@@ -57,6 +74,7 @@ FHostInputResult SEditableText::TakeHostInput(const FHostInput& Input)
 	}
 	// What is typed is seen only while typing: once it is committed, the text is again what its owner says.
 	const FText Typed = FText::FromString(Input.Text);
+	NoteSecret(Typed);
 	if (!Typed.EqualTo(GetText()))
 	{
 		OnTextChanged.ExecuteIfBound(Typed);

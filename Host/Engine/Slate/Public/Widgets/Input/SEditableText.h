@@ -35,7 +35,7 @@ public:
 	FText GetHintText() const { return HintText.Get(FText::GetEmpty()); }
 	void SetIsReadOnly(const TAttribute<bool>& InIsReadOnly) { ReadOnly = InIsReadOnly; }
 	bool IsTextReadOnly() const { return ReadOnly.Get(false); }
-	void SetIsPassword(const TAttribute<bool>& InIsPassword) { Password = InIsPassword; }
+	void SetIsPassword(const TAttribute<bool>& InIsPassword);
 	bool IsTextPassword() const { return Password.Get(false); }
 
 protected:
@@ -43,6 +43,9 @@ protected:
 	virtual FHostInputResult TakeHostInput(const FHostInput& Input) override;
 
 private:
+	/** What stands in a password field is to be printed nowhere. */
+	void NoteSecret(const FText& Held) const;
+
 	TAttribute<FText> Text;
 	TAttribute<FText> HintText;
 	TAttribute<bool> ReadOnly;

@@ -1,0 +1,21 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include "CoreTypes.h"
+#include "Containers/UnrealString.h"
+
+#include <string_view>
+
+/** Why a text that a parser refused is no JSON. */
+struct FHostJsonFault
+{
+	int32 Line = 1; // one-based
+	FString Message; // half a sentence with the column. Never the text that stands there: it may be secret
+};
+
+namespace HostJsonFault
+{
+	/** Text is UTF-8. For a text that is JSON after all, the message says nothing. */
+	FHostJsonFault Find(std::string_view Text);
+}
