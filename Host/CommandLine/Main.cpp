@@ -3,9 +3,8 @@
 #include "Arguments.h"
 #include "Check/CheckCommand.h"
 #include "Console.h"
-#include "Containers/StringConv.h"
-#include "HostAssertions.h"
 #include "HostLocale.h"
+#include "ProgramFault.h"
 #include "Run/RunCommand.h"
 
 #include <exception>
@@ -23,13 +22,9 @@ namespace VelmorantMain
 		{
 			return Run(Arguments);
 		}
-		catch (const FHostAssertionFailure& Failure)
+		catch (const std::exception& Fault) // of the editor, or memory that ran out
 		{
-			Console::PrintError(FString(TEXT("velmorant: the editor could not go on: ")) + UTF8_TO_TCHAR(Failure.what()));
-		}
-		catch (const std::exception& Error)
-		{
-			Console::PrintError(FString(TEXT("velmorant: ")) + UTF8_TO_TCHAR(Error.what()));
+			Console::PrintError(FString(TEXT("velmorant: ")) + ProgramFault::Describe(Fault));
 		}
 		return EExitStatus::Trouble;
 	}

@@ -3,8 +3,8 @@
 #include "Run/ScriptRunner.h"
 
 #include "Console.h"
-#include "Containers/StringConv.h"
 #include "HostAssertions.h"
+#include "ProgramFault.h"
 #include "Run/ScriptContext.h"
 #include "Run/ScriptSecrets.h"
 
@@ -79,7 +79,7 @@ namespace ScriptRunner
 			}
 			catch (const FHostAssertionFailure& Failure)
 			{
-				return FStepResult::Error(FString(TEXT("the editor could not go on: ")) + UTF8_TO_TCHAR(Failure.what()));
+				return FStepResult::Error(ProgramFault::Describe(Failure));
 			}
 		}
 	}
