@@ -60,7 +60,7 @@ TEST_F(ServiceData, ThatCannotBeUsedIsRefusedWithItsPlaceAndReason)
 		{"no JSON", "{\n\t\"users\": [\n}", "line 3: this is not JSON: "},
 		{"an empty file", "", "line 1: this is not JSON: "},
 		{"bytes that are no UTF-8", "{\n\"users\": \"\xC3\x28\"}", "line 2: this is not JSON: "},
-		{"a number beyond all bounds", "{\"delaySeconds\": 1e400}", "this is not JSON: "},
+		{"a number beyond all bounds", "{\"delaySeconds\": 1e400}", "line 1: this is not JSON: the number in column 18 is out of range. "},
 		{"another kind of document", "[]", "the document: must be an object"},
 		{"a misspelt member", R"({"user": []})", "/user: is not known here; is it misspelt?"},
 		{"a misspelt member deep within", WithGroup(R"("name": "G", "product": [])"), "/projects/0/configurators/0/rooms/0/groups/0/product: is not known here; is it misspelt?"},
@@ -101,7 +101,7 @@ TEST_F(ServiceData, ThatIsNotThereIsRefused)
 	StartEditor();
 	std::filesystem::remove(Folder.GetNative("Project/Service.json"));
 	GetUser()->RequestUserLogin(FVelmorantUserInformation(false, TEXT("ada"), TEXT("sesame-77")));
-	EXPECT_THAT(TakeSdkLog(), testing::Contains("Error: " + ToUtf8(Folder.Get("Project/Service.json")) + ": the file cannot be read"));
+	EXPECT_THAT(TakeSdkLog(), testing::Contains("Error: " + ToUtf8(Folder.Get("Project/Service.json")) + ": the file cannot be read. Have this mended, or name another data file, then try again."));
 }
 
 TEST_F(ServiceData, NeedsNothingButAnObject)
