@@ -2,6 +2,7 @@
 
 #include "ObjectSystemTest.h"
 #include "TestWall.h"
+#include "UObject/StrongObjectPtr.h"
 #include "UObject/UObjectHash.h"
 
 namespace
@@ -88,10 +89,10 @@ namespace
 
 	TEST_F(ObjectNames, NumbersOfSeveralClassesGoOnSideBySideAndBeginAnewInANewOuter)
 	{
-		UPackage* Package = CreatePackage(TEXT("/Game/A"));
+		const TStrongObjectPtr<UPackage> Package(CreatePackage(TEXT("/Game/A")));
 		for (int32 Round = 0; Round < 3; ++Round)
 		{
-			UTestWall* Outer = NewObject<UTestWall>(Package); // from the second round on in the place of one that is gone
+			UTestWall* Outer = NewObject<UTestWall>(Package.Get()); // from the second round on in the place of one that is gone
 			for (const char* Number : {"_0", "_1", "_2"})
 			{
 				EXPECT_EQ(Utf8(NewObject<UTestWall>(Outer)->GetName()), std::string("TestWall") + Number);
