@@ -106,6 +106,17 @@ void FEditorHost::BringUpEngine(const FEditorHostOptions& Options)
 	if (Options.bWriteOverlay)
 	{
 		HostFiles::BeginOverlay();
+		for (const HostFiles::FPendingWrite& Pending : Options.OverlayWrites)
+		{
+			if (Pending.bDeleted)
+			{
+				HostFiles::Delete(Pending.Path);
+			}
+			else
+			{
+				HostFiles::Write(Pending.Path, Pending.Bytes);
+			}
+		}
 	}
 
 	FCommandLine::Set(*Options.CommandLine);
