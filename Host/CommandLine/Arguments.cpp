@@ -68,7 +68,7 @@ namespace Arguments
 		CLI::App* const Check = App.add_subcommand("check", "Look for the unit volumes' collision profile in a project's configuration");
 		Check->add_option("PROJECT", Raw.Project, "A .uproject file, or the folder that holds one")->required();
 		Check->add_flag("--diff", Raw.bDiff, "Print the lines that --repair would add, or that it added or --undo took back, as a unified difference");
-		CLI::Option* const Repair = Check->add_flag("--repair", Raw.bRepair, "Add what is missing");
+		CLI::Option* const Repair = Check->add_flag("--repair", Raw.bRepair, "Add what is missing, and the engine's current profiles where there is no collision section");
 		CLI::Option* const Undo = Check->add_flag("--undo", Raw.bUndo, "Take back what the last --repair added");
 		Check->add_flag("--json", Raw.bJson, "Report as one JSON object");
 		AddEditor(*Check, Raw);
@@ -77,7 +77,7 @@ namespace Arguments
 		{
 			Repair->excludes(NothingToPress);
 		}
-		Check->footer("Nothing on disk changes without --repair or --undo.\nEnds with 0 when the profile is there or was added, or the repair was taken back, 1 when it is\nmissing or the lines of the repair are not as they were, 2 for bad usage, no such project or no\nrepair to take back, 3 when a file could not be read or written, or the output not be written.");
+		Check->footer("Nothing on disk changes without --repair or --undo, and nothing by a repair that would not help.\nEnds with 0 when the profile is there or was added, or the repair was taken back, 1 when it is\nmissing or the lines of the repair are not as they were, 2 for bad usage, no such project or no\nrepair to take back, 3 when a file could not be read or written, or the output not be written.");
 		return Check;
 	}
 

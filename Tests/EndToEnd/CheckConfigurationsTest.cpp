@@ -3,6 +3,8 @@
 #include "CollisionIni.h"
 #include "ProjectOnDisk.h"
 
+#include <nlohmann/json.hpp>
+
 using namespace CollisionIni;
 
 class FCheckConfigurations : public FProjectOnDisk
@@ -86,28 +88,112 @@ TEST_F(FCheckConfigurations, TheVerdictIsTheToolkits)
 	}
 }
 
-TEST_F(FCheckConfigurations, AProjectWithoutTheSectionGetsItFirst)
+TEST_F(FCheckConfigurations, AProjectWithoutTheSectionGetsTheEnginesProfilesFirst)
 {
+	const std::string Told = " With them come the engine's current profiles (19 lines), which a project without a collision section gets first.\n";
+	const std::string Engine = "  the engine's current profiles:\n    [/Script/Engine.CollisionProfile]\n    +Profiles=(Name=\"NoCollision\",";
 	for (const bool bFile : {true, false})
 	{
 		SCOPED_TRACE(bFile ? "a file without the section" : "no file");
-		std::filesystem::remove(Folder.GetNative(IniFile));
-		if (bFile)
-		{
-			WriteIni("[Other]\nKey=1\n");
-		}
+		const std::string Own = bFile ? "[Other]\nKey=1\n" : "";
+		const auto Restore = [&] {
+			std::filesystem::remove(Folder.GetNative(IniFile));
+			if (bFile)
+			{
+				WriteIni(Own);
+			}
+		};
+		Restore();
 		const FFolderState Before = LookAtFolder(Folder.GetNative("Project"));
 		const FProgramResult Looked = Check();
 		EXPECT_EQ(Looked.ExitStatus, 1) << Looked.Errors;
-		EXPECT_NE(Looked.Output.find("Would have written " + Folder.GetNative(IniFile).string()), std::string::npos) << Looked.Output;
-		EXPECT_EQ(CountOf(Looked.Output, "  [/Script/Engine.CollisionProfile]"), 1u) << Looked.Output;
+		EXPECT_NE(Looked.Output.find("Would have written " + Folder.GetNative(IniFile).string() + "\n" + (bFile ? "" : Engine)), std::string::npos) << Looked.Output;
+		EXPECT_TRUE(Looked.Output.ends_with(" --repair adds them." + Told)) << Looked.Output;
+		const nlohmann::json Foretold = nlohmann::json::parse(Check({"--json"}).Output, nullptr, false);
 		EXPECT_EQ(LookAtFolder(Folder.GetNative("Project")), Before);
 
 		const FProgramResult Repaired = Check({"--repair"});
 		EXPECT_EQ(Repaired.ExitStatus, 0) << Repaired.Output << Repaired.Errors;
-		EXPECT_EQ(CountOf(ReadIni(), ProfileLine + ChannelLine), 1u) << ReadIni();
-		EXPECT_EQ(ReadIni().rfind(bFile ? "[Other]\nKey=1\n" : "", 0), 0u);
+		EXPECT_NE(Repaired.Output.find("\n  the toolkit's lines:\n    " + ProfileLine + "    " + ChannelLine), std::string::npos) << Repaired.Output;
+		EXPECT_TRUE(Repaired.Output.ends_with(" have been added." + Told)) << Repaired.Output;
+		const std::string Ini = ReadIni();
+		EXPECT_EQ(CountOf(Ini, ProfileLine + ChannelLine), 1u) << Ini;
+		EXPECT_EQ(CountOf(Ini, ",HelpMessage=\"\")\n"), 18u) << "no words of the host's own come into the project";
+		EXPECT_EQ(Ini.rfind(Own, 0), 0u);
 		EXPECT_EQ(Check().ExitStatus, 0);
+
+		Restore();
+		const nlohmann::json Report = nlohmann::json::parse(Check({"--repair", "--json"}).Output, nullptr, false);
+		ASSERT_TRUE(Foretold.is_object() && Report.is_object());
+		ASSERT_EQ(Report["writtenFiles"].size(), 1u);
+		const nlohmann::json& Written = Report["writtenFiles"][0];
+		EXPECT_EQ(Foretold["repairWrites"], Report["writtenFiles"]) << "what was foretold is done";
+		EXPECT_EQ(Foretold["pendingWrites"][0]["engineLines"], Written["engineLines"]);
+		EXPECT_TRUE(Foretold["pendingWrites"][0]["toolkitLines"].empty());
+		EXPECT_EQ(Written["toolkitLines"].size(), 2u);
+		EXPECT_EQ(Written["addedLines"].size(), Written["engineLines"].size() + 2);
+	}
+}
+
+TEST_F(FCheckConfigurations, ARepairThatDoesNotHelpIsForetoldAndWritesNothing)
+{
+	const std::string Ini = Folder.GetNative(IniFile).string();
+	const std::string Rule = "the toolkit adds its lines behind the last line that begins with +Profiles=";
+	const std::string None = Rule + ", and Config/DefaultEngine.ini has none";
+	const std::string Layer = Folder.GetNative("Project/Config/Linux/LinuxEngine.ini").string();
+	const struct
+	{
+		const char* Behaviour;
+		std::string Ini;
+		std::string Layer; // this machine's platform
+		std::string Reason;
+		std::string ByHand;
+		std::string Spoiler; // "path(line)"
+	} Cases[] = {
+		{"no profile line", Section + "Key=1\n", "", None, ProfileLine + ChannelLine, ""},
+		{"no profile line, but the channel", Section + "Key=1\n" + ChannelLine, "", None, ProfileLine, ""},
+		{"the profile in another form", Section + "Profiles=(Name=\"UnitVolume\")\n", "", None, ChannelLine, ""},
+		{"profiles in another section", Section + "Key=1\n[/Script/Other]\nA=1\n" + OtherProfile, "", Rule + ", which is " + Ini + "(5), in another section, [/Script/Other]", ProfileLine + ChannelLine, ""},
+		{"both lines in another section", Section + "Key=1\n[/Script/Other]\n" + ProfileLine + ChannelLine, "", Rule + ", which is " + Ini + "(4), in another section, [/Script/Other]", ProfileLine + ChannelLine, ""},
+		{"a profile before the first section", OtherProfile + Section + "Key=1\n", "", Rule + ", which is " + Ini + "(1), in no section", ProfileLine + ChannelLine, ""},
+		{"profiles that are cleared below", Section + OtherProfile + "; note\n!Profiles=ClearArray\n", "", "line 4 of " + Ini + " has to go first", "", Ini + "(4)"},
+		{"profiles that a layer clears", Section + OtherProfile, Section + "!Profiles=ClearArray\n", "line 2 of " + Layer + " has to go first", "", Layer + "(2)"},
+		{"both lines, but a layer clears them", Section + ProfileLine + ChannelLine, Section + "!Profiles=ClearArray\n", "line 2 of " + Layer + " has to go first", "", Layer + "(2)"},
+	};
+	for (const auto& Case : Cases)
+	{
+		SCOPED_TRACE(Case.Behaviour);
+		WriteIni(Case.Ini);
+		Folder.Write("Project/Config/Linux/LinuxEngine.ini", Case.Layer);
+		const FFolderState Before = LookAtFolder(Folder.GetNative("Project"));
+		const std::string Tail = Case.Reason + ".\n" + (Case.ByHand.empty() ? "" : "Add to the section [/Script/Engine.CollisionProfile] of Config/DefaultEngine.ini by hand:\n" + Case.ByHand);
+		const FProgramResult Looked = Check({"--diff"});
+		EXPECT_EQ(Looked.ExitStatus, 1) << Looked.Errors;
+		EXPECT_TRUE(Looked.Output.ends_with(" is not there. --repair cannot help: " + Tail)) << Looked.Output;
+		EXPECT_EQ(Looked.Output.find("@@"), std::string::npos) << Looked.Output;
+		EXPECT_EQ(CountOf(Looked.Output, Case.Spoiler + ": takes the UnitVolume profile away: !Profiles=ClearArray\n"), Case.Spoiler.empty() ? 0u : 1u) << Looked.Output;
+
+		for (const int Round : {1, 2})
+		{
+			SCOPED_TRACE(Round);
+			const FProgramResult Repaired = Check({"--repair"});
+			EXPECT_EQ(Repaired.ExitStatus, 1) << Repaired.Errors;
+			EXPECT_TRUE(Repaired.Output.ends_with("Still missing, nothing was written. The repair would not help: " + Tail)) << Repaired.Output;
+			EXPECT_EQ(Repaired.Output.find("Profiles Added"), std::string::npos) << Repaired.Output;
+		}
+		const nlohmann::json Report = nlohmann::json::parse(Check({"--repair", "--json"}).Output, nullptr, false);
+		ASSERT_TRUE(Report.is_object());
+		EXPECT_EQ(Report["reason"], Case.Reason);
+		EXPECT_EQ(Report["linesToAdd"].size(), CountOf(Case.ByHand, "\n"));
+		EXPECT_TRUE(Report["writtenFiles"].empty() && Report["diff"] == "") << Report;
+		EXPECT_EQ(LookAtFolder(Folder.GetNative("Project")), Before);
+		EXPECT_EQ(Check({"--undo"}).ExitStatus, 2) << "there is nothing to take back";
+
+		// What is advised helps.
+		std::filesystem::remove(Layer);
+		WriteIni(CollisionIni::Replace(CollisionIni::Replace(Case.Ini, "!Profiles=ClearArray\n", ""), Section, Section + Case.ByHand));
+		EXPECT_EQ(Check({"--repair"}).ExitStatus, 0);
+		EXPECT_EQ(Check({"--undo"}).ExitStatus, Case.ByHand.empty() && Case.Ini.find(ProfileLine) == std::string::npos ? 0 : 2) << "lines that were added by hand need no repair";
 	}
 }
 

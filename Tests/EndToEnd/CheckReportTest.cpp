@@ -44,7 +44,6 @@ protected:
 		return testing::internal::GetCapturedStdout();
 	}
 
-	static inline const FSpoiler Profile{TEXT("profile"), TEXT("/P/A.ini"), 3, TEXT("!Profiles=ClearArray")};
 	static inline const FSpoiler Channel{TEXT("channel"), TEXT("/P/B.ini"), 12, TEXT("!D=Cl\u00E9ar")};
 
 	static inline const std::string Loaded = "LogVelmorantProEditor: Warning: VelmorantProEditor module has been loaded";
@@ -56,9 +55,11 @@ protected:
 
 TEST_F(FCheckReports, EachVerdictHasItsStatusWordAndSentence)
 {
-	const char* const Help = " --repair adds them.";
-	const std::string Missing = "Missing: the UnitVolume channel or profile is not there.";
-	const std::string TakenAway = "Missing: the configuration brings the UnitVolume profile and takes it away again. Remove the line above; --repair cannot help.";
+	const std::string Missing = "Missing: the UnitVolume channel or profile is not there. --repair ";
+	const std::string Engine = " With them come the engine's current profiles (3 lines), which a project without a collision section gets first.";
+	const FString Reason = TEXT("a line is gone");
+	const FHostProblem Problem{TEXT("/P/d"), 0, TEXT("read-only"), TEXT("")};
+	const FFileChange FromEngine{TEXT("/P/c"), false, {}, {}, {TEXT("1"), TEXT("2"), TEXT("3")}, {}};
 	const std::string But = " But remove the line above: the toolkit looks for the channel in DefaultEngine.ini only.";
 	const std::string Sound = "Sound: the UnitVolume channel and profile are there.";
 	const std::string Repaired = "Repaired: the UnitVolume channel and profile were missing and have been added.";
@@ -66,23 +67,26 @@ TEST_F(FCheckReports, EachVerdictHasItsStatusWordAndSentence)
 	{
 		ECheckStatus Status;
 		TArray<FSpoiler> SpoiledBy;
+		TArray<FFileChange> RepairWrites;
+		TArray<FFileChange> WrittenFiles;
+		FString Reason;
+		TArray<FHostProblem> Problems;
 		EExitStatus ExitStatus;
 		const char* Word;
 		std::string Sentence;
 	} Cases[] = {
-		{ECheckStatus::Sound, {}, EExitStatus::Done, "sound", Sound},
-		{ECheckStatus::Sound, {Channel}, EExitStatus::Done, "sound", Sound + But},
-		{ECheckStatus::Repaired, {}, EExitStatus::Done, "repaired", Repaired},
-		{ECheckStatus::Repaired, {Channel}, EExitStatus::Done, "repaired", Repaired + But},
-		{ECheckStatus::Missing, {}, EExitStatus::Failed, "missing", Missing + Help},
-		{ECheckStatus::Missing, {Channel}, EExitStatus::Failed, "missing", Missing + Help},
-		{ECheckStatus::Missing, {Channel, Profile}, EExitStatus::Failed, "missing", TakenAway},
-		{ECheckStatus::StillMissing, {}, EExitStatus::Failed, "stillMissing", "Still missing: the repair did not help."},
-		{ECheckStatus::StillMissing, {Profile}, EExitStatus::Failed, "stillMissing", TakenAway},
-		{ECheckStatus::Undone, {}, EExitStatus::Done, "undone", "Undone: what the last repair added is gone again."},
-		{ECheckStatus::NotUndone, {}, EExitStatus::Failed, "notUndone", "Not undone, nothing was changed: a line is gone."},
-		{ECheckStatus::Trouble, {}, EExitStatus::Trouble, "trouble", "No verdict."},
-		{ECheckStatus::Trouble, {Profile}, EExitStatus::Trouble, "trouble", "No verdict."},
+		{ECheckStatus::Sound, {}, {}, {}, {}, {}, EExitStatus::Done, "sound", Sound},
+		{ECheckStatus::Sound, {Channel}, {}, {}, {}, {}, EExitStatus::Done, "sound", Sound + But},
+		{ECheckStatus::Repaired, {}, {}, {}, {}, {}, EExitStatus::Done, "repaired", Repaired},
+		{ECheckStatus::Repaired, {Channel}, {}, {FromEngine}, {}, {}, EExitStatus::Done, "repaired", Repaired + Engine + But},
+		{ECheckStatus::Missing, {}, {}, {}, {}, {}, EExitStatus::Failed, "missing", Missing + "adds them."},
+		{ECheckStatus::Missing, {Channel}, {FromEngine}, {}, {}, {}, EExitStatus::Failed, "missing", Missing + "adds them." + Engine},
+		{ECheckStatus::Missing, {}, {}, {}, Reason, {}, EExitStatus::Failed, "missing", Missing + "cannot help: a line is gone."},
+		{ECheckStatus::Missing, {}, {}, {}, {}, {Problem}, EExitStatus::Failed, "missing", Missing + "cannot add them until what the error output tells is put right."},
+		{ECheckStatus::StillMissing, {}, {}, {}, Reason, {}, EExitStatus::Failed, "stillMissing", "Still missing, nothing was written. The repair would not help: a line is gone."},
+		{ECheckStatus::Undone, {}, {}, {}, {}, {}, EExitStatus::Done, "undone", "Undone: what the last repair added is gone again."},
+		{ECheckStatus::NotUndone, {}, {}, {}, Reason, {}, EExitStatus::Failed, "notUndone", "Not undone, nothing was changed: a line is gone."},
+		{ECheckStatus::Trouble, {Channel}, {}, {}, {}, {}, EExitStatus::Trouble, "trouble", "No verdict."},
 	};
 	for (const auto& Case : Cases)
 	{
@@ -90,7 +94,10 @@ TEST_F(FCheckReports, EachVerdictHasItsStatusWordAndSentence)
 		FCheckReport Report;
 		Report.Status = Case.Status;
 		Report.SpoiledBy = Case.SpoiledBy;
-		Report.Reason = TEXT("a line is gone");
+		Report.RepairWrites = Case.RepairWrites;
+		Report.WrittenFiles = Case.WrittenFiles;
+		Report.Reason = Case.Reason;
+		Report.Problems = Case.Problems;
 		EXPECT_EQ(CheckReport::GetExitStatus(Case.Status), Case.ExitStatus);
 		EXPECT_TRUE(PrintText(Report).ends_with("\n" + Case.Sentence + "\n")) << PrintText(Report);
 		const FJson Json = FJson::parse(PrintJson(Report), nullptr, false);
@@ -106,8 +113,9 @@ TEST_F(FCheckReports, EveryPartHasItsLinesAndMembers)
 	Report.Project = TEXT("/P/Test.uproject");
 	Report.Messages = {TEXT("one\ntwo\nthree"), TEXT("four")};
 	Report.SpoiledBy = {Channel};
-	Report.PendingWrites = {{TEXT("/P/a"), false, {TEXT("+a")}, {}}, {TEXT("/P/b"), true, {}, {TEXT("-b"), TEXT("-c")}}};
-	Report.WrittenFiles = {{TEXT("/P/c"), false, {TEXT("\u20AC"), TEXT("")}, {TEXT("out")}}};
+	Report.PendingWrites = {{TEXT("/P/a"), false, {TEXT("+a")}, {}, {TEXT("+a")}, {}}, {TEXT("/P/b"), true, {}, {TEXT("-b"), TEXT("-c")}, {}, {}}};
+	Report.RepairWrites = {{TEXT("/P/e"), false, {TEXT("+e")}, {}, {}, {TEXT("+e")}}};
+	Report.WrittenFiles = {{TEXT("/P/c"), false, {TEXT("\u20AC"), TEXT("")}, {TEXT("out")}, {}, {}}, {TEXT("/P/f"), false, {TEXT("+f"), TEXT("+g")}, {}, {TEXT("+f")}, {TEXT("+g")}}};
 	Report.Difference = "--- c\n+++ c\n";
 	Report.LinesToAdd = {TEXT("+1"), TEXT("+2")};
 	Report.Reason = TEXT("because");
@@ -115,11 +123,15 @@ TEST_F(FCheckReports, EveryPartHasItsLinesAndMembers)
 
 	const std::string Head = "/P/Test.uproject\n  one two three\n  four\n";
 	const std::string Tail = "/P/B.ini(12): takes the UnitVolume channel away: !D=Cl\xC3\xA9"
-							 "ar\nStill missing: the repair did not help.\n"
-							 "Add these lines to the section [/Script/Engine.CollisionProfile] of Config/DefaultEngine.ini by hand:\n+1\n+2\n";
-	EXPECT_EQ(PrintText(Report), Head + "Would have written /P/a\n  +a\nWould have written /P/b (deleted)\n  taken out: -b\n  taken out: -c\nWritten /P/c\n  \xE2\x82\xAC\n  \n  taken out: out\n" + Tail);
-	EXPECT_EQ(PrintText(Report, CheckReport::EChanges::Difference), Head + "Would have written /P/a\nWould have written /P/b (deleted)\nWritten /P/c\n--- c\n+++ c\n" + Tail);
+							 "ar\nStill missing, nothing was written. The repair would not help: because.\n"
+							 "Add to the section [/Script/Engine.CollisionProfile] of Config/DefaultEngine.ini by hand:\n+1\n+2\n";
+	EXPECT_EQ(PrintText(Report), Head + "Would have written /P/a\n  the engine's current profiles:\n    +a\nWould have written /P/b (deleted)\n  taken out: -b\n  taken out: -c\nWritten /P/c\n  \xE2\x82\xAC\n  \n  taken out: out\nWritten /P/f\n  the engine's current profiles:\n    +f\n  the toolkit's lines:\n    +g\n" + Tail);
+	EXPECT_EQ(PrintText(Report, CheckReport::EChanges::Difference), Head + "Would have written /P/a\nWould have written /P/b (deleted)\nWritten /P/c\nWritten /P/f\n--- c\n+++ c\n" + Tail);
 
+	using FLines = std::vector<std::string>;
+	const auto Change = [](const char* Path, const FLines& In, const FLines& Out, const FLines& Engine, const FLines& Toolkit) {
+		return FJson{{"path", Path}, {"deleted", In.empty()}, {"addedLines", In}, {"removedLines", Out}, {"engineLines", Engine}, {"toolkitLines", Toolkit}};
+	};
 	const FJson Expected = {
 		{"status", 1},
 		{"verdict", "stillMissing"},
@@ -127,8 +139,9 @@ TEST_F(FCheckReports, EveryPartHasItsLinesAndMembers)
 		{"messages", {"one\ntwo\nthree", "four"}},
 		{"spoiledBy", FJson::array({{{"what", "channel"}, {"file", "/P/B.ini"}, {"line", 12}, {"text", "!D=Cl\xC3\xA9"
 																									   "ar"}}})},
-		{"pendingWrites", FJson::array({{{"path", "/P/a"}, {"deleted", false}, {"addedLines", {"+a"}}, {"removedLines", FJson::array()}}, {{"path", "/P/b"}, {"deleted", true}, {"addedLines", FJson::array()}, {"removedLines", {"-b", "-c"}}}})},
-		{"writtenFiles", FJson::array({{{"path", "/P/c"}, {"deleted", false}, {"addedLines", {"\xE2\x82\xAC", ""}}, {"removedLines", {"out"}}}})},
+		{"pendingWrites", FJson::array({Change("/P/a", {"+a"}, {}, {"+a"}, {}), Change("/P/b", {}, {"-b", "-c"}, {}, {})})},
+		{"repairWrites", FJson::array({Change("/P/e", {"+e"}, {}, {}, {"+e"})})},
+		{"writtenFiles", FJson::array({Change("/P/c", {"\xE2\x82\xAC", ""}, {"out"}, {}, {}), Change("/P/f", {"+f", "+g"}, {}, {"+f"}, {"+g"})})},
 		{"diff", "--- c\n+++ c\n"},
 		{"problems", FJson::array({{{"file", "/P/d"}, {"line", 7}, {"message", "broken"}, {"remedy", "Mend it."}}, {{"file", ""}, {"line", 0}, {"message", "odd"}}})},
 		{"linesToAdd", {"+1", "+2"}},
@@ -142,7 +155,6 @@ TEST_F(FCheckReports, TheProgramFillsThemIn)
 	const std::string Ini = Folder.GetNative(IniFile).string();
 	const std::string Project = GetProject() + "/Test.uproject";
 	const std::string Lines = "  " + ProfileLine + "  " + ChannelLine;
-	const std::string Hand = "Still missing: the repair did not help.\nAdd these lines to the section [/Script/Engine.CollisionProfile] of Config/DefaultEngine.ini by hand:\n" + ProfileLine + ChannelLine;
 	const std::string Usual = Section + OtherProfile;
 	const auto WithMessages = [&Project](std::initializer_list<std::string> Messages) {
 		std::string Text = Project + "\n";
@@ -159,15 +171,12 @@ TEST_F(FCheckReports, TheProgramFillsThemIn)
 		std::vector<std::string> Options;
 		std::string Text;
 		std::string After;
-		size_t NumLinesToAdd;
 	} Cases[] = {
-		{"missing", Usual, {}, WithMessages({Loaded, Asked}) + "Missing: the UnitVolume channel or profile is not there. --repair adds them.\n", Usual, 0},
-		{"repaired", Usual, {"--repair"}, WithMessages({Loaded, Asked, Added, Restart, Loaded, Checked}) + "Written " + Ini + "\n" + Lines + "Repaired: the UnitVolume channel and profile were missing and have been added.\n", Usual + ProfileLine + ChannelLine, 0},
-		{"sound", Usual + ProfileLine + ChannelLine, {"--repair"}, WithMessages({Loaded, Checked}) + "Sound: the UnitVolume channel and profile are there.\n", Usual + ProfileLine + ChannelLine, 0},
-		{"to be done by hand", Section + "Key=1\n", {"--repair"}, WithMessages({Loaded, Asked, Added, Restart, Loaded, Asked}) + Hand, Section + "Key=1\n", 2},
-		{"by hand, beside a line that is there", Section + "Key=1\n" + ChannelLine, {"--repair"}, WithMessages({Loaded, Asked, Added, Restart, Loaded, Asked}) + Hand, Section + "Key=1\n" + ChannelLine, 2},
-		{"letters of every length stay", "; \xE2\x82\xAC \xF0\x9F\x8F\xA0 \xC3\xBC\n" + Usual + "; \xE2\x82\xAC\n", {"--repair"}, WithMessages({Loaded, Asked, Added, Restart, Loaded, Checked}) + "Written " + Ini + "\n" + Lines + "Repaired: the UnitVolume channel and profile were missing and have been added.\n", "; \xE2\x82\xAC \xF0\x9F\x8F\xA0 \xC3\xBC\n" + Usual + ProfileLine + ChannelLine + "; \xE2\x82\xAC\n", 0},
-		{"a second copy of the channel", Usual + ChannelLine, {"--repair"}, WithMessages({Loaded, Asked, Added, Restart, Loaded, Checked}) + "Written " + Ini + "\n" + Lines + "Repaired: the UnitVolume channel and profile were missing and have been added.\n", Usual + ProfileLine + ChannelLine + ChannelLine, 0},
+		{"missing", Usual, {}, WithMessages({Loaded, Asked}) + "Missing: the UnitVolume channel or profile is not there. --repair adds them.\n", Usual},
+		{"repaired", Usual, {"--repair"}, WithMessages({Loaded, Asked, Added, Restart, Loaded, Checked}) + "Written " + Ini + "\n" + Lines + "Repaired: the UnitVolume channel and profile were missing and have been added.\n", Usual + ProfileLine + ChannelLine},
+		{"sound", Usual + ProfileLine + ChannelLine, {"--repair"}, WithMessages({Loaded, Checked}) + "Sound: the UnitVolume channel and profile are there.\n", Usual + ProfileLine + ChannelLine},
+		{"letters of every length stay", "; \xE2\x82\xAC \xF0\x9F\x8F\xA0 \xC3\xBC\n" + Usual + "; \xE2\x82\xAC\n", {"--repair"}, WithMessages({Loaded, Asked, Added, Restart, Loaded, Checked}) + "Written " + Ini + "\n" + Lines + "Repaired: the UnitVolume channel and profile were missing and have been added.\n", "; \xE2\x82\xAC \xF0\x9F\x8F\xA0 \xC3\xBC\n" + Usual + ProfileLine + ChannelLine + "; \xE2\x82\xAC\n"},
+		{"a second copy of the channel", Usual + ChannelLine, {"--repair"}, WithMessages({Loaded, Asked, Added, Restart, Loaded, Checked}) + "Written " + Ini + "\n" + Lines + "Repaired: the UnitVolume channel and profile were missing and have been added.\n", Usual + ProfileLine + ChannelLine + ChannelLine},
 	};
 	for (const auto& Case : Cases)
 	{
@@ -182,7 +191,7 @@ TEST_F(FCheckReports, TheProgramFillsThemIn)
 		const FJson Report = FJson::parse(Check(Options).Output, nullptr, false);
 		ASSERT_TRUE(Report.is_object());
 		EXPECT_EQ(Report["project"], Project);
-		EXPECT_EQ(Report["linesToAdd"].size(), Case.NumLinesToAdd);
+		EXPECT_TRUE(Report["linesToAdd"].empty());
 		EXPECT_EQ(Report["writtenFiles"].size(), Case.After == Case.Before ? 0u : 1u);
 		EXPECT_EQ(Report["diff"].get<std::string>().empty(), Case.After == Case.Before && *Case.Behaviour != 'm');
 	}

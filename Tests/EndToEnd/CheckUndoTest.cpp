@@ -138,15 +138,6 @@ TEST_F(FCheckUndo, IsAboutTheLastRepairOfThisProject)
 	EXPECT_EQ(Folder.Read("Second/Config/DefaultEngine.ini"), "; second\n" + Usual);
 }
 
-TEST_F(FCheckUndo, ARepairThatDidNotHelpCanBeTakenBack)
-{
-	Folder.Write("Project/Config/Linux/LinuxEngine.ini", Section + "!Profiles=ClearArray\n");
-	WriteIni(Usual);
-	EXPECT_EQ(Check({"--repair"}).ExitStatus, 1);
-	EXPECT_EQ(Check({"--undo"}).ExitStatus, 0);
-	EXPECT_EQ(ReadIni(), Usual);
-}
-
 TEST_F(FCheckUndo, NeedsARecord)
 {
 	WriteIni(Section + OtherProfile + ProfileLine + ChannelLine);

@@ -51,6 +51,7 @@ namespace
 
 	[[noreturn]] void Execute(const std::vector<std::string>& Arguments, const FProgramRun::FEnvironment& Environment)
 	{
+		setenv("VELMORANT_NO_KEYRING", "1", 1); // tests leave the desktop's real secret store alone
 		for (const auto& [Name, Value] : Environment)
 		{
 			setenv(Name.c_str(), Value.c_str(), 1);

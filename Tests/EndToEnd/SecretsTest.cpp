@@ -1,6 +1,11 @@
 // Copyright Velmorant. All Rights Reserved.
 
+#include "FakeSecretStore.h"
 #include "ProjectOnDisk.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
 
 /** Passwords: where they come from, and that nothing repeats them. */
 class FSecrets : public FProjectOnDisk
@@ -92,4 +97,60 @@ TEST_F(FSecrets, PasswordsAreAskedForOnATerminalWithoutEcho)
 	const FProgramResult Result = FProgramRun::RunOnTerminal({"run", GetProject(), GetScript()}, GetEnvironment(), "HARBOR_PASSWORD: ", "harbor-2026");
 	EXPECT_EQ(Result.ExitStatus, 0) << Result.Output;
 	ExpectHidden(Result, "harbor-2026");
+}
+
+TEST_F(FSecrets, RememberedUsersAreKeptInTheDesktopsSecretStore)
+{
+	const FFakeSecretStore Store(Folder);
+	const FProgramRun::FEnvironment Desktop = {{"PATH", Store.GetPath()}, {"VELMORANT_NO_KEYRING", ""}, {"HARBOR_PASSWORD", "harbor-2026"}};
+	const std::string SignIn = Open + "type Login UserName lucia\ntype Login UserPassword env:HARBOR_PASSWORD\n";
+	const std::string Click = "click Login SummitButton\nwait 1\nexpect widget Login LoginStatus value \"Signed in as lucia\"\n";
+	const std::string File = "UserConfig/velmorant/VelmorantUser.json";
+
+	ExpectHidden(RunWith(SignIn + "check Login RememberUserCheckBox\n" + Click, Desktop), "harbor-2026");
+	EXPECT_NE(Store.GetKept().find("harbor-2026"), std::string::npos);
+	EXPECT_EQ(Store.GetCalls().find("harbor-2026"), std::string::npos) << "on a command line everybody can read it";
+	EXPECT_EQ(Folder.Read(File), R"({"inSecretStore":true})");
+
+	const FProgramResult Again = RunWith(Open + Click, Desktop);
+	EXPECT_EQ(Again.ExitStatus, 0) << "remembered: " << Again.Output << Again.Errors;
+	const FProgramResult Forgotten = RunWith(Open + "uncheck Login RememberUserCheckBox\n" + Click, Desktop);
+	EXPECT_EQ(Forgotten.ExitStatus, 0) << Forgotten.Output << Forgotten.Errors;
+	EXPECT_FALSE(Store.HasKept());
+	EXPECT_FALSE(Folder.Exists(File));
+
+	const std::string Calls = Store.GetCalls();
+	const FProgramResult OnServer = RunWith(SignIn + "check Login RememberUserCheckBox\n" + Click, {{"PATH", Store.GetPath()}, {"HARBOR_PASSWORD", "harbor-2026"}});
+	EXPECT_NE(OnServer.Output.find("not in the desktop's secret store: VELMORANT_NO_KEYRING is set."), std::string::npos) << OnServer.Output << OnServer.Errors;
+	EXPECT_NE(Folder.Read(File).find("harbor-2026"), std::string::npos);
+	EXPECT_EQ(Store.GetCalls(), Calls);
+}
+
+TEST_F(FSecrets, WhatKilledProgramsLeftGoesAtTheNextStart)
+{
+	const std::vector<std::string> Leftovers = {"UserConfig/velmorant/.velmorant-4711-1.tmp", "UserState/velmorant/.velmorant-4711-2.tmp", "Project/Config/.velmorant-4711-3.tmp",
+		"Project/Saved/Config/LinuxEditor/.velmorant-4711-4.tmp", "Project/Content/Deep/Down/.velmorant-4711-5.tmp"};
+	const std::string Live = "UserConfig/velmorant/.velmorant-4712-1.tmp";
+	const std::string Foreign = "UserConfig/velmorant/.velmorant-notes.tmp";
+	for (const std::string& File : Leftovers)
+	{
+		Folder.Write(File, "harbor-2026");
+	}
+	Folder.Write(Live, "somebody writes it");
+	Folder.Write(Foreign, "notes");
+	const int Writer = open(Folder.GetNative(Live).c_str(), O_RDWR | O_CLOEXEC);
+	ASSERT_EQ(flock(Writer, LOCK_EX), 0);
+
+	EXPECT_EQ(Check().ExitStatus, 1);
+	EXPECT_TRUE(Folder.Exists(Leftovers[0])) << "looking at a project changes nothing";
+	Do("wait 1\n");
+	for (const std::string& File : Leftovers)
+	{
+		EXPECT_FALSE(Folder.Exists(File)) << File;
+	}
+	EXPECT_TRUE(Folder.Exists(Live));
+	EXPECT_TRUE(Folder.Exists(Foreign));
+	close(Writer);
+	Do("wait 1\n");
+	EXPECT_FALSE(Folder.Exists(Live));
 }

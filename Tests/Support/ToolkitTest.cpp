@@ -9,6 +9,7 @@
 #include "VelmorantProjectRequestManager.h"
 #include "VelmorantSDKEngineSubsystem.h"
 
+#include <cstdlib>
 #include <ostream>
 
 const char* const SoundEngineIni =
@@ -47,6 +48,7 @@ void PrintTo(const FOutcome& Outcome, std::ostream* Stream)
 
 FToolkitTest::FToolkitTest()
 {
+	setenv("VELMORANT_NO_KEYRING", "1", 1); // tests leave the desktop's real secret store alone
 	CommandLine = TEXT("-VelmorantService=") + Folder.Get("Project/Service.json");
 	WriteProjectFile("Config/DefaultEngine.ini", SoundEngineIni);
 	WriteServiceWith("");

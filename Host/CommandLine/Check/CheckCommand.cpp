@@ -24,8 +24,7 @@ namespace CheckCommand
 			{
 				return CollisionCheck::Repair(Project, Arguments.Editor);
 			}
-			const bool bPreview = Arguments.bDiff || Arguments.bJson;
-			return CollisionCheck::Look(Project, Arguments.Editor, bPreview ? CollisionCheck::EPreview::OfRepair : CollisionCheck::EPreview::No);
+			return CollisionCheck::Look(Project, Arguments.Editor);
 		}
 	}
 }

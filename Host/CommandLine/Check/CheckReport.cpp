@@ -20,8 +20,8 @@ namespace CheckReport
 		const FStatusText Statuses[] = {
 			{ECheckStatus::Sound, EExitStatus::Done, "sound", TEXT("Sound: the UnitVolume channel and profile are there.")},
 			{ECheckStatus::Repaired, EExitStatus::Done, "repaired", TEXT("Repaired: the UnitVolume channel and profile were missing and have been added.")},
-			{ECheckStatus::Missing, EExitStatus::Failed, "missing", TEXT("Missing: the UnitVolume channel or profile is not there. --repair adds them.")},
-			{ECheckStatus::StillMissing, EExitStatus::Failed, "stillMissing", TEXT("Still missing: the repair did not help.")},
+			{ECheckStatus::Missing, EExitStatus::Failed, "missing", TEXT("Missing: the UnitVolume channel or profile is not there.")},
+			{ECheckStatus::StillMissing, EExitStatus::Failed, "stillMissing", TEXT("Still missing, nothing was written. The repair would not help: ")},
 			{ECheckStatus::Undone, EExitStatus::Done, "undone", TEXT("Undone: what the last repair added is gone again.")},
 			{ECheckStatus::NotUndone, EExitStatus::Failed, "notUndone", TEXT("Not undone, nothing was changed: ")},
 			{ECheckStatus::Trouble, EExitStatus::Trouble, "trouble", TEXT("No verdict.")},
@@ -40,6 +40,23 @@ namespace CheckReport
 			}
 		}
 
+		/** Whose lines they are is said where the engine's are among them. */
+		void PrintAdded(const FFileChange& Change)
+		{
+			if (Change.EngineLines.IsEmpty())
+			{
+				PrintLines(TEXT("  "), Change.AddedLines);
+				return;
+			}
+			Console::Print(TEXT("  the engine's current profiles:"));
+			PrintLines(TEXT("    "), Change.EngineLines);
+			if (!Change.ToolkitLines.IsEmpty())
+			{
+				Console::Print(TEXT("  the toolkit's lines:"));
+				PrintLines(TEXT("    "), Change.ToolkitLines);
+			}
+		}
+
 		void PrintFiles(const TCHAR* Title, const TArray<FFileChange>& Changes, EChanges Shown)
 		{
 			for (const FFileChange& Change : Changes)
@@ -47,27 +64,61 @@ namespace CheckReport
 				Console::Print(FString::Printf(TEXT("%s %s%s"), Title, *Change.Path, Change.bDeleted ? TEXT(" (deleted)") : TEXT("")));
 				if (Shown == EChanges::Lines)
 				{
-					PrintLines(TEXT("  "), Change.AddedLines);
+					PrintAdded(Change);
 					PrintLines(TEXT("  taken out: "), Change.RemovedLines);
 				}
 			}
 		}
 
-		/** What is the matter, in one sentence. */
+		/** Empty for a project that has a collision section. */
+		FString DescribeEngineLines(const TArray<FFileChange>& Changes)
+		{
+			int32 Number = 0;
+			for (const FFileChange& Change : Changes)
+			{
+				for (const FString& Line : Change.EngineLines)
+				{
+					Number += Line.IsEmpty() ? 0 : 1; // less the blank one before the section
+				}
+			}
+			return Number == 0 ? FString() : FString::Printf(TEXT(" With them come the engine's current profiles (%d lines), which a project without a collision section gets first."), Number);
+		}
+
+		FString DescribeRepair(const FCheckReport& Report)
+		{
+			if (!Report.Reason.IsEmpty())
+			{
+				return TEXT(" --repair cannot help: ") + Report.Reason + TEXT(".");
+			}
+			if (!Report.Problems.IsEmpty())
+			{
+				return TEXT(" --repair cannot add them until what the error output tells is put right.");
+			}
+			return TEXT(" --repair adds them.") + DescribeEngineLines(Report.RepairWrites);
+		}
+
+		/** What is the matter, in a sentence or two. */
 		FString MakeVerdict(const FCheckReport& Report)
 		{
-			const bool bMissing = Report.Status == ECheckStatus::Missing || Report.Status == ECheckStatus::StillMissing;
-			if (bMissing && Report.SpoiledBy.ContainsByPredicate([](const FSpoiler& Spoiler) { return Spoiler.What == SpoiledSetup::Profile; }))
+			const FString Verdict = Find(Report.Status).Sentence;
+			const TCHAR* const But = Report.SpoiledBy.IsEmpty() ? TEXT("") : TEXT(" But remove the line above: the toolkit looks for the channel in DefaultEngine.ini only.");
+			switch (Report.Status)
 			{
-				return TEXT("Missing: the configuration brings the UnitVolume profile and takes it away again. Remove the line above; --repair cannot help.");
+				case ECheckStatus::Sound:
+					return Verdict + But;
+				case ECheckStatus::Repaired:
+					return Verdict + DescribeEngineLines(Report.WrittenFiles) + But;
+				case ECheckStatus::Missing:
+					return Verdict + DescribeRepair(Report);
+				case ECheckStatus::StillMissing:
+				case ECheckStatus::NotUndone:
+					return Verdict + Report.Reason + TEXT(".");
+				case ECheckStatus::Undone:
+				case ECheckStatus::Trouble:
+					return Verdict;
 			}
-			FString Verdict = Find(Report.Status).Sentence;
-			const bool bFine = Report.Status == ECheckStatus::Sound || Report.Status == ECheckStatus::Repaired;
-			if (bFine && !Report.SpoiledBy.IsEmpty())
-			{
-				Verdict += TEXT(" But remove the line above: the toolkit looks for the channel in DefaultEngine.ini only.");
-			}
-			return Report.Status == ECheckStatus::NotUndone ? Verdict + Report.Reason + TEXT(".") : Verdict;
+			checkNoEntry();
+			return Verdict;
 		}
 
 		FJson MakeJson(const TArray<FFileChange>& Changes)
@@ -75,7 +126,7 @@ namespace CheckReport
 			FJson Array = FJson::array();
 			for (const FFileChange& Change : Changes)
 			{
-				Array.push_back({{"path", JsonText::Make(Change.Path)}, {"deleted", Change.bDeleted}, {"addedLines", JsonText::Make(Change.AddedLines)}, {"removedLines", JsonText::Make(Change.RemovedLines)}});
+				Array.push_back({{"path", JsonText::Make(Change.Path)}, {"deleted", Change.bDeleted}, {"addedLines", JsonText::Make(Change.AddedLines)}, {"removedLines", JsonText::Make(Change.RemovedLines)}, {"engineLines", JsonText::Make(Change.EngineLines)}, {"toolkitLines", JsonText::Make(Change.ToolkitLines)}});
 			}
 			return Array;
 		}
@@ -116,7 +167,7 @@ namespace CheckReport
 		Console::Print(MakeVerdict(Report));
 		if (!Report.LinesToAdd.IsEmpty())
 		{
-			Console::Print(TEXT("Add these lines to the section [/Script/Engine.CollisionProfile] of Config/DefaultEngine.ini by hand:"));
+			Console::Print(TEXT("Add to the section [/Script/Engine.CollisionProfile] of Config/DefaultEngine.ini by hand:"));
 			PrintLines(TEXT(""), Report.LinesToAdd);
 		}
 	}
@@ -131,6 +182,7 @@ namespace CheckReport
 			{"messages", JsonText::Make(Report.Messages)},
 			{"spoiledBy", MakeJson(Report.SpoiledBy)},
 			{"pendingWrites", MakeJson(Report.PendingWrites)},
+			{"repairWrites", MakeJson(Report.RepairWrites)},
 			{"writtenFiles", MakeJson(Report.WrittenFiles)},
 			{"diff", Report.Difference},
 			{"problems", JsonText::Make(Report.Problems)},

@@ -16,7 +16,7 @@ enum class ECheckStatus : uint8
 	Sound,
 	Repaired,
 	Missing,
-	StillMissing, // after the repair
+	StillMissing, // the repair would not have helped; nothing was written
 	Undone,
 	NotUndone, // the lines of the repair are not as they were
 	Trouble, // files, or no verdict
@@ -29,11 +29,12 @@ struct FCheckReport
 	FString Project; // full path of the .uproject
 	TArray<FString> Messages; // what the toolkit said, in order
 	TArray<FSpoiler> SpoiledBy; // lines that take the set-up away
-	TArray<FFileChange> PendingWrites; // without repair: what would have been written
+	TArray<FFileChange> PendingWrites; // without repair: what the check would have written
+	TArray<FFileChange> RepairWrites; // without repair: what that would write
 	TArray<FFileChange> WrittenFiles; // by the repair, or when it was taken back
 	std::string Difference; // the same, or what the repair would write, as a unified difference; UTF-8
-	TArray<FString> LinesToAdd; // by hand, when the repair did not help
-	FString Reason; // why the repair could not be taken back
+	TArray<FString> LinesToAdd; // by hand, when the repair does not help
+	FString Reason; // why the repair does not help, or could not be taken back; the end of a sentence
 	TArray<FHostProblem> Problems;
 };
 

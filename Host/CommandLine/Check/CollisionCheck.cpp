@@ -2,99 +2,85 @@
 
 #include "Check/CollisionCheck.h"
 
-#include "Check/CollisionLines.h"
+#include "Check/CheckRun.h"
+#include "Check/RepairObstacle.h"
 #include "Check/RepairRecord.h"
-#include "Check/ToolkitVerdict.h"
-#include "EditorHost.h"
-#include "HostEditor.h"
 #include "HostFiles.h"
-#include "HostNotifications.h"
 #include "HostTextFiles.h"
 #include "Misc/Paths.h"
-
-#include <string>
 
 namespace CollisionCheck
 {
 	namespace
 	{
-		const TCHAR* const AddButton = TEXT("Add to Project Config");
-		const TCHAR* const RestartButton = TEXT("Restart Editor");
-
-		enum class EWrites
+		FString GetIniFile(const FString& Project)
 		{
-			OnDisk,
-			InOverlay
-		};
-
-		/** Starts an editor on the project, which checks; lets Act see it, and adds to the report what it said and what went wrong. */
-		template<typename ActionType>
-		EToolkitVerdict RunEditor(FCheckReport& Report, const FEditorArguments& Arguments, EWrites Writes, ActionType Act)
-		{
-			FEditorHostOptions Options = EditorArguments::MakeOptions(Report.Project, Arguments);
-			Options.bWriteOverlay = Writes == EWrites::InOverlay;
-			const FEditorHost Editor(Options);
-			const EToolkitVerdict Verdict = ToolkitVerdict::Read();
-			Act(Verdict);
-			Report.Messages.Append(ToolkitVerdict::GetMessages());
-			Report.SpoiledBy = SpoiledSetup::Find();
-			Report.Problems.Append(HostProblems::GetAll());
-			return Verdict;
+			return FPaths::Combine(FPaths::GetPath(Project), FString(TEXT("Config/DefaultEngine.ini")));
 		}
 
-		/** Files as the editor behind the overlay saw them last. */
-		TArray<FFileText> ReadPending()
+		ECheckStatus Judge(const FCheckRun& Run, ECheckStatus WhenSound, ECheckStatus WhenMissing)
 		{
-			TArray<FFileText> Texts;
-			for (const HostFiles::FPendingWrite& Write : HostFiles::GetPendingWrites())
-			{
-				Texts.Add(FFileText::Read(Write.Path));
-			}
-			return Texts;
-		}
-
-		/** Behind an overlay. */
-		TArray<FFileText> PreviewRepair(FCheckReport& Report, const FString& Platform)
-		{
-			FEditorArguments WithPerson; // somebody has to press the button
-			WithPerson.Platform = Platform;
-			FCheckReport Preview;
-			Preview.Project = Report.Project;
-			TArray<FFileText> Texts;
-			RunEditor(Preview, WithPerson, EWrites::InOverlay, [&Texts](EToolkitVerdict) {
-				HostNotifications::PressButton(AddButton);
-				Texts = ReadPending();
-			});
-			Report.Problems = Preview.Problems; // those of the check, and what would keep the repair from writing
-			return Texts;
-		}
-
-		/** Presses what a person would press, up to the restart. @return whether the editor wants to restart. */
-		bool PressRepairButtons()
-		{
-			return HostNotifications::PressButton(AddButton).bDone && HostNotifications::PressButton(RestartButton).bDone && !HostEditor::GetRestartRequests().IsEmpty();
-		}
-
-		ECheckStatus Judge(const FCheckReport& Report, EToolkitVerdict Verdict, ECheckStatus WhenSound, ECheckStatus WhenMissing)
-		{
-			if (!Report.Problems.IsEmpty() || Verdict == EToolkitVerdict::None)
+			if (!Run.Problems.IsEmpty() || Run.Verdict == EToolkitVerdict::None)
 			{
 				return ECheckStatus::Trouble;
 			}
-			return Verdict == EToolkitVerdict::Sound ? WhenSound : WhenMissing;
+			return Run.Verdict == EToolkitVerdict::Sound ? WhenSound : WhenMissing;
 		}
 
-		/** Of the configuration file it is known what stood in it before. */
-		void AddWritten(FCheckReport& Report, const TArray<FString>& Files, const FFileText& Before, const FFileText& After)
+		/** From what is on disk to what the run left in its overlay; what the check added comes from the engine. */
+		FFileChange CompareWithDisk(const FCheckRun& Run, const FFileText& After)
 		{
-			for (const FString& File : Files)
+			const FFileText Before = FFileText::Read(After.Path);
+			const FFileText& Checked = FileChanges::Find(Run.CheckFiles, Before);
+			FFileChange Change = FileChanges::Compare(Before, After);
+			Change.EngineLines = FileChanges::Compare(Before, Checked).AddedLines;
+			Change.ToolkitLines = FileChanges::Compare(Checked, After).AddedLines;
+			return Change;
+		}
+
+		/** What the repair would do, and why it would not help. */
+		void Foretell(FCheckReport& Report, const FString& Platform)
+		{
+			FEditorArguments WithPerson; // somebody has to press the buttons
+			WithPerson.Platform = Platform;
+			const FCheckRun Run = CheckRun::Rehearse(Report.Project, WithPerson);
+			const FFileText IniFile = FFileText::Read(GetIniFile(Report.Project));
+			Report.Problems = Run.Problems; // what would keep the repair from writing
+			Report.SpoiledBy = RepairObstacle::NumberAsOnDisk(Run.SpoiledBy, IniFile, FileChanges::Find(Run.Files, IniFile));
+			const ECheckStatus Outcome = Judge(Run, ECheckStatus::Repaired, ECheckStatus::StillMissing);
+			if (Outcome == ECheckStatus::StillMissing)
 			{
-				Report.WrittenFiles.Add(File.Equals(After.Path) ? FileChanges::Compare(Before, After) : FFileChange{File, false, {}, {}});
+				RepairObstacle::Explain(Run, IniFile, Report);
+			}
+			else if (Outcome == ECheckStatus::Repaired)
+			{
+				for (const FFileText& After : Run.Files)
+				{
+					Report.RepairWrites.Add(CompareWithDisk(Run, After));
+					Report.Difference += FileChanges::Describe(FPaths::GetPath(Report.Project), FFileText::Read(After.Path), After);
+				}
 			}
 		}
 
+		/** @return false when a file could not be written (reported). */
+		bool WriteToDisk(FCheckReport& Report, const FCheckRun& Run)
+		{
+			bool bDone = true;
+			for (int32 Index = 0; bDone && Index < Run.Writes.Num(); ++Index)
+			{
+				const HostFiles::FPendingWrite& Write = Run.Writes[Index];
+				const FFileChange Change = CompareWithDisk(Run, Run.Files[Index]);
+				bDone = Write.bDeleted ? HostFiles::Delete(Write.Path) : HostFiles::Write(Write.Path, Write.Bytes);
+				if (bDone)
+				{
+					Report.WrittenFiles.Add(Change);
+				}
+			}
+			return bDone;
+		}
+
 		/** What goes wrong is told, but the repair is as good as it was: it does not count for the status. */
-		void Record(FCheckReport& Report, const FString& ProjectDir, const FFileText& Before, const FFileText& After)
+		void Record(const FString& ProjectDir, const FFileText& Before, const FFileText& After)
 		{
 			if (Before.Text == After.Text && Before.bExists == After.bExists)
 			{
@@ -111,27 +97,40 @@ namespace CollisionCheck
 			{
 				RepairRecord::Save(ProjectDir, Repair);
 			}
+		}
+
+		/** Makes the repair that was rehearsed. */
+		void Make(FCheckReport& Report, const FCheckRun& Run, const FFileText& Before)
+		{
+			const FString ProjectDir = FPaths::GetPath(Report.Project);
+			Report.Messages = Run.Messages;
+			if (!WriteToDisk(Report, Run))
+			{
+				Report.Status = ECheckStatus::Trouble;
+			}
+			const FFileText After = FFileText::Read(Before.Path);
+			Report.Difference = FileChanges::Describe(ProjectDir, Before, After);
+			Record(ProjectDir, Before, After);
 			Report.Problems.Append(HostProblems::GetAll());
 		}
 	}
 
-	FCheckReport Look(const FString& Project, const FEditorArguments& Editor, EPreview Preview)
+	FCheckReport Look(const FString& Project, const FEditorArguments& Editor)
 	{
 		FCheckReport Report;
 		Report.Project = Project;
-		TArray<FFileText> Pending;
-		const EToolkitVerdict Verdict = RunEditor(Report, Editor, EWrites::InOverlay, [&Pending](EToolkitVerdict) { Pending = ReadPending(); });
-		Report.Status = Judge(Report, Verdict, ECheckStatus::Sound, ECheckStatus::Missing);
-		for (const FFileText& After : Pending)
+		const FCheckRun Run = CheckRun::Check(Project, Editor);
+		Report.Messages = Run.Messages;
+		Report.SpoiledBy = Run.SpoiledBy;
+		Report.Problems = Run.Problems;
+		Report.Status = Judge(Run, ECheckStatus::Sound, ECheckStatus::Missing);
+		for (const FFileText& After : Run.Files)
 		{
-			Report.PendingWrites.Add(FileChanges::Compare(FFileText::Read(After.Path), After));
+			Report.PendingWrites.Add(CompareWithDisk(Run, After));
 		}
-		if (Preview == EPreview::OfRepair && Report.Status == ECheckStatus::Missing)
+		if (Report.Status == ECheckStatus::Missing)
 		{
-			for (const FFileText& After : PreviewRepair(Report, Editor.Platform))
-			{
-				Report.Difference += FileChanges::Describe(FPaths::GetPath(Project), FFileText::Read(After.Path), After);
-			}
+			Foretell(Report, Editor.Platform);
 		}
 		return Report;
 	}
@@ -140,8 +139,7 @@ namespace CollisionCheck
 	{
 		FCheckReport Report;
 		Report.Project = Project;
-		const FString ProjectDir = FPaths::GetPath(Project);
-		const FString IniFile = FPaths::Combine(ProjectDir, FString(TEXT("Config/DefaultEngine.ini")));
+		const FString IniFile = GetIniFile(Project);
 		if (!HostFiles::CheckWritable(IniFile) || !HostTextFiles::CheckReadable(IniFile))
 		{
 			Report.Problems = HostProblems::GetAll();
@@ -149,30 +147,20 @@ namespace CollisionCheck
 		}
 		const HostFiles::FLock Lock(IniFile); // until the repair is recorded
 		const FFileText Before = FFileText::Read(IniFile);
-		TArray<FString> Written;
-		bool bRestart = false;
-		EToolkitVerdict Verdict = RunEditor(Report, Editor, EWrites::OnDisk, [&](EToolkitVerdict First) {
-			bRestart = First == EToolkitVerdict::Missing && HostProblems::GetAll().IsEmpty() && PressRepairButtons();
-			Written = HostFiles::GetWrittenFiles();
-		});
-		if (bRestart)
+		const FCheckRun Run = CheckRun::Rehearse(Project, Editor);
+		Report.Messages = Run.CheckMessages;
+		Report.SpoiledBy = Run.SpoiledBy;
+		Report.Problems = Run.Problems;
+		Report.Status = Judge(Run, Run.bRepaired ? ECheckStatus::Repaired : ECheckStatus::Sound, ECheckStatus::StillMissing);
+		if (Report.Status == ECheckStatus::Repaired)
 		{
-			Verdict = RunEditor(Report, Editor, EWrites::OnDisk, [&Written](EToolkitVerdict) {
-				for (const FString& File : HostFiles::GetWrittenFiles())
-				{
-					Written.AddUnique(File);
-				}
-			});
+			Make(Report, Run, Before);
 		}
-		const FFileText After = FFileText::Read(IniFile);
-		AddWritten(Report, Written, Before, After);
-		Report.Difference = FileChanges::Describe(ProjectDir, Before, After);
-		Report.Status = Judge(Report, Verdict, bRestart ? ECheckStatus::Repaired : ECheckStatus::Sound, ECheckStatus::StillMissing);
-		if (Report.Status == ECheckStatus::StillMissing && Report.SpoiledBy.IsEmpty())
+		else if (Report.Status == ECheckStatus::StillMissing)
 		{
-			Report.LinesToAdd = CollisionLines::Make(ProjectDir);
+			Report.SpoiledBy = RepairObstacle::NumberAsOnDisk(Run.SpoiledBy, Before, FileChanges::Find(Run.Files, Before));
+			RepairObstacle::Explain(Run, Before, Report);
 		}
-		Record(Report, ProjectDir, Before, After);
 		return Report;
 	}
 }

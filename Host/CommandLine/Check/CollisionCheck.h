@@ -13,19 +13,15 @@
  */
 namespace CollisionCheck
 {
-	enum class EPreview : uint8
-	{
-		No,
-		OfRepair // FCheckReport::Difference says what the repair would do
-	};
-
-	/** Runs the check behind a write overlay: not a byte on disk changes. */
-	FCheckReport Look(const FString& Project, const FEditorArguments& Editor, EPreview Preview);
+	/** Runs the check behind a write overlay, and the repair, too, to say what it would do: not a byte on disk changes. */
+	FCheckReport Look(const FString& Project, const FEditorArguments& Editor);
 
 	/**
 	 * Runs the check and, when the profile is missing, the toolkit's repair by the buttons a person would press; then a new editor
-	 * checks again. The configuration file is locked all the while, so that two repairs at once do not lose each other's lines. A file
-	 * that could not be replaced or read is refused before anything is written. What was added is recorded for RepairUndo.
+	 * checks again. All of it happens behind a write overlay: only a repair that helps is written, just as it was checked.
+	 *
+	 * The configuration file is locked all the while, so that two repairs at once do not lose each other's lines. A file that could not be
+	 * replaced or read is refused before anything is written. What was added is recorded for RepairUndo.
 	 *
 	 * @param Editor must leave somebody to press buttons: with a user interface, and notifications
 	 */

@@ -30,6 +30,12 @@ FFileText FFileText::Read(const FString& Path)
 	return File;
 }
 
+const FFileText& FileChanges::Find(const TArray<FFileText>& Files, const FFileText& File)
+{
+	const FFileText* Found = Files.FindByPredicate([&File](const FFileText& Each) { return Each.Path.Equals(File.Path); });
+	return Found != nullptr ? *Found : File;
+}
+
 FFileChange FileChanges::Compare(const FFileText& Before, const FFileText& After)
 {
 	FFileChange Change;

@@ -25,10 +25,18 @@ struct FFileChange
 	bool bDeleted = false;
 	TArray<FString> AddedLines;
 	TArray<FString> RemovedLines;
+
+	//~ Where it is known which is which: the added lines once more.
+
+	TArray<FString> EngineLines; // the engine's current profiles, which the toolkit's check writes where there is no collision section
+	TArray<FString> ToolkitLines; // what the toolkit's repair adds
 };
 
 namespace FileChanges
 {
+	/** The same file among others; the file itself when it is not there, and so did not change. */
+	const FFileText& Find(const TArray<FFileText>& Files, const FFileText& File);
+
 	/** Both of the same file. */
 	FFileChange Compare(const FFileText& Before, const FFileText& After);
 

@@ -37,6 +37,11 @@ namespace SpoiledSetup
 		}
 	}
 
+	bool HasProfile()
+	{
+		return IsThere(Needed[0]);
+	}
+
 	TArray<FSpoiler> Find()
 	{
 		const TArray<HostConfig::FRemovedValue> Removed = HostConfig::GetRemovedValues(TEXT("Engine"), Section);

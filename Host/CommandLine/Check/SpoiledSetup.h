@@ -19,6 +19,9 @@ namespace SpoiledSetup
 	inline const TCHAR* const Profile = TEXT("profile");
 	inline const TCHAR* const Channel = TEXT("channel");
 
+	/** Whether the running editor's configuration has a profile of that name, after all layers. */
+	bool HasProfile();
+
 	/** Looks in all layers of the running editor's configuration. */
 	TArray<FSpoiler> Find();
 }

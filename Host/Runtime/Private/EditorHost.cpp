@@ -9,6 +9,7 @@
 #include "HostDelayedRegistration.h"
 #include "HostEditor.h"
 #include "HostFiles.h"
+#include "HostLeftovers.h"
 #include "HostLocale.h"
 #include "HostLog.h"
 #include "HostModules.h"
@@ -47,6 +48,20 @@ namespace EditorHost
 		FString Package = Map;
 		Map.Split(TEXT("."), &Package, nullptr);
 		return HostPackages::GetStored(Package) == HostPackages::EStored::Text;
+	}
+
+	/** Wherever editors write. */
+	void RemoveLeftovers()
+	{
+		TArray<FString> Folders = {HostPaths::GetUserSettingsDir(), HostPaths::GetUserStateDir(), FPaths::ProjectConfigDir(), FPaths::GeneratedConfigDir()};
+		for (const HostPlugins::FContentMount& Mount : HostPlugins::GetContentMounts())
+		{
+			Folders.Add(Mount.Directory);
+		}
+		for (const FString& Folder : Folders)
+		{
+			HostLeftovers::RemoveBelow(Folder);
+		}
 	}
 }
 
@@ -106,6 +121,17 @@ void FEditorHost::BringUpEngine(const FEditorHostOptions& Options)
 	if (Options.bWriteOverlay)
 	{
 		HostFiles::BeginOverlay();
+		for (const HostFiles::FPendingWrite& Pending : Options.OverlayWrites)
+		{
+			if (Pending.bDeleted)
+			{
+				HostFiles::Delete(Pending.Path);
+			}
+			else
+			{
+				HostFiles::Write(Pending.Path, Pending.Bytes);
+			}
+		}
 	}
 
 	FCommandLine::Set(*Options.CommandLine);
@@ -116,6 +142,7 @@ void FEditorHost::BringUpEngine(const FEditorHostOptions& Options)
 	HostConfig::Boot();
 	HostObjects::Boot();
 	HostPlugins::Discover(HostPaths::GetPluginDirs());
+	EditorHost::RemoveLeftovers();
 	MountContent();
 	HostEditor::Create();
 	if (!IsRunningCommandlet())

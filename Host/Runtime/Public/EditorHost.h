@@ -5,6 +5,7 @@
 #include "Containers/Array.h"
 #include "Containers/UnrealString.h"
 #include "CoreTypes.h"
+#include "HostFiles.h"
 #include "UObject/NameTypes.h"
 
 /** What an editor is started with. */
@@ -33,6 +34,9 @@ struct FEditorHostOptions
 
 	/** Keep all writes in memory: the editor sees them, the disk stays untouched. */
 	bool bWriteOverlay = false;
+
+	/** With an overlay: what it holds from the beginning, as an earlier editor left its own (HostFiles::GetPendingWrites). */
+	TArray<HostFiles::FPendingWrite> OverlayWrites;
 
 	/** Collect garbage in every tick: finds objects that somebody holds without saying so. */
 	bool bCollectEveryTick = ShouldCollectEveryTick();

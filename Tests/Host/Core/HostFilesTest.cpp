@@ -170,7 +170,7 @@ namespace
 
 	TEST_F(HostFilesTest, WhatOthersCallTemporaryIsTheirs)
 	{
-		const std::vector<std::string> Theirs = {"Config/.velmorant-notes", "Config/File.ini.tmp", "Config/a.velmorant-1-2.tmp"};
+		const std::vector<std::string> Theirs = {"Config/.velmorant-1-.tmp", "Config/.velmorant-1-2.tmp~", "Config/.velmorant-1-x.tmp", "Config/.velmorant-notes.tmp", "Config/.velmorant.tmp", "Config/File.ini.tmp", "Config/a.velmorant-1-2.tmp"};
 		for (const std::string& File : Theirs)
 		{
 			Folder.Write(File, "theirs");
@@ -178,10 +178,10 @@ namespace
 		Folder.Write("Config/.velmorant-1-2.tmp", "left over");
 		ASSERT_TRUE(Write("Config/File.ini", "new"));
 		std::vector<std::string> Files = Theirs;
-		Files.insert(Files.begin() + 1, "Config/File.ini");
+		Files.insert(Files.end() - 2, "Config/File.ini");
 		EXPECT_EQ(Find("Config", TEXT("")), Files);
 		EXPECT_EQ(Folder.Count("Config"), Files.size());
-		EXPECT_EQ(Folder.Read(Theirs[1]), "theirs");
+		EXPECT_EQ(Folder.Read(Theirs[0]), "theirs");
 	}
 
 	TEST_F(HostFilesTest, AWriteThatFailsHalfWayIsToldEachTimeAndLeavesNothing)

@@ -124,9 +124,9 @@ TEST_F(CollisionProfile, WritesItsSectionInTheEnginesForm)
 	const std::vector<std::string> Profiles = LinesStarting(Text, "+Profiles=");
 	ASSERT_EQ(Profiles.size(), 18u);
 	EXPECT_EQ(Profiles[0].find("+Profiles=(Name=\"NoCollision\",CollisionEnabled=NoCollision,bCanModify=False,ObjectTypeName=\"WorldStatic\","
-							   "CustomResponses=((Channel=\"Visibility\",Response=ECR_Ignore),(Channel=\"Camera\",Response=ECR_Ignore)),HelpMessage=\""),
+							   "CustomResponses=((Channel=\"Visibility\",Response=ECR_Ignore),(Channel=\"Camera\",Response=ECR_Ignore)),HelpMessage=\"\")"),
 		0u)
-		<< Profiles[0];
+		<< Profiles[0] << " brings no help text of the host's own into a project";
 	EXPECT_NE(Profiles[1].find(",CustomResponses=,"), std::string::npos) << Profiles[1];
 }
 

@@ -4,11 +4,14 @@
 
 #include "Files/NativePath.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <dirent.h>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <unistd.h>
+#include <utility>
 
 namespace AtomicReplace
 {
@@ -72,17 +75,50 @@ namespace AtomicReplace
 			return fchmod(File, Existing->st_mode & 07777) == 0 ? 0 : errno;
 		}
 
-		int WriteTemporary(const std::string& Temporary, std::string_view Bytes, const struct stat* Existing, mode_t NewMode)
+		/** Locked for as long as it is open, which tells others that it is no leftover. @return 0 or an errno */
+		int CreateTemporary(const std::string& Folder, std::string& OutName, FDescriptor& OutFile)
 		{
-			FDescriptor File{open(Temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600)};
-			if (File.Value < 0)
+			for (;;)
 			{
-				return errno;
+				const std::string Name = MakeTemporaryName(Folder);
+				FDescriptor File{open(Name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600)};
+				if (File.Value < 0 && errno != EEXIST) // a leftover of a process that had this one's number
+				{
+					return errno;
+				}
+				// Somebody who looks for leftovers may have come between the two steps. A file system without locks has no such people.
+				const bool bTaken = File.Value >= 0 && flock(File.Value, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+				if (File.Value >= 0 && !bTaken && access(Name.c_str(), F_OK) == 0)
+				{
+					OutName = Name;
+					std::swap(OutFile.Value, File.Value);
+					return 0;
+				}
 			}
-			int Error = WriteAll(File.Value, Bytes);
-			Error = Error != 0 ? Error : SetOwnerAndMode(File.Value, Existing, NewMode);
-			return Error != 0 ? Error : fsync(File.Value) == 0 ? 0
-															   : errno;
+		}
+
+		int WriteTemporary(int File, std::string_view Bytes, const struct stat* Existing, mode_t NewMode)
+		{
+			int Error = WriteAll(File, Bytes);
+			Error = Error != 0 ? Error : SetOwnerAndMode(File, Existing, NewMode);
+			if (Error == 0 && fsync(File) != 0)
+			{
+				Error = errno;
+			}
+			return Error;
+		}
+
+		bool IsNumber(std::string_view Text)
+		{
+			return !Text.empty() && std::all_of(Text.begin(), Text.end(), [](char Letter) { return Letter >= '0' && Letter <= '9'; });
+		}
+
+		/** Of this user, and of a process that lives no longer: nobody holds the lock. */
+		bool IsLeftover(int Folder, const char* Name)
+		{
+			const FDescriptor File{openat(Folder, Name, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC)};
+			struct stat Status;
+			return File.Value >= 0 && fstat(File.Value, &Status) == 0 && S_ISREG(Status.st_mode) && Status.st_uid == geteuid() && flock(File.Value, LOCK_EX | LOCK_NB) == 0;
 		}
 
 		/** Makes the rename itself last. A file system that cannot do this has done all it can. */
@@ -98,7 +134,14 @@ namespace AtomicReplace
 
 	bool IsTemporaryName(std::string_view Name)
 	{
-		return Name.starts_with(TemporaryPrefix) && Name.ends_with(TemporarySuffix);
+		if (!Name.starts_with(TemporaryPrefix) || !Name.ends_with(TemporarySuffix) || Name.size() < TemporaryPrefix.size() + TemporarySuffix.size())
+		{
+			return false;
+		}
+		Name.remove_prefix(TemporaryPrefix.size());
+		Name.remove_suffix(TemporarySuffix.size());
+		const size_t Dash = Name.find('-');
+		return Dash != std::string_view::npos && IsNumber(Name.substr(0, Dash)) && IsNumber(Name.substr(Dash + 1));
 	}
 
 	void RemoveLeftovers(const std::string& Folder)
@@ -110,7 +153,7 @@ namespace AtomicReplace
 		}
 		while (const dirent* Entry = readdir(Directory))
 		{
-			if (IsTemporaryName(Entry->d_name))
+			if (IsTemporaryName(Entry->d_name) && IsLeftover(dirfd(Directory), Entry->d_name))
 			{
 				unlinkat(dirfd(Directory), Entry->d_name, 0);
 			}
@@ -121,8 +164,14 @@ namespace AtomicReplace
 	int Replace(const std::string& Target, std::string_view Bytes, const struct stat* Existing, mode_t NewMode)
 	{
 		const std::string Folder = NativePath::FolderOf(Target);
-		const std::string Temporary = MakeTemporaryName(Folder);
-		int Error = WriteTemporary(Temporary, Bytes, Existing, NewMode);
+		std::string Temporary;
+		FDescriptor File; // open, and with it the lock, until the file has its name
+		int Error = CreateTemporary(Folder, Temporary, File);
+		if (Error != 0)
+		{
+			return Error;
+		}
+		Error = WriteTemporary(File.Value, Bytes, Existing, NewMode);
 		if (Error == 0)
 		{
 			if (BeforeRename != nullptr)

@@ -9,12 +9,12 @@
 /** One file in the place of another, as one step that a crash or a full disk cannot cut in half. Paths are resolved and full. */
 namespace AtomicReplace
 {
-	/** Whether a name is that of a file that Replace() had not finished. */
+	/** Whether a name is that of a file that Replace() has not finished: ".velmorant-", process, "-", number, ".tmp". */
 	bool IsTemporaryName(std::string_view Name);
 
 	/**
-	 * Removes what interrupted writes left in Folder. To be called only while the folder is locked: nobody else writes there then, so every
-	 * temporary file is a leftover.
+	 * Removes what interrupted writes of this user left in Folder. A file that is still being written stays: its writer holds a lock on it,
+	 * which ends with the writer.
 	 */
 	void RemoveLeftovers(const std::string& Folder);
 

@@ -213,12 +213,16 @@ namespace HostFiles
 	bool Delete(const FString& Path, EReadOnly ReadOnly)
 	{
 		const std::string Resolved = NativePath::Resolve(Path);
+		FFileOverlay* Overlay = GetOverlay();
+		if (Overlay == nullptr && IsPrivate(Resolved))
+		{
+			AtomicReplace::RemoveLeftovers(NativePath::FolderOf(Resolved)); // they may hold what is to be gone
+		}
 		if (GetKindOf(Resolved) == EKind::Missing)
 		{
 			return true;
 		}
 		const FLock Lock(Path);
-		FFileOverlay* Overlay = GetOverlay();
 		const bool bOnlyInOverlay = Overlay != nullptr && Overlay->Find(Resolved) != nullptr;
 		if (!bOnlyInOverlay && !MayReplace(Resolved, FOnDisk(Resolved), ReadOnly))
 		{

@@ -25,7 +25,7 @@ namespace FileManager
 			{
 				const bool bMissing = HostFiles::GetKind(Filename) == HostFiles::EKind::Missing;
 				const HostFiles::EReadOnly ReadOnly = EvenReadOnly ? HostFiles::EReadOnly::Override : HostFiles::EReadOnly::Refuse;
-				const bool bDeleted = bMissing ? !RequireExists : HostFiles::Delete(Filename, ReadOnly);
+				const bool bDeleted = !(bMissing && RequireExists) && HostFiles::Delete(Filename, ReadOnly);
 				UE_CLOG(!bDeleted && !Quiet, LogFileManager, Warning, TEXT("Could not delete %s"), Filename);
 				return bDeleted;
 			}
