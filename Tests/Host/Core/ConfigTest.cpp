@@ -127,7 +127,8 @@ namespace
 	TEST_F(Config, AMissingFileHasNoSectionsUntilItTurnsUp)
 	{
 		EXPECT_FALSE(GConfig->DoesSectionExist(TEXT("S"), File));
-		EXPECT_EQ(GConfig->GetSection(TEXT("S"), false, File), nullptr);
+		EXPECT_EQ(GetArray(File, TEXT("A")), std::vector<std::string>{});
+		EXPECT_EQ(GConfig->GetSection(TEXT("S"), false, File), nullptr) << "asking makes none";
 		Folder.Write("Config/DefaultEngine.ini", "[S]\nA=1\n");
 		EXPECT_TRUE(GConfig->DoesSectionExist(TEXT("S"), File));
 		EXPECT_EQ(GetProblems(), "");
@@ -287,10 +288,17 @@ namespace
 
 	TEST_F(Config, GoesWithItsEditor)
 	{
-		EXPECT_TRUE(GEngineIni.EndsWith(TEXT("/Saved/Config/LinuxEditor/Engine.ini")));
+		const std::pair<const FString*, const TCHAR*> Files[] = {{&GEngineIni, TEXT("Engine.ini")}, {&GGameIni, TEXT("Game.ini")}, {&GEditorIni, TEXT("Editor.ini")}, {&GEditorPerProjectIni, TEXT("EditorPerProjectUserSettings.ini")}};
+		for (const auto& [Branch, Name] : Files)
+		{
+			EXPECT_TRUE(Branch->EndsWith(FString(TEXT("/Saved/Config/LinuxEditor/")) + Name)) << ToUtf8(*Branch);
+		}
 		HostState::DestroyAll();
 		EXPECT_EQ(GConfig, nullptr);
-		EXPECT_TRUE(GEngineIni.IsEmpty());
+		for (const auto& [Branch, Name] : Files)
+		{
+			EXPECT_TRUE(Branch->IsEmpty()) << ToUtf8(Name);
+		}
 	}
 
 	class SectionUpdate : public Config
@@ -449,6 +457,7 @@ namespace
 			{"the same block twice", "[S]\nP=1\nA=1\nP=1\n", {{"P=1"}, {"P=1"}}, "[S]\nA=1\n"},
 			{"a section with the blank line in front", "[A]\nK=1\n\n[S]\nP=1\n", {{"", "[S]", "P=1"}}, "[A]\nK=1\n"},
 			{"a section whose blank line is gone", "[A]\nK=1\n[S]\nP=1\n", {{"", "[S]", "P=1"}}, "[A]\nK=1\n"},
+			{"the blank line at the top", "\n[S]\nP=1\n", {{"", "[S]", "P=1"}}, ""},
 			{"no more blank lines than were put in", "[A]\n\n\n[S]\nP=1\n", {{"", "[S]", "P=1"}}, "[A]\n\n"},
 			{"a section with a comment and another section behind it", "[A]\nK=1\n[S]\nP=1\n; c\n[B]\nL=1\n", {{"[S]", "P=1"}}, "[A]\nK=1\n; c\n[B]\nL=1\n"},
 			{"everything", "[S]\nP=1\n", {{"[S]", "P=1"}}, ""},

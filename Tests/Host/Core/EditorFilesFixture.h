@@ -52,13 +52,13 @@ protected:
 		Boot();
 	}
 
-	/** Messages of all problems, one a line. */
+	/** Messages and remedies of all problems, one a line. */
 	static std::string GetProblems()
 	{
 		std::string Result;
 		for (const FHostProblem& Problem : HostProblems::GetAll())
 		{
-			Result += ToUtf8(Problem.Message) + "\n";
+			Result += ToUtf8(Problem.Message) + ". " + ToUtf8(Problem.Remedy) + "\n";
 		}
 		return Result;
 	}

@@ -283,11 +283,13 @@ namespace
 			const char* Behaviour;
 			std::string Bytes;
 			int32 Line;
+			const char* Fault = "is neither UTF-8 nor UTF-16 with a byte-order mark";
 		};
+		const char* const NoText = "holds null characters and so is no text (UTF-16 needs a byte-order mark)";
 		const FCase Cases[] = {
 			{"Latin-1", "a\nT\xFCr\n", 2},
-			{"UTF-16 with half a character at the end", "\xFF\xFE" + Utf16("a\n") + "b", 0},
-			{"UTF-16 without mark", Utf16("a\nb\n"), 1},
+			{"UTF-16 with half a character at the end", "\xFF\xFE" + Utf16("a\n") + "b", 0, "begins as UTF-16 but has an odd number of bytes"},
+			{"UTF-16 without mark", Utf16("a\nb\n"), 1, NoText},
 			{"an overlong form", "a\xC0\xAF\n", 1},
 			{"an overlong form of three bytes", "a\xE0\x80\xAF\n", 1},
 			{"a surrogate in UTF-8", "\n\n\xED\xA0\x80", 3},
@@ -298,8 +300,8 @@ namespace
 			{"the last surrogate", "\xED\xBF\xBF", 1},
 			{"a continuation without beginning", "1234567\x80", 1},
 			{"a beginning without continuation", "a\xE2\x28\xAC\n", 1},
-			{"null characters in UTF-8", "a\n1234567\0"s, 2},
-			{"null characters in UTF-16", "\xFF\xFE" + Utf16("a\n") + std::string(2, '\0'), 2},
+			{"null characters in UTF-8", "a\n1234567\0"s, 2, NoText},
+			{"null characters in UTF-16", "\xFF\xFE" + Utf16("a\n") + std::string(2, '\0'), 2, NoText},
 		};
 		for (const FCase& Case : Cases)
 		{
@@ -310,6 +312,7 @@ namespace
 			EXPECT_FALSE(bLoaded);
 			EXPECT_FALSE(Save({"replacement"}));
 			EXPECT_EQ(Folder.Read("File.ini"), Case.Bytes);
+			EXPECT_EQ(GetProblems(), std::string("the file ") + Case.Fault + ". Save it as UTF-8 or as UTF-16 with a byte-order mark; until then it is neither read nor overwritten.\nthe file was not written: what is in it cannot be read. Put the file right or move it away.\n");
 			ASSERT_FALSE(HostProblems::GetAll().IsEmpty());
 			EXPECT_EQ(HostProblems::GetAll()[0].Line, Case.Line);
 			EXPECT_EQ(HostProblems::GetNotWritten().Num(), 1) << "the load is no write";
@@ -328,7 +331,9 @@ namespace
 		Folder.Write("File.ini", "T\xFCr\n");
 		Load();
 		Folder.Write("File.ini", "fine\n");
+		HostProblems::Clear();
 		EXPECT_FALSE(Save({}));
+		EXPECT_EQ(GetProblems(), "the file was not written: loading it had failed, so what was to be saved is not its content. Try again.\n");
 		EXPECT_EQ(Folder.Read("File.ini"), "fine\n");
 		Load();
 		EXPECT_TRUE(Save({"fine", "too"}));
@@ -352,6 +357,7 @@ namespace
 			{"both add in one place", "a\nb\n", "a\nother\nb\n", {"a", "mine", "b"}, "a\nother\nmine\nb\n", true},
 			{"both add the same", "a\nb\n", "a\nnew\nb\n", {"a", "new", "b"}, "a\nnew\nb\n", true},
 			{"mine changes nothing", "a\nb\n", "a\nother\nb\n", {"a", "b"}, "a\nother\nb\n", true},
+			{"mine changes nothing, theirs the last line", "a\nb\n", "a\nother\n", {"a", "b"}, "a\nother\n", true},
 			{"both change one line", "a\nb\nc\n", "a\nother\nc\n", {"a", "mine", "c"}, "a\nother\nc\n", false},
 			{"I change what they removed", "a\nb\nc\n", "a\nc\n", {"a", "mine", "c"}, "a\nc\n", false},
 			{"changes of neighbouring lines", "a\nb\nc\nd\n", "a\nother\nc\nd\n", {"a", "b", "mine", "d"}, "a\nother\nc\nd\n", false},
@@ -374,7 +380,7 @@ namespace
 			Folder.Write("File.ini", Case.WrittenByOthers);
 			EXPECT_EQ(Save(Case.Saved), Case.bSaved);
 			EXPECT_EQ(Folder.Read("File.ini"), Case.Expected);
-			EXPECT_EQ(HostProblems::GetAll().IsEmpty(), Case.bSaved) << GetProblems();
+			EXPECT_EQ(GetProblems(), Case.bSaved ? "" : "the file was not written: somebody else changed the same lines meanwhile. Try again; the file is as the other one left it.\n");
 		}
 	}
 
@@ -387,6 +393,10 @@ namespace
 		ASSERT_TRUE(FFileHelper::LoadFileToString(Text, *Folder.Get("File.ini")));
 		EXPECT_TRUE(Save({"mine", "b"})) << "whoever has the whole text knows what it writes over";
 		EXPECT_EQ(Folder.Read("File.ini"), "mine\nb\n");
+		Load();
+		Folder.Write("File.ini", "other\nb\n");
+		EXPECT_TRUE(FFileHelper::SaveStringToFile(TEXT("whole\nb\n"), *Folder.Get("File.ini"))) << "and says so";
+		EXPECT_EQ(Folder.Read("File.ini"), "whole\nb\n");
 		Load();
 		std::filesystem::remove(Folder.GetNative("File.ini"));
 		EXPECT_TRUE(Save({"mine", "more"}));
@@ -449,13 +459,14 @@ namespace
 
 	TEST_F(FileHelper, HalfOfASurrogatePairIsNotWrittenAsUtf8)
 	{
-		const TCHAR* const Halves[] = {TEXT("a\xD83C"), TEXT("\xD83Cz"), TEXT("\xDFE0\xD83C"), TEXT("\xD83C\xD83C"), TEXT("\xD83C\xE000")};
+		const TCHAR* const Halves[] = {TEXT("a\xD83C"), TEXT("\xD83Cz"), TEXT("\xDFE0\xD83C"), TEXT("\xD83C\xD83C"), TEXT("\xDC00\xDC00"), TEXT("\xD83C\xE000")};
 		for (const TCHAR* Half : Halves)
 		{
 			Folder.Write("File.ini", "old\n");
 			HostProblems::Clear();
 			EXPECT_FALSE(FFileHelper::SaveStringToFile(Half, *Folder.Get("File.ini")));
 			EXPECT_EQ(Folder.Read("File.ini"), "old\n");
+			EXPECT_EQ(GetProblems(), "the file was not written: UTF-8 cannot express half of a surrogate pair. Correct the text.\n");
 			EXPECT_EQ(HostProblems::GetNotWritten().Num(), 1);
 			ASSERT_TRUE(FFileHelper::SaveStringToFile(Half, *Folder.Get("File.ini"), FFileHelper::EEncodingOptions::ForceUnicode));
 			std::string Utf8;
@@ -468,6 +479,6 @@ namespace
 	{
 		EXPECT_FALSE(Save({"T\xC3\xBCr"}, FFileHelper::EEncodingOptions::ForceAnsi));
 		EXPECT_FALSE(Folder.Exists("File.ini"));
-		EXPECT_NE(GetProblems(), "");
+		EXPECT_EQ(GetProblems(), "the file was not written: a single-byte encoding is asked for, and the text goes beyond ASCII. Save it in another encoding.\n");
 	}
 }

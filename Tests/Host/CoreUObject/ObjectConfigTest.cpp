@@ -50,11 +50,11 @@ namespace
 
 	TEST_F(ObjectConfig, UnreadableValuesAreReportedAndLeaveTheDefault)
 	{
-		Folder.Write(DefaultFile, "[/Script/TestObjects.TestSettings]\nFloors=many\n+Finishes=(Name=\n+Finishes=(Name=\"B\")\n");
+		Folder.Write(DefaultFile, "[/Script/TestObjects.TestSettings]\nFloors=many\n+Finishes=(Name=\n+Finishes=(Name=\"B\")\nOwner=many\n");
 		Restart();
 		EXPECT_EQ(GetDefault<UTestSettings>()->Floors, 1);
 		EXPECT_EQ(GetDefault<UTestSettings>()->Finishes.Num(), 1);
-		EXPECT_EQ(CountLogLines(TEXT("'many' is no int32")), 1);
+		EXPECT_EQ(CountLogLines(TEXT("DefaultTestHouse.ini(2): [/Script/TestObjects.TestSettings] Floors: 'many' is no int32. Correct the value, or remove the line.")), 1);
 	}
 
 	TEST_F(ObjectConfig, TheDefaultFileGetsItsSectionAndKeepsEverythingElse)

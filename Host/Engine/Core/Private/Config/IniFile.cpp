@@ -6,6 +6,8 @@
 #include "Files/TextCoding.h"
 #include "HostTextFiles.h"
 
+#include <algorithm>
+
 namespace IniFile
 {
 	namespace
@@ -30,9 +32,8 @@ namespace IniFile
 				}
 				Start = Next;
 				++Number;
-				size_t End = Text.find('\n', Start);
-				Next = End == std::string_view::npos ? Text.size() : End + 1;
-				End = End == std::string_view::npos ? Text.size() : End;
+				const size_t End = std::min(Text.find('\n', Start), Text.size());
+				Next = std::min(End + 1, Text.size());
 				Line = Text.substr(Start, End - Start);
 				const size_t Return = Line.find('\r');
 				if (Return != std::string_view::npos)

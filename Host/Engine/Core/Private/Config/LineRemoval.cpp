@@ -147,7 +147,7 @@ namespace LineRemoval
 				for (size_t First = Wanted.empty() ? Lines.size() : FindNext(Wanted.front(), 0); First < Lines.size(); First = FindNext(Wanted.front(), First + 1))
 				{
 					FPlaces Found = {First};
-					while (Found.size() < Wanted.size() && Found.back() < Lines.size())
+					while (Found.size() < Wanted.size())
 					{
 						Found.push_back(FindNext(Wanted[Found.size()], Found.back() + 1));
 					}

@@ -17,7 +17,7 @@ namespace DirectoryLock
 		struct FHeldLock
 		{
 			int File = -1;
-			int32 Count = 0;
+			int32 Count = 1;
 		};
 
 		/** As long as the process: a lock may outlive no editor, but it belongs to none. */
@@ -51,7 +51,7 @@ namespace DirectoryLock
 			close(File);
 			return false;
 		}
-		GetHeld()[Folder] = FHeldLock{File, 1};
+		GetHeld()[Folder] = FHeldLock{File};
 		return true;
 	}
 

@@ -4,6 +4,7 @@
 
 #include "Files/TextCoding.h"
 
+#include <algorithm>
 #include <climits>
 #include <cstdlib>
 #include <unistd.h>
@@ -123,7 +124,6 @@ namespace NativePath
 
 	std::string FolderOf(const std::string& FullPath)
 	{
-		const size_t Slash = FullPath.rfind('/');
-		return Slash == std::string::npos || Slash == 0 ? std::string("/") : FullPath.substr(0, Slash);
+		return FullPath.substr(0, std::max<size_t>(FullPath.rfind('/'), 1));
 	}
 }
