@@ -8,6 +8,7 @@
 /** Text of a project's DefaultEngine.ini as the unit volumes' collision check and repair know it. */
 namespace CollisionIni
 {
+	inline const char* const File = "Config/DefaultEngine.ini"; // in the project
 	inline const std::string Section = "[/Script/Engine.CollisionProfile]";
 
 	/** The two lines that a repair inserts. */
