@@ -60,3 +60,5 @@ add_test(NAME RefusedSources COMMAND ${CMAKE_COMMAND}
 	"-DDEFINITIONS=$<JOIN:${RefusedDefinitions},|>"
 	"-DSOURCES=$<JOIN:${RefusedSources},|>"
 	-P ${CMAKE_CURRENT_SOURCE_DIR}/RefusedSources.cmake)
+
+add_test(NAME BuildRules COMMAND ${CMAKE_COMMAND} -DCMAKE_FOLDER=${CMAKE_SOURCE_DIR}/cmake -P ${CMAKE_CURRENT_SOURCE_DIR}/BuildRules.cmake)
