@@ -91,3 +91,5 @@ velmorant_refused_sources(RefusedSources Refused)
 velmorant_refused_sources(RefusedSourcesNotices RefusedWrongly)
 set_tests_properties(RefusedSourcesNotices PROPERTIES PASS_REGULAR_EXPRESSION
 	"IsAccepted.cpp compiles.*IsMisspelt.cpp must be refused with.*'FNama' was not declared.*StatesNoMessage.cpp does not state.*3 of 3 sources")
+
+add_test(NAME BuildRules COMMAND ${CMAKE_COMMAND} -DCMAKE_FOLDER=${CMAKE_SOURCE_DIR}/cmake -P ${CMAKE_CURRENT_SOURCE_DIR}/BuildRules.cmake)
