@@ -127,6 +127,7 @@ TEST_F(AssetTypes, OfTypeActionsHavePlainNames)
 	{
 		const HostAssetTools::FNewAssetItem Item = FindItem(DisplayName);
 		EXPECT_FALSE(FTextInspector::GetKey(Item.DisplayName).IsSet()) << DisplayName;
+		EXPECT_EQ(KeyOf(Item.Category), "FVelmorantProEditor|VelmorantAssets") << DisplayName;
 		EXPECT_EQ(HostAssetDefinitions::FindExact(Item.AssetClass), nullptr) << DisplayName;
 	}
 }

@@ -7,6 +7,8 @@
 #include "VelmorantConfiguratorDataAsset.h"
 #include "VelmorantEditorUtilitiesLibrary.h"
 
+#include <filesystem>
+
 using testing::ElementsAre;
 
 namespace
@@ -152,6 +154,11 @@ TEST_F(ConfiguratorCreation, RefusesASecondAssetWhenTheFirstOneIsOnDiskOnly)
 	StartEditor(); // nobody has signed in: that does not matter yet
 	Create(TEXT("Tower"));
 	EXPECT_THAT(TakeOutcomes(), ElementsAre(AlreadyThere));
+
+	StartEditor();
+	std::filesystem::remove(Folder.GetNative("Project/Content/Velmorant/Configurator/Configurator_Tower.uasset.json")); // still listed
+	Create(TEXT("Tower"));
+	EXPECT_THAT(TakeOutcomes(), ElementsAre(NoProject, NoMatch)) << "what cannot be loaded does not count";
 }
 
 TEST_F(ConfiguratorCreation, ReportsBothFailuresWithoutASelectedProject)

@@ -6,6 +6,7 @@
 #include "FontIconData.h"
 #include "HostObjects.h"
 #include "HostSnapshot.h"
+#include "SSearchableComboBox.h"
 #include "ScopedTransaction.h"
 #include "Styling/AppStyle.h"
 #include "UObject/Package.h"
@@ -187,6 +188,10 @@ TEST_F(FontIconCustomization, WritesWhatIsPicked)
 	PickTile(TEXT("Buoy"));
 	Choose(TEXT("Icon Name"), TEXT("sail-boat"));
 	EXPECT_EQ(ToUtf8(Spot->Icon.IconName), "sail-boat");
+	PickTile(TEXT("Buoy"));
+	Click(TEXT("Icon Name"));
+	EXPECT_EQ(ToUtf8(*All<SSearchableComboBox>(TEXT("Icon Name"))[0]->GetSelectedItem()), "Buoy") << "the open list starts where the property is";
+	Choose(TEXT("Icon Name"), TEXT("sail-boat"));
 
 	// Nor may the grid.
 	EXPECT_THAT(Tiles(), ElementsAre("anchor", "[sail-boat]", "Buoy"));

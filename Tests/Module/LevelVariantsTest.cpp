@@ -9,6 +9,8 @@
 #include "VelmorantConfiguratorDataAsset.h"
 #include "VelmorantEditorUtilitiesLibrary.h"
 
+#include <cstring>
+
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -316,6 +318,11 @@ TEST_F(LevelVariants, ANoneNameIsValidEnough)
 	Generate(Asset);
 	EXPECT_THAT(TakeOutcomes(), ElementsAre(Created));
 	EXPECT_EQ(ToUtf8(Asset->LevelVariantSets.ToString()), "/Game/Towers/LevelVariant_None.LevelVariant_None");
+
+	TGuardValue<FName> Broken(Asset->ConfiguratorName, FName());
+	std::memset(static_cast<void*>(&Asset->ConfiguratorName), 0x7f, sizeof(FName)); // no name of the table
+	Generate(Asset);
+	EXPECT_THAT(TakeOutcomes(), ElementsAre(FOutcome{"Failed Configuration LevelVariantSet Creation ", "Configurator data not valid to create LevelVariantSet", SNotificationItem::CS_Fail, 7.0f}));
 }
 
 TEST_F(LevelVariants, DoNothingWithoutADataAsset)

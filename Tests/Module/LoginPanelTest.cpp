@@ -2,6 +2,7 @@
 
 #include "Components/EditableText.h"
 #include "EditorWidgets/VlmEWLoginUser.h"
+#include "Engine/Engine.h"
 #include "PanelLayouts.h"
 #include "TestPanel.h"
 #include "ToolkitTest.h"
@@ -209,6 +210,11 @@ TEST_F(LoginPanel, KeepsItsFieldsWhereNothingIsRemembered)
 		EXPECT_EQ(Panel.TakeEvents().empty(), Saved == std::string("nothing"));
 		EXPECT_NE(UVelmorantSDKEngineSubsystem::GetVelmorantEditorUser(false), nullptr) << "the panel makes the user whom it asks";
 	}
+
+	FTestPanel WithoutSdk = MakePanel();
+	TGuardValue<UEngine*> NoEngine(GEngine, nullptr); // whose subsystem the SDK is
+	WithoutSdk.Show();
+	EXPECT_EQ(WithoutSdk.Read(TEXT("UserName")), "");
 }
 
 TEST_F(LoginPanel, TakesNameAndOptionAsTheyAre)

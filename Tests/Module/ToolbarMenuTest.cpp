@@ -20,7 +20,8 @@
 #include "VelmorantProEditor.h"
 #include "VelmorantSDKEngineSubsystem.h"
 #include "VelmorantSDKSettings.h"
-#include "Widgets/SWidget.h"
+#include "WidgetSearch.h"
+#include "Widgets/Text/STextBlock.h"
 
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -57,6 +58,17 @@ protected:
 	{
 		FString Reason;
 		return StaticCastSharedPtr<SHostMenuEntry>(HostSnapshot::Find(GetMenu(), Name, Reason));
+	}
+
+	/** Keys of the texts above the entries of the open menu; nothing for what is not translated. */
+	std::vector<std::string> KeysOfTexts() const
+	{
+		std::vector<std::string> Keys;
+		for (const STextBlock* Text : AllWidgets<STextBlock>(*GetMenu()))
+		{
+			Keys.push_back(ToUtf8(FTextInspector::GetKey(Text->GetText()).Get(FString())));
+		}
+		return Keys;
 	}
 
 	/** What the launchers have told so far. */
@@ -148,6 +160,7 @@ TEST_F(ToolbarMenu, TellsWhoIsSignedInAtEachOpening)
 	WriteServiceWith(R"("tokenSeconds": 60)");
 	StartEditor();
 	EXPECT_THAT(ReadMenu(), HasSubstr("text UserName \"Developer not registered\""));
+	EXPECT_THAT(KeysOfTexts(), ElementsAre("DeveloperNotRegistered", "DeveloperLogin"));
 
 	SignIn();
 	const std::string SignedIn = ReadMenu();
@@ -155,6 +168,7 @@ TEST_F(ToolbarMenu, TellsWhoIsSignedInAtEachOpening)
 	EXPECT_THAT(SignedIn, HasSubstr("button [Developer Panel]"));
 	EXPECT_THAT(SignedIn, Not(HasSubstr("Login")));
 	EXPECT_THAT(SignedIn, Not(HasSubstr("sesame-77")));
+	EXPECT_THAT(KeysOfTexts(), ElementsAre("", "", "DeveloperPanel_Label"));
 
 	Wait(61.0);
 	EXPECT_THAT(ReadMenu(), HasSubstr("text UserName \"Developer not registered\"")) << "the token has expired";

@@ -6,6 +6,7 @@
 #include "HostSnapshot.h"
 #include "ToolkitTest.h"
 #include "VelmorantLevelActors.h"
+#include "WidgetSearch.h"
 
 class IPropertyHandle;
 
@@ -48,22 +49,9 @@ protected:
 	template<typename WidgetType>
 	std::vector<WidgetType*> All(const TCHAR* Row) const
 	{
-		std::vector<WidgetType*> Found;
-		const auto Collect = [&Found](const auto& Self, SWidget& Widget) -> void {
-			if (WidgetType* Fitting = dynamic_cast<WidgetType*>(&Widget))
-			{
-				Found.push_back(Fitting);
-			}
-			for (const TSharedRef<SWidget>& Child : FHostWidgetAccess::ChildrenOf(Widget))
-			{
-				Self(Self, *Child);
-			}
-		};
 		FString Reason;
-		if (const TSharedPtr<SWidget> Widget = Row ? HostSnapshot::Find(View->GetWidget(), Row, Reason) : View->GetWidget().ToSharedPtr())
-		{
-			Collect(Collect, *Widget);
-		}
+		const TSharedPtr<SWidget> Widget = Row ? HostSnapshot::Find(View->GetWidget(), Row, Reason) : View->GetWidget().ToSharedPtr();
+		const std::vector<WidgetType*> Found = Widget.IsValid() ? AllWidgets<WidgetType>(*Widget) : std::vector<WidgetType*>();
 		EXPECT_FALSE(Found.empty()) << ToUtf8(Reason);
 		return Found;
 	}

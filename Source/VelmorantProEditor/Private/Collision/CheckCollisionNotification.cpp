@@ -61,7 +61,6 @@ void UCheckCollisionNotification::ShowProfilesAddedNotification()
 	Info.bUseSuccessFailIcons = true;
 	Info.WidthOverride = CheckCollisionNotification::NotificationWidth;
 	Info.ExpireDuration = CheckCollisionNotification::AddedSeconds;
-	Info.bFireAndForget = true;
 	VelmorantNotifications::Show(Info, SNotificationItem::CS_Success);
 }
 
