@@ -38,6 +38,7 @@ endfunction()
 velmorant_headers_alone(PrivateHeaders ${CMAKE_SOURCE_DIR}/Source/VelmorantProEditor/Private)
 add_library(ModuleSourceChecks OBJECT ${CMAKE_CURRENT_BINARY_DIR}/ModuleUnity.cpp ${PrivateHeaders})
 target_link_libraries(ModuleSourceChecks PRIVATE VelmorantBuild)
+target_compile_options(ModuleSourceChecks PRIVATE ${VELMORANT_UNMEASURED})
 target_include_directories(ModuleSourceChecks PRIVATE $<TARGET_PROPERTY:VelmorantProEditor,INCLUDE_DIRECTORIES>)
 target_compile_definitions(ModuleSourceChecks PRIVATE $<TARGET_PROPERTY:VelmorantProEditor,COMPILE_DEFINITIONS>)
 add_dependencies(ModuleSourceChecks VelmorantProEditor)
@@ -46,17 +47,49 @@ add_dependencies(ModuleSourceChecks VelmorantProEditor)
 velmorant_headers_alone(PublicHeaders ${CMAKE_SOURCE_DIR}/Source/VelmorantProEditor/Public)
 add_library(ModulePublicHeaders OBJECT ${PublicHeaders})
 target_link_libraries(ModulePublicHeaders PRIVATE VelmorantBuild)
+target_compile_options(ModulePublicHeaders PRIVATE ${VELMORANT_UNMEASURED})
 target_include_directories(ModulePublicHeaders PRIVATE $<TARGET_PROPERTY:VelmorantProEditor,INTERFACE_INCLUDE_DIRECTORIES>)
 target_compile_definitions(ModulePublicHeaders PRIVATE $<TARGET_PROPERTY:VelmorantProEditor,INTERFACE_COMPILE_DEFINITIONS>)
 add_dependencies(ModulePublicHeaders VelmorantProEditor)
 
-# Each file must be refused, for the reason that its first line gives as a regular expression after "refused: ".
-file(GLOB RefusedSources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/Host/Refused/*.cpp)
-set(RefusedIncludes "$<TARGET_PROPERTY:UMG,INTERFACE_INCLUDE_DIRECTORIES>")
-set(RefusedDefinitions "$<TARGET_PROPERTY:UMG,INTERFACE_COMPILE_DEFINITIONS>")
-add_test(NAME RefusedSources COMMAND ${CMAKE_COMMAND}
-	"-DCOMPILER=${CMAKE_CXX_COMPILER}"
-	"-DINCLUDES=$<JOIN:${RefusedIncludes},|>"
-	"-DDEFINITIONS=$<JOIN:${RefusedDefinitions},|>"
-	"-DSOURCES=$<JOIN:${RefusedSources},|>"
-	-P ${CMAKE_CURRENT_SOURCE_DIR}/RefusedSources.cmake)
+# Code that must not compile. Each file states behind "// compiler: " a part of what the compiler must say of it. What they include is
+# compiled once, in advance.
+set(RefusedFlags ${CMAKE_CURRENT_BINARY_DIR}/RefusedFlags.txt)
+set(RefusedHeader ${CMAKE_CURRENT_BINARY_DIR}/RefusedHeader.h)
+file(GENERATE OUTPUT ${RefusedFlags} CONTENT "-std=c++20 -Wall -Wextra -Wsuggest-override -Werror
+'-I$<JOIN:$<TARGET_PROPERTY:UMG,INTERFACE_INCLUDE_DIRECTORIES>,'
+'-I>'
+'-D$<JOIN:$<TARGET_PROPERTY:UMG,INTERFACE_COMPILE_DEFINITIONS>,'
+'-D>'
+")
+file(CONFIGURE OUTPUT ${RefusedHeader} CONTENT "// Generated: what the sources that must not compile include.
+#include \"Components/CheckBox.h\"
+#include \"Containers/EnumAsByte.h\"
+#include \"CoreMinimal.h\"
+#include \"Modules/ModuleInterface.h\"
+" @ONLY)
+add_custom_command(
+	OUTPUT ${RefusedHeader}.gch
+	COMMAND ${CMAKE_CXX_COMPILER} @${RefusedFlags} -x c++-header ${RefusedHeader} -o ${RefusedHeader}.gch -MD -MF ${RefusedHeader}.d
+	DEPENDS ${RefusedHeader} ${RefusedFlags}
+	DEPFILE ${RefusedHeader}.d
+	COMMENT "Precompiling what refused sources include"
+	VERBATIM)
+add_custom_target(RefusedSourcesHeader ALL DEPENDS ${RefusedHeader}.gch)
+add_dependencies(RefusedSourcesHeader UMG)
+
+function(velmorant_refused_sources Name Folder)
+	file(GLOB Sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/Host/${Folder}/*.cpp)
+	list(JOIN Sources "|" Sources)
+	add_test(NAME ${Name} COMMAND ${CMAKE_COMMAND} "-DCOMPILER=${CMAKE_CXX_COMPILER}" "-DFLAGS=${RefusedFlags}"
+		"-DHEADER=${RefusedHeader}" "-DSOURCES=${Sources}" -P ${CMAKE_CURRENT_SOURCE_DIR}/RefusedSources.cmake)
+endfunction()
+
+velmorant_refused_sources(RefusedSources Refused)
+
+# The check itself: what compiles, fails for another reason or states nothing is noticed, each with its own words.
+velmorant_refused_sources(RefusedSourcesNotices RefusedWrongly)
+set_tests_properties(RefusedSourcesNotices PROPERTIES PASS_REGULAR_EXPRESSION
+	"IsAccepted.cpp compiles.*IsMisspelt.cpp must be refused with.*'FNama' was not declared.*StatesNoMessage.cpp does not state.*3 of 3 sources")
+
+add_test(NAME BuildRules COMMAND ${CMAKE_COMMAND} -DCMAKE_FOLDER=${CMAKE_SOURCE_DIR}/cmake -P ${CMAKE_CURRENT_SOURCE_DIR}/BuildRules.cmake)

@@ -6,6 +6,13 @@
 
 namespace HeaderTool
 {
+	std::string PartnerOf(const std::string& Bracket)
+	{
+		static const std::string Pairs = "(){}[]";
+		const size_t Index = Pairs.find(Bracket);
+		return Pairs.substr(Index % 2 ? Index - 1 : Index + 1, 1);
+	}
+
 	bool CheckBrackets(const std::string& Path, const std::vector<FToken>& Tokens, FDiagnostics& Diagnostics)
 	{
 		std::vector<const FToken*> Open;
@@ -21,16 +28,15 @@ namespace HeaderTool
 			}
 			else if (Token.Is(")") || Token.Is("}") || Token.Is("]"))
 			{
-				const std::string Partner = Token.Is(")") ? "(" : Token.Is("}") ? "{"
-																				: "[";
+				const std::string Partner = PartnerOf(Token.Text);
 				if (Open.empty())
 				{
-					Diagnostics.Error(Path, Token.Line, "'" + Token.Text + "' closes nothing; remove it or add the missing '" + Partner + "'.");
+					Diagnostics.Error(Path, Token.Place, "'" + Token.Text + "' closes nothing; remove it or add the missing '" + Partner + "'.");
 					return false;
 				}
 				if (Open.back()->Text != Partner)
 				{
-					Diagnostics.Error(Path, Open.back()->Line, "'" + Open.back()->Text + "' is not closed before the '" + Token.Text + "' in line " + std::to_string(Token.Line) + "; balance the brackets.");
+					Diagnostics.Error(Path, Open.back()->Place, "'" + Open.back()->Text + "' is not closed before the '" + Token.Text + "' in line " + std::to_string(Token.Place.Line) + "; balance the brackets.");
 					return false;
 				}
 				Open.pop_back();
@@ -38,9 +44,7 @@ namespace HeaderTool
 		}
 		if (!Open.empty())
 		{
-			Diagnostics.Error(Path, Open.back()->Line, "'" + Open.back()->Text + "' is never closed; add the missing '" + std::string(Open.back()->Is("(") ? ")" : Open.back()->Is("{") ? "}"
-																																														: "]") +
-					"'.");
+			Diagnostics.Error(Path, Open.back()->Place, "'" + Open.back()->Text + "' is never closed; add the missing '" + PartnerOf(Open.back()->Text) + "'.");
 			return false;
 		}
 		return true;

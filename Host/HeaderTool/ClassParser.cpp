@@ -11,8 +11,17 @@
 
 namespace HeaderTool
 {
-	namespace
+	namespace ClassParser
 	{
+		EAccess AccessNamed(const std::string& Keyword)
+		{
+			if (Keyword == "public")
+			{
+				return EAccess::Public;
+			}
+			return Keyword == "protected" ? EAccess::Protected : EAccess::Private;
+		}
+
 		class FBodyParser
 		{
 		public:
@@ -40,7 +49,7 @@ namespace HeaderTool
 					}
 					catch (const FSyntaxError& Error)
 					{
-						Diagnostics.Error(Path, Error.Line, Error.Message);
+						Diagnostics.Error(Path, Error.Place, Error.Message);
 						Recover(Start);
 					}
 				}
@@ -54,8 +63,7 @@ namespace HeaderTool
 				const FToken& Token = Cursor.Peek();
 				if (IsAccessSpecifier(Cursor))
 				{
-					Access = Token.Is("public") ? EAccess::Public : Token.Is("protected") ? EAccess::Protected
-																						  : EAccess::Private;
+					Access = AccessNamed(Token.Text);
 					Cursor.Next();
 					Cursor.Next();
 				}
@@ -77,7 +85,7 @@ namespace HeaderTool
 				}
 				else if (Token.IsIdentifier() && IsReflectionMacro(Token.Text))
 				{
-					throw FSyntaxError{Token.Line, Token.Text + " inside of '" + Name + "': a reflected type cannot be nested; move it to file scope."};
+					throw FSyntaxError{Token.Place, Token.Text + " inside of '" + Name + "': a reflected type cannot be nested; move it to file scope."};
 				}
 				else
 				{
@@ -88,11 +96,11 @@ namespace HeaderTool
 			void GeneratedBody()
 			{
 				const FToken& Token = Cursor.Next();
-				if (Facts.MacroLine != 0)
+				if (Facts.MacroPlace.IsSet())
 				{
-					throw FSyntaxError{Token.Line, "'" + Name + "' has " + Facts.Macro + " already in line " + std::to_string(Facts.MacroLine) + "; keep one."};
+					throw FSyntaxError{Token.Place, "'" + Name + "' has " + Facts.Macro + " already in line " + std::to_string(Facts.MacroPlace.Line) + "; keep one."};
 				}
-				Facts.MacroLine = Token.Line;
+				Facts.MacroPlace = Token.Place;
 				Facts.Macro = Token.Text;
 				Cursor.Expect("(", "after " + Token.Text);
 				Cursor.Expect(")", "after " + Token.Text + "(");
@@ -105,11 +113,10 @@ namespace HeaderTool
 
 			void Property()
 			{
-				const int Line = Cursor.Peek().Line;
 				FProperty Parsed = ParseProperty(Cursor, Path, Access, Diagnostics);
 				if (Side == EBodySide::NativeInterface || Side == EBodySide::InterfaceUClass)
 				{
-					Diagnostics.Error(Path, Line, "interface '" + Name + "' cannot have the UPROPERTY '" + Parsed.Name + "'; put it into the implementing classes.");
+					Diagnostics.Error(Path, Parsed.Place, "interface '" + Name + "' cannot have the UPROPERTY '" + Parsed.Name + "'; put it into the implementing classes.");
 					return;
 				}
 				Class.Properties.push_back(std::move(Parsed));
@@ -117,16 +124,15 @@ namespace HeaderTool
 
 			void Function()
 			{
-				const int Line = Cursor.Peek().Line;
 				FFunction Parsed = ParseFunction(Cursor, Path, Access, Diagnostics);
 				if (Side == EBodySide::InterfaceUClass)
 				{
-					Diagnostics.Error(Path, Line, "UFUNCTION '" + Parsed.Name + "' cannot stand in '" + Name + "'; move it to '" + Class.NativeInterfaceName() + "'.");
+					Diagnostics.Error(Path, Parsed.Place, "UFUNCTION '" + Parsed.Name + "' cannot stand in '" + Name + "'; move it to '" + Class.NativeInterfaceName() + "'.");
 					return;
 				}
 				if (Side == EBodySide::Struct)
 				{
-					Diagnostics.Error(Path, Line, "struct '" + Name + "' cannot have the UFUNCTION '" + Parsed.Name + "'; remove the macro, or move the function to a class.");
+					Diagnostics.Error(Path, Parsed.Place, "struct '" + Name + "' cannot have the UFUNCTION '" + Parsed.Name + "'; remove the macro, or move the function to a class.");
 					return;
 				}
 				Class.Functions.push_back(std::move(Parsed));
@@ -149,7 +155,7 @@ namespace HeaderTool
 				}
 				if (!Skipped.NestedMacro.empty())
 				{
-					Diagnostics.Error(Path, Skipped.NestedMacroLine, Skipped.NestedMacro + " inside of a type nested in '" + Name + "': a reflected type cannot be nested; move it to file scope.");
+					Diagnostics.Error(Path, Skipped.NestedMacroPlace, Skipped.NestedMacro + " inside of a type nested in '" + Name + "': a reflected type cannot be nested; move it to file scope.");
 				}
 				for (const FCallLike& Call : Skipped.Calls)
 				{
@@ -215,7 +221,7 @@ namespace HeaderTool
 			{
 			}
 			const FTypeUse Type = ParseType(Cursor);
-			return {Type.Spell(), Type.Line};
+			return {Type.Spell(), Type.Place};
 		}
 	}
 
@@ -225,29 +231,29 @@ namespace HeaderTool
 		SkipDecorations(Cursor);
 		if (!Cursor.Is("class") && !Cursor.Is("struct"))
 		{
-			throw FSyntaxError{Cursor.Peek().Line, "expected a class or struct " + Where + ", but found '" + Cursor.Peek().Text + "'."};
+			throw FSyntaxError{Cursor.Peek().Place, "expected a class or struct " + Where + ", but found '" + Cursor.Peek().Text + "'."};
 		}
 		Head.Keyword = Cursor.Next().Text;
 		Head.bExported = SkipDecorations(Cursor);
-		Head.Line = Cursor.Peek().Line;
+		Head.Place = Cursor.Peek().Place;
 		Head.Name = Cursor.ExpectIdentifier("the name of the " + Head.Keyword + " " + Where);
 		Cursor.Accept("final");
 		if (Cursor.Accept(":"))
 		{
 			do
 			{
-				Head.Bases.push_back(ParseBase(Cursor));
+				Head.Bases.push_back(ClassParser::ParseBase(Cursor));
 			} while (Cursor.Accept(","));
 		}
 		if (!Cursor.Is("{"))
 		{
-			throw FSyntaxError{Cursor.Peek().Line, "expected '{' after '" + Head.Keyword + " " + Head.Name + "', but found '" + Cursor.Peek().Text + "'."};
+			throw FSyntaxError{Cursor.Peek().Place, "expected '{' after '" + Head.Keyword + " " + Head.Name + "', but found '" + Cursor.Peek().Text + "'."};
 		}
 		return Head;
 	}
 
 	void ParseClassBody(FTokenCursor& Cursor, const std::string& Path, EBodySide Side, FClass& Class, FDiagnostics& Diagnostics)
 	{
-		FBodyParser(Cursor, Path, Side, Class, Diagnostics).Run();
+		ClassParser::FBodyParser(Cursor, Path, Side, Class, Diagnostics).Run();
 	}
 }

@@ -15,7 +15,7 @@ namespace HeaderTool
 		std::string Keyword; // "class" or "struct"
 		std::string Name;
 		bool bExported = false;
-		int Line = 0;
+		FPlace Place;
 		std::vector<FBaseSpecifier> Bases;
 	};
 

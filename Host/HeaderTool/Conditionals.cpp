@@ -8,7 +8,7 @@
 
 namespace HeaderTool
 {
-	namespace
+	namespace Conditionals
 	{
 		enum class EBranch
 		{
@@ -20,7 +20,7 @@ namespace HeaderTool
 		struct FCondition
 		{
 			std::string Text; // as written, for messages
-			int Line = 0;
+			FPlace Place;
 			EBranch Branch = EBranch::On;
 			bool bTaken = false; // a branch of this condition has been kept already
 			bool bKeeping = false;
@@ -60,8 +60,11 @@ namespace HeaderTool
 				return EBranch::Unknown;
 			}
 			const std::string Text = WithoutBlanks(Condition);
-			return AlwaysOn.count(Text) ? EBranch::On : AlwaysOff.count(Text) ? EBranch::Off
-																			  : EBranch::Unknown;
+			if (AlwaysOn.count(Text))
+			{
+				return EBranch::On;
+			}
+			return AlwaysOff.count(Text) ? EBranch::Off : EBranch::Unknown;
 		}
 
 		class FConditionals
@@ -90,7 +93,7 @@ namespace HeaderTool
 				}
 				for (const FCondition& Condition : Stack)
 				{
-					Diagnostics.Error(Path, Condition.Line, "'#" + Condition.Text + "' is never closed; add the missing '#endif'.");
+					Diagnostics.Error(Path, Condition.Place, "'#" + Condition.Text + "' is never closed; add the missing '#endif'.");
 				}
 				return Result;
 			}
@@ -114,7 +117,7 @@ namespace HeaderTool
 					{
 						if (Condition.Branch == EBranch::Unknown)
 						{
-							Diagnostics.Error(Path, Token.Line, Token.Text + " must not stand inside '#" + Condition.Text + "' (line " + std::to_string(Condition.Line) + "): reflected code may only be surrounded by '#if WITH_EDITOR' or '#if WITH_EDITORONLY_DATA'; move it out.");
+							Diagnostics.Error(Path, Token.Place, Token.Text + " must not stand inside '#" + Condition.Text + "' (line " + std::to_string(Condition.Place.Line) + "): reflected code may only be surrounded by '#if WITH_EDITOR' or '#if WITH_EDITORONLY_DATA'; move it out.");
 							break;
 						}
 					}
@@ -140,7 +143,7 @@ namespace HeaderTool
 				{
 					if (Stack.empty())
 					{
-						Diagnostics.Error(Path, Token.Line, "'#endif' closes nothing; remove it or add the missing '#if'.");
+						Diagnostics.Error(Path, Token.Place, "'#endif' closes nothing; remove it or add the missing '#if'.");
 						return;
 					}
 					Stack.pop_back();
@@ -155,7 +158,7 @@ namespace HeaderTool
 			{
 				FCondition Condition;
 				Condition.Text = Token.Text;
-				Condition.Line = Token.Line;
+				Condition.Place = Token.Place;
 				Condition.Branch = IsIncludeGuard(Keyword, Rest) ? EBranch::On : Evaluate(Keyword, Rest);
 				Condition.bKeeping = IsKeeping() && Condition.Branch != EBranch::Off;
 				Condition.bTaken = Condition.Branch != EBranch::Off;
@@ -166,15 +169,16 @@ namespace HeaderTool
 			{
 				if (Stack.empty())
 				{
-					Diagnostics.Error(Path, Token.Line, "'#" + Keyword + "' belongs to no '#if'; remove it or add the missing '#if'.");
+					Diagnostics.Error(Path, Token.Place, "'#" + Keyword + "' belongs to no '#if'; remove it or add the missing '#if'.");
 					return;
 				}
 				FCondition Condition = Stack.back();
 				Stack.pop_back();
-				const bool bWasUnknown = Condition.Branch == EBranch::Unknown;
 				const EBranch Own = Keyword == "else" ? EBranch::On : Evaluate(Keyword, Rest);
-				Condition.Branch = bWasUnknown ? EBranch::Unknown : Condition.bTaken ? EBranch::Off
-																					 : Own;
+				if (Condition.Branch != EBranch::Unknown)
+				{
+					Condition.Branch = Condition.bTaken ? EBranch::Off : Own;
+				}
 				Condition.bKeeping = IsKeeping() && !Condition.bTaken && Condition.Branch != EBranch::Off;
 				Condition.bTaken |= Condition.Branch != EBranch::Off;
 				Stack.push_back(Condition);
@@ -192,7 +196,7 @@ namespace HeaderTool
 				const size_t Last = Rest.find_last_of("\">");
 				if (First != std::string::npos && Last > First)
 				{
-					Result.Includes.push_back({Rest.substr(First + 1, Last - First - 1), Token.Line});
+					Result.Includes.push_back({Rest.substr(First + 1, Last - First - 1), Token.Place});
 				}
 			}
 
@@ -215,6 +219,6 @@ namespace HeaderTool
 
 	FConditionedSource ResolveConditionals(const std::string& Path, const std::vector<FToken>& Tokens, FDiagnostics& Diagnostics)
 	{
-		return FConditionals(Path, Tokens, Diagnostics).Run();
+		return Conditionals::FConditionals(Path, Tokens, Diagnostics).Run();
 	}
 }

@@ -12,7 +12,7 @@ namespace HeaderTool
 	struct FIncludeLine
 	{
 		std::string Path;
-		int Line = 0;
+		FPlace Place;
 	};
 
 	/** A header after the preprocessor directives have been dealt with. */

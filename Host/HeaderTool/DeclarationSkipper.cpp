@@ -7,7 +7,7 @@
 
 namespace HeaderTool
 {
-	namespace
+	namespace DeclarationSkipper
 	{
 		class FSkipper
 		{
@@ -109,7 +109,7 @@ namespace HeaderTool
 					if (Result.NestedMacro.empty() && Token.IsIdentifier() && IsReflectionMacro(Token.Text))
 					{
 						Result.NestedMacro = Token.Text;
-						Result.NestedMacroLine = Token.Line;
+						Result.NestedMacroPlace = Token.Place;
 					}
 				}
 			}
@@ -139,8 +139,7 @@ namespace HeaderTool
 						Cursor.SkipBalanced();
 						continue;
 					}
-					Depth += Cursor.Is("<") ? 1 : Cursor.Is(">") ? -1
-																 : 0;
+					Depth += Cursor.Is("<") - Cursor.Is(">");
 					Take();
 				} while (Depth > 0 && !Cursor.AtEnd());
 			}
@@ -164,7 +163,7 @@ namespace HeaderTool
 
 	FSkippedDeclaration SkipDeclaration(FTokenCursor& Cursor)
 	{
-		return FSkipper(Cursor).Run();
+		return DeclarationSkipper::FSkipper(Cursor).Run();
 	}
 
 	bool IsAccessSpecifier(const FTokenCursor& Cursor)

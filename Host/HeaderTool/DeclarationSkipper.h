@@ -22,7 +22,7 @@ namespace HeaderTool
 	{
 		std::vector<FCallLike> Calls;
 		std::string NestedMacro; // a reflection macro inside of its braces, "" if none
-		int NestedMacroLine = 0;
+		FPlace NestedMacroPlace;
 	};
 
 	/**

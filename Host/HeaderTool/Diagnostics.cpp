@@ -9,9 +9,9 @@
 
 namespace HeaderTool
 {
-	void FDiagnostics::Error(const std::string& Path, int Line, const std::string& Message)
+	void FDiagnostics::Error(const std::string& Path, const FPlace& Place, const std::string& Message)
 	{
-		Errors.push_back({Path, Line, Message});
+		Errors.push_back({Path, Place, Message});
 	}
 
 	void FDiagnostics::Print(std::ostream& Out) const
@@ -25,14 +25,15 @@ namespace HeaderTool
 		std::stable_sort(Sorted.begin(), Sorted.end(), [&FileOrder](const FDiagnostic& A, const FDiagnostic& B) {
 			const size_t FileA = FileOrder[A.Path];
 			const size_t FileB = FileOrder[B.Path];
-			return FileA != FileB ? FileA < FileB : A.Line < B.Line; });
+			return FileA != FileB ? FileA < FileB : A.Place < B.Place; });
 		std::set<std::string> Printed;
 		for (const FDiagnostic& Diagnostic : Sorted)
 		{
 			std::string Text = Diagnostic.Path;
-			if (Diagnostic.Line > 0)
+			if (Diagnostic.Place.IsSet())
 			{
-				Text += "(" + std::to_string(Diagnostic.Line) + ")";
+				const std::string Column = Diagnostic.Place.Column > 0 ? "," + std::to_string(Diagnostic.Place.Column) : "";
+				Text += "(" + std::to_string(Diagnostic.Place.Line) + Column + ")";
 			}
 			Text += ": error: " + Diagnostic.Message;
 			if (Printed.insert(Text).second)

@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "Place.h"
+
 #include <iosfwd>
 #include <string>
 #include <vector>
@@ -12,7 +14,7 @@ namespace HeaderTool
 	struct FDiagnostic
 	{
 		std::string Path;
-		int Line = 0; // 1-based; 0 when the whole file is meant
+		FPlace Place; // unset when the whole file is meant
 		std::string Message;
 	};
 
@@ -20,12 +22,12 @@ namespace HeaderTool
 	class FDiagnostics
 	{
 	public:
-		void Error(const std::string& Path, int Line, const std::string& Message);
+		void Error(const std::string& Path, const FPlace& Place, const std::string& Message);
 
 		bool HasErrors() const { return !Errors.empty(); }
 		const std::vector<FDiagnostic>& GetErrors() const { return Errors; }
 
-		/** Prints `path(line): error: message`, files in the order they were read, lines ascending, repeats left out. */
+		/** Prints `path(line,column): error: message`, files in the order they were read, places ascending, repeats left out. */
 		void Print(std::ostream& Out) const;
 
 	private:

@@ -7,7 +7,7 @@
 
 namespace HeaderTool
 {
-	namespace
+	namespace EnumParser
 	{
 		/** `= …` up to what ends the enumerator. */
 		void SkipValue(FTokenCursor& Cursor)
@@ -25,13 +25,13 @@ namespace HeaderTool
 			}
 		}
 
-		FEnumerator ParseEnumerator(FTokenCursor& Cursor, const std::string& Path)
+		FEnumerator ParseEnumerator(FTokenCursor& Cursor, const std::string& Path, FDiagnostics& Diagnostics)
 		{
 			FEnumerator Enumerator;
 			FSpecifierList List;
 			List.Path = Path;
 			const std::string Comment = Cursor.Peek().Comment;
-			Enumerator.Line = Cursor.Peek().Line;
+			Enumerator.Place = Cursor.Peek().Place;
 			Enumerator.Name = Cursor.ExpectIdentifier("the name of an enumerator");
 			SkipDecorations(Cursor);
 			if (Cursor.Is("UMETA"))
@@ -47,7 +47,7 @@ namespace HeaderTool
 				}
 			}
 			List.Comment = Comment;
-			ApplyEnumeratorSpecifiers(List, Enumerator);
+			ApplyEnumeratorSpecifiers(List, Enumerator, Diagnostics);
 			return Enumerator;
 		}
 
@@ -56,6 +56,7 @@ namespace HeaderTool
 		{
 			if (Cursor.Accept(":"))
 			{
+				Enum.UnderlyingPlace = Cursor.Peek().Place;
 				Enum.Underlying = Cursor.ExpectIdentifier("the underlying type of '" + Enum.Name + "'");
 				while (!Cursor.AtEnd() && !Cursor.Is("{") && !Cursor.Is(";"))
 				{
@@ -64,12 +65,12 @@ namespace HeaderTool
 			}
 		}
 
-		void ParseEnumerators(FTokenCursor& Cursor, const std::string& Path, FEnum& Enum)
+		void ParseEnumerators(FTokenCursor& Cursor, const std::string& Path, FEnum& Enum, FDiagnostics& Diagnostics)
 		{
 			Cursor.Expect("{", "to begin the enumerators of '" + Enum.Name + "'");
 			while (!Cursor.Is("}"))
 			{
-				Enum.Enumerators.push_back(ParseEnumerator(Cursor, Path));
+				Enum.Enumerators.push_back(ParseEnumerator(Cursor, Path, Diagnostics));
 				if (!Cursor.Is("}"))
 				{
 					Cursor.Expect(",", "between the enumerators of '" + Enum.Name + "'");
@@ -85,16 +86,16 @@ namespace HeaderTool
 		FEnum Enum;
 		ApplyEnumSpecifiers(List, Enum, Diagnostics);
 		SkipDecorations(Cursor);
-		Enum.Line = Cursor.Peek().Line;
 		if (Cursor.Accept("namespace"))
 		{
 			Enum.Form = EEnumForm::Namespaced;
+			Enum.Place = Cursor.Peek().Place;
 			Enum.Name = Cursor.ExpectIdentifier("the name of the namespace after UENUM()");
 			Cursor.Expect("{", "after 'namespace " + Enum.Name + "'");
 			Cursor.Expect("enum", "in the namespace '" + Enum.Name + "' after UENUM()");
 			Enum.InnerName = Cursor.ExpectIdentifier("the name of the enum in '" + Enum.Name + "'");
-			ParseUnderlying(Cursor, Enum);
-			ParseEnumerators(Cursor, List.Path, Enum);
+			EnumParser::ParseUnderlying(Cursor, Enum);
+			EnumParser::ParseEnumerators(Cursor, List.Path, Enum, Diagnostics);
 			// Helpers may follow the enum in its namespace.
 			while (!Cursor.AtEnd() && !Cursor.Is("}"))
 			{
@@ -114,10 +115,10 @@ namespace HeaderTool
 		Cursor.Expect("enum", "after UENUM()");
 		Enum.Form = Cursor.Accept("class") || Cursor.Accept("struct") ? EEnumForm::Scoped : EEnumForm::Plain;
 		SkipDecorations(Cursor);
-		Enum.Line = Cursor.Peek().Line;
+		Enum.Place = Cursor.Peek().Place;
 		Enum.Name = Cursor.ExpectIdentifier("the name of the enum after UENUM()");
-		ParseUnderlying(Cursor, Enum);
-		ParseEnumerators(Cursor, List.Path, Enum);
+		EnumParser::ParseUnderlying(Cursor, Enum);
+		EnumParser::ParseEnumerators(Cursor, List.Path, Enum, Diagnostics);
 		return Enum;
 	}
 }

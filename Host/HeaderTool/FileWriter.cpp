@@ -15,7 +15,7 @@
 
 namespace HeaderTool
 {
-	namespace
+	namespace FileWriter
 	{
 		bool HasText(const std::filesystem::path& Path, const std::string& Text)
 		{
@@ -41,7 +41,7 @@ namespace HeaderTool
 				Stream.close();
 				if (!Stream)
 				{
-					Diagnostics.Error(Temporary.string(), 0, std::string("cannot be written (") + std::strerror(errno) + "); check the folder and its permissions.");
+					Diagnostics.Error(Temporary.string(), {}, std::string("cannot be written (") + std::strerror(errno) + "); check the folder and its permissions.");
 					std::error_code Ignored;
 					std::filesystem::remove(Temporary, Ignored);
 					return false;
@@ -51,7 +51,7 @@ namespace HeaderTool
 			std::filesystem::rename(Temporary, Path, Code);
 			if (Code)
 			{
-				Diagnostics.Error(Path.string(), 0, "cannot be replaced (" + Code.message() + "); check the folder and its permissions.");
+				Diagnostics.Error(Path.string(), {}, "cannot be replaced (" + Code.message() + "); check the folder and its permissions.");
 				std::filesystem::remove(Temporary, Code);
 				return false;
 			}
@@ -76,7 +76,7 @@ namespace HeaderTool
 			{
 				if (!std::filesystem::remove(Path, Code) && Code)
 				{
-					Diagnostics.Error(Path.string(), 0, "is out of date and cannot be removed (" + Code.message() + "); remove it.");
+					Diagnostics.Error(Path.string(), {}, "is out of date and cannot be removed (" + Code.message() + "); remove it.");
 				}
 			}
 		}
@@ -88,7 +88,7 @@ namespace HeaderTool
 		std::filesystem::create_directories(Folder, Code);
 		if (!std::filesystem::is_directory(Folder))
 		{
-			Diagnostics.Error(Folder, 0, "the output folder cannot be made (" + (Code ? Code.message() : std::string("something else is there")) + "); name another one.");
+			Diagnostics.Error(Folder, {}, "the output folder cannot be made (" + (Code ? Code.message() : std::string("something else is there")) + "); name another one.");
 			return false;
 		}
 		std::set<std::string> Kept;
@@ -96,17 +96,17 @@ namespace HeaderTool
 		{
 			Kept.insert(File.Name);
 			const std::filesystem::path Path = std::filesystem::path(Folder) / File.Name;
-			if (!HasText(Path, File.Text) && !Replace(Path, File.Text, Diagnostics))
+			if (!FileWriter::HasText(Path, File.Text) && !FileWriter::Replace(Path, File.Text, Diagnostics))
 			{
 				return false;
 			}
 		}
-		RemoveGenerated(Folder, Kept, Diagnostics);
+		FileWriter::RemoveGenerated(Folder, Kept, Diagnostics);
 		return !Diagnostics.HasErrors();
 	}
 
 	void RemoveOutputs(const std::string& Folder, FDiagnostics& Diagnostics)
 	{
-		RemoveGenerated(Folder, {}, Diagnostics);
+		FileWriter::RemoveGenerated(Folder, {}, Diagnostics);
 	}
 }

@@ -8,7 +8,7 @@
 
 namespace HeaderTool
 {
-	namespace
+	namespace FunctionSource
 	{
 		bool HasBlock(const FFunction& Function)
 		{
@@ -209,18 +209,18 @@ namespace HeaderTool
 		std::vector<FProperty> Properties = Function.Parameters;
 		if (Function.Returns())
 		{
-			Properties.push_back(ReturnProperty(Function));
+			Properties.push_back(FunctionSource::ReturnProperty(Function));
 		}
 		if (!Properties.empty())
 		{
-			Writer.Open("struct " + BlockName(Class, Function));
+			Writer.Open("struct " + FunctionSource::BlockName(Class, Function));
 			for (const FProperty& Property : Properties)
 			{
 				Writer.Line(Property.Type.SpellValue(true) + " " + Property.Name + "{};");
 			}
 			Writer.Close(";");
 		}
-		WriteProperties(Writer, "Parameters", BlockName(Class, Function), Properties);
+		WriteProperties(Writer, "Parameters", FunctionSource::BlockName(Class, Function), Properties);
 		WriteMetaData(Writer, "Z_MetaData", Function.Meta);
 		Writer.Close(";");
 	}
@@ -232,7 +232,7 @@ namespace HeaderTool
 		Writer.Open();
 		Writer.Line(".Name = " + Quote(Function.Name) + ",");
 		Writer.Line(".Flags = " + Function.Flags.ToExpression() + ",");
-		Writer.Line(".ParmsSize = " + (Count ? "sizeof(" + Scope + BlockName(Class, Function) + ")" : std::string("0")) + ",");
+		Writer.Line(".ParmsSize = " + (Count ? "sizeof(" + Scope + FunctionSource::BlockName(Class, Function) + ")" : std::string("0")) + ",");
 		Writer.Line(TableFields("Parameters", Scope + "Parameters", Count) + ",");
 		Writer.Line(".Thunk = " + (Function.HasNativeBody() ? "&" + OwnerName(Class) + "::exec" + Function.Name : std::string("nullptr")) + ",");
 		Writer.Line(MetaDataFields(Scope + "Z_MetaData", Function.Meta));
@@ -243,21 +243,21 @@ namespace HeaderTool
 	{
 		if (Function.HasNativeBody())
 		{
-			WriteThunk(Writer, Class, Function);
+			FunctionSource::WriteThunk(Writer, Class, Function);
 		}
 		const bool bInterface = Class.Kind == EClassKind::Interface;
 		if (bInterface)
 		{
-			WriteForbiddenCall(Writer, Class, Function);
-			WriteExecute(Writer, Class, Function);
+			FunctionSource::WriteForbiddenCall(Writer, Class, Function);
+			FunctionSource::WriteExecute(Writer, Class, Function);
 			if (DeclaresImplementation(Class, Function))
 			{
-				WriteDefaultImplementation(Writer, Class, Function);
+				FunctionSource::WriteDefaultImplementation(Writer, Class, Function);
 			}
 		}
 		else if (Function.Event != EFunctionEvent::None)
 		{
-			WriteEvent(Writer, Class, Function);
+			FunctionSource::WriteEvent(Writer, Class, Function);
 		}
 	}
 }

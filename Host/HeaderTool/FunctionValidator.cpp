@@ -9,7 +9,7 @@
 
 namespace HeaderTool
 {
-	namespace
+	namespace FunctionValidator
 	{
 		class FFunctionValidator
 		{
@@ -36,6 +36,7 @@ namespace HeaderTool
 				CheckParameterNames();
 				SetParameterFlags();
 				CheckPure();
+				CheckWorldContext();
 			}
 
 		private:
@@ -50,7 +51,7 @@ namespace HeaderTool
 					}
 					if (EqualsIgnoringCase(Other.Name, Function.Name))
 					{
-						Error("UFUNCTION " + Name + " has the name of the UFUNCTION in line " + std::to_string(Other.Line) + " (case does not count): reflected functions cannot be overloaded; rename one, or reflect only one.");
+						Error("UFUNCTION " + Name + " has the name of the UFUNCTION in line " + std::to_string(Other.Place.Line) + " (case does not count): reflected functions cannot be overloaded; rename one, or reflect only one.");
 						return;
 					}
 				}
@@ -151,15 +152,15 @@ namespace HeaderTool
 				{
 					if (Parameter.Name.empty())
 					{
-						Error("a parameter of UFUNCTION " + Name + " (type '" + Parameter.Type.Spell() + "') has no name; give it one.", Parameter.Line);
+						Error("a parameter of UFUNCTION " + Name + " (type '" + Parameter.Type.Spell() + "') has no name; give it one.", Parameter.Place);
 					}
 					else if (EqualsIgnoringCase(Parameter.Name, "ReturnValue"))
 					{
-						Error("parameter '" + Parameter.Name + "' of " + Name + " has the name that is kept for the result; rename it.", Parameter.Line);
+						Error("parameter '" + Parameter.Name + "' of " + Name + " has the name that is kept for the result; rename it.", Parameter.Place);
 					}
 					else if (!Names.insert(ToLower(Parameter.Name)).second)
 					{
-						Error("UFUNCTION " + Name + " has two parameters named '" + Parameter.Name + "' (case does not count); rename one.", Parameter.Line);
+						Error("UFUNCTION " + Name + " has two parameters named '" + Parameter.Name + "' (case does not count); rename one.", Parameter.Place);
 					}
 					CheckShadowing(Parameter);
 				}
@@ -173,7 +174,7 @@ namespace HeaderTool
 					{
 						if (EqualsIgnoringCase(Property.Name, Parameter.Name))
 						{
-							Error("parameter '" + Parameter.Name + "' of " + Name + " has the name of the UPROPERTY '" + Owner->CppName + "::" + Property.Name + "'; rename it, to 'In" + Parameter.Name + "' for example.", Parameter.Line);
+							Error("parameter '" + Parameter.Name + "' of " + Name + " has the name of the UPROPERTY '" + Owner->CppName + "::" + Property.Name + "'; rename it, to 'In" + Parameter.Name + "' for example.", Parameter.Place);
 						}
 					}
 				}
@@ -210,18 +211,35 @@ namespace HeaderTool
 				const bool bHasResult = Function.Returns() || bHasOutput;
 				if (Function.Flags.Has("FUNC_BlueprintPure") && !bHasResult)
 				{
-					Error("the BlueprintPure function " + Name + " returns nothing; give it a result, or make it BlueprintCallable.");
+					Error("the BlueprintPure function " + Name + " returns nothing; give it a result, or make it BlueprintCallable.", Function.Flags.PlaceOf("FUNC_BlueprintPure"));
 				}
 				// A const function that only tells something needs no execution pin.
-				if (Function.Flags.Has("FUNC_BlueprintCallable") && Function.bConst && bHasResult && !Function.bForcedImpure)
+				if (Function.Flags.Has("FUNC_BlueprintCallable") && Function.bConst && bHasResult)
 				{
 					Function.Flags.Add("FUNC_BlueprintPure");
 				}
 			}
 
-			void Error(const std::string& Message, int Line = 0)
+			void CheckWorldContext()
 			{
-				Diagnostics.Error(Class.Header->Path, Line ? Line : Function.Line, Message);
+				const FMetaEntry* Context = Function.Meta.Find("WorldContext");
+				if (!Context)
+				{
+					return;
+				}
+				for (const FProperty& Parameter : Function.Parameters)
+				{
+					if (EqualsIgnoringCase(Parameter.Name, Context->Value))
+					{
+						return;
+					}
+				}
+				Error("WorldContext of " + Name + " names '" + Context->Value + "', which is no parameter of it; name the one that leads to the world.", Context->Place);
+			}
+
+			void Error(const std::string& Message, const FPlace& Place = {})
+			{
+				Diagnostics.Error(Class.Header->Path, Place.IsSet() ? Place : Function.Place, Message);
 			}
 
 			FClass& Class;
@@ -237,7 +255,7 @@ namespace HeaderTool
 	{
 		for (FFunction& Function : Class.Functions)
 		{
-			FFunctionValidator(Class, Function, Types, Diagnostics).Run();
+			FunctionValidator::FFunctionValidator(Class, Function, Types, Diagnostics).Run();
 		}
 	}
 }

@@ -10,15 +10,15 @@
 
 namespace HeaderTool
 {
-	namespace
+	namespace GeneratedHeader
 	{
 		/** The lines of one body macro. */
 		class FBodyMacro
 		{
 		public:
-			FBodyMacro(const FHeader& Header, int Line)
+			FBodyMacro(const FHeader& Header, int MacroLine)
 			{
-				Lines.push_back("#define " + FileId(Header) + "_" + std::to_string(Line) + "_GENERATED_BODY");
+				Lines.push_back("#define " + FileId(Header) + "_" + std::to_string(MacroLine) + "_GENERATED_BODY");
 			}
 
 			/** An access specifier or a declaration. */
@@ -151,7 +151,7 @@ namespace HeaderTool
 
 			void ClassBody(const FClass& Class)
 			{
-				FBodyMacro Macro(Header, Class.Body.MacroLine);
+				FBodyMacro Macro(Header, Class.Body.MacroPlace.Line);
 				Macro.Add("public:");
 				Macro.Add("using Super = " + Class.SuperName() + ";");
 				Macro.Add("using ThisClass = " + Class.CppName + ";");
@@ -238,7 +238,7 @@ namespace HeaderTool
 
 			void NativeInterfaceBody(const FClass& Class)
 			{
-				FBodyMacro Macro(Header, Class.NativeInterfaceBody.MacroLine);
+				FBodyMacro Macro(Header, Class.NativeInterfaceBody.MacroPlace.Line);
 				if (!Class.NativeInterfaceBody.bDestructor)
 				{
 					Macro.Add("protected:");
@@ -273,7 +273,7 @@ namespace HeaderTool
 
 			void StructBody(const FClass& Struct)
 			{
-				FBodyMacro Macro(Header, Struct.Body.MacroLine);
+				FBodyMacro Macro(Header, Struct.Body.MacroPlace.Line);
 				if (!Struct.Bases.empty())
 				{
 					Macro.Add("using Super = " + Struct.SuperName() + ";");
@@ -291,6 +291,6 @@ namespace HeaderTool
 
 	std::string EmitGeneratedHeader(const FHeader& Header, const FTypeTable& Types)
 	{
-		return FGeneratedHeader(Header, Types).Run();
+		return GeneratedHeader::FGeneratedHeader(Header, Types).Run();
 	}
 }

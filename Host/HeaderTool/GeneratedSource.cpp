@@ -12,7 +12,7 @@
 
 namespace HeaderTool
 {
-	namespace
+	namespace GeneratedSource
 	{
 		class FGeneratedSource
 		{
@@ -237,10 +237,6 @@ namespace HeaderTool
 			{
 				FFlagNames Flags = Class.Flags;
 				Flags.Add("CLASS_Native");
-				if (Class.bExported)
-				{
-					Flags.Add("CLASS_RequiredAPI");
-				}
 				if (Class.Kind == EClassKind::Interface)
 				{
 					Flags.Add("CLASS_Interface");
@@ -277,6 +273,6 @@ namespace HeaderTool
 
 	std::string EmitGeneratedSource(const FHeader& Header, const FTypeTable& Types)
 	{
-		return FGeneratedSource(Header, Types).Run();
+		return GeneratedSource::FGeneratedSource(Header, Types).Run();
 	}
 }

@@ -15,7 +15,7 @@
 
 namespace HeaderTool
 {
-	namespace
+	namespace HeaderParser
 	{
 		class FHeaderParser
 		{
@@ -38,7 +38,7 @@ namespace HeaderTool
 					}
 					catch (const FSyntaxError& Error)
 					{
-						Diagnostics.Error(Header.Path, Error.Line, Error.Message);
+						Diagnostics.Error(Header.Path, Error.Place, Error.Message);
 						Cursor.SetPosition(Start);
 						Cursor.Next();
 						SkipDeclaration(Cursor);
@@ -48,7 +48,7 @@ namespace HeaderTool
 				{
 					if (Class->Kind == EClassKind::Interface && !Class->bHasNativeInterface)
 					{
-						Diagnostics.Error(Header.Path, Class->Line, "interface '" + Class->CppName + "' has no 'class " + Class->NativeInterfaceName() + "' in this header; add it with GENERATED_BODY().");
+						Diagnostics.Error(Header.Path, Class->Place, "interface '" + Class->CppName + "' has no 'class " + Class->NativeInterfaceName() + "' in this header; add it with GENERATED_BODY().");
 					}
 				}
 			}
@@ -67,11 +67,11 @@ namespace HeaderTool
 				}
 				else if (Token.Is("UDELEGATE"))
 				{
-					ParseSpecifiers(Cursor, Header.Path);
+					throw FSyntaxError{Token.Place, "UDELEGATE() is known to the engine, not supported here; remove it, the DECLARE_DYNAMIC_ macro is all that is needed."};
 				}
 				else if (Token.IsIdentifier() && IsReflectionMacro(Token.Text))
 				{
-					throw FSyntaxError{Token.Line, Token.Text + " stands outside of a reflected class; move it into one."};
+					throw FSyntaxError{Token.Place, Token.Text + " stands outside of a reflected class; move it into one."};
 				}
 				else if (Token.Is("namespace") || (Token.Is("inline") && Cursor.Peek(1).Is("namespace")))
 				{
@@ -80,14 +80,14 @@ namespace HeaderTool
 				else if (Token.Is("extern") && Cursor.Peek(1).Kind == ETokenKind::String && Cursor.Peek(2).Is("{"))
 				{
 					Cursor.SetPosition(Cursor.GetPosition() + 3);
-					NamespaceLines.push_back(0);
+					NamespacePlaces.push_back({});
 				}
 				else if (Token.Is("}"))
 				{
 					Cursor.Next();
-					if (!NamespaceLines.empty()) // empty only behind a declaration that could not be read
+					if (!NamespacePlaces.empty()) // empty only behind a declaration that could not be read
 					{
-						NamespaceLines.pop_back();
+						NamespacePlaces.pop_back();
 					}
 				}
 				else if (FClass* Interface = FindInterfaceFor())
@@ -100,15 +100,23 @@ namespace HeaderTool
 				}
 			}
 
+			void NoteReflected(const FToken& Token)
+			{
+				if (!Header.FirstReflectedPlace.IsSet())
+				{
+					Header.FirstReflectedPlace = Token.Place;
+				}
+			}
+
 			void Reflected()
 			{
 				const FToken& Token = Cursor.Peek();
-				Header.FirstReflectedLine = Header.FirstReflectedLine ? Header.FirstReflectedLine : Token.Line;
-				for (const int Line : NamespaceLines)
+				NoteReflected(Token);
+				for (const FPlace& Place : NamespacePlaces)
 				{
-					if (Line > 0)
+					if (Place.IsSet())
 					{
-						Diagnostics.Error(Header.Path, Token.Line, Token.Text + " inside of the namespace of line " + std::to_string(Line) + ": reflected types must stand at file scope; move it out.");
+						Diagnostics.Error(Header.Path, Token.Place, Token.Text + " inside of the namespace of line " + std::to_string(Place.Line) + ": reflected types must stand at file scope; move it out.");
 						break;
 					}
 				}
@@ -129,12 +137,12 @@ namespace HeaderTool
 				std::unique_ptr<FClass> Class = std::make_unique<FClass>();
 				Class->CppName = Head.Name;
 				Class->Header = &Header;
-				Class->Line = Head.Line;
+				Class->Place = Head.Place;
 				Class->bExported = Head.bExported;
 				Class->Bases = Head.Bases;
 				if ((List.Macro == "USTRUCT") != (Head.Keyword == "struct"))
 				{
-					Diagnostics.Error(Header.Path, Head.Line, List.Macro + "() must stand before a " + (List.Macro == "USTRUCT" ? "struct" : "class") + ", but '" + Head.Name + "' is a " + Head.Keyword + ".");
+					Diagnostics.Error(Header.Path, Head.Place, List.Macro + "() must stand before a " + (List.Macro == "USTRUCT" ? "struct" : "class") + ", but '" + Head.Name + "' is a " + Head.Keyword + ".");
 				}
 				EBodySide Side = EBodySide::Class;
 				if (List.Macro == "USTRUCT")
@@ -159,20 +167,20 @@ namespace HeaderTool
 
 			void Delegate()
 			{
-				Header.FirstReflectedLine = Header.FirstReflectedLine ? Header.FirstReflectedLine : Cursor.Peek().Line;
+				NoteReflected(Cursor.Peek());
 				Header.Delegates.push_back(std::make_unique<FDelegateType>(ParseDelegate(Cursor)));
 			}
 
 			void Namespace()
 			{
-				const int Line = Cursor.Peek().Line;
+				const FPlace Place = Cursor.Peek().Place;
 				while (!Cursor.AtEnd() && !Cursor.Is("{") && !Cursor.Is(";"))
 				{
 					Cursor.Next();
 				}
 				if (Cursor.Next().Is("{"))
 				{
-					NamespaceLines.push_back(Line);
+					NamespacePlaces.push_back(Place);
 				}
 			}
 
@@ -204,7 +212,7 @@ namespace HeaderTool
 			{
 				const FClassHead Head = ParseClassHead(Cursor, "of the interface");
 				Interface.bHasNativeInterface = true;
-				Interface.NativeInterfaceLine = Head.Line;
+				Interface.NativeInterfacePlace = Head.Place;
 				Interface.NativeInterfaceBases = Head.Bases;
 				ParseClassBody(Cursor, Header.Path, EBodySide::NativeInterface, Interface, Diagnostics);
 			}
@@ -219,14 +227,14 @@ namespace HeaderTool
 				}
 				if (!Skipped.NestedMacro.empty())
 				{
-					Diagnostics.Error(Header.Path, Skipped.NestedMacroLine, Skipped.NestedMacro + " in a type that is not reflected; put UCLASS(), USTRUCT() or UINTERFACE() before the type.");
+					Diagnostics.Error(Header.Path, Skipped.NestedMacroPlace, Skipped.NestedMacro + " in a type that is not reflected; put UCLASS(), USTRUCT() or UINTERFACE() before the type.");
 				}
 			}
 
 			FTokenCursor Cursor;
 			FHeader& Header;
 			FDiagnostics& Diagnostics;
-			std::vector<int> NamespaceLines; // of the namespaces around; 0 for extern "C"
+			std::vector<FPlace> NamespacePlaces; // of the namespaces around; unset for extern "C"
 		};
 
 		void NoteIncludes(const std::vector<FIncludeLine>& Includes, FHeader& Header)
@@ -234,11 +242,11 @@ namespace HeaderTool
 			for (const FIncludeLine& Include : Includes)
 			{
 				Header.LastInclude = Include.Path;
-				Header.LastIncludeLine = Include.Line;
+				Header.LastIncludePlace = Include.Place;
 				if (EndsWith(Include.Path, ".generated.h"))
 				{
 					Header.GeneratedInclude = Include.Path;
-					Header.GeneratedIncludeLine = Include.Line;
+					Header.GeneratedIncludePlace = Include.Place;
 				}
 			}
 		}
@@ -252,10 +260,10 @@ namespace HeaderTool
 			return;
 		}
 		const FConditionedSource Conditioned = ResolveConditionals(Header.Path, Tokens, Diagnostics);
-		NoteIncludes(Conditioned.Includes, Header);
+		HeaderParser::NoteIncludes(Conditioned.Includes, Header);
 		if (CheckBrackets(Header.Path, Conditioned.Tokens, Diagnostics))
 		{
-			FHeaderParser(Conditioned.Tokens, Header, Diagnostics).Run();
+			HeaderParser::FHeaderParser(Conditioned.Tokens, Header, Diagnostics).Run();
 		}
 	}
 }

@@ -2,6 +2,7 @@
 
 #include "HeaderTool.h"
 
+#include "Arguments.h"
 #include "Diagnostics.h"
 #include "FileWriter.h"
 #include "GeneratedHeader.h"
@@ -16,70 +17,13 @@
 
 namespace HeaderTool
 {
-	namespace
+	namespace HeaderToolRun
 	{
-		const char* const Usage =
-			"Usage: VelmorantHeaderTool --module NAME --output DIR --manifest FILE [--reference FILE]...\n"
-			"\n"
-			"Reads the headers of a module that carry reflection macros (UCLASS, USTRUCT, UENUM, UINTERFACE, UFUNCTION, UPROPERTY)\n"
-			"and writes <Name>.generated.h and <Name>.gen.cpp for each of them.\n"
-			"\n"
-			"  --module NAME     the module that is generated\n"
-			"  --output DIR      where the generated files go; made if needed\n"
-			"  --manifest FILE   the module's headers: a line 'module NAME', then lines 'header INCLUDE_PATH FILE'\n"
-			"  --reference FILE  the manifest of a module that this one depends on; its types are known, nothing is written for it\n"
-			"  --help            shows this text\n"
-			"\n"
-			"Exit status: 0 done, 1 a header or manifest is wrong or a file cannot be read or written, 2 bad usage.\n";
-
-		/** Empty when the arguments make sense, else what is wrong with them. */
-		std::string ParseOptions(const std::vector<std::string>& Arguments, FOptions& OutOptions)
-		{
-			for (size_t Index = 0; Index < Arguments.size(); ++Index)
-			{
-				const std::string& Name = Arguments[Index];
-				if (Name == "--help" || Name == "-h")
-				{
-					OutOptions.bHelp = true;
-					return "";
-				}
-				std::string* Value = Name == "--module" ? &OutOptions.Module : Name == "--output" ? &OutOptions.OutputFolder
-					: Name == "--manifest"														  ? &OutOptions.Manifest
-																								  : nullptr;
-				if (!Value && Name != "--reference")
-				{
-					return "unknown option '" + Name + "'";
-				}
-				if (++Index == Arguments.size())
-				{
-					return "'" + Name + "' needs a value";
-				}
-				if (!Value)
-				{
-					OutOptions.References.push_back(Arguments[Index]);
-				}
-				else if (!Value->empty())
-				{
-					return "'" + Name + "' is given twice";
-				}
-				else
-				{
-					*Value = Arguments[Index];
-				}
-			}
-			const std::string* Missing = OutOptions.Module.empty() ? &OutOptions.Module : OutOptions.OutputFolder.empty() ? &OutOptions.OutputFolder
-				: OutOptions.Manifest.empty()																			  ? &OutOptions.Manifest
-																														  : nullptr;
-			return !Missing ? "" : Missing == &OutOptions.Module ? "--module is missing"
-				: Missing == &OutOptions.OutputFolder			 ? "--output is missing"
-																 : "--manifest is missing";
-		}
-
 		class FRun
 		{
 		public:
-			FRun(const FOptions& InOptions, FDiagnostics& InDiagnostics)
-				: Options(InOptions)
+			FRun(const FArguments& InArguments, FDiagnostics& InDiagnostics)
+				: Arguments(InArguments)
 				, Diagnostics(InDiagnostics)
 			{
 			}
@@ -101,16 +45,16 @@ namespace HeaderTool
 						ValidateHeader(*Header, Types, Diagnostics);
 					}
 				}
-				if (Diagnostics.HasErrors() || !WriteOutputs(Options.OutputFolder, Emit(Types), Diagnostics))
+				if (Diagnostics.HasErrors() || !WriteOutputs(Arguments.OutputFolder, Emit(Types), Diagnostics))
 				{
-					RemoveOutputs(Options.OutputFolder, Diagnostics);
+					RemoveOutputs(Arguments.OutputFolder, Diagnostics);
 				}
 			}
 
 		private:
 			void ReadReferences()
 			{
-				for (const std::string& Path : Options.References)
+				for (const std::string& Path : Arguments.References)
 				{
 					FManifest Manifest;
 					if (ReadManifest(Path, Manifest, Diagnostics))
@@ -123,13 +67,13 @@ namespace HeaderTool
 			void ReadOwn()
 			{
 				FManifest Manifest;
-				if (!ReadManifest(Options.Manifest, Manifest, Diagnostics))
+				if (!ReadManifest(Arguments.Manifest, Manifest, Diagnostics))
 				{
 					return;
 				}
-				if (Manifest.Module != Options.Module)
+				if (Manifest.Module != Arguments.Module)
 				{
-					Diagnostics.Error(Options.Manifest, 0, "belongs to module '" + Manifest.Module + "', but --module says '" + Options.Module + "'.");
+					Diagnostics.Error(Arguments.Manifest, {}, "belongs to module '" + Manifest.Module + "', but --module says '" + Arguments.Module + "'.");
 				}
 				ReadHeaders(Manifest, true);
 				CheckBaseNames(Manifest);
@@ -167,7 +111,7 @@ namespace HeaderTool
 					const auto [Found, bNew] = Names.emplace(ToLower(Header->BaseName()), Header->Path);
 					if (!bNew)
 					{
-						Diagnostics.Error(Header->Path, 0, "has the same file name as " + Found->second + " in module '" + Manifest.Module + "'; rename one, their generated files would overwrite each other.");
+						Diagnostics.Error(Header->Path, {}, "has the same file name as " + Found->second + " in module '" + Manifest.Module + "'; rename one, their generated files would overwrite each other.");
 					}
 				}
 			}
@@ -186,29 +130,21 @@ namespace HeaderTool
 				return Files;
 			}
 
-			const FOptions& Options;
+			const FArguments& Arguments;
 			FDiagnostics& Diagnostics;
 			std::vector<std::unique_ptr<FHeader>> Headers;
 		};
 	}
 
-	int RunHeaderTool(const std::vector<std::string>& Arguments, std::ostream& Out, std::ostream& Err)
+	int RunHeaderTool(const std::vector<std::string>& Words, std::ostream& Out, std::ostream& Err)
 	{
-		FOptions Options;
-		const std::string Problem = ParseOptions(Arguments, Options);
-		if (!Problem.empty())
+		FArguments Arguments;
+		if (const std::optional<int> End = ParseArguments(Words, Arguments, Out, Err))
 		{
-			Err << "VelmorantHeaderTool: " << Problem << ".\n\n"
-				<< Usage;
-			return 2;
-		}
-		if (Options.bHelp)
-		{
-			Out << Usage;
-			return 0;
+			return *End;
 		}
 		FDiagnostics Diagnostics;
-		FRun(Options, Diagnostics).Run();
+		HeaderToolRun::FRun(Arguments, Diagnostics).Run();
 		Diagnostics.Print(Err);
 		return Diagnostics.HasErrors() ? 1 : 0;
 	}

@@ -4,9 +4,11 @@
 
 #include "Diagnostics.h"
 
+#include <algorithm>
+
 namespace HeaderTool
 {
-	namespace
+	namespace Lexer
 	{
 		bool IsIdentifierStart(char C)
 		{
@@ -35,6 +37,7 @@ namespace HeaderTool
 				if (Source.compare(0, 3, "\xEF\xBB\xBF") == 0)
 				{
 					Position = 3;
+					LineStart = 3;
 				}
 			}
 
@@ -44,7 +47,7 @@ namespace HeaderTool
 				{
 					Step();
 				}
-				Push(ETokenKind::End, "", Line);
+				Push(ETokenKind::End, "", Here());
 				return !bFailed;
 			}
 
@@ -90,7 +93,7 @@ namespace HeaderTool
 			void NewLine()
 			{
 				++Position;
-				++Line;
+				BeginLine();
 				bAtLineStart = true;
 			}
 
@@ -119,19 +122,18 @@ namespace HeaderTool
 				const size_t End = Source.find("*/", Position + 2);
 				if (End == std::string::npos)
 				{
-					Fail(Line, "this comment is never closed; end it with '*/'.");
+					Fail(Here(), "this comment is never closed; end it with '*/'.");
 					return;
 				}
 				const int FirstLine = Line;
 				const std::string Text = Source.substr(Position, End + 2 - Position);
-				CountLines(Text);
+				Advance(Text.size());
 				AddComment(Text, FirstLine, false);
-				Position = End + 2;
 			}
 
 			void Directive()
 			{
-				const int FirstLine = Line;
+				const FPlace Place = Here();
 				std::string Text;
 				++Position;
 				while (Position < Source.size() && At() != '\n')
@@ -139,7 +141,7 @@ namespace HeaderTool
 					if (At() == '\\' && (At(1) == '\n' || (At(1) == '\r' && At(2) == '\n')))
 					{
 						Position += At(1) == '\n' ? 2 : 3;
-						++Line;
+						BeginLine();
 						Text += ' ';
 					}
 					else if (At() == '/' && At(1) == '/')
@@ -162,7 +164,7 @@ namespace HeaderTool
 				}
 				const size_t First = Text.find_first_not_of(" \t");
 				const size_t Last = Text.find_last_not_of(" \t");
-				Push(ETokenKind::Directive, First == std::string::npos ? "" : Text.substr(First, Last - First + 1), FirstLine);
+				Push(ETokenKind::Directive, First == std::string::npos ? "" : Text.substr(First, Last - First + 1), Place);
 			}
 
 			bool StringWithPrefix()
@@ -195,14 +197,13 @@ namespace HeaderTool
 				const size_t End = Open == std::string::npos ? Open : Source.find(")" + Delimiter + "\"", Open);
 				if (End == std::string::npos)
 				{
-					Fail(Line, "this raw string is never closed; end it with ')" + Delimiter + "\"'.");
+					Fail(Here(), "this raw string is never closed; end it with ')" + Delimiter + "\"'.");
 					return;
 				}
-				const int FirstLine = Line;
+				const FPlace Place = Here();
 				const std::string Text = Source.substr(Position, End + Delimiter.size() + 2 - Position);
-				CountLines(Text);
-				Push(ETokenKind::String, Text, FirstLine);
-				Position += Text.size();
+				Advance(Text.size());
+				Push(ETokenKind::String, Text, Place);
 			}
 
 			void Quoted(size_t QuoteOffset, char Quote)
@@ -215,18 +216,18 @@ namespace HeaderTool
 				if (End >= Source.size() || Source[End] != Quote)
 				{
 					const std::string What = Quote == '"' ? "string" : "character literal";
-					Fail(Line, "this " + What + " is not closed on its line; add the missing " + Quote + ".");
+					Fail(Here(), "this " + What + " is not closed on its line; add the missing " + Quote + ".");
 					return;
 				}
 				const std::string Text = Source.substr(Position, End + 1 - Position);
-				Push(Quote == '"' ? ETokenKind::String : ETokenKind::Character, Text, Line);
-				CountLines(Text);
-				Position = End + 1;
+				Push(Quote == '"' ? ETokenKind::String : ETokenKind::Character, Text, Here());
+				Advance(Text.size());
 			}
 
 			void Plain()
 			{
 				const size_t First = Position;
+				const FPlace Place = Here();
 				ETokenKind Kind = ETokenKind::Symbol;
 				if (IsIdentifierStart(At()))
 				{
@@ -245,7 +246,7 @@ namespace HeaderTool
 				{
 					Position += (At() == ':' && At(1) == ':') || (At() == '-' && At(1) == '>') ? 2 : 1;
 				}
-				Push(Kind, Source.substr(First, Position - First), Line);
+				Push(Kind, Source.substr(First, Position - First), Place);
 			}
 
 			void SkipNumber()
@@ -261,29 +262,47 @@ namespace HeaderTool
 				}
 			}
 
-			void CountLines(const std::string& Text)
+			/** Over text that may have several lines. */
+			void Advance(size_t Count)
 			{
-				for (const char C : Text)
+				for (const size_t End = Position + Count; Position < End;)
 				{
-					Line += C == '\n' ? 1 : 0;
+					++Position;
+					if (Source[Position - 1] == '\n')
+					{
+						BeginLine();
+					}
 				}
 			}
 
-			void Push(ETokenKind Kind, const std::string& Text, int FirstLine)
+			void BeginLine()
+			{
+				++Line;
+				LineStart = Position;
+			}
+
+			/** Letters count, not the bytes they take. */
+			FPlace Here() const
+			{
+				const auto IsLetter = [](char C) { return (static_cast<unsigned char>(C) & 0xC0) != 0x80; };
+				return {Line, 1 + static_cast<int>(std::count_if(Source.begin() + static_cast<std::ptrdiff_t>(LineStart), Source.begin() + static_cast<std::ptrdiff_t>(Position), IsLetter))};
+			}
+
+			void Push(ETokenKind Kind, const std::string& Text, const FPlace& Place)
 			{
 				FToken Token;
 				Token.Kind = Kind;
 				Token.Text = Text;
-				Token.Line = FirstLine;
+				Token.Place = Place;
 				Token.Comment.swap(Comment);
 				Tokens.push_back(Token);
 				LastTokenLine = Line;
 				bAtLineStart = false;
 			}
 
-			void Fail(int AtLine, const std::string& Message)
+			void Fail(const FPlace& Place, const std::string& Message)
 			{
-				Diagnostics.Error(Path, AtLine, Message);
+				Diagnostics.Error(Path, Place, Message);
 				bFailed = true;
 			}
 
@@ -292,6 +311,7 @@ namespace HeaderTool
 			std::vector<FToken>& Tokens;
 			FDiagnostics& Diagnostics;
 			size_t Position = 0;
+			size_t LineStart = 0; // where Line begins
 			int Line = 1;
 			int LastTokenLine = 0;
 			int LastCommentLine = 0;
@@ -304,6 +324,6 @@ namespace HeaderTool
 
 	bool Tokenize(const std::string& Path, const std::string& Source, std::vector<FToken>& OutTokens, FDiagnostics& Diagnostics)
 	{
-		return FLexer(Path, Source, OutTokens, Diagnostics).Run();
+		return Lexer::FLexer(Path, Source, OutTokens, Diagnostics).Run();
 	}
 }

@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "Place.h"
+
 #include <string>
 #include <vector>
 
@@ -24,7 +26,7 @@ namespace HeaderTool
 	{
 		ETokenKind Kind = ETokenKind::End;
 		std::string Text; // as written; strings with prefix and quotes
-		int Line = 0;
+		FPlace Place;
 		std::string Comment; // the comment block that stands directly before, markers included; empty if none
 
 		bool Is(const char* Expected) const { return Text == Expected && Kind != ETokenKind::String; }

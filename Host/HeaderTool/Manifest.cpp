@@ -14,7 +14,7 @@
 
 namespace HeaderTool
 {
-	namespace
+	namespace Manifest
 	{
 		constexpr std::uintmax_t MaxFileSize = 256 * 1024 * 1024; // bytes; no source is nearly as large
 
@@ -33,18 +33,18 @@ namespace HeaderTool
 		std::error_code Code;
 		if (std::filesystem::is_directory(Path, Code))
 		{
-			Diagnostics.Error(Path, 0, "this is a folder; name a file.");
+			Diagnostics.Error(Path, {}, "this is a folder; name a file.");
 			return false;
 		}
 		const std::filesystem::file_status Status = std::filesystem::status(Path, Code);
 		if (std::filesystem::exists(Status) && !std::filesystem::is_regular_file(Status))
 		{
-			Diagnostics.Error(Path, 0, "this is no ordinary file, and nothing is read from it; name a file.");
+			Diagnostics.Error(Path, {}, "this is no ordinary file, and nothing is read from it; name a file.");
 			return false;
 		}
-		if (std::filesystem::is_regular_file(Status) && std::filesystem::file_size(Path, Code) > MaxFileSize)
+		if (std::filesystem::is_regular_file(Status) && std::filesystem::file_size(Path, Code) > Manifest::MaxFileSize)
 		{
-			Diagnostics.Error(Path, 0, "the file is larger than 256 MB and is not read; name another one.");
+			Diagnostics.Error(Path, {}, "the file is larger than 256 MB and is not read; name another one.");
 			return false;
 		}
 		errno = 0;
@@ -56,7 +56,7 @@ namespace HeaderTool
 		}
 		if (!Stream.is_open() || Stream.bad() || Text.bad())
 		{
-			Diagnostics.Error(Path, 0, std::string("cannot be read (") + std::strerror(errno) + "); check the path and its permissions.");
+			Diagnostics.Error(Path, {}, std::string("cannot be read (") + std::strerror(errno) + "); check the path and its permissions.");
 			return false;
 		}
 		OutText = Text.str();
@@ -81,24 +81,24 @@ namespace HeaderTool
 			{
 				continue;
 			}
-			const std::string Keyword = TakeWord(Rest);
+			const std::string Keyword = Manifest::TakeWord(Rest);
 			if (Keyword == "module" && !Rest.empty())
 			{
 				OutManifest.Module = Rest;
 				continue;
 			}
-			const std::string IncludePath = Keyword == "header" ? TakeWord(Rest) : "";
+			const std::string IncludePath = Keyword == "header" ? Manifest::TakeWord(Rest) : "";
 			if (Rest.empty() || IncludePath.empty())
 			{
-				Diagnostics.Error(Path, Number, "expected 'module NAME' or 'header INCLUDE_PATH FILE', but found '" + Trim(Line) + "'.");
+				Diagnostics.Error(Path, {Number}, "expected 'module NAME' or 'header INCLUDE_PATH FILE', but found '" + Trim(Line) + "'.");
 				bGood = false;
 				continue;
 			}
-			OutManifest.Headers.push_back({IncludePath, Rest, Number});
+			OutManifest.Headers.push_back({IncludePath, Rest});
 		}
 		if (bGood && OutManifest.Module.empty())
 		{
-			Diagnostics.Error(Path, 0, "names no module; add a line 'module NAME'.");
+			Diagnostics.Error(Path, {}, "names no module; add a line 'module NAME'.");
 			bGood = false;
 		}
 		return bGood;

@@ -12,7 +12,6 @@ namespace HeaderTool
 	{
 		std::string IncludePath;
 		std::string Path;
-		int Line = 0;
 	};
 
 	/** The reflected headers of one module. */

@@ -8,12 +8,15 @@
 
 namespace HeaderTool
 {
-	namespace
+	namespace MemberParser
 	{
 		const char* AccessFlagSuffix(EAccess Access)
 		{
-			return Access == EAccess::Public ? "Public" : Access == EAccess::Protected ? "Protected"
-																					   : "Private";
+			if (Access == EAccess::Public)
+			{
+				return "Public";
+			}
+			return Access == EAccess::Protected ? "Protected" : "Private";
 		}
 
 		void SkipInitializer(FTokenCursor& Cursor, const std::string& Name)
@@ -22,7 +25,7 @@ namespace HeaderTool
 			{
 				if (Cursor.Is(",") || Cursor.Is("}"))
 				{
-					throw FSyntaxError{Cursor.Peek().Line, "expected ';' after the UPROPERTY '" + Name + "'; declare one variable per UPROPERTY()."};
+					throw FSyntaxError{Cursor.Peek().Place, "expected ';' after the UPROPERTY '" + Name + "'; declare one variable per UPROPERTY()."};
 				}
 				if (Cursor.Is("(") || Cursor.Is("{") || Cursor.Is("["))
 				{
@@ -32,8 +35,7 @@ namespace HeaderTool
 				{
 					for (int Depth = 0; !Cursor.AtEnd() && !Cursor.Is(";");)
 					{
-						Depth += Cursor.Is("<") ? 1 : Cursor.Is(">") ? -1
-																	 : 0;
+						Depth += Cursor.Is("<") - Cursor.Is(">");
 						Cursor.Next();
 						if (Depth == 0)
 						{
@@ -95,7 +97,7 @@ namespace HeaderTool
 			}
 			if (Cursor.Is("="))
 			{
-				throw FSyntaxError{Cursor.Peek().Line, "the UFUNCTION '" + Function.Name + "' must have a body: reflected classes are never abstract in C++; use PURE_VIRTUAL() or an empty body."};
+				throw FSyntaxError{Cursor.Peek().Place, "the UFUNCTION '" + Function.Name + "' must have a body: reflected classes are never abstract in C++; use PURE_VIRTUAL() or an empty body."};
 			}
 			if (Cursor.Is("{"))
 			{
@@ -162,7 +164,7 @@ namespace HeaderTool
 			bKnown &= bCounted && !(Macro.bMulticast && Macro.bReturns);
 			if (!bKnown)
 			{
-				throw FSyntaxError{Token.Line, "there is no macro " + Token.Text + "; use DECLARE_DYNAMIC_DELEGATE or DECLARE_DYNAMIC_MULTICAST_DELEGATE with _OneParam to _NineParams."};
+				throw FSyntaxError{Token.Place, "there is no macro " + Token.Text + "; use DECLARE_DYNAMIC_DELEGATE or DECLARE_DYNAMIC_MULTICAST_DELEGATE with _OneParam to _NineParams."};
 			}
 			return Macro;
 		}
@@ -173,30 +175,30 @@ namespace HeaderTool
 		FProperty Property;
 		Property.Access = Access;
 		ApplyPropertySpecifiers(ParseSpecifiers(Cursor, Path), Property, Diagnostics);
-		Property.Flags.Add(std::string("CPF_NativeAccessSpecifier") + AccessFlagSuffix(Access));
+		Property.Flags.Add(std::string("CPF_NativeAccessSpecifier") + MemberParser::AccessFlagSuffix(Access));
 		SkipDecorations(Cursor);
-		Property.Line = Cursor.Peek().Line;
+		Property.Place = Cursor.Peek().Place;
 		if (Cursor.Is("static"))
 		{
-			throw FSyntaxError{Property.Line, "a static variable cannot be a UPROPERTY; remove 'static' or the UPROPERTY()."};
+			throw FSyntaxError{Property.Place, "a static variable cannot be a UPROPERTY; remove 'static' or the UPROPERTY()."};
 		}
 		Cursor.Accept("mutable");
 		Property.Type = ParseType(Cursor);
+		Property.Place = Cursor.Peek().Place;
 		Property.Name = Cursor.ExpectIdentifier("the name of a variable after UPROPERTY()");
-		Property.Line = Property.Type.Line;
 		if (Cursor.Is("("))
 		{
-			throw FSyntaxError{Property.Line, "'" + Property.Name + "' is a function; use UFUNCTION() instead of UPROPERTY()."};
+			throw FSyntaxError{Property.Place, "'" + Property.Name + "' is a function; use UFUNCTION() instead of UPROPERTY()."};
 		}
 		if (Cursor.Is("["))
 		{
-			throw FSyntaxError{Property.Line, "UPROPERTY '" + Property.Name + "' is a C array, which is not supported here; use TArray<" + Property.Type.Spell() + ">."};
+			throw FSyntaxError{Property.Place, "UPROPERTY '" + Property.Name + "' is a C array, which is not supported here; use TArray<" + Property.Type.Spell() + ">."};
 		}
 		if (Cursor.Is(":"))
 		{
-			throw FSyntaxError{Property.Line, "UPROPERTY '" + Property.Name + "' is a bit field, which is not supported here; use bool."};
+			throw FSyntaxError{Property.Place, "UPROPERTY '" + Property.Name + "' is a bit field, which is not supported here; use bool."};
 		}
-		SkipInitializer(Cursor, Property.Name);
+		MemberParser::SkipInitializer(Cursor, Property.Name);
 		Cursor.Expect(";", "after the UPROPERTY '" + Property.Name + "'");
 		return Property;
 	}
@@ -206,27 +208,27 @@ namespace HeaderTool
 		FFunction Function;
 		Function.Access = Access;
 		ApplyFunctionSpecifiers(ParseSpecifiers(Cursor, Path), Function, Diagnostics);
-		ParseFunctionHead(Cursor, Function);
-		Function.Line = Cursor.Peek().Line;
+		MemberParser::ParseFunctionHead(Cursor, Function);
+		Function.Place = Cursor.Peek().Place;
 		if (Cursor.Is("UPARAM"))
 		{
-			ParseSpecifiers(Cursor, Path);
+			throw FSyntaxError{Function.Place, "UPARAM() before a result is known to the engine, not supported here; remove it."};
 		}
 		if (Cursor.Is("~") || Cursor.Peek(1).Is("("))
 		{
-			throw FSyntaxError{Function.Line, "'" + Cursor.Peek().Text + "' after UFUNCTION() has no return type; constructors and destructors cannot be reflected."};
+			throw FSyntaxError{Function.Place, "'" + Cursor.Peek().Text + "' after UFUNCTION() has no return type; constructors and destructors cannot be reflected."};
 		}
 		Function.Return = ParseType(Cursor);
 		SkipDecorations(Cursor);
-		Function.Line = Cursor.Peek().Line;
+		Function.Place = Cursor.Peek().Place;
 		Function.Name = Cursor.ExpectIdentifier("the name of a function after UFUNCTION()");
 		if (!Cursor.Is("("))
 		{
-			throw FSyntaxError{Function.Line, "expected a function after UFUNCTION(), but '" + Function.Name + "' is none; use UPROPERTY() for a variable."};
+			throw FSyntaxError{Function.Place, "expected a function after UFUNCTION(), but '" + Function.Name + "' is none; use UPROPERTY() for a variable."};
 		}
 		Function.Parameters = ParseParameters(Cursor, Path, Diagnostics);
-		ParseFunctionTail(Cursor, Function);
-		SetFunctionFlags(Function);
+		MemberParser::ParseFunctionTail(Cursor, Function);
+		MemberParser::SetFunctionFlags(Function);
 		return Function;
 	}
 
@@ -238,9 +240,9 @@ namespace HeaderTool
 	FDelegateType ParseDelegate(FTokenCursor& Cursor)
 	{
 		FDelegateType Delegate;
-		Delegate.Line = Cursor.Peek().Line;
-		const std::string MacroName = Cursor.Peek().Text;
-		const FDelegateMacro Macro = ReadDelegateMacro(Cursor.Next());
+		const FToken& MacroToken = Cursor.Next();
+		const std::string& MacroName = MacroToken.Text;
+		const MemberParser::FDelegateMacro Macro = MemberParser::ReadDelegateMacro(MacroToken);
 		Delegate.bMulticast = Macro.bMulticast;
 		Delegate.Return.Name = "void";
 		Cursor.Expect("(", "after " + MacroName);
@@ -249,13 +251,14 @@ namespace HeaderTool
 			Delegate.Return = ParseType(Cursor);
 			Cursor.Expect(",", "after the return type of " + MacroName);
 		}
+		Delegate.Place = Cursor.Peek().Place;
 		Delegate.Name = Cursor.ExpectIdentifier("the name of the delegate in " + MacroName);
 		while (Cursor.Accept(","))
 		{
 			FProperty Parameter;
-			Parameter.Line = Cursor.Peek().Line;
 			Parameter.Type = ParseType(Cursor);
 			Cursor.Expect(",", "between type and name of a parameter of " + Delegate.Name);
+			Parameter.Place = Cursor.Peek().Place;
 			Parameter.Name = Cursor.ExpectIdentifier("the name of a parameter of " + Delegate.Name);
 			Delegate.Parameters.push_back(Parameter);
 		}
@@ -263,7 +266,7 @@ namespace HeaderTool
 		Cursor.Accept(";");
 		if (Delegate.Parameters.size() != Macro.NumParameters)
 		{
-			throw FSyntaxError{Delegate.Line, MacroName + " declares " + std::to_string(Macro.NumParameters) + " parameter(s), but '" + Delegate.Name + "' has " + std::to_string(Delegate.Parameters.size()) + "; use the macro for that number."};
+			throw FSyntaxError{MacroToken.Place, MacroName + " declares " + std::to_string(Macro.NumParameters) + " parameter(s), but '" + Delegate.Name + "' has " + std::to_string(Delegate.Parameters.size()) + "; use the macro for that number."};
 		}
 		return Delegate;
 	}

@@ -8,26 +8,27 @@
 
 namespace HeaderTool
 {
-	void FMetaData::Set(const std::string& Key, const std::string& Value)
+	void FMetaData::Set(const std::string& Key, const std::string& Value, const FPlace& Place)
 	{
 		for (FMetaEntry& Entry : Entries)
 		{
 			if (EqualsIgnoringCase(Entry.Key, Key))
 			{
 				Entry.Value = Value;
+				Entry.Place = Place;
 				return;
 			}
 		}
-		Entries.push_back({Key, Value});
+		Entries.push_back({Key, Value, Place});
 	}
 
-	const std::string* FMetaData::Find(const std::string& Key) const
+	const FMetaEntry* FMetaData::Find(const std::string& Key) const
 	{
 		for (const FMetaEntry& Entry : Entries)
 		{
 			if (EqualsIgnoringCase(Entry.Key, Key))
 			{
-				return &Entry.Value;
+				return &Entry;
 			}
 		}
 		return nullptr;
@@ -35,26 +36,38 @@ namespace HeaderTool
 
 	bool FMetaData::IsTrue(const std::string& Key) const
 	{
-		const std::string* Value = Find(Key);
-		return Value && (Value->empty() || EqualsIgnoringCase(*Value, "true"));
+		const FMetaEntry* Entry = Find(Key);
+		return Entry && (Entry->Value.empty() || EqualsIgnoringCase(Entry->Value, "true"));
 	}
 
-	void FFlagNames::Add(const std::string& Flag)
+	void FFlagNames::Add(const std::string& Flag, const FPlace& Place)
 	{
 		if (!Has(Flag))
 		{
-			Names.push_back(Flag);
+			Flags.push_back({Flag, Place});
 		}
 	}
 
-	bool FFlagNames::Has(const std::string& Flag) const
+	FPlace FFlagNames::PlaceOf(const std::string& Flag) const
 	{
-		return std::find(Names.begin(), Names.end(), Flag) != Names.end();
+		const FFlag* Found = Find(Flag);
+		return Found ? Found->Place : FPlace();
 	}
 
 	std::string FFlagNames::ToExpression() const
 	{
+		std::vector<std::string> Names;
+		for (const FFlag& Flag : Flags)
+		{
+			Names.push_back(Flag.Name);
+		}
 		return Names.empty() ? "0" : Join(Names, " | ");
+	}
+
+	const FFlagNames::FFlag* FFlagNames::Find(const std::string& Name) const
+	{
+		const auto Found = std::find_if(Flags.begin(), Flags.end(), [&Name](const FFlag& Flag) { return Flag.Name == Name; });
+		return Found != Flags.end() ? &*Found : nullptr;
 	}
 
 	std::string FTypeUse::Spell() const
@@ -69,8 +82,7 @@ namespace HeaderTool
 			}
 			Result += "<" + Join(Spelled, ", ") + ">";
 		}
-		return Result + std::string(static_cast<size_t>(Pointers), '*') + (bRvalue ? "&&" : bReference ? "&"
-																									   : "");
+		return Result + std::string(static_cast<size_t>(Pointers), '*') + (bReference ? "&" : "") + (bRvalue ? "&" : "");
 	}
 
 	std::string FTypeUse::SpellValue(bool bKeepPointeeConst) const

@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "Place.h"
+
 #include <map>
 #include <memory>
 #include <set>
@@ -18,14 +20,15 @@ namespace HeaderTool
 	{
 		std::string Key;
 		std::string Value;
+		FPlace Place; // of the word that set it; unset if a comment did
 	};
 
 	/** Metadata in the order it was written; keys compare without regard to case. */
 	class FMetaData
 	{
 	public:
-		void Set(const std::string& Key, const std::string& Value);
-		const std::string* Find(const std::string& Key) const;
+		void Set(const std::string& Key, const std::string& Value, const FPlace& Place = {});
+		const FMetaEntry* Find(const std::string& Key) const;
 		bool IsTrue(const std::string& Key) const;
 		const std::vector<FMetaEntry>& GetEntries() const { return Entries; }
 
@@ -37,14 +40,25 @@ namespace HeaderTool
 	class FFlagNames
 	{
 	public:
-		void Add(const std::string& Flag);
-		bool Has(const std::string& Flag) const;
+		void Add(const std::string& Flag, const FPlace& Place = {});
+		bool Has(const std::string& Flag) const { return Find(Flag) != nullptr; }
+
+		/** Of the specifier that set Flag first; unset if none did. */
+		FPlace PlaceOf(const std::string& Flag) const;
 
 		/** `A | B`, or `0`. */
 		std::string ToExpression() const;
 
 	private:
-		std::vector<std::string> Names;
+		struct FFlag
+		{
+			std::string Name;
+			FPlace Place;
+		};
+
+		const FFlag* Find(const std::string& Name) const;
+
+		std::vector<FFlag> Flags;
 	};
 
 	enum class ETypeKind
@@ -76,7 +90,7 @@ namespace HeaderTool
 		bool bRvalue = false;
 		int Pointers = 0;
 		bool bUnparsed = false; // Name holds raw text that is no plain type, a function signature for example
-		int Line = 0;
+		FPlace Place;
 
 		// Filled in by the type checker.
 		ETypeKind Kind = ETypeKind::Unresolved;
@@ -104,7 +118,7 @@ namespace HeaderTool
 	{
 		std::string Name;
 		FTypeUse Type;
-		int Line = 0;
+		FPlace Place;
 		EAccess Access = EAccess::Public;
 		FFlagNames Flags;
 		FMetaData Meta;
@@ -121,7 +135,7 @@ namespace HeaderTool
 	struct FFunction
 	{
 		std::string Name;
-		int Line = 0;
+		FPlace Place;
 		FTypeUse Return;
 		std::vector<FProperty> Parameters;
 		EAccess Access = EAccess::Public;
@@ -130,7 +144,6 @@ namespace HeaderTool
 		bool bConst = false;
 		bool bVirtual = false;
 		bool bHasBody = false;
-		bool bForcedImpure = false; // BlueprintPure=false
 		FFlagNames Flags;
 		FMetaData Meta;
 
@@ -143,7 +156,7 @@ namespace HeaderTool
 		std::string Name;
 		const FClass* Outer = nullptr; // null at file scope
 		bool bMulticast = false;
-		int Line = 0;
+		FPlace Place;
 		FTypeUse Return;
 		std::vector<FProperty> Parameters;
 	};
@@ -151,13 +164,13 @@ namespace HeaderTool
 	struct FBaseSpecifier
 	{
 		std::string Name;
-		int Line = 0;
+		FPlace Place;
 	};
 
 	/** What the class body shows apart from its reflected members. */
 	struct FBodyFacts
 	{
-		int MacroLine = 0; // of GENERATED_BODY; 0 if missing
+		FPlace MacroPlace; // of GENERATED_BODY; unset if missing
 		std::string Macro;
 		bool bDefaultConstructor = false;
 		bool bInitializerConstructor = false; // takes const FObjectInitializer&
@@ -181,7 +194,7 @@ namespace HeaderTool
 		EClassKind Kind = EClassKind::Class;
 		std::string CppName;
 		const FHeader* Header = nullptr;
-		int Line = 0;
+		FPlace Place;
 		bool bExported = false; // MODULE_API
 		std::string ConfigName;
 		FFlagNames Flags;
@@ -194,7 +207,7 @@ namespace HeaderTool
 
 		// Interfaces only: the I class.
 		bool bHasNativeInterface = false;
-		int NativeInterfaceLine = 0;
+		FPlace NativeInterfacePlace;
 		std::vector<FBaseSpecifier> NativeInterfaceBases;
 		FBodyFacts NativeInterfaceBody;
 
@@ -214,7 +227,7 @@ namespace HeaderTool
 	struct FEnumerator
 	{
 		std::string Name;
-		int Line = 0;
+		FPlace Place;
 		FMetaData Meta;
 	};
 
@@ -224,9 +237,9 @@ namespace HeaderTool
 		std::string Name; // "EFoo", "ESelectInfo"
 		std::string InnerName; // namespaced form: "Type"
 		std::string Underlying; // "uint8"; empty if not written
+		FPlace UnderlyingPlace;
 		const FHeader* Header = nullptr;
-		int Line = 0;
-		bool bBlueprintType = false;
+		FPlace Place;
 		FMetaData Meta;
 		std::vector<FEnumerator> Enumerators;
 
@@ -240,13 +253,13 @@ namespace HeaderTool
 		std::string Module;
 		bool bOwn = false; // of the module that is generated, not only referenced
 		std::string LastInclude;
-		int LastIncludeLine = 0;
-		int GeneratedIncludeLine = 0; // 0 if there is none
+		FPlace LastIncludePlace;
+		FPlace GeneratedIncludePlace; // unset if there is none
 		std::string GeneratedInclude;
 		std::vector<std::unique_ptr<FClass>> Classes; // classes, interfaces, structs in order of declaration
 		std::vector<std::unique_ptr<FEnum>> Enums;
 		std::vector<std::unique_ptr<FDelegateType>> Delegates;
-		int FirstReflectedLine = 0; // 0 if nothing is reflected
+		FPlace FirstReflectedPlace; // unset if nothing is reflected
 
 		/** The file name without folder and extension: "Foo" of "Widgets/Foo.h". */
 		std::string BaseName() const;

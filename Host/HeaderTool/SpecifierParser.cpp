@@ -6,7 +6,7 @@
 
 namespace HeaderTool
 {
-	namespace
+	namespace SpecifierParser
 	{
 		/** A value up to the next comma or closing parenthesis: strings joined, or words as written. */
 		std::string ParseValue(FTokenCursor& Cursor, const std::string& Macro)
@@ -26,7 +26,7 @@ namespace HeaderTool
 				{
 					if (Cursor.Peek().Kind == ETokenKind::String || Cursor.Is("=") || Cursor.Is("("))
 					{
-						throw FSyntaxError{Cursor.Peek().Line, "cannot make sense of '" + Value + Cursor.Peek().Text + "' in " + Macro + "(); separate specifiers by commas and quote values."};
+						throw FSyntaxError{Cursor.Peek().Place, "cannot make sense of '" + Value + Cursor.Peek().Text + "' in " + Macro + "(); separate specifiers by commas and quote values."};
 					}
 					AppendToken(Value, Cursor.Next());
 				}
@@ -34,7 +34,7 @@ namespace HeaderTool
 			}
 			if (!Cursor.Is(",") && !Cursor.Is(")"))
 			{
-				throw FSyntaxError{Cursor.Peek().Line, "expected ',' or ')' in " + Macro + "(), but found '" + Cursor.Peek().Text + "'."};
+				throw FSyntaxError{Cursor.Peek().Place, "expected ',' or ')' in " + Macro + "(), but found '" + Cursor.Peek().Text + "'."};
 			}
 			return Value;
 		}
@@ -45,12 +45,19 @@ namespace HeaderTool
 			Cursor.Expect("(", "after 'meta='");
 			while (!Cursor.Is(")"))
 			{
-				std::string Key = Cursor.ExpectIdentifier("a metadata key in " + List.Macro + "()");
+				FSpecifier Key;
+				Key.bKey = true;
+				Key.Place = Cursor.Peek().Place;
+				Key.Name = Cursor.ExpectIdentifier("a metadata key in " + List.Macro + "()");
 				while (Cursor.Is("-") || Cursor.Is(".") || Cursor.Is("|"))
 				{
-					Key += Cursor.Next().Text + Cursor.ExpectIdentifier("a metadata key in " + List.Macro + "()");
+					Key.Name += Cursor.Next().Text + Cursor.ExpectIdentifier("a metadata key in " + List.Macro + "()");
 				}
-				List.Meta.Set(Key, Cursor.Accept("=") ? ParseValue(Cursor, List.Macro) : "");
+				if (Cursor.Accept("="))
+				{
+					Key.Values.push_back(ParseValue(Cursor, List.Macro));
+				}
+				List.Specifiers.push_back(Key);
 				if (!Cursor.Is(")"))
 				{
 					Cursor.Expect(",", "between metadata of " + List.Macro + "()");
@@ -62,7 +69,7 @@ namespace HeaderTool
 		void ParseSpecifier(FTokenCursor& Cursor, FSpecifierList& List)
 		{
 			FSpecifier Specifier;
-			Specifier.Line = Cursor.Peek().Line;
+			Specifier.Place = Cursor.Peek().Place;
 			Specifier.Name = Cursor.ExpectIdentifier("a specifier in " + List.Macro + "()");
 			if (EqualsIgnoringCase(Specifier.Name, "meta"))
 			{
@@ -93,13 +100,13 @@ namespace HeaderTool
 	{
 		FSpecifierList List;
 		List.Path = Path;
-		List.Line = Cursor.Peek().Line;
+		List.Place = Cursor.Peek().Place;
 		List.Comment = Cursor.Peek().Comment;
 		List.Macro = Cursor.Next().Text;
 		Cursor.Expect("(", "after " + List.Macro);
 		while (!Cursor.Is(")"))
 		{
-			ParseSpecifier(Cursor, List);
+			SpecifierParser::ParseSpecifier(Cursor, List);
 			if (!Cursor.Is(")"))
 			{
 				Cursor.Expect(",", "between the specifiers of " + List.Macro + "()");

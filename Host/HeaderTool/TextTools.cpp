@@ -7,7 +7,7 @@
 
 namespace HeaderTool
 {
-	namespace
+	namespace TextTools
 	{
 		char Lower(char C)
 		{
@@ -70,13 +70,13 @@ namespace HeaderTool
 
 	bool EqualsIgnoringCase(const std::string& A, const std::string& B)
 	{
-		return A.size() == B.size() && std::equal(A.begin(), A.end(), B.begin(), [](char X, char Y) { return Lower(X) == Lower(Y); });
+		return A.size() == B.size() && std::equal(A.begin(), A.end(), B.begin(), [](char X, char Y) { return TextTools::Lower(X) == TextTools::Lower(Y); });
 	}
 
 	std::string ToLower(const std::string& Text)
 	{
 		std::string Result = Text;
-		std::transform(Result.begin(), Result.end(), Result.begin(), Lower);
+		std::transform(Result.begin(), Result.end(), Result.begin(), TextTools::Lower);
 		return Result;
 	}
 
@@ -126,7 +126,7 @@ namespace HeaderTool
 		size_t Best = std::max<size_t>(1, Text.size() / 4) + 1;
 		for (const std::string& Candidate : Candidates)
 		{
-			const size_t Distance = EditDistance(ToLower(Text), ToLower(Candidate));
+			const size_t Distance = TextTools::EditDistance(ToLower(Text), ToLower(Candidate));
 			if (Distance < Best)
 			{
 				Best = Distance;
@@ -145,7 +145,7 @@ namespace HeaderTool
 		for (std::string Line; std::getline(Stream, Line);)
 		{
 			Line = Trim(Line);
-			if (IsRuler(Line))
+			if (TextTools::IsRuler(Line))
 			{
 				continue;
 			}

@@ -31,7 +31,7 @@ namespace HeaderTool
 		if (!Accept(Text))
 		{
 			const std::string Found = AtEnd() ? "the end of the file" : "'" + Peek().Text + "'";
-			throw FSyntaxError{Peek().Line, "expected '" + std::string(Text) + "' " + Where + ", but found " + Found + "."};
+			throw FSyntaxError{Peek().Place, "expected '" + std::string(Text) + "' " + Where + ", but found " + Found + "."};
 		}
 	}
 
@@ -40,7 +40,7 @@ namespace HeaderTool
 		if (!Peek().IsIdentifier())
 		{
 			const std::string Found = AtEnd() ? "the end of the file" : "'" + Peek().Text + "'";
-			throw FSyntaxError{Peek().Line, "expected " + What + ", but found " + Found + "."};
+			throw FSyntaxError{Peek().Place, "expected " + What + ", but found " + Found + "."};
 		}
 		return Next().Text;
 	}
@@ -54,8 +54,7 @@ namespace HeaderTool
 			const FToken& Token = Next();
 			const bool bOpens = Token.Is("(") || Token.Is("{") || Token.Is("[");
 			const bool bCloses = Token.Is(")") || Token.Is("}") || Token.Is("]");
-			Depth += bOpens ? 1 : bCloses ? -1
-										  : 0;
+			Depth += bOpens - bCloses;
 			if (Depth > (bOpens ? 1 : 0))
 			{
 				AppendToken(Inside, Token);

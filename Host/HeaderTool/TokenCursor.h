@@ -12,7 +12,7 @@ namespace HeaderTool
 	/** Ends the parsing of one declaration; caught by the parser of the scope around it, which reports it and goes on. */
 	struct FSyntaxError
 	{
-		int Line = 0;
+		FPlace Place;
 		std::string Message;
 	};
 

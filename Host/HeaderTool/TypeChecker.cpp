@@ -8,7 +8,7 @@
 
 namespace HeaderTool
 {
-	namespace
+	namespace TypeChecker
 	{
 		const std::set<std::string>& NumberNames()
 		{
@@ -32,9 +32,16 @@ namespace HeaderTool
 			return Found != Kinds.end() ? Found->second : ETypeKind::Unresolved;
 		}
 
+		ETypeKind ContainerKind(const std::string& Name)
+		{
+			static const std::map<std::string, ETypeKind> Kinds = {{"TArray", ETypeKind::Array}, {"TSet", ETypeKind::Set}, {"TMap", ETypeKind::Map}};
+			const auto Found = Kinds.find(Name);
+			return Found != Kinds.end() ? Found->second : ETypeKind::Unresolved;
+		}
+
 		bool IsContainerName(const std::string& Name)
 		{
-			return Name == "TArray" || Name == "TSet" || Name == "TMap";
+			return ContainerKind(Name) != ETypeKind::Unresolved;
 		}
 
 		class FTypeChecker
@@ -127,8 +134,7 @@ namespace HeaderTool
 
 			void Container(FTypeUse& Type)
 			{
-				Type.Kind = Type.Name == "TArray" ? ETypeKind::Array : Type.Name == "TSet" ? ETypeKind::Set
-																						   : ETypeKind::Map;
+				Type.Kind = ContainerKind(Type.Name);
 				RequireNoPointer(Type);
 				const size_t Expected = Type.Kind == ETypeKind::Map ? 2 : 1;
 				if (Type.Arguments.size() != Expected)
@@ -241,10 +247,6 @@ namespace HeaderTool
 			{
 				for (const FClass* Current : Types.GetChain(Struct))
 				{
-					if (Current->Meta.IsTrue("NotBlueprintType"))
-					{
-						return false;
-					}
 					if (Current->Meta.IsTrue("BlueprintType"))
 					{
 						return true;
@@ -345,7 +347,7 @@ namespace HeaderTool
 
 			void Report(const FTypeUse& Type, const std::string& Problem)
 			{
-				Diagnostics.Error(Context.Path, Type.Line, Context.What + " '" + Type.Spell() + "' " + Problem);
+				Diagnostics.Error(Context.Path, Type.Place, Context.What + " '" + Type.Spell() + "' " + Problem);
 			}
 
 			const FTypeContext& Context;
@@ -356,6 +358,6 @@ namespace HeaderTool
 
 	void CheckType(FTypeUse& Type, const FTypeContext& Context, const FTypeTable& Types, FDiagnostics& Diagnostics)
 	{
-		FTypeChecker(Context, Types, Diagnostics).Check(Type);
+		TypeChecker::FTypeChecker(Context, Types, Diagnostics).Check(Type);
 	}
 }

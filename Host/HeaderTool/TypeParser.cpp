@@ -2,6 +2,7 @@
 
 #include "TypeParser.h"
 
+#include "Brackets.h"
 #include "SpecifierParser.h"
 #include "TextTools.h"
 
@@ -9,7 +10,7 @@
 
 namespace HeaderTool
 {
-	namespace
+	namespace TypeParser
 	{
 		bool IsBuiltInWord(const std::string& Text)
 		{
@@ -58,19 +59,18 @@ namespace HeaderTool
 				Cursor.SetPosition(Start);
 			}
 			FTypeUse Raw;
-			Raw.Line = Cursor.Peek().Line;
+			Raw.Place = Cursor.Peek().Place;
 			Raw.bUnparsed = true;
 			for (int Depth = 0; !Cursor.AtEnd() && !(Depth == 0 && (Cursor.Is(",") || Cursor.Is(">"))) && !Cursor.Is(";");)
 			{
 				if (Cursor.Is("(") || Cursor.Is("["))
 				{
 					Raw.Name += Cursor.Peek().Text;
-					const std::string Close = Cursor.Is("(") ? ")" : "]";
+					const std::string Close = PartnerOf(Cursor.Peek().Text);
 					Raw.Name += Cursor.SkipBalanced() + Close;
 					continue;
 				}
-				Depth += Cursor.Is("<") ? 1 : Cursor.Is(">") ? -1
-															 : 0;
+				Depth += Cursor.Is("<") - Cursor.Is(">");
 				AppendToken(Raw.Name, Cursor.Next());
 			}
 			return Raw;
@@ -84,7 +84,7 @@ namespace HeaderTool
 				Type.Arguments.push_back(ParseArgument(Cursor));
 				if (!Cursor.Accept(",") && !Cursor.Is(">"))
 				{
-					throw FSyntaxError{Type.Line, "the template arguments of '" + Type.Name + "' are never closed; add the missing '>'."};
+					throw FSyntaxError{Type.Place, "the template arguments of '" + Type.Name + "' are never closed; add the missing '>'."};
 				}
 			}
 			Cursor.Next();
@@ -103,12 +103,10 @@ namespace HeaderTool
 				if (Cursor.Is("(") || Cursor.Is("{") || Cursor.Is("["))
 				{
 					const std::string Open = Cursor.Peek().Text;
-					Text += Open + Cursor.SkipBalanced() + (Open == "(" ? ")" : Open == "{" ? "}"
-																							: "]");
+					Text += Open + Cursor.SkipBalanced() + PartnerOf(Open);
 					continue;
 				}
-				Angles += Cursor.Is("<") ? 1 : Cursor.Is(">") && Angles > 0 ? -1
-																			: 0;
+				Angles += Cursor.Is("<") - (Cursor.Is(">") && Angles > 0);
 				AppendToken(Text, Cursor.Next());
 			}
 			return Text;
@@ -118,7 +116,7 @@ namespace HeaderTool
 	FTypeUse ParseType(FTokenCursor& Cursor)
 	{
 		FTypeUse Type;
-		Type.Line = Cursor.Peek().Line;
+		Type.Place = Cursor.Peek().Place;
 		for (;;)
 		{
 			if (Cursor.Accept("const"))
@@ -130,13 +128,13 @@ namespace HeaderTool
 				break;
 			}
 		}
-		Type.Name = ParseQualifiedName(Cursor);
+		Type.Name = TypeParser::ParseQualifiedName(Cursor);
 		if (Cursor.Is("<"))
 		{
-			ParseArguments(Cursor, Type);
+			TypeParser::ParseArguments(Cursor, Type);
 			if (Cursor.Is("::"))
 			{
-				throw FSyntaxError{Type.Line, "type '" + Type.Spell() + "::…' is not supported here; name the type directly."};
+				throw FSyntaxError{Type.Place, "type '" + Type.Spell() + "::…' is not supported here; name the type directly."};
 			}
 		}
 		for (;;)
@@ -172,23 +170,24 @@ namespace HeaderTool
 		while (!Cursor.Is(")"))
 		{
 			FProperty Parameter;
-			Parameter.Line = Cursor.Peek().Line;
 			if (Cursor.Is("UPARAM"))
 			{
 				ApplyParameterSpecifiers(ParseSpecifiers(Cursor, Path), Parameter, Diagnostics);
 			}
 			Parameter.Type = ParseType(Cursor);
+			Parameter.Place = Parameter.Type.Place;
 			if (Cursor.Peek().IsIdentifier())
 			{
+				Parameter.Place = Cursor.Peek().Place;
 				Parameter.Name = Cursor.Next().Text;
 			}
 			if (Cursor.Is("["))
 			{
-				throw FSyntaxError{Parameter.Line, "parameter '" + Parameter.Name + "' is a C array, which is not supported here; use TArray<" + Parameter.Type.Spell() + ">."};
+				throw FSyntaxError{Parameter.Place, "parameter '" + Parameter.Name + "' is a C array, which is not supported here; use TArray<" + Parameter.Type.Spell() + ">."};
 			}
 			if (Cursor.Accept("="))
 			{
-				Parameter.DefaultText = ParseDefault(Cursor);
+				Parameter.DefaultText = TypeParser::ParseDefault(Cursor);
 			}
 			Parameters.push_back(Parameter);
 			if (!Cursor.Is(")"))

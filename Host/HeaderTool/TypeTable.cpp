@@ -13,34 +13,34 @@ namespace HeaderTool
 	{
 		for (const std::unique_ptr<FClass>& Class : Header.Classes)
 		{
-			AddName(Class->CppName, Header, Class->Line, Diagnostics);
+			AddName(Class->CppName, Header, Class->Place, Diagnostics);
 			Classes.emplace(Class->CppName, Class.get());
 			for (const std::unique_ptr<FDelegateType>& Delegate : Class->Delegates)
 			{
-				AddName(Class->CppName + "::" + Delegate->Name, Header, Delegate->Line, Diagnostics);
+				AddName(Class->CppName + "::" + Delegate->Name, Header, Delegate->Place, Diagnostics);
 				Delegates.emplace(Class->CppName + "::" + Delegate->Name, Delegate.get());
 				DelegateHeaders.emplace(Delegate.get(), &Header);
 			}
 		}
 		for (const std::unique_ptr<FEnum>& Enum : Header.Enums)
 		{
-			AddName(Enum->Name, Header, Enum->Line, Diagnostics);
+			AddName(Enum->Name, Header, Enum->Place, Diagnostics);
 			Enums.emplace(Enum->CppType(), Enum.get());
 		}
 		for (const std::unique_ptr<FDelegateType>& Delegate : Header.Delegates)
 		{
-			AddName(Delegate->Name, Header, Delegate->Line, Diagnostics);
+			AddName(Delegate->Name, Header, Delegate->Place, Diagnostics);
 			Delegates.emplace(Delegate->Name, Delegate.get());
 			DelegateHeaders.emplace(Delegate.get(), &Header);
 		}
 	}
 
-	void FTypeTable::AddName(const std::string& Name, const FHeader& Header, int Line, FDiagnostics& Diagnostics)
+	void FTypeTable::AddName(const std::string& Name, const FHeader& Header, const FPlace& Place, FDiagnostics& Diagnostics)
 	{
-		const auto [Found, bNew] = Places.emplace(Name, FPlace{Header.Path, Line});
+		const auto [Found, bNew] = Declarations.emplace(Name, FDeclaration{Header.Path, Place});
 		if (!bNew && Header.bOwn)
 		{
-			Diagnostics.Error(Header.Path, Line, "'" + Name + "' is declared already at " + Found->second.Path + "(" + std::to_string(Found->second.Line) + "); rename one of the two.");
+			Diagnostics.Error(Header.Path, Place, "'" + Name + "' is declared already at " + Found->second.Path + "(" + std::to_string(Found->second.Place.Line) + "); rename one of the two.");
 		}
 	}
 

@@ -47,15 +47,15 @@ namespace HeaderTool
 		bool DerivesFrom(const FClass& Class, const std::string& CppName) const;
 
 	private:
-		void AddName(const std::string& Name, const FHeader& Header, int Line, FDiagnostics& Diagnostics);
+		void AddName(const std::string& Name, const FHeader& Header, const FPlace& Place, FDiagnostics& Diagnostics);
 
-		struct FPlace
+		struct FDeclaration
 		{
 			std::string Path;
-			int Line = 0;
+			FPlace Place;
 		};
 
-		std::map<std::string, FPlace> Places;
+		std::map<std::string, FDeclaration> Declarations; // of all names
 		std::map<std::string, const FClass*> Classes; // structs too: the names tell them apart
 		std::map<std::string, const FEnum*> Enums;
 		std::map<std::string, const FDelegateType*> Delegates; // "FName" or "UFoo::FName"

@@ -10,7 +10,7 @@
 
 namespace HeaderTool
 {
-	namespace
+	namespace Validator
 	{
 		class FHeaderValidator
 		{
@@ -43,11 +43,11 @@ namespace HeaderTool
 			void Includes()
 			{
 				const std::string Expected = Header.BaseName() + ".generated.h";
-				if (Header.GeneratedIncludeLine == 0)
+				if (!Header.GeneratedIncludePlace.IsSet())
 				{
-					if (Header.FirstReflectedLine > 0)
+					if (Header.FirstReflectedPlace.IsSet())
 					{
-						Error(Header.FirstReflectedLine, "this header declares reflected types, but does not include \"" + Expected + "\"; add it as the last include.");
+						Error(Header.FirstReflectedPlace, "this header declares reflected types, but does not include \"" + Expected + "\"; add it as the last include.");
 					}
 					return;
 				}
@@ -55,11 +55,11 @@ namespace HeaderTool
 				const std::string Name = Slash == std::string::npos ? Header.GeneratedInclude : Header.GeneratedInclude.substr(Slash + 1);
 				if (Name != Expected)
 				{
-					Error(Header.GeneratedIncludeLine, "\"" + Header.GeneratedInclude + "\" belongs to another header; include \"" + Expected + "\".");
+					Error(Header.GeneratedIncludePlace, "\"" + Header.GeneratedInclude + "\" belongs to another header; include \"" + Expected + "\".");
 				}
-				if (Header.LastIncludeLine != Header.GeneratedIncludeLine)
+				if (Header.LastIncludePlace != Header.GeneratedIncludePlace)
 				{
-					Error(Header.LastIncludeLine, "\"" + Header.LastInclude + "\" is included after \"" + Header.GeneratedInclude + "\", which must be the last include; move it up.");
+					Error(Header.LastIncludePlace, "\"" + Header.LastInclude + "\" is included after \"" + Header.GeneratedInclude + "\", which must be the last include; move it up.");
 				}
 			}
 
@@ -68,17 +68,20 @@ namespace HeaderTool
 			{
 				static const std::set<std::string> FixedWidths = {"uint8", "uint16", "uint32", "uint64", "int8", "int16", "int32", "int64"};
 				const bool bScoped = Enum.Form == EEnumForm::Scoped;
-				if (bScoped && Enum.bBlueprintType && Enum.Underlying != "uint8")
+				const bool bInt = Enum.Underlying.empty() || Enum.Underlying == "int";
+				const FPlace& Place = Enum.Underlying.empty() ? Enum.Place : Enum.UnderlyingPlace;
+				if (Enum.Meta.IsTrue("BlueprintType") && Enum.Underlying != "uint8" && (bScoped || !bInt))
 				{
-					Error(Enum.Line, "enum '" + Enum.Name + "' is a BlueprintType, and Blueprints know only bytes; declare it as 'enum class " + Enum.Name + " : uint8'.");
+					const std::string Remedy = bScoped ? "declare it as 'enum class " + Enum.Name + " : uint8'." : "write uint8, int or no underlying type.";
+					Error(Place, "enum '" + Enum.Name + "' is a BlueprintType, and Blueprints know only bytes; " + Remedy);
 				}
 				else if (bScoped && Enum.Underlying == "int")
 				{
-					Error(Enum.Line, "enum class '" + Enum.Name + "' has the underlying type 'int', which only unscoped enums can have; use uint8, or int32 for more values.");
+					Error(Place, "enum class '" + Enum.Name + "' has the underlying type 'int', which only unscoped enums can have; use uint8, or int32 for more values.");
 				}
-				else if (!Enum.Underlying.empty() && Enum.Underlying != "int" && !FixedWidths.count(Enum.Underlying))
+				else if (!bInt && !FixedWidths.count(Enum.Underlying))
 				{
-					Error(Enum.Line, "enum '" + Enum.Name + "' has the underlying type '" + Enum.Underlying + "', which is not supported; use uint8, or another of int8 to int64 and uint16 to uint64.");
+					Error(Place, "enum '" + Enum.Name + "' has the underlying type '" + Enum.Underlying + "', which is not supported; use uint8, or another of int8 to int64 and uint16 to uint64.");
 				}
 			}
 
@@ -90,7 +93,7 @@ namespace HeaderTool
 				{
 					if (!Names.insert(ToLower(Enumerator.Name)).second)
 					{
-						Error(Enumerator.Line, "'" + Enum.Name + "' has two enumerators named '" + Enumerator.Name + "' (case does not count); rename one.");
+						Error(Enumerator.Place, "'" + Enum.Name + "' has two enumerators named '" + Enumerator.Name + "' (case does not count); rename one.");
 					}
 				}
 			}
@@ -99,7 +102,7 @@ namespace HeaderTool
 			{
 				if (Delegate.Name[0] != 'F')
 				{
-					Error(Delegate.Line, "the name of delegate '" + Delegate.Name + "' must begin with 'F'; call it 'F" + Delegate.Name + "'.");
+					Error(Delegate.Place, "the name of delegate '" + Delegate.Name + "' must begin with 'F'; call it 'F" + Delegate.Name + "'.");
 				}
 				FTypeContext Context{Header.Path, "return value of '" + Delegate.Name + "': type", ETypePlace::Return, Scope, false};
 				CheckType(Delegate.Return, Context, Types, Diagnostics);
@@ -113,16 +116,17 @@ namespace HeaderTool
 
 			void CheckClass(FClass& Class)
 			{
-				CheckBody(Class, Class.Body, Class.CppName, Class.Line);
+				CheckBody(Class, Class.Body, Class.CppName, Class.Place);
 				CheckPrefix(Class);
+				CheckExport(Class);
 				CheckBases(Class);
 				if (Class.Kind == EClassKind::Interface && Class.bHasNativeInterface)
 				{
-					CheckBody(Class, Class.NativeInterfaceBody, Class.NativeInterfaceName(), Class.NativeInterfaceLine);
+					CheckBody(Class, Class.NativeInterfaceBody, Class.NativeInterfaceName(), Class.NativeInterfacePlace);
 				}
 				if (Class.Kind != EClassKind::Struct && FindConstructor(Class, Types) == EConstructor::None)
 				{
-					Error(Class.Line, "the constructors of '" + Class.CppName + "' all take arguments; objects are made by '" + Class.CppName + "()' or '" + Class.CppName + "(const FObjectInitializer&)', so declare one of these.");
+					Error(Class.Place, "the constructors of '" + Class.CppName + "' all take arguments; objects are made by '" + Class.CppName + "()' or '" + Class.CppName + "(const FObjectInitializer&)', so declare one of these.");
 				}
 				for (const std::unique_ptr<FDelegateType>& Delegate : Class.Delegates)
 				{
@@ -132,17 +136,17 @@ namespace HeaderTool
 				ValidateFunctions(Class, Types, Diagnostics);
 			}
 
-			void CheckBody(const FClass& Class, const FBodyFacts& Body, const std::string& Name, int Line)
+			void CheckBody(const FClass& Class, const FBodyFacts& Body, const std::string& Name, const FPlace& Place)
 			{
-				if (Body.MacroLine == 0)
+				if (!Body.MacroPlace.IsSet())
 				{
-					Error(Line, "'" + Name + "' has no GENERATED_BODY(); add it as the first line of its body.");
+					Error(Place, "'" + Name + "' has no GENERATED_BODY(); add it as the first line of its body.");
 				}
 				for (const char* Generated : {"_getUObject", "StaticClass", "StaticStruct"})
 				{
 					if (Body.DeclaredFunctions.count(Generated))
 					{
-						Error(Line, "'" + Name + "' declares " + Generated + "(), which is generated; remove it.");
+						Error(Place, "'" + Name + "' declares " + Generated + "(), which is generated; remove it.");
 					}
 				}
 				for (const FFunction& Function : Class.Functions)
@@ -151,7 +155,7 @@ namespace HeaderTool
 					{
 						if (Body.DeclaredFunctions.count(Prefix + Function.Name))
 						{
-							Error(Line, "'" + Name + "' declares " + Prefix + Function.Name + "(), which is generated for the UFUNCTION '" + Function.Name + "'; remove it.");
+							Error(Place, "'" + Name + "' declares " + Prefix + Function.Name + "(), which is generated for the UFUNCTION '" + Function.Name + "'; remove it.");
 						}
 					}
 				}
@@ -160,20 +164,28 @@ namespace HeaderTool
 			void CheckPrefix(const FClass& Class)
 			{
 				std::string Expected = "U";
+				std::string What = Class.Kind == EClassKind::Interface ? "an interface" : "a class of objects";
 				if (Class.Kind == EClassKind::Struct)
 				{
 					Expected = "F";
+					What = "a struct";
 				}
 				else if (Types.DerivesFrom(Class, "AActor"))
 				{
 					Expected = "A";
+					What = "an actor class";
 				}
 				if (Class.CppName.size() < 2 || Class.CppName.substr(0, 1) != Expected)
 				{
-					const std::string What = Class.Kind == EClassKind::Struct ? "a struct" : Expected == "A" ? "an actor class"
-						: Class.Kind == EClassKind::Interface												 ? "an interface"
-																											 : "a class of objects";
-					Error(Class.Line, "the name of " + What + " must begin with '" + Expected + "', but this one is called '" + Class.CppName + "'; rename it.");
+					Error(Class.Place, "the name of " + What + " must begin with '" + Expected + "', but this one is called '" + Class.CppName + "'; rename it.");
+				}
+			}
+
+			void CheckExport(const FClass& Class)
+			{
+				if (Class.bExported && Class.Flags.Has("CLASS_MinimalAPI"))
+				{
+					Error(Class.Flags.PlaceOf("CLASS_MinimalAPI"), "MinimalAPI exports the least of '" + Class.CppName + "', but its _API macro exports all of it; keep one of the two.");
 				}
 			}
 
@@ -184,7 +196,7 @@ namespace HeaderTool
 					if (Class.Kind != EClassKind::Struct)
 					{
 						const std::string Root = Class.Kind == EClassKind::Interface ? "UInterface" : "UObject";
-						Error(Class.Line, "'" + Class.CppName + "' has no super class; derive it from " + Root + " ('class " + Class.CppName + " : public " + Root + "').");
+						Error(Class.Place, "'" + Class.CppName + "' has no super class; derive it from " + Root + " ('class " + Class.CppName + " : public " + Root + "').");
 					}
 					return;
 				}
@@ -193,27 +205,27 @@ namespace HeaderTool
 				{
 					if (!Types.FindStruct(Super.Name))
 					{
-						Error(Super.Line, "'" + Class.CppName + "' derives from '" + Super.Name + "', which is no USTRUCT of this module or of those it depends on; reflect it, or hold it as a member.");
+						Error(Super.Place, "'" + Class.CppName + "' derives from '" + Super.Name + "', which is no USTRUCT of this module or of those it depends on; reflect it, or hold it as a member.");
 					}
 				}
 				else if (!Types.FindSuper(Class) && !FTypeTable::IsRootClass(Super.Name))
 				{
-					Error(Super.Line, "the super class '" + Super.Name + "' of '" + Class.CppName + "' is no UCLASS of this module or of those it depends on; check the name, put it first among the bases, or reflect it.");
+					Error(Super.Place, "the super class '" + Super.Name + "' of '" + Class.CppName + "' is no UCLASS of this module or of those it depends on; check the name, put it first among the bases, or reflect it.");
 				}
 				else if (Class.Kind == EClassKind::Interface && Super.Name != "UInterface" && !Types.DerivesFrom(Class, "UInterface"))
 				{
-					Error(Super.Line, "interface '" + Class.CppName + "' must derive from UInterface or from another interface, not from '" + Super.Name + "'.");
+					Error(Super.Place, "interface '" + Class.CppName + "' must derive from UInterface or from another interface, not from '" + Super.Name + "'.");
 				}
 				if (Types.GetChain(Class).back()->SuperName() == Class.CppName)
 				{
-					Error(Super.Line, "'" + Class.CppName + "' is its own super class; break the circle.");
+					Error(Super.Place, "'" + Class.CppName + "' is its own super class; break the circle.");
 				}
 				for (size_t Index = 1; Index < Class.Bases.size(); ++Index)
 				{
 					const FBaseSpecifier& Base = Class.Bases[Index];
 					if (Class.Kind != EClassKind::Struct && (Types.FindClass(Base.Name) || FTypeTable::IsRootClass(Base.Name)))
 					{
-						Error(Base.Line, "'" + Class.CppName + "' derives from a second class of objects, '" + Base.Name + "'; only one is possible, next to interfaces.");
+						Error(Base.Place, "'" + Class.CppName + "' derives from a second class of objects, '" + Base.Name + "'; only one is possible, next to interfaces.");
 					}
 				}
 			}
@@ -241,7 +253,7 @@ namespace HeaderTool
 						}
 						if (EqualsIgnoringCase(Other.Name, Property.Name))
 						{
-							Error(Property.Line, "UPROPERTY '" + Property.Name + "' has the name of a UPROPERTY of '" + Owner->CppName + "' (case does not count); rename one of the two.");
+							Error(Property.Place, "UPROPERTY '" + Property.Name + "' has the name of a UPROPERTY of '" + Owner->CppName + "' (case does not count); rename one of the two.");
 							return;
 						}
 					}
@@ -253,20 +265,17 @@ namespace HeaderTool
 				if (Property.Access == EAccess::Private && Property.Flags.Has("CPF_BlueprintVisible") && !Property.Meta.IsTrue("AllowPrivateAccess"))
 				{
 					const std::string Specifier = Property.Flags.Has("CPF_BlueprintReadOnly") ? "BlueprintReadOnly" : "BlueprintReadWrite";
-					Error(Property.Line, Specifier + " on the private UPROPERTY '" + Property.Name + "' needs meta=(AllowPrivateAccess=\"true\"); add it, or make the variable protected or public.");
+					Error(Property.Flags.PlaceOf("CPF_BlueprintVisible"), Specifier + " on the private UPROPERTY '" + Property.Name + "' needs meta=(AllowPrivateAccess=\"true\"); add it, or make the variable protected or public.");
 				}
-				for (const char* Flag : {"CPF_BlueprintAssignable", "CPF_BlueprintCallable"})
+				if (Property.Flags.Has("CPF_BlueprintAssignable") && Property.Type.Kind != ETypeKind::MulticastDelegate)
 				{
-					if (Property.Flags.Has(Flag) && Property.Type.Kind != ETypeKind::MulticastDelegate)
-					{
-						Error(Property.Line, std::string(Flag + 4) + " on UPROPERTY '" + Property.Name + "' is only for multicast delegates; remove it, or declare the type by DECLARE_DYNAMIC_MULTICAST_DELEGATE.");
-					}
+					Error(Property.Flags.PlaceOf("CPF_BlueprintAssignable"), "BlueprintAssignable on UPROPERTY '" + Property.Name + "' is only for multicast delegates; remove it, or declare the type by DECLARE_DYNAMIC_MULTICAST_DELEGATE.");
 				}
 			}
 
-			void Error(int Line, const std::string& Message)
+			void Error(const FPlace& Place, const std::string& Message)
 			{
-				Diagnostics.Error(Header.Path, Line, Message);
+				Diagnostics.Error(Header.Path, Place, Message);
 			}
 
 			FHeader& Header;
@@ -277,7 +286,7 @@ namespace HeaderTool
 
 	void ValidateHeader(FHeader& Header, const FTypeTable& Types, FDiagnostics& Diagnostics)
 	{
-		FHeaderValidator(Header, Types, Diagnostics).Run();
+		Validator::FHeaderValidator(Header, Types, Diagnostics).Run();
 	}
 
 	EConstructor FindConstructor(const FClass& Class, const FTypeTable& Types)

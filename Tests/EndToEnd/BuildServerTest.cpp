@@ -20,7 +20,7 @@ TEST_F(FBuildServer, TheVerdictIsTheSameHoweverItIsTold)
 	for (const std::vector<std::string>& Options : Switches)
 	{
 		SCOPED_TRACE(testing::PrintToString(Options));
-		WriteIni(Section + OtherProfile);
+		WriteIni(SectionLine + GlassLine);
 		const FProgramResult Missing = Check(Options);
 		EXPECT_EQ(Missing.ExitStatus, 1) << Missing.Output << Missing.Errors;
 		EXPECT_EQ(CountOf(Missing.Output, "Notification not shown: Velmorant: Missing UnitVolume Profile: "), ShowsNotifications(Options) ? 0u : 1u) << Missing.Output;
@@ -30,9 +30,9 @@ TEST_F(FBuildServer, TheVerdictIsTheSameHoweverItIsTold)
 		std::vector<std::string> WithDifference = Options;
 		WithDifference.push_back("--diff");
 		EXPECT_EQ(CountOf(Check(WithDifference).Output, "+" + ProfileLine + "+" + ChannelLine), 1u);
-		EXPECT_EQ(ReadIni(), Section + OtherProfile);
+		EXPECT_EQ(ReadIni(), SectionLine + GlassLine);
 
-		WriteIni(Section + ProfileLine + ChannelLine);
+		WriteIni(SectionLine + ProfileLine + ChannelLine);
 		EXPECT_EQ(Check(Options).ExitStatus, 0);
 	}
 }
@@ -40,13 +40,13 @@ TEST_F(FBuildServer, TheVerdictIsTheSameHoweverItIsTold)
 TEST_F(FBuildServer, ARepairNeedsButtonsToPress)
 {
 	MakeProject();
-	WriteIni(Section + OtherProfile);
+	WriteIni(SectionLine + GlassLine);
 	for (const char* Switch : {"--no-notifications", "--commandlet"})
 	{
 		const FProgramResult Result = Check({"--repair", Switch});
 		EXPECT_EQ(Result.ExitStatus, 2) << Switch;
 		EXPECT_NE(Result.Errors.find(Switch), std::string::npos) << Result.Errors;
-		EXPECT_EQ(ReadIni(), Section + OtherProfile);
+		EXPECT_EQ(ReadIni(), SectionLine + GlassLine);
 	}
 	EXPECT_EQ(Check({"--repair", "--unattended", "--nullrhi"}).ExitStatus, 0) << "the program presses them";
 }

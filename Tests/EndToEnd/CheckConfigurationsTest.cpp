@@ -27,7 +27,7 @@ protected:
 TEST_F(FCheckConfigurations, RepairWorksOnFilesOfEveryShape)
 {
 	const std::string Two = ProfileLine + ChannelLine;
-	std::string Unended = Section + OtherProfile;
+	std::string Unended = SectionLine + GlassLine;
 	Unended.pop_back();
 	const struct
 	{
@@ -35,12 +35,12 @@ TEST_F(FCheckConfigurations, RepairWorksOnFilesOfEveryShape)
 		std::string Before;
 		std::string After;
 	} Cases[] = {
-		{"behind the last profile, other lines stay", "; note\n" + Section + OtherProfile + "Key=1\n[Other]\nA=\n", "; note\n" + Section + OtherProfile + Two + "Key=1\n[Other]\nA=\n"},
-		{"carriage returns stay and new lines get them", WithCarriageReturns(Section + OtherProfile + "Key=1\n"), WithCarriageReturns(Section + OtherProfile + Two + "Key=1\n")},
-		{"UTF-16 stays UTF-16", AsUtf16(Section + OtherProfile), AsUtf16(Section + OtherProfile + Two)},
-		{"a byte-order mark stays", "\xEF\xBB\xBF" + Section + OtherProfile, "\xEF\xBB\xBF" + Section + OtherProfile + Two},
-		{"letters beyond ASCII stay", "; Ático Ñandú\n" + Section + OtherProfile, "; Ático Ñandú\n" + Section + OtherProfile + Two},
-		{"a profile line in lower case counts", Section + "+profiles=(Name=\"Glass\")\n", Section + "+profiles=(Name=\"Glass\")\n" + Two},
+		{"behind the last profile, other lines stay", "; note\n" + SectionLine + GlassLine + "Key=1\n[Other]\nA=\n", "; note\n" + SectionLine + GlassLine + Two + "Key=1\n[Other]\nA=\n"},
+		{"carriage returns stay and new lines get them", WithCarriageReturns(SectionLine + GlassLine + "Key=1\n"), WithCarriageReturns(SectionLine + GlassLine + Two + "Key=1\n")},
+		{"UTF-16 stays UTF-16", ToUtf16(SectionLine + GlassLine), ToUtf16(SectionLine + GlassLine + Two)},
+		{"a byte-order mark stays", "\xEF\xBB\xBF" + SectionLine + GlassLine, "\xEF\xBB\xBF" + SectionLine + GlassLine + Two},
+		{"letters beyond ASCII stay", "; Ático Ñandú\n" + SectionLine + GlassLine, "; Ático Ñandú\n" + SectionLine + GlassLine + Two},
+		{"a profile line in lower case counts", SectionLine + "+profiles=(Name=\"Glass\")\n", SectionLine + "+profiles=(Name=\"Glass\")\n" + Two},
 	};
 	for (const auto& Case : Cases)
 	{
@@ -73,12 +73,12 @@ TEST_F(FCheckConfigurations, TheVerdictIsTheToolkits)
 		std::string Ini;
 		int ExitStatus;
 	} Cases[] = {
-		{"both lines", Section + ProfileLine + ChannelLine, 0},
-		{"the channel in another letter case", Section + ProfileLine + OtherCase, 0},
-		{"the channel without a blank is another line", Section + ProfileLine + OtherSpacing, 1},
-		{"the channel alone", Section + OtherProfile + ChannelLine, 1},
-		{"the profile alone", Section + ProfileLine, 1},
-		{"both in another section", "[/Script/Engine.Other]\n" + ProfileLine + ChannelLine + Section + OtherProfile, 1},
+		{"both lines", SectionLine + ProfileLine + ChannelLine, 0},
+		{"the channel in another letter case", SectionLine + ProfileLine + OtherCase, 0},
+		{"the channel without a blank is another line", SectionLine + ProfileLine + OtherSpacing, 1},
+		{"the channel alone", SectionLine + GlassLine + ChannelLine, 1},
+		{"the profile alone", SectionLine + ProfileLine, 1},
+		{"both in another section", "[/Script/Engine.Other]\n" + ProfileLine + ChannelLine + SectionLine + GlassLine, 1},
 	};
 	for (const auto& Case : Cases)
 	{
@@ -150,15 +150,15 @@ TEST_F(FCheckConfigurations, ARepairThatDoesNotHelpIsForetoldAndWritesNothing)
 		std::string ByHand;
 		std::string Spoiler; // "path(line)"
 	} Cases[] = {
-		{"no profile line", Section + "Key=1\n", "", None, ProfileLine + ChannelLine, ""},
-		{"no profile line, but the channel", Section + "Key=1\n" + ChannelLine, "", None, ProfileLine, ""},
-		{"the profile in another form", Section + "Profiles=(Name=\"UnitVolume\")\n", "", None, ChannelLine, ""},
-		{"profiles in another section", Section + "Key=1\n[/Script/Other]\nA=1\n" + OtherProfile, "", Rule + ", which is " + Ini + "(5), in another section, [/Script/Other]", ProfileLine + ChannelLine, ""},
-		{"both lines in another section", Section + "Key=1\n[/Script/Other]\n" + ProfileLine + ChannelLine, "", Rule + ", which is " + Ini + "(4), in another section, [/Script/Other]", ProfileLine + ChannelLine, ""},
-		{"a profile before the first section", OtherProfile + Section + "Key=1\n", "", Rule + ", which is " + Ini + "(1), in no section", ProfileLine + ChannelLine, ""},
-		{"profiles that are cleared below", Section + OtherProfile + "; note\n!Profiles=ClearArray\n", "", "line 4 of " + Ini + " has to go first", "", Ini + "(4)"},
-		{"profiles that a layer clears", Section + OtherProfile, Section + "!Profiles=ClearArray\n", "line 2 of " + Layer + " has to go first", "", Layer + "(2)"},
-		{"both lines, but a layer clears them", Section + ProfileLine + ChannelLine, Section + "!Profiles=ClearArray\n", "line 2 of " + Layer + " has to go first", "", Layer + "(2)"},
+		{"no profile line", SectionLine + "Key=1\n", "", None, ProfileLine + ChannelLine, ""},
+		{"no profile line, but the channel", SectionLine + "Key=1\n" + ChannelLine, "", None, ProfileLine, ""},
+		{"the profile in another form", SectionLine + "Profiles=(Name=\"UnitVolume\")\n", "", None, ChannelLine, ""},
+		{"profiles in another section", SectionLine + "Key=1\n[/Script/Other]\nA=1\n" + GlassLine, "", Rule + ", which is " + Ini + "(5), in another section, [/Script/Other]", ProfileLine + ChannelLine, ""},
+		{"both lines in another section", SectionLine + "Key=1\n[/Script/Other]\n" + ProfileLine + ChannelLine, "", Rule + ", which is " + Ini + "(4), in another section, [/Script/Other]", ProfileLine + ChannelLine, ""},
+		{"a profile before the first section", GlassLine + SectionLine + "Key=1\n", "", Rule + ", which is " + Ini + "(1), in no section", ProfileLine + ChannelLine, ""},
+		{"profiles that are cleared below", SectionLine + GlassLine + "; note\n!Profiles=ClearArray\n", "", "line 4 of " + Ini + " has to go first", "", Ini + "(4)"},
+		{"profiles that a layer clears", SectionLine + GlassLine, SectionLine + "!Profiles=ClearArray\n", "line 2 of " + Layer + " has to go first", "", Layer + "(2)"},
+		{"both lines, but a layer clears them", SectionLine + ProfileLine + ChannelLine, SectionLine + "!Profiles=ClearArray\n", "line 2 of " + Layer + " has to go first", "", Layer + "(2)"},
 	};
 	for (const auto& Case : Cases)
 	{
@@ -191,7 +191,7 @@ TEST_F(FCheckConfigurations, ARepairThatDoesNotHelpIsForetoldAndWritesNothing)
 
 		// What is advised helps.
 		std::filesystem::remove(Layer);
-		WriteIni(CollisionIni::Replace(CollisionIni::Replace(Case.Ini, "!Profiles=ClearArray\n", ""), Section, Section + Case.ByHand));
+		WriteIni(CollisionIni::Replace(CollisionIni::Replace(Case.Ini, "!Profiles=ClearArray\n", ""), SectionLine, SectionLine + Case.ByHand));
 		EXPECT_EQ(Check({"--repair"}).ExitStatus, 0);
 		EXPECT_EQ(Check({"--undo"}).ExitStatus, Case.ByHand.empty() && Case.Ini.find(ProfileLine) == std::string::npos ? 0 : 2) << "lines that were added by hand need no repair";
 	}
@@ -199,7 +199,7 @@ TEST_F(FCheckConfigurations, ARepairThatDoesNotHelpIsForetoldAndWritesNothing)
 
 TEST_F(FCheckConfigurations, AReadOnlyFileIsRefused)
 {
-	WriteIni(Section + OtherProfile);
+	WriteIni(SectionLine + GlassLine);
 	std::filesystem::permissions(Folder.GetNative(IniFile), std::filesystem::perms(0444));
 	ExpectRefused({"--repair"}, "read-only");
 	EXPECT_EQ(Check().ExitStatus, 1) << "looking at it is no matter";
@@ -214,7 +214,7 @@ TEST_F(FCheckConfigurations, AFolderInItsPlaceIsRefused)
 
 TEST_F(FCheckConfigurations, BytesThatNoEncodingExplainsAreRefused)
 {
-	WriteIni(Section + OtherProfile + "; \xC3\x28 \xFF\n");
+	WriteIni(SectionLine + GlassLine + "; \xC3\x28 \xFF\n");
 	ExpectRefused({"--repair"}, "");
 	ExpectRefused({}, "");
 }

@@ -27,12 +27,12 @@ TEST_F(FCheckDifference, ShowsWhatTheRepairAddsWithThreeLinesAroundIt)
 		std::string Before;
 		std::string Difference;
 	} Cases[] = {
-		{"lines before and behind", "; 1\n; 2\n" + Section + OtherProfile + "A=1\nB=2\nC=3\nD=4\n", Headers + "@@ -2,6 +2,8 @@\n ; 2\n " + Section + " " + OtherProfile + Added + " A=1\n B=2\n C=3\n"},
-		{"at the end", Section + OtherProfile, Headers + "@@ -1,2 +1,4 @@\n " + Section + " " + OtherProfile + Added},
-		{"carriage returns are part of the lines", WithCarriageReturns(Section + OtherProfile), Headers + "@@ -1,2 +1,4 @@\n" + WithCarriageReturns(" " + Section + " " + OtherProfile + Added)},
-		{"a last line without end", Section + OtherProfile + "A=1", Headers + "@@ -1,3 +1,5 @@\n " + Section + " " + OtherProfile + Added + " A=1\n\\ No newline at end of file\n"},
-		{"a last profile without end gets one", Section + "+Profiles=(Name=\"Any\")", Headers + "@@ -1,2 +1,4 @@\n " + Section + "-+Profiles=(Name=\"Any\")\n\\ No newline at end of file\n++Profiles=(Name=\"Any\")\n+" + ProfileLine + "+" + ChannelLine.substr(0, ChannelLine.size() - 1) + "\n\\ No newline at end of file\n"},
-		{"UTF-16 is shown as UTF-8", AsUtf16(Section + OtherProfile), Headers + "@@ -1,2 +1,4 @@\n " + Section + " " + OtherProfile + Added},
+		{"lines before and behind", "; 1\n; 2\n" + SectionLine + GlassLine + "A=1\nB=2\nC=3\nD=4\n", Headers + "@@ -2,6 +2,8 @@\n ; 2\n " + SectionLine + " " + GlassLine + Added + " A=1\n B=2\n C=3\n"},
+		{"at the end", SectionLine + GlassLine, Headers + "@@ -1,2 +1,4 @@\n " + SectionLine + " " + GlassLine + Added},
+		{"carriage returns are part of the lines", WithCarriageReturns(SectionLine + GlassLine), Headers + "@@ -1,2 +1,4 @@\n" + WithCarriageReturns(" " + SectionLine + " " + GlassLine + Added)},
+		{"a last line without end", SectionLine + GlassLine + "A=1", Headers + "@@ -1,3 +1,5 @@\n " + SectionLine + " " + GlassLine + Added + " A=1\n\\ No newline at end of file\n"},
+		{"a last profile without end gets one", SectionLine + "+Profiles=(Name=\"Any\")", Headers + "@@ -1,2 +1,4 @@\n " + SectionLine + "-+Profiles=(Name=\"Any\")\n\\ No newline at end of file\n++Profiles=(Name=\"Any\")\n+" + ProfileLine + "+" + ChannelLine.substr(0, ChannelLine.size() - 1) + "\n\\ No newline at end of file\n"},
+		{"UTF-16 is shown as UTF-8", ToUtf16(SectionLine + GlassLine), Headers + "@@ -1,2 +1,4 @@\n " + SectionLine + " " + GlassLine + Added},
 	};
 	for (const auto& Case : Cases)
 	{
@@ -78,7 +78,7 @@ TEST_F(FCheckDifference, ShowsTheSectionThatIsMadeAndAFileThatIsNew)
 
 TEST_F(FCheckDifference, StandsInTheReportOnlyWhenAskedFor)
 {
-	WriteIni(Section + OtherProfile);
+	WriteIni(SectionLine + GlassLine);
 	EXPECT_EQ(Check().Output.find("@@"), std::string::npos);
 	const FProgramResult Repaired = Check({"--repair", "--diff"});
 	EXPECT_EQ(Repaired.ExitStatus, 0) << Repaired.Errors;
@@ -88,7 +88,7 @@ TEST_F(FCheckDifference, StandsInTheReportOnlyWhenAskedFor)
 
 TEST_F(FCheckDifference, TellsWhatWouldKeepTheRepairFromWriting)
 {
-	WriteIni(Section + OtherProfile);
+	WriteIni(SectionLine + GlassLine);
 	std::filesystem::permissions(Folder.GetNative(IniFile), std::filesystem::perms(0444));
 	const FProgramResult Result = Check({"--diff"});
 	EXPECT_EQ(Result.ExitStatus, 1);

@@ -14,13 +14,13 @@ protected:
 	FCheckPlatforms()
 	{
 		MakeProject();
-		WriteIni(Section + OtherProfile + ProfileLine + ChannelLine);
+		WriteIni(SectionLine + GlassLine + ProfileLine + ChannelLine);
 	}
 };
 
 TEST_F(FCheckPlatforms, ALayerThatTakesTheProfileAwayIsNamed)
 {
-	const std::string Clear = "; nothing\n" + Section + "!Profiles=ClearArray\n";
+	const std::string Clear = "; nothing\n" + SectionLine + "!Profiles=ClearArray\n";
 	const struct
 	{
 		const char* Behaviour;
@@ -36,10 +36,10 @@ TEST_F(FCheckPlatforms, ALayerThatTakesTheProfileAwayIsNamed)
 		{"instead of this machine's", "Linux/LinuxEngine.ini", Clear, {"--platform", "Windows"}, ""},
 		{"one that shares its settings", "Unix/UnixEngine.ini", Clear, {}, "Unix/UnixEngine.ini(3)"},
 		{"the user's", "UserEngine.ini", Clear, {}, "UserEngine.ini(3)"},
-		{"the one profile alone", "Linux/LinuxEngine.ini", Section + "-" + ProfileLine.substr(1), {}, "Linux/LinuxEngine.ini(2)"},
-		{"another list in its place", "Linux/LinuxEngine.ini", Section + "Profiles=(Name=\"Only\")\n", {}, "Linux/LinuxEngine.ini(2)"},
+		{"the one profile alone", "Linux/LinuxEngine.ini", SectionLine + "-" + ProfileLine.substr(1), {}, "Linux/LinuxEngine.ini(2)"},
+		{"another list in its place", "Linux/LinuxEngine.ini", SectionLine + "Profiles=(Name=\"Only\")\n", {}, "Linux/LinuxEngine.ini(2)"},
 		{"taken twice: the line that counts", "Linux/LinuxEngine.ini", Clear + ProfileLine + "!Profiles=ClearArray\n", {}, "Linux/LinuxEngine.ini(5)"},
-		{"another profile alone", "Linux/LinuxEngine.ini", Section + "-" + OtherProfile.substr(1), {}, ""},
+		{"another profile alone", "Linux/LinuxEngine.ini", SectionLine + "-" + GlassLine.substr(1), {}, ""},
 		{"cleared and brought again", "Linux/LinuxEngine.ini", Clear + ProfileLine, {}, ""},
 		{"another section", "Linux/LinuxEngine.ini", "[Other]\n!Profiles=ClearArray\n", {}, ""},
 	};
@@ -59,7 +59,7 @@ TEST_F(FCheckPlatforms, ALayerThatTakesTheProfileAwayIsNamed)
 
 TEST_F(FCheckPlatforms, AChannelThatIsTakenAwayIsToldThoughTheVerdictStays)
 {
-	Folder.Write("Project/Config/Linux/LinuxEngine.ini", Section + "!DefaultChannelResponses=ClearArray\n");
+	Folder.Write("Project/Config/Linux/LinuxEngine.ini", SectionLine + "!DefaultChannelResponses=ClearArray\n");
 	const FProgramResult Result = Check({"--json"});
 	EXPECT_EQ(Result.ExitStatus, 0) << "the toolkit looks for the channel in DefaultEngine.ini only";
 	const nlohmann::json Report = nlohmann::json::parse(Result.Output, nullptr, false);

@@ -7,12 +7,12 @@
 #include "Check/UnifiedDifference.h"
 #include "CollisionIni.h"
 #include "EditorHost.h"
-#include "Framework/Notifications/NotificationManager.h"
 #include "HostPaths.h"
 #include "HostState.h"
 #include "Logging/LogMacros.h"
 #include "ProjectOnDisk.h"
-#include "Widgets/Notifications/SNotificationList.h"
+#include "UObject/Package.h"
+#include "UObject/UObjectGlobals.h"
 
 #include <cstdlib>
 #include <nlohmann/json.hpp>
@@ -155,7 +155,7 @@ TEST_F(FCheckReports, TheProgramFillsThemIn)
 	const std::string Ini = Folder.GetNative(IniFile).string();
 	const std::string Project = GetProject() + "/Test.uproject";
 	const std::string Lines = "  " + ProfileLine + "  " + ChannelLine;
-	const std::string Usual = Section + OtherProfile;
+	const std::string Usual = SectionLine + GlassLine;
 	const auto WithMessages = [&Project](std::initializer_list<std::string> Messages) {
 		std::string Text = Project + "\n";
 		for (const std::string& Message : Messages)
@@ -286,28 +286,26 @@ TEST_F(FCheckReports, ARecordOfARepairIsReadBackOrRefused)
 TEST_F(FCheckReports, TheVerdictIsReadFromWhatTheToolkitSays)
 {
 	const TCHAR* const SoundLine = TEXT("Checked UnitVolume DefaultChannelResponses and profile exist.");
-	const TCHAR* const Refused = TEXT("Notification not shown: Velmorant: Missing UnitVolume Profile: ");
+	const TCHAR* const Refused = TEXT("Notification not shown: Velmorant: Da fehlt etwas: ");
 	const struct
 	{
 		const char* Behaviour;
 		bool bSound; // the project is, so that the toolkit says so
 		const TCHAR* Line;
-		const TCHAR* Notification;
+		bool bAsksMore;
 		EToolkitVerdict Verdict;
 	} Cases[] = {
-		{"it says sound", true, nullptr, nullptr, EToolkitVerdict::Sound},
-		{"it asks", false, nullptr, nullptr, EToolkitVerdict::Missing},
-		{"it says both", true, nullptr, TEXT("Velmorant: Missing UnitVolume Profile"), EToolkitVerdict::None},
-		{"it says both in the log", true, Refused, nullptr, EToolkitVerdict::None},
-		{"it asks and says sound", false, SoundLine, nullptr, EToolkitVerdict::None},
-		{"it asks in both ways", false, Refused, nullptr, EToolkitVerdict::Missing},
-		{"it says something else", true, TEXT("Notification not shown: Velmorant: Something Else: "), TEXT("Velmorant: Something Else"), EToolkitVerdict::Sound},
-		{"it says something like it", true, TEXT("notification not shown: velmorant: missing unitvolume profile: "), TEXT("velmorant: missing unitvolume profile"), EToolkitVerdict::Sound},
+		{"it says sound", true, nullptr, false, EToolkitVerdict::Sound},
+		{"it asks", false, nullptr, false, EToolkitVerdict::Missing},
+		{"it says both", true, nullptr, true, EToolkitVerdict::None},
+		{"it asks and says sound", false, SoundLine, false, EToolkitVerdict::None},
+		{"it asks in both ways", false, Refused, false, EToolkitVerdict::Missing},
+		{"it could not show something else", true, Refused, false, EToolkitVerdict::Sound},
 	};
 	for (const auto& Case : Cases)
 	{
 		SCOPED_TRACE(Case.Behaviour);
-		WriteIni(Section + OtherProfile + (Case.bSound ? ProfileLine + ChannelLine : ""));
+		WriteIni(SectionLine + GlassLine + (Case.bSound ? ProfileLine + ChannelLine : ""));
 		FEditorHostOptions Options;
 		Options.Project = Folder.Get("Project/Test.uproject");
 		Options.UserSettingsDir = Folder.Get("UserConfig");
@@ -316,9 +314,9 @@ TEST_F(FCheckReports, TheVerdictIsReadFromWhatTheToolkitSays)
 		{
 			UE_LOG(LogVelmorantProEditor, Warning, TEXT("%s"), Case.Line);
 		}
-		if (Case.Notification != nullptr)
+		if (Case.bAsksMore)
 		{
-			FSlateNotificationManager::Get().AddNotification(FNotificationInfo(FText::FromString(Case.Notification)));
+			NewObject<UObject>(GetTransientPackage(), FindObject<UClass>(nullptr, TEXT("/Script/VelmorantProEditor.CheckCollisionNotification")))->AddToRoot();
 		}
 		EXPECT_EQ(ToolkitVerdict::Read(), Case.Verdict);
 	}

@@ -3,6 +3,11 @@
 #include "CollisionIni.h"
 #include "ProjectOnDisk.h"
 
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+#include <utility>
+
 class FCheckSample : public FProjectOnDisk
 {
 protected:
@@ -29,6 +34,26 @@ TEST_F(FCheckSample, RepairAddsExactlyTheTwoLinesBehindTheLastProfile)
 	std::string Expected = Before;
 	Expected.insert(Before.find('\n', LastProfile) + 1, CollisionIni::ProfileLine + CollisionIni::ChannelLine);
 	EXPECT_EQ(ReadIni(), Expected);
+}
+
+TEST_F(FCheckSample, ATranslatedToolkitGetsTheSameVerdict)
+{
+	// The program with other words of the same length where the toolkit has its own.
+	std::string Program = ReadBytes(VELMORANT_BINARY_DIR "/velmorant");
+	for (const auto& [From, To] : {std::pair(u"Velmorant: Missing UnitVolume Profile", u"Velmorant: Profil UnitVolume fehlt   "), std::pair(u"Add to Project Config", u"Ins Projekt eintragen"), std::pair(u"Restart Editor", u"Editor beenden")})
+	{
+		const size_t Length = std::char_traits<char16_t>::length(From) * sizeof(char16_t);
+		ASSERT_EQ(Length, std::char_traits<char16_t>::length(To) * sizeof(char16_t));
+		const std::string Own(reinterpret_cast<const char*>(From), Length);
+		ASSERT_NE(Program.find(Own), std::string::npos);
+		Program = CollisionIni::Replace(Program, Own, std::string(reinterpret_cast<const char*>(To), Length));
+	}
+	Folder.Write("translated", Program);
+	std::filesystem::permissions(Folder.GetNative("translated"), std::filesystem::perms::owner_all);
+	const std::string Call = "cd '" + Folder.GetNative().string() + "' && XDG_CONFIG_HOME=$PWD/UserConfig XDG_STATE_HOME=$PWD/UserState ./translated check --repair Project >out";
+	EXPECT_EQ(std::system(Call.c_str()), 0);
+	EXPECT_NE(Folder.Read("out").find("Notification: Velmorant: Profil UnitVolume fehlt"), std::string::npos) << Folder.Read("out");
+	EXPECT_NE(ReadIni().find(CollisionIni::ProfileLine), std::string::npos);
 }
 
 TEST_F(FCheckSample, ARepairedProjectIsSoundAndLeftAlone)
@@ -60,7 +85,7 @@ TEST_F(FCheckSample, TheProjectMayBeNamedByItsFileOrItsFolder)
 TEST_F(FCheckSample, UnreadableMapsDoNotSpoilTheVerdict)
 {
 	// What a project made with the engine has there.
-	Folder.Write(IniFile, "[/Script/EngineSettings.GameMapsSettings]\nEditorStartupMap=/Game/Maps/Binary.Binary\n\n" + CollisionIni::Section + CollisionIni::OtherProfile);
+	Folder.Write(IniFile, "[/Script/EngineSettings.GameMapsSettings]\nEditorStartupMap=/Game/Maps/Binary.Binary\n\n" + CollisionIni::SectionLine + CollisionIni::GlassLine);
 	Folder.Write("Project/Content/Maps/Binary.umap", std::string("\xC1\x83\x2A\x9E\0\0", 6));
 	const FProgramResult Result = Check();
 	EXPECT_EQ(Result.ExitStatus, 1) << Result.Errors;

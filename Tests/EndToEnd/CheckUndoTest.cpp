@@ -31,7 +31,7 @@ protected:
 		return Found;
 	}
 
-	static inline const std::string Usual = Section + OtherProfile + "Key=1\n";
+	static inline const std::string Usual = SectionLine + GlassLine + "Key=1\n";
 };
 
 TEST_F(FCheckUndo, GivesTheFileBackAsItWas)
@@ -46,10 +46,10 @@ TEST_F(FCheckUndo, GivesTheFileBackAsItWas)
 		{"a section with profiles", "; note\n" + Usual + "[Other]\nA=\n"},
 		{"carriage returns", WithCarriageReturns(Usual)},
 		{"lone carriage returns", CollisionIni::Replace(Usual, "\n", "\r")},
-		{"UTF-16", AsUtf16(Usual)},
+		{"UTF-16", ToUtf16(Usual)},
 		{"a byte-order mark and letters beyond ASCII", "\xEF\xBB\xBF; Ático Ñandú\n" + Usual},
 		{"a last line without end", Unended},
-		{"a last profile without end", Section + "+Profiles=(Name=\"Any\")"},
+		{"a last profile without end", SectionLine + "+Profiles=(Name=\"Any\")"},
 		{"no section", "[Other]\nKey=1\n"},
 		{"no section and no last line end", "[Other]\nKey=1"},
 		{"an empty file", ""},
@@ -88,7 +88,7 @@ TEST_F(FCheckUndo, FindsTheLinesWhereTheyStandNow)
 	WriteIni("[New]\nA=1\n" + Repaired.substr(0, Repaired.find(ProfileLine)) + "+Profiles=(Name=\"Mine\")\n" + ProfileLine + "; between\n" + ChannelLine + "B=2\n");
 	const FProgramResult Result = Check({"--undo", "--diff"});
 	EXPECT_EQ(Result.ExitStatus, 0) << Result.Output << Result.Errors;
-	EXPECT_EQ(ReadIni(), "[New]\nA=1\n" + Section + OtherProfile + "+Profiles=(Name=\"Mine\")\n; between\nB=2\n");
+	EXPECT_EQ(ReadIni(), "[New]\nA=1\n" + SectionLine + GlassLine + "+Profiles=(Name=\"Mine\")\n; between\nB=2\n");
 	EXPECT_NE(Result.Output.find("\n-" + ProfileLine + " ; between\n-" + ChannelLine), std::string::npos) << Result.Output;
 }
 
@@ -140,7 +140,7 @@ TEST_F(FCheckUndo, IsAboutTheLastRepairOfThisProject)
 
 TEST_F(FCheckUndo, NeedsARecord)
 {
-	WriteIni(Section + OtherProfile + ProfileLine + ChannelLine);
+	WriteIni(SectionLine + GlassLine + ProfileLine + ChannelLine);
 	const std::string Before = ReadIni();
 	const FProgramResult Result = Check({"--undo"});
 	EXPECT_EQ(Result.ExitStatus, 2);
@@ -199,5 +199,5 @@ TEST_F(FCheckUndo, JsonTellsWhatWasTakenOut)
 	ASSERT_EQ(Report["writtenFiles"].size(), 1u);
 	ASSERT_EQ(Report["writtenFiles"][0]["removedLines"].size(), 2u);
 	EXPECT_EQ(Report["writtenFiles"][0]["removedLines"][1].get<std::string>() + "\n", ChannelLine);
-	EXPECT_EQ(Report.value("diff", ""), "--- Config/DefaultEngine.ini\n+++ Config/DefaultEngine.ini\n@@ -1,5 +1,3 @@\n " + Section + " " + OtherProfile + "-" + ProfileLine + "-" + ChannelLine + " Key=1\n");
+	EXPECT_EQ(Report.value("diff", ""), "--- Config/DefaultEngine.ini\n+++ Config/DefaultEngine.ini\n@@ -1,5 +1,3 @@\n " + SectionLine + " " + GlassLine + "-" + ProfileLine + "-" + ChannelLine + " Key=1\n");
 }

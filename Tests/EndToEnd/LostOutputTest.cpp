@@ -12,7 +12,7 @@ TEST_F(FLostOutput, IsNoSuccess)
 {
 	using namespace CollisionIni;
 	MakeProject();
-	WriteIni(Section + ProfileLine + ChannelLine);
+	WriteIni(SectionLine + ProfileLine + ChannelLine);
 	Folder.Write("test.velscript", "wait 0\nprint log\ncall VelmorantEditorUtilitiesLibrary.GetVelmorantProVersion\n");
 	const std::vector<std::string> Commands[] = {{"check", GetProject()}, {"check", GetProject(), "--json"}, {"run", GetProject(), GetScript()}, {"run", GetProject(), GetScript(), "--json"}, {"--help"}, {"check", "--json"}};
 	for (const FProgramRun::EOutput Output : {FProgramRun::EOutput::FullDisk, FProgramRun::EOutput::ClosedPipe})

@@ -14,6 +14,12 @@
 #include <string>
 #include <utility>
 
+inline std::string ReadBytes(const std::filesystem::path& File)
+{
+	std::ifstream Stream(File, std::ios::binary);
+	return std::string(std::istreambuf_iterator<char>(Stream), std::istreambuf_iterator<char>());
+}
+
 /** Every file below a folder, with its bytes and the time it was changed last. */
 using FFolderState = std::map<std::string, std::pair<std::string, std::filesystem::file_time_type>>;
 
@@ -22,13 +28,7 @@ inline FFolderState LookAtFolder(const std::filesystem::path& Folder)
 	FFolderState State;
 	for (const auto& Entry : std::filesystem::recursive_directory_iterator(Folder))
 	{
-		std::string Bytes;
-		if (Entry.is_regular_file())
-		{
-			std::ifstream Stream(Entry.path(), std::ios::binary);
-			Bytes.assign(std::istreambuf_iterator<char>(Stream), std::istreambuf_iterator<char>());
-		}
-		State[Entry.path().string()] = {Bytes, Entry.last_write_time()};
+		State[Entry.path().string()] = {Entry.is_regular_file() ? ReadBytes(Entry.path()) : std::string(), Entry.last_write_time()};
 	}
 	return State;
 }

@@ -32,14 +32,14 @@ TEST_F(FRepairSafety, RepairsAtOnceAddTheLinesOnce)
 		}
 		EXPECT_EQ(CountOf(ReadIni(), ProfileLine), 1u) << ReadIni();
 		EXPECT_EQ(CountOf(ReadIni(), ChannelLine), 1u);
-		EXPECT_EQ(CountOf(ReadIni(), Section), 1u);
+		EXPECT_EQ(CountOf(ReadIni(), SectionLine), 1u);
 		EXPECT_EQ(ReadIni().rfind("[Other]\nKey=1\n", 0), 0u);
 	}
 }
 
 TEST_F(FRepairSafety, ACrashBeforeTheRenameLeavesTheOldFile)
 {
-	const std::string Before = Section + OtherProfile;
+	const std::string Before = SectionLine + GlassLine;
 	WriteIni(Before);
 	const pid_t Child = fork();
 	if (Child == 0)

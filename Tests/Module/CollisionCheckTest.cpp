@@ -22,7 +22,6 @@ using testing::StartsWith;
 
 namespace
 {
-	const char* const EngineIni = "Config/DefaultEngine.ini";
 	const TCHAR* const MissingTitle = TEXT("Velmorant: Missing UnitVolume Profile");
 	const TCHAR* const RestartTitle = TEXT("Restart Editor Required");
 	const char* const CheckedLine = "Log: Checked UnitVolume DefaultChannelResponses and profile exist.";
@@ -91,7 +90,7 @@ protected:
 	/** Starts the editor on a project without the unit volumes' profile. */
 	void StartWithMissingProfile()
 	{
-		WriteProjectFile(EngineIni, MakeIni(CollisionIni::Glass, ""));
+		WriteProjectFile(CollisionIni::File, MakeIni(CollisionIni::Glass, ""));
 		StartEditor();
 	}
 
@@ -128,22 +127,22 @@ TEST_F(CollisionCheck, TellsSoundProjectsFromThoseThatMissSomething)
 	for (const FCase& Case : Cases)
 	{
 		SCOPED_TRACE(Case.Behaviour);
-		WriteProjectFile(EngineIni, Case.Ini);
+		WriteProjectFile(CollisionIni::File, Case.Ini);
 		StartEditor();
 		EXPECT_EQ(NotificationTitles().Num(), Case.bSound ? 0 : 1);
 		const std::vector<std::string> Log = TakeModuleLog();
 		EXPECT_EQ(std::count(Log.begin(), Log.end(), CheckedLine), Case.bSound ? 1 : 0);
-		EXPECT_EQ(ReadProjectFile(EngineIni), Case.Ini);
+		EXPECT_EQ(ReadProjectFile(CollisionIni::File), Case.Ini);
 	}
 }
 
 TEST_F(CollisionCheck, WritesTheEnginesProfilesWhenTheProjectHasNoCollisionSection)
 {
 	const std::string Other = "[/Script/Engine.RendererSettings]\r\nr.Shadow.Virtual.Enable=1\r\n";
-	WriteProjectFile(EngineIni, Other);
+	WriteProjectFile(CollisionIni::File, Other);
 	StartEditor();
 
-	const std::string Written = ReadProjectFile(EngineIni);
+	const std::string Written = ReadProjectFile(CollisionIni::File);
 	EXPECT_THAT(Written, StartsWith(Other));
 	EXPECT_THAT(Written, HasSubstr(CollisionIni::Section + "\r\n"));
 	EXPECT_THAT(Written, HasSubstr("\n+Profiles=(Name=\"BlockAll\","));
@@ -153,21 +152,21 @@ TEST_F(CollisionCheck, WritesTheEnginesProfilesWhenTheProjectHasNoCollisionSecti
 
 TEST_F(CollisionCheck, WritesTheProfilesAsTheyAreNow)
 {
-	WriteProjectFile(EngineIni, "");
+	WriteProjectFile(CollisionIni::File, "");
 	FEditorDelegates::OnMapLoad.AddLambda([this](const FString&, FCanLoadMap&) {
 		UCollisionProfile::Get(); // somebody looks before the check does, and then a profile comes
 		WriteProjectFile("Config/Linux/LinuxEngine.ini", CollisionIni::Section + "\n" + CollisionIni::Glass + "\n");
 		GConfig->UnloadFile(GEngineIni);
 	});
 	StartEditor();
-	EXPECT_THAT(ReadProjectFile(EngineIni), HasSubstr("Name=\"Glass\""));
+	EXPECT_THAT(ReadProjectFile(CollisionIni::File), HasSubstr("Name=\"Glass\""));
 }
 
 TEST_F(CollisionCheck, TreatsAMissingFileLikeAMissingSection)
 {
 	std::filesystem::remove(Folder.GetNative("Project/Config/DefaultEngine.ini"));
 	StartEditor();
-	EXPECT_THAT(ReadProjectFile(EngineIni), HasSubstr("+Profiles=(Name=\"BlockAll\","));
+	EXPECT_THAT(ReadProjectFile(CollisionIni::File), HasSubstr("+Profiles=(Name=\"BlockAll\","));
 	EXPECT_THAT(TakeModuleLog(), Contains(WrittenLine));
 	EXPECT_EQ(NotificationTitles(), TArray<FString>{MissingTitle});
 }
@@ -199,14 +198,14 @@ TEST_F(CollisionCheck, SkipTakesTheQuestionAwayAndChangesNothing)
 	Wait(2.0);
 	EXPECT_TRUE(FindNotification(MissingTitle)->IsGone());
 	EXPECT_EQ(NotificationTitles().Num(), 1);
-	EXPECT_EQ(ReadProjectFile(EngineIni), MakeIni(CollisionIni::Glass, ""));
+	EXPECT_EQ(ReadProjectFile(CollisionIni::File), MakeIni(CollisionIni::Glass, ""));
 }
 
 TEST_F(CollisionCheck, AddWritesTheLinesThenConfirmsThenAsksForARestart)
 {
 	StartWithMissingProfile();
 	Press(TEXT("Add to Project Config"));
-	EXPECT_EQ(ReadProjectFile(EngineIni), MakeIni(CollisionIni::Glass + "\n" + CollisionIni::Profile + "\n" + CollisionIni::Channel, ""));
+	EXPECT_EQ(ReadProjectFile(CollisionIni::File), MakeIni(CollisionIni::Glass + "\n" + CollisionIni::Profile + "\n" + CollisionIni::Channel, ""));
 
 	const TArray<FString> Titles = NotificationTitles();
 	ASSERT_EQ(Titles, (TArray<FString>{MissingTitle, TEXT("UnitVolume Collision Profiles Added"), RestartTitle}));
@@ -261,7 +260,7 @@ TEST_F(CollisionCheck, AnAnswerCountsOnceAlthoughTheQuestionStillFades)
 			Press(*Case.Presses[Index]);
 		}
 		EXPECT_FALSE(HostNotifications::PressButton(Case.Presses[Last]).bDone);
-		EXPECT_EQ(ReadProjectFile(EngineIni), Case.Presses[0].Equals(Add) ? Added : Before);
+		EXPECT_EQ(ReadProjectFile(CollisionIni::File), Case.Presses[0].Equals(Add) ? Added : Before);
 		EXPECT_EQ(FindDialogues().Num(), Case.NumDialogues) << "every question that shows can be answered";
 		EXPECT_EQ(HostEditor::GetRestartRequests().Num(), 0);
 		for (const HostNotifications::FRecord& Fading : HostNotifications::GetStanding())
@@ -313,16 +312,16 @@ TEST_F(CollisionCheck, ARepairCountsAfterARestartOnly)
 
 TEST_F(CollisionCheck, AProjectWithoutSectionIsSoundAfterTheRepairHoweverOftenItWasChecked)
 {
-	WriteProjectFile(EngineIni, "");
+	WriteProjectFile(CollisionIni::File, "");
 	StartEditor();
 	Press(TEXT("Add to Project Config"));
-	const std::string Repaired = ReadProjectFile(EngineIni);
+	const std::string Repaired = ReadProjectFile(CollisionIni::File);
 	EXPECT_THAT(Repaired, HasSubstr(CollisionIni::Profile + "\n" + CollisionIni::Channel + "\n"));
 
 	TakeModuleLog();
 	UVelmorantEditorUtilitiesLibrary::CheckForUnitVolumeCollisionProfile();
 	EXPECT_THAT(TakeModuleLog(), ElementsAre()) << "the section is there by now, and is left as it is";
-	EXPECT_EQ(ReadProjectFile(EngineIni), Repaired);
+	EXPECT_EQ(ReadProjectFile(CollisionIni::File), Repaired);
 
 	StartEditor();
 	EXPECT_THAT(TakeModuleLog(), Contains(CheckedLine));
@@ -338,7 +337,7 @@ TEST_F(CollisionCheck, TheProfilesAreWrittenOnceForTwoMapsLoadedAtStart)
 			FEditorDelegates::OnMapLoad.Broadcast(Filename, CanLoad);
 		}
 	});
-	WriteProjectFile(EngineIni, "");
+	WriteProjectFile(CollisionIni::File, "");
 	StartEditor();
 	const std::vector<std::string> Log = TakeModuleLog();
 	EXPECT_EQ(std::count(Log.begin(), Log.end(), WrittenLine), 1);
@@ -360,7 +359,7 @@ TEST_F(CollisionCheck, EveryFailedCheckAsksByItself)
 
 TEST_F(CollisionCheck, StartingASoundProjectTouchesNoFile)
 {
-	WriteProjectFile(EngineIni, CollisionIni::Replace(MakeIni(CollisionIni::Profile, CollisionIni::Channel), "\n", "\r\n"));
+	WriteProjectFile(CollisionIni::File, CollisionIni::Replace(MakeIni(CollisionIni::Profile, CollisionIni::Channel), "\n", "\r\n"));
 	const auto DescribeFiles = [this] {
 		std::map<std::string, std::pair<std::string, std::filesystem::file_time_type>> Files;
 		for (const std::filesystem::directory_entry& Entry : std::filesystem::recursive_directory_iterator(Folder.GetNative("Project")))

@@ -15,7 +15,6 @@ using CollisionIni::ToUtf16;
 
 namespace
 {
-	const char* const EngineIni = "Config/DefaultEngine.ini";
 	const std::string Repair = Profile + "\n" + Channel + "\n"; // what is inserted
 }
 
@@ -24,9 +23,9 @@ class CollisionRepair : public FToolkitTest
 protected:
 	std::string RepairFile(const std::string& Before)
 	{
-		WriteProjectFile(EngineIni, Before);
+		WriteProjectFile(CollisionIni::File, Before);
 		UVelmorantEditorUtilitiesLibrary::AddUnitVolumeCollisionProfile();
-		return ReadProjectFile(EngineIni);
+		return ReadProjectFile(CollisionIni::File);
 	}
 };
 
@@ -70,7 +69,7 @@ TEST_F(CollisionRepair, InsertsTheLinesAgainWhenCalledAgain)
 	StartEditor();
 	RepairFile(Glass + "\n[Other]\n");
 	UVelmorantEditorUtilitiesLibrary::AddUnitVolumeCollisionProfile();
-	EXPECT_EQ(ReadProjectFile(EngineIni), Glass + "\n" + Profile + "\n" + Profile + "\n" + Channel + "\n" + Channel + "\n[Other]\n");
+	EXPECT_EQ(ReadProjectFile(CollisionIni::File), Glass + "\n" + Profile + "\n" + Profile + "\n" + Channel + "\n" + Channel + "\n[Other]\n");
 }
 
 TEST_F(CollisionRepair, DoesNotAskTheConfigCache)
@@ -85,14 +84,14 @@ TEST_F(CollisionRepair, SavesAnEmptyFileWhenThereIsNone)
 	std::filesystem::remove(Folder.GetNative("Project/Config/DefaultEngine.ini"));
 	UVelmorantEditorUtilitiesLibrary::AddUnitVolumeCollisionProfile();
 	EXPECT_TRUE(Folder.Exists("Project/Config/DefaultEngine.ini"));
-	EXPECT_EQ(ReadProjectFile(EngineIni), "");
+	EXPECT_EQ(ReadProjectFile(CollisionIni::File), "");
 }
 
 TEST_F(CollisionRepair, IsOpenToScripts)
 {
 	StartEditor();
-	WriteProjectFile(EngineIni, Glass + "\n");
+	WriteProjectFile(CollisionIni::File, Glass + "\n");
 	UObject* Library = UVelmorantEditorUtilitiesLibrary::StaticClass()->GetDefaultObject();
 	Library->ProcessEvent(Library->FindFunctionChecked("AddUnitVolumeCollisionProfile"), nullptr);
-	EXPECT_EQ(ReadProjectFile(EngineIni), Glass + "\n" + Repair);
+	EXPECT_EQ(ReadProjectFile(CollisionIni::File), Glass + "\n" + Repair);
 }

@@ -72,13 +72,13 @@ TEST_F(ConfiguratorMenu, HasThreeEntriesInOneSection)
 	Select({CreateAsset(TEXT("Tower"))});
 
 	std::vector<std::string> Entries;
-	FName Section;
+	FName LastSection;
 	for (const FHostMenuEntry& Entry : HostContentBrowser::GetContextMenu())
 	{
 		if (ToUtf8(Entry.Name).starts_with("ConfiguratorDataAsset_"))
 		{
-			EXPECT_TRUE(Section.IsNone() || Entry.Section == Section);
-			Section = Entry.Section;
+			EXPECT_TRUE(LastSection.IsNone() || Entry.Section == LastSection);
+			LastSection = Entry.Section;
 			EXPECT_EQ(ToUtf8(Entry.IconStyle) + " " + ToUtf8(Entry.IconKey), "VelmorantEditorStyle Velmorant.Editor.LogoGrey");
 			EXPECT_TRUE(Entry.bEnabled);
 			Entries.push_back(ToUtf8(Entry.Name) + ": " + ToUtf8(Entry.Label) + " | " + ToUtf8(Entry.ToolTip));
@@ -95,9 +95,9 @@ TEST_F(ConfiguratorMenu, CanBeTranslated)
 	const FName MenuName = UE::ContentBrowser::ExtendToolMenu_AssetContextMenu(UVelmorantConfiguratorDataAsset::StaticClass())->GetMenuName();
 
 	std::vector<std::string> Keys;
-	for (const FToolMenuSection& Section : UToolMenus::Get()->GenerateMenu(MenuName, FToolMenuContext(Selection))->Sections)
+	for (const FToolMenuSection& MenuSection : UToolMenus::Get()->GenerateMenu(MenuName, FToolMenuContext(Selection))->Sections)
 	{
-		for (const FToolMenuEntry& Entry : Section.Blocks)
+		for (const FToolMenuEntry& Entry : MenuSection.Blocks)
 		{
 			for (const FText& Text : {Entry.Label.Get(), Entry.ToolTip.Get()})
 			{

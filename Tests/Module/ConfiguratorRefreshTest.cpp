@@ -38,7 +38,7 @@ namespace
 
 	const FOutcome Requested{"Success Configuration Updated", "", SNotificationItem::CS_Success, 7.0f};
 	const FOutcome NoValidUser{"VelmorantDeveloperUser isn't valid", "User isn't login or hasn't a valid token. Check login process", SNotificationItem::CS_Fail, 7.0f};
-	const FOutcome NoMatch{"Fail Configuration Updated ", "Configurator name doesn't match with current data", SNotificationItem::CS_Fail, 7.0f};
+	const FOutcome NameDoesNotMatch{"Fail Configuration Updated ", "Configurator name doesn't match with current data", SNotificationItem::CS_Fail, 7.0f};
 
 	const char* const GrownConfigurator = R"({"name": "Tower", "rooms": [{"name": "Kitchen", "groups": [{"name": "Fronts", "products": ["Oak", "Lacquer", "Steel"]}]}]})";
 
@@ -193,7 +193,7 @@ TEST_F(ConfiguratorRefresh, NeedsAConfiguratorWithARecordOfItsName)
 	{
 		Asset->ConfiguratorName = Name;
 		EXPECT_FALSE(Refresh(Asset)) << ToUtf8(FString(Name));
-		EXPECT_THAT(TakeOutcomes(), ElementsAre(NoMatch)) << ToUtf8(FString(Name));
+		EXPECT_THAT(TakeOutcomes(), ElementsAre(NameDoesNotMatch)) << ToUtf8(FString(Name));
 	}
 	EXPECT_THAT(TakeModuleLog(), IsEmpty());
 }
@@ -203,7 +203,7 @@ TEST_F(ConfiguratorRefresh, NeedsASelectedProject)
 	StartEditor();
 	SignIn();
 	EXPECT_FALSE(Refresh(NewObject<UVelmorantConfiguratorDataAsset>()));
-	EXPECT_THAT(TakeOutcomes(), ElementsAre(NoMatch));
+	EXPECT_THAT(TakeOutcomes(), ElementsAre(NameDoesNotMatch));
 }
 
 TEST_F(ConfiguratorRefresh, IgnoresUpdatesOfOtherKinds)

@@ -15,26 +15,17 @@ namespace ModuleDependenciesTest
 
 	const fs::path ModuleFolder = Root / "Source/VelmorantProEditor";
 
-	/** The names between Begin and the first End behind it, which are regular expressions. */
-	std::set<std::string> NamesOf(const fs::path& File, const std::string& Begin, const std::string& End)
+	/** The modules that the build rules name, once each. */
+	std::set<std::string> NamedModules(const std::string& Kind)
 	{
 		static const std::regex Name("(\\w+)");
-		const std::vector<std::string> Lists = FindAll(SourceText::Read(File), std::regex(Begin + "([^]*?)" + End));
-		EXPECT_EQ(Lists.size(), 1u) << File << ": " << Begin;
+		const fs::path Rules = ModuleFolder / "VelmorantProEditor.Build.cs";
+		const std::vector<std::string> Lists = FindAll(SourceText::Read(Rules), std::regex(Kind + "DependencyModuleNames\\.AddRange\\(new\\[\\]\\s*\\{([^}]*)\\}"));
+		EXPECT_EQ(Lists.size(), 1u) << Rules << ": " << Kind;
 		const std::vector<std::string> Names = Lists.empty() ? Lists : FindAll(Lists[0], Name);
 		const std::set<std::string> Result(Names.begin(), Names.end());
-		EXPECT_EQ(Result.size(), Names.size()) << File << " names a module twice";
+		EXPECT_EQ(Result.size(), Names.size()) << Rules << " names a module twice";
 		return Result;
-	}
-
-	std::set<std::string> GetPublicModules()
-	{
-		return NamesOf(ModuleFolder / "VelmorantProEditor.Build.cs", "PublicDependencyModuleNames\\.AddRange\\(new\\[\\]\\s*\\{", "\\}");
-	}
-
-	std::set<std::string> GetPrivateModules()
-	{
-		return NamesOf(ModuleFolder / "VelmorantProEditor.Build.cs", "PrivateDependencyModuleNames\\.AddRange\\(new\\[\\]\\s*\\{", "\\}");
 	}
 
 	/** Every public header of the engine surface and the companions: include path to (module, file). */
@@ -115,25 +106,18 @@ using testing::IsSubsetOf;
 TEST(ModuleDependencies, ArePublicWherePublicHeadersIncludeThemAndNowhereElse)
 {
 	// A module that derives from the panels must be able to include their headers, and must not be made to depend on more.
-	EXPECT_EQ(GetPublicModules(), ModulesIncludedBy("Public"));
+	EXPECT_EQ(NamedModules("Public"), ModulesIncludedBy("Public"));
 }
 
 TEST(ModuleDependencies, ArePrivateWhereOnlySourcesNeedThem)
 {
-	std::set<std::string> Named = GetPublicModules();
-	for (const std::string& Module : GetPrivateModules())
+	std::set<std::string> Named = NamedModules("Public");
+	for (const std::string& Module : NamedModules("Private"))
 	{
 		EXPECT_TRUE(Named.insert(Module).second) << Module << " is both public and private";
 	}
 	EXPECT_THAT(ModulesIncludedBy("Private"), IsSubsetOf(Named)) << "the build rules do not name all that is included";
 	EXPECT_THAT(Named, IsSubsetOf(ModulesReached())) << "the build rules name what nothing that is included needs";
-}
-
-TEST(ModuleDependencies, AreTheSameWhereTheHostBuildsIt)
-{
-	const fs::path File = ModuleFolder / "CMakeLists.txt";
-	EXPECT_EQ(NamesOf(File, "\\sDEPENDS", "PRIVATE_DEPENDS"), GetPublicModules());
-	EXPECT_EQ(NamesOf(File, "\\sPRIVATE_DEPENDS", "\\)"), GetPrivateModules());
 }
 
 TEST(ModuleDependencies, TheSourcesKnowNothingOfTheHost)

@@ -11,6 +11,7 @@
 #include "VelmorantDeveloperUser.h"
 #include "VelmorantProjectRequestManager.h"
 
+using namespace SelectorEvents;
 using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -31,8 +32,6 @@ namespace
 	}
 
 	const char* const ExpiredLine = "Warning: The login is not valid any more; sign in again.";
-	const char* const Busy = "OnRequestingUserProjectsProcess(true)";
-	const char* const Idle = "OnRequestingUserProjectsProcess(false)";
 }
 
 /** What the service answers late, to somebody else, or not at all. */

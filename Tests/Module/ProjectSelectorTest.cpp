@@ -18,14 +18,13 @@
 
 #include <filesystem>
 
+using namespace SelectorEvents;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
 namespace
 {
 	const char* const GameIni = "Config/DefaultGame.ini";
-	const char* const Busy = "OnRequestingUserProjectsProcess(true)";
-	const char* const Done = "OnRequestingUserProjectsProcess(false)";
 
 	std::string ApiKeyIni(const char* ApiKey)
 	{
@@ -79,7 +78,7 @@ TEST_F(ProjectSelector, ListsTheProjectsThatTheServiceSends)
 	Activate(Panel);
 	EXPECT_THAT(Panel.TakeEvents(), ElementsAre(Busy));
 	Wait(0.0);
-	EXPECT_THAT(Panel.TakeEvents(), ElementsAre(Done));
+	EXPECT_THAT(Panel.TakeEvents(), ElementsAre(Idle));
 	EXPECT_THAT(Panel.Options(TEXT("ProjectSelection")), ElementsAre("No Selection", "Harbor Tower", "Quay View"));
 	EXPECT_EQ(Panel.Read(TEXT("ProjectSelection")), "No Selection");
 	EXPECT_EQ(UsersKeyCode(), "none");
@@ -214,7 +213,7 @@ TEST_F(ProjectSelector, ShowsACachedListWithoutARequest)
 	WriteService("gone");
 	FTestPanel Panel = ShowPanel();
 	Activate(Panel);
-	EXPECT_THAT(Panel.TakeEvents(), ElementsAre(Done));
+	EXPECT_THAT(Panel.TakeEvents(), ElementsAre(Idle));
 	EXPECT_EQ(Panel.Options(TEXT("ProjectSelection")).size(), 3u);
 	Wait(1.0);
 	EXPECT_THAT(Panel.TakeEvents(), IsEmpty());
@@ -240,7 +239,7 @@ TEST_F(ProjectSelector, KeepsTheOldListWhenARequestFails)
 		Panel.Get<UVlmEWProjectSelector>()->RequestEditorUserProjects();
 		EXPECT_THAT(Panel.TakeEvents(), ElementsAre(Busy));
 		Wait(0.0);
-		EXPECT_THAT(Panel.TakeEvents(), testing::AllOf(testing::Not(IsEmpty()), testing::Each(Done)));
+		EXPECT_THAT(Panel.TakeEvents(), testing::AllOf(testing::Not(IsEmpty()), testing::Each(Idle)));
 		EXPECT_EQ(Panel.Options(TEXT("ProjectSelection")).size(), 3u);
 		EXPECT_EQ(SelectedKeyCode(Panel), "QV");
 	}
@@ -251,10 +250,10 @@ TEST_F(ProjectSelector, HearsEveryAnswerOncePerRequestMade)
 	FTestPanel Panel = MakePanel();
 	Panel.Get<UVlmEWProjectSelector>()->RequestEditorUserProjects();
 	Wait(0.0);
-	EXPECT_THAT(Panel.TakeEvents(), ElementsAre(Busy, Done));
+	EXPECT_THAT(Panel.TakeEvents(), ElementsAre(Busy, Idle));
 	Panel.Get<UVlmEWProjectSelector>()->RequestEditorUserProjects();
 	Wait(0.0);
-	EXPECT_THAT(Panel.TakeEvents(), ElementsAre(Busy, Done, Done));
+	EXPECT_THAT(Panel.TakeEvents(), ElementsAre(Busy, Idle, Idle));
 }
 
 TEST_F(ProjectSelector, CopiesTheKeyOfTheSelectedProject)

@@ -8,6 +8,7 @@
 /** Text of a project's DefaultEngine.ini as the unit volumes' collision check and repair know it. */
 namespace CollisionIni
 {
+	inline const char* const File = "Config/DefaultEngine.ini"; // in the project
 	inline const std::string Section = "[/Script/Engine.CollisionProfile]";
 
 	/** The two lines that a repair inserts. */
@@ -19,6 +20,13 @@ namespace CollisionIni
 	/** A profile of the project's own. */
 	inline const std::string Glass = "+Profiles=(Name=\"Glass\",CollisionEnabled=QueryAndPhysics,bCanModify=True,ObjectTypeName=\"WorldStatic\",CustomResponses=,HelpMessage=\"Balustrades\")";
 
+	//~ The same with their line ends.
+
+	inline const std::string SectionLine = Section + "\n";
+	inline const std::string ProfileLine = Profile + "\n";
+	inline const std::string ChannelLine = Channel + "\n";
+	inline const std::string GlassLine = Glass + "\n";
+
 	/** Text with every From replaced. */
 	inline std::string Replace(std::string Text, std::string_view From, std::string_view To)
 	{
@@ -27,6 +35,12 @@ namespace CollisionIni
 			Text.replace(At, From.size(), To);
 		}
 		return Text;
+	}
+
+	/** Every line end as on Windows. */
+	inline std::string WithCarriageReturns(const std::string& Text)
+	{
+		return Replace(Text, "\n", "\r\n");
 	}
 
 	/** UTF-16, little endian, with byte-order mark. Only for text of code points below 256, given as Latin-1. */

@@ -13,6 +13,13 @@
 #include <string>
 #include <vector>
 
+/** What a project selector tells its layout when it begins and ends to ask for the projects. */
+namespace SelectorEvents
+{
+	inline const char* const Busy = "OnRequestingUserProjectsProcess(true)";
+	inline const char* const Idle = "OnRequestingUserProjectsProcess(false)";
+}
+
 /** A person's hands and eyes on something that shows. The test fails when it does not let them. */
 class FTestScreen
 {

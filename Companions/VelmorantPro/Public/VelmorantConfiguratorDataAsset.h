@@ -23,6 +23,6 @@ public:
 	FVelmorantConfigUnit ConfiguratorUnit;
 
 	/** Unset until level variant sets have been made or assigned. */
-	UPROPERTY(EditAnywhere, BlueprintReadOnly, Category = "Velmorant|Configurator", meta = (AllowedClasses = "/Script/VariantManagerContent.LevelVariantSets"))
+	UPROPERTY(EditAnywhere, BlueprintReadOnly, Category = "Velmorant|Configurator")
 	FSoftObjectPath LevelVariantSets;
 };

@@ -22,7 +22,7 @@ public:
 	FString ServiceDataFile;
 
 	/** Seconds that the service has to answer a request. 0 for no limit. */
-	UPROPERTY(Config, EditAnywhere, Category = "Velmorant", meta = (ClampMin = "0"))
+	UPROPERTY(Config, EditAnywhere, Category = "Velmorant")
 	float RequestTimeoutSeconds = 30.0f;
 
 	//~ Begin UDeveloperSettings

@@ -4,15 +4,11 @@
 
 #include "EditorHost.h"
 #include "HostEditor.h"
-#include "HostNotifications.h"
 
 namespace CheckRun
 {
 	namespace
 	{
-		const TCHAR* const AddButton = TEXT("Add to Project Config");
-		const TCHAR* const RestartButton = TEXT("Restart Editor");
-
 		FEditorHostOptions MakeOptions(const FString& Project, const FEditorArguments& Editor)
 		{
 			FEditorHostOptions Options = EditorArguments::MakeOptions(Project, Editor);
@@ -51,10 +47,10 @@ namespace CheckRun
 			Run.Problems.Append(HostProblems::GetAll());
 		}
 
-		/** @return whether the editor wants to restart. */
+		/** Lets the toolkit add its lines, and restart the editor. @return whether the editor wants to restart. */
 		bool PressRepairButtons()
 		{
-			return HostNotifications::PressButton(AddButton).bDone && HostNotifications::PressButton(RestartButton).bDone && !HostEditor::GetRestartRequests().IsEmpty();
+			return ToolkitVerdict::Accept() && ToolkitVerdict::Accept() && !HostEditor::GetRestartRequests().IsEmpty();
 		}
 	}
 

@@ -4,14 +4,16 @@
 
 #include "HostLog.h"
 #include "HostNotifications.h"
+#include "UObject/UObjectHash.h"
 
 namespace ToolkitVerdict
 {
 	namespace
 	{
+		// Known by what no translation changes: a class, and what the log is given as it is.
+		const TCHAR* const DialogueClass = TEXT("/Script/VelmorantProEditor.CheckCollisionNotification");
 		const TCHAR* const Category = TEXT("LogVelmorantProEditor");
 		const TCHAR* const SoundLine = TEXT("Checked UnitVolume DefaultChannelResponses and profile exist.");
-		const TCHAR* const MissingTitle = TEXT("Velmorant: Missing UnitVolume Profile");
 		const TCHAR* const NotShown = TEXT("Notification not shown: "); // title and sub-text follow, each behind ": "
 
 		template<typename PredicateType>
@@ -19,38 +21,49 @@ namespace ToolkitVerdict
 		{
 			const FName CategoryName(Category);
 			return HostLog::GetLines().ContainsByPredicate([CategoryName, IsMeant](const FHostLogLine& Line) {
-				return Line.Category == CategoryName && IsMeant(Line.Text);
+				return Line.Category == CategoryName && IsMeant(Line);
 			});
 		}
 
 		bool SaysSound()
 		{
-			return Logged([](const FString& Text) { return Text.Equals(SoundLine); });
+			return Logged([](const FHostLogLine& Line) { return Line.Text.Equals(SoundLine); });
 		}
 
-		/** On the screen, or in the log where notifications are refused. */
-		bool AsksAboutMissing()
+		/** The dialogue is rooted for as long as its question stands. */
+		bool Asks()
 		{
-			const FString Refused = FString(NotShown) + MissingTitle + TEXT(": ");
-			if (Logged([&Refused](const FString& Text) { return Text.StartsWith(Refused, ESearchCase::CaseSensitive); }))
+			TArray<UObject*> Dialogues;
+			if (const UClass* Class = FindObject<UClass>(nullptr, DialogueClass))
 			{
-				return true;
+				GetObjectsOfClass(Class, Dialogues);
 			}
-			return HostNotifications::GetStanding().ContainsByPredicate([](const HostNotifications::FRecord& Notification) {
-				return Notification->Text.ToString().Equals(MissingTitle);
-			});
+			return Dialogues.ContainsByPredicate([](const UObject* Dialogue) { return Dialogue->IsRooted(); });
+		}
+
+		bool CouldNotAsk()
+		{
+			return Logged([](const FHostLogLine& Line) { return Line.Verbosity == ELogVerbosity::Warning && Line.Text.StartsWith(NotShown, ESearchCase::CaseSensitive); });
 		}
 	}
 
 	EToolkitVerdict Read()
 	{
-		const bool bSound = SaysSound();
-		const bool bMissing = AsksAboutMissing();
-		if (bSound == bMissing)
+		if (SaysSound())
 		{
-			return EToolkitVerdict::None;
+			return Asks() ? EToolkitVerdict::None : EToolkitVerdict::Sound;
 		}
-		return bSound ? EToolkitVerdict::Sound : EToolkitVerdict::Missing;
+		return Asks() || CouldNotAsk() ? EToolkitVerdict::Missing : EToolkitVerdict::None;
+	}
+
+	bool Accept()
+	{
+		TArray<HostNotifications::FRecord> Questions;
+		if (Asks())
+		{
+			Questions = HostNotifications::GetStanding().FilterByPredicate([](const HostNotifications::FRecord& Each) { return !HostNotifications::GetVisibleButtons(*Each).IsEmpty(); });
+		}
+		return Questions.Num() == 1 && HostNotifications::PressButton(*Questions[0], HostNotifications::GetVisibleButtons(*Questions[0])[0]).bDone;
 	}
 
 	TArray<FString> GetMessages()

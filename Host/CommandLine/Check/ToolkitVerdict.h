@@ -18,6 +18,12 @@ namespace ToolkitVerdict
 {
 	EToolkitVerdict Read();
 
+	/**
+	 * Presses the first button of the toolkit's question, which is the one that goes ahead.
+	 * @return false when it asks nothing, or more than one question stands
+	 */
+	bool Accept();
+
 	/** The toolkit's log lines, then the notifications: what a person would see. */
 	TArray<FString> GetMessages();
 }

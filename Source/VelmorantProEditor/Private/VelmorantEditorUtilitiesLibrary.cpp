@@ -4,7 +4,7 @@
 
 #include "HAL/PlatformApplicationMisc.h"
 #include "Interfaces/IPluginManager.h"
-#include "VelmorantNotifications.h"
+#include "EditorServices/VelmorantNotifications.h"
 
 #define LOCTEXT_NAMESPACE "FVelmorantProEditor"
 

@@ -16,10 +16,10 @@
 #include "Modules/ModuleManager.h"
 #include "PropertyEditorModule.h"
 #include "ToolMenus.h"
-#include "ToolbarMenu/VelmorantMenu.h"
+#include "Toolbar/VelmorantMenu.h"
 #include "VelmorantEditorStyle.h"
 #include "VelmorantEditorUtilitiesLibrary.h"
-#include "VelmorantPlaceableItems.h"
+#include "PlaceActors/VelmorantPlaceableItems.h"
 #include "VelmorantProEdCommands.h"
 
 #define LOCTEXT_NAMESPACE "FVelmorantProEditor"

@@ -7,34 +7,34 @@
 namespace ModuleManagerTest
 {
 	/** What the modules of this test did, across all editors of the process; each test clears it. */
-	std::vector<std::string> Events;
+	std::vector<std::string> ModuleEvents;
 
 	class FBaseModule : public IModuleInterface
 	{
 	public:
-		~FBaseModule() override { Events.push_back("Base destroyed"); }
-		void StartupModule() override { Events.push_back("Base started"); }
-		void ShutdownModule() override { Events.push_back("Base shut down"); }
+		~FBaseModule() override { ModuleEvents.push_back("Base destroyed"); }
+		void StartupModule() override { ModuleEvents.push_back("Base started"); }
+		void ShutdownModule() override { ModuleEvents.push_back("Base shut down"); }
 	};
 
 	class FToolModule : public IModuleInterface
 	{
 	public:
-		~FToolModule() override { Events.push_back("Tool destroyed"); }
+		~FToolModule() override { ModuleEvents.push_back("Tool destroyed"); }
 
 		void StartupModule() override
 		{
 			FModuleManager::LoadModuleChecked<FBaseModule>("TestBase");
-			Events.push_back(FModuleManager::Get().IsModuleLoaded("TestTool") ? "Tool started, known" : "Tool started, unknown");
+			ModuleEvents.push_back(FModuleManager::Get().IsModuleLoaded("TestTool") ? "Tool started, known" : "Tool started, unknown");
 		}
 
-		void ShutdownModule() override { Events.push_back(FModuleManager::GetModulePtr<FBaseModule>("TestBase") != nullptr ? "Tool shut down before Base" : "Tool shut down after Base"); }
+		void ShutdownModule() override { ModuleEvents.push_back(FModuleManager::GetModulePtr<FBaseModule>("TestBase") != nullptr ? "Tool shut down before Base" : "Tool shut down after Base"); }
 	};
 
 	class FStubbornModule : public IModuleInterface
 	{
 	public:
-		void ShutdownModule() override { Events.push_back("Stubborn shut down"); }
+		void ShutdownModule() override { ModuleEvents.push_back("Stubborn shut down"); }
 		bool SupportsAutomaticShutdown() override { return false; }
 	};
 }
@@ -50,7 +50,7 @@ namespace
 	class ModuleManager : public FEditorFilesTest
 	{
 	protected:
-		ModuleManager() { Events.clear(); }
+		ModuleManager() { ModuleEvents.clear(); }
 	};
 
 	TEST_F(ModuleManager, StartsAModuleOnceAndWhatItLoadsFirst)
@@ -58,7 +58,7 @@ namespace
 		FToolModule& Tool = FModuleManager::LoadModuleChecked<FToolModule>("TestTool");
 		EXPECT_EQ(&FModuleManager::LoadModuleChecked<FToolModule>("testtool"), &Tool);
 		EXPECT_EQ(FModuleManager::GetModulePtr<FToolModule>("TestTool"), &Tool);
-		EXPECT_EQ(Events, (std::vector<std::string>{"Base started", "Tool started, known"}));
+		EXPECT_EQ(ModuleEvents, (std::vector<std::string>{"Base started", "Tool started, known"}));
 	}
 
 	TEST_F(ModuleManager, KnowsWhatItDoesNotHave)
@@ -74,12 +74,12 @@ namespace
 	{
 		FModuleManager::LoadModuleChecked<FToolModule>("TestTool");
 		FModuleManager::LoadModuleChecked<FStubbornModule>("TestStubborn");
-		Events.clear();
+		ModuleEvents.clear();
 		HostModules::ShutDownModules({FName("TestTool")});
-		EXPECT_EQ(Events, (std::vector<std::string>{"Tool shut down before Base", "Base shut down"}));
+		EXPECT_EQ(ModuleEvents, (std::vector<std::string>{"Tool shut down before Base", "Base shut down"}));
 		EXPECT_TRUE(HostModules::GetLoaded().IsEmpty());
 		HostModules::DestroyModules();
-		EXPECT_EQ(Events, (std::vector<std::string>{"Tool shut down before Base", "Base shut down", "Tool destroyed", "Base destroyed"}));
+		EXPECT_EQ(ModuleEvents, (std::vector<std::string>{"Tool shut down before Base", "Base shut down", "Tool destroyed", "Base destroyed"}));
 	}
 
 	TEST_F(ModuleManager, AnUnloadedModuleCanBeLoadedAgain)
@@ -88,7 +88,7 @@ namespace
 		EXPECT_TRUE(FModuleManager::Get().UnloadModule("TestBase"));
 		EXPECT_FALSE(FModuleManager::Get().UnloadModule("TestBase"));
 		FModuleManager::LoadModuleChecked<FBaseModule>("TestBase");
-		EXPECT_EQ(Events, (std::vector<std::string>{"Base started", "Base shut down", "Base started"})) << "the old object stays until the editor goes down";
+		EXPECT_EQ(ModuleEvents, (std::vector<std::string>{"Base started", "Base shut down", "Base started"})) << "the old object stays until the editor goes down";
 	}
 
 	TEST_F(ModuleManager, EveryEditorHasModulesOfItsOwn)
@@ -97,6 +97,6 @@ namespace
 		Restart();
 		EXPECT_FALSE(FModuleManager::Get().IsModuleLoaded("TestBase"));
 		FModuleManager::LoadModuleChecked<FBaseModule>("TestBase");
-		EXPECT_EQ(Events, (std::vector<std::string>{"Base started", "Base destroyed", "Base started"}));
+		EXPECT_EQ(ModuleEvents, (std::vector<std::string>{"Base started", "Base destroyed", "Base started"}));
 	}
 }

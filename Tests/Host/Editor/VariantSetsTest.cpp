@@ -36,12 +36,12 @@ protected:
 
 	static std::string TextsOf(const UVariantSet& Set)
 	{
-		std::string Texts;
+		std::string Joined;
 		for (const UVariant* Variant : Set.GetVariants())
 		{
-			Texts += Utf8(Variant->GetDisplayText().ToString()) + ";";
+			Joined += Utf8(Variant->GetDisplayText().ToString()) + ";";
 		}
-		return Texts;
+		return Joined;
 	}
 
 	/** A set with variants A, B and C. */

@@ -115,15 +115,11 @@ TEST_F(ReflectedProperties, TakeFlagsFromSpecifiers)
 	};
 	const FCase Cases[] = {
 		{TEXT("Medium"), CPF_NativeAccessSpecifierPublic, CPF_Edit | CPF_BlueprintVisible | CPF_Config | CPF_Transient},
-		{TEXT("Limited"), CPF_Edit | CPF_BlueprintVisible, CPF_BlueprintReadOnly | CPF_EditConst},
 		{TEXT("Bound"), CPF_BlueprintVisible | CPF_BlueprintReadOnly, CPF_Edit},
 		{TEXT("BoundOptionally"), CPF_Transient, CPF_DuplicateTransient},
-		{TEXT("Commented"), CPF_Edit | CPF_EditConst, CPF_BlueprintVisible},
-		{TEXT("Setting"), CPF_Config, CPF_GlobalConfig},
-		{TEXT("GlobalSetting"), CPF_Config | CPF_GlobalConfig, CPF_Edit},
-		{TEXT("OnChanged"), CPF_BlueprintAssignable, CPF_BlueprintCallable},
+		{TEXT("OnChanged"), CPF_BlueprintAssignable, CPF_BlueprintVisible},
 		{TEXT("Guarded"), CPF_NativeAccessSpecifierProtected, CPF_NativeAccessSpecifierPublic},
-		{TEXT("Private"), CPF_NativeAccessSpecifierPrivate | CPF_DisableEditOnInstance, CPF_NativeAccessSpecifierPublic},
+		{TEXT("Private"), CPF_NativeAccessSpecifierPrivate | CPF_Edit, CPF_NativeAccessSpecifierPublic},
 	};
 	for (const FCase& Case : Cases)
 	{
@@ -144,9 +140,9 @@ TEST_F(ReflectedProperties, TakeMetadataFromMarkupAndComments)
 	};
 	const FCase Cases[] = {
 		{TEXT("Limited"), TEXT("Category"), TEXT("Outer|Inner")},
-		{TEXT("Limited"), TEXT("ClampMin"), TEXT("-1.5")},
-		{TEXT("Limited"), TEXT("ClampMax"), TEXT("2")},
-		{TEXT("Limited"), TEXT("editcondition"), TEXT("bFlag")},
+		{TEXT("Limited"), TEXT("FixtureMin"), TEXT("-1.5")},
+		{TEXT("Limited"), TEXT("FixtureMax"), TEXT("2")},
+		{TEXT("Limited"), TEXT("fixturewords"), TEXT("one two")},
 		{TEXT("Bound"), TEXT("BindWidget"), TEXT("")},
 		{TEXT("BoundOptionally"), TEXT("BindWidgetOptional"), TEXT("")},
 		{TEXT("BoundOptionally"), TEXT("ToolTip"), TEXT("Kept \"as\" written:\t\\n is\n two lines")},

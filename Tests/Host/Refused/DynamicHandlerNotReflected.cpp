@@ -1,4 +1,5 @@
 // refused: a dynamic handler that is no reflected function
+// compiler: TheHandlerOfADynamicDelegateMustBeAUFunction
 // Copyright Velmorant. All Rights Reserved.
 
 #include "Components/CheckBox.h"

@@ -1,4 +1,5 @@
 // refused: a dynamic handler whose parameters differ from the delegate's
+// compiler: no matching function for call to 'FOnCheckBoxComponentStateChanged::__Internal_AddUniqueDynamic(
 // Copyright Velmorant. All Rights Reserved.
 
 #include "Components/CheckBox.h"

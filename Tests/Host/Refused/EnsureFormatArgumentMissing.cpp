@@ -1,4 +1,5 @@
 // refused: an ensure whose format has more directives than arguments
+// compiler: FormatStringHasMoreDirectivesThanArguments
 // Copyright Velmorant. All Rights Reserved.
 
 #include "CoreMinimal.h"

@@ -1,4 +1,5 @@
 // refused: TEnumAsByte over a scoped enum
+// compiler: TEnumAsByte is not for enum classes
 // Copyright Velmorant. All Rights Reserved.
 
 #include "Containers/EnumAsByte.h"

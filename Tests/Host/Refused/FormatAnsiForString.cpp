@@ -1,4 +1,5 @@
 // refused: an 8-bit string where the format says %s
+// compiler: FormatDirectiveNeedsAConstTCharPointer
 // Copyright Velmorant. All Rights Reserved.
 
 #include "CoreMinimal.h"

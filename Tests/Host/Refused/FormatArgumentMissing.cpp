@@ -1,4 +1,5 @@
 // refused: more directives than arguments
+// compiler: FormatStringHasMoreDirectivesThanArguments
 // Copyright Velmorant. All Rights Reserved.
 
 #include "CoreMinimal.h"

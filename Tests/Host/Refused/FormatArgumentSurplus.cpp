@@ -1,4 +1,5 @@
 // refused: more arguments than directives
+// compiler: FormatStringHasFewerDirectivesThanArguments
 // Copyright Velmorant. All Rights Reserved.
 
 #include "CoreMinimal.h"

@@ -1,4 +1,5 @@
 // refused: a directive that does not exist
+// compiler: FormatDirectiveIsUnknown
 // Copyright Velmorant. All Rights Reserved.
 
 #include "CoreMinimal.h"

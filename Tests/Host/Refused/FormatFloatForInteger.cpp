@@ -1,4 +1,5 @@
 // refused: a floating point number where the format says %d
+// compiler: FormatDirectiveNeedsAnIntegerOfThatSize
 // Copyright Velmorant. All Rights Reserved.
 
 #include "CoreMinimal.h"

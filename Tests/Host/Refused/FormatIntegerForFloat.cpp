@@ -1,4 +1,5 @@
 // refused: an integer where the format says %f
+// compiler: FormatDirectiveNeedsAFloatingPointNumber
 // Copyright Velmorant. All Rights Reserved.
 
 #include "CoreMinimal.h"

@@ -1,4 +1,5 @@
 // refused: a 64-bit integer where the format says %d
+// compiler: FormatDirectiveNeedsAnIntegerOfThatSize
 // Copyright Velmorant. All Rights Reserved.
 
 #include "CoreMinimal.h"

@@ -1,4 +1,5 @@
 // refused: a name where the log format says %s
+// compiler: A formatted argument must be a number, a character or a pointer
 // Copyright Velmorant. All Rights Reserved.
 
 #include "CoreMinimal.h"

@@ -1,4 +1,5 @@
 // refused: comparing a name with an FString
+// compiler: no match for 'operator==' (operand types are 'FName' and 'const FString')
 // Copyright Velmorant. All Rights Reserved.
 
 #include "CoreMinimal.h"

@@ -1,4 +1,5 @@
 // refused: a function that overrides without saying so
+// compiler: 'virtual void FFinishModule::StartupModule()' can be marked override
 // Copyright Velmorant. All Rights Reserved.
 
 #include "CoreMinimal.h"

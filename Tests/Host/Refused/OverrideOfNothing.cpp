@@ -1,4 +1,5 @@
 // refused: a const override of a function that is not const
+// compiler: 'virtual void FFinishModule::StartupModule() const' marked 'override', but does not override
 // Copyright Velmorant. All Rights Reserved.
 
 #include "CoreMinimal.h"

@@ -11,7 +11,7 @@
  * What is selected in the editor, in order of selection. Does not keep it alive: what was destroyed is no longer selected.
  * A step of undo that is open records changes of the selection; without one they cannot be undone.
  */
-UCLASS(Transient)
+UCLASS()
 class UNREALED_API USelection : public UObject
 {
 	GENERATED_BODY()

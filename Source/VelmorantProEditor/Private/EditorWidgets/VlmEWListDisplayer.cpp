@@ -11,7 +11,7 @@
 #include "VelmorantDeveloperUser.h"
 #include "VelmorantProjectRequestManager.h"
 #include "VelmorantSDKEngineSubsystem.h"
-#include "VelmorantServiceNames.h"
+#include "ServiceData/VelmorantServiceNames.h"
 #include "VlmButton.h"
 
 namespace VlmEWListDisplayer

@@ -13,7 +13,7 @@
 #include "VelmorantProEditor.h"
 #include "VelmorantSDKEngineSubsystem.h"
 #include "VelmorantSDKSettings.h"
-#include "VelmorantServiceNames.h"
+#include "ServiceData/VelmorantServiceNames.h"
 #include "VlmButton.h"
 #include "VlmText.h"
 

@@ -5,7 +5,7 @@
 #include "EngineUtils.h"
 #include "UnitVolumeActor.h"
 #include "UObject/Package.h"
-#include "VelmorantServiceNames.h"
+#include "ServiceData/VelmorantServiceNames.h"
 
 namespace VlmEWUnitVolumeDuplicationList
 {

@@ -18,7 +18,7 @@ enum class EFixtureDoor : uint8
 	Folding
 };
 
-UENUM(meta = (Bitflags))
+UENUM()
 enum class EFixtureSides
 {
 	None = 0,

@@ -20,7 +20,7 @@ class REFLECTIONFIXTURES_API UFixtureFunctions : public UObject
 
 public:
 	/** Adds up. */
-	UFUNCTION(BlueprintPure, Category = "Fixture|Sums", meta = (DisplayName = "Sum", Keywords = "add plus"))
+	UFUNCTION(BlueprintPure, Category = "Fixture|Sums", meta = (DisplayName = "Sum"))
 	static int32 Add(int32 A, int32 B = 2) { return A + B; }
 
 	UFUNCTION(BlueprintCallable)

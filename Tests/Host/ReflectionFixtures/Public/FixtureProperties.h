@@ -131,7 +131,7 @@ public:
 	UPROPERTY(GlobalConfig)
 	FString GlobalSetting;
 
-	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Outer|Inner", meta = (ClampMin = "-1.5", ClampMax = 2, EditCondition = "bFlag"))
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Outer|Inner", meta = (FixtureMin = "-1.5", FixtureMax = 2, FixtureWords = "one two"))
 	float Limited = 0.f;
 	UPROPERTY(BlueprintReadOnly, meta = (BindWidget))
 	TObjectPtr<UObject> Bound;
@@ -149,6 +149,6 @@ protected:
 	int32 Guarded = 11;
 
 private:
-	UPROPERTY(EditDefaultsOnly, BlueprintReadOnly, meta = (AllowPrivateAccess = "true"))
+	UPROPERTY(EditAnywhere, BlueprintReadOnly, meta = (AllowPrivateAccess = "true"))
 	int32 Private = 12;
 };

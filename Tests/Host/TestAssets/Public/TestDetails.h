@@ -84,10 +84,10 @@ public:
 	UPROPERTY(EditAnywhere, Category = "Texts")
 	FString Text;
 
-	UPROPERTY(EditInstanceOnly, Category = "Texts")
+	UPROPERTY(EditAnywhere, Category = "Texts")
 	FName Identifier;
 
-	UPROPERTY(EditDefaultsOnly, Category = "Texts")
+	UPROPERTY(EditAnywhere, Category = "Texts")
 	FText Caption;
 
 	UPROPERTY(EditAnywhere, Category = "Look", meta = (DisplayName = "Surface", ToolTip = "How light comes back"))

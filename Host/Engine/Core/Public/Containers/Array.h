@@ -884,7 +884,10 @@ private:
 	void Reallocate(SizeType NewMax)
 	{
 		ElementType* const NewData = static_cast<ElementType*>(UE::Core::Private::AllocateElements(NewMax, sizeof(ElementType), alignof(ElementType)));
-		RelocateRange(NewData, Data, ArrayNum);
+		if (NewMax > 0) // else there is no memory, and the compiler warns of copying there
+		{
+			RelocateRange(NewData, Data, ArrayNum);
+		}
 		UE::Core::Private::FreeElements(Data, ArrayMax, sizeof(ElementType), alignof(ElementType));
 		Data = NewData;
 		ArrayMax = NewMax;

@@ -45,41 +45,26 @@ enum EClassFlags : uint32
 	CLASS_Abstract = 0x00000001u,
 	CLASS_DefaultConfig = 0x00000002u,
 	CLASS_Config = 0x00000004u,
-	CLASS_Transient = 0x00000008u,
-	CLASS_Optional = 0x00000010u,
-	CLASS_ProjectUserConfig = 0x00000040u,
 	CLASS_Native = 0x00000080u,
 	CLASS_NotPlaceable = 0x00000200u,
 	CLASS_PerObjectConfig = 0x00000400u,
-	CLASS_EditInlineNew = 0x00001000u,
-	CLASS_CollapseCategories = 0x00002000u,
 	CLASS_Interface = 0x00004000u,
-	CLASS_Const = 0x00010000u,
 	CLASS_CompiledFromBlueprint = 0x00040000u,
 	CLASS_MinimalAPI = 0x00080000u,
-	CLASS_RequiredAPI = 0x00100000u,
-	CLASS_DefaultToInstanced = 0x00200000u,
-	CLASS_Hidden = 0x01000000u,
 	CLASS_Deprecated = 0x02000000u,
-	CLASS_HideDropDown = 0x04000000u,
-	CLASS_GlobalUserConfig = 0x08000000u,
 	CLASS_Intrinsic = 0x10000000u,
 	CLASS_Constructed = 0x20000000u,
-	CLASS_ConfigDoNotCheckDefaults = 0x40000000u,
 	CLASS_NewerVersionExists = 0x80000000u,
 };
 ENUM_CLASS_FLAGS(EClassFlags)
 
 /** Class flags that a derived class takes over. */
-#define CLASS_Inherit static_cast<EClassFlags>(CLASS_Transient | CLASS_Optional | CLASS_DefaultConfig | CLASS_Config | \
-	CLASS_PerObjectConfig | CLASS_ConfigDoNotCheckDefaults | CLASS_NotPlaceable | CLASS_Const | CLASS_DefaultToInstanced | \
-	CLASS_ProjectUserConfig | CLASS_GlobalUserConfig | CLASS_EditInlineNew | CLASS_CollapseCategories)
+#define CLASS_Inherit static_cast<EClassFlags>(CLASS_DefaultConfig | CLASS_Config | CLASS_PerObjectConfig | CLASS_NotPlaceable)
 
 enum EStructFlags : uint32
 {
 	STRUCT_NoFlags = 0x00000000,
 	STRUCT_Native = 0x00000001,
-	STRUCT_Atomic = 0x00000010,
 };
 
 /** How a property is stored, shown and passed. */
@@ -89,41 +74,19 @@ enum EPropertyFlags : uint64
 	CPF_Edit = 0x0000000000000001,
 	CPF_ConstParm = 0x0000000000000002,
 	CPF_BlueprintVisible = 0x0000000000000004,
-	CPF_ExportObject = 0x0000000000000008,
 	CPF_BlueprintReadOnly = 0x0000000000000010,
-	CPF_Net = 0x0000000000000020,
 	CPF_EditFixedSize = 0x0000000000000040,
 	CPF_Parm = 0x0000000000000080,
 	CPF_OutParm = 0x0000000000000100,
-	CPF_ZeroConstructor = 0x0000000000000200,
 	CPF_ReturnParm = 0x0000000000000400,
-	CPF_DisableEditOnTemplate = 0x0000000000000800,
-	CPF_NonNullable = 0x0000000000001000,
 	CPF_Transient = 0x0000000000002000,
 	CPF_Config = 0x0000000000004000,
-	CPF_RequiredParm = 0x0000000000008000,
-	CPF_DisableEditOnInstance = 0x0000000000010000,
 	CPF_EditConst = 0x0000000000020000,
 	CPF_GlobalConfig = 0x0000000000040000,
-	CPF_InstancedReference = 0x0000000000080000,
 	CPF_DuplicateTransient = 0x0000000000200000,
-	CPF_SaveGame = 0x0000000001000000,
-	CPF_NoClear = 0x0000000002000000,
 	CPF_ReferenceParm = 0x0000000008000000,
 	CPF_BlueprintAssignable = 0x0000000010000000,
 	CPF_Deprecated = 0x0000000020000000,
-	CPF_RepSkip = 0x0000000080000000,
-	CPF_EditorOnly = 0x0000000800000000,
-	CPF_NonPIEDuplicateTransient = 0x0000800000000000,
-	CPF_ContainsInstancedReference = 0x0000008000000000,
-	CPF_AssetRegistrySearchable = 0x0000010000000000,
-	CPF_SimpleDisplay = 0x0000020000000000,
-	CPF_AdvancedDisplay = 0x0000040000000000,
-	CPF_Protected = 0x0000080000000000,
-	CPF_BlueprintCallable = 0x0000100000000000,
-	CPF_TextExportTransient = 0x0000400000000000,
-	CPF_PersistentInstance = 0x0002000000000000,
-	CPF_Interp = 0x0000000200000000,
 	CPF_NativeAccessSpecifierPublic = 0x0010000000000000,
 	CPF_NativeAccessSpecifierProtected = 0x0020000000000000,
 	CPF_NativeAccessSpecifierPrivate = 0x0040000000000000,
@@ -161,7 +124,6 @@ enum EPackageFlags : uint32
 #define UMETA(...)
 #define UPARAM(...)
 #define UENUM(...)
-#define UDELEGATE(...)
 #define UCLASS(...)
 #define UINTERFACE(...)
 

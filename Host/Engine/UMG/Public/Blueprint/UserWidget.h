@@ -20,7 +20,7 @@ DECLARE_DYNAMIC_MULTICAST_DELEGATE_OneParam(FOnVisibilityChangedEvent, ESlateVis
  * Life: Initialize, then NativeOnInitialized once; each time its Slate widget is made NativePreConstruct and NativeConstruct;
  * NativeDestruct when that goes. Widgets that are bound by name are there from NativeOnInitialized on.
  */
-UCLASS(Abstract, editinlinenew, BlueprintType, Blueprintable)
+UCLASS(Abstract, BlueprintType, Blueprintable)
 class UMG_API UUserWidget : public UWidget
 {
 	GENERATED_BODY()

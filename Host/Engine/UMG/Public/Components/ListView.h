@@ -77,14 +77,14 @@ protected:
 
 private:
 	/** SetListItems() for Blueprints. */
-	UFUNCTION(BlueprintCallable, Category = "ListView", meta = (DisplayName = "Set List Items", AllowPrivateAccess = "true"))
+	UFUNCTION(BlueprintCallable, Category = "ListView", meta = (DisplayName = "Set List Items"))
 	void BP_SetListItems(const TArray<UObject*>& InListItems);
 
 	/** GetSelectedItem() for Blueprints. */
-	UFUNCTION(BlueprintCallable, Category = "ListView", meta = (DisplayName = "Get Selected Item", AllowPrivateAccess = "true"))
+	UFUNCTION(BlueprintCallable, Category = "ListView", meta = (DisplayName = "Get Selected Item"))
 	UObject* BP_GetSelectedItem() const { return GetSelectedItem(); }
 
-	UFUNCTION(BlueprintCallable, Category = "ListView", meta = (DisplayName = "Clear Selection", AllowPrivateAccess = "true"))
+	UFUNCTION(BlueprintCallable, Category = "ListView", meta = (DisplayName = "Clear Selection"))
 	void BP_ClearSelection() { SetSelectedItem(nullptr); }
 
 	TSharedPtr<SListView<UObject*>> GetList() const;

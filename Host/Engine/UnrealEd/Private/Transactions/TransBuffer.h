@@ -9,7 +9,7 @@
 #include "TransBuffer.generated.h"
 
 /** The editor's steps of undo, without a limit to their number. */
-UCLASS(Transient)
+UCLASS()
 class UNREALED_API UTransBuffer : public UTransactor
 {
 	GENERATED_BODY()

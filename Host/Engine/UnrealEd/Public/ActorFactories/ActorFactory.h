@@ -10,7 +10,7 @@
 #include "ActorFactory.generated.h"
 
 /** Puts actors made from an asset into a level. Host: placement items name their factory, nothing is dragged into a viewport. */
-UCLASS(Abstract, Transient)
+UCLASS(Abstract)
 class UNREALED_API UActorFactory : public UObject, public IAssetFactoryInterface
 {
 	GENERATED_BODY()

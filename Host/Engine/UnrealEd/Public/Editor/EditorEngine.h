@@ -12,7 +12,7 @@ class USelection;
 class UTransactor;
 
 /** The engine as the editor runs it: one open world, a selection, viewports. */
-UCLASS(Config = Engine, Transient)
+UCLASS(Config = Engine)
 class UNREALED_API UEditorEngine : public UEngine
 {
 	GENERATED_BODY()

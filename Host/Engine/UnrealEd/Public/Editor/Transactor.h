@@ -24,7 +24,7 @@ private:
 };
 
 /** The steps that can be undone and redone. GEditor has one. */
-UCLASS(Abstract, Transient)
+UCLASS(Abstract)
 class UNREALED_API UTransactor : public UObject
 {
 	GENERATED_BODY()

@@ -1,12 +1,12 @@
 // Copyright Velmorant. All Rights Reserved.
 
-#include "CheckCollisionNotification.h"
+#include "Collision/CheckCollisionNotification.h"
 
 #include "Styling/ISlateStyle.h"
 #include "UnrealEdMisc.h"
 #include "VelmorantEditorStyle.h"
 #include "VelmorantEditorUtilitiesLibrary.h"
-#include "VelmorantNotifications.h"
+#include "EditorServices/VelmorantNotifications.h"
 #include "Widgets/Notifications/SNotificationList.h"
 
 #define LOCTEXT_NAMESPACE "FVelmorantProEditor"

@@ -9,8 +9,8 @@
 #include "ScopedTransaction.h"
 #include "UnitGroupWrapper.h"
 #include "UnitVolumeActor.h"
-#include "VelmorantChange.h"
-#include "VelmorantSelectedProject.h"
+#include "EditorServices/VelmorantChange.h"
+#include "ServiceData/VelmorantSelectedProject.h"
 
 #define LOCTEXT_NAMESPACE "FVelmorantProEditor"
 

@@ -1,6 +1,6 @@
 // Copyright Velmorant. All Rights Reserved.
 
-#include "ToolbarMenu/VelmorantToolLaunchers.h"
+#include "Toolbar/VelmorantToolLaunchers.h"
 
 #include "CoreMinimal.h"
 #include "Editor.h"

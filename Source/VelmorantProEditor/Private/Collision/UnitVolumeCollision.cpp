@@ -2,7 +2,7 @@
 
 #include "VelmorantEditorUtilitiesLibrary.h"
 
-#include "CheckCollisionNotification.h"
+#include "Collision/CheckCollisionNotification.h"
 #include "Engine/CollisionProfile.h"
 #include "Misc/ConfigCacheIni.h"
 #include "Misc/FileHelper.h"

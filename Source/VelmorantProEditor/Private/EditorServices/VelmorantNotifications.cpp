@@ -1,6 +1,6 @@
 // Copyright Velmorant. All Rights Reserved.
 
-#include "VelmorantNotifications.h"
+#include "EditorServices/VelmorantNotifications.h"
 
 #include "Framework/Notifications/NotificationManager.h"
 #include "VelmorantProEditor.h"

@@ -1,6 +1,6 @@
 // Copyright Velmorant. All Rights Reserved.
 
-#include "VelmorantSelectedProject.h"
+#include "ServiceData/VelmorantSelectedProject.h"
 
 #include "VelmorantDeveloperUser.h"
 #include "VelmorantProjectRequestManager.h"

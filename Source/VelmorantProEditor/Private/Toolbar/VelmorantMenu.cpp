@@ -1,6 +1,6 @@
 // Copyright Velmorant. All Rights Reserved.
 
-#include "ToolbarMenu/VelmorantMenu.h"
+#include "Toolbar/VelmorantMenu.h"
 
 #include "Framework/Commands/UICommandList.h"
 #include "Framework/MultiBox/MultiBoxBuilder.h"
@@ -8,8 +8,8 @@
 #include "Styling/AppStyle.h"
 #include "Textures/SlateIcon.h"
 #include "ToolMenus.h"
-#include "ToolbarMenu/SVelmorantUserOptions.h"
-#include "ToolbarMenu/VelmorantToolLaunchers.h"
+#include "Toolbar/SVelmorantUserOptions.h"
+#include "Toolbar/VelmorantToolLaunchers.h"
 #include "VelmorantEditorStyle.h"
 #include "VelmorantEditorUtilitiesLibrary.h"
 #include "VelmorantProEdCommands.h"

@@ -10,14 +10,14 @@
 #include "ProjectWrapper.h"
 #include "ScopedTransaction.h"
 #include "UObject/Package.h"
-#include "VelmorantAssetQueries.h"
-#include "VelmorantChange.h"
+#include "Configurators/VelmorantAssetQueries.h"
+#include "EditorServices/VelmorantChange.h"
 #include "VelmorantConfiguratorDataAsset.h"
 #include "VelmorantDeveloperUser.h"
 #include "VelmorantProEditor.h"
 #include "VelmorantProjectRequestManager.h"
 #include "VelmorantSDKEngineSubsystem.h"
-#include "VelmorantSelectedProject.h"
+#include "ServiceData/VelmorantSelectedProject.h"
 
 #include <cwctype>
 

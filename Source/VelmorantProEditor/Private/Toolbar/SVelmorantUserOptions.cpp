@@ -1,10 +1,10 @@
 // Copyright Velmorant. All Rights Reserved.
 
-#include "ToolbarMenu/SVelmorantUserOptions.h"
+#include "Toolbar/SVelmorantUserOptions.h"
 
 #include "Framework/Application/SlateApplication.h"
 #include "Styling/AppStyle.h"
-#include "ToolbarMenu/VelmorantToolLaunchers.h"
+#include "Toolbar/VelmorantToolLaunchers.h"
 #include "VelmorantSDKEngineSubsystem.h"
 #include "VelmorantUser.h"
 #include "Widgets/Images/SImage.h"

@@ -1,6 +1,6 @@
 // Copyright Velmorant. All Rights Reserved.
 
-#include "VelmorantChange.h"
+#include "EditorServices/VelmorantChange.h"
 
 #include "UObject/Class.h"
 #include "UObject/Object.h"

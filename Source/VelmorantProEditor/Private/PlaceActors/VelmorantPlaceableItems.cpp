@@ -1,6 +1,6 @@
 // Copyright Velmorant. All Rights Reserved.
 
-#include "VelmorantPlaceableItems.h"
+#include "PlaceActors/VelmorantPlaceableItems.h"
 
 #include "ActorFactories/ActorFactoryBlueprint.h"
 #include "AssetRegistry/AssetData.h"
