@@ -156,6 +156,7 @@ TEST_F(FCheckConfigurations, ARepairThatDoesNotHelpIsForetoldAndWritesNothing)
 		{"profiles in another section", SectionLine + "Key=1\n[/Script/Other]\nA=1\n" + GlassLine, "", Rule + ", which is " + Ini + "(5), in another section, [/Script/Other]", ProfileLine + ChannelLine, ""},
 		{"both lines in another section", SectionLine + "Key=1\n[/Script/Other]\n" + ProfileLine + ChannelLine, "", Rule + ", which is " + Ini + "(4), in another section, [/Script/Other]", ProfileLine + ChannelLine, ""},
 		{"a profile before the first section", GlassLine + SectionLine + "Key=1\n", "", Rule + ", which is " + Ini + "(1), in no section", ProfileLine + ChannelLine, ""},
+		{"a profile that goes on in the next line", SectionLine + "+Profiles=(Name=\"Any\")\\\n", "", "the lines that the toolkit adds have no effect where it adds them", ProfileLine + ChannelLine, ""},
 		{"profiles that are cleared below", SectionLine + GlassLine + "; note\n!Profiles=ClearArray\n", "", "line 4 of " + Ini + " has to go first", "", Ini + "(4)"},
 		{"profiles that a layer clears", SectionLine + GlassLine, SectionLine + "!Profiles=ClearArray\n", "line 2 of " + Layer + " has to go first", "", Layer + "(2)"},
 		{"both lines, but a layer clears them", SectionLine + ProfileLine + ChannelLine, SectionLine + "!Profiles=ClearArray\n", "line 2 of " + Layer + " has to go first", "", Layer + "(2)"},
@@ -210,6 +211,9 @@ TEST_F(FCheckConfigurations, AFolderInItsPlaceIsRefused)
 	std::filesystem::create_directories(Folder.GetNative(IniFile));
 	ExpectRefused({"--repair"}, "folder");
 	ExpectRefused({}, "folder");
+	std::filesystem::remove_all(Folder.GetNative("Project/Config"));
+	Folder.Write("Project/Config", "a file in place of its folder");
+	ExpectRefused({"--repair"}, "the file cannot be written, its folder does not permit it. Check the permissions of the folder.");
 }
 
 TEST_F(FCheckConfigurations, BytesThatNoEncodingExplainsAreRefused)
@@ -217,4 +221,9 @@ TEST_F(FCheckConfigurations, BytesThatNoEncodingExplainsAreRefused)
 	WriteIni(SectionLine + GlassLine + "; \xC3\x28 \xFF\n");
 	ExpectRefused({"--repair"}, "");
 	ExpectRefused({}, "");
+	WriteIni(SectionLine + GlassLine);
+	Folder.Write("Project/Config/Linux/LinuxEngine.ini", "[A]\nB=\xFF\n");
+	const FProgramResult Result = Check({"--repair"});
+	EXPECT_EQ(Result.ExitStatus, 3);
+	EXPECT_NE(Result.Errors.find("LinuxEngine.ini(2): the file is neither UTF-8"), std::string::npos) << Result.Errors;
 }

@@ -144,7 +144,7 @@ TEST_F(FCheckUndo, NeedsARecord)
 	const std::string Before = ReadIni();
 	const FProgramResult Result = Check({"--undo"});
 	EXPECT_EQ(Result.ExitStatus, 2);
-	EXPECT_NE(Result.Errors.find("No repair of this project is recorded"), std::string::npos) << Result.Errors;
+	EXPECT_EQ(Result.Errors, "No repair of this project is recorded: there is nothing to take back.\n");
 	EXPECT_EQ(nlohmann::json::parse(Check({"--undo", "--json"}).Output, nullptr, false).value("status", -1), 2);
 	EXPECT_EQ(ReadIni(), Before);
 }
@@ -196,6 +196,7 @@ TEST_F(FCheckUndo, JsonTellsWhatWasTakenOut)
 	const nlohmann::json Report = nlohmann::json::parse(Check({"--undo", "--json"}).Output, nullptr, false);
 	ASSERT_TRUE(Report.is_object());
 	EXPECT_EQ(Report.value("verdict", ""), "undone");
+	EXPECT_EQ(Report.value("project", ""), GetProject() + "/Test.uproject");
 	ASSERT_EQ(Report["writtenFiles"].size(), 1u);
 	ASSERT_EQ(Report["writtenFiles"][0]["removedLines"].size(), 2u);
 	EXPECT_EQ(Report["writtenFiles"][0]["removedLines"][1].get<std::string>() + "\n", ChannelLine);

@@ -1,9 +1,11 @@
 // Copyright Velmorant. All Rights Reserved.
 
+#include "Check/CollisionCheck.h"
 #include "CollisionIni.h"
 #include "EditorHost.h"
 #include "HostFiles.h"
 #include "HostNotifications.h"
+#include "HostProblems.h"
 #include "ProjectOnDisk.h"
 
 #include <sys/wait.h>
@@ -60,4 +62,33 @@ TEST_F(FRepairSafety, ACrashBeforeTheRenameLeavesTheOldFile)
 	EXPECT_EQ(Check({"--repair"}).ExitStatus, 0);
 	EXPECT_EQ(ReadIni(), Before + ProfileLine + ChannelLine);
 	EXPECT_EQ(Folder.Count("Project/Config"), 1u) << "what the crash left is cleared away";
+}
+
+TEST_F(FRepairSafety, WhatComesBetweenCheckAndWriteIsTold)
+{
+	const struct
+	{
+		const char* Behaviour;
+		void (*Between)(const char* Temporary, const char* Target);
+		ECheckStatus Status;
+		const char* Problem;
+	} Cases[] = {
+		{"the write fails", [](const char*, const char* Target) { std::filesystem::remove(Target); std::filesystem::create_directory(Target); }, ECheckStatus::Trouble,
+			"the file cannot be written and is as it was: Is a directory"},
+		{"others write over it", [](const char* Temporary, const char*) { std::ofstream(Temporary) << "[Other]\n"; }, ECheckStatus::Repaired,
+			"the repair changed other lines as well, so that --undo cannot take it back"},
+	};
+	for (const auto& Case : Cases)
+	{
+		SCOPED_TRACE(Case.Behaviour);
+		WriteIni(SectionLine + GlassLine);
+		HostProblems::Clear();
+		HostFiles::SetBeforeRename(Case.Between);
+		const FCheckReport Report = CollisionCheck::Repair(Folder.Get("Project/Test.uproject"), FEditorArguments());
+		HostFiles::SetBeforeRename(nullptr);
+		EXPECT_EQ(Report.Status, Case.Status);
+		ASSERT_FALSE(Report.Problems.IsEmpty());
+		EXPECT_EQ(std::string(TCHAR_TO_UTF8(*Report.Problems[0].Message)), Case.Problem);
+		std::filesystem::remove_all(Folder.GetNative(IniFile));
+	}
 }

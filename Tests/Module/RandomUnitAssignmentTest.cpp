@@ -84,7 +84,9 @@ TEST_F(RandomUnitAssignment, GivesTheSameUnitsAgain)
 {
 	StartWithVolumes(2);
 	EXPECT_TRUE(Assign());
+	SaveAll();
 	EXPECT_TRUE(Assign());
+	EXPECT_THAT(Unsaved(), ElementsAre("/Game/Maps/Units")) << "whether they are others or not";
 	EXPECT_THAT(Describe(), ElementsAre("5 a-3", "3 A-2")) << "the first unit of the list stays unassigned";
 }
 

@@ -240,6 +240,15 @@ TEST_F(UndoOfOperations, SetsThatOtherToolsMadeAreUndoneToo)
 	{
 		Object->ClearFlags(RF_Transactional);
 	}
+	Asset->ConfiguratorUnit.Rooms[0].Groups[0].Name = TEXT("FRONTS");
+	UVelmorantEditorUtilitiesLibrary::FillOutLevelVariantWithConfigurator(Asset, Sets);
+	EXPECT_THAT(Describe(Sets), ElementsAre("Kitchen - FRONTS: Oak, Lacquer"));
+	EXPECT_THAT(Steps(), ElementsAre("Fill Out LevelVariantSet"));
+	ASSERT_TRUE(Undo());
+	EXPECT_THAT(Describe(Sets), ElementsAre("Kitchen - Fronts: Oak, Lacquer"));
+	Asset->ConfiguratorUnit.Rooms[0].Groups[0].Name = TEXT("Fronts");
+	Sets->GetVariantSet(0)->ClearFlags(RF_Transactional);
+
 	WriteConfigurators(R"({"name": "Tower", "rooms": [{"name": "Kitchen", "groups": [{"name": "FRONTS", "products": ["Steel"]}, {"name": "Worktop", "products": ["Stone"]}]}]})");
 	Refresh(Asset);
 	EXPECT_THAT(Describe(Sets), ElementsAre("Kitchen - FRONTS: Oak, Lacquer, Steel", "Kitchen - Worktop: Stone"));

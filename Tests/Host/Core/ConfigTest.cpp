@@ -94,7 +94,8 @@ namespace
 		EXPECT_TRUE(GConfig->DoesSectionExist(TEXT("t"), File));
 		Folder.Write("Config/DefaultEngine.ini", "A=0\n[S]\nA=3\n");
 		GConfig->LoadFile(File);
-		EXPECT_EQ(GetSection(File, TEXT("S")), std::vector<std::string>{"A=3"});
+		Folder.Write("Config/DefaultEngine.ini", "[S]\nA=4\n");
+		EXPECT_EQ(GetSection(File, TEXT("S")), std::vector<std::string>{"A=3"}) << "it was read at once";
 		EXPECT_EQ(GetSection(File, TEXT("")), std::vector<std::string>{"no such section"});
 		Folder.Write("Engine.ini", "[S]\n+A=1\n-A=1\n");
 		EXPECT_EQ(GetSection(Folder.Get("Engine.ini"), TEXT("S")), (std::vector<std::string>{"+A=1", "-A=1"})) << "a branch's name alone makes none";
@@ -490,6 +491,7 @@ namespace
 			const char* Reason;
 		} Cases[] = {
 			{"a line is gone", "[S]\nP=1\n", {{"P=1", "C=1"}}, "the line \"C=1\" is not there any more"},
+			{"a line is gone behind the first of the file", "P=1\n", {{"P=1", "C=1"}}, "the line \"C=1\" is not there any more"},
 			{"blanks and case count", "[S]\nP= 1\np=1\n", {{"P=1"}}, "the line \"P=1\" is not there any more"},
 			{"the second block is gone", "[S]\nP=1\n", {{"P=1"}, {"P=1"}}, "the line \"P=1\" is not there any more"},
 			{"another order", "[S]\nC=1\nP=1\n", {{"P=1", "C=1"}}, "the lines from \"P=1\" on do not stand in their order any more"},

@@ -259,8 +259,9 @@ namespace
 	TEST_F(FileHelper, LettersBeyondAsciiDoNotTurnAnExistingUtf8FileIntoUtf16)
 	{
 		Folder.Write("File.ini", "a\n");
-		EXPECT_TRUE(Save({"a", "T\xC3\xBCr"}));
-		EXPECT_EQ(Folder.Read("File.ini"), "a\nT\xC3\xBCr\n");
+		const std::string Letters = "T\xC3\xBCr \xED\x9F\xBF\xEE\x80\x80\xF0\x90\x80\x80"; // also those beside the surrogates
+		EXPECT_TRUE(Save({"a", Letters}));
+		EXPECT_EQ(Folder.Read("File.ini"), "a\n" + Letters + "\n");
 	}
 
 	TEST_F(FileHelper, SavingWhatWasLoadedLeavesFileAndTimeStampAlone)

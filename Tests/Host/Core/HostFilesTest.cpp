@@ -361,6 +361,20 @@ namespace
 		EXPECT_EQ(Seen, "new|old|");
 	}
 
+	TEST_F(HostFilesTest, WritesWithoutAStandardInput)
+	{
+		const int Status = Wait(Fork([this] {
+			close(STDIN_FILENO); // the next file is number 0
+			bool bLocked = false;
+			{
+				const HostFiles::FLock Lock(Folder.Get("File"));
+				bLocked = fcntl(STDIN_FILENO, F_GETFD) >= 0;
+			}
+			_exit(bLocked && Write("File", "new") && Folder.Read("File") == "new" && HostProblems::GetAll().IsEmpty() ? 0 : 1);
+		}));
+		EXPECT_EQ(Status, 0);
+	}
+
 	TEST_F(HostFilesTest, ListsWrittenFilesOnceInOrder)
 	{
 		Write("b", "1");

@@ -73,6 +73,8 @@ namespace
 			{"a comma too many", "{\n\"Version\": 1,\n}", 3, "column 1: '}' is not expected here"},
 			{"cut off", "{\n\"Version\": ", 2, "the text ends before it is complete"},
 			{"a text that is not closed", "{\n\"Version\": \"secret\n\"}", 2, "column 19: what stands here is not expected"},
+			{"at the beginning", "}", 1, "column 1: '}' is not expected here"},
+			{"behind values of every kind", "{\"A\": [-1, 1, 1.5, true, null, \"\", {}, []], \"B\": {\"C\": 1}, ]", 1, "column 60: ']' is not expected here"},
 			{"a number beyond all bounds", "{\n\"Version\": 1e999}", 2, "column 12: the number 1e999 is out of range"},
 			{"a number beyond 32 bits", "{\"Version\": 3000000000}", 0, "must be a whole number"},
 			{"not an object", "[1]", 1, "one JSON object"},

@@ -27,7 +27,6 @@ namespace DiskFile
 		 */
 		int OpenToRead(const std::string& Path, struct stat& OutStatus, int& OutFile)
 		{
-			OutFile = -1;
 			int Error = stat(Path.c_str(), &OutStatus) == 0 ? CheckReadable(OutStatus) : errno;
 			if (Error != 0)
 			{

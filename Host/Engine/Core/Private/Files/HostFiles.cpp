@@ -159,7 +159,6 @@ namespace HostFiles
 
 	ERead Read(const FString& Path, std::string& OutBytes)
 	{
-		OutBytes.clear();
 		if (const FFileOverlay* Overlay = GetOverlay())
 		{
 			if (const FFileOverlay::FEntry* Entry = Overlay->Find(NativePath::Resolve(Path)))
@@ -280,7 +279,7 @@ namespace HostFiles
 			return false;
 		}
 		std::string Folder = NativePath::FolderOf(Resolved);
-		while (Folder != "/" && !FOnDisk(Folder).bExists)
+		while (!FOnDisk(Folder).bExists) // the root does
 		{
 			Folder = NativePath::FolderOf(Folder);
 		}

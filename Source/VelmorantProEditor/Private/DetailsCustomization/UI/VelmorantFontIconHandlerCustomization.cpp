@@ -187,7 +187,6 @@ void FVelmorantFontIconHandlerCustomization::UpdateFilterListView()
 		return;
 	}
 	FilteredItems = FilterListItems(SearchBox->GetText().ToString());
-	TileView->SetItemsSource(&FilteredItems);
 	TileView->RequestListRefresh();
 }
 
