@@ -2,8 +2,7 @@
 
 #include "VelmorantProEditor.h"
 
-#include "AssetAuthoring/MapLinkerAsset_TypeAction.h"
-#include "AssetAuthoring/MinimapDataAsset_TypeAction.h"
+#include "AssetAuthoring/AssetTypeActions.h"
 #include "AssetToolsModule.h"
 #include "AssetTypeCategories.h"
 #include "DetailsCustomization/UI/VelmorantColorCustomization.h"

@@ -2,7 +2,7 @@
 
 #include "VelmorantEditorUtilitiesLibrary.h"
 
-#include "AssetAuthoring/ConfiguratorDataAssetFactory.h"
+#include "AssetAuthoring/AssetFactories.h"
 #include "AssetRegistry/AssetData.h"
 #include "ConfiguratorWrapper.h"
 #include "IAssetTools.h"
