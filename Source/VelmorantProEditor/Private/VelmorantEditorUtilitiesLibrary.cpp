@@ -2,9 +2,10 @@
 
 #include "VelmorantEditorUtilitiesLibrary.h"
 
+#include "Collision/UnitVolumeCollision.h"
+#include "EditorServices/VelmorantNotifications.h"
 #include "HAL/PlatformApplicationMisc.h"
 #include "Interfaces/IPluginManager.h"
-#include "EditorServices/VelmorantNotifications.h"
 
 #define LOCTEXT_NAMESPACE "FVelmorantProEditor"
 
@@ -33,6 +34,16 @@ namespace VelmorantEditorUtilities
 		// No fallback on purpose: without the companion plugin the toolkit cannot work at all.
 		return IPluginManager::Get().FindPlugin(PluginName)->GetDescriptor().VersionName;
 	}
+}
+
+void UVelmorantEditorUtilitiesLibrary::CheckForUnitVolumeCollisionProfile()
+{
+	UnitVolumeCollision::Check();
+}
+
+void UVelmorantEditorUtilitiesLibrary::AddUnitVolumeCollisionProfile()
+{
+	UnitVolumeCollision::AddLines();
 }
 
 void UVelmorantEditorUtilitiesLibrary::NotifyPopup(const FString& Title, const FString& SubText, SNotificationItem::ECompletionState State, float Duration)
