@@ -24,14 +24,14 @@ namespace UnitVolumeDuplicationBenchmark
 				const int32 Unit = Index % 10 == 9 ? Index - 1 : Index;
 				AUnitVolumeActor* Volume = GetWorld().SpawnActor<AUnitVolumeActor>();
 				Volume->UniqueIdentifier = FUnitVolumeUniqueIdentifier(Unit, FString::Printf(TEXT("HT-%06d"), Unit));
-				Volumes.Add(Volume);
+				Identifiers.Add(&Volume->UniqueIdentifier);
 			}
 		}
 
 		static UWorld& GetWorld() { return *GEditor->GetEditorWorldContext().World(); }
 
 		FBenchmarkEditor Editor;
-		TArray<AUnitVolumeActor*> Volumes;
+		FPairwiseClashes::FIdentifiers Identifiers;
 	};
 
 	/** The list with a layout that only counts the groups. */
@@ -69,9 +69,7 @@ static void CheckForDuplicatesPairwise(benchmark::State& State)
 	int32 NumGroups = 0;
 	for (auto Iteration : State)
 	{
-		FPairwiseClashes Clashes;
-		Clashes.Check(Scene.Volumes);
-		NumGroups = Clashes.GetGroups().Num();
+		NumGroups = FPairwiseClashes(Scene.Identifiers).GetGroups().Num();
 	}
 	State.counters["groups"] = NumGroups;
 }

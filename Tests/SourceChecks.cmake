@@ -52,18 +52,17 @@ target_include_directories(ModulePublicHeaders PRIVATE $<TARGET_PROPERTY:Velmora
 target_compile_definitions(ModulePublicHeaders PRIVATE $<TARGET_PROPERTY:VelmorantProEditor,INTERFACE_COMPILE_DEFINITIONS>)
 add_dependencies(ModulePublicHeaders VelmorantProEditor)
 
-# Code that must not compile. Each file states behind "// compiler: " a part of what the compiler must say of it. What they include is
-# compiled once, in advance.
+# Code that must not compile. Each file states behind "// compiler: " a part of what the compiler must say of it. What most of them
+# include is compiled once, in advance; the less that is, the faster each is read.
 set(RefusedFlags ${CMAKE_CURRENT_BINARY_DIR}/RefusedFlags.txt)
 set(RefusedHeader ${CMAKE_CURRENT_BINARY_DIR}/RefusedHeader.h)
 file(GENERATE OUTPUT ${RefusedFlags} CONTENT "-std=c++20 -Wall -Wextra -Wsuggest-override -Werror
-'-I$<JOIN:$<TARGET_PROPERTY:UMG,INTERFACE_INCLUDE_DIRECTORIES>,'
+'-I$<JOIN:$<TARGET_PROPERTY:CoreUObject,INTERFACE_INCLUDE_DIRECTORIES>,'
 '-I>'
-'-D$<JOIN:$<TARGET_PROPERTY:UMG,INTERFACE_COMPILE_DEFINITIONS>,'
+'-D$<JOIN:$<TARGET_PROPERTY:CoreUObject,INTERFACE_COMPILE_DEFINITIONS>,'
 '-D>'
 ")
-file(CONFIGURE OUTPUT ${RefusedHeader} CONTENT "// Generated: what the sources that must not compile include.
-#include \"Components/CheckBox.h\"
+file(CONFIGURE OUTPUT ${RefusedHeader} CONTENT "// Generated: what most of the sources that must not compile include.
 #include \"Containers/EnumAsByte.h\"
 #include \"CoreMinimal.h\"
 #include \"Modules/ModuleInterface.h\"
@@ -76,7 +75,6 @@ add_custom_command(
 	COMMENT "Precompiling what refused sources include"
 	VERBATIM)
 add_custom_target(RefusedSourcesHeader ALL DEPENDS ${RefusedHeader}.gch)
-add_dependencies(RefusedSourcesHeader UMG)
 
 function(velmorant_refused_sources Name Folder)
 	file(GLOB Sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/Host/${Folder}/*.cpp)
@@ -85,11 +83,13 @@ function(velmorant_refused_sources Name Folder)
 		"-DHEADER=${RefusedHeader}" "-DSOURCES=${Sources}" -P ${CMAKE_CURRENT_SOURCE_DIR}/RefusedSources.cmake)
 endfunction()
 
-velmorant_refused_sources(RefusedSources Refused)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU") # whose words the fixtures state
+	velmorant_refused_sources(RefusedSources Refused)
 
-# The check itself: what compiles, fails for another reason or states nothing is noticed, each with its own words.
-velmorant_refused_sources(RefusedSourcesNotices RefusedWrongly)
-set_tests_properties(RefusedSourcesNotices PROPERTIES PASS_REGULAR_EXPRESSION
-	"IsAccepted.cpp compiles.*IsMisspelt.cpp must be refused with.*'FNama' was not declared.*StatesNoMessage.cpp does not state.*3 of 3 sources")
+	# The check itself: what compiles, fails for another reason or states nothing is noticed, each with its own words.
+	velmorant_refused_sources(RefusedSourcesNotices RefusedWrongly)
+	set_tests_properties(RefusedSourcesNotices PROPERTIES PASS_REGULAR_EXPRESSION
+		"IsAccepted.cpp compiles.*IsMisspelt.cpp must be refused with.*'FNama' was not declared.*StatesNoMessage.cpp does not state.*3 of 3 sources")
+endif()
 
 add_test(NAME BuildRules COMMAND ${CMAKE_COMMAND} -DCMAKE_FOLDER=${CMAKE_SOURCE_DIR}/cmake -P ${CMAKE_CURRENT_SOURCE_DIR}/BuildRules.cmake)

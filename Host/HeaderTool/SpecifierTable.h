@@ -53,7 +53,7 @@ namespace HeaderTool
 		const char* Consumer = nullptr;
 	};
 
-	inline constexpr const char* ByReflection = "by reflection";
+	inline constexpr char ByReflection[] = "by reflection";
 
 	/** All rows; names compare without regard to case, and a name may have a row for each macro. */
 	const std::vector<FSpecifierRow>& GetSpecifierTable();

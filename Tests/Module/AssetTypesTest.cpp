@@ -16,12 +16,6 @@
 
 using testing::UnorderedElementsAre;
 
-namespace ActionAssetFactories
-{
-	// What both action factories do with their parent class. Declared here because no test can take a companion's class away.
-	UObject* CreateActionBlueprint(UClass* ParentClass, UObject* InParent, FName InName);
-}
-
 namespace
 {
 	/** The lines of the menu of new assets that make assets of the toolkit. */
@@ -206,7 +200,8 @@ TEST_F(AssetTypes, OfActionsReportAParentThatNoBlueprintCanHave)
 	EXPECT_EQ(Factory->FactoryCreateNew(Parent, GetTransientPackage(), TEXT("Action"), RF_NoFlags, nullptr, nullptr), nullptr);
 	Parent->ClassFlags = Flags;
 
-	EXPECT_EQ(ActionAssetFactories::CreateActionBlueprint(nullptr, GetTransientPackage(), TEXT("Action")), nullptr);
+	Factory->SupportedClass = nullptr; // as if the companion had no such class
+	EXPECT_EQ(Factory->FactoryCreateNew(Parent, GetTransientPackage(), TEXT("Action"), RF_NoFlags, nullptr, nullptr), nullptr);
 
 	ASSERT_EQ(HostQuestions::GetAsked().Num(), 2);
 	const FHostQuestion& Question = HostQuestions::GetAsked()[0].Question;

@@ -29,7 +29,7 @@ protected:
 	}
 };
 
-TEST_F(CollisionRepair, InsertsBothLinesBehindTheLastProfileLineAndNothingElse)
+TEST_F(CollisionRepair, InsertsBothLinesIntoFilesOfAnyKindAndChangesNothingElse)
 {
 	struct FCase
 	{
@@ -42,17 +42,12 @@ TEST_F(CollisionRepair, InsertsBothLinesBehindTheLastProfileLineAndNothingElse)
 	const std::string Accent = "; Edificio Alcal\xE1\n"; // Latin-1, for UTF-16
 	const FCase Cases[] = {
 		{"one profile line", Head + Glass + "\n" + Tail, Head + Glass + "\n" + Repair + Tail},
-		{"the last of several counts", Head + Glass + "\n" + Tail + Glass + "\nA=1\n", Head + Glass + "\n" + Tail + Glass + "\n" + Repair + "A=1\n"},
-		{"letter case does not count", Head + Replace(Glass, "+Profiles", "+pROFILES") + "\n" + Tail, Head + Replace(Glass, "+Profiles", "+pROFILES") + "\n" + Repair + Tail},
-		{"a prefix is enough", Head + "+Profiles=\n" + Tail, Head + "+Profiles=\n" + Repair + Tail},
-		{"last line of the file", Head + Glass + "\n", Head + Glass + "\n" + Repair},
 		{"last line without line end", Head + Glass, Head + Glass + "\n" + Profile + "\n" + Channel},
 		{"CRLF", Replace(Head + Glass + "\n" + Tail, "\n", "\r\n"), Replace(Head + Glass + "\n" + Repair + Tail, "\n", "\r\n")},
 		{"UTF-8 with byte-order mark", "\xEF\xBB\xBF; Alcal\xC3\xA1\n" + Glass + "\n" + Tail, "\xEF\xBB\xBF; Alcal\xC3\xA1\n" + Glass + "\n" + Repair + Tail},
 		{"UTF-8 without byte-order mark", "; Alcal\xC3\xA1\n" + Glass + "\n", "; Alcal\xC3\xA1\n" + Glass + "\n" + Repair},
 		{"UTF-16 with CRLF", ToUtf16(Replace(Accent + Glass + "\n" + Tail, "\n", "\r\n")), ToUtf16(Replace(Accent + Glass + "\n" + Repair + Tail, "\n", "\r\n"))},
 		{"no profile line", Head + Tail, Head + Tail},
-		{"other prefixes are no profile lines", "-Profiles=(A)\n.Profiles=(B)\nProfiles=(C)\n +Profiles=(D)\n;+Profiles=(E)\n+Profile=(F)\n", "-Profiles=(A)\n.Profiles=(B)\nProfiles=(C)\n +Profiles=(D)\n;+Profiles=(E)\n+Profile=(F)\n"},
 		{"no profile line and no last line end", "[A]\r\nB=1", "[A]\r\nB=1"},
 		{"an empty file", "", ""},
 	};
@@ -62,14 +57,6 @@ TEST_F(CollisionRepair, InsertsBothLinesBehindTheLastProfileLineAndNothingElse)
 		SCOPED_TRACE(Case.Behaviour);
 		EXPECT_EQ(RepairFile(Case.Before), Case.After);
 	}
-}
-
-TEST_F(CollisionRepair, InsertsTheLinesAgainWhenCalledAgain)
-{
-	StartEditor();
-	RepairFile(Glass + "\n[Other]\n");
-	UVelmorantEditorUtilitiesLibrary::AddUnitVolumeCollisionProfile();
-	EXPECT_EQ(ReadProjectFile(CollisionIni::File), Glass + "\n" + Profile + "\n" + Profile + "\n" + Channel + "\n" + Channel + "\n[Other]\n");
 }
 
 TEST_F(CollisionRepair, DoesNotAskTheConfigCache)

@@ -6,30 +6,31 @@
 
 /**
  * The duplicate check of the unit volumes as it is told in words: every volume is compared with those after it that nobody has
- * claimed. What the panel must find, in time that grows with the square of the number of volumes.
+ * claimed. What must be found, in time that grows with the square of the number of volumes.
  */
 class FPairwiseClashes
 {
 public:
-	/** Adds to what earlier checks found. */
-	void Check(const TArray<AUnitVolumeActor*>& Volumes)
+	using FIdentifiers = TArray<const FUnitVolumeUniqueIdentifier*>;
+
+	explicit FPairwiseClashes(const FIdentifiers& Volumes)
 	{
-		TArray<AUnitVolumeActor*> Open = Volumes;
-		for (AUnitVolumeActor* Volume : Volumes)
+		FIdentifiers Open = Volumes;
+		for (const FUnitVolumeUniqueIdentifier* Volume : Volumes)
 		{
-			if (!Volume->UniqueIdentifier.HasValidKeycode())
+			if (!Volume->HasValidKeycode())
 			{
 				continue;
 			}
 			for (int32 Index = 0; Index < Open.Num();)
 			{
-				AUnitVolumeActor* Other = Open[Index];
+				const FUnitVolumeUniqueIdentifier* Other = Open[Index];
 				if (Other == Volume || !Clash(*Other, *Volume))
 				{
 					++Index;
 					continue;
 				}
-				TArray<AUnitVolumeActor*>& Group = Groups.FindOrAdd(FName(Volume->UniqueIdentifier.Keycode));
+				FIdentifiers& Group = Groups.FindOrAdd(FName(Volume->Keycode));
 				Group.AddUnique(Volume);
 				Group.AddUnique(Other);
 				Open.Remove(Other);
@@ -38,13 +39,13 @@ public:
 		}
 	}
 
-	const TMap<FName, TArray<AUnitVolumeActor*>>& GetGroups() const { return Groups; }
+	const TMap<FName, FIdentifiers>& GetGroups() const { return Groups; }
 
 private:
-	static bool Clash(const AUnitVolumeActor& Left, const AUnitVolumeActor& Right)
+	static bool Clash(const FUnitVolumeUniqueIdentifier& Left, const FUnitVolumeUniqueIdentifier& Right)
 	{
-		return Left.UniqueIdentifier.UnitID == Right.UniqueIdentifier.UnitID && Left.UniqueIdentifier.Keycode.Equals(Right.UniqueIdentifier.Keycode, ESearchCase::IgnoreCase);
+		return Left.UnitID == Right.UnitID && Left.Keycode.Equals(Right.Keycode, ESearchCase::IgnoreCase);
 	}
 
-	TMap<FName, TArray<AUnitVolumeActor*>> Groups;
+	TMap<FName, FIdentifiers> Groups;
 };

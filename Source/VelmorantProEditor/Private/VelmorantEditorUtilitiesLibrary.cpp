@@ -2,9 +2,14 @@
 
 #include "VelmorantEditorUtilitiesLibrary.h"
 
+#include "Collision/UnitVolumeCollision.h"
+#include "Configurators/ConfiguratorDataAssets.h"
+#include "Configurators/LevelVariantActor.h"
+#include "Configurators/LevelVariantGeneration.h"
+#include "EditorServices/VelmorantNotifications.h"
 #include "HAL/PlatformApplicationMisc.h"
 #include "Interfaces/IPluginManager.h"
-#include "EditorServices/VelmorantNotifications.h"
+#include "UnitVolumes/UnitAssignment.h"
 
 #define LOCTEXT_NAMESPACE "FVelmorantProEditor"
 
@@ -35,12 +40,19 @@ namespace VelmorantEditorUtilities
 	}
 }
 
+void UVelmorantEditorUtilitiesLibrary::CheckForUnitVolumeCollisionProfile()
+{
+	UnitVolumeCollision::Check();
+}
+
+void UVelmorantEditorUtilitiesLibrary::AddUnitVolumeCollisionProfile()
+{
+	UnitVolumeCollision::AddLines();
+}
+
 void UVelmorantEditorUtilitiesLibrary::NotifyPopup(const FString& Title, const FString& SubText, SNotificationItem::ECompletionState State, float Duration)
 {
-	FNotificationInfo Info(FText::AsCultureInvariant(Title));
-	Info.SubText = FText::AsCultureInvariant(SubText);
-	Info.ExpireDuration = Duration;
-	VelmorantNotifications::Show(Info, State);
+	VelmorantNotifications::Popup(Title, SubText, State, Duration);
 }
 
 void UVelmorantEditorUtilitiesLibrary::PushEditorNotification(const FString& Title, const FString& SubText, EEditorNotificationCompletionState State, float Duration)
@@ -72,6 +84,36 @@ void UVelmorantEditorUtilitiesLibrary::CopyVersionToClipboard(const FString& Ver
 	Info.bUseSuccessFailIcons = true;
 	Info.ExpireDuration = VelmorantEditorUtilities::VersionCopiedSeconds;
 	VelmorantNotifications::Show(Info, SNotificationItem::CS_Success);
+}
+
+void UVelmorantEditorUtilitiesLibrary::CreateConfiguratorDataAssetFromConfigurator(const FName& ConfiguratorID)
+{
+	ConfiguratorDataAssets::Create(ConfiguratorID);
+}
+
+bool UVelmorantEditorUtilitiesLibrary::UpdateConfiguratorDataAssetInfo(UVelmorantConfiguratorDataAsset* ConfiguratorData)
+{
+	return ConfiguratorDataAssets::Update(ConfiguratorData);
+}
+
+void UVelmorantEditorUtilitiesLibrary::CreateVariantSetFromConfigurator(UVelmorantConfiguratorDataAsset* ConfiguratorData)
+{
+	LevelVariantGeneration::CreateOrUpdate(ConfiguratorData);
+}
+
+bool UVelmorantEditorUtilitiesLibrary::FillOutLevelVariantWithConfigurator(UVelmorantConfiguratorDataAsset* ConfiguratorData, ULevelVariantSets* LevelVariantSets)
+{
+	return LevelVariantGeneration::FillOut(ConfiguratorData, LevelVariantSets);
+}
+
+void UVelmorantEditorUtilitiesLibrary::CreateLevelVariantActorInLevel(UVelmorantConfiguratorDataAsset* ConfiguratorData)
+{
+	LevelVariantActor::PlaceInLevel(ConfiguratorData);
+}
+
+bool UVelmorantEditorUtilitiesLibrary::AssignRandomUnitsFromDataIntoLevel()
+{
+	return UnitAssignment::AssignTargetUnits();
 }
 
 #undef LOCTEXT_NAMESPACE

@@ -2,8 +2,7 @@
 
 #include "VelmorantProEditor.h"
 
-#include "AssetAuthoring/MapLinkerAsset_TypeAction.h"
-#include "AssetAuthoring/MinimapDataAsset_TypeAction.h"
+#include "AssetAuthoring/AssetTypeActions.h"
 #include "AssetToolsModule.h"
 #include "AssetTypeCategories.h"
 #include "DetailsCustomization/UI/VelmorantColorCustomization.h"
@@ -14,12 +13,12 @@
 #include "IPlacementModeModule.h"
 #include "ISettingsModule.h"
 #include "Modules/ModuleManager.h"
+#include "PlaceActors/VelmorantPlaceableItems.h"
 #include "PropertyEditorModule.h"
-#include "ToolMenus.h"
 #include "Toolbar/VelmorantMenu.h"
+#include "ToolMenus.h"
 #include "VelmorantEditorStyle.h"
 #include "VelmorantEditorUtilitiesLibrary.h"
-#include "PlaceActors/VelmorantPlaceableItems.h"
 #include "VelmorantProEdCommands.h"
 
 #define LOCTEXT_NAMESPACE "FVelmorantProEditor"

@@ -2,18 +2,23 @@
 // compiler: TheHandlerOfADynamicDelegateMustBeAUFunction
 // Copyright Velmorant. All Rights Reserved.
 
-#include "Components/CheckBox.h"
 #include "CoreMinimal.h"
+#include "UObject/Object.h"
+#include "UObject/ScriptMacros.h"
 
-class UFinishPanel : public UCheckBox
+DECLARE_DYNAMIC_MULTICAST_DELEGATE_OneParam(FOnFinishPicked, bool, bPicked);
+
+class UFinishPanel : public UObject
 {
 public:
 	static constexpr const char* ReflectedFunctionNames[] = {"ReceivedOther", nullptr};
 
 	void Bind()
 	{
-		OnCheckStateChanged.AddUniqueDynamic(this, &UFinishPanel::ReceivedCheck);
+		OnPicked.AddUniqueDynamic(this, &UFinishPanel::ReceivedPick);
 	}
 
-	void ReceivedCheck(bool) {}
+	FOnFinishPicked OnPicked;
+
+	void ReceivedPick(bool) {}
 };

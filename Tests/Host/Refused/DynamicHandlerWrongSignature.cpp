@@ -1,19 +1,24 @@
 // refused: a dynamic handler whose parameters differ from the delegate's
-// compiler: no matching function for call to 'FOnCheckBoxComponentStateChanged::__Internal_AddUniqueDynamic(
+// compiler: no matching function for call to 'FOnFinishPicked::__Internal_AddUniqueDynamic(
 // Copyright Velmorant. All Rights Reserved.
 
-#include "Components/CheckBox.h"
 #include "CoreMinimal.h"
+#include "UObject/Object.h"
+#include "UObject/ScriptMacros.h"
 
-class UFinishPanel : public UCheckBox
+DECLARE_DYNAMIC_MULTICAST_DELEGATE_OneParam(FOnFinishPicked, bool, bPicked);
+
+class UFinishPanel : public UObject
 {
 public:
-	static constexpr const char* ReflectedFunctionNames[] = {"ReceivedCheck", nullptr};
+	static constexpr const char* ReflectedFunctionNames[] = {"ReceivedPick", nullptr};
 
 	void Bind()
 	{
-		OnCheckStateChanged.AddUniqueDynamic(this, &UFinishPanel::ReceivedCheck);
+		OnPicked.AddUniqueDynamic(this, &UFinishPanel::ReceivedPick);
 	}
 
-	void ReceivedCheck(const bool&) {}
+	FOnFinishPicked OnPicked;
+
+	void ReceivedPick(const bool&) {}
 };

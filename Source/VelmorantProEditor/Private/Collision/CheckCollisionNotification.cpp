@@ -2,11 +2,11 @@
 
 #include "Collision/CheckCollisionNotification.h"
 
+#include "EditorServices/VelmorantNotifications.h"
 #include "Styling/ISlateStyle.h"
 #include "UnrealEdMisc.h"
 #include "VelmorantEditorStyle.h"
 #include "VelmorantEditorUtilitiesLibrary.h"
-#include "EditorServices/VelmorantNotifications.h"
 #include "Widgets/Notifications/SNotificationList.h"
 
 #define LOCTEXT_NAMESPACE "FVelmorantProEditor"

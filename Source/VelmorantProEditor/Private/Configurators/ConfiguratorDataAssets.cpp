@@ -1,29 +1,31 @@
 // Copyright Velmorant. All Rights Reserved.
 
-#include "VelmorantEditorUtilitiesLibrary.h"
+#include "Configurators/ConfiguratorDataAssets.h"
 
-#include "AssetAuthoring/ConfiguratorDataAssetFactory.h"
+#include "AssetAuthoring/AssetFactories.h"
 #include "AssetRegistry/AssetData.h"
+#include "Configurators/LevelVariantGeneration.h"
+#include "Configurators/VelmorantAssetQueries.h"
 #include "ConfiguratorWrapper.h"
+#include "EditorServices/VelmorantChange.h"
+#include "EditorServices/VelmorantNotifications.h"
 #include "IAssetTools.h"
 #include "LevelVariantSets.h"
 #include "ProjectWrapper.h"
 #include "ScopedTransaction.h"
+#include "ServiceData/VelmorantSelectedProject.h"
 #include "UObject/Package.h"
-#include "Configurators/VelmorantAssetQueries.h"
-#include "EditorServices/VelmorantChange.h"
 #include "VelmorantConfiguratorDataAsset.h"
 #include "VelmorantDeveloperUser.h"
 #include "VelmorantProEditor.h"
 #include "VelmorantProjectRequestManager.h"
 #include "VelmorantSDKEngineSubsystem.h"
-#include "ServiceData/VelmorantSelectedProject.h"
 
 #include <cwctype>
 
 #define LOCTEXT_NAMESPACE "FVelmorantProEditor"
 
-namespace VelmorantConfiguratorAssets
+namespace ConfiguratorDataAssets
 {
 	const TCHAR* const ContentFolder = TEXT("/Game/Velmorant/Configurator");
 	const float OutcomeSeconds = 7.0f;
@@ -45,7 +47,7 @@ namespace VelmorantConfiguratorAssets
 	void ReportLookUpFailure(const FString& Message)
 	{
 		UE_LOG(LogVelmorantProEditor, Warning, TEXT("UVelmorantEditorUtilitiesLibrary::CreateConfiguratorDataAssetFromConfigurator :: Failed \n %s"), *Message);
-		UVelmorantEditorUtilitiesLibrary::NotifyPopup(TEXT("Failed Configuration Creation"), Message, SNotificationItem::CS_Fail, LookUpFailureSeconds);
+		VelmorantNotifications::Popup(TEXT("Failed Configuration Creation"), Message, SNotificationItem::CS_Fail, LookUpFailureSeconds);
 	}
 
 	/** ':' becomes '_'; of the rest only letters, digits and '_' are kept. Letters are those of the C library's locale. */
@@ -100,17 +102,17 @@ namespace VelmorantConfiguratorAssets
 		{
 			if (ULevelVariantSets* LevelVariantSets = Cast<ULevelVariantSets>(DataAsset->LevelVariantSets.ResolveObject()))
 			{
-				UVelmorantEditorUtilitiesLibrary::FillOutLevelVariantWithConfigurator(DataAsset, LevelVariantSets);
+				LevelVariantGeneration::FillOut(DataAsset, LevelVariantSets);
 			}
 		}
 	}
 }
 
-void UVelmorantEditorUtilitiesLibrary::CreateConfiguratorDataAssetFromConfigurator(const FName& ConfiguratorID)
+void ConfiguratorDataAssets::Create(const FName& ConfiguratorID)
 {
-	if (VelmorantConfiguratorAssets::IsAlreadyCreated(ConfiguratorID))
+	if (IsAlreadyCreated(ConfiguratorID))
 	{
-		NotifyPopup(TEXT("Failed Configuration Creation"), TEXT("Configurator is already created"), SNotificationItem::CS_Fail, VelmorantConfiguratorAssets::OutcomeSeconds);
+		VelmorantNotifications::Popup(TEXT("Failed Configuration Creation"), TEXT("Configurator is already created"), SNotificationItem::CS_Fail, OutcomeSeconds);
 		return;
 	}
 
@@ -118,29 +120,29 @@ void UVelmorantEditorUtilitiesLibrary::CreateConfiguratorDataAssetFromConfigurat
 	const UProjectWrapper* Project = VelmorantSelectedProject::Find();
 	if (!Project)
 	{
-		VelmorantConfiguratorAssets::ReportLookUpFailure(TEXT("Selected Project Wrapper is null. Please select a project first."));
+		ReportLookUpFailure(TEXT("Selected Project Wrapper is null. Please select a project first."));
 	}
 
 	const UConfiguratorWrapper* Configurator = Project ? Project->GetConfiguratorByName(ConfiguratorID) : nullptr;
 	if (!Configurator)
 	{
-		VelmorantConfiguratorAssets::ReportLookUpFailure(TEXT("Configurator ID doesn't match"));
+		ReportLookUpFailure(TEXT("Configurator ID doesn't match"));
 		return;
 	}
 
-	UVelmorantConfiguratorDataAsset* DataAsset = VelmorantConfiguratorAssets::CreateWithDialog(ConfiguratorID);
+	UVelmorantConfiguratorDataAsset* DataAsset = CreateWithDialog(ConfiguratorID);
 	if (!DataAsset)
 	{
-		NotifyPopup(TEXT("Cancelled Configuration Creation"), TEXT(""), SNotificationItem::CS_Fail, VelmorantConfiguratorAssets::OutcomeSeconds);
+		VelmorantNotifications::Popup(TEXT("Cancelled Configuration Creation"), TEXT(""), SNotificationItem::CS_Fail, OutcomeSeconds);
 		return;
 	}
 
 	DataAsset->ConfiguratorName = ConfiguratorID;
-	VelmorantConfiguratorAssets::CopyUnitRecord(*Configurator, ConfiguratorID, *DataAsset); // no record under that name leaves the default; not reported
-	NotifyPopup(TEXT("Success Configuration Creation"), TEXT(""), SNotificationItem::CS_Success, VelmorantConfiguratorAssets::OutcomeSeconds);
+	CopyUnitRecord(*Configurator, ConfiguratorID, *DataAsset); // no record under that name leaves the default; not reported
+	VelmorantNotifications::Popup(TEXT("Success Configuration Creation"), TEXT(""), SNotificationItem::CS_Success, OutcomeSeconds);
 }
 
-bool UVelmorantEditorUtilitiesLibrary::UpdateConfiguratorDataAssetInfo(UVelmorantConfiguratorDataAsset* ConfiguratorData)
+bool ConfiguratorDataAssets::Update(UVelmorantConfiguratorDataAsset* ConfiguratorData)
 {
 	if (!ConfiguratorData)
 	{
@@ -150,7 +152,7 @@ bool UVelmorantEditorUtilitiesLibrary::UpdateConfiguratorDataAssetInfo(UVelmoran
 	const UVelmorantDeveloperUser* EditorUser = UVelmorantSDKEngineSubsystem::GetVelmorantEditorUser(false);
 	if (!EditorUser || !EditorUser->HasValidToken())
 	{
-		NotifyPopup(TEXT("VelmorantDeveloperUser isn't valid"), TEXT("User isn't login or hasn't a valid token. Check login process"), SNotificationItem::CS_Fail, VelmorantConfiguratorAssets::OutcomeSeconds);
+		VelmorantNotifications::Popup(TEXT("VelmorantDeveloperUser isn't valid"), TEXT("User isn't login or hasn't a valid token. Check login process"), SNotificationItem::CS_Fail, OutcomeSeconds);
 		return false;
 	}
 
@@ -160,7 +162,7 @@ bool UVelmorantEditorUtilitiesLibrary::UpdateConfiguratorDataAssetInfo(UVelmoran
 	if (!Configurator || !Configurator->GetConfigtorUnitCollection().Contains(ConfiguratorName))
 	{
 		// The blank at the title's end is intended.
-		NotifyPopup(TEXT("Fail Configuration Updated "), TEXT("Configurator name doesn't match with current data"), SNotificationItem::CS_Fail, VelmorantConfiguratorAssets::OutcomeSeconds);
+		VelmorantNotifications::Popup(TEXT("Fail Configuration Updated "), TEXT("Configurator name doesn't match with current data"), SNotificationItem::CS_Fail, OutcomeSeconds);
 		return false;
 	}
 
@@ -170,11 +172,11 @@ bool UVelmorantEditorUtilitiesLibrary::UpdateConfiguratorDataAssetInfo(UVelmoran
 	// Weak: asset and wrapper may be gone by then.
 	EditorUser->GetProjectRequestManager()->GetOnUpdateRequest().AddLambda(
 		[WeakDataAsset = TWeakObjectPtr<UVelmorantConfiguratorDataAsset>(ConfiguratorData), WeakConfigurator = TWeakObjectPtr<UConfiguratorWrapper>(Configurator), ConfiguratorName](EUpdateRequestDataType DataType, EUpdateRequestType) {
-			VelmorantConfiguratorAssets::ReceiveUpdateRequest(DataType, WeakDataAsset.Get(), WeakConfigurator.Get(), ConfiguratorName);
+			ReceiveUpdateRequest(DataType, WeakDataAsset.Get(), WeakConfigurator.Get(), ConfiguratorName);
 		});
 
 	// Tells that the refresh was requested, not that data has arrived.
-	NotifyPopup(TEXT("Success Configuration Updated"), TEXT(""), SNotificationItem::CS_Success, VelmorantConfiguratorAssets::OutcomeSeconds);
+	VelmorantNotifications::Popup(TEXT("Success Configuration Updated"), TEXT(""), SNotificationItem::CS_Success, OutcomeSeconds);
 	return true;
 }
 

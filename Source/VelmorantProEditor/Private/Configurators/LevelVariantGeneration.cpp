@@ -1,32 +1,27 @@
 // Copyright Velmorant. All Rights Reserved.
 
-#include "VelmorantEditorUtilitiesLibrary.h"
+#include "Configurators/LevelVariantGeneration.h"
 
 #include "AssetRegistry/AssetData.h"
-#include "Editor.h"
-#include "Engine/World.h"
-#include "EngineUtils.h"
+#include "Configurators/VelmorantAssetQueries.h"
+#include "EditorServices/VelmorantChange.h"
+#include "EditorServices/VelmorantNotifications.h"
 #include "IAssetTools.h"
 #include "LevelVariantSets.h"
 #include "Misc/Paths.h"
 #include "ScopedTransaction.h"
-#include "Selection.h"
 #include "UObject/Package.h"
 #include "Variant.h"
 #include "VariantSet.h"
-#include "Configurators/VelmorantAssetQueries.h"
-#include "EditorServices/VelmorantChange.h"
 #include "VelmorantConfiguratorDataAsset.h"
-#include "VelmorantLevelVariantSetsActor.h"
 #include "VelmorantProEditor.h"
 #include "VelmorantVariantHandler.h"
 
 #define LOCTEXT_NAMESPACE "FVelmorantProEditor"
 
-namespace VelmorantLevelVariants
+namespace LevelVariantGeneration
 {
 	const float OutcomeSeconds = 7.0f;
-	const FVector SpawnLocation(0.0, 0.0, 500.0); // whatever the level holds
 	const TCHAR* const NameSeparator = TEXT("_");
 
 	void Assign(const ULevelVariantSets& LevelVariantSets, UVelmorantConfiguratorDataAsset& DataAsset)
@@ -51,7 +46,7 @@ namespace VelmorantLevelVariants
 			if (LevelVariantSets)
 			{
 				Assign(*LevelVariantSets, DataAsset);
-				UVelmorantEditorUtilitiesLibrary::NotifyPopup(TEXT("Success Configuration Assigned Existing Asset"), TEXT("It exits an LevelVariantSets with the suffix and had been assigned to configurator"), SNotificationItem::CS_Success, OutcomeSeconds);
+				VelmorantNotifications::Popup(TEXT("Success Configuration Assigned Existing Asset"), TEXT("It exits an LevelVariantSets with the suffix and had been assigned to configurator"), SNotificationItem::CS_Success, OutcomeSeconds);
 			}
 			return LevelVariantSets;
 		}
@@ -62,7 +57,7 @@ namespace VelmorantLevelVariants
 	ULevelVariantSets* ResolveAssigned(const UVelmorantConfiguratorDataAsset& DataAsset)
 	{
 		ULevelVariantSets* LevelVariantSets = Cast<ULevelVariantSets>(DataAsset.LevelVariantSets.ResolveObject());
-		UVelmorantEditorUtilitiesLibrary::NotifyPopup(TEXT("Success Configuration LevelVariantSets Updated"), TEXT("Configurator already has a LevelVariantSet. It had been updated"), SNotificationItem::CS_Success, OutcomeSeconds);
+		VelmorantNotifications::Popup(TEXT("Success Configuration LevelVariantSets Updated"), TEXT("Configurator already has a LevelVariantSet. It had been updated"), SNotificationItem::CS_Success, OutcomeSeconds);
 		return LevelVariantSets;
 	}
 
@@ -77,7 +72,7 @@ namespace VelmorantLevelVariants
 		if (LevelVariantSets)
 		{
 			Assign(*LevelVariantSets, DataAsset);
-			UVelmorantEditorUtilitiesLibrary::NotifyPopup(TEXT("Success Configuration Create LevelVariantSet"), TEXT(""), SNotificationItem::CS_Success, OutcomeSeconds);
+			VelmorantNotifications::Popup(TEXT("Success Configuration Create LevelVariantSet"), TEXT(""), SNotificationItem::CS_Success, OutcomeSeconds);
 		}
 		return LevelVariantSets;
 	}
@@ -134,58 +129,9 @@ namespace VelmorantLevelVariants
 			LevelVariantSets.AddVariantSets({VariantSet});
 		}
 	}
-
-	AVelmorantLevelVariantSetsActor* FindActor(UWorld* World)
-	{
-		TActorIterator<AVelmorantLevelVariantSetsActor> Actor(World);
-		return Actor ? *Actor : nullptr; // further ones are ignored
-	}
-
-	AVelmorantLevelVariantSetsActor* SpawnActor(UWorld* World)
-	{
-		return Cast<AVelmorantLevelVariantSetsActor>(World->SpawnActor(AVelmorantLevelVariantSetsActor::StaticClass(), &SpawnLocation, &FRotator::ZeroRotator, FActorSpawnParameters()));
-	}
-
-	AVelmorantLevelVariantSetsActor* FindOrSpawnActor()
-	{
-		UWorld* World = GEditor->GetEditorWorldContext(false).World();
-		AVelmorantLevelVariantSetsActor* Actor = World ? FindActor(World) : nullptr;
-		if (Actor)
-		{
-			UVelmorantEditorUtilitiesLibrary::NotifyPopup(TEXT("Found LevelVariant at Current Level"), TEXT("Updated current Actor with Configurator Data"), SNotificationItem::CS_Success, OutcomeSeconds);
-			return Actor;
-		}
-
-		Actor = World ? SpawnActor(World) : nullptr;
-		if (!Actor)
-		{
-			UVelmorantEditorUtilitiesLibrary::NotifyPopup(TEXT("Failed Configuration Create LevelVariantActor"), TEXT("Couldn't create a LevelVariantActor in current level"), SNotificationItem::CS_Fail, OutcomeSeconds);
-		}
-		return Actor;
-	}
-
-	void Assign(UVelmorantConfiguratorDataAsset& DataAsset, AVelmorantLevelVariantSetsActor& Actor)
-	{
-		if (Actor.LevelVariantSets != DataAsset.LevelVariantSets || Actor.ConfiguratorData != &DataAsset)
-		{
-			VelmorantChange::Begin(Actor);
-			Actor.LevelVariantSets = DataAsset.LevelVariantSets;
-			Actor.ConfiguratorData = &DataAsset;
-		}
-	}
-
-	void ShowToDesigner(AActor& Actor)
-	{
-		const bool bSelectEvenIfHidden = true;
-		GEditor->GetSelectedActors()->Modify(); // undo brings the old selection back
-		GEditor->SelectNone(false, true);
-		GEditor->SelectActor(&Actor, true, false, bSelectEvenIfHidden);
-		GEditor->NoteSelectionChange(); // once, for both
-		GEditor->MoveViewportCamerasToActor(Actor, true);
-	}
 }
 
-void UVelmorantEditorUtilitiesLibrary::CreateVariantSetFromConfigurator(UVelmorantConfiguratorDataAsset* ConfiguratorData)
+void LevelVariantGeneration::CreateOrUpdate(UVelmorantConfiguratorDataAsset* ConfiguratorData)
 {
 	if (!ConfiguratorData)
 	{
@@ -196,34 +142,34 @@ void UVelmorantEditorUtilitiesLibrary::CreateVariantSetFromConfigurator(UVelmora
 	if (!ConfiguratorData->ConfiguratorName.IsValid() && ConfiguratorData->ConfiguratorUnit.Rooms.IsEmpty())
 	{
 		// The blank at the title's end is intended.
-		NotifyPopup(TEXT("Failed Configuration LevelVariantSet Creation "), TEXT("Configurator data not valid to create LevelVariantSet"), SNotificationItem::CS_Fail, VelmorantLevelVariants::OutcomeSeconds);
+		VelmorantNotifications::Popup(TEXT("Failed Configuration LevelVariantSet Creation "), TEXT("Configurator data not valid to create LevelVariantSet"), SNotificationItem::CS_Fail, OutcomeSeconds);
 		return;
 	}
 
 	const FScopedTransaction Transaction(LOCTEXT("CreateLevelVariantSetTransaction", "Create LevelVariantSet"));
 	ULevelVariantSets* LevelVariantSets = ConfiguratorData->LevelVariantSets.IsNull()
-		? VelmorantLevelVariants::AdoptExisting(*ConfiguratorData)
-		: VelmorantLevelVariants::ResolveAssigned(*ConfiguratorData);
+		? AdoptExisting(*ConfiguratorData)
+		: ResolveAssigned(*ConfiguratorData);
 	if (!LevelVariantSets)
 	{
 		const FString CleanName = ConfiguratorData->ConfiguratorName.ToString().Replace(TEXT(" "), TEXT("_"));
-		LevelVariantSets = VelmorantLevelVariants::CreateBeside(*ConfiguratorData, CleanName);
+		LevelVariantSets = CreateBeside(*ConfiguratorData, CleanName);
 	}
 
-	if (!FillOutLevelVariantWithConfigurator(ConfiguratorData, LevelVariantSets))
+	if (!FillOut(ConfiguratorData, LevelVariantSets))
 	{
 		// The format names the other operation on purpose: both failures are found by the same search in the log.
 		const FString Message = TEXT("Configurator ID doesn't match");
 		UE_LOG(LogVelmorantProEditor, Warning, TEXT("UVelmorantEditorUtilitiesLibrary::CreateConfiguratorDataAssetFromConfigurator :: Failed \n %s"), *Message);
-		NotifyPopup(TEXT("Failed Configuration LevelVariantSet Creation"), Message, SNotificationItem::CS_Fail, VelmorantLevelVariants::OutcomeSeconds);
+		VelmorantNotifications::Popup(TEXT("Failed Configuration LevelVariantSet Creation"), Message, SNotificationItem::CS_Fail, OutcomeSeconds);
 	}
 }
 
-bool UVelmorantEditorUtilitiesLibrary::FillOutLevelVariantWithConfigurator(UVelmorantConfiguratorDataAsset* ConfiguratorData, ULevelVariantSets* LevelVariantSets)
+bool LevelVariantGeneration::FillOut(UVelmorantConfiguratorDataAsset* ConfiguratorData, ULevelVariantSets* LevelVariantSets)
 {
 	if (!LevelVariantSets)
 	{
-		NotifyPopup(TEXT("Fail to Fill Out Level Variant"), TEXT("Level variant is null"), SNotificationItem::CS_Fail, VelmorantLevelVariants::OutcomeSeconds);
+		VelmorantNotifications::Popup(TEXT("Fail to Fill Out Level Variant"), TEXT("Level variant is null"), SNotificationItem::CS_Fail, OutcomeSeconds);
 		return false;
 	}
 
@@ -238,31 +184,10 @@ bool UVelmorantEditorUtilitiesLibrary::FillOutLevelVariantWithConfigurator(UVelm
 	{
 		for (const FVelmorantConfigGroup& Group : Room.Groups)
 		{
-			VelmorantLevelVariants::AddMissingGroup(*LevelVariantSets, Room, Group);
+			AddMissingGroup(*LevelVariantSets, Room, Group);
 		}
 	}
 	return true;
-}
-
-void UVelmorantEditorUtilitiesLibrary::CreateLevelVariantActorInLevel(UVelmorantConfiguratorDataAsset* ConfiguratorData)
-{
-	if (!ConfiguratorData)
-	{
-		return;
-	}
-
-	const FScopedTransaction Transaction(LOCTEXT("PlaceLevelVariantActorTransaction", "Place LevelVariantActor into Level"));
-	if (ConfiguratorData->LevelVariantSets.IsNull())
-	{
-		CreateVariantSetFromConfigurator(ConfiguratorData);
-	}
-
-	AVelmorantLevelVariantSetsActor* Actor = VelmorantLevelVariants::FindOrSpawnActor();
-	if (Actor)
-	{
-		VelmorantLevelVariants::Assign(*ConfiguratorData, *Actor);
-		VelmorantLevelVariants::ShowToDesigner(*Actor);
-	}
 }
 
 #undef LOCTEXT_NAMESPACE

@@ -19,3 +19,11 @@ TSharedPtr<SNotificationItem> VelmorantNotifications::Show(const FNotificationIn
 	}
 	return Item;
 }
+
+void VelmorantNotifications::Popup(const FString& Title, const FString& SubText, SNotificationItem::ECompletionState State, float Duration)
+{
+	FNotificationInfo Info(FText::AsCultureInvariant(Title));
+	Info.SubText = FText::AsCultureInvariant(SubText);
+	Info.ExpireDuration = Duration;
+	Show(Info, State);
+}

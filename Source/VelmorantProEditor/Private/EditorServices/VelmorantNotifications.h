@@ -14,4 +14,7 @@ namespace VelmorantNotifications
 	 * would have said is logged as a warning then, so that a build's log has it.
 	 */
 	TSharedPtr<SNotificationItem> Show(const FNotificationInfo& Info, SNotificationItem::ECompletionState State);
+
+	/** Shows title and sub-text, which are not translated, for Duration seconds. */
+	void Popup(const FString& Title, const FString& SubText, SNotificationItem::ECompletionState State, float Duration);
 }

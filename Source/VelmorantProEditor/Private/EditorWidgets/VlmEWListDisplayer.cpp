@@ -5,19 +5,16 @@
 #include "Components/ComboBoxString.h"
 #include "Components/EditableText.h"
 #include "Components/ListView.h"
-#include "ConfiguratorWrapper.h"
 #include "ProjectWrapper.h"
+#include "Search/VelmorantTextSearch.h"
+#include "ServiceData/ProjectRows.h"
+#include "ServiceData/VelmorantSelectedProject.h"
+#include "ServiceData/VelmorantServiceNames.h"
 #include "UnitGroupWrapper.h"
 #include "VelmorantDeveloperUser.h"
 #include "VelmorantProjectRequestManager.h"
 #include "VelmorantSDKEngineSubsystem.h"
-#include "ServiceData/VelmorantServiceNames.h"
 #include "VlmButton.h"
-
-namespace VlmEWListDisplayer
-{
-	const int32 NoUnit = -1;
-}
 
 void UVlmEWListDisplayer::NativeConstruct()
 {
@@ -181,7 +178,7 @@ void UVlmEWListDisplayer::ReceivedSearchTextChange(const FText& Text)
 	else
 	{
 		TArray<UListDisplayerItemBase*> Matches;
-		for (const int32 Row : Search.Find(Text.ToString()))
+		for (const int32 Row : Search.IsValid() ? Search->Find(Text.ToString()) : TArray<int32>())
 		{
 			Matches.Add(CurrentElemetsList[Row]);
 		}
@@ -201,57 +198,31 @@ void UVlmEWListDisplayer::ClearSearchText()
 
 void UVlmEWListDisplayer::SetUnitGroupList()
 {
-	TArray<TObjectPtr<UListDisplayerItemBase>> Rows;
-	if (const UProjectWrapper* Project = GetProject())
-	{
-		for (const FUnitGroupData& UnitGroup : Project->GetUnitGroupListData())
-		{
-			Rows.Add(UListDisplayerItemBase::CreateListDisplayerItemBase(VlmEWListDisplayer::NoUnit, UnitGroup.KeyCode, UnitGroup.Name, ELDIT_UnitGroup));
-		}
-	}
-	SetRows(Rows, ELDIT_UnitGroup);
+	ShowRows(ELDIT_UnitGroup);
 }
 
 void UVlmEWListDisplayer::SetUnitList()
 {
-	TArray<TObjectPtr<UListDisplayerItemBase>> Rows;
-	const UProjectWrapper* Project = GetProject();
-	if (const UUnitGroupWrapper* Target = Project ? Project->GetUnitGroupTarget() : nullptr)
-	{
-		TArray<FUnitData> Units = Target->GetUnitListData();
-		Units.Sort([](const FUnitData& Left, const FUnitData& Right) { return Left.UnitID < Right.UnitID; });
-		for (const FUnitData& Unit : Units)
-		{
-			Rows.Add(UListDisplayerItemBase::CreateListDisplayerItemBase(Unit.UnitID, Unit.KeyCode, Unit.Name, ELDIT_Unit));
-		}
-	}
-	SetRows(Rows, ELDIT_Unit);
+	ShowRows(ELDIT_Unit);
 }
 
 void UVlmEWListDisplayer::SetConfiguratorList()
 {
-	TArray<TObjectPtr<UListDisplayerItemBase>> Rows;
-	if (const UProjectWrapper* Project = GetProject())
-	{
-		for (const UConfiguratorWrapper* Configurator : Project->GetConfigurators())
-		{
-			for (const FVelmorantConfiguratorUnitGroup& Entry : Configurator->GetConfigtorUnitGroupCollection())
-			{
-				Rows.Add(UListDisplayerItemBase::CreateListDisplayerItemBase(VlmEWListDisplayer::NoUnit, Entry.Key, Entry.Name, ELDIT_Configurator));
-			}
-		}
-	}
-	SetRows(Rows, ELDIT_Configurator);
+	ShowRows(ELDIT_Configurator);
 }
 
-void UVlmEWListDisplayer::SetRows(const TArray<TObjectPtr<UListDisplayerItemBase>>& Rows, EListDisplayItemType Type)
+void UVlmEWListDisplayer::ShowRows(EListDisplayItemType Type)
 {
 	// The search text is not applied again on purpose: a rebuilt list shows all its rows.
-	CurrentElemetsList = Rows;
-	Search.SetRows(Rows.Num(), [&Rows](int32 Row, FString& InOutText) {
-		InOutText += Rows[Row]->Keycode;
-		InOutText += Rows[Row]->DisplayName;
-	});
+	const TArray<ProjectRows::FRow> Rows = ProjectRows::OfProject(VelmorantSelectedProject::Find(), Type);
+	TArray<TObjectPtr<UListDisplayerItemBase>> Items;
+	Items.Reserve(Rows.Num());
+	for (const ProjectRows::FRow& Row : Rows)
+	{
+		Items.Add(UListDisplayerItemBase::CreateListDisplayerItemBase(Row.UnitID, Row.Keycode, Row.DisplayName, Type));
+	}
+	CurrentElemetsList = Items;
+	Search = MakeShared<FVelmorantTextSearch>(ProjectRows::MakeSearch(Rows));
 	ItemList->SetListItems(CurrentElemetsList);
 	OnSelectionTypeChange(Type);
 }
@@ -263,29 +234,23 @@ void UVlmEWListDisplayer::RaiseListCount()
 
 bool UVlmEWListDisplayer::IsProjectSelected() const
 {
-	const UProjectWrapper* Project = GetProject();
+	const UProjectWrapper* Project = VelmorantSelectedProject::Find();
 	return Project && !Project->GetProjectData().ApiKey.IsEmpty();
 }
 
 bool UVlmEWListDisplayer::IsUnitGroupTarget() const
 {
-	const UProjectWrapper* Project = GetProject();
+	const UProjectWrapper* Project = VelmorantSelectedProject::Find();
 	return Project && Project->HasUnitGroupTarget();
 }
 
 FString UVlmEWListDisplayer::GetUnitGroupTargetName() const
 {
-	return IsUnitGroupTarget() ? GetProject()->GetUnitGroupTarget()->GetUnitGroupData().Name : FString();
+	return IsUnitGroupTarget() ? VelmorantSelectedProject::Find()->GetUnitGroupTarget()->GetUnitGroupData().Name : FString();
 }
 
 UVelmorantProjectRequestManager* UVlmEWListDisplayer::GetRequestManager() const
 {
 	const UVelmorantDeveloperUser* EditorUser = UVelmorantSDKEngineSubsystem::GetVelmorantEditorUser(false);
 	return EditorUser ? EditorUser->GetProjectRequestManager() : nullptr;
-}
-
-UProjectWrapper* UVlmEWListDisplayer::GetProject() const
-{
-	const UVelmorantProjectRequestManager* RequestManager = GetRequestManager();
-	return RequestManager ? RequestManager->GetProjectWrapper() : nullptr;
 }

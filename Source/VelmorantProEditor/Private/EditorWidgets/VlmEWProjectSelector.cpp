@@ -9,11 +9,11 @@
 #include "Components/SizeBox.h"
 #include "HAL/PlatformApplicationMisc.h"
 #include "Misc/ConfigCacheIni.h"
+#include "ServiceData/VelmorantServiceNames.h"
 #include "VelmorantDeveloperUser.h"
 #include "VelmorantProEditor.h"
 #include "VelmorantSDKEngineSubsystem.h"
 #include "VelmorantSDKSettings.h"
-#include "ServiceData/VelmorantServiceNames.h"
 #include "VlmButton.h"
 #include "VlmText.h"
 

@@ -1,6 +1,6 @@
 // Copyright Velmorant. All Rights Reserved.
 
-#include "VelmorantTextSearch.h"
+#include "Search/VelmorantTextSearch.h"
 
 void FVelmorantTextSearch::SetRows(int32 NumRows, TFunctionRef<void(int32 Row, FString& InOutText)> AppendText)
 {

@@ -2,17 +2,20 @@
 
 #include "Toolbar/VelmorantMenu.h"
 
+#include "Framework/Application/SlateApplication.h"
 #include "Framework/Commands/UICommandList.h"
 #include "Framework/MultiBox/MultiBoxBuilder.h"
 #include "Framework/SlateDelegates.h"
 #include "Styling/AppStyle.h"
 #include "Textures/SlateIcon.h"
-#include "ToolMenus.h"
 #include "Toolbar/SVelmorantUserOptions.h"
 #include "Toolbar/VelmorantToolLaunchers.h"
+#include "ToolMenus.h"
 #include "VelmorantEditorStyle.h"
 #include "VelmorantEditorUtilitiesLibrary.h"
 #include "VelmorantProEdCommands.h"
+#include "VelmorantSDKEngineSubsystem.h"
+#include "VelmorantUser.h"
 
 #define LOCTEXT_NAMESPACE "FVelmorantProEditor"
 
@@ -28,10 +31,43 @@ namespace VelmorantMenu
 		return FSlateIcon(FAppStyle::GetAppStyleSetName(), Name);
 	}
 
+	/** The name they signed in with stands for the one that the service did not give. */
+	FString GetDisplayName(const UVelmorantUser& User)
+	{
+		const FLoginInfo Login = User.GetUserLoginInfo();
+		const FString FullName = (Login.FirstName + TEXT(" ") + Login.LastName).TrimStartAndEnd();
+		return FullName.IsEmpty() ? User.GetUserInfo().UserName : FullName;
+	}
+
+	/** Who is signed in at this moment. */
+	TOptional<SVelmorantUserOptions::FUser> FindUser()
+	{
+		UVelmorantSDKEngineSubsystem::EnsureUserEditorContext();
+		UVelmorantSDKEngineSubsystem* Subsystem = UVelmorantSDKEngineSubsystem::Get();
+		const UVelmorantUser* User = Subsystem ? Subsystem->GetVelmorantUser() : nullptr;
+		if (!User || !User->HasValidToken())
+		{
+			return {};
+		}
+		return SVelmorantUserOptions::FUser{GetDisplayName(*User), User->GetUserLoginInfo().Email};
+	}
+
+	FReply OpenDeveloperPanel()
+	{
+		// The menu is in the way of the tab, and what it shows of the user is about to change.
+		FSlateApplication::Get().DismissAllMenus();
+		VelmorantToolLaunchers::OpenDeveloperPanel();
+		return FReply::Handled();
+	}
+
 	void AddUserOptions(FMenuBuilder& Menu)
 	{
+		const TSharedRef<SWidget> Options = SNew(SVelmorantUserOptions)
+												.User(FindUser())
+												.OnOpenDeveloperPanel_Static(&OpenDeveloperPanel);
+
 		Menu.BeginSection("VelmorantUserOptions", LOCTEXT("VelmorantUserOptions_Label", "Velmorant User Options"));
-		Menu.AddWidget(SNew(SVelmorantUserOptions), FText::GetEmpty(), true);
+		Menu.AddWidget(Options, FText::GetEmpty(), true);
 		Menu.EndSection();
 	}
 

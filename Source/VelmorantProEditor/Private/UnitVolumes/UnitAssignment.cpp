@@ -1,20 +1,20 @@
 // Copyright Velmorant. All Rights Reserved.
 
-#include "VelmorantEditorUtilitiesLibrary.h"
+#include "UnitVolumes/UnitAssignment.h"
 
 #include "Editor.h"
+#include "EditorServices/VelmorantChange.h"
 #include "Engine/World.h"
 #include "Kismet/GameplayStatics.h"
 #include "ProjectWrapper.h"
 #include "ScopedTransaction.h"
+#include "ServiceData/VelmorantSelectedProject.h"
 #include "UnitGroupWrapper.h"
 #include "UnitVolumeActor.h"
-#include "EditorServices/VelmorantChange.h"
-#include "ServiceData/VelmorantSelectedProject.h"
 
 #define LOCTEXT_NAMESPACE "FVelmorantProEditor"
 
-bool UVelmorantEditorUtilitiesLibrary::AssignRandomUnitsFromDataIntoLevel()
+bool UnitAssignment::AssignTargetUnits()
 {
 	const UProjectWrapper* Project = VelmorantSelectedProject::Find();
 	const UUnitGroupWrapper* Target = Project ? Project->GetUnitGroupTarget() : nullptr;

@@ -7,13 +7,12 @@
 #include "EditorWidgets/VlmEWPanelData.h"
 #include "Types/SlateEnums.h"
 #include "VelmorantSDKTypes.h"
-#include "VelmorantTextSearch.h"
 #include "VlmEWListDisplayer.generated.h"
 
+class FVelmorantTextSearch;
 class UComboBoxString;
 class UEditableText;
 class UListView;
-class UProjectWrapper;
 class UVelmorantProjectRequestManager;
 class UVlmButton;
 
@@ -129,14 +128,11 @@ private:
 	void SetUnitGroupList();
 	void SetUnitList();
 	void SetConfiguratorList();
-	void SetRows(const TArray<TObjectPtr<UListDisplayerItemBase>>& Rows, EListDisplayItemType Type);
+	void ShowRows(EListDisplayItemType Type);
 	void RaiseListCount();
 
 	UVelmorantProjectRequestManager* GetRequestManager() const;
 
-	/** The selected project's wrapper, or null at any missing link of the chain. */
-	UProjectWrapper* GetProject() const;
-
 	int32 CurrentSelectionLevel = UnitGroupLevel;
-	FVelmorantTextSearch Search; // always of CurrentElemetsList
+	TSharedPtr<FVelmorantTextSearch> Search; // always of CurrentElemetsList; null until there is one
 };

@@ -51,6 +51,6 @@ private:
 	void GroupClashes(const TArray<AUnitVolumeActor*>& Volumes);
 	TArray<UVlmEWUnitVolumeDuplication_Item*> MakeItems() const;
 
-	/** By key code alone, on purpose: clashes of one key code and different integers share a group. Never emptied. */
+	/** By key code. Never emptied. */
 	TMap<FName, FGroup> Groups;
 };

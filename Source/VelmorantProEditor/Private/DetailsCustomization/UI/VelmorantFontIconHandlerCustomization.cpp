@@ -115,69 +115,21 @@ void FVelmorantFontIconHandlerCustomization::FillSource()
 			}
 		}
 	}
-	IndexSource();
-	FilteredItems = FilterListItems(FString()); // a new font starts unfiltered
-}
-
-void FVelmorantFontIconHandlerCustomization::IndexSource()
-{
-	IconNames.SetRows(SourceItems.Num(), [this](int32 Row, FString& InOutText) {
-		SourceItems[Row]->IconName.AppendString(InOutText);
+	Filter.SetIcons(SourceItems.Num(), [this](int32 Icon) {
+		const FIconItemViewEntry& Entry = *SourceItems[Icon];
+		return FFontIconFilter::FIcon{Entry.IconName, Entry.IconStyles, Entry.SearchTags};
 	});
-	IconsByTag.Empty();
-	for (int32 Index = 0; Index < SourceItems.Num(); ++Index)
-	{
-		for (const FString& Tag : SourceItems[Index]->SearchTags)
-		{
-			IconsByTag.FindOrAdd(Tag).Add(Index);
-		}
-	}
+	FilteredItems = FilterListItems(FString()); // a new font starts unfiltered
 }
 
 TArray<FVelmorantFontIconHandlerCustomization::FIconItem> FVelmorantFontIconHandlerCustomization::FilterListItems(const FString& FilterText) const
 {
-	const FName CurrentStyle = GetValue(IconStyleHandle);
-	const auto IsInStyle = [CurrentStyle](const FIconItem& Item) { return Item->IconStyles.Contains(CurrentStyle); };
-	if (FilterText.IsEmpty())
-	{
-		return SourceItems.FilterByPredicate(IsInStyle);
-	}
-
 	TArray<FIconItem> Items;
-	for (const int32 Index : FindIcons(FilterText))
+	for (const int32 Icon : Filter.Find(FilterText, GetValue(IconStyleHandle)))
 	{
-		if (IsInStyle(SourceItems[Index]))
-		{
-			Items.Add(SourceItems[Index]);
-		}
+		Items.Add(SourceItems[Icon]);
 	}
 	return Items;
-}
-
-TArray<int32> FVelmorantFontIconHandlerCustomization::FindIcons(const FString& Text) const
-{
-	const TArray<int32> Named = IconNames.Find(Text);
-	const TArray<int32>* Tagged = IconsByTag.Find(Text);
-	if (!Tagged)
-	{
-		return Named;
-	}
-
-	TArray<int32> Icons;
-	int32 NextNamed = 0;
-	for (const int32 Index : *Tagged)
-	{
-		while (NextNamed < Named.Num() && Named[NextNamed] <= Index)
-		{
-			Icons.Add(Named[NextNamed++]);
-		}
-		if (Icons.IsEmpty() || Icons.Last() != Index) // found by its name already
-		{
-			Icons.Add(Index);
-		}
-	}
-	Icons.Append(Named.GetData() + NextNamed, Named.Num() - NextNamed);
-	return Icons;
 }
 
 void FVelmorantFontIconHandlerCustomization::UpdateFilterListView()

@@ -6,9 +6,9 @@
 #include "Engine/DataTable.h"
 #include "Fonts/SlateFontInfo.h"
 #include "IPropertyTypeCustomization.h"
+#include "Search/FontIconFilter.h"
 #include "Types/SlateEnums.h"
 #include "UObject/StrongObjectPtr.h"
-#include "VelmorantTextSearch.h"
 
 class FPropertyEditorModule;
 class ITableRow;
@@ -81,14 +81,8 @@ private:
 	/** Takes the icons of the current font, unfiltered. A font without an icon table leaves the icons of the one before. */
 	void FillSource();
 
-	/** Brings the filter's tables in step with SourceItems. */
-	void IndexSource();
-
 	/** The icons that exist in the current style and match the text, in the table's order. */
 	TArray<FIconItem> FilterListItems(const FString& FilterText) const;
-
-	/** Indices of the icons whose name contains the text, or that have it for a search tag; in order. */
-	TArray<int32> FindIcons(const FString& Text) const;
 
 	/** Shows the icons that match the text of the search box. */
 	void UpdateFilterListView();
@@ -129,9 +123,7 @@ private:
 	/** Every icon of the current font. */
 	TArray<FIconItem> SourceItems;
 
-	/** Where the filter looks at every keystroke: the names of SourceItems, and which of them have a search tag. */
-	FVelmorantTextSearch IconNames;
-	TMap<FString, TArray<int32>> IconsByTag;
+	FFontIconFilter Filter; // always of SourceItems
 
 	/** Null until a font with an icon table was chosen; has a table ever after. */
 	TSharedPtr<FFontIconData> CurrentFontIconData;
