@@ -73,6 +73,6 @@ static void RegenerateUnchangedLevelVariantSets(benchmark::State& State)
 	{
 		Scene.Generate();
 	}
-	State.counters["sets"] = Scene.LevelVariantSets->GetNumVariantSets();
+	State.counters["sets"] = Scene.LevelVariantSets->GetVariantSets().Num();
 }
 BENCHMARK(RegenerateUnchangedLevelVariantSets)->Arg(1000)->Arg(2000)->Unit(benchmark::kMillisecond)->Repetitions(3);

@@ -143,7 +143,6 @@ TEST_F(ModuleStartup, RegistersFourCommandsWithTheirTexts)
 	for (const TSharedPtr<FUICommandInfo>& Command : Commands)
 	{
 		EXPECT_EQ(Command->GetUserInterfaceType(), EUserInterfaceActionType::Button);
-		EXPECT_TRUE(Command->GetInputText().IsEmpty());
 		EXPECT_EQ(ToUtf8(*FTextInspector::GetNamespace(Command->GetDescription())), "FVelmorantProEditor");
 		EXPECT_EQ(ToUtf8(*FTextInspector::GetKey(Command->GetDescription())), ToUtf8(Command->GetCommandName()) + "_ToolTip");
 		Texts.push_back(ToUtf8(Command->GetCommandName()) + ": " + ToUtf8(Command->GetLabel()) + " | " + ToUtf8(Command->GetDescription()));

@@ -106,14 +106,6 @@ bool FAssetRegistryImpl::GetAssets(const FARFilter& Filter, TArray<FAssetData>& 
 	return true;
 }
 
-bool FAssetRegistryImpl::GetAssetsByClass(FTopLevelAssetPath ClassPathName, TArray<FAssetData>& OutAssetData, bool bSearchSubClasses) const
-{
-	FARFilter Filter;
-	Filter.ClassPaths.Add(ClassPathName);
-	Filter.bRecursiveClasses = bSearchSubClasses;
-	return GetAssets(Filter, OutAssetData, true);
-}
-
 bool FAssetRegistryImpl::GetAssetsByPath(FName PackagePath, TArray<FAssetData>& OutAssetData, bool bRecursive, bool bIncludeOnlyOnDiskAssets) const
 {
 	FARFilter Filter;
@@ -123,36 +115,6 @@ bool FAssetRegistryImpl::GetAssetsByPath(FName PackagePath, TArray<FAssetData>& 
 	return GetAssets(Filter, OutAssetData, true);
 }
 
-bool FAssetRegistryImpl::GetAssetsByPackageName(FName PackageName, TArray<FAssetData>& OutAssetData, bool bIncludeOnlyOnDiskAssets) const
-{
-	FARFilter Filter;
-	Filter.PackageNames.Add(PackageName);
-	Filter.bIncludeOnlyOnDiskAssets = bIncludeOnlyOnDiskAssets;
-	return GetAssets(Filter, OutAssetData, true);
-}
-
-bool FAssetRegistryImpl::GetAllAssets(TArray<FAssetData>& OutAssetData, bool bIncludeOnlyOnDiskAssets) const
-{
-	OutAssetData.Append(Collect(bIncludeOnlyOnDiskAssets));
-	return true;
-}
-
-FAssetData FAssetRegistryImpl::GetAssetByObjectPath(const FSoftObjectPath& ObjectPath, bool bIncludeOnlyOnDiskAssets) const
-{
-	FARFilter Filter;
-	Filter.SoftObjectPaths.Add(ObjectPath);
-	Filter.bIncludeOnlyOnDiskAssets = bIncludeOnlyOnDiskAssets;
-	TArray<FAssetData> Found;
-	GetAssets(Filter, Found, true);
-	return Found.IsEmpty() ? FAssetData() : Found[0];
-}
-
-void FAssetRegistryImpl::SearchAllAssets(bool)
-{
-	SearchedVersion = 0;
-	GetOnDisk();
-}
-
 void FAssetRegistryImpl::AssetCreated(UObject* NewAsset)
 {
 	if (NewAsset == nullptr)
@@ -160,5 +122,4 @@ void FAssetRegistryImpl::AssetCreated(UObject* NewAsset)
 		return;
 	}
 	Created.Add(NewAsset);
-	AssetAdded.Broadcast(FAssetData(NewAsset));
 }

@@ -26,12 +26,6 @@ void FAssetRegistryModule::AssetCreated(UObject* NewAsset)
 	GetRegistry().AssetCreated(NewAsset);
 }
 
-IAssetRegistry* IAssetRegistry::Get()
-{
-	const FAssetRegistryModule* Module = FModuleManager::GetModulePtr<FAssetRegistryModule>(FName("AssetRegistry"));
-	return Module != nullptr ? &Module->Get() : nullptr;
-}
-
 IAssetRegistry& IAssetRegistry::GetChecked()
 {
 	return FAssetRegistryModule::GetRegistry();

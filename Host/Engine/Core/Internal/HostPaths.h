@@ -23,7 +23,7 @@ namespace HostPaths
 	/** Without a project this is the engine folder, as in an engine started without one. */
 	const FString& GetProjectDir();
 
-	/** The folder that holds Config/Base….ini; by default the one that this program was built from. */
+	/** The folder that holds Config/Base….ini: the one that this program was built from. */
 	void SetEngineDir(const FString& Directory);
 	const FString& GetEngineDir();
 

@@ -150,13 +150,3 @@ bool UCollisionProfile::GetProfileTemplate(FName ProfileName, FCollisionResponse
 	ProfileData = LoadedProfiles[*Index];
 	return true;
 }
-
-const FCollisionResponseTemplate* UCollisionProfile::GetProfileByIndex(int32 Index) const
-{
-	return LoadedProfiles.IsValidIndex(Index) ? &LoadedProfiles[Index] : nullptr;
-}
-
-FName UCollisionProfile::ReturnChannelNameFromContainerIndex(int32 ContainerIndex) const
-{
-	return ChannelNames.IsValidIndex(ContainerIndex) ? ChannelNames[ContainerIndex] : FName();
-}

@@ -211,11 +211,6 @@ FGCObject::~FGCObject()
 	FGarbageCollector::Get().RemoveReferencer(this);
 }
 
-void CollectGarbage(EObjectFlags KeepFlags, bool)
-{
-	FGarbageCollector::Get().Collect(KeepFlags);
-}
-
 namespace UE::CoreUObject::Private
 {
 	FStrongReference::FStrongReference(const UObject* Object)

@@ -100,14 +100,6 @@ public:
 	 */
 	bool GetProfileTemplate(FName ProfileName, FCollisionResponseTemplate& ProfileData) const;
 
-	/** Null when there is no such index. Good until the profiles are loaded again. */
-	const FCollisionResponseTemplate* GetProfileByIndex(int32 Index) const;
-
-	int32 GetNumOfProfiles() const { return LoadedProfiles.Num(); }
-
-	/** What the channel is called: a channel of the project by the project's name. None for what is no channel. */
-	FName ReturnChannelNameFromContainerIndex(int32 ContainerIndex) const;
-
 protected:
 	UPROPERTY(GlobalConfig)
 	TArray<FCollisionResponseTemplate> Profiles;

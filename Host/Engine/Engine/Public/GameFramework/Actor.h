@@ -28,15 +28,8 @@ public:
 	bool SetActorLocation(const FVector& NewLocation);
 
 	FRotator GetActorRotation() const { return ActorRotation; }
-	bool SetActorRotation(FRotator NewRotation);
-
-	FVector GetActorScale3D() const { return ActorScale; }
-	void SetActorScale3D(FVector NewScale3D);
 
 	bool IsHidden() const { return bHidden; }
-
-	AActor* GetOwner() const { return Owner; }
-	void SetOwner(AActor* NewOwner);
 
 	/** The level it stands in; null for a default object. */
 	ULevel* GetLevel() const;
@@ -80,9 +73,6 @@ private:
 
 	UPROPERTY(EditAnywhere, Category = "Rendering")
 	bool bHidden = false;
-
-	UPROPERTY()
-	TObjectPtr<AActor> Owner;
 
 	bool bActorIsBeingDestroyed = false;
 	bool bSelected = false; // kept by USelection

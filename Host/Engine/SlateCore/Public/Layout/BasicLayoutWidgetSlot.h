@@ -18,13 +18,10 @@ public:
 
 	const TSharedRef<SWidget>& GetWidget() const { return Widget; }
 	void AttachWidget(const TSharedRef<SWidget>& InWidget) { Widget = InWidget; }
-	void DetachWidget() { Widget = SNullWidget::NullWidget; }
 
 	const FMargin GetPadding() const { return SlotPadding.Get(); }
 	void SetPadding(TAttribute<FMargin> InPadding) { SlotPadding = MoveTemp(InPadding); }
-	EHorizontalAlignment GetHorizontalAlignment() const { return HorizontalAlignment; }
 	void SetHorizontalAlignment(EHorizontalAlignment InAlignment) { HorizontalAlignment = InAlignment; }
-	EVerticalAlignment GetVerticalAlignment() const { return VerticalAlignment; }
 	void SetVerticalAlignment(EVerticalAlignment InAlignment) { VerticalAlignment = InAlignment; }
 
 private:
@@ -59,24 +56,10 @@ public:
 		return Me();
 	}
 	ArgumentsType& Padding(float Uniform) { return Padding(TAttribute<FMargin>(FMargin(Uniform))); }
-	ArgumentsType& Padding(float Horizontal, float Vertical) { return Padding(TAttribute<FMargin>(FMargin(Horizontal, Vertical))); }
-	ArgumentsType& Padding(float Left, float Top, float Right, float Bottom) { return Padding(TAttribute<FMargin>(FMargin(Left, Top, Right, Bottom))); }
 
-	ArgumentsType& HAlign(EHorizontalAlignment InAlignment)
-	{
-		NewSlot->SetHorizontalAlignment(InAlignment);
-		return Me();
-	}
 	ArgumentsType& VAlign(EVerticalAlignment InAlignment)
 	{
 		NewSlot->SetVerticalAlignment(InAlignment);
-		return Me();
-	}
-
-	/** Hands out the slot itself; good for as long as the slot stays in its panel. */
-	ArgumentsType& Expose(SlotType*& OutSlot)
-	{
-		OutSlot = &NewSlot.Get();
 		return Me();
 	}
 

@@ -28,16 +28,6 @@ struct SLATECORE_API FMargin
 		, Bottom(Vertical)
 	{
 	}
-	FMargin(float InLeft, float InTop, float InRight, float InBottom)
-		: Left(InLeft)
-		, Top(InTop)
-		, Right(InRight)
-		, Bottom(InBottom)
-	{
-	}
-
-	bool operator==(const FMargin& Other) const { return Left == Other.Left && Top == Other.Top && Right == Other.Right && Bottom == Other.Bottom; }
-	bool operator!=(const FMargin& Other) const { return !(*this == Other); }
 
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Appearance")
 	float Left = 0.0f;

@@ -41,14 +41,8 @@ public:
 
 	void SetToolTipText(const TAttribute<FText>& InToolTipText) { ToolTipText = InToolTipText; }
 
-	void SetRenderOpacity(float InOpacity) { RenderOpacity = InOpacity; }
-	float GetRenderOpacity() const { return RenderOpacity; }
-
 	FName GetTag() const { return Tag; }
 	void SetTag(FName InTag) { Tag = InTag; }
-
-	/** The widget class as SNew was given it. */
-	FName GetType() const { return TypeOfWidget; }
 	FString GetTypeAsString() const { return TypeOfWidget.ToString(); }
 
 protected:

@@ -6,20 +6,6 @@
 #include "Framework/Commands/UICommandList.h"
 #include "HostState.h"
 
-FText FInputChord::GetInputText() const
-{
-	if (!IsValidChord())
-	{
-		return FText::GetEmpty();
-	}
-	FString Text;
-	Text += (Modifiers & EModifierKey::Control) != 0 ? TEXT("Ctrl+") : TEXT("");
-	Text += (Modifiers & EModifierKey::Command) != 0 ? TEXT("Cmd+") : TEXT("");
-	Text += (Modifiers & EModifierKey::Alt) != 0 ? TEXT("Alt+") : TEXT("");
-	Text += (Modifiers & EModifierKey::Shift) != 0 ? TEXT("Shift+") : TEXT("");
-	return FText::FromString(Text + Key.ToString());
-}
-
 void FUICommandInfo::MakeCommandInfo(const TSharedRef<FBindingContext>& InContext, TSharedPtr<FUICommandInfo>& OutCommand, const FName InCommandName,
 	const FText& InCommandLabel, const FText& InCommandDesc, const FSlateIcon& InIcon, const EUserInterfaceActionType InUserInterfaceType,
 	const FInputChord& InDefaultChord, const FInputChord& InAlternateDefaultChord)
@@ -81,23 +67,10 @@ TSharedPtr<FBindingContext> FInputBindingManager::GetContextByName(const FName I
 	return Entry ? Entry->Context : nullptr;
 }
 
-void FInputBindingManager::GetKnownInputContexts(TArray<TSharedPtr<FBindingContext>>& OutInputContexts) const
-{
-	for (const FContextEntry& Entry : Contexts)
-	{
-		OutInputContexts.Add(Entry.Context);
-	}
-}
-
 void FInputBindingManager::AddContext(const TSharedRef<FBindingContext>& InContext)
 {
 	check(FindEntry(InContext->GetContextName()) == nullptr);
 	Contexts.AddDefaulted_GetRef().Context = InContext;
-}
-
-void FInputBindingManager::RemoveContextByName(const FName InContextName)
-{
-	Contexts.RemoveAll([InContextName](const FContextEntry& Entry) { return Entry.Context->GetContextName() == InContextName; });
 }
 
 void FInputBindingManager::AddCommand(const TSharedRef<FUICommandInfo>& InCommand)
@@ -105,18 +78,6 @@ void FInputBindingManager::AddCommand(const TSharedRef<FUICommandInfo>& InComman
 	FContextEntry* Entry = const_cast<FContextEntry*>(FindEntry(InCommand->GetBindingContext()));
 	checkf(Entry, TEXT("Command %s belongs to a set that is not registered."), *InCommand->GetCommandName().ToString());
 	Entry->Commands.Add(InCommand);
-}
-
-namespace UIAction
-{
-	static FGetActionCheckState ToCheckState(const FIsActionChecked& IsChecked)
-	{
-		if (!IsChecked.IsBound())
-		{
-			return FGetActionCheckState();
-		}
-		return FGetActionCheckState::CreateLambda([IsChecked] { return IsChecked.Execute() ? ECheckBoxState::Checked : ECheckBoxState::Unchecked; });
-	}
 }
 
 FUIAction::FUIAction(FExecuteAction InExecuteAction, EUIActionRepeatMode InRepeatMode)
@@ -132,42 +93,11 @@ FUIAction::FUIAction(FExecuteAction InExecuteAction, FCanExecuteAction InCanExec
 {
 }
 
-FUIAction::FUIAction(FExecuteAction InExecuteAction, FCanExecuteAction InCanExecuteAction, FIsActionChecked InIsCheckedDelegate, EUIActionRepeatMode InRepeatMode)
-	: ExecuteAction(MoveTemp(InExecuteAction))
-	, CanExecuteAction(MoveTemp(InCanExecuteAction))
-	, GetActionCheckState(UIAction::ToCheckState(InIsCheckedDelegate))
-	, RepeatMode(InRepeatMode)
-{
-}
-
-FUIAction::FUIAction(FExecuteAction InExecuteAction, FCanExecuteAction InCanExecuteAction, FGetActionCheckState InGetActionCheckState, EUIActionRepeatMode InRepeatMode)
-	: ExecuteAction(MoveTemp(InExecuteAction))
-	, CanExecuteAction(MoveTemp(InCanExecuteAction))
-	, GetActionCheckState(MoveTemp(InGetActionCheckState))
-	, RepeatMode(InRepeatMode)
-{
-}
-
-FUIAction::FUIAction(FExecuteAction InExecuteAction, FCanExecuteAction InCanExecuteAction, FIsActionChecked InIsCheckedDelegate,
-	FIsActionButtonVisible InIsActionVisibleDelegate, EUIActionRepeatMode InRepeatMode)
-	: ExecuteAction(MoveTemp(InExecuteAction))
-	, CanExecuteAction(MoveTemp(InCanExecuteAction))
-	, GetActionCheckState(UIAction::ToCheckState(InIsCheckedDelegate))
-	, IsActionVisibleDelegate(MoveTemp(InIsActionVisibleDelegate))
-	, RepeatMode(InRepeatMode)
-{
-}
-
 void FUICommandList::MapAction(const TSharedPtr<const FUICommandInfo> InUICommandInfo, const FUIAction& InUIAction)
 {
 	check(InUICommandInfo.IsValid());
 	checkf(!UICommandBindingMap.Contains(InUICommandInfo), TEXT("Command %s is mapped already."), *InUICommandInfo->GetCommandName().ToString());
 	UICommandBindingMap.Add(InUICommandInfo, InUIAction);
-}
-
-void FUICommandList::MapAction(const TSharedPtr<const FUICommandInfo> InUICommandInfo, FExecuteAction ExecuteAction, EUIActionRepeatMode RepeatMode)
-{
-	MapAction(InUICommandInfo, FUIAction(MoveTemp(ExecuteAction), RepeatMode));
 }
 
 void FUICommandList::MapAction(const TSharedPtr<const FUICommandInfo> InUICommandInfo, FExecuteAction ExecuteAction, FCanExecuteAction CanExecuteAction,
@@ -176,68 +106,15 @@ void FUICommandList::MapAction(const TSharedPtr<const FUICommandInfo> InUIComman
 	MapAction(InUICommandInfo, FUIAction(MoveTemp(ExecuteAction), MoveTemp(CanExecuteAction), RepeatMode));
 }
 
-void FUICommandList::MapAction(const TSharedPtr<const FUICommandInfo> InUICommandInfo, FExecuteAction ExecuteAction, FCanExecuteAction CanExecuteAction,
-	FIsActionChecked IsCheckedDelegate, EUIActionRepeatMode RepeatMode)
-{
-	MapAction(InUICommandInfo, FUIAction(MoveTemp(ExecuteAction), MoveTemp(CanExecuteAction), MoveTemp(IsCheckedDelegate), RepeatMode));
-}
-
-void FUICommandList::MapAction(const TSharedPtr<const FUICommandInfo> InUICommandInfo, FExecuteAction ExecuteAction, FCanExecuteAction CanExecuteAction,
-	FGetActionCheckState GetActionCheckState, EUIActionRepeatMode RepeatMode)
-{
-	MapAction(InUICommandInfo, FUIAction(MoveTemp(ExecuteAction), MoveTemp(CanExecuteAction), MoveTemp(GetActionCheckState), RepeatMode));
-}
-
-void FUICommandList::MapAction(const TSharedPtr<const FUICommandInfo> InUICommandInfo, FExecuteAction ExecuteAction, FCanExecuteAction CanExecuteAction,
-	FIsActionChecked IsCheckedDelegate, FIsActionButtonVisible IsVisibleDelegate, EUIActionRepeatMode RepeatMode)
-{
-	MapAction(InUICommandInfo, FUIAction(MoveTemp(ExecuteAction), MoveTemp(CanExecuteAction), MoveTemp(IsCheckedDelegate), MoveTemp(IsVisibleDelegate), RepeatMode));
-}
-
-void FUICommandList::UnmapAction(const TSharedPtr<const FUICommandInfo> InUICommandInfo)
-{
-	UICommandBindingMap.Remove(InUICommandInfo);
-}
-
-void FUICommandList::Append(const TSharedRef<FUICommandList>& InCommandsToAppend)
-{
-	check(&InCommandsToAppend.Get() != this);
-	AppendedLists.Add(InCommandsToAppend);
-}
-
 const FUIAction* FUICommandList::GetActionForCommand(TSharedPtr<const FUICommandInfo> Command) const
 {
-	if (const FUIAction* Action = UICommandBindingMap.Find(Command))
-	{
-		return Action;
-	}
-	for (const TWeakPtr<FUICommandList>& Weak : AppendedLists)
-	{
-		const TSharedPtr<FUICommandList> List = Weak.Pin();
-		const FUIAction* Action = List.IsValid() ? List->GetActionForCommand(Command) : nullptr;
-		if (Action)
-		{
-			return Action;
-		}
-	}
-	return nullptr;
+	return UICommandBindingMap.Find(Command);
 }
 
 bool FUICommandList::ExecuteAction(const TSharedRef<const FUICommandInfo> InUICommandInfo) const
 {
 	const FUIAction* Action = GetActionForCommand(InUICommandInfo);
 	return Action && FUIAction(*Action).Execute(); // a copy: the action may change the list
-}
-
-bool FUICommandList::CanExecuteAction(const TSharedRef<const FUICommandInfo> InUICommandInfo) const
-{
-	const FUIAction* Action = GetActionForCommand(InUICommandInfo);
-	return !Action || Action->CanExecute();
-}
-
-bool FUICommandList::TryExecuteAction(const TSharedRef<const FUICommandInfo> InUICommandInfo) const
-{
-	return ExecuteAction(InUICommandInfo);
 }
 
 bool FUICommandList::IsActionMapped(const TSharedPtr<const FUICommandInfo> InUICommandInfo) const

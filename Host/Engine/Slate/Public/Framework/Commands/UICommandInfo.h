@@ -32,7 +32,6 @@ public:
 	virtual ~FBindingContext() = default;
 
 	FName GetContextName() const { return ContextName; }
-	FName GetContextParent() const { return ContextParent; }
 	const FText& GetContextDesc() const { return ContextDesc; }
 	FName GetStyleSetName() const { return StyleSetName; }
 
@@ -58,9 +57,6 @@ public:
 	FName GetBindingContext() const { return BindingContext; }
 	const FSlateIcon& GetIcon() const { return Icon; }
 	EUserInterfaceActionType GetUserInterfaceType() const { return UserInterfaceType; }
-
-	/** The chord as a menu prints it; empty when there is none. */
-	FText GetInputText() const { return DefaultChord.GetInputText(); }
 
 private:
 	FName BindingContext;

@@ -14,30 +14,16 @@ public:
 
 	/** Mapping a command that is mapped already is a mistake of the caller (asserts). */
 	virtual void MapAction(const TSharedPtr<const FUICommandInfo> InUICommandInfo, const FUIAction& InUIAction);
-	void MapAction(const TSharedPtr<const FUICommandInfo> InUICommandInfo, FExecuteAction ExecuteAction, EUIActionRepeatMode RepeatMode = EUIActionRepeatMode::RepeatDisabled);
 	void MapAction(const TSharedPtr<const FUICommandInfo> InUICommandInfo, FExecuteAction ExecuteAction, FCanExecuteAction CanExecuteAction,
 		EUIActionRepeatMode RepeatMode = EUIActionRepeatMode::RepeatDisabled);
-	void MapAction(const TSharedPtr<const FUICommandInfo> InUICommandInfo, FExecuteAction ExecuteAction, FCanExecuteAction CanExecuteAction,
-		FIsActionChecked IsCheckedDelegate, EUIActionRepeatMode RepeatMode = EUIActionRepeatMode::RepeatDisabled);
-	void MapAction(const TSharedPtr<const FUICommandInfo> InUICommandInfo, FExecuteAction ExecuteAction, FCanExecuteAction CanExecuteAction,
-		FGetActionCheckState GetActionCheckState, EUIActionRepeatMode RepeatMode = EUIActionRepeatMode::RepeatDisabled);
-	void MapAction(const TSharedPtr<const FUICommandInfo> InUICommandInfo, FExecuteAction ExecuteAction, FCanExecuteAction CanExecuteAction,
-		FIsActionChecked IsCheckedDelegate, FIsActionButtonVisible IsVisibleDelegate, EUIActionRepeatMode RepeatMode = EUIActionRepeatMode::RepeatDisabled);
-	virtual void UnmapAction(const TSharedPtr<const FUICommandInfo> InUICommandInfo);
-
-	/** Looks into the other list for commands that this one does not map. */
-	void Append(const TSharedRef<FUICommandList>& InCommandsToAppend);
 
 	/** @return whether something ran. */
 	bool ExecuteAction(const TSharedRef<const FUICommandInfo> InUICommandInfo) const;
-	bool CanExecuteAction(const TSharedRef<const FUICommandInfo> InUICommandInfo) const;
-	bool TryExecuteAction(const TSharedRef<const FUICommandInfo> InUICommandInfo) const;
 	bool IsActionMapped(const TSharedPtr<const FUICommandInfo> InUICommandInfo) const;
 
-	/** Null when the command is mapped neither here nor in an appended list. */
+	/** Null when the command is not mapped. */
 	const FUIAction* GetActionForCommand(TSharedPtr<const FUICommandInfo> Command) const;
 
 private:
 	TMap<TSharedPtr<const FUICommandInfo>, FUIAction> UICommandBindingMap;
-	TArray<TWeakPtr<FUICommandList>> AppendedLists;
 };

@@ -41,8 +41,6 @@ public:
 		SComboButton::Construct(SComboButton::FArguments().ButtonContent()[InArgs._Content.Widget]);
 	}
 
-	OptionType GetSelectedItem() { return SelectedItem; }
-
 	/** Raises OnSelectionChanged when the item is another one. */
 	void SetSelectedItem(OptionType InSelectedItem, ESelectInfo::Type InSelectInfo = ESelectInfo::OnNavigation)
 	{
@@ -58,11 +56,6 @@ public:
 
 	/** Has the options read again when they show next: nothing else does, whatever becomes of the array. The selection stays. */
 	void RefreshOptions() { bRefreshPending = true; }
-	void SetItemsSource(const TArray<OptionType>* InListItemsSource)
-	{
-		OptionsSource = InListItemsSource;
-		RefreshOptions();
-	}
 
 	virtual void SetIsOpen(bool bInIsOpen) override
 	{

@@ -52,8 +52,6 @@ public:
 			RebuildList();
 		}
 	}
-	void ClearItemsSource() { SetItemsSource(nullptr); }
-	bool HasValidItemsSource() const { return ItemsSource != nullptr; }
 	TArrayView<const ItemType> GetItems() const { return ItemsSource ? TArrayView<const ItemType>(*ItemsSource) : TArrayView<const ItemType>(); }
 
 	virtual void RebuildList() override
@@ -95,11 +93,6 @@ public:
 
 	bool IsItemSelected(const ItemType& InItem) const { return SelectedItems.Contains(InItem); }
 	TArray<ItemType> GetSelectedItems() const { return SelectedItems; }
-	int32 GetSelectedItems(TArray<ItemType>& OutItems) const
-	{
-		OutItems = SelectedItems;
-		return SelectedItems.Num();
-	}
 	int32 GetNumItemsSelected() const { return SelectedItems.Num(); }
 
 	/** At the next tick. An item that is not in the list then is ignored. */
