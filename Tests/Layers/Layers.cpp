@@ -108,7 +108,7 @@ namespace Layers
 
 	bool FLayer::IsForUsers(const fs::path& File) const
 	{
-		return !bProgram && (IsBelow(File, Folder / "Public") || IsBelow(File, Folder / "Internal"));
+		return !bProgram && (IsBelow(File, Folder / "Public") || IsBelow(File, Folder / "Detail") || IsBelow(File, Folder / "Internal"));
 	}
 
 	const std::vector<FLayer>& All()

@@ -48,7 +48,7 @@ namespace Layers
 	/** Fails the test if there is none of that name. */
 	const FLayer& Find(const std::string& Name);
 
-	/** Include paths of all headers in Public and Internal folders. */
+	/** Include paths of all headers in Public, Detail and Internal folders. */
 	const std::map<std::string, FOffer>& Offers();
 
 	/** As they are written between quotation marks, those of generated headers left out. */

@@ -58,7 +58,7 @@ namespace LayersTest
 
 	bool MaySee(const FLayer& Layer, const FLayer& Owner, const fs::path& Folder)
 	{
-		if (Owner.Name == Layer.Name || Folder == Owner.Folder / "Public" || Folder == Generated / Owner.Name)
+		if (Owner.Name == Layer.Name || Folder == Owner.Folder / "Public" || Folder == Owner.Folder / "Detail" || Folder == Generated / Owner.Name)
 		{
 			return true;
 		}

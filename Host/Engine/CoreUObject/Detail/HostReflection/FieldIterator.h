@@ -4,7 +4,7 @@
 #pragma once
 
 #include "UObject/Class.h"
-#include "UObject/Property.h"
+#include "HostReflection/Property.h"
 
 #include <type_traits>
 

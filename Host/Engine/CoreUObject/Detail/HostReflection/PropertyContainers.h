@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "UObject/Property.h"
+#include "HostReflection/Property.h"
 
 namespace UE::Reflection
 {

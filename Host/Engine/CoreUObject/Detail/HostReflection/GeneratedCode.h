@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "HostReflection/Records.h"
 #include "UObject/Class.h"
 #include "UObject/ObjectMacros.h"
 #include "UObject/Stack.h"
@@ -145,10 +146,6 @@ namespace UE::Reflection
 	UScriptStruct* GetStruct(FStructRecord& Record);
 	UEnum* GetEnum(FEnumRecord& Record);
 
-	/** The class of T, which may be incomplete; specialised in generated code. */
-	template<typename T>
-	UClass* ClassOf();
-
 	template<>
 	UClass* ClassOf<UObject>();
 	template<>
@@ -193,4 +190,4 @@ namespace UE::Reflection
 }
 
 // The property makers need complete property types; generated code gets them from here.
-#include "UObject/PropertyMakers.h"
+#include "HostReflection/PropertyMakers.h"

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "Containers/Array.h"
-#include "UObject/Property.h"
+#include "HostReflection/Property.h"
 
 namespace EPropertyChangeType
 {
