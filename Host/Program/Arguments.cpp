@@ -10,6 +10,7 @@
 #include "Containers/StringConv.h"
 #include "HostConfig.h"
 #include "Refusal.h"
+#include "Scripts/ServiceFile.h"
 
 #include <algorithm>
 #include <sstream>
@@ -136,7 +137,7 @@ namespace Arguments
 		}
 		else
 		{
-			OutArguments.Run = FRunArguments{ToText(Raw.Project), Raw.GetEditor(), ToText(Raw.Script), ToText(Raw.Service), Raw.bJson};
+			OutArguments.Run = FRunArguments{ToText(Raw.Project), Raw.GetEditor(), ToText(Raw.Script), ServiceFile::MakeInputs(ToText(Raw.Service)), Raw.bJson};
 		}
 		return TOptional<EExitStatus>();
 	}

@@ -2,31 +2,9 @@
 
 #pragma once
 
-#include "Containers/UnrealString.h"
-#include "EditorArguments.h"
-#include "ExitStatus.h"
+#include "Check/CheckCommand.h"
 #include "Misc/Optional.h"
-
-/** velmorant check PROJECT [--diff] [--repair | --undo] [--json] */
-struct FCheckArguments
-{
-	FString Project; // a .uproject, or a folder with one in it
-	FEditorArguments Editor;
-	bool bDiff = false;
-	bool bRepair = false;
-	bool bUndo = false; // never with bRepair
-	bool bJson = false;
-};
-
-/** velmorant run PROJECT SCRIPT [--service FILE] [--json] */
-struct FRunArguments
-{
-	FString Project;
-	FEditorArguments Editor;
-	FString Script;
-	FString Service; // the service's data file; empty: the one that the project names
-	bool bJson = false;
-};
+#include "Run/RunCommand.h"
 
 /** What the program was asked to do: exactly one of these is set. */
 struct FArguments

@@ -16,6 +16,7 @@ namespace Layers
 	{
 		std::string Name;
 		bool bProgram = false;
+		bool bFlat = false; // a part of programs, without folders for who may see what
 		std::filesystem::path Folder;
 
 		/** The modules that it names: for its users as well, and for itself. */

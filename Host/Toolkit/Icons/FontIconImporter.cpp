@@ -1,13 +1,14 @@
 // Copyright Velmorant. All Rights Reserved.
 
-#include "FontIconImporter.h"
+#include "Icons/FontIconImporter.h"
 
-#include "IconFamiliesReader.h"
-#include "ImportedIconFont.h"
+#include "Icons/IconFamiliesReader.h"
+#include "Icons/ImportedIconFont.h"
 #include "Misc/FileHelper.h"
 #include "Misc/Paths.h"
-#include "VelmorantProUILog.h"
-#include "WebFontFiles.h"
+#include "Icons/WebFontFiles.h"
+
+DEFINE_LOG_CATEGORY_STATIC(LogVelmorantFontIcons, Log, All);
 
 namespace FontIconImporter
 {
@@ -76,7 +77,7 @@ namespace FontIconImporter
 
 	FFontIconImportResult Fail(FFontIconImportError&& Error)
 	{
-		UE_LOG(LogVelmorantProUI, Error, TEXT("No icons were imported: %s"), *Error.ToString());
+		UE_LOG(LogVelmorantFontIcons, Error, TEXT("No icons were imported: %s"), *Error.ToString());
 		FFontIconImportResult Result;
 		Result.Error = MoveTemp(Error);
 		return Result;

@@ -5,7 +5,7 @@
 #include "CoreMinimal.h"
 
 /** Why icons could not be imported: which file, where in it, what is wrong and what to do about it. */
-struct VELMORANTPROUI_API FFontIconImportError
+struct FFontIconImportError
 {
 	FString File;
 	FString Place; // the icon and field, or line and byte; empty when the whole file is meant
@@ -17,7 +17,7 @@ struct VELMORANTPROUI_API FFontIconImportError
 };
 
 /** What an import brought in, or why it brought in nothing. */
-struct VELMORANTPROUI_API FFontIconImportResult
+struct FFontIconImportResult
 {
 	TOptional<FFontIconImportError> Error;
 
@@ -42,7 +42,7 @@ struct VELMORANTPROUI_API FFontIconImportResult
  * anything is changed: on any problem, which also goes to the log, tables, fonts and settings stay as they were. The assets
  * are left unsaved, like all that is imported; the settings are written.
  */
-class VELMORANTPROUI_API FFontIconImporter
+class FFontIconImporter
 {
 public:
 	/**

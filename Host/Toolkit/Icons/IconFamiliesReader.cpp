@@ -1,6 +1,6 @@
 // Copyright Velmorant. All Rights Reserved.
 
-#include "IconFamiliesReader.h"
+#include "Icons/IconFamiliesReader.h"
 
 #include <algorithm>
 

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "CoreMinimal.h"
-#include "FontIconImporter.h"
-#include "PackageIcon.h"
+#include "Icons/FontIconImporter.h"
+#include "Icons/PackageIcon.h"
 
 #include <nlohmann/json.hpp>
 #include <string>

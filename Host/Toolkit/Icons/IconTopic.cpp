@@ -1,11 +1,11 @@
 // Copyright Velmorant. All Rights Reserved.
-// Icon fonts: bringing one into the project, and looking at what the project has.
 
-#include "FontIconImporter.h"
+#include "Icons/IconTopic.h"
+
+#include "Icons/FontIconImporter.h"
 #include "Misc/Paths.h"
 #include "Run/ScriptContext.h"
 #include "Run/ScriptObjects.h"
-#include "Run/ScriptTopics.h"
 #include "VelmorantUISubsystem.h"
 
 namespace IconTopic
@@ -110,7 +110,7 @@ namespace IconTopic
 	}
 }
 
-FScriptTopic ScriptTopics::GetIcons()
+FScriptTopic IconTopic::Get()
 {
 	return {IconTopic::Commands, IconTopic::Expectations};
 }

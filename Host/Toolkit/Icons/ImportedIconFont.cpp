@@ -1,6 +1,6 @@
 // Copyright Velmorant. All Rights Reserved.
 
-#include "ImportedIconFont.h"
+#include "Icons/ImportedIconFont.h"
 
 #include "AssetRegistry/AssetRegistryModule.h"
 #include "HAL/FileManager.h"

@@ -4,7 +4,7 @@
 
 #include "CoreMinimal.h"
 #include "FontIconData.h"
-#include "FontIconImporter.h"
+#include "Icons/FontIconImporter.h"
 
 /** A style of an icon font, and the file that draws it. */
 struct FImportedFace

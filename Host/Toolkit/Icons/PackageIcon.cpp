@@ -1,6 +1,6 @@
 // Copyright Velmorant. All Rights Reserved.
 
-#include "PackageIcon.h"
+#include "Icons/PackageIcon.h"
 
 #include "Misc/Char.h"
 

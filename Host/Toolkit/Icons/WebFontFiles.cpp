@@ -1,6 +1,6 @@
 // Copyright Velmorant. All Rights Reserved.
 
-#include "WebFontFiles.h"
+#include "Icons/WebFontFiles.h"
 
 #include "HAL/FileManager.h"
 #include "Misc/FileHelper.h"

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "CoreMinimal.h"
-#include "FontIconImporter.h"
-#include "PackageIcon.h"
+#include "Icons/FontIconImporter.h"
+#include "Icons/PackageIcon.h"
 
 /** The TrueType files of the package. */
 namespace WebFontFiles
