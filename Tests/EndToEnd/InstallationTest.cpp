@@ -68,7 +68,7 @@ TEST_F(FInstallation, SaysWhatIsMissingInPlaceOfAVerdict)
 		const FProgramResult Result = Check({"--json"});
 		EXPECT_EQ(Result.ExitStatus, 3);
 		EXPECT_THAT(Result.Errors, HasSubstr((Data / Lost).string() + " is missing"));
-		EXPECT_THAT(Result.Output, HasSubstr("\"status\": 3"));
+		EXPECT_THAT(Result.Output, HasSubstr("\"status\":3"));
 		std::filesystem::rename(Moved / "Lost", Data / Lost);
 	}
 	EXPECT_EQ(Check().ExitStatus, 1);
