@@ -9,14 +9,14 @@
 #include <sys/file.h>
 #include <sys/stat.h>
 
-namespace
+namespace FilesOnDisk
 {
 	const char* const LeftReadOnly = "the file is read-only and was left as it is. Make it writable, or check it out in version control.\n";
 
-	class HostFilesTest : public FEditorFilesTest
+	class FilesOnDisk : public FEditorFilesTest
 	{
 	protected:
-		~HostFilesTest() override { HostFiles::SetBeforeRename(nullptr); }
+		~FilesOnDisk() override { HostFiles::SetBeforeRename(nullptr); }
 
 		void SetMode(std::string_view File, mode_t Mode) const { ASSERT_EQ(chmod(Folder.GetNative(File).c_str(), Mode), 0); }
 
@@ -47,7 +47,7 @@ namespace
 		}
 	};
 
-	TEST_F(HostFilesTest, ReplacesAFileWithoutTouchingTheOldOne)
+	TEST_F(FilesOnDisk, ReplacesAFileWithoutTouchingTheOldOne)
 	{
 		Folder.Write("File", "old");
 		const ino_t Before = GetStatus("File").st_ino;
@@ -60,7 +60,7 @@ namespace
 		EXPECT_EQ(Old, "old");
 	}
 
-	TEST_F(HostFilesTest, KeepsTheModeOfAnExistingFile)
+	TEST_F(FilesOnDisk, KeepsTheModeOfAnExistingFile)
 	{
 		for (const mode_t Mode : {0640u, 01666u, 0200u})
 		{
@@ -72,7 +72,7 @@ namespace
 		}
 	}
 
-	TEST_F(HostFilesTest, KeepsTheOwnerWhereItMay)
+	TEST_F(FilesOnDisk, KeepsTheOwnerWhereItMay)
 	{
 		if (geteuid() != 0)
 		{
@@ -85,7 +85,7 @@ namespace
 		EXPECT_EQ(GetStatus("File").st_gid, 1234u);
 	}
 
-	TEST_F(HostFilesTest, WritesThroughSymbolicLinks)
+	TEST_F(FilesOnDisk, WritesThroughSymbolicLinks)
 	{
 		struct FCase
 		{
@@ -109,7 +109,7 @@ namespace
 		}
 	}
 
-	TEST_F(HostFilesTest, RefusesWhatMustNotBeReplaced)
+	TEST_F(FilesOnDisk, RefusesWhatMustNotBeReplaced)
 	{
 		Folder.Write("ReadOnly", "old");
 		SetMode("ReadOnly", 0444);
@@ -144,7 +144,7 @@ namespace
 		EXPECT_EQ(Folder.Read("ReadOnly"), "new");
 	}
 
-	TEST_F(HostFilesTest, AReadOnlyFileThatHoldsTheBytesAlreadyIsNoProblem)
+	TEST_F(FilesOnDisk, AReadOnlyFileThatHoldsTheBytesAlreadyIsNoProblem)
 	{
 		Folder.Write("ReadOnly", "same");
 		SetMode("ReadOnly", 0444);
@@ -154,7 +154,7 @@ namespace
 		EXPECT_EQ(GetProblems(), "");
 	}
 
-	TEST_F(HostFilesTest, ACrashBetweenWriteAndRenameLeavesTheOldFileAndIsTidiedUp)
+	TEST_F(FilesOnDisk, ACrashBetweenWriteAndRenameLeavesTheOldFileAndIsTidiedUp)
 	{
 		Folder.Write("sub/File", "old");
 		const int Status = Wait(Fork([this] {
@@ -170,7 +170,7 @@ namespace
 		EXPECT_EQ(Folder.Count("sub"), 1u);
 	}
 
-	TEST_F(HostFilesTest, WhatOthersCallTemporaryIsTheirs)
+	TEST_F(FilesOnDisk, WhatOthersCallTemporaryIsTheirs)
 	{
 		const std::vector<std::string> Theirs = {"Config/.velmorant-1-.tmp", "Config/.velmorant-1-2.tmp~", "Config/.velmorant-1-x.tmp", "Config/.velmorant-notes.tmp", "Config/.velmorant.tmp", "Config/File.ini.tmp", "Config/a.velmorant-1-2.tmp"};
 		for (const std::string& File : Theirs)
@@ -186,7 +186,7 @@ namespace
 		EXPECT_EQ(Folder.Read(Theirs[0]), "theirs");
 	}
 
-	TEST_F(HostFilesTest, AWriteThatFailsHalfWayIsToldEachTimeAndLeavesNothing)
+	TEST_F(FilesOnDisk, AWriteThatFailsHalfWayIsToldEachTimeAndLeavesNothing)
 	{
 		std::vector<std::string> Told;
 		HostProblems::SetNotWrittenListener([&Told](const FHostProblem& Problem) { Told.push_back(ToUtf8(HostProblems::ToString(Problem))); });
@@ -204,7 +204,7 @@ namespace
 		EXPECT_TRUE(HostFiles::GetWrittenFiles().IsEmpty());
 	}
 
-	TEST_F(HostFilesTest, AsksBeforeAReadOnlyFileOfAProjectUnderVersionControlIsWritten)
+	TEST_F(FilesOnDisk, AsksBeforeAReadOnlyFileOfAProjectUnderVersionControlIsWritten)
 	{
 		const struct
 		{
@@ -272,7 +272,7 @@ namespace
 		}
 	}
 
-	TEST_F(HostFilesTest, AFileThatGoesDuringTheQuestionIsNotWritten)
+	TEST_F(FilesOnDisk, AFileThatGoesDuringTheQuestionIsNotWritten)
 	{
 		Folder.Write(".git", "");
 		Folder.Write("File", "old");
@@ -285,7 +285,7 @@ namespace
 		EXPECT_EQ(GetProblems(), "the file cannot be made writable: No such file or directory. Check whose file it is.\n");
 	}
 
-	TEST_F(HostFilesTest, AsksNothingWhereNothingIsAtStake)
+	TEST_F(FilesOnDisk, AsksNothingWhereNothingIsAtStake)
 	{
 		Folder.Write(".git", "");
 		Folder.Write("File", "old");
@@ -301,7 +301,7 @@ namespace
 		EXPECT_EQ(GetStatus("File").st_mode & 0777, 0444u);
 	}
 
-	TEST_F(HostFilesTest, ReadsWhatIsThereAndSaysWhatIsNot)
+	TEST_F(FilesOnDisk, ReadsWhatIsThereAndSaysWhatIsNot)
 	{
 		Folder.Write("File", "text");
 		std::string Bytes = "left over";
@@ -319,7 +319,7 @@ namespace
 		EXPECT_EQ(Bytes, std::string(std::istreambuf_iterator<char>(Endless), {}));
 	}
 
-	TEST_F(HostFilesTest, ResolvesPathsToWhereTheyLead)
+	TEST_F(FilesOnDisk, ResolvesPathsToWhereTheyLead)
 	{
 		Folder.Write("Real/File", "");
 		std::filesystem::create_directory_symlink("Real", Folder.GetNative("Link"));
@@ -345,7 +345,7 @@ namespace
 		}
 	}
 
-	TEST_F(HostFilesTest, TheNewFileIsCompleteBeforeTheOldOneGoes)
+	TEST_F(FilesOnDisk, TheNewFileIsCompleteBeforeTheOldOneGoes)
 	{
 		static std::string Seen;
 		Seen.clear();
@@ -361,7 +361,7 @@ namespace
 		EXPECT_EQ(Seen, "new|old|");
 	}
 
-	TEST_F(HostFilesTest, WritesWithoutAStandardInput)
+	TEST_F(FilesOnDisk, WritesWithoutAStandardInput)
 	{
 		const int Status = Wait(Fork([this] {
 			close(STDIN_FILENO); // the next file is number 0
@@ -375,7 +375,7 @@ namespace
 		EXPECT_EQ(Status, 0);
 	}
 
-	TEST_F(HostFilesTest, ListsWrittenFilesOnceInOrder)
+	TEST_F(FilesOnDisk, ListsWrittenFilesOnceInOrder)
 	{
 		Write("b", "1");
 		Write("a", "1");
@@ -383,7 +383,7 @@ namespace
 		EXPECT_EQ(ToUtf8(HostFiles::GetWrittenFiles()), (std::vector<std::string>{ToUtf8(Folder.Get("b")), ToUtf8(Folder.Get("a"))}));
 	}
 
-	TEST_F(HostFilesTest, FilesOfTheUsersSettingsAreForTheirOwnerOnly)
+	TEST_F(FilesOnDisk, FilesOfTheUsersSettingsAreForTheirOwnerOnly)
 	{
 		ASSERT_TRUE(Write("settings/sub/User.json", "{}"));
 		ASSERT_TRUE(Write("project/File", "{}"));
@@ -395,7 +395,7 @@ namespace
 		EXPECT_EQ(GetStatus("settings/sub/User.json").st_mode & 0777, 0600u) << "who could read it before cannot any longer";
 	}
 
-	TEST_F(HostFilesTest, FindsFilesInAllFoldersSortedAndWithoutGoingInCircles)
+	TEST_F(FilesOnDisk, FindsFilesInAllFoldersSortedAndWithoutGoingInCircles)
 	{
 		Folder.Write("Content/b.json", "");
 		Folder.Write("Content/A/c.json", "");
@@ -411,7 +411,7 @@ namespace
 		EXPECT_EQ(ToUtf8(HostFiles::FindDirectories(Folder.Get("Content"))), ToUtf8(TArray<FString>{Folder.Get("Content/0"), Folder.Get("Content/A"), Folder.Get("Content/Z")}));
 	}
 
-	TEST_F(HostFilesTest, AnOverlayShowsWritesAndLeavesTheDiskAlone)
+	TEST_F(FilesOnDisk, AnOverlayShowsWritesAndLeavesTheDiskAlone)
 	{
 		Folder.Write("Content/kept.json", "disk");
 		Folder.Write("Content/gone.json", "disk");
@@ -438,7 +438,7 @@ namespace
 		EXPECT_FALSE(Pending[2].bDeleted);
 	}
 
-	TEST_F(HostFilesTest, AnOverlayKnowsFoldersAndForgetsWhatIsDeleted)
+	TEST_F(FilesOnDisk, AnOverlayKnowsFoldersAndForgetsWhatIsDeleted)
 	{
 		using EKind = HostFiles::EKind;
 		Folder.Write("Content/disk.json", "disk");
@@ -473,7 +473,7 @@ namespace
 		EXPECT_FALSE(Folder.Exists("Made"));
 	}
 
-	TEST_F(HostFilesTest, AnOverlayRefusesWhatTheDiskWouldRefuse)
+	TEST_F(FilesOnDisk, AnOverlayRefusesWhatTheDiskWouldRefuse)
 	{
 		Folder.Write("ReadOnly", "old");
 		SetMode("ReadOnly", 0444);
@@ -482,7 +482,7 @@ namespace
 		EXPECT_EQ(GetProblems(), LeftReadOnly);
 	}
 
-	TEST_F(HostFilesTest, WhatIsWrittenBackInAnOverlayIsNotPending)
+	TEST_F(FilesOnDisk, WhatIsWrittenBackInAnOverlayIsNotPending)
 	{
 		Folder.Write("File", "disk");
 		HostFiles::BeginOverlay();
@@ -491,7 +491,7 @@ namespace
 		EXPECT_TRUE(HostFiles::GetPendingWrites().IsEmpty());
 	}
 
-	TEST_F(HostFilesTest, AnOverlayEndsWithItsEditor)
+	TEST_F(FilesOnDisk, AnOverlayEndsWithItsEditor)
 	{
 		HostFiles::BeginOverlay();
 		Write("File", "overlay");
@@ -500,7 +500,7 @@ namespace
 		EXPECT_FALSE(HostFiles::FileExists(Folder.Get("File")));
 	}
 
-	TEST_F(HostFilesTest, ALockKeepsOtherProcessesOutUntilTheLastOfItsNestedLocksGoes)
+	TEST_F(FilesOnDisk, ALockKeepsOtherProcessesOutUntilTheLastOfItsNestedLocksGoes)
 	{
 		const auto IsFreeForOthers = [this] {
 			return Wait(Fork([this] {
@@ -520,7 +520,7 @@ namespace
 		EXPECT_TRUE(IsFreeForOthers());
 	}
 
-	TEST_F(HostFilesTest, ChecksBeforehandWhetherAFileCouldBeWritten)
+	TEST_F(FilesOnDisk, ChecksBeforehandWhetherAFileCouldBeWritten)
 	{
 		Folder.Write("Config/Fine.ini", "");
 		Folder.Write("Config/ReadOnly.ini", "");
@@ -536,7 +536,7 @@ namespace
 		EXPECT_FALSE(Folder.Exists("New"));
 	}
 
-	TEST_F(HostFilesTest, TheFileManagerDeletesAndToleratesWhatIsNotThere)
+	TEST_F(FilesOnDisk, TheFileManagerDeletesAndToleratesWhatIsNotThere)
 	{
 		Folder.Write("File", "");
 		Folder.Write("ReadOnly", "");
@@ -554,7 +554,7 @@ namespace
 		EXPECT_EQ(GetProblems(), "the file cannot be deleted: Operation not permitted. Check the permissions of its folder.\n");
 	}
 
-	TEST_F(HostFilesTest, TheFileManagerCopiesOverWhatMayBeReplaced)
+	TEST_F(FilesOnDisk, TheFileManagerCopiesOverWhatMayBeReplaced)
 	{
 		const std::string Bytes("a\0b\n", 4);
 		Folder.Write("Source", Bytes);
@@ -574,7 +574,7 @@ namespace
 		EXPECT_EQ(Folder.Read("Old"), Bytes);
 	}
 
-	TEST_F(HostFilesTest, TheFileManagerFindsFilesByExtension)
+	TEST_F(FilesOnDisk, TheFileManagerFindsFilesByExtension)
 	{
 		for (const char* Name : {"Fonts/b.ttf", "Fonts/a.ttf", "Fonts/a.woff2", "Fonts/attf", "Fonts/Deep/c.ttf"})
 		{
