@@ -12,7 +12,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-namespace
+namespace ProgramRun
 {
 	const char* const Binary = VELMORANT_BINARY_DIR "/velmorant";
 

@@ -17,42 +17,39 @@
 
 namespace RunCommand
 {
-	namespace
+	/** Tells what is wrong with the files that were named. */
+	bool CheckFiles(const FRunArguments& Arguments)
 	{
-		/** Tells what is wrong with the files that were named. */
-		bool CheckFiles(const FRunArguments& Arguments)
+		const HostFiles::EKind Kind = Arguments.Service.IsEmpty() ? HostFiles::EKind::File : HostFiles::GetKind(Arguments.Service);
+		if (Kind != HostFiles::EKind::File)
 		{
-			const HostFiles::EKind Kind = Arguments.Service.IsEmpty() ? HostFiles::EKind::File : HostFiles::GetKind(Arguments.Service);
-			if (Kind != HostFiles::EKind::File)
-			{
-				HostProblems::Report(FPaths::ConvertRelativePathToFull(Arguments.Service), 0, Kind == HostFiles::EKind::Missing ? TEXT("there is no such data file") : TEXT("this is no ordinary file, and nothing is read from it"), TEXT("Name the file that the service answers from."));
-			}
-			Refusal::PrintProblems(EExitStatus::Trouble, Arguments.bJson);
-			return HostProblems::GetAll().IsEmpty();
+			HostProblems::Report(FPaths::ConvertRelativePathToFull(Arguments.Service), 0, Kind == HostFiles::EKind::Missing ? TEXT("there is no such data file") : TEXT("this is no ordinary file, and nothing is read from it"), TEXT("Name the file that the service answers from."));
 		}
+		Refusal::PrintProblems(EExitStatus::Trouble, Arguments.bJson);
+		return HostProblems::GetAll().IsEmpty();
+	}
 
-		/** The script's text; false when it cannot be read, which is reported. */
-		bool ReadScript(const FString& Path, FString& OutText)
+	/** The script's text; false when it cannot be read, which is reported. */
+	bool ReadScript(const FString& Path, FString& OutText)
+	{
+		std::string Text;
+		const HostFiles::ERead Read = HostTextFiles::ReadUtf8(Path, Text);
+		if (Read == HostFiles::ERead::Missing)
 		{
-			std::string Text;
-			const HostFiles::ERead Read = HostTextFiles::ReadUtf8(Path, Text);
-			if (Read == HostFiles::ERead::Missing)
-			{
-				HostProblems::Report(FPaths::ConvertRelativePathToFull(Path), 0, TEXT("there is no such script"));
-			}
-			OutText = UTF8_TO_TCHAR(Text.c_str());
-			return Read == HostFiles::ERead::Done;
+			HostProblems::Report(FPaths::ConvertRelativePathToFull(Path), 0, TEXT("there is no such script"));
 		}
+		OutText = UTF8_TO_TCHAR(Text.c_str());
+		return Read == HostFiles::ERead::Done;
+	}
 
-		FEditorHostOptions MakeOptions(const FString& Project, const FRunArguments& Arguments)
+	FEditorHostOptions MakeOptions(const FString& Project, const FRunArguments& Arguments)
+	{
+		FEditorHostOptions Options = EditorArguments::MakeOptions(Project, Arguments.Editor);
+		if (!Arguments.Service.IsEmpty())
 		{
-			FEditorHostOptions Options = EditorArguments::MakeOptions(Project, Arguments.Editor);
-			if (!Arguments.Service.IsEmpty())
-			{
-				Options.CommandLine += FString::Printf(TEXT(" -VelmorantService=\"%s\""), *FPaths::ConvertRelativePathToFull(Arguments.Service));
-			}
-			return Options;
+			Options.CommandLine += FString::Printf(TEXT(" -VelmorantService=\"%s\""), *FPaths::ConvertRelativePathToFull(Arguments.Service));
 		}
+		return Options;
 	}
 
 	EExitStatus Run(const FRunArguments& Arguments)

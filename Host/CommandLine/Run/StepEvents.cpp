@@ -25,12 +25,12 @@ namespace StepEvents
 	}
 
 	/** The service's files belong to the run as the project's do; it tells of them in the log only, as the rest of the toolkit does. */
-	static bool IsServiceTrouble(const FHostLogLine& Line)
+	bool IsServiceTrouble(const FHostLogLine& Line)
 	{
 		return Line.Verbosity <= ELogVerbosity::Error && Line.Category == FName("LogVelmorantSDK");
 	}
 
-	static bool IsShown(const FHostLogLine& Line)
+	bool IsShown(const FHostLogLine& Line)
 	{
 		return Line.Verbosity <= ELogVerbosity::Warning || Line.Category.ToString().StartsWith(TEXT("LogVelmorant"));
 	}
