@@ -10,37 +10,34 @@
 
 namespace LineDifference
 {
-	namespace
+	/** Lines [Begin, End) of the longer text that stand before line At of the shorter one. */
+	struct FRun
 	{
-		/** Lines [Begin, End) of the longer text that stand before line At of the shorter one. */
-		struct FRun
-		{
-			size_t At = 0;
-			size_t Begin = 0;
-			size_t End = 0;
-		};
+		size_t At = 0;
+		size_t Begin = 0;
+		size_t End = 0;
+	};
 
-		/** What has to go from Long so that Short remains. @return false when that is not all there is between them. */
-		bool FindRuns(const FLines& Short, size_t ShortEnd, const FLines& Long, size_t LongEnd, size_t Begin, std::vector<FRun>& OutRuns)
+	/** What has to go from Long so that Short remains. @return false when that is not all there is between them. */
+	bool FindRuns(const FLines& Short, size_t ShortEnd, const FLines& Long, size_t LongEnd, size_t Begin, std::vector<FRun>& OutRuns)
+	{
+		size_t At = Begin;
+		for (size_t Index = Begin; Index < LongEnd; ++Index)
 		{
-			size_t At = Begin;
-			for (size_t Index = Begin; Index < LongEnd; ++Index)
+			if (At < ShortEnd && Short[At] == Long[Index])
 			{
-				if (At < ShortEnd && Short[At] == Long[Index])
-				{
-					++At;
-				}
-				else if (!OutRuns.empty() && OutRuns.back().End == Index)
-				{
-					++OutRuns.back().End;
-				}
-				else
-				{
-					OutRuns.push_back(FRun{At, Index, Index + 1});
-				}
+				++At;
 			}
-			return At == ShortEnd;
+			else if (!OutRuns.empty() && OutRuns.back().End == Index)
+			{
+				++OutRuns.back().End;
+			}
+			else
+			{
+				OutRuns.push_back(FRun{At, Index, Index + 1});
+			}
 		}
+		return At == ShortEnd;
 	}
 
 	FLines Split(std::string_view Text)

@@ -8,13 +8,13 @@
 #include <string>
 #include <utility>
 
-class FCheckSample : public FProjectOnDisk
+class CheckSample : public FProjectOnDisk
 {
 protected:
-	FCheckSample() { CopySample(); }
+	CheckSample() { CopySample(); }
 };
 
-TEST_F(FCheckSample, FindsTheProfileMissingAndChangesNothing)
+TEST_F(CheckSample, FindsTheProfileMissingAndChangesNothing)
 {
 	const FFolderState Before = LookAtFolder(Folder.GetNative());
 	const FProgramResult Result = Check();
@@ -24,7 +24,7 @@ TEST_F(FCheckSample, FindsTheProfileMissingAndChangesNothing)
 	EXPECT_EQ(LookAtFolder(Folder.GetNative()), Before);
 }
 
-TEST_F(FCheckSample, RepairAddsExactlyTheTwoLinesBehindTheLastProfile)
+TEST_F(CheckSample, RepairAddsExactlyTheTwoLinesBehindTheLastProfile)
 {
 	const std::string Before = ReadIni();
 	const FProgramResult Result = Check({"--repair"});
@@ -36,7 +36,7 @@ TEST_F(FCheckSample, RepairAddsExactlyTheTwoLinesBehindTheLastProfile)
 	EXPECT_EQ(ReadIni(), Expected);
 }
 
-TEST_F(FCheckSample, ATranslatedToolkitGetsTheSameVerdict)
+TEST_F(CheckSample, ATranslatedToolkitGetsTheSameVerdict)
 {
 	// The program with other words of the same length where the toolkit has its own.
 	std::string Program = ReadBytes(VELMORANT_BINARY_DIR "/velmorant");
@@ -57,7 +57,7 @@ TEST_F(FCheckSample, ATranslatedToolkitGetsTheSameVerdict)
 	EXPECT_NE(ReadIni().find(CollisionIni::ProfileLine), std::string::npos);
 }
 
-TEST_F(FCheckSample, ARepairedProjectIsSoundAndLeftAlone)
+TEST_F(CheckSample, ARepairedProjectIsSoundAndLeftAlone)
 {
 	ASSERT_EQ(Check({"--repair"}).ExitStatus, 0);
 	const FFolderState Before = LookAtFolder(Folder.GetNative("Project"));
@@ -68,7 +68,7 @@ TEST_F(FCheckSample, ARepairedProjectIsSoundAndLeftAlone)
 	EXPECT_EQ(LookAtFolder(Folder.GetNative("Project")), Before);
 }
 
-TEST_F(FCheckSample, RepairKeepsTheModeOfTheFile)
+TEST_F(CheckSample, RepairKeepsTheModeOfTheFile)
 {
 	const std::filesystem::path Ini = Folder.GetNative(IniFile);
 	const auto Mode = std::filesystem::perms(0640);
@@ -77,13 +77,13 @@ TEST_F(FCheckSample, RepairKeepsTheModeOfTheFile)
 	EXPECT_EQ(std::filesystem::status(Ini).permissions(), Mode);
 }
 
-TEST_F(FCheckSample, TheProjectMayBeNamedByItsFileOrItsFolder)
+TEST_F(CheckSample, TheProjectMayBeNamedByItsFileOrItsFolder)
 {
 	EXPECT_EQ(FProgramRun::Run({"check", GetProject() + "/HarborTower.uproject"}, GetEnvironment()).ExitStatus, 1);
 	EXPECT_EQ(FProgramRun::Run({"check", GetProject() + "/"}, GetEnvironment()).ExitStatus, 1);
 }
 
-TEST_F(FCheckSample, UnreadableMapsDoNotSpoilTheVerdict)
+TEST_F(CheckSample, UnreadableMapsDoNotSpoilTheVerdict)
 {
 	// What a project made with the engine has there.
 	Folder.Write(IniFile, "[/Script/EngineSettings.GameMapsSettings]\nEditorStartupMap=/Game/Maps/Binary.Binary\n\n" + CollisionIni::SectionLine + CollisionIni::GlassLine);

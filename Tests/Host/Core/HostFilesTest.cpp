@@ -11,17 +11,17 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 
-namespace
+namespace FilesOnDisk
 {
 	std::string Flushed; // a letter for each flush: of a file or of a directory
 	bool bFlushFails = false;
 
 	const char* const LeftReadOnly = "the file is read-only and was left as it is. Make it writable, or check it out in version control.\n";
 
-	class HostFilesTest : public FEditorFilesTest
+	class FilesOnDisk : public FEditorFilesTest
 	{
 	protected:
-		~HostFilesTest() override { HostFiles::SetBeforeRename(nullptr); }
+		~FilesOnDisk() override { HostFiles::SetBeforeRename(nullptr); }
 
 		void SetMode(std::string_view File, mode_t Mode) const { ASSERT_EQ(chmod(Folder.GetNative(File).c_str(), Mode), 0); }
 
@@ -52,7 +52,7 @@ namespace
 		}
 	};
 
-	TEST_F(HostFilesTest, ReplacesAFileWithoutTouchingTheOldOne)
+	TEST_F(FilesOnDisk, ReplacesAFileWithoutTouchingTheOldOne)
 	{
 		Folder.Write("File", "old");
 		const ino_t Before = GetStatus("File").st_ino;
@@ -65,7 +65,7 @@ namespace
 		EXPECT_EQ(Old, "old");
 	}
 
-	TEST_F(HostFilesTest, KeepsTheModeOfAnExistingFile)
+	TEST_F(FilesOnDisk, KeepsTheModeOfAnExistingFile)
 	{
 		for (const mode_t Mode : {0640u, 01666u, 0200u})
 		{
@@ -77,7 +77,7 @@ namespace
 		}
 	}
 
-	TEST_F(HostFilesTest, KeepsTheOwnerWhereItMay)
+	TEST_F(FilesOnDisk, KeepsTheOwnerWhereItMay)
 	{
 		if (geteuid() != 0)
 		{
@@ -90,7 +90,7 @@ namespace
 		EXPECT_EQ(GetStatus("File").st_gid, 1234u);
 	}
 
-	TEST_F(HostFilesTest, WritesThroughSymbolicLinks)
+	TEST_F(FilesOnDisk, WritesThroughSymbolicLinks)
 	{
 		struct FCase
 		{
@@ -114,7 +114,7 @@ namespace
 		}
 	}
 
-	TEST_F(HostFilesTest, RefusesWhatMustNotBeReplaced)
+	TEST_F(FilesOnDisk, RefusesWhatMustNotBeReplaced)
 	{
 		Folder.Write("ReadOnly", "old");
 		SetMode("ReadOnly", 0444);
@@ -149,7 +149,7 @@ namespace
 		EXPECT_EQ(Folder.Read("ReadOnly"), "new");
 	}
 
-	TEST_F(HostFilesTest, AReadOnlyFileThatHoldsTheBytesAlreadyIsNoProblem)
+	TEST_F(FilesOnDisk, AReadOnlyFileThatHoldsTheBytesAlreadyIsNoProblem)
 	{
 		Folder.Write("ReadOnly", "same");
 		SetMode("ReadOnly", 0444);
@@ -159,7 +159,7 @@ namespace
 		EXPECT_EQ(GetProblems(), "");
 	}
 
-	TEST_F(HostFilesTest, ACrashBetweenWriteAndRenameLeavesTheOldFileAndIsTidiedUp)
+	TEST_F(FilesOnDisk, ACrashBetweenWriteAndRenameLeavesTheOldFileAndIsTidiedUp)
 	{
 		Folder.Write("sub/File", "old");
 		const int Status = Wait(Fork([this] {
@@ -175,7 +175,7 @@ namespace
 		EXPECT_EQ(Folder.Count("sub"), 1u);
 	}
 
-	TEST_F(HostFilesTest, WhatOthersCallTemporaryIsTheirs)
+	TEST_F(FilesOnDisk, WhatOthersCallTemporaryIsTheirs)
 	{
 		const std::vector<std::string> Theirs = {"Config/.velmorant-1-.tmp", "Config/.velmorant-1-2.tmp~", "Config/.velmorant-1-x.tmp", "Config/.velmorant-notes.tmp", "Config/.velmorant.tmp", "Config/File.ini.tmp", "Config/a.velmorant-1-2.tmp"};
 		for (const std::string& File : Theirs)
@@ -191,7 +191,7 @@ namespace
 		EXPECT_EQ(Folder.Read(Theirs[0]), "theirs");
 	}
 
-	TEST_F(HostFilesTest, AWriteThatFailsHalfWayIsToldEachTimeAndLeavesNothing)
+	TEST_F(FilesOnDisk, AWriteThatFailsHalfWayIsToldEachTimeAndLeavesNothing)
 	{
 		std::vector<std::string> Told;
 		HostProblems::SetNotWrittenListener([&Told](const FHostProblem& Problem) { Told.push_back(ToUtf8(HostProblems::ToString(Problem))); });
@@ -209,7 +209,7 @@ namespace
 		EXPECT_TRUE(HostFiles::GetWrittenFiles().IsEmpty());
 	}
 
-	TEST_F(HostFilesTest, AsksBeforeAReadOnlyFileOfAProjectUnderVersionControlIsWritten)
+	TEST_F(FilesOnDisk, AsksBeforeAReadOnlyFileOfAProjectUnderVersionControlIsWritten)
 	{
 		const struct
 		{
@@ -277,7 +277,7 @@ namespace
 		}
 	}
 
-	TEST_F(HostFilesTest, AFileThatGoesDuringTheQuestionIsNotWritten)
+	TEST_F(FilesOnDisk, AFileThatGoesDuringTheQuestionIsNotWritten)
 	{
 		Folder.Write(".git", "");
 		Folder.Write("File", "old");
@@ -290,7 +290,7 @@ namespace
 		EXPECT_EQ(GetProblems(), "the file cannot be made writable: No such file or directory. Check whose file it is.\n");
 	}
 
-	TEST_F(HostFilesTest, AsksNothingWhereNothingIsAtStake)
+	TEST_F(FilesOnDisk, AsksNothingWhereNothingIsAtStake)
 	{
 		Folder.Write(".git", "");
 		Folder.Write("File", "old");
@@ -306,7 +306,7 @@ namespace
 		EXPECT_EQ(GetStatus("File").st_mode & 0777, 0444u);
 	}
 
-	TEST_F(HostFilesTest, ReadsWhatIsThereAndSaysWhatIsNot)
+	TEST_F(FilesOnDisk, ReadsWhatIsThereAndSaysWhatIsNot)
 	{
 		Folder.Write("File", "text");
 		std::string Bytes = "left over";
@@ -324,7 +324,7 @@ namespace
 		EXPECT_EQ(Bytes, std::string(std::istreambuf_iterator<char>(Endless), {}));
 	}
 
-	TEST_F(HostFilesTest, ResolvesPathsToWhereTheyLead)
+	TEST_F(FilesOnDisk, ResolvesPathsToWhereTheyLead)
 	{
 		Folder.Write("Real/File", "");
 		std::filesystem::create_directory_symlink("Real", Folder.GetNative("Link"));
@@ -350,7 +350,7 @@ namespace
 		}
 	}
 
-	TEST_F(HostFilesTest, TheNewFileIsCompleteBeforeTheOldOneGoes)
+	TEST_F(FilesOnDisk, TheNewFileIsCompleteBeforeTheOldOneGoes)
 	{
 		static std::string Seen;
 		Seen.clear();
@@ -366,7 +366,7 @@ namespace
 		EXPECT_EQ(Seen, "new|old|");
 	}
 
-	TEST_F(HostFilesTest, WhatCannotBeWrittenToTheEndOrFlushedIsNotWritten)
+	TEST_F(FilesOnDisk, WhatCannotBeWrittenToTheEndOrFlushedIsNotWritten)
 	{
 		Flushed.clear();
 		ASSERT_TRUE(Write("File", "old"));
@@ -390,7 +390,7 @@ namespace
 		}
 	}
 
-	TEST_F(HostFilesTest, WritesWithoutAStandardInput)
+	TEST_F(FilesOnDisk, WritesWithoutAStandardInput)
 	{
 		std::filesystem::create_directory(Folder.GetNative("sub"));
 		const int Status = Wait(Fork([this] {
@@ -406,7 +406,7 @@ namespace
 		EXPECT_EQ(Status, 0);
 	}
 
-	TEST_F(HostFilesTest, ListsWrittenFilesOnceInOrder)
+	TEST_F(FilesOnDisk, ListsWrittenFilesOnceInOrder)
 	{
 		Write("b", "1");
 		Write("a", "1");
@@ -414,7 +414,7 @@ namespace
 		EXPECT_EQ(ToUtf8(HostFiles::GetWrittenFiles()), (std::vector<std::string>{ToUtf8(Folder.Get("b")), ToUtf8(Folder.Get("a"))}));
 	}
 
-	TEST_F(HostFilesTest, FilesOfTheUsersSettingsAreForTheirOwnerOnly)
+	TEST_F(FilesOnDisk, FilesOfTheUsersSettingsAreForTheirOwnerOnly)
 	{
 		ASSERT_TRUE(Write("settings/sub/User.json", "{}"));
 		ASSERT_TRUE(Write("project/File", "{}"));
@@ -426,7 +426,7 @@ namespace
 		EXPECT_EQ(GetStatus("settings/sub/User.json").st_mode & 0777, 0600u) << "who could read it before cannot any longer";
 	}
 
-	TEST_F(HostFilesTest, FindsFilesInAllFoldersSortedAndWithoutGoingInCircles)
+	TEST_F(FilesOnDisk, FindsFilesInAllFoldersSortedAndWithoutGoingInCircles)
 	{
 		Folder.Write("Content/b.json", "");
 		Folder.Write("Content/A/c.json", "");
@@ -442,7 +442,7 @@ namespace
 		EXPECT_EQ(ToUtf8(HostFiles::FindDirectories(Folder.Get("Content"))), ToUtf8(TArray<FString>{Folder.Get("Content/0"), Folder.Get("Content/A"), Folder.Get("Content/Z")}));
 	}
 
-	TEST_F(HostFilesTest, AnOverlayShowsWritesAndLeavesTheDiskAlone)
+	TEST_F(FilesOnDisk, AnOverlayShowsWritesAndLeavesTheDiskAlone)
 	{
 		Folder.Write("Content/kept.json", "disk");
 		Folder.Write("Content/gone.json", "disk");
@@ -469,7 +469,7 @@ namespace
 		EXPECT_FALSE(Pending[2].bDeleted);
 	}
 
-	TEST_F(HostFilesTest, AnOverlayKnowsFoldersAndForgetsWhatIsDeleted)
+	TEST_F(FilesOnDisk, AnOverlayKnowsFoldersAndForgetsWhatIsDeleted)
 	{
 		using EKind = HostFiles::EKind;
 		Folder.Write("Content/disk.json", "disk");
@@ -504,7 +504,7 @@ namespace
 		EXPECT_FALSE(Folder.Exists("Made"));
 	}
 
-	TEST_F(HostFilesTest, AnOverlayRefusesWhatTheDiskWouldRefuse)
+	TEST_F(FilesOnDisk, AnOverlayRefusesWhatTheDiskWouldRefuse)
 	{
 		Folder.Write("ReadOnly", "old");
 		SetMode("ReadOnly", 0444);
@@ -513,7 +513,7 @@ namespace
 		EXPECT_EQ(GetProblems(), LeftReadOnly);
 	}
 
-	TEST_F(HostFilesTest, AnOverlayEndsWithItsEditor)
+	TEST_F(FilesOnDisk, AnOverlayEndsWithItsEditor)
 	{
 		HostFiles::BeginOverlay();
 		Write("File", "overlay");
@@ -522,7 +522,7 @@ namespace
 		EXPECT_FALSE(HostFiles::FileExists(Folder.Get("File")));
 	}
 
-	TEST_F(HostFilesTest, ALockKeepsOtherProcessesOutUntilTheLastOfItsNestedLocksGoes)
+	TEST_F(FilesOnDisk, ALockKeepsOtherProcessesOutUntilTheLastOfItsNestedLocksGoes)
 	{
 		const auto IsFreeForOthers = [this] {
 			return Wait(Fork([this] {
@@ -542,7 +542,7 @@ namespace
 		EXPECT_TRUE(IsFreeForOthers());
 	}
 
-	TEST_F(HostFilesTest, ChecksBeforehandWhetherAFileCouldBeWritten)
+	TEST_F(FilesOnDisk, ChecksBeforehandWhetherAFileCouldBeWritten)
 	{
 		Folder.Write("Config/Fine.ini", "");
 		Folder.Write("Config/ReadOnly.ini", "");
@@ -558,7 +558,7 @@ namespace
 		EXPECT_FALSE(Folder.Exists("New"));
 	}
 
-	TEST_F(HostFilesTest, TheFileManagerDeletesAndToleratesWhatIsNotThere)
+	TEST_F(FilesOnDisk, TheFileManagerDeletesAndToleratesWhatIsNotThere)
 	{
 		Folder.Write("File", "");
 		Folder.Write("ReadOnly", "");
@@ -576,7 +576,7 @@ namespace
 		EXPECT_EQ(GetProblems(), "the file cannot be deleted: Operation not permitted. Check the permissions of its folder.\n");
 	}
 
-	TEST_F(HostFilesTest, TheFileManagerCopiesOverWhatMayBeReplaced)
+	TEST_F(FilesOnDisk, TheFileManagerCopiesOverWhatMayBeReplaced)
 	{
 		const std::string Bytes("a\0b\n", 4);
 		Folder.Write("Source", Bytes);
@@ -596,7 +596,7 @@ namespace
 		EXPECT_EQ(Folder.Read("Old"), Bytes);
 	}
 
-	TEST_F(HostFilesTest, TheFileManagerFindsFilesByExtension)
+	TEST_F(FilesOnDisk, TheFileManagerFindsFilesByExtension)
 	{
 		for (const char* Name : {"Fonts/b.ttf", "Fonts/a.ttf", "Fonts/a.woff2", "Fonts/attf", "Fonts/Deep/c.ttf"})
 		{
@@ -619,7 +619,7 @@ extern "C" int fsync(int File)
 {
 	struct stat Status = {};
 	fstat(File, &Status);
-	Flushed += S_ISDIR(Status.st_mode) ? 'd' : 'f';
+	FilesOnDisk::Flushed += S_ISDIR(Status.st_mode) ? 'd' : 'f';
 	errno = EIO;
-	return bFlushFails ? -1 : 0;
+	return FilesOnDisk::bFlushFails ? -1 : 0;
 }
