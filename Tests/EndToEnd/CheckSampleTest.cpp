@@ -48,9 +48,10 @@ TEST_F(CheckSample, ATranslatedToolkitGetsTheSameVerdict)
 		ASSERT_NE(Program.find(Own), std::string::npos);
 		Program = CollisionIni::Replace(Program, Own, std::string(reinterpret_cast<const char*>(To), Length));
 	}
-	Folder.Write("translated", Program);
-	std::filesystem::permissions(Folder.GetNative("translated"), std::filesystem::perms::owner_all);
-	const std::string Call = "cd '" + Folder.GetNative().string() + "' && XDG_CONFIG_HOME=$PWD/UserConfig XDG_STATE_HOME=$PWD/UserState ./translated check --repair Project >out";
+	Folder.Write("bin/translated", Program);
+	std::filesystem::permissions(Folder.GetNative("bin/translated"), std::filesystem::perms::owner_all);
+	std::filesystem::create_directory_symlink(VELMORANT_BINARY_DIR "/../share", Folder.GetNative("share"));
+	const std::string Call = "cd '" + Folder.GetNative().string() + "' && XDG_CONFIG_HOME=$PWD/UserConfig XDG_STATE_HOME=$PWD/UserState bin/translated check --repair Project >out";
 	EXPECT_EQ(std::system(Call.c_str()), 0);
 	EXPECT_NE(Folder.Read("out").find("Notification: Velmorant: Profil UnitVolume fehlt"), std::string::npos) << Folder.Read("out");
 	EXPECT_NE(ReadIni().find(CollisionIni::ProfileLine), std::string::npos);

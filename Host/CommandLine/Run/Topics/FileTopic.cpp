@@ -1,10 +1,10 @@
 // Copyright Velmorant. All Rights Reserved.
 // Files of the project: what stands in them, what changed, what was written. Files elsewhere are nobody's business here.
 
-#include "Check/LineDifference.h"
 #include "Containers/StringConv.h"
 #include "HostFiles.h"
 #include "HostTextFiles.h"
+#include "LineDifference.h"
 #include "Run/ScriptContext.h"
 #include "Run/ScriptTopics.h"
 
