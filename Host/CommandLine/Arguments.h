@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "Containers/Array.h"
 #include "Containers/UnrealString.h"
 #include "EditorArguments.h"
 #include "ExitStatus.h"
@@ -28,11 +29,28 @@ struct FRunArguments
 	bool bJson = false;
 };
 
+/** velmorant install PLUGIN-FOLDER [--dry-run] [--with-tests] [--force] */
+struct FInstallArguments
+{
+	FString PluginFolder;
+	bool bDryRun = false;
+	bool bWithTests = false;
+	bool bForce = false;
+};
+
+/** velmorant contract PLUGIN-FOLDER… */
+struct FContractArguments
+{
+	TArray<FString> PluginFolders;
+};
+
 /** What the program was asked to do: exactly one of these is set. */
 struct FArguments
 {
 	TOptional<FCheckArguments> Check;
 	TOptional<FRunArguments> Run;
+	TOptional<FInstallArguments> Install;
+	TOptional<FContractArguments> Contract;
 };
 
 namespace Arguments

@@ -4,6 +4,8 @@
 #include "Check/CheckCommand.h"
 #include "Console.h"
 #include "HostLocale.h"
+#include "Install/ContractCommand.h"
+#include "Install/InstallCommand.h"
 #include "ProgramFault.h"
 #include "Run/RunCommand.h"
 
@@ -13,7 +15,19 @@ namespace VelmorantMain
 {
 	EExitStatus Run(const FArguments& Arguments)
 	{
-		return Arguments.Check.IsSet() ? CheckCommand::Run(Arguments.Check.GetValue()) : RunCommand::Run(Arguments.Run.GetValue());
+		if (Arguments.Check.IsSet())
+		{
+			return CheckCommand::Run(Arguments.Check.GetValue());
+		}
+		if (Arguments.Install.IsSet())
+		{
+			return InstallCommand::Run(Arguments.Install.GetValue());
+		}
+		if (Arguments.Contract.IsSet())
+		{
+			return ContractCommand::Run(Arguments.Contract.GetValue());
+		}
+		return RunCommand::Run(Arguments.Run.GetValue());
 	}
 
 	EExitStatus RunGuarded(const FArguments& Arguments)
