@@ -4,7 +4,7 @@
 #include "CountOccurrences.h"
 #include "Editor.h"
 #include "Engine/World.h"
-#include "FontIconImporter.h"
+#include "Icons/FontIconImporter.h"
 #include "FontPackage.h"
 #include "HostDetailsView.h"
 #include "HostSnapshot.h"

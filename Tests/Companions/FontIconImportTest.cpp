@@ -1,6 +1,6 @@
 // Copyright Velmorant. All Rights Reserved.
 
-#include "FontIconImporter.h"
+#include "Icons/FontIconImporter.h"
 
 #include "HostPackages.h"
 #include "ToolkitTest.h"
@@ -198,7 +198,7 @@ TEST_F(FontIconImport, AMalformedFileIsToldWithItsPlaceAndLeavesTheOldIcons)
 		EXPECT_EQ(ToUtf8(Result.Error->Place).empty(), std::string(Case.Place).empty());
 		EXPECT_THAT(ToUtf8(Result.Error->Reason), HasSubstr(Case.Reason));
 		EXPECT_FALSE(Result.Error->Remedy.IsEmpty());
-		EXPECT_THAT(ToUtf8(LogOf(TEXT("LogVelmorantProUI")).Last()), HasSubstr(ToUtf8(Result.Error->ToString())));
+		EXPECT_THAT(ToUtf8(LogOf(TEXT("LogVelmorantFontIcons")).Last()), HasSubstr(ToUtf8(Result.Error->ToString())));
 		EXPECT_EQ(Describe(GetTable()), Icons);
 		EXPECT_TRUE(HostPackages::GetDirtyPackages().IsEmpty());
 		EXPECT_EQ(ReadProjectFile("Config/DefaultGame.ini"), Settings);

@@ -1,7 +1,7 @@
 // Copyright Velmorant. All Rights Reserved.
 // The icon font as users have it, if it has been downloaded.
 
-#include "FontIconImporter.h"
+#include "Icons/FontIconImporter.h"
 #include "FontPackage.h"
 #include "HostPackages.h"
 #include "ToolkitTest.h"

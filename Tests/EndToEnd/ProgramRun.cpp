@@ -14,8 +14,6 @@
 
 namespace
 {
-	const char* const Binary = VELMORANT_BINARY_DIR "/velmorant";
-
 	std::string ReadAll(const std::string& Path)
 	{
 		std::ifstream Stream(Path, std::ios::binary);
@@ -56,17 +54,19 @@ namespace
 		{
 			setenv(Name.c_str(), Value.c_str(), 1);
 		}
-		std::vector<char*> Values = {const_cast<char*>(Binary)};
+		std::vector<char*> Values = {FProgramRun::Program.data()};
 		for (const std::string& Argument : Arguments)
 		{
 			Values.push_back(const_cast<char*>(Argument.c_str()));
 		}
 		Values.push_back(nullptr);
 		alarm(120); // seconds
-		execv(Binary, Values.data());
+		execv(FProgramRun::Program.c_str(), Values.data());
 		_exit(127);
 	}
 }
+
+std::string FProgramRun::Program = VELMORANT_BINARY_DIR "/velmorant";
 
 FProgramRun::FProgramRun(const std::vector<std::string>& Arguments, const FEnvironment& Environment, EOutput Output)
 {

@@ -22,10 +22,13 @@ namespace RunCommand
 		/** Tells what is wrong with the files that were named. */
 		bool CheckFiles(const FRunArguments& Arguments)
 		{
-			const HostFiles::EKind Kind = Arguments.Service.IsEmpty() ? HostFiles::EKind::File : HostFiles::GetKind(Arguments.Service);
-			if (Kind != HostFiles::EKind::File)
+			for (const FRunInput& Input : Arguments.Inputs)
 			{
-				HostProblems::Report(FPaths::ConvertRelativePathToFull(Arguments.Service), 0, Kind == HostFiles::EKind::Missing ? TEXT("there is no such data file") : TEXT("this is no ordinary file, and nothing is read from it"), TEXT("Name the file that the service answers from."));
+				const HostFiles::EKind Kind = HostFiles::GetKind(Input.Path);
+				if (Kind != HostFiles::EKind::File)
+				{
+					HostProblems::Report(FPaths::ConvertRelativePathToFull(Input.Path), 0, Kind == HostFiles::EKind::Missing ? *Input.Missing : TEXT("this is no ordinary file, and nothing is read from it"), *Input.Remedy);
+				}
 			}
 			Refusal::PrintProblems(EExitStatus::Trouble, Arguments.bJson);
 			return HostProblems::GetAll().IsEmpty();
@@ -47,9 +50,9 @@ namespace RunCommand
 		FEditorHostOptions MakeOptions(const FString& Project, const FRunArguments& Arguments)
 		{
 			FEditorHostOptions Options = EditorArguments::MakeOptions(Project, Arguments.Editor);
-			if (!Arguments.Service.IsEmpty())
+			for (const FRunInput& Input : Arguments.Inputs)
 			{
-				Options.CommandLine += FString::Printf(TEXT(" -VelmorantService=\"%s\""), *FPaths::ConvertRelativePathToFull(Arguments.Service));
+				Options.CommandLine += FString::Printf(TEXT(" -%s=\"%s\""), *Input.Switch, *FPaths::ConvertRelativePathToFull(Input.Path));
 			}
 			return Options;
 		}

@@ -35,9 +35,10 @@ namespace Script
 		template<typename EntryType>
 		const EntryType* FindEntry(const FScriptLine& Line, int32 First, TConstArrayView<EntryType> (*GetEntries)(const FScriptTopic&), int32& OutNumWords)
 		{
+			static const TArray<FScriptTopic> Topics = ScriptTopics::GetAll();
 			const EntryType* Best = nullptr;
 			OutNumWords = 0;
-			for (const FScriptTopic& Topic : ScriptTopics::GetAll())
+			for (const FScriptTopic& Topic : Topics)
 			{
 				for (const EntryType& Entry : GetEntries(Topic))
 				{

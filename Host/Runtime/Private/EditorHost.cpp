@@ -113,7 +113,7 @@ void FEditorHost::BringUpEngine(const FEditorHostOptions& Options)
 	{
 		HostPaths::SetProjectDir(Options.Project);
 	}
-	HostPaths::SetPluginDirs(Options.PluginDirs.IsEmpty() ? TArray<FString>{TEXT(VELMORANT_PLUGIN_DIR)} : Options.PluginDirs);
+	HostPaths::SetPluginDirs(Options.PluginDirs.IsEmpty() ? TArray<FString>{HostPaths::FindProgramData(TEXT("Plugins"))} : Options.PluginDirs);
 	if (!Options.UserSettingsDir.IsEmpty())
 	{
 		HostPaths::SetUserSettingsDir(Options.UserSettingsDir);

@@ -8,7 +8,7 @@
 #include "Modules/ModuleManager.h"
 #include "SettingsPage.h"
 #include "UObject/Class.h"
-#include "UObject/PropertyEvents.h"
+#include "UObject/UnrealType.h"
 #include "UObject/UObjectGlobals.h"
 #include "UObject/UObjectHash.h"
 

@@ -7,6 +7,7 @@
 #include "Misc/Paths.h"
 
 #include <cstdlib>
+#include <filesystem>
 #include <pwd.h>
 #include <string>
 #include <unistd.h>
@@ -53,6 +54,28 @@ namespace HostPaths
 		}
 	}
 
+	FString FindProgramData(const TCHAR* Path)
+	{
+		std::error_code Ignored;
+		const std::filesystem::path Program = std::filesystem::read_symlink("/proc/self/exe", Ignored);
+		const std::filesystem::path Data = Program.parent_path().parent_path() / "share/velmorant" / NativePath::FromString(Path);
+		return NativePath::ToString(NativePath::Resolve(NativePath::ToString(Data.string())));
+	}
+
+	FString FindMissingProgramData()
+	{
+		for (const TCHAR* Needed : {TEXT("Engine/Config/BaseEngine.ini"), TEXT("Plugins")})
+		{
+			const FString Full = FindProgramData(Needed);
+			std::error_code Ignored;
+			if (!std::filesystem::exists(NativePath::FromString(Full), Ignored))
+			{
+				return Full;
+			}
+		}
+		return FString();
+	}
+
 	void SetProjectFile(const FString& File)
 	{
 		State.Get().ProjectFile = FPaths::ConvertRelativePathToFull(File);
@@ -84,7 +107,7 @@ namespace HostPaths
 		FString& EngineDir = State.Get().EngineDir;
 		if (EngineDir.IsEmpty())
 		{
-			EngineDir = MakeFolder(FString(VELMORANT_ENGINE_DIR));
+			EngineDir = MakeFolder(FindProgramData(TEXT("Engine")));
 		}
 		return EngineDir;
 	}

@@ -2,7 +2,7 @@
 
 #include "Properties/PropertyText.h"
 #include "HostScratchValue.h"
-#include "UObject/GeneratedCode.h"
+#include "HostReflection/GeneratedCode.h"
 #include "UObject/UnrealType.h"
 
 namespace StructText

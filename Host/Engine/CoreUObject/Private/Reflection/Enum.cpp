@@ -3,7 +3,7 @@
 #include "Containers/StringConv.h"
 #include "Reflection/DisplayNames.h"
 #include "UObject/Class.h"
-#include "UObject/GeneratedCode.h"
+#include "HostReflection/GeneratedCode.h"
 
 namespace EnumNames
 {

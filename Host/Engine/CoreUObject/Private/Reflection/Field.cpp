@@ -6,7 +6,7 @@
 #include "Misc/CString.h"
 #include "Reflection/DisplayNames.h"
 #include "UObject/Class.h"
-#include "UObject/GeneratedCode.h"
+#include "HostReflection/GeneratedCode.h"
 
 namespace UE::Reflection
 {

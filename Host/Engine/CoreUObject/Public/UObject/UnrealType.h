@@ -4,7 +4,7 @@
 #pragma once
 
 #include "UObject/Class.h"
-#include "UObject/Property.h"
+#include "HostReflection/Property.h"
 #include "UObject/PropertyPortFlags.h"
 #include "UObject/ScriptDelegates.h"
 #include "UObject/ScriptInterface.h"
@@ -288,7 +288,7 @@ public:
 };
 
 #include "UObject/EnumProperty.h"
-#include "UObject/FieldIterator.h"
-#include "UObject/PropertyContainers.h"
-#include "UObject/PropertyEvents.h"
+#include "HostReflection/FieldIterator.h"
+#include "HostReflection/PropertyContainers.h"
+#include "HostReflection/PropertyEvents.h"
 #include "UObject/TextProperty.h"

@@ -14,7 +14,6 @@ namespace NotificationManager
 	/** The notifications of one editor. */
 	struct FState
 	{
-		FSlateNotificationManager Manager;
 		TArray<TSharedRef<FHostNotification>> History;
 		TArray<TSharedRef<SNotificationItemWidget>> Standing; // oldest first
 		TArray<TUniquePtr<FNotificationInfo>> Queued;
@@ -45,7 +44,7 @@ namespace NotificationManager
 		State.Queued.Empty();
 		for (const TUniquePtr<FNotificationInfo>& Info : Queued)
 		{
-			State.Manager.AddNotification(*Info);
+			FSlateNotificationManager::Get().AddNotification(*Info);
 		}
 		UpdateStanding();
 		State.bTicking = State.Standing.Num() > 0 || State.Queued.Num() > 0;
@@ -78,7 +77,8 @@ namespace NotificationManager
 
 FSlateNotificationManager& FSlateNotificationManager::Get()
 {
-	return NotificationManager::GetState().Manager;
+	static THostState<FSlateNotificationManager> Manager;
+	return Manager.Get();
 }
 
 TSharedPtr<SNotificationItem> FSlateNotificationManager::AddNotification(const FNotificationInfo& Info)

@@ -36,6 +36,12 @@ namespace SlateApplication
 	}
 }
 
+class FHostSlateAccess
+{
+public:
+	static TUniquePtr<FSlateApplication> Make() { return TUniquePtr<FSlateApplication>(new FSlateApplication()); }
+};
+
 FSlateApplication::FSlateApplication()
 	: Renderer(SlateApplication::MakeRenderer())
 {
@@ -63,7 +69,7 @@ void HostSlate::Start()
 {
 	if (!FSlateApplication::IsInitialized())
 	{
-		SlateApplication::GetState().Application = MakeUnique<FSlateApplication>();
+		SlateApplication::GetState().Application = FHostSlateAccess::Make();
 	}
 }
 
