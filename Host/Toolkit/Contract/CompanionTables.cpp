@@ -9,6 +9,7 @@
 #include <map>
 #include <regex>
 #include <sstream>
+#include <stdexcept>
 
 namespace CompanionTables
 {
@@ -103,8 +104,14 @@ namespace CompanionTables
 			{
 				const std::vector<std::string> NewHeader = CodeIn(Cells.at(0));
 				Header = NewHeader.empty() ? Header : NewHeader[0];
-				const std::string Text = CodeIn(Cells.at(1)).at(0);
-				FExpectedName Name{Module, Header, NameOfType(Text), "", Text, Cells[1].starts_with("given:"), {}};
+				static const std::regex TypePattern("^(given|chosen): `");
+				std::smatch Origin;
+				if (!std::regex_search(Cells.at(1), Origin, TypePattern))
+				{
+					throw std::out_of_range(Cells[1]);
+				}
+				const std::string Text = CodeIn(Cells[1]).at(0);
+				FExpectedName Name{Module, Header, NameOfType(Text), "", Text, Origin[1] == "given", {}};
 				Names.push_back(Name);
 				for (const size_t Column : {2, 3})
 				{

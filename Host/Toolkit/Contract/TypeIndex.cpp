@@ -61,6 +61,5 @@ FTypePlace FTypeIndex::FindMember(const FTypePlace& Type, const std::string& Mem
 bool FTypeIndex::DerivesFrom(const FTypePlace& Type, const std::string& Base) const
 {
 	const std::vector<FTypePlace> Chain = GetChain(Type);
-	return std::any_of(Chain.begin(), Chain.end(), [&Base](const FTypePlace& Each) {
-		return std::find(Each.Type->Bases.begin(), Each.Type->Bases.end(), Base) != Each.Type->Bases.end(); });
+	return std::any_of(Chain.begin(), Chain.end(), [&Base](const FTypePlace& Each) { return std::find(Each.Type->Bases.begin(), Each.Type->Bases.end(), Base) != Each.Type->Bases.end(); });
 }
