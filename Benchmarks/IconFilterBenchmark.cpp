@@ -4,10 +4,10 @@
 #include "CountOccurrences.h"
 #include "Editor.h"
 #include "Engine/World.h"
-#include "Icons/FontIconImporter.h"
 #include "FontPackage.h"
 #include "HostDetailsView.h"
 #include "HostSnapshot.h"
+#include "Icons/FontIconImporter.h"
 #include "VelmorantLevelActors.h"
 #include "VelmorantUISubsystem.h"
 

@@ -1,7 +1,6 @@
 // Copyright Velmorant. All Rights Reserved.
 
 #include "Check/CheckReport.h"
-#include "Check/LineDifference.h"
 #include "Check/RepairRecord.h"
 #include "Check/ToolkitVerdict.h"
 #include "Check/UnifiedDifference.h"
@@ -9,6 +8,7 @@
 #include "EditorHost.h"
 #include "HostPaths.h"
 #include "HostState.h"
+#include "LineDifference.h"
 #include "Logging/LogMacros.h"
 #include "ProjectOnDisk.h"
 #include "UObject/Package.h"

@@ -2,11 +2,11 @@
 
 #include "Check/FileChanges.h"
 
-#include "Check/LineDifference.h"
 #include "Check/UnifiedDifference.h"
 #include "Containers/StringConv.h"
 #include "HostFiles.h"
 #include "HostTextFiles.h"
+#include "LineDifference.h"
 
 namespace FileChanges
 {

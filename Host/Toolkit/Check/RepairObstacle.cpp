@@ -3,7 +3,7 @@
 #include "Check/RepairObstacle.h"
 
 #include "Check/CollisionLines.h"
-#include "Check/LineDifference.h"
+#include "LineDifference.h"
 #include "Misc/Paths.h"
 
 #include <string_view>

@@ -2,10 +2,10 @@
 
 #include "Check/RepairRecord.h"
 
-#include "Check/LineDifference.h"
 #include "HostPaths.h"
 #include "HostProblems.h"
 #include "JsonText.h"
+#include "LineDifference.h"
 
 #include <algorithm>
 #include <cinttypes>

@@ -2,7 +2,7 @@
 
 #include "Check/UnifiedDifference.h"
 
-#include "Check/LineDifference.h"
+#include "LineDifference.h"
 
 #include <algorithm>
 #include <vector>

@@ -4,9 +4,9 @@
 
 #include "Icons/IconFamiliesReader.h"
 #include "Icons/ImportedIconFont.h"
+#include "Icons/WebFontFiles.h"
 #include "Misc/FileHelper.h"
 #include "Misc/Paths.h"
-#include "Icons/WebFontFiles.h"
 
 DEFINE_LOG_CATEGORY_STATIC(LogVelmorantFontIcons, Log, All);
 

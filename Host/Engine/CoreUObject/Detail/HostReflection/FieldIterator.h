@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "UObject/Class.h"
 #include "HostReflection/Property.h"
+#include "UObject/Class.h"
 
 #include <type_traits>
 

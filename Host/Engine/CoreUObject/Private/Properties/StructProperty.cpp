@@ -1,8 +1,8 @@
 // Copyright Velmorant. All Rights Reserved.
 
-#include "Properties/PropertyText.h"
-#include "HostScratchValue.h"
 #include "HostReflection/GeneratedCode.h"
+#include "HostScratchValue.h"
+#include "Properties/PropertyText.h"
 #include "UObject/UnrealType.h"
 
 namespace StructText

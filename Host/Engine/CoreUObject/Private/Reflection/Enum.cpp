@@ -1,9 +1,9 @@
 // Copyright Velmorant. All Rights Reserved.
 
 #include "Containers/StringConv.h"
+#include "HostReflection/GeneratedCode.h"
 #include "Reflection/DisplayNames.h"
 #include "UObject/Class.h"
-#include "HostReflection/GeneratedCode.h"
 
 namespace EnumNames
 {

@@ -3,10 +3,10 @@
 #include "UObject/Field.h"
 
 #include "Containers/StringConv.h"
+#include "HostReflection/GeneratedCode.h"
 #include "Misc/CString.h"
 #include "Reflection/DisplayNames.h"
 #include "UObject/Class.h"
-#include "HostReflection/GeneratedCode.h"
 
 namespace UE::Reflection
 {

@@ -5,11 +5,11 @@
 
 #include "Containers/Array.h"
 #include "Delegates/DelegateInstancesImpl.h"
+#include "HostReflection/ParameterBlock.h"
+#include "HostReflection/ReflectedHandler.h"
 #include "Misc/AssertionMacros.h"
 #include "UObject/NameTypes.h"
 #include "UObject/ObjectPtr.h"
-#include "HostReflection/ParameterBlock.h"
-#include "HostReflection/ReflectedHandler.h"
 #include "UObject/WeakObjectPtr.h"
 
 #include <type_traits>

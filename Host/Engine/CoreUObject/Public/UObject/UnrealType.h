@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "UObject/Class.h"
 #include "HostReflection/Property.h"
+#include "UObject/Class.h"
 #include "UObject/PropertyPortFlags.h"
 #include "UObject/ScriptDelegates.h"
 #include "UObject/ScriptInterface.h"
@@ -287,8 +287,8 @@ public:
 	DECLARE_PROPERTY_TEXT()
 };
 
-#include "UObject/EnumProperty.h"
 #include "HostReflection/FieldIterator.h"
 #include "HostReflection/PropertyContainers.h"
 #include "HostReflection/PropertyEvents.h"
+#include "UObject/EnumProperty.h"
 #include "UObject/TextProperty.h"

@@ -1,6 +1,6 @@
 // Copyright Velmorant. All Rights Reserved.
 
-#include "Check/LineDifference.h"
+#include "LineDifference.h"
 
 #include "Containers/StringConv.h"
 
