@@ -247,7 +247,7 @@ TEST_F(FInstall, ShowsBeforehandWhatItWouldDo)
 	const std::string Source = Folder.Read(Plugin + "/" + ModuleFile);
 	EXPECT_THAT(Shown, HasSubstr("--- " + ModuleFile + "\n+++ " + ModuleFile + "\n@@ -1 +1," + std::to_string(CountOf(Source, "\n")) + " @@\n-// mine\n+// Copyright"));
 	EXPECT_THAT(Shown, HasSubstr("--- /dev/null\n+++ Source/VelmorantProEditor/VelmorantProEditor.Build.cs\n@@ -0,0 +1,"));
-	EXPECT_THAT(Shown, HasSubstr("--- VelmorantPro.uplugin\n+++ VelmorantPro.uplugin\n@@ -1,6 +1,11 @@\n {\n \t\"FileVersion\": 3,\n \t\"Modules\": [\n-\t\t{ \"Name\": \"VelmorantPro\", \"Type\": \"Runtime\", \"LoadingPhase\": \"PreDefault\" }\n-\t]\n+\t\t{ \"Name\": \"VelmorantPro\", \"Type\": \"Runtime\", \"LoadingPhase\": \"PreDefault\" },\n+\t\t" + ModuleEntry() + "\n+\t],\n"));
+	EXPECT_THAT(Shown, HasSubstr("--- VelmorantPro.uplugin\n+++ VelmorantPro.uplugin\n@@ -1,6 +1,11 @@\n {\n \t\"FileVersion\": 3,\n \t\"Modules\": [\n-\t\t{ \"Name\": \"VelmorantPro\", \"Type\": \"Runtime\", \"LoadingPhase\": \"PreDefault\" }\n+\t\t{ \"Name\": \"VelmorantPro\", \"Type\": \"Runtime\", \"LoadingPhase\": \"PreDefault\" },\n+\t\t" + ModuleEntry() + "\n+\t],\n+\t\"Plugins\": [\n"));
 	EXPECT_EQ(CountOf(Shown, "\n+++ "), CountOf(Shown, "\n--- "));
 	EXPECT_THAT(Shown, HasSubstr(std::to_string(CountOf(Shown, "\n+++ ")) + " files to write"));
 	EXPECT_THAT(Do({"--dry-run"}).Output, Not(HasSubstr("+++")));

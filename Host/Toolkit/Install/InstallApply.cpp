@@ -1,6 +1,7 @@
 // Copyright Velmorant. All Rights Reserved.
 
 #include "HostFiles.h"
+#include "HostStaging.h"
 #include "Install/InstallFolders.h"
 #include "Misc/Paths.h"
 #include "Install/ModuleInstall.h"
@@ -30,7 +31,7 @@ namespace InstallApply
 		for (const FString& Folder : HostFiles::FindDirectories(Stage / TEXT("Source")))
 		{
 			const FString Target = Plan.PluginFolder / TEXT("Source") / FPaths::GetCleanFilename(Folder);
-			if (!HostFiles::DirectoryExists(Target) && !HostFiles::Move(Folder, Target))
+			if (!HostFiles::DirectoryExists(Target) && !HostStaging::Move(Folder, Target))
 			{
 				return false;
 			}
@@ -38,7 +39,7 @@ namespace InstallApply
 		for (const FInstallFile& File : Plan.Files)
 		{
 			const FString Prepared = Stage / File.Path;
-			if (HostFiles::FileExists(Prepared) && !HostFiles::Move(Prepared, Plan.PluginFolder / File.Path))
+			if (HostFiles::FileExists(Prepared) && !HostStaging::Move(Prepared, Plan.PluginFolder / File.Path))
 			{
 				return false;
 			}
@@ -56,6 +57,6 @@ namespace InstallApply
 bool ModuleInstall::Apply(const FInstallPlan& Plan)
 {
 	const FString Stage = InstallFolders::GetStage(Plan.PluginFolder);
-	const bool bDone = HostFiles::DeleteDirectory(Stage) && InstallApply::Prepare(Plan, Stage) && InstallApply::PutInPlace(Plan, Stage) && InstallApply::WriteDescriptor(Plan);
-	return HostFiles::DeleteDirectory(Stage) && bDone;
+	const bool bDone = HostStaging::DeleteDirectory(Stage) && InstallApply::Prepare(Plan, Stage) && InstallApply::PutInPlace(Plan, Stage) && InstallApply::WriteDescriptor(Plan);
+	return HostStaging::DeleteDirectory(Stage) && bDone;
 }

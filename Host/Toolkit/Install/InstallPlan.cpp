@@ -7,6 +7,7 @@
 #include "Install/DescriptorFile.h"
 #include "HostFiles.h"
 #include "HostProblems.h"
+#include "HostStaging.h"
 #include "Install/InstallFolders.h"
 #include "Misc/Paths.h"
 #include "Install/StyleImages.h"
@@ -113,7 +114,7 @@ namespace InstallPlan
 			}
 			if (File.bExists && !Options.bForce)
 			{
-				const bool bNewer = HostFiles::GetTimeOfChange(Target) > HostFiles::GetTimeOfChange(Source);
+				const bool bNewer = HostStaging::GetTimeOfChange(Target) > HostStaging::GetTimeOfChange(Source);
 				Plan.Obstacles.Add(Target + (bNewer ? TEXT(": differs from the module's file, and is newer. --force overwrites it.") : TEXT(": differs from the module's file. --force overwrites it.")));
 			}
 			Plan.Files.Add(MoveTemp(File));

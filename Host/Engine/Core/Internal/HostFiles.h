@@ -63,20 +63,6 @@ namespace HostFiles
 	/** Creates the folder and those above it. True when it stands afterwards. */
 	bool MakeDirectory(const FString& Path);
 
-	//~ Work that is prepared in a folder of its own and then put in its place. Both refuse to work with an overlay.
-
-	/**
-	 * Gives a file or folder its place, in one step. A file that stands there is replaced; its mode and, where permitted, owner are kept, and
-	 * the rules of Write() hold for it. Both places must be on one file system.
-	 */
-	bool Move(const FString& From, const FString& To);
-
-	/** With all that is in it. True when it is gone afterwards. Links in it go, what they lead to stays. */
-	bool DeleteDirectory(const FString& Path);
-
-	/** Seconds since 1970 at which the file was changed last; 0 for one that is not there. */
-	double GetTimeOfChange(const FString& Path);
-
 	/**
 	 * Full paths of the files below Directory whose names end with Suffix (case counts; empty takes all), in all folders beneath, sorted by
 	 * their bytes. Leftovers of interrupted writes are not files of the project and not listed. A missing folder holds nothing.
