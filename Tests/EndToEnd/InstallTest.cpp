@@ -1,11 +1,10 @@
 // Copyright Velmorant. All Rights Reserved.
 
 #include "HostFiles.h"
-#include "HostProblems.h"
-#include "HostState.h"
 #include "Install/ModuleInstall.h"
 #include "PluginOnDisk.h"
 
+#include <cstdlib>
 #include <gmock/gmock.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -291,6 +290,22 @@ TEST_F(FInstall, LeavesWhereItIsEndedWhatAnotherRunCompletes)
 		}
 		EXPECT_GT(NumKilled, 6);
 	}
+}
+
+TEST_F(FInstall, TakesTheModuleFromBesideAnInstalledProgram)
+{
+	const std::string Built = FProgramRun::Program;
+	const std::filesystem::path Prefix = Folder.GetNative("Installed");
+	const std::string Command = "\"" VELMORANT_CMAKE "\" --install \"" VELMORANT_BINARY_DIR "/..\" --prefix '" + Prefix.string() + "' >/dev/null";
+	ASSERT_EQ(std::system(Command.c_str()), 0) << Command;
+	FProgramRun::Program = (Prefix / "bin/velmorant").string();
+	Do();
+	ExpectModule("VelmorantProEditor");
+	std::filesystem::remove(Prefix / "share/velmorant/Docs/Companions.md");
+	const FProgramResult Result = Compare();
+	EXPECT_EQ(Result.ExitStatus, 3);
+	EXPECT_THAT(Result.Errors, HasSubstr("Companions.md: the tables of what the module expects of its companions are not there, or not readable. Restore the file"));
+	FProgramRun::Program = Built;
 }
 
 TEST_F(FInstall, BringsTheTestsForTheEngineWhenAsked)

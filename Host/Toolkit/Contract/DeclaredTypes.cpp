@@ -87,19 +87,50 @@ namespace DeclaredTypes
 			return bNone ? 0 : Commas + 1;
 		}
 
+		/** What names in a body declare something, and what is only used there. */
+		class FBodyState
+		{
+		public:
+			/** To be told of every word of the body's own level. */
+			void Next(const FToken& Token, bool bEnum)
+			{
+				bValue = (bValue || Token.Is("=")) && !Token.Is(bEnum ? "," : ";") && !Token.Is("}");
+				bInitializers = bInitializers || (Token.Is(":") && Before == ")");
+				Before = Token.Text;
+			}
+
+			/** To be told of what stands behind a brace that was closed: a constructor's body ends what initialises its members. */
+			void EndBlock(const FTokenCursor& Cursor)
+			{
+				bInitializers = bInitializers && (Cursor.Is(",") || Cursor.Is("{"));
+				Before = "}";
+			}
+
+			bool Declares() const { return !bValue && !bInitializers; }
+
+		private:
+			bool bValue = false; // behind an equals sign
+			bool bInitializers = false; // behind a constructor's colon
+			std::string Before;
+		};
+
 		/** From the opening brace. The cursor is a copy: types within are found on their own. */
 		void ReadMembers(FTokenCursor Cursor, bool bEnum, FDeclaredType& Type)
 		{
+			FBodyState State;
 			int Depth = 0;
-			bool bValue = false; // behind an equals sign
 			do
 			{
 				const FToken& Token = Cursor.Next();
 				Depth += Opens(Token) - Closes(Token);
-				if (Depth == 1)
+				if (Depth == 1 && Token.Is("}"))
 				{
-					bValue = (bValue || Token.Is("=")) && !Token.Is(bEnum ? "," : ";") && !Token.Is("}");
-					if (Token.IsIdentifier() && !bValue)
+					State.EndBlock(Cursor);
+				}
+				else if (Depth == 1)
+				{
+					State.Next(Token, bEnum);
+					if (Token.IsIdentifier() && State.Declares())
 					{
 						const bool bConstructor = Token.Text == Type.Name && Cursor.Is("(");
 						Type.Members.emplace(bConstructor ? FDeclaredType::ConstructorName(Type.Name, CountParameters(Cursor)) : Token.Text, Token.Place.Line);
