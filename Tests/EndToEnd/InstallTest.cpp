@@ -4,6 +4,7 @@
 #include "Install/ModuleInstall.h"
 #include "PluginOnDisk.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <gmock/gmock.h>
 #include <sys/wait.h>
@@ -256,10 +257,13 @@ TEST_F(FInstall, LeavesWhereItIsEndedWhatAnotherRunCompletes)
 {
 	Do();
 	const FFolderState Complete = Look();
+	const int NumFiles = static_cast<int>(std::count_if(Complete.begin(), Complete.end(), [](const auto& Each) { return Each.first.find("/VelmorantProEditor/") != std::string::npos && Each.second.first != ""; }));
 	for (const bool bOverwrite : {false, true})
 	{
 		int NumKilled = 0;
-		for (int Rename = 0, bKilled = true; bKilled; Rename += Rename < 70 ? 17 : 1) // of many files alike, the last ones in every step
+		bool bKilled = true;
+		const auto Next = [NumFiles](int Rename) { return Rename + NumFiles / 4 < NumFiles ? Rename + NumFiles / 4 : std::max(Rename + 1, NumFiles - 1); };
+		for (int Rename = 0; bKilled; Rename = Next(Rename)) // of many files alike some, the last ones in every step
 		{
 			SCOPED_TRACE(std::to_string(Rename) + (bOverwrite ? ", over other files" : ""));
 			WriteDescriptor(Descriptor);
