@@ -102,16 +102,20 @@ TEST_F(FContract, NamesThePlaceInTheCompanionsHeader)
 
 TEST_F(FContract, TellsWhereHeadersAndModulesAre)
 {
-	const std::string User = GetPath(FindHeader("VelmorantUser.h"));
-	const std::string Moved = GetPath("Source/VelmorantSDK/Public/Users/VelmorantUser.h");
-	std::filesystem::create_directories(std::filesystem::path(Moved).parent_path());
-	std::filesystem::rename(User, Moved);
-	FProgramResult Result = Compare();
-	EXPECT_EQ(Result.ExitStatus, 0) << "how headers are called was chosen here" << Result.Output;
-	EXPECT_THAT(Result.Output, testing::ContainsRegex("VelmorantUser.h +in another place +" + Moved));
-	EXPECT_THAT(GetChosen(Result), HasSubstr(Moved));
-
-	std::filesystem::remove(Moved);
+	std::string User = GetPath(FindHeader("VelmorantUser.h"));
+	FProgramResult Result;
+	for (const char* Place : {"Source/VelmorantSDK/Public/Users/VelmorantUser.h", "Source/VelmorantSDK/Private/VelmorantUser.h", "Source/VelmorantUsers/Public/VelmorantUser.h"})
+	{
+		const std::string Moved = GetPath(Place);
+		std::filesystem::create_directories(std::filesystem::path(Moved).parent_path());
+		std::filesystem::rename(User, Moved);
+		Result = Compare();
+		EXPECT_EQ(Result.ExitStatus, 0) << "how headers are called was chosen here" << Result.Output;
+		EXPECT_THAT(Result.Output, testing::ContainsRegex("VelmorantUser.h +in another place +" + Moved));
+		EXPECT_THAT(GetChosen(Result), HasSubstr("\n  " + Moved + "("));
+		User = Moved;
+	}
+	std::filesystem::remove(User);
 	Result = Compare();
 	EXPECT_EQ(Result.ExitStatus, 1);
 	EXPECT_THAT(Result.Output, testing::ContainsRegex("VelmorantUser.h +missing"));

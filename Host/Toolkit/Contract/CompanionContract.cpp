@@ -91,6 +91,25 @@ namespace CompanionContract
 			return Result;
 		}
 
+		/** What else the plugins' sources hold: a header or type that has moved to another module is to be found. */
+		void ReadOthers(const TArray<FString>& PluginFolders, FAllHeaders& Modules)
+		{
+			std::set<std::string> Known;
+			for (const FModuleHeaders& Module : Modules)
+			{
+				for (const std::unique_ptr<FModuleHeader>& Header : Module.Headers)
+				{
+					Known.insert(Header->Path);
+				}
+			}
+			for (const FString& Plugin : PluginFolders)
+			{
+				FModuleHeaders Others = ModuleHeaders::Read("", Plugin / TEXT("Source"));
+				std::erase_if(Others.Headers, [&Known](const std::unique_ptr<FModuleHeader>& Header) { return Known.count(Header->Path) > 0; });
+				Modules.push_back(std::move(Others));
+			}
+		}
+
 		/** By the paths that they are included with. */
 		std::set<std::string> FindIncludes(const FString& ModuleFolder)
 		{
@@ -224,7 +243,8 @@ namespace CompanionContract
 		FContractReport Report;
 		const std::vector<std::string> Modules = GetModules(Names);
 		const FAllHeaders Reference = ReadReference(Request.ReferenceFolder, Modules);
-		const FAllHeaders Companions = ReadCompanions(Request.PluginFolders, Modules, Report);
+		FAllHeaders Companions = ReadCompanions(Request.PluginFolders, Modules, Report);
+		ReadOthers(Request.PluginFolders, Companions);
 		FindHeaders(Request.ModuleFolder, Reference, Companions, Report);
 		CheckNames(SplitByType(Names), Expected, Reference, Companions, Report);
 		return Report;
