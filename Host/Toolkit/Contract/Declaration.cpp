@@ -9,7 +9,19 @@
 
 namespace Declaration
 {
-	using namespace HeaderTool;
+	// One by one: the engine has types of the same names.
+	using HeaderTool::EAccess;
+	using HeaderTool::EClassKind;
+	using HeaderTool::EEnumForm;
+	using HeaderTool::FClass;
+	using HeaderTool::FDelegateType;
+	using HeaderTool::FEnum;
+	using HeaderTool::FEnumerator;
+	using HeaderTool::FFunction;
+	using HeaderTool::FHeader;
+	using HeaderTool::FProperty;
+	using HeaderTool::Join;
+	using HeaderTool::Trim;
 
 	namespace
 	{
