@@ -10,80 +10,77 @@
 
 namespace LineDifference
 {
-	namespace
+	/** Lines [Begin, End) of the longer text that stand before line At of the shorter one. */
+	struct FRun
 	{
-		/** Lines [Begin, End) of the longer text that stand before line At of the shorter one. */
-		struct FRun
-		{
-			size_t At = 0;
-			size_t Begin = 0;
-			size_t End = 0;
-		};
+		size_t At = 0;
+		size_t Begin = 0;
+		size_t End = 0;
+	};
 
-		/** What has to go from Long so that Short remains. @return false when that is not all there is between them. */
-		bool FindRuns(const FLines& Short, size_t ShortEnd, const FLines& Long, size_t LongEnd, size_t Begin, std::vector<FRun>& OutRuns)
+	/** What has to go from Long so that Short remains. @return false when that is not all there is between them. */
+	bool FindRuns(const FLines& Short, size_t ShortEnd, const FLines& Long, size_t LongEnd, size_t Begin, std::vector<FRun>& OutRuns)
+	{
+		size_t At = Begin;
+		for (size_t Index = Begin; Index < LongEnd; ++Index)
 		{
-			size_t At = Begin;
-			for (size_t Index = Begin; Index < LongEnd; ++Index)
+			if (At < ShortEnd && Short[At] == Long[Index])
 			{
-				if (At < ShortEnd && Short[At] == Long[Index])
-				{
-					++At;
-				}
-				else if (!OutRuns.empty() && OutRuns.back().End == Index)
-				{
-					++OutRuns.back().End;
-				}
-				else
-				{
-					OutRuns.push_back(FRun{At, Index, Index + 1});
-				}
+				++At;
 			}
-			return At == ShortEnd;
+			else if (!OutRuns.empty() && OutRuns.back().End == Index)
+			{
+				++OutRuns.back().End;
+			}
+			else
+			{
+				OutRuns.push_back(FRun{At, Index, Index + 1});
+			}
 		}
+		return At == ShortEnd;
+	}
 
-		constexpr size_t MaxPairs = 4'000'000; // of lines to be compared with each other
+	constexpr size_t MaxPairs = 4'000'000; // of lines to be compared with each other
 
-		/** Both ways, with as many lines as possible in common: the longest common subsequence, from the end. */
-		std::vector<FEdit> FindFewestEdits(const FLines& Old, const FLines& New, const FEdit& Range)
+	/** Both ways, with as many lines as possible in common: the longest common subsequence, from the end. */
+	std::vector<FEdit> FindFewestEdits(const FLines& Old, const FLines& New, const FEdit& Range)
+	{
+		const size_t NumOld = Range.OldEnd - Range.OldBegin;
+		const size_t NumNew = Range.NewEnd - Range.NewBegin;
+		const size_t Width = NumNew + 1;
+		std::vector<uint32> Common((NumOld + 1) * Width, 0); // lines in common from here on
+		const auto IsSame = [&](size_t OldIndex, size_t NewIndex) { return Old[Range.OldBegin + OldIndex] == New[Range.NewBegin + NewIndex]; };
+		for (size_t OldIndex = NumOld; OldIndex-- > 0;)
 		{
-			const size_t NumOld = Range.OldEnd - Range.OldBegin;
-			const size_t NumNew = Range.NewEnd - Range.NewBegin;
-			const size_t Width = NumNew + 1;
-			std::vector<uint32> Common((NumOld + 1) * Width, 0); // lines in common from here on
-			const auto IsSame = [&](size_t OldIndex, size_t NewIndex) { return Old[Range.OldBegin + OldIndex] == New[Range.NewBegin + NewIndex]; };
-			for (size_t OldIndex = NumOld; OldIndex-- > 0;)
+			for (size_t NewIndex = NumNew; NewIndex-- > 0;)
 			{
-				for (size_t NewIndex = NumNew; NewIndex-- > 0;)
-				{
-					const size_t At = OldIndex * Width + NewIndex;
-					Common[At] = IsSame(OldIndex, NewIndex) ? Common[At + Width + 1] + 1 : std::max(Common[At + Width], Common[At + 1]);
-				}
-			}
-			std::vector<FEdit> Edits;
-			size_t OldIndex = 0;
-			size_t NewIndex = 0;
-			while (OldIndex < NumOld || NewIndex < NumNew)
-			{
-				if (OldIndex < NumOld && NewIndex < NumNew && IsSame(OldIndex, NewIndex))
-				{
-					++OldIndex;
-					++NewIndex;
-					continue;
-				}
-				const size_t OldAt = Range.OldBegin + OldIndex;
-				const size_t NewAt = Range.NewBegin + NewIndex;
-				if (Edits.empty() || Edits.back().OldEnd != OldAt || Edits.back().NewEnd != NewAt)
-				{
-					Edits.push_back(FEdit{OldAt, OldAt, NewAt, NewAt});
-				}
 				const size_t At = OldIndex * Width + NewIndex;
-				const bool bOld = OldIndex < NumOld && (NewIndex == NumNew || Common[At + Width] >= Common[At + 1]);
-				(bOld ? OldIndex : NewIndex) += 1;
-				(bOld ? Edits.back().OldEnd : Edits.back().NewEnd) += 1;
+				Common[At] = IsSame(OldIndex, NewIndex) ? Common[At + Width + 1] + 1 : std::max(Common[At + Width], Common[At + 1]);
 			}
-			return Edits;
 		}
+		std::vector<FEdit> Edits;
+		size_t OldIndex = 0;
+		size_t NewIndex = 0;
+		while (OldIndex < NumOld || NewIndex < NumNew)
+		{
+			if (OldIndex < NumOld && NewIndex < NumNew && IsSame(OldIndex, NewIndex))
+			{
+				++OldIndex;
+				++NewIndex;
+				continue;
+			}
+			const size_t OldAt = Range.OldBegin + OldIndex;
+			const size_t NewAt = Range.NewBegin + NewIndex;
+			if (Edits.empty() || Edits.back().OldEnd != OldAt || Edits.back().NewEnd != NewAt)
+			{
+				Edits.push_back(FEdit{OldAt, OldAt, NewAt, NewAt});
+			}
+			const size_t At = OldIndex * Width + NewIndex;
+			const bool bOld = OldIndex < NumOld && (NewIndex == NumNew || Common[At + Width] >= Common[At + 1]);
+			(bOld ? OldIndex : NewIndex) += 1;
+			(bOld ? Edits.back().OldEnd : Edits.back().NewEnd) += 1;
+		}
+		return Edits;
 	}
 
 	FLines Split(std::string_view Text)

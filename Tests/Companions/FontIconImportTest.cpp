@@ -43,10 +43,10 @@ protected:
 		return FFontIconImporter::Import(Folder.Get("Package"), FontID, AssetFolder);
 	}
 
-	static const UDataTable* GetTable(const TCHAR* FontID = TEXT("Sky")) { return UVelmorantUISubsystem::Get()->GetFontIconDataByID(FontID).IconDataTable; }
+	const UDataTable* GetTable(const TCHAR* FontID = TEXT("Sky")) { return UVelmorantUISubsystem::Get()->GetFontIconDataByID(FontID).IconDataTable; }
 
 	/** All that rows say, an icon a line. */
-	static std::vector<std::string> Describe(const UDataTable* Table)
+	std::vector<std::string> Describe(const UDataTable* Table)
 	{
 		std::vector<std::string> Lines;
 		if (Table != nullptr)
@@ -67,7 +67,7 @@ protected:
 		return Lines;
 	}
 
-	static std::vector<std::string> Unsaved()
+	std::vector<std::string> Unsaved()
 	{
 		std::vector<std::string> Names;
 		for (const UPackage* Package : HostPackages::GetDirtyPackages())

@@ -8,10 +8,10 @@
 using testing::HasSubstr;
 
 /** The program installed, and then moved to a folder that nobody told it of. */
-class FInstallation : public FProjectOnDisk
+class Installation : public FProjectOnDisk
 {
 protected:
-	FInstallation()
+	Installation()
 	{
 		const std::filesystem::path First = Folder.GetNative("Installed");
 		const std::string Command = "\"" VELMORANT_CMAKE "\" --install \"" VELMORANT_BINARY_DIR "/..\" --prefix '" + First.string() + "' >/dev/null";
@@ -22,7 +22,7 @@ protected:
 		std::filesystem::copy(Data / "Samples/HarborTower", Folder.GetNative("Project"), std::filesystem::copy_options::recursive);
 	}
 
-	~FInstallation() override { FProgramRun::Program = Built; }
+	~Installation() override { FProgramRun::Program = Built; }
 
 	FProgramResult Check(const std::vector<std::string>& Options = {}) const
 	{
@@ -41,7 +41,7 @@ protected:
 	const std::filesystem::path Data = Moved / "share/velmorant";
 };
 
-TEST_F(FInstallation, ChecksRepairsAndWalksTheSampleFromWhereItWasMovedTo)
+TEST_F(Installation, ChecksRepairsAndWalksTheSampleFromWhereItWasMovedTo)
 {
 	EXPECT_EQ(Check().ExitStatus, 1);
 	for (const char* Script : {"Demo.velscript", "Tour.velscript"})
@@ -53,14 +53,14 @@ TEST_F(FInstallation, ChecksRepairsAndWalksTheSampleFromWhereItWasMovedTo)
 	EXPECT_EQ(Check().ExitStatus, 0);
 }
 
-TEST_F(FInstallation, IsFoundThroughALink)
+TEST_F(Installation, IsFoundThroughALink)
 {
 	std::filesystem::create_symlink(FProgramRun::Program, Folder.GetNative("velmorant"));
 	FProgramRun::Program = Folder.GetNative("velmorant").string();
 	EXPECT_EQ(Check({"--repair"}).ExitStatus, 0);
 }
 
-TEST_F(FInstallation, SaysWhatIsMissingInPlaceOfAVerdict)
+TEST_F(Installation, SaysWhatIsMissingInPlaceOfAVerdict)
 {
 	for (const char* Lost : {"Plugins", "Engine/Config/BaseEngine.ini"})
 	{
@@ -68,7 +68,7 @@ TEST_F(FInstallation, SaysWhatIsMissingInPlaceOfAVerdict)
 		const FProgramResult Result = Check({"--json"});
 		EXPECT_EQ(Result.ExitStatus, 3);
 		EXPECT_THAT(Result.Errors, HasSubstr((Data / Lost).string() + " is missing"));
-		EXPECT_THAT(Result.Output, HasSubstr("\"status\": 3"));
+		EXPECT_THAT(Result.Output, HasSubstr("\"status\":3"));
 		std::filesystem::rename(Moved / "Lost", Data / Lost);
 	}
 	EXPECT_EQ(Check().ExitStatus, 1);

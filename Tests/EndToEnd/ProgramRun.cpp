@@ -12,7 +12,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-namespace
+namespace ProgramRun
 {
 	std::string ReadAll(const std::string& Path)
 	{

@@ -3,8 +3,10 @@
 
 #include "Layers.h"
 
+#include <algorithm>
 #include <fstream>
 #include <gmock/gmock.h>
+#include <iterator>
 #include <sstream>
 
 namespace EnginePathsTest
@@ -25,6 +27,15 @@ namespace EnginePathsTest
 			EXPECT_TRUE(Line[0] == '#' || Result.insert(Line).second) << Line << " is listed twice";
 		}
 		EXPECT_GT(Result.size(), 200u);
+		return Result;
+	}
+
+	/** Those that the engine does not have. */
+	FPaths FindUnknown(const FPaths& Paths)
+	{
+		const FPaths Known = ReadEnginePaths();
+		FPaths Result;
+		std::set_difference(Paths.begin(), Paths.end(), Known.begin(), Known.end(), std::inserter(Result, Result.end()));
 		return Result;
 	}
 
@@ -74,16 +85,16 @@ namespace EnginePathsTest
 }
 
 using namespace EnginePathsTest;
-using testing::IsSubsetOf;
+using testing::IsEmpty;
 
 TEST(EnginePaths, TheHostOffersNoOthers)
 {
-	EXPECT_THAT(FindOfferedPaths(), IsSubsetOf(ReadEnginePaths())) << "what only the host has belongs into Internal, or into Detail if public headers are made of it";
+	EXPECT_THAT(FindUnknown(FindOfferedPaths()), IsEmpty()) << "what only the host has belongs into Internal, or into Detail if public headers are made of it";
 }
 
 TEST(EnginePaths, ProductAndCompanionsIncludeNoOthers)
 {
 	const FPaths Included = FindIncludedPaths();
 	EXPECT_GT(Included.size(), 80u);
-	EXPECT_THAT(Included, IsSubsetOf(ReadEnginePaths())) << "the engine has no such header";
+	EXPECT_THAT(FindUnknown(Included), IsEmpty()) << "the engine has no such header";
 }

@@ -17,45 +17,42 @@
 
 namespace RunCommand
 {
-	namespace
+	/** Tells what is wrong with the files that were named. */
+	bool CheckFiles(const FRunArguments& Arguments)
 	{
-		/** Tells what is wrong with the files that were named. */
-		bool CheckFiles(const FRunArguments& Arguments)
+		for (const FRunInput& Input : Arguments.Inputs)
 		{
-			for (const FRunInput& Input : Arguments.Inputs)
+			const HostFiles::EKind Kind = HostFiles::GetKind(Input.Path);
+			if (Kind != HostFiles::EKind::File)
 			{
-				const HostFiles::EKind Kind = HostFiles::GetKind(Input.Path);
-				if (Kind != HostFiles::EKind::File)
-				{
-					HostProblems::Report(FPaths::ConvertRelativePathToFull(Input.Path), 0, Kind == HostFiles::EKind::Missing ? *Input.Missing : TEXT("this is no ordinary file, and nothing is read from it"), *Input.Remedy);
-				}
+				HostProblems::Report(FPaths::ConvertRelativePathToFull(Input.Path), 0, Kind == HostFiles::EKind::Missing ? *Input.Missing : TEXT("this is no ordinary file, and nothing is read from it"), *Input.Remedy);
 			}
-			Refusal::PrintProblems(EExitStatus::Trouble, Arguments.bJson);
-			return HostProblems::GetAll().IsEmpty();
 		}
+		Refusal::PrintProblems(EExitStatus::Trouble, Arguments.bJson);
+		return HostProblems::GetAll().IsEmpty();
+	}
 
-		/** The script's text; false when it cannot be read, which is reported. */
-		bool ReadScript(const FString& Path, FString& OutText)
+	/** The script's text; false when it cannot be read, which is reported. */
+	bool ReadScript(const FString& Path, FString& OutText)
+	{
+		std::string Text;
+		const HostFiles::ERead Read = HostTextFiles::ReadUtf8(Path, Text);
+		if (Read == HostFiles::ERead::Missing)
 		{
-			std::string Text;
-			const HostFiles::ERead Read = HostTextFiles::ReadUtf8(Path, Text);
-			if (Read == HostFiles::ERead::Missing)
-			{
-				HostProblems::Report(FPaths::ConvertRelativePathToFull(Path), 0, TEXT("there is no such script"));
-			}
-			OutText = UTF8_TO_TCHAR(Text.c_str());
-			return Read == HostFiles::ERead::Done;
+			HostProblems::Report(FPaths::ConvertRelativePathToFull(Path), 0, TEXT("there is no such script"));
 		}
+		OutText = UTF8_TO_TCHAR(Text.c_str());
+		return Read == HostFiles::ERead::Done;
+	}
 
-		FEditorHostOptions MakeOptions(const FString& Project, const FRunArguments& Arguments)
+	FEditorHostOptions MakeOptions(const FString& Project, const FRunArguments& Arguments)
+	{
+		FEditorHostOptions Options = EditorArguments::MakeOptions(Project, Arguments.Editor);
+		for (const FRunInput& Input : Arguments.Inputs)
 		{
-			FEditorHostOptions Options = EditorArguments::MakeOptions(Project, Arguments.Editor);
-			for (const FRunInput& Input : Arguments.Inputs)
-			{
-				Options.CommandLine += FString::Printf(TEXT(" -%s=\"%s\""), *Input.Switch, *FPaths::ConvertRelativePathToFull(Input.Path));
-			}
-			return Options;
+			Options.CommandLine += FString::Printf(TEXT(" -%s=\"%s\""), *Input.Switch, *FPaths::ConvertRelativePathToFull(Input.Path));
 		}
+		return Options;
 	}
 
 	EExitStatus Run(const FRunArguments& Arguments)

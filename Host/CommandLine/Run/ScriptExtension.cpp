@@ -4,13 +4,10 @@
 
 namespace ScriptExtension
 {
-	namespace
+	FScriptExtension& GetCurrent()
 	{
-		FScriptExtension& GetCurrent()
-		{
-			static FScriptExtension Current;
-			return Current;
-		}
+		static FScriptExtension Current;
+		return Current;
 	}
 
 	void Set(const FScriptExtension& Extension)

@@ -25,14 +25,14 @@ namespace StepEvents
 		}
 	}
 
-	static bool IsShown(const FHostLogLine& Line)
+	bool IsShown(const FHostLogLine& Line)
 	{
 		const auto IsShownBesides = ScriptExtension::Get().IsShown;
 		return Line.Verbosity <= ELogVerbosity::Warning || (IsShownBesides != nullptr && IsShownBesides(Line));
 	}
 
 	/** What only the log tells of. */
-	static bool IsTrouble(const FHostLogLine& Line)
+	bool IsTrouble(const FHostLogLine& Line)
 	{
 		const auto IsMeant = ScriptExtension::Get().IsTrouble;
 		return IsMeant != nullptr && IsMeant(Line);

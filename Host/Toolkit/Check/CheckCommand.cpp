@@ -11,21 +11,18 @@
 
 namespace CheckCommand
 {
-	namespace
+	/** Unset when there is no repair to take back. */
+	TOptional<FCheckReport> Do(const FCheckArguments& Arguments, const FString& Project)
 	{
-		/** Unset when there is no repair to take back. */
-		TOptional<FCheckReport> Do(const FCheckArguments& Arguments, const FString& Project)
+		if (Arguments.bUndo)
 		{
-			if (Arguments.bUndo)
-			{
-				return RepairUndo::Run(Project);
-			}
-			if (Arguments.bRepair)
-			{
-				return CollisionCheck::Repair(Project, Arguments.Editor);
-			}
-			return CollisionCheck::Look(Project, Arguments.Editor);
+			return RepairUndo::Run(Project);
 		}
+		if (Arguments.bRepair)
+		{
+			return CollisionCheck::Repair(Project, Arguments.Editor);
+		}
+		return CollisionCheck::Look(Project, Arguments.Editor);
 	}
 }
 

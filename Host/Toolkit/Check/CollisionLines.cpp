@@ -13,17 +13,14 @@
 
 namespace CollisionLines
 {
-	namespace
-	{
-		const std::string_view Configuration = "[/Script/Engine.CollisionProfile]\n+Profiles=(Name=\"Any\")\n";
+	const std::string_view Configuration = "[/Script/Engine.CollisionProfile]\n+Profiles=(Name=\"Any\")\n";
 
-		void CallRepair()
-		{
-			UClass* Library = FindObject<UClass>(nullptr, TEXT("/Script/VelmorantProEditor.VelmorantEditorUtilitiesLibrary"));
-			UFunction* Repair = Library != nullptr ? Library->FindFunctionByName(FName(TEXT("AddUnitVolumeCollisionProfile"))) : nullptr;
-			checkf(Repair != nullptr, TEXT("The toolkit has no repair to call."));
-			Library->GetDefaultObject()->ProcessEvent(Repair, nullptr);
-		}
+	void CallRepair()
+	{
+		UClass* Library = FindObject<UClass>(nullptr, TEXT("/Script/VelmorantProEditor.VelmorantEditorUtilitiesLibrary"));
+		UFunction* Repair = Library != nullptr ? Library->FindFunctionByName(FName(TEXT("AddUnitVolumeCollisionProfile"))) : nullptr;
+		checkf(Repair != nullptr, TEXT("The toolkit has no repair to call."));
+		Library->GetDefaultObject()->ProcessEvent(Repair, nullptr);
 	}
 
 	TArray<FString> Make(const FString& ProjectDir)

@@ -10,14 +10,11 @@
 
 namespace FileChanges
 {
-	namespace
+	void Append(const LineDifference::FLines& Lines, size_t Begin, size_t End, TArray<FString>& Out)
 	{
-		void Append(const LineDifference::FLines& Lines, size_t Begin, size_t End, TArray<FString>& Out)
+		for (size_t Index = Begin; Index < End; ++Index)
 		{
-			for (size_t Index = Begin; Index < End; ++Index)
-			{
-				Out.Add(LineDifference::ToString(Lines[Index]));
-			}
+			Out.Add(LineDifference::ToString(Lines[Index]));
 		}
 	}
 }

@@ -11,82 +11,79 @@
 
 namespace RepairObstacle
 {
-	namespace
+	using LineDifference::FEdit;
+	using LineDifference::FLines;
+
+	const TCHAR* const Section = TEXT("/Script/Engine.CollisionProfile");
+
+	/** @return whether the line is a section's header. */
+	bool ReadHeader(std::string_view Line, FString& OutSection)
 	{
-		using LineDifference::FEdit;
-		using LineDifference::FLines;
+		const FString Text = LineDifference::ToString(Line).TrimStartAndEnd();
+		const bool bHeader = Text.StartsWith(TEXT("[")) && Text.EndsWith(TEXT("]"));
+		OutSection = bHeader ? Text.Mid(1, Text.Len() - 2) : OutSection;
+		return bHeader;
+	}
 
-		const TCHAR* const Section = TEXT("/Script/Engine.CollisionProfile");
-
-		/** @return whether the line is a section's header. */
-		bool ReadHeader(std::string_view Line, FString& OutSection)
+	/** The section that a line stands in; empty before the first one. */
+	FString FindSection(const FLines& Lines, size_t Index)
+	{
+		FString Name;
+		while (Index > 0 && !ReadHeader(Lines[Index - 1], Name))
 		{
-			const FString Text = LineDifference::ToString(Line).TrimStartAndEnd();
-			const bool bHeader = Text.StartsWith(TEXT("[")) && Text.EndsWith(TEXT("]"));
-			OutSection = bHeader ? Text.Mid(1, Text.Len() - 2) : OutSection;
-			return bHeader;
+			--Index;
 		}
+		return Name;
+	}
 
-		/** The section that a line stands in; empty before the first one. */
-		FString FindSection(const FLines& Lines, size_t Index)
+	/** As the toolkit compares them, letter case does not count. */
+	bool IsInSection(const FLines& Lines, const FString& Wanted)
+	{
+		FString Current;
+		for (const std::string_view Line : Lines)
 		{
-			FString Name;
-			while (Index > 0 && !ReadHeader(Lines[Index - 1], Name))
+			if (!ReadHeader(Line, Current) && Current.Equals(Section, ESearchCase::IgnoreCase) && LineDifference::ToString(Line).TrimStartAndEnd().Equals(Wanted, ESearchCase::IgnoreCase))
 			{
-				--Index;
+				return true;
 			}
-			return Name;
 		}
+		return false;
+	}
 
-		/** As the toolkit compares them, letter case does not count. */
-		bool IsInSection(const FLines& Lines, const FString& Wanted)
+	TArray<FString> FindLinesToAdd(const FCheckRun& Run, const FFileText& IniFile)
+	{
+		const FLines Lines = LineDifference::Split(IniFile.Text);
+		TArray<FString> Missing;
+		for (const FString& Line : CollisionLines::Make(FPaths::GetPath(FPaths::GetPath(IniFile.Path))))
 		{
-			FString Current;
-			for (const std::string_view Line : Lines)
+			const bool bOtherForm = Run.bHadProfile && Line.StartsWith(TEXT("+Profiles="));
+			if (!bOtherForm && !IsInSection(Lines, Line))
 			{
-				if (!ReadHeader(Line, Current) && Current.Equals(Section, ESearchCase::IgnoreCase) && LineDifference::ToString(Line).TrimStartAndEnd().Equals(Wanted, ESearchCase::IgnoreCase))
-				{
-					return true;
-				}
+				Missing.Add(Line);
 			}
-			return false;
 		}
+		return Missing;
+	}
 
-		TArray<FString> FindLinesToAdd(const FCheckRun& Run, const FFileText& IniFile)
+	/** Where the repair put its lines decides. */
+	FString DescribePlace(const FCheckRun& Run, const FFileText& IniFile)
+	{
+		const FFileText& Checked = FileChanges::Find(Run.CheckFiles, IniFile);
+		const FFileText& Repaired = FileChanges::Find(Run.Files, IniFile);
+		const FLines Lines = LineDifference::Split(Repaired.Text);
+		const std::vector<FEdit> Edits = LineDifference::FindEdits(LineDifference::Split(Checked.Text), Lines);
+		const FString Rule = TEXT("the toolkit adds its lines behind the last line that begins with +Profiles=");
+		if (Edits.empty())
 		{
-			const FLines Lines = LineDifference::Split(IniFile.Text);
-			TArray<FString> Missing;
-			for (const FString& Line : CollisionLines::Make(FPaths::GetPath(FPaths::GetPath(IniFile.Path))))
-			{
-				const bool bOtherForm = Run.bHadProfile && Line.StartsWith(TEXT("+Profiles="));
-				if (!bOtherForm && !IsInSection(Lines, Line))
-				{
-					Missing.Add(Line);
-				}
-			}
-			return Missing;
+			return Rule + TEXT(", and Config/DefaultEngine.ini has none");
 		}
-
-		/** Where the repair put its lines decides. */
-		FString DescribePlace(const FCheckRun& Run, const FFileText& IniFile)
+		const FString Found = FindSection(Lines, Edits[0].NewBegin);
+		if (Found.Equals(Section, ESearchCase::IgnoreCase))
 		{
-			const FFileText& Checked = FileChanges::Find(Run.CheckFiles, IniFile);
-			const FFileText& Repaired = FileChanges::Find(Run.Files, IniFile);
-			const FLines Lines = LineDifference::Split(Repaired.Text);
-			const std::vector<FEdit> Edits = LineDifference::FindEdits(LineDifference::Split(Checked.Text), Lines);
-			const FString Rule = TEXT("the toolkit adds its lines behind the last line that begins with +Profiles=");
-			if (Edits.empty())
-			{
-				return Rule + TEXT(", and Config/DefaultEngine.ini has none");
-			}
-			const FString Found = FindSection(Lines, Edits[0].NewBegin);
-			if (Found.Equals(Section, ESearchCase::IgnoreCase))
-			{
-				return TEXT("the lines that the toolkit adds have no effect where it adds them");
-			}
-			const FString Place = FString::Printf(TEXT("%s(%d)"), *IniFile.Path, static_cast<int32>(Edits[0].OldBegin));
-			return Rule + TEXT(", which is ") + Place + (Found.IsEmpty() ? FString(TEXT(", in no section")) : FString::Printf(TEXT(", in another section, [%s]"), *Found));
+			return TEXT("the lines that the toolkit adds have no effect where it adds them");
 		}
+		const FString Place = FString::Printf(TEXT("%s(%d)"), *IniFile.Path, static_cast<int32>(Edits[0].OldBegin));
+		return Rule + TEXT(", which is ") + Place + (Found.IsEmpty() ? FString(TEXT(", in no section")) : FString::Printf(TEXT(", in another section, [%s]"), *Found));
 	}
 
 	void Explain(const FCheckRun& Run, const FFileText& IniFile, FCheckReport& Report)

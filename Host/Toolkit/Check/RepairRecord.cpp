@@ -15,64 +15,61 @@
 
 namespace RepairRecord
 {
-	namespace
+	/** FNV-1a: the same in every build, unlike std::hash. */
+	uint64_t Hash(std::string_view Text)
 	{
-		/** FNV-1a: the same in every build, unlike std::hash. */
-		uint64_t Hash(std::string_view Text)
+		uint64_t Value = 0xcbf29ce484222325u;
+		for (const char Byte : Text)
 		{
-			uint64_t Value = 0xcbf29ce484222325u;
-			for (const char Byte : Text)
-			{
-				Value = (Value ^ static_cast<unsigned char>(Byte)) * 0x100000001b3u;
-			}
-			return Value;
+			Value = (Value ^ static_cast<unsigned char>(Byte)) * 0x100000001b3u;
 		}
+		return Value;
+	}
 
-		std::string GetKey(const FString& ProjectDir)
+	std::string GetKey(const FString& ProjectDir)
+	{
+		return JsonText::Make(HostFiles::Resolve(ProjectDir));
+	}
+
+	FString GetFile(const std::string& Key)
+	{
+		char Name[40];
+		std::snprintf(Name, sizeof(Name), "repair-%016" PRIx64 ".json", Hash(Key));
+		return HostPaths::GetUserStateDir() + Name;
+	}
+
+	FJson ToJson(const std::string& Key, const FRepairRecord& Record)
+	{
+		FJson Added = FJson::array();
+		for (const TArray<FString>& Run : Record.Added)
 		{
-			return JsonText::Make(HostFiles::Resolve(ProjectDir));
+			Added.push_back(JsonText::Make(Run));
 		}
+		return FJson{{"project", Key}, {"created", Record.bCreated}, {"added", Added}};
+	}
 
-		FString GetFile(const std::string& Key)
+	/** @return false when the document is something else. */
+	bool FromJson(const FJson& Json, FRepairRecord& OutRecord)
+	{
+		const auto IsText = [](const FJson& Line) { return Line.is_string(); };
+		if (!Json.is_object() || !Json.contains("project") || !Json["project"].is_string() || !Json.contains("created") || !Json["created"].is_boolean() || !Json.contains("added") || !Json["added"].is_array())
 		{
-			char Name[40];
-			std::snprintf(Name, sizeof(Name), "repair-%016" PRIx64 ".json", Hash(Key));
-			return HostPaths::GetUserStateDir() + Name;
+			return false;
 		}
-
-		FJson ToJson(const std::string& Key, const FRepairRecord& Record)
+		OutRecord.bCreated = Json["created"].get<bool>();
+		for (const FJson& Run : Json["added"])
 		{
-			FJson Added = FJson::array();
-			for (const TArray<FString>& Run : Record.Added)
-			{
-				Added.push_back(JsonText::Make(Run));
-			}
-			return FJson{{"project", Key}, {"created", Record.bCreated}, {"added", Added}};
-		}
-
-		/** @return false when the document is something else. */
-		bool FromJson(const FJson& Json, FRepairRecord& OutRecord)
-		{
-			const auto IsText = [](const FJson& Line) { return Line.is_string(); };
-			if (!Json.is_object() || !Json.contains("project") || !Json["project"].is_string() || !Json.contains("created") || !Json["created"].is_boolean() || !Json.contains("added") || !Json["added"].is_array())
+			if (!Run.is_array() || !std::all_of(Run.begin(), Run.end(), IsText))
 			{
 				return false;
 			}
-			OutRecord.bCreated = Json["created"].get<bool>();
-			for (const FJson& Run : Json["added"])
+			TArray<FString>& Lines = OutRecord.Added.AddDefaulted_GetRef();
+			for (const FJson& Line : Run)
 			{
-				if (!Run.is_array() || !std::all_of(Run.begin(), Run.end(), IsText))
-				{
-					return false;
-				}
-				TArray<FString>& Lines = OutRecord.Added.AddDefaulted_GetRef();
-				for (const FJson& Line : Run)
-				{
-					Lines.Add(LineDifference::ToString(Line.get_ref<const std::string&>()));
-				}
+				Lines.Add(LineDifference::ToString(Line.get_ref<const std::string&>()));
 			}
-			return true;
 		}
+		return true;
 	}
 
 	bool Make(std::string_view Before, std::string_view After, FRepairRecord& OutRecord)

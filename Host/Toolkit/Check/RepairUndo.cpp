@@ -13,30 +13,27 @@
 
 namespace RepairUndo
 {
-	namespace
+	/** A file that the repair made goes when nothing else has come into it. */
+	bool DeleteIfEmpty(const FString& File)
 	{
-		/** A file that the repair made goes when nothing else has come into it. */
-		bool DeleteIfEmpty(const FString& File)
-		{
-			std::string Text;
-			const bool bEmpty = HostTextFiles::ReadUtf8(File, Text) == HostFiles::ERead::Done && Text.find_first_not_of(" \t\r\n") == std::string::npos;
-			return !bEmpty || HostFiles::Delete(File);
-		}
+		std::string Text;
+		const bool bEmpty = HostTextFiles::ReadUtf8(File, Text) == HostFiles::ERead::Done && Text.find_first_not_of(" \t\r\n") == std::string::npos;
+		return !bEmpty || HostFiles::Delete(File);
+	}
 
-		ECheckStatus TakeBack(const FString& ProjectDir, const FString& File, const FRepairRecord& Record, FString& OutReason)
+	ECheckStatus TakeBack(const FString& ProjectDir, const FString& File, const FRepairRecord& Record, FString& OutReason)
+	{
+		switch (HostConfig::RemoveLines(File, Record.Added, OutReason))
 		{
-			switch (HostConfig::RemoveLines(File, Record.Added, OutReason))
-			{
-				case HostConfig::ERemoval::Failed:
-					return ECheckStatus::Trouble;
-				case HostConfig::ERemoval::NotThere:
-					return ECheckStatus::NotUndone;
-				case HostConfig::ERemoval::Done:
-					break;
-			}
-			const bool bDone = (!Record.bCreated || DeleteIfEmpty(File)) && RepairRecord::Forget(ProjectDir);
-			return bDone ? ECheckStatus::Undone : ECheckStatus::Trouble;
+			case HostConfig::ERemoval::Failed:
+				return ECheckStatus::Trouble;
+			case HostConfig::ERemoval::NotThere:
+				return ECheckStatus::NotUndone;
+			case HostConfig::ERemoval::Done:
+				break;
 		}
+		const bool bDone = (!Record.bCreated || DeleteIfEmpty(File)) && RepairRecord::Forget(ProjectDir);
+		return bDone ? ECheckStatus::Undone : ECheckStatus::Trouble;
 	}
 
 	TOptional<FCheckReport> Run(const FString& Project)

@@ -8,33 +8,30 @@
 
 namespace SpoiledSetup
 {
-	namespace
+	const TCHAR* const Section = TEXT("/Script/Engine.CollisionProfile");
+
+	struct FNeeded
 	{
-		const TCHAR* const Section = TEXT("/Script/Engine.CollisionProfile");
+		const TCHAR* What;
+		const TCHAR* Key;
+	};
 
-		struct FNeeded
-		{
-			const TCHAR* What;
-			const TCHAR* Key;
-		};
+	const FNeeded Needed[] = {
+		{Profile, TEXT("Profiles")},
+		{Channel, TEXT("DefaultChannelResponses")},
+	};
 
-		const FNeeded Needed[] = {
-			{Profile, TEXT("Profiles")},
-			{Channel, TEXT("DefaultChannelResponses")},
-		};
+	bool IsOfUnitVolumes(const FString& Value)
+	{
+		FString Name;
+		return FParse::Value(*Value, TEXT("Name="), Name) && Name == TEXT("UnitVolume");
+	}
 
-		bool IsOfUnitVolumes(const FString& Value)
-		{
-			FString Name;
-			return FParse::Value(*Value, TEXT("Name="), Name) && Name == TEXT("UnitVolume");
-		}
-
-		bool IsThere(const FNeeded& Each)
-		{
-			TArray<FString> Values;
-			GConfig->GetArray(Section, Each.Key, Values, GEngineIni);
-			return Values.ContainsByPredicate(&IsOfUnitVolumes);
-		}
+	bool IsThere(const FNeeded& Each)
+	{
+		TArray<FString> Values;
+		GConfig->GetArray(Section, Each.Key, Values, GEngineIni);
+		return Values.ContainsByPredicate(&IsOfUnitVolumes);
 	}
 
 	bool HasProfile()

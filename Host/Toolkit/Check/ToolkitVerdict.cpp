@@ -8,43 +8,40 @@
 
 namespace ToolkitVerdict
 {
-	namespace
+	// Known by what no translation changes: a class, and what the log is given as it is.
+	const TCHAR* const DialogueClass = TEXT("/Script/VelmorantProEditor.CheckCollisionNotification");
+	const TCHAR* const Category = TEXT("LogVelmorantProEditor");
+	const TCHAR* const SoundLine = TEXT("Checked UnitVolume DefaultChannelResponses and profile exist.");
+	const TCHAR* const NotShown = TEXT("Notification not shown: "); // title and sub-text follow, each behind ": "
+
+	template<typename PredicateType>
+	bool Logged(PredicateType IsMeant)
 	{
-		// Known by what no translation changes: a class, and what the log is given as it is.
-		const TCHAR* const DialogueClass = TEXT("/Script/VelmorantProEditor.CheckCollisionNotification");
-		const TCHAR* const Category = TEXT("LogVelmorantProEditor");
-		const TCHAR* const SoundLine = TEXT("Checked UnitVolume DefaultChannelResponses and profile exist.");
-		const TCHAR* const NotShown = TEXT("Notification not shown: "); // title and sub-text follow, each behind ": "
+		const FName CategoryName(Category);
+		return HostLog::GetLines().ContainsByPredicate([CategoryName, IsMeant](const FHostLogLine& Line) {
+			return Line.Category == CategoryName && IsMeant(Line);
+		});
+	}
 
-		template<typename PredicateType>
-		bool Logged(PredicateType IsMeant)
-		{
-			const FName CategoryName(Category);
-			return HostLog::GetLines().ContainsByPredicate([CategoryName, IsMeant](const FHostLogLine& Line) {
-				return Line.Category == CategoryName && IsMeant(Line);
-			});
-		}
+	bool SaysSound()
+	{
+		return Logged([](const FHostLogLine& Line) { return Line.Text.Equals(SoundLine); });
+	}
 
-		bool SaysSound()
+	/** The dialogue is rooted for as long as its question stands. */
+	bool Asks()
+	{
+		TArray<UObject*> Dialogues;
+		if (const UClass* Class = FindObject<UClass>(nullptr, DialogueClass))
 		{
-			return Logged([](const FHostLogLine& Line) { return Line.Text.Equals(SoundLine); });
+			GetObjectsOfClass(Class, Dialogues);
 		}
+		return Dialogues.ContainsByPredicate([](const UObject* Dialogue) { return Dialogue->IsRooted(); });
+	}
 
-		/** The dialogue is rooted for as long as its question stands. */
-		bool Asks()
-		{
-			TArray<UObject*> Dialogues;
-			if (const UClass* Class = FindObject<UClass>(nullptr, DialogueClass))
-			{
-				GetObjectsOfClass(Class, Dialogues);
-			}
-			return Dialogues.ContainsByPredicate([](const UObject* Dialogue) { return Dialogue->IsRooted(); });
-		}
-
-		bool CouldNotAsk()
-		{
-			return Logged([](const FHostLogLine& Line) { return Line.Verbosity == ELogVerbosity::Warning && Line.Text.StartsWith(NotShown, ESearchCase::CaseSensitive); });
-		}
+	bool CouldNotAsk()
+	{
+		return Logged([](const FHostLogLine& Line) { return Line.Verbosity == ELogVerbosity::Warning && Line.Text.StartsWith(NotShown, ESearchCase::CaseSensitive); });
 	}
 
 	EToolkitVerdict Read()

@@ -6,19 +6,16 @@
 
 namespace ToolkitScripts
 {
-	namespace
+	/** Everything: it tells people by notifications, and what they do not show by its log. */
+	bool IsOfToolkit(const FHostLogLine& Line)
 	{
-		/** Everything: it tells people by notifications, and what they do not show by its log. */
-		bool IsOfToolkit(const FHostLogLine& Line)
-		{
-			return Line.Category.ToString().StartsWith(TEXT("LogVelmorant"));
-		}
+		return Line.Category.ToString().StartsWith(TEXT("LogVelmorant"));
+	}
 
-		/** The service tells of its files in the log only. */
-		bool IsServiceTrouble(const FHostLogLine& Line)
-		{
-			return Line.Verbosity <= ELogVerbosity::Error && Line.Category == FName("LogVelmorantSDK");
-		}
+	/** The service tells of its files in the log only. */
+	bool IsServiceTrouble(const FHostLogLine& Line)
+	{
+		return Line.Verbosity <= ELogVerbosity::Error && Line.Category == FName("LogVelmorantSDK");
 	}
 
 	FScriptExtension MakeExtension()

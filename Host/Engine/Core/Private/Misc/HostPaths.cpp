@@ -14,44 +14,41 @@
 
 namespace HostPaths
 {
-	namespace
+	struct FState
 	{
-		struct FState
-		{
-			FString ProjectFile;
-			FString ProjectDir;
-			FString EngineDir;
-			FString UserSettingsDir;
-			FString UserStateDir;
-			TArray<FString> PluginDirs;
-		};
+		FString ProjectFile;
+		FString ProjectDir;
+		FString EngineDir;
+		FString UserSettingsDir;
+		FString UserStateDir;
+		TArray<FString> PluginDirs;
+	};
 
-		THostState<FState> State;
+	THostState<FState> State;
 
-		FString MakeFolder(const FString& Directory)
+	FString MakeFolder(const FString& Directory)
+	{
+		const FString Full = FPaths::ConvertRelativePathToFull(Directory);
+		return Full.EndsWith(TEXT("/")) ? Full : Full + TEXT("/");
+	}
+
+	std::string GetHome()
+	{
+		const char* Home = std::getenv("HOME");
+		if (Home != nullptr && *Home != '\0')
 		{
-			const FString Full = FPaths::ConvertRelativePathToFull(Directory);
-			return Full.EndsWith(TEXT("/")) ? Full : Full + TEXT("/");
+			return Home;
 		}
+		const passwd* User = getpwuid(getuid()); // services and containers come without HOME
+		return User != nullptr && User->pw_dir != nullptr ? std::string(User->pw_dir) : std::string("/");
+	}
 
-		std::string GetHome()
-		{
-			const char* Home = std::getenv("HOME");
-			if (Home != nullptr && *Home != '\0')
-			{
-				return Home;
-			}
-			const passwd* User = getpwuid(getuid()); // services and containers come without HOME
-			return User != nullptr && User->pw_dir != nullptr ? std::string(User->pw_dir) : std::string("/");
-		}
-
-		/** The program's own folder below the one that a variable names, or else below a folder of the user's home. */
-		FString MakeUserDir(const char* Variable, const char* FolderInHome)
-		{
-			const char* Configured = std::getenv(Variable);
-			const bool bUsable = Configured != nullptr && *Configured == '/'; // relative ones are to be ignored
-			return MakeFolder(NativePath::ToString((bUsable ? std::string(Configured) : GetHome() + FolderInHome) + "/velmorant"));
-		}
+	/** The program's own folder below the one that a variable names, or else below a folder of the user's home. */
+	FString MakeUserDir(const char* Variable, const char* FolderInHome)
+	{
+		const char* Configured = std::getenv(Variable);
+		const bool bUsable = Configured != nullptr && *Configured == '/'; // relative ones are to be ignored
+		return MakeFolder(NativePath::ToString((bUsable ? std::string(Configured) : GetHome() + FolderInHome) + "/velmorant"));
 	}
 
 	FString FindProgramData(const TCHAR* Path)

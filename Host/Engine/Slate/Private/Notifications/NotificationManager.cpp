@@ -20,14 +20,14 @@ namespace NotificationManager
 		bool bTicking = false;
 	};
 
-	static FState& GetState()
+	FState& GetState()
 	{
 		static THostState<FState> State;
 		return State.Get();
 	}
 
 	/** Items whose time is over are dropped; whoever still holds one can go on calling it. */
-	static void UpdateStanding()
+	void UpdateStanding()
 	{
 		FState& State = GetState();
 		for (const TSharedRef<SNotificationItemWidget>& Item : State.Standing)
@@ -37,7 +37,7 @@ namespace NotificationManager
 		State.Standing.RemoveAll([](const TSharedRef<SNotificationItemWidget>& Item) { return Item->GetRecord()->IsGone(); });
 	}
 
-	static bool Tick(float)
+	bool Tick(float)
 	{
 		FState& State = GetState();
 		TArray<TUniquePtr<FNotificationInfo>> Queued = MoveTemp(State.Queued);
@@ -51,7 +51,7 @@ namespace NotificationManager
 		return State.bTicking;
 	}
 
-	static void EnsureTicking()
+	void EnsureTicking()
 	{
 		FState& State = GetState();
 		if (!State.bTicking)
@@ -61,7 +61,7 @@ namespace NotificationManager
 		}
 	}
 
-	static TSharedPtr<SNotificationItemWidget> FindStanding(const FHostNotification& Notification)
+	TSharedPtr<SNotificationItemWidget> FindStanding(const FHostNotification& Notification)
 	{
 		UpdateStanding();
 		for (const TSharedRef<SNotificationItemWidget>& Item : GetState().Standing)

@@ -9,7 +9,7 @@
 namespace SlateText
 {
 	/** A face that is not the plain one, with its size; a colour that is not the plain white. */
-	static void NoteLook(const FSlateFontInfo& Font, const FSlateColor& Color, TArray<FString>& OutNotes)
+	void NoteLook(const FSlateFontInfo& Font, const FSlateColor& Color, TArray<FString>& OutNotes)
 	{
 		if (!Font.TypefaceFontName.IsNone() && Font.TypefaceFontName != FName(TEXT("Regular")))
 		{

@@ -11,7 +11,7 @@ namespace UMGBoxes
 {
 	/** The Slate box of a panel that is shown gets the panel's children anew. */
 	template<typename BoxType>
-	static void FillBox(BoxType& Box, const UPanelWidget& Panel)
+	void FillBox(BoxType& Box, const UPanelWidget& Panel)
 	{
 		Box.ClearChildren();
 		for (UWidget* Child : Panel.GetAllChildren())
@@ -21,7 +21,7 @@ namespace UMGBoxes
 	}
 
 	template<typename BoxType>
-	static TSharedRef<SWidget> MakeBox(const UPanelWidget& Panel)
+	TSharedRef<SWidget> MakeBox(const UPanelWidget& Panel)
 	{
 		const TSharedRef<BoxType> Box = SNew(BoxType);
 		FillBox(*Box, Panel);
@@ -29,7 +29,7 @@ namespace UMGBoxes
 	}
 
 	template<typename BoxType>
-	static void Refresh(const TWeakPtr<SWidget>& Widget, const UPanelWidget& Panel)
+	void Refresh(const TWeakPtr<SWidget>& Widget, const UPanelWidget& Panel)
 	{
 		if (const TSharedPtr<SWidget> Box = Widget.Pin())
 		{
@@ -37,7 +37,7 @@ namespace UMGBoxes
 		}
 	}
 
-	static FOptionalSize SizeIf(bool bSet, float Value)
+	FOptionalSize SizeIf(bool bSet, float Value)
 	{
 		return bSet ? FOptionalSize(Value) : FOptionalSize();
 	}

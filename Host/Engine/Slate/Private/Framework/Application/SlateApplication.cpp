@@ -17,7 +17,7 @@ namespace SlateApplication
 		int32 NumTextureReloads = 0;
 	};
 
-	static FState& GetState()
+	FState& GetState()
 	{
 		static THostState<FState> State;
 		return State.Get();
@@ -30,7 +30,7 @@ namespace SlateApplication
 	};
 
 	/** Never null: where nothing can be drawn, the renderer does nothing. */
-	static TUniquePtr<FSlateRenderer> MakeRenderer()
+	TUniquePtr<FSlateRenderer> MakeRenderer()
 	{
 		return FApp::CanEverRender() ? TUniquePtr<FSlateRenderer>(new FCountingRenderer) : MakeUnique<FSlateRenderer>();
 	}

@@ -109,7 +109,7 @@ void FInputBindingManager::AddCommand(const TSharedRef<FUICommandInfo>& InComman
 
 namespace UIAction
 {
-	static FGetActionCheckState ToCheckState(const FIsActionChecked& IsChecked)
+	FGetActionCheckState ToCheckState(const FIsActionChecked& IsChecked)
 	{
 		if (!IsChecked.IsBound())
 		{
