@@ -8,7 +8,7 @@ using testing::HasSubstr;
 using testing::Not;
 
 /** The companions of a plugin against what the module expects of them. */
-class FContract : public FPluginOnDisk
+class PluginContract : public FPluginOnDisk
 {
 protected:
 	/** The part of the output between two headings. */
@@ -36,7 +36,7 @@ protected:
 	}
 };
 
-TEST_F(FContract, FindsNothingToSayOfTheReferenceCompanions)
+TEST_F(PluginContract, FindsNothingToSayOfTheReferenceCompanions)
 {
 	const FProgramResult Result = Compare();
 	EXPECT_EQ(Result.ExitStatus, 0) << Result.Errors;
@@ -46,7 +46,7 @@ TEST_F(FContract, FindsNothingToSayOfTheReferenceCompanions)
 	EXPECT_THAT(Result.Output, Not(HasSubstr("missing")));
 }
 
-TEST_F(FContract, ListsWhatDiffersWithFileAndLine)
+TEST_F(PluginContract, ListsWhatDiffersWithFileAndLine)
 {
 	const struct
 	{
@@ -91,7 +91,7 @@ TEST_F(FContract, ListsWhatDiffersWithFileAndLine)
 	}
 }
 
-TEST_F(FContract, NamesThePlaceInTheCompanionsHeader)
+TEST_F(PluginContract, NamesThePlaceInTheCompanionsHeader)
 {
 	ReplaceInHeader("FontIconHandler.h", "FName FontIconName;", "FName FontName;");
 	ReplaceInHeader("ProjectWrapper.h", "bool HasUnitGroupTarget() const", "bool Targets() const");
@@ -100,7 +100,7 @@ TEST_F(FContract, NamesThePlaceInTheCompanionsHeader)
 	EXPECT_THAT(Given, HasSubstr("\n  " + Locate("ProjectWrapper.h", "UProjectWrapper : ") + ": module expects \"bool HasUnitGroupTarget() const\" in UProjectWrapper (ProjectWrapper.h), found nothing of that name"));
 }
 
-TEST_F(FContract, TellsWhereHeadersAndModulesAre)
+TEST_F(PluginContract, TellsWhereHeadersAndModulesAre)
 {
 	std::string User = GetPath(FindHeader("VelmorantUser.h"));
 	FProgramResult Result;
@@ -135,7 +135,7 @@ TEST_F(FContract, TellsWhereHeadersAndModulesAre)
 	EXPECT_THAT(Result.Output, testing::ContainsRegex("VelmorantSDK +found +.*/Plugins/Sdk/Source/Runtime/VelmorantSDK\n"));
 }
 
-TEST_F(FContract, ListsWhatItCouldNotReadAndGoesOn)
+TEST_F(PluginContract, ListsWhatItCouldNotReadAndGoesOn)
 {
 	ReplaceInHeader("VlmButton.h", "UFUNCTION(BlueprintCallable, Category = \"Velmorant|Button\")\n\tvoid SetSelectionState", "UFUNCTION(BlueprintCallable, SealedEvent, Category = \"Velmorant|Button\")\n\tvoid SetSelectionState");
 	ReplaceInHeader("VelmorantSDKTypes.h", "FString ApiKey;", "FString ApiKey[2];");
@@ -151,7 +151,7 @@ TEST_F(FContract, ListsWhatItCouldNotReadAndGoesOn)
 	EXPECT_THAT(Unread, HasSubstr(GetPath(FindHeader("UnitGroupWrapper.h")) + "(4,1): error: this comment is never closed"));
 }
 
-TEST_F(FContract, RefusesFoldersThatAreNotThere)
+TEST_F(PluginContract, RefusesFoldersThatAreNotThere)
 {
 	const FProgramResult Result = FProgramRun::Run({"contract", GetPath(), GetPath("Nowhere")});
 	EXPECT_EQ(Result.ExitStatus, 2);

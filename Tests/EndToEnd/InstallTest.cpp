@@ -28,7 +28,7 @@ namespace InstallTest
 }
 
 /** Putting the module into a plugin. */
-class FInstall : public FPluginOnDisk
+class ModuleInstallation : public FPluginOnDisk
 {
 protected:
 	/** The module's files in the plugin are those of the repository, and no others. */
@@ -70,7 +70,7 @@ protected:
 	}
 };
 
-TEST_F(FInstall, PutsTheModuleIntoThePluginAndASecondTimeChangesNothing)
+TEST_F(ModuleInstallation, PutsTheModuleIntoThePluginAndASecondTimeChangesNothing)
 {
 	Do();
 	ExpectModule("VelmorantProEditor");
@@ -82,7 +82,7 @@ TEST_F(FInstall, PutsTheModuleIntoThePluginAndASecondTimeChangesNothing)
 	EXPECT_EQ(Look(), Before);
 }
 
-TEST_F(FInstall, ChangesOfTheDescriptorWhatItMust)
+TEST_F(ModuleInstallation, ChangesOfTheDescriptorWhatItMust)
 {
 	const std::string Odd = "\xEF\xBB\xBF{ // the toolkit\r\n  \"Odd\" : [1,2 ,{\"a\" :null}],\"FileVersion\" : 3,\r\n  \"Modules\" :\r\n  [\r\n    /* kept */ {\"Name\" : \"VelmorantPro\",  \"Type\" : \"Runtime\"} , // of the game\r\n";
 	const std::string OddEnd = "  ],\r\n  \"Plugins\":[{\"Name\" : \"VelmorantSDK\",\"Enabled\" : true}/* last */],\r\n  /* \"Modules\" of the past */ \"More\":{}\r\n}";
@@ -110,7 +110,7 @@ TEST_F(FInstall, ChangesOfTheDescriptorWhatItMust)
 	}
 }
 
-TEST_F(FInstall, KeepsTheDescriptorsEncodingAndMode)
+TEST_F(ModuleInstallation, KeepsTheDescriptorsEncodingAndMode)
 {
 	WriteDescriptor(std::string("\xFF\xFE{\0 \0}\0", 8));
 	EXPECT_EQ(Install().ExitStatus, 1) << "it lists no module of the toolkit";
@@ -133,7 +133,7 @@ TEST_F(FInstall, KeepsTheDescriptorsEncodingAndMode)
 	EXPECT_EQ(std::filesystem::status(GetPath("VelmorantPro.uplugin")).permissions(), std::filesystem::perms(0640));
 }
 
-TEST_F(FInstall, RefusesWhatIsNotTheToolkitsPlugin)
+TEST_F(ModuleInstallation, RefusesWhatIsNotTheToolkitsPlugin)
 {
 	const std::string File = GetPath("VelmorantPro.uplugin");
 	const struct
@@ -170,7 +170,7 @@ TEST_F(FInstall, RefusesWhatIsNotTheToolkitsPlugin)
 	EXPECT_EQ(FProgramRun::Run({"install", GetPath("Nowhere")}).ExitStatus, 2);
 }
 
-TEST_F(FInstall, ChangesNothingWhereThePluginLacksWhatTheModuleNeeds)
+TEST_F(ModuleInstallation, ChangesNothingWhereThePluginLacksWhatTheModuleNeeds)
 {
 	ReplaceInHeader("FontIconHandler.h", "FName FontIconName;", "FName FontName;");
 	std::filesystem::remove(GetPath("Source/VelmorantSDK/Public/VelmorantUser.h"));
@@ -189,14 +189,14 @@ TEST_F(FInstall, ChangesNothingWhereThePluginLacksWhatTheModuleNeeds)
 	EXPECT_EQ(Look(), Before);
 }
 
-TEST_F(FInstall, IsNotKeptBackByNamesThatWereChosenHere)
+TEST_F(ModuleInstallation, IsNotKeptBackByNamesThatWereChosenHere)
 {
 	ReplaceInHeader("VelmorantSDKTypes.h", "FString ProjectName;", "FString DisplayedAs;");
 	EXPECT_THAT(Do().Output, HasSubstr("found \"FString DisplayedAs\""));
 	ExpectModule("VelmorantProEditor");
 }
 
-TEST_F(FInstall, OverwritesOnlyWhenItIsTold)
+TEST_F(ModuleInstallation, OverwritesOnlyWhenItIsTold)
 {
 	Do();
 	const std::string Own = Folder.Read(Plugin + "/" + ModuleFile);
@@ -222,7 +222,7 @@ TEST_F(FInstall, OverwritesOnlyWhenItIsTold)
 	ExpectModule("VelmorantProEditor");
 }
 
-TEST_F(FInstall, TellsOfReadOnlyFilesBeforeAnythingIsWritten)
+TEST_F(ModuleInstallation, TellsOfReadOnlyFilesBeforeAnythingIsWritten)
 {
 	std::filesystem::permissions(GetPath("VelmorantPro.uplugin"), std::filesystem::perms(0444));
 	for (const std::vector<std::string>& Options : {std::vector<std::string>{"--dry-run"}, std::vector<std::string>{}})
@@ -235,7 +235,7 @@ TEST_F(FInstall, TellsOfReadOnlyFilesBeforeAnythingIsWritten)
 	}
 }
 
-TEST_F(FInstall, ShowsBeforehandWhatItWouldDo)
+TEST_F(ModuleInstallation, ShowsBeforehandWhatItWouldDo)
 {
 	Folder.Write(Plugin + "/" + ModuleFile, "// mine\n");
 	const FFolderState Before = Look();
@@ -253,7 +253,7 @@ TEST_F(FInstall, ShowsBeforehandWhatItWouldDo)
 	EXPECT_THAT(Do({"--dry-run"}).Output, Not(HasSubstr("+++")));
 }
 
-TEST_F(FInstall, LeavesWhereItIsEndedWhatAnotherRunCompletes)
+TEST_F(ModuleInstallation, LeavesWhereItIsEndedWhatAnotherRunCompletes)
 {
 	Do();
 	const FFolderState Complete = Look();
@@ -296,7 +296,7 @@ TEST_F(FInstall, LeavesWhereItIsEndedWhatAnotherRunCompletes)
 	}
 }
 
-TEST_F(FInstall, TakesTheModuleFromBesideAnInstalledProgram)
+TEST_F(ModuleInstallation, TakesTheModuleFromBesideAnInstalledProgram)
 {
 	const std::string Built = FProgramRun::Program;
 	const std::filesystem::path Prefix = Folder.GetNative("Installed");
@@ -312,7 +312,7 @@ TEST_F(FInstall, TakesTheModuleFromBesideAnInstalledProgram)
 	FProgramRun::Program = Built;
 }
 
-TEST_F(FInstall, BringsTheTestsForTheEngineWhenAsked)
+TEST_F(ModuleInstallation, BringsTheTestsForTheEngineWhenAsked)
 {
 	if (!std::filesystem::exists(Sources / "Source/VelmorantProEditorTests"))
 	{

@@ -23,203 +23,200 @@ bool FContractReport::IsSound() const
 
 namespace CompanionContract
 {
-	namespace
+	using FAllHeaders = std::vector<FModuleHeaders>;
+	using FTypes = std::vector<std::vector<FExpectedName>>; // each with its members
+
+	FTypes SplitByType(const std::vector<FExpectedName>& Names)
 	{
-		using FAllHeaders = std::vector<FModuleHeaders>;
-		using FTypes = std::vector<std::vector<FExpectedName>>; // each with its members
-
-		FTypes SplitByType(const std::vector<FExpectedName>& Names)
+		FTypes Types;
+		for (const FExpectedName& Name : Names)
 		{
-			FTypes Types;
-			for (const FExpectedName& Name : Names)
+			if (Name.Member.empty())
 			{
-				if (Name.Member.empty())
-				{
-					Types.emplace_back();
-				}
-				Types.back().push_back(Name);
+				Types.emplace_back();
 			}
-			return Types;
+			Types.back().push_back(Name);
 		}
+		return Types;
+	}
 
-		std::vector<std::string> GetModules(const std::vector<FExpectedName>& Names)
+	std::vector<std::string> GetModules(const std::vector<FExpectedName>& Names)
+	{
+		std::vector<std::string> Modules;
+		for (const FExpectedName& Name : Names)
 		{
-			std::vector<std::string> Modules;
-			for (const FExpectedName& Name : Names)
+			if (std::find(Modules.begin(), Modules.end(), Name.Module) == Modules.end())
 			{
-				if (std::find(Modules.begin(), Modules.end(), Name.Module) == Modules.end())
-				{
-					Modules.push_back(Name.Module);
-				}
-			}
-			return Modules;
-		}
-
-		FTypeIndex MakeIndex(const FAllHeaders& Modules)
-		{
-			FTypeIndex Index;
-			for (const FModuleHeaders& Module : Modules)
-			{
-				Index.Add(Module);
-			}
-			return Index;
-		}
-
-		FAllHeaders ReadReference(const FString& Folder, const std::vector<std::string>& Modules)
-		{
-			FAllHeaders Result;
-			for (const std::string& Module : Modules)
-			{
-				Result.push_back(ModuleHeaders::Read(Module, Folder / FString(Module.c_str())));
-			}
-			return Result;
-		}
-
-		FAllHeaders ReadCompanions(const TArray<FString>& PluginFolders, const std::vector<std::string>& Modules, FContractReport& Report)
-		{
-			FAllHeaders Result;
-			for (const std::string& Module : Modules)
-			{
-				const FString Folder = ModuleHeaders::FindModule(PluginFolders, Module);
-				const bool bFound = !Folder.IsEmpty();
-				Report.Modules.push_back({Module, bFound ? EPresence::Found : EPresence::Missing, std::string(TCHAR_TO_UTF8(*Folder))});
-				if (bFound)
-				{
-					Result.push_back(ModuleHeaders::Read(Module, Folder));
-				}
-			}
-			return Result;
-		}
-
-		/** What else the plugins' sources hold: a header or type that has moved to another module is to be found. */
-		void ReadOthers(const TArray<FString>& PluginFolders, FAllHeaders& Modules)
-		{
-			std::set<std::string> Known;
-			for (const FModuleHeaders& Module : Modules)
-			{
-				for (const std::unique_ptr<FModuleHeader>& Header : Module.Headers)
-				{
-					Known.insert(Header->Path);
-				}
-			}
-			for (const FString& Plugin : PluginFolders)
-			{
-				FModuleHeaders Others = ModuleHeaders::Read("", Plugin / TEXT("Source"));
-				std::erase_if(Others.Headers, [&Known](const std::unique_ptr<FModuleHeader>& Header) { return Known.count(Header->Path) > 0; });
-				Modules.push_back(std::move(Others));
+				Modules.push_back(Name.Module);
 			}
 		}
+		return Modules;
+	}
 
-		/** By the paths that they are included with. */
-		std::set<std::string> FindIncludes(const FString& ModuleFolder)
+	FTypeIndex MakeIndex(const FAllHeaders& Modules)
+	{
+		FTypeIndex Index;
+		for (const FModuleHeaders& Module : Modules)
 		{
-			static const std::regex Include("^\\s*#\\s*include\\s+\"([^\"]+)\"");
-			std::set<std::string> Paths;
-			for (const FString& File : HostFiles::FindFiles(ModuleFolder, FString()))
-			{
-				std::string Text;
-				std::smatch Match;
-				if ((File.EndsWith(TEXT(".h")) || File.EndsWith(TEXT(".cpp"))) && HostTextFiles::ReadUtf8(File, Text) == HostFiles::ERead::Done)
-				{
-					std::stringstream Lines(Text);
-					for (std::string Line; std::getline(Lines, Line);)
-					{
-						if (std::regex_search(Line, Match, Include))
-						{
-							Paths.insert(Match[1]);
-						}
-					}
-				}
-			}
-			return Paths;
+			Index.Add(Module);
 		}
+		return Index;
+	}
 
-		FContractPlace FindHeader(const std::string& Include, const FAllHeaders& Modules)
+	FAllHeaders ReadReference(const FString& Folder, const std::vector<std::string>& Modules)
+	{
+		FAllHeaders Result;
+		for (const std::string& Module : Modules)
 		{
-			const std::string FileName = Include.substr(Include.find_last_of('/') + 1);
-			FContractPlace Place{Include, EPresence::Missing, ""};
-			for (const FModuleHeaders& Module : Modules)
-			{
-				for (const std::unique_ptr<FModuleHeader>& Header : Module.Headers)
-				{
-					if (Header->GetIncludePath() == Include)
-					{
-						return {Include, EPresence::Found, Header->Path};
-					}
-					if (Header->GetFileName() == FileName)
-					{
-						Place = {Include, EPresence::Elsewhere, Header->Path};
-					}
-				}
-			}
-			return Place;
+			Result.push_back(ModuleHeaders::Read(Module, Folder / FString(Module.c_str())));
 		}
+		return Result;
+	}
 
-		/** Those of the included headers that are the companions'. */
-		void FindHeaders(const FString& ModuleFolder, const FAllHeaders& Reference, const FAllHeaders& Companions, FContractReport& Report)
+	FAllHeaders ReadCompanions(const TArray<FString>& PluginFolders, const std::vector<std::string>& Modules, FContractReport& Report)
+	{
+		FAllHeaders Result;
+		for (const std::string& Module : Modules)
 		{
-			for (const std::string& Include : FindIncludes(ModuleFolder))
+			const FString Folder = ModuleHeaders::FindModule(PluginFolders, Module);
+			const bool bFound = !Folder.IsEmpty();
+			Report.Modules.push_back({Module, bFound ? EPresence::Found : EPresence::Missing, std::string(TCHAR_TO_UTF8(*Folder))});
+			if (bFound)
 			{
-				if (FindHeader(Include, Reference).Presence == EPresence::Found)
-				{
-					Report.Headers.push_back(FindHeader(Include, Companions));
-				}
+				Result.push_back(ModuleHeaders::Read(Module, Folder));
 			}
 		}
+		return Result;
+	}
 
-		/** A header of which not even the words could be read: what it has was not found, and is not missing for that. */
-		const FModuleHeader* FindUnreadable(const std::string& IncludePath, const FAllHeaders& Modules)
+	/** What else the plugins' sources hold: a header or type that has moved to another module is to be found. */
+	void ReadOthers(const TArray<FString>& PluginFolders, FAllHeaders& Modules)
+	{
+		std::set<std::string> Known;
+		for (const FModuleHeaders& Module : Modules)
 		{
-			for (const FModuleHeaders& Module : Modules)
+			for (const std::unique_ptr<FModuleHeader>& Header : Module.Headers)
 			{
-				for (const std::unique_ptr<FModuleHeader>& Header : Module.Headers)
-				{
-					if (!Header->bRead && Header->GetFileName() == IncludePath.substr(IncludePath.find_last_of('/') + 1))
-					{
-						return Header.get();
-					}
-				}
+				Known.insert(Header->Path);
 			}
-			return nullptr;
 		}
-
-		void ListUnread(const std::set<const FModuleHeader*>& Headers, FContractReport& Report)
+		for (const FString& Plugin : PluginFolders)
 		{
-			for (const FModuleHeader* Header : Headers)
+			FModuleHeaders Others = ModuleHeaders::Read("", Plugin / TEXT("Source"));
+			std::erase_if(Others.Headers, [&Known](const std::unique_ptr<FModuleHeader>& Header) { return Known.count(Header->Path) > 0; });
+			Modules.push_back(std::move(Others));
+		}
+	}
+
+	/** By the paths that they are included with. */
+	std::set<std::string> FindIncludes(const FString& ModuleFolder)
+	{
+		static const std::regex Include("^\\s*#\\s*include\\s+\"([^\"]+)\"");
+		std::set<std::string> Paths;
+		for (const FString& File : HostFiles::FindFiles(ModuleFolder, FString()))
+		{
+			std::string Text;
+			std::smatch Match;
+			if ((File.EndsWith(TEXT(".h")) || File.EndsWith(TEXT(".cpp"))) && HostTextFiles::ReadUtf8(File, Text) == HostFiles::ERead::Done)
 			{
-				std::stringstream Lines;
-				Header->Diagnostics.Print(Lines);
+				std::stringstream Lines(Text);
 				for (std::string Line; std::getline(Lines, Line);)
 				{
-					Report.Unread.push_back(Line);
+					if (std::regex_search(Line, Match, Include))
+					{
+						Paths.insert(Match[1]);
+					}
 				}
 			}
-			std::sort(Report.Unread.begin(), Report.Unread.end());
 		}
+		return Paths;
+	}
 
-		void CheckNames(const FTypes& Types, const HeaderTool::FHeader& Expected, const FAllHeaders& Reference, const FAllHeaders& Companions, FContractReport& Report)
+	FContractPlace FindHeader(const std::string& Include, const FAllHeaders& Modules)
+	{
+		const std::string FileName = Include.substr(Include.find_last_of('/') + 1);
+		FContractPlace Place{Include, EPresence::Missing, ""};
+		for (const FModuleHeaders& Module : Modules)
 		{
-			const FTypeIndex ReferenceTypes = MakeIndex(Reference);
-			const FTypeIndex CompanionTypes = MakeIndex(Companions);
-			FNameCheck Check(Expected, CompanionTypes, ReferenceTypes, Report);
-			std::set<const FModuleHeader*> Unreadable;
-			for (const std::vector<FExpectedName>& Type : Types)
+			for (const std::unique_ptr<FModuleHeader>& Header : Module.Headers)
 			{
-				const bool bModule = std::any_of(Companions.begin(), Companions.end(), [&Type](const FModuleHeaders& Module) { return Module.Module == Type[0].Module; });
-				const bool bDeclared = CompanionTypes.Find(Type[0].Type).Header != nullptr;
-				const FModuleHeader* Header = bDeclared ? nullptr : FindUnreadable(Type[0].Header, Companions);
-				if (Header != nullptr)
+				if (Header->GetIncludePath() == Include)
 				{
-					Unreadable.insert(Header);
+					return {Include, EPresence::Found, Header->Path};
 				}
-				else if (bModule || bDeclared)
+				if (Header->GetFileName() == FileName)
 				{
-					Check.Check(Type);
+					Place = {Include, EPresence::Elsewhere, Header->Path};
 				}
 			}
-			Unreadable.insert(Check.GetHeaders().begin(), Check.GetHeaders().end());
-			ListUnread(Unreadable, Report);
 		}
+		return Place;
+	}
+
+	/** Those of the included headers that are the companions'. */
+	void FindHeaders(const FString& ModuleFolder, const FAllHeaders& Reference, const FAllHeaders& Companions, FContractReport& Report)
+	{
+		for (const std::string& Include : FindIncludes(ModuleFolder))
+		{
+			if (FindHeader(Include, Reference).Presence == EPresence::Found)
+			{
+				Report.Headers.push_back(FindHeader(Include, Companions));
+			}
+		}
+	}
+
+	/** A header of which not even the words could be read: what it has was not found, and is not missing for that. */
+	const FModuleHeader* FindUnreadable(const std::string& IncludePath, const FAllHeaders& Modules)
+	{
+		for (const FModuleHeaders& Module : Modules)
+		{
+			for (const std::unique_ptr<FModuleHeader>& Header : Module.Headers)
+			{
+				if (!Header->bRead && Header->GetFileName() == IncludePath.substr(IncludePath.find_last_of('/') + 1))
+				{
+					return Header.get();
+				}
+			}
+		}
+		return nullptr;
+	}
+
+	void ListUnread(const std::set<const FModuleHeader*>& Headers, FContractReport& Report)
+	{
+		for (const FModuleHeader* Header : Headers)
+		{
+			std::stringstream Lines;
+			Header->Diagnostics.Print(Lines);
+			for (std::string Line; std::getline(Lines, Line);)
+			{
+				Report.Unread.push_back(Line);
+			}
+		}
+		std::sort(Report.Unread.begin(), Report.Unread.end());
+	}
+
+	void CheckNames(const FTypes& Types, const HeaderTool::FHeader& Expected, const FAllHeaders& Reference, const FAllHeaders& Companions, FContractReport& Report)
+	{
+		const FTypeIndex ReferenceTypes = MakeIndex(Reference);
+		const FTypeIndex CompanionTypes = MakeIndex(Companions);
+		FNameCheck Check(Expected, CompanionTypes, ReferenceTypes, Report);
+		std::set<const FModuleHeader*> Unreadable;
+		for (const std::vector<FExpectedName>& Type : Types)
+		{
+			const bool bModule = std::any_of(Companions.begin(), Companions.end(), [&Type](const FModuleHeaders& Module) { return Module.Module == Type[0].Module; });
+			const bool bDeclared = CompanionTypes.Find(Type[0].Type).Header != nullptr;
+			const FModuleHeader* Header = bDeclared ? nullptr : FindUnreadable(Type[0].Header, Companions);
+			if (Header != nullptr)
+			{
+				Unreadable.insert(Header);
+			}
+			else if (bModule || bDeclared)
+			{
+				Check.Check(Type);
+			}
+		}
+		Unreadable.insert(Check.GetHeaders().begin(), Check.GetHeaders().end());
+		ListUnread(Unreadable, Report);
 	}
 
 	TOptional<FContractReport> Check(const FContractRequest& Request)

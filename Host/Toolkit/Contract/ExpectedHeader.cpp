@@ -6,28 +6,25 @@
 
 namespace ExpectedHeader
 {
-	namespace
+	/** Structs are written as classes: only these may have reflected functions. */
+	std::string BeginType(const FExpectedName& Type)
 	{
-		/** Structs are written as classes: only these may have reflected functions. */
-		std::string BeginType(const FExpectedName& Type)
+		if (Type.Text.starts_with("enum"))
 		{
-			if (Type.Text.starts_with("enum"))
-			{
-				return "UENUM()\n" + Type.Text + "\n{\n";
-			}
-			const bool bStruct = Type.Text.starts_with("struct ");
-			return "UCLASS()\n" + (bStruct ? "class " + Type.Text.substr(7) : Type.Text) + "\n{\nGENERATED_BODY()\npublic:\n";
+			return "UENUM()\n" + Type.Text + "\n{\n";
 		}
+		const bool bStruct = Type.Text.starts_with("struct ");
+		return "UCLASS()\n" + (bStruct ? "class " + Type.Text.substr(7) : Type.Text) + "\n{\nGENERATED_BODY()\npublic:\n";
+	}
 
-		std::string WriteMember(const FExpectedName& Type, const FExpectedName& Member)
+	std::string WriteMember(const FExpectedName& Type, const FExpectedName& Member)
+	{
+		if (Type.Text.starts_with("enum"))
 		{
-			if (Type.Text.starts_with("enum"))
-			{
-				return Member.Text + ",\n";
-			}
-			const bool bFunction = Member.Text.find('(') != std::string::npos;
-			return (bFunction ? "UFUNCTION() " : "UPROPERTY() ") + Member.Text + ";\n";
+			return Member.Text + ",\n";
 		}
+		const bool bFunction = Member.Text.find('(') != std::string::npos;
+		return (bFunction ? "UFUNCTION() " : "UPROPERTY() ") + Member.Text + ";\n";
 	}
 
 	void Parse(const std::vector<FExpectedName>& Names, HeaderTool::FHeader& OutHeader, HeaderTool::FDiagnostics& Diagnostics)

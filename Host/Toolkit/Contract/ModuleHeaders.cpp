@@ -49,44 +49,41 @@ std::string FModuleHeader::GetDeclaration(int Line) const
 
 namespace ModuleHeaders
 {
-	namespace
+	std::string ToUtf8(const FString& Text)
 	{
-		std::string ToUtf8(const FString& Text)
-		{
-			return TCHAR_TO_UTF8(*Text);
-		}
+		return TCHAR_TO_UTF8(*Text);
+	}
 
-		std::vector<std::string> SplitLines(const std::string& Text)
+	std::vector<std::string> SplitLines(const std::string& Text)
+	{
+		std::vector<std::string> Lines;
+		std::stringstream Stream(Text);
+		for (std::string Line; std::getline(Stream, Line);)
 		{
-			std::vector<std::string> Lines;
-			std::stringstream Stream(Text);
-			for (std::string Line; std::getline(Stream, Line);)
-			{
-				Lines.push_back(Line.substr(0, Line.find('\r')));
-			}
-			return Lines;
+			Lines.push_back(Line.substr(0, Line.find('\r')));
 		}
+		return Lines;
+	}
 
-		/** Comments in some eight-bit encoding, as old headers have them, do no harm: what counts is ASCII. False, with the reason reported. */
-		bool ReadText(const FString& Path, std::string& OutText)
-		{
-			const bool bRead = HostFiles::Read(Path, OutText) == HostFiles::ERead::Done;
-			const bool bUtf16 = OutText.starts_with("\xFF\xFE") || OutText.starts_with("\xFE\xFF");
-			return bRead && (!bUtf16 || HostTextFiles::ReadUtf8(Path, OutText) == HostFiles::ERead::Done);
-		}
+	/** Comments in some eight-bit encoding, as old headers have them, do no harm: what counts is ASCII. False, with the reason reported. */
+	bool ReadText(const FString& Path, std::string& OutText)
+	{
+		const bool bRead = HostFiles::Read(Path, OutText) == HostFiles::ERead::Done;
+		const bool bUtf16 = OutText.starts_with("\xFF\xFE") || OutText.starts_with("\xFE\xFF");
+		return bRead && (!bUtf16 || HostTextFiles::ReadUtf8(Path, OutText) == HostFiles::ERead::Done);
+	}
 
-		void Parse(const std::string& Text, FModuleHeader& Header)
+	void Parse(const std::string& Text, FModuleHeader& Header)
+	{
+		Header.Lines = SplitLines(Text);
+		std::vector<HeaderTool::FToken> Tokens;
+		HeaderTool::FDiagnostics Ignored; // the parser below reports the same
+		Header.bRead = HeaderTool::Tokenize(Header.Path, Text, Tokens, Ignored);
+		if (Header.bRead)
 		{
-			Header.Lines = SplitLines(Text);
-			std::vector<HeaderTool::FToken> Tokens;
-			HeaderTool::FDiagnostics Ignored; // the parser below reports the same
-			Header.bRead = HeaderTool::Tokenize(Header.Path, Text, Tokens, Ignored);
-			if (Header.bRead)
-			{
-				Header.Types = DeclaredTypes::Find(Tokens);
-			}
-			HeaderTool::ParseHeader(Text, Header.Model, Header.Diagnostics);
+			Header.Types = DeclaredTypes::Find(Tokens);
 		}
+		HeaderTool::ParseHeader(Text, Header.Model, Header.Diagnostics);
 	}
 
 	FString FindModule(const FString& PluginFolder, const std::string& Module)

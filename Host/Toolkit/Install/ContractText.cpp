@@ -8,46 +8,43 @@
 
 namespace ContractText
 {
-	namespace
+	const char* Spell(EPresence Presence)
 	{
-		const char* Spell(EPresence Presence)
-		{
-			const char* const Words[] = {"found", "in another place", "missing"};
-			return Words[static_cast<size_t>(Presence)];
-		}
+		const char* const Words[] = {"found", "in another place", "missing"};
+		return Words[static_cast<size_t>(Presence)];
+	}
 
-		std::string Pad(std::string Text, size_t Width)
-		{
-			Text.resize(std::max(Text.size(), Width), ' ');
-			return Text;
-		}
+	std::string Pad(std::string Text, size_t Width)
+	{
+		Text.resize(std::max(Text.size(), Width), ' ');
+		return Text;
+	}
 
-		void PrintTable(const std::string& Heading, const std::vector<FContractPlace>& Places)
+	void PrintTable(const std::string& Heading, const std::vector<FContractPlace>& Places)
+	{
+		Console::PrintUtf8(Heading);
+		size_t Width = 0;
+		for (const FContractPlace& Place : Places)
+		{
+			Width = std::max(Width, Place.Name.size());
+		}
+		for (const FContractPlace& Place : Places)
+		{
+			const std::string Line = "  " + Pad(Place.Name, Width) + "  " + Spell(Place.Presence);
+			Console::PrintUtf8(Place.Path.empty() ? Line : Pad(Line, Width + 22) + Place.Path);
+		}
+	}
+
+	void PrintDifferences(const std::string& Heading, const std::vector<FContractDifference>& Differences)
+	{
+		if (!Differences.empty())
 		{
 			Console::PrintUtf8(Heading);
-			size_t Width = 0;
-			for (const FContractPlace& Place : Places)
-			{
-				Width = std::max(Width, Place.Name.size());
-			}
-			for (const FContractPlace& Place : Places)
-			{
-				const std::string Line = "  " + Pad(Place.Name, Width) + "  " + Spell(Place.Presence);
-				Console::PrintUtf8(Place.Path.empty() ? Line : Pad(Line, Width + 22) + Place.Path);
-			}
 		}
-
-		void PrintDifferences(const std::string& Heading, const std::vector<FContractDifference>& Differences)
+		for (const FContractDifference& Each : Differences)
 		{
-			if (!Differences.empty())
-			{
-				Console::PrintUtf8(Heading);
-			}
-			for (const FContractDifference& Each : Differences)
-			{
-				const std::string Line = Each.Line > 0 ? "(" + std::to_string(Each.Line) + ")" : "";
-				Console::PrintUtf8("  " + Each.Path + Line + ": " + Each.Message);
-			}
+			const std::string Line = Each.Line > 0 ? "(" + std::to_string(Each.Line) + ")" : "";
+			Console::PrintUtf8("  " + Each.Path + Line + ": " + Each.Message);
 		}
 	}
 

@@ -14,68 +14,65 @@
 
 namespace InstallCommand
 {
-	namespace
+	void PrintList(const TCHAR* Heading, const TArray<FString>& Lines)
 	{
-		void PrintList(const TCHAR* Heading, const TArray<FString>& Lines)
+		if (!Lines.IsEmpty())
 		{
-			if (!Lines.IsEmpty())
-			{
-				Console::Print(Heading);
-			}
-			for (const FString& Line : Lines)
-			{
-				Console::Print(TEXT("  ") + Line);
-			}
+			Console::Print(Heading);
 		}
+		for (const FString& Line : Lines)
+		{
+			Console::Print(TEXT("  ") + Line);
+		}
+	}
 
-		void PrintDifference(const FInstallPlan& Plan)
+	void PrintDifference(const FInstallPlan& Plan)
+	{
+		for (const FInstallFile& File : Plan.Files)
 		{
-			for (const FInstallFile& File : Plan.Files)
-			{
-				const std::string Name(TCHAR_TO_UTF8(*File.Path));
-				const bool bText = !File.Text.empty();
-				const std::string& Old = bText ? File.OldText : File.OldBytes;
-				const std::string Difference = UnifiedDifference::Make(Name, File.bExists ? &Old : nullptr, bText ? &File.Text : &File.Bytes);
-				Console::PrintUtf8(std::string_view(Difference).substr(0, Difference.size() - 1)); // less its last line end
-			}
+			const std::string Name(TCHAR_TO_UTF8(*File.Path));
+			const bool bText = !File.Text.empty();
+			const std::string& Old = bText ? File.OldText : File.OldBytes;
+			const std::string Difference = UnifiedDifference::Make(Name, File.bExists ? &Old : nullptr, bText ? &File.Text : &File.Bytes);
+			Console::PrintUtf8(std::string_view(Difference).substr(0, Difference.size() - 1)); // less its last line end
 		}
+	}
 
-		EExitStatus Tell(const TCHAR* Verdict, EExitStatus Status)
-		{
-			Console::Print(Verdict);
-			Console::PrintProblems(HostProblems::GetAll());
-			return Status;
-		}
+	EExitStatus Tell(const TCHAR* Verdict, EExitStatus Status)
+	{
+		Console::Print(Verdict);
+		Console::PrintProblems(HostProblems::GetAll());
+		return Status;
+	}
 
-		EExitStatus Do(const FInstallPlan& Plan, bool bDryRun)
+	EExitStatus Do(const FInstallPlan& Plan, bool bDryRun)
+	{
+		const bool bStopped = !Plan.Obstacles.IsEmpty() || !Plan.Contract.IsSound();
+		if (bDryRun)
 		{
-			const bool bStopped = !Plan.Obstacles.IsEmpty() || !Plan.Contract.IsSound();
-			if (bDryRun)
-			{
-				PrintDifference(Plan);
-			}
-			if (!ModuleInstall::CheckWritable(Plan) || !HostProblems::GetAll().IsEmpty())
-			{
-				return Tell(TEXT("Not installed: nothing was changed."), EExitStatus::Trouble);
-			}
-			if (bStopped)
-			{
-				return Tell(TEXT("Not installed: nothing was changed. What is listed above keeps the module from it."), EExitStatus::Failed);
-			}
-			if (!Plan.HasWork())
-			{
-				return Tell(TEXT("The module is installed already: nothing was changed."), EExitStatus::Done);
-			}
-			if (bDryRun)
-			{
-				return Tell(TEXT("Nothing was changed: this is what an installation would do."), EExitStatus::Done);
-			}
-			if (!ModuleInstall::Apply(Plan))
-			{
-				return Tell(TEXT("Not installed completely. Once that is put right, another run completes it."), EExitStatus::Trouble);
-			}
-			return Tell(TEXT("Installed."), EExitStatus::Done);
+			PrintDifference(Plan);
 		}
+		if (!ModuleInstall::CheckWritable(Plan) || !HostProblems::GetAll().IsEmpty())
+		{
+			return Tell(TEXT("Not installed: nothing was changed."), EExitStatus::Trouble);
+		}
+		if (bStopped)
+		{
+			return Tell(TEXT("Not installed: nothing was changed. What is listed above keeps the module from it."), EExitStatus::Failed);
+		}
+		if (!Plan.HasWork())
+		{
+			return Tell(TEXT("The module is installed already: nothing was changed."), EExitStatus::Done);
+		}
+		if (bDryRun)
+		{
+			return Tell(TEXT("Nothing was changed: this is what an installation would do."), EExitStatus::Done);
+		}
+		if (!ModuleInstall::Apply(Plan))
+		{
+			return Tell(TEXT("Not installed completely. Once that is put right, another run completes it."), EExitStatus::Trouble);
+		}
+		return Tell(TEXT("Installed."), EExitStatus::Done);
 	}
 }
 

@@ -6,40 +6,37 @@
 
 namespace JsonInsert
 {
-	namespace
+	bool IsBlank(char C)
 	{
-		bool IsBlank(char C)
-		{
-			return C == ' ' || C == '\t' || C == '\r';
-		}
+		return C == ' ' || C == '\t' || C == '\r';
+	}
 
-		/** Behind the comments that stand on the same line; where nothing but blanks stands there, Offset itself. */
-		size_t SkipComments(std::string_view Text, size_t Offset)
+	/** Behind the comments that stand on the same line; where nothing but blanks stands there, Offset itself. */
+	size_t SkipComments(std::string_view Text, size_t Offset)
+	{
+		size_t Behind = Offset;
+		for (size_t At = Offset; At < Text.size();)
 		{
-			size_t Behind = Offset;
-			for (size_t At = Offset; At < Text.size();)
+			if (Text.substr(At, 2) == "//")
 			{
-				if (Text.substr(At, 2) == "//")
-				{
-					At = std::min(Text.find('\n', At), Text.size());
-					return At > 0 && Text[At - 1] == '\r' ? At - 1 : At;
-				}
-				if (Text.substr(At, 2) == "/*")
-				{
-					At = Text.find("*/", At) + 2;
-					Behind = At;
-				}
-				else if (!IsBlank(Text[At]))
-				{
-					break;
-				}
-				else
-				{
-					++At;
-				}
+				At = std::min(Text.find('\n', At), Text.size());
+				return At > 0 && Text[At - 1] == '\r' ? At - 1 : At;
 			}
-			return Behind;
+			if (Text.substr(At, 2) == "/*")
+			{
+				At = Text.find("*/", At) + 2;
+				Behind = At;
+			}
+			else if (!IsBlank(Text[At]))
+			{
+				break;
+			}
+			else
+			{
+				++At;
+			}
 		}
+		return Behind;
 	}
 
 	std::string GetGap(std::string_view Text, size_t Begin, size_t End)
