@@ -40,6 +40,49 @@ namespace LineDifference
 		return At == ShortEnd;
 	}
 
+	constexpr size_t MaxPairs = 4'000'000; // of lines to be compared with each other
+
+	/** Both ways, with as many lines as possible in common: the longest common subsequence, from the end. */
+	std::vector<FEdit> FindFewestEdits(const FLines& Old, const FLines& New, const FEdit& Range)
+	{
+		const size_t NumOld = Range.OldEnd - Range.OldBegin;
+		const size_t NumNew = Range.NewEnd - Range.NewBegin;
+		const size_t Width = NumNew + 1;
+		std::vector<uint32> Common((NumOld + 1) * Width, 0); // lines in common from here on
+		const auto IsSame = [&](size_t OldIndex, size_t NewIndex) { return Old[Range.OldBegin + OldIndex] == New[Range.NewBegin + NewIndex]; };
+		for (size_t OldIndex = NumOld; OldIndex-- > 0;)
+		{
+			for (size_t NewIndex = NumNew; NewIndex-- > 0;)
+			{
+				const size_t At = OldIndex * Width + NewIndex;
+				Common[At] = IsSame(OldIndex, NewIndex) ? Common[At + Width + 1] + 1 : std::max(Common[At + Width], Common[At + 1]);
+			}
+		}
+		std::vector<FEdit> Edits;
+		size_t OldIndex = 0;
+		size_t NewIndex = 0;
+		while (OldIndex < NumOld || NewIndex < NumNew)
+		{
+			if (OldIndex < NumOld && NewIndex < NumNew && IsSame(OldIndex, NewIndex))
+			{
+				++OldIndex;
+				++NewIndex;
+				continue;
+			}
+			const size_t OldAt = Range.OldBegin + OldIndex;
+			const size_t NewAt = Range.NewBegin + NewIndex;
+			if (Edits.empty() || Edits.back().OldEnd != OldAt || Edits.back().NewEnd != NewAt)
+			{
+				Edits.push_back(FEdit{OldAt, OldAt, NewAt, NewAt});
+			}
+			const size_t At = OldIndex * Width + NewIndex;
+			const bool bOld = OldIndex < NumOld && (NewIndex == NumNew || Common[At + Width] >= Common[At + 1]);
+			(bOld ? OldIndex : NewIndex) += 1;
+			(bOld ? Edits.back().OldEnd : Edits.back().NewEnd) += 1;
+		}
+		return Edits;
+	}
+
 	FLines Split(std::string_view Text)
 	{
 		FLines Lines;
@@ -76,7 +119,9 @@ namespace LineDifference
 		const bool bOneWay = bAdded ? FindRuns(Old, OldEnd, New, NewEnd, Front, Runs) : FindRuns(New, NewEnd, Old, OldEnd, Front, Runs);
 		if (!bOneWay)
 		{
-			return {FEdit{Front, OldEnd, Front, NewEnd}};
+			const FEdit All{Front, OldEnd, Front, NewEnd};
+			const bool bQuick = (OldEnd - Front) * (NewEnd - Front) <= MaxPairs;
+			return bQuick ? FindFewestEdits(Old, New, All) : std::vector<FEdit>{All};
 		}
 		std::vector<FEdit> Edits;
 		for (const FRun& Run : Runs)

@@ -27,8 +27,8 @@ namespace LineDifference
 	};
 
 	/**
-	 * From the top. Where lines were only added, or only taken out, each run of them is an edit; otherwise all between the first and the
-	 * last difference is one. In linear time.
+	 * From the top. Where lines were only added, or only taken out, each run of them is an edit, found in linear time; otherwise the fewest
+	 * lines that can be. Where that would take long, all between the first and the last difference is one edit.
 	 */
 	std::vector<FEdit> FindEdits(const FLines& Old, const FLines& New);
 

@@ -32,6 +32,8 @@ namespace Arguments
 		std::string Script;
 		std::string Service;
 		std::string Platform;
+		std::string Plugin;
+		std::vector<std::string> Plugins;
 		bool bUnattended = false;
 		bool bCommandlet = false;
 		bool bNullRhi = false;
@@ -40,6 +42,9 @@ namespace Arguments
 		bool bRepair = false;
 		bool bUndo = false;
 		bool bJson = false;
+		bool bDryRun = false;
+		bool bWithTests = false;
+		bool bForce = false;
 
 		FEditorArguments GetEditor() const { return {ToText(Platform), bUnattended, bCommandlet, bNullRhi, bNoNotifications}; }
 	};
@@ -94,6 +99,35 @@ namespace Arguments
 		return Run;
 	}
 
+	CLI::App* AddInstall(CLI::App& App, FRaw& Raw)
+	{
+		CLI::App* const Install = App.add_subcommand("install", "Put the editor module into the toolkit's plugin");
+		Install->add_option("PLUGIN-FOLDER", Raw.Plugin, "The folder that holds VelmorantPro.uplugin")->required();
+		Install->add_flag("--dry-run", Raw.bDryRun, "Change nothing, and print what would change as a unified difference");
+		Install->add_flag("--with-tests", Raw.bWithTests, "The module's tests for the engine as well, as a module of their own");
+		Install->add_flag("--force", Raw.bForce, "Overwrite files of the module that differ");
+		Install->footer("Nothing is changed before all is checked: the descriptor, the companions that the module needs,\nthe images of its style, and the files that are there. Ends with 0 when the module is in its\nplace, 1 when something keeps it from being installed, 2 for bad usage or a folder that is not\nthe toolkit's plugin, 3 when a file could not be read or written, or the output not be written.");
+		return Install;
+	}
+
+	CLI::App* AddContract(CLI::App& App, FRaw& Raw)
+	{
+		CLI::App* const Contract = App.add_subcommand("contract", "Compare plugins' companion modules with what the editor module expects of them");
+		Contract->add_option("PLUGIN-FOLDER", Raw.Plugins, "Folders of the plugins that hold VelmorantSDK, VelmorantPro and VelmorantProUI;\nthose beside them are looked into as well")->required();
+		Contract->footer("Ends with 0 when the companions are as expected in all that the toolkit has given, 1 when they\nare not, 2 for bad usage or no such folder, 3 when a file could not be read, or the output not\nbe written.");
+		return Contract;
+	}
+
+	TArray<FString> ToTexts(const std::vector<std::string>& Texts)
+	{
+		TArray<FString> Result;
+		for (const std::string& Text : Texts)
+		{
+			Result.Add(ToText(Text));
+		}
+		return Result;
+	}
+
 	/** Prints the help that was asked for, or what is wrong. */
 	EExitStatus TellEnd(const CLI::App& App, const CLI::ParseError& Error, int Count, const char* const* Values)
 	{
@@ -122,7 +156,9 @@ namespace Arguments
 		App.require_subcommand(1);
 		FRaw Raw;
 		const CLI::App* const Check = AddCheck(App, Raw);
-		AddRun(App, Raw);
+		const CLI::App* const Run = AddRun(App, Raw);
+		const CLI::App* const Install = AddInstall(App, Raw);
+		AddContract(App, Raw);
 		try
 		{
 			App.parse(Count, Values);
@@ -135,9 +171,17 @@ namespace Arguments
 		{
 			OutArguments.Check = FCheckArguments{ToText(Raw.Project), Raw.GetEditor(), Raw.bDiff, Raw.bRepair, Raw.bUndo, Raw.bJson};
 		}
-		else
+		else if (Run->parsed())
 		{
 			OutArguments.Run = FRunArguments{ToText(Raw.Project), Raw.GetEditor(), ToText(Raw.Script), ServiceFile::MakeInputs(ToText(Raw.Service)), Raw.bJson};
+		}
+		else if (Install->parsed())
+		{
+			OutArguments.Install = FInstallArguments{ToText(Raw.Plugin), Raw.bDryRun, Raw.bWithTests, Raw.bForce};
+		}
+		else
+		{
+			OutArguments.Contract = FContractArguments{ToTexts(Raw.Plugins)};
 		}
 		return TOptional<EExitStatus>();
 	}

@@ -3,6 +3,8 @@
 #pragma once
 
 #include "Check/CheckCommand.h"
+#include "Install/ContractCommand.h"
+#include "Install/InstallCommand.h"
 #include "Misc/Optional.h"
 #include "Run/RunCommand.h"
 
@@ -11,6 +13,8 @@ struct FArguments
 {
 	TOptional<FCheckArguments> Check;
 	TOptional<FRunArguments> Run;
+	TOptional<FInstallArguments> Install;
+	TOptional<FContractArguments> Contract;
 };
 
 namespace Arguments

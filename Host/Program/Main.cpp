@@ -5,6 +5,8 @@
 #include "Console.h"
 #include "HostLocale.h"
 #include "HostPaths.h"
+#include "Install/ContractCommand.h"
+#include "Install/InstallCommand.h"
 #include "ProgramFault.h"
 #include "Refusal.h"
 #include "Run/RunCommand.h"
@@ -27,11 +29,20 @@ namespace VelmorantMain
 
 	EExitStatus Run(const FArguments& Arguments)
 	{
-		if (!HasData(Arguments.Check.IsSet() ? Arguments.Check->bJson : Arguments.Run->bJson))
+		const bool bJson = (Arguments.Check.IsSet() && Arguments.Check->bJson) || (Arguments.Run.IsSet() && Arguments.Run->bJson);
+		if (!HasData(bJson))
 		{
 			return EExitStatus::Trouble;
 		}
-		return Arguments.Check.IsSet() ? CheckCommand::Run(Arguments.Check.GetValue()) : RunCommand::Run(Arguments.Run.GetValue());
+		if (Arguments.Check.IsSet())
+		{
+			return CheckCommand::Run(Arguments.Check.GetValue());
+		}
+		if (Arguments.Install.IsSet())
+		{
+			return InstallCommand::Run(Arguments.Install.GetValue());
+		}
+		return Arguments.Contract.IsSet() ? ContractCommand::Run(Arguments.Contract.GetValue()) : RunCommand::Run(Arguments.Run.GetValue());
 	}
 
 	EExitStatus RunGuarded(const FArguments& Arguments)

@@ -4,6 +4,7 @@
 #include "HAL/FileManager.h"
 #include "HostFiles.h"
 #include "HostQuestions.h"
+#include "HostStaging.h"
 
 #include <csignal>
 #include <fcntl.h>
@@ -173,6 +174,43 @@ namespace FilesOnDisk
 		ASSERT_TRUE(Write("sub/File", "newer"));
 		EXPECT_EQ(Folder.Read("sub/File"), "newer");
 		EXPECT_EQ(Folder.Count("sub"), 1u);
+	}
+
+	TEST_F(FilesOnDisk, WhatIsPreparedTakesItsPlaceInOneStep)
+	{
+		Folder.Write("Stage/File", "new");
+		Folder.Write("Stage/Whole/In/It", "new");
+		Folder.Write("sub/File", "old");
+		SetMode("sub/File", 0604);
+		EXPECT_TRUE(HostStaging::Move(Folder.Get("Stage/File"), Folder.Get("sub/File")));
+		EXPECT_EQ(Folder.Read("sub/File"), "new");
+		EXPECT_EQ(std::filesystem::status(Folder.GetNative("sub/File")).permissions(), std::filesystem::perms(0604)) << "as the file before";
+		EXPECT_TRUE(HostStaging::Move(Folder.Get("Stage/Whole"), Folder.Get("not/there/yet")));
+		EXPECT_EQ(Folder.Read("not/there/yet/In/It"), "new");
+		EXPECT_EQ(Folder.Count("Stage"), 0u);
+		EXPECT_EQ(GetProblems(), "");
+
+		SetMode("sub/File", 0444);
+		Folder.Write("Stage/File", "newer");
+		Folder.Write("Stage/Folder/File", "newer");
+		EXPECT_FALSE(HostStaging::Move(Folder.Get("Stage/File"), Folder.Get("sub/File")));
+		EXPECT_FALSE(HostStaging::Move(Folder.Get("Stage/Folder"), Folder.Get("not/there/yet"))) << "a folder replaces none";
+		EXPECT_FALSE(HostStaging::Move(Folder.Get("Nothing"), Folder.Get("sub/Other")));
+		EXPECT_NE(GetProblems().find("the file is read-only and was left as it is"), std::string::npos);
+		EXPECT_NE(GetProblems().find("sub/Other: what was prepared for this place cannot be put there: No such file or directory"), std::string::npos);
+		EXPECT_EQ(Folder.Read("sub/File"), "new");
+	}
+
+	TEST_F(FilesOnDisk, AFolderIsDeletedWithAllInItAndLinksLeadNowhere)
+	{
+		Folder.Write("Stage/a/b/File", "");
+		Folder.Write("Kept/File", "kept");
+		std::filesystem::create_symlink(Folder.GetNative("Kept"), Folder.GetNative("Stage/Link"));
+		EXPECT_TRUE(HostStaging::DeleteDirectory(Folder.Get("Stage")));
+		EXPECT_FALSE(Folder.Exists("Stage"));
+		EXPECT_EQ(Folder.Read("Kept/File"), "kept");
+		EXPECT_TRUE(HostStaging::DeleteDirectory(Folder.Get("Stage"))) << "it is not there";
+		EXPECT_EQ(GetProblems(), "");
 	}
 
 	TEST_F(FilesOnDisk, WhatOthersCallTemporaryIsTheirs)

@@ -106,6 +106,15 @@ namespace AtomicReplace
 		return Error;
 	}
 
+	int Rename(const std::string& From, const std::string& Target)
+	{
+		if (BeforeRename != nullptr)
+		{
+			BeforeRename(From.c_str(), Target.c_str());
+		}
+		return rename(From.c_str(), Target.c_str()) == 0 ? 0 : errno;
+	}
+
 	bool IsNumber(std::string_view Text)
 	{
 		return !Text.empty() && std::all_of(Text.begin(), Text.end(), [](char Letter) { return Letter >= '0' && Letter <= '9'; });
@@ -169,14 +178,7 @@ namespace AtomicReplace
 			return Error;
 		}
 		Error = WriteTemporary(File.Value, Bytes, Existing, NewMode);
-		if (Error == 0)
-		{
-			if (BeforeRename != nullptr)
-			{
-				BeforeRename(Temporary.c_str(), Target.c_str());
-			}
-			Error = rename(Temporary.c_str(), Target.c_str()) == 0 ? 0 : errno;
-		}
+		Error = Error != 0 ? Error : Rename(Temporary, Target);
 		if (Error != 0)
 		{
 			unlink(Temporary.c_str());
@@ -184,6 +186,22 @@ namespace AtomicReplace
 		}
 		FlushFolder(Folder);
 		return 0;
+	}
+
+	int Move(const std::string& From, const std::string& Target, const struct stat* Existing)
+	{
+		int Error = 0;
+		if (Existing != nullptr)
+		{
+			const FDescriptor File{open(From.c_str(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC)};
+			Error = File.Value >= 0 ? SetOwnerAndMode(File.Value, Existing, 0) : errno;
+		}
+		Error = Error != 0 ? Error : Rename(From, Target);
+		if (Error == 0)
+		{
+			FlushFolder(NativePath::FolderOf(Target));
+		}
+		return Error;
 	}
 
 	void SetBeforeRename(void (*Hook)(const char* TemporaryFile, const char* TargetFile))
