@@ -57,6 +57,10 @@ void FScriptSession::TakeDown()
 	{
 		return;
 	}
+	if (GoingDown)
+	{
+		GoingDown();
+	}
 	Panels.CloseAll();
 	Toolbar.Close();
 	Details.CloseAll();
@@ -103,6 +107,22 @@ TArray<FString> FScriptSession::GetUnsaved() const
 	return Names;
 }
 
+FScriptSession::FSaved FScriptSession::Save(const TArray<FString>& Packages)
+{
+	FSaved Result;
+	for (const FString& Name : Packages)
+	{
+		if (!HostPackages::IsValidPackageName(Name))
+		{
+			Result.Homeless.Add(Name);
+			continue;
+		}
+		const bool bSaved = Name == HostEditor::GetOpenMap() ? HostEditor::SaveOpenMap() : HostPackages::Save(FindPackage(nullptr, *Name)).Succeeded();
+		(bSaved ? Result.Saved : Result.Failed).Add(Name);
+	}
+	return Result;
+}
+
 TArray<FString> FScriptSession::GetWrittenFiles() const
 {
 	TArray<FString> Files = EarlierWrites;
@@ -135,7 +155,7 @@ TOptional<FHostAnswer> FScriptSession::Answer(const FHostQuestion& Question)
 	const int32 Index = Answers.IndexOfByPredicate([&Question](const FPreparedAnswer& Each) { return Each.Kind == Question.Kind; });
 	if (Index == INDEX_NONE)
 	{
-		return TOptional<FHostAnswer>();
+		return Person ? Person(Question) : TOptional<FHostAnswer>();
 	}
 	const FPreparedAnswer Prepared = Answers[Index];
 	Answers.RemoveAt(Index);

@@ -44,6 +44,17 @@ public:
 	/** Packages that would be lost if the editor went down now, by name. */
 	TArray<FString> GetUnsaved() const;
 
+	/** What became of the packages that were to be saved, by name. */
+	struct FSaved
+	{
+		TArray<FString> Saved;
+		TArray<FString> Failed;
+		TArray<FString> Homeless; // levels that have no file yet
+	};
+
+	/** Saves one of those that GetUnsaved() names, or all. */
+	FSaved Save(const TArray<FString>& Packages);
+
 	/** By all editors so far, in order of the first write; relative to the project where they are in it. */
 	TArray<FString> GetWrittenFiles() const;
 
@@ -52,6 +63,12 @@ public:
 
 	/** Answers the next question of this kind that has no answer yet. Prepared answers survive a restart. */
 	void PrepareAnswer(FName Kind, const FHostAnswer& Answer, int32 ScriptLine);
+
+	/** Who is asked what no answer was prepared for; null for nobody. Holds over restarts. */
+	void SetPerson(TFunction<TOptional<FHostAnswer>(const FHostQuestion&)> InPerson) { Person = MoveTemp(InPerson); }
+
+	/** Told before an editor goes down: who looks at it lets go of all that is in it. Null for nobody. */
+	void SetGoingDownListener(TFunction<void()> InGoingDown) { GoingDown = MoveTemp(InGoingDown); }
 
 	/** What a prepared answer failed at since the last call; empty when nothing did. */
 	FString TakeAnswerTrouble();
@@ -90,6 +107,8 @@ private:
 	FDetailsPanels Details;
 	FEventWatch Events;
 	TArray<FPreparedAnswer> Answers; // not asked for yet
+	TFunction<TOptional<FHostAnswer>(const FHostQuestion&)> Person;
+	TFunction<void()> GoingDown;
 	FString AnswerTrouble;
 	TArray<FString> EarlierWrites;
 	int32 NumEarlierProblems = 0;

@@ -1,0 +1,24 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "Window/DockViews.h"
+
+#include "Docks/DetailsDock.h"
+#include "Docks/NotificationHistoryDock.h"
+
+namespace DockViews
+{
+	template<typename DockType>
+	static FDockView* MakeOne(IWindowServices& Services, QWidget* Parent)
+	{
+		return new DockType(Services, Parent);
+	}
+
+	const std::vector<FKind>& GetAll()
+	{
+		static const std::vector<FKind> Kinds = {
+			{"Details", "Details", Qt::RightDockWidgetArea, true, &MakeOne<FDetailsDock>},
+			{"Notifications", "Notifications", Qt::BottomDockWidgetArea, true, &MakeOne<FNotificationHistoryDock>},
+		};
+		return Kinds;
+	}
+}
