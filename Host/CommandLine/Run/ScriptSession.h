@@ -3,15 +3,13 @@
 #pragma once
 
 #include "EditorHost.h"
-#include "HostQuestions.h"
 #include "PanelHost.h"
 #include "Run/DetailsPanels.h"
+#include "Run/PreparedAnswers.h"
+#include "Run/ProjectFiles.h"
 #include "Run/StepEvents.h"
 #include "Templates/UniquePtr.h"
 #include "ToolbarHost.h"
-
-#include <map>
-#include <string>
 
 /**
  * The editor that a script works in, over restarts: panels, prepared answers, what happened, which files were written.
@@ -40,6 +38,9 @@ public:
 	FToolbarHost& GetToolbar() { return Toolbar; }
 	FDetailsPanels& GetDetails() { return Details; }
 	FEventWatch& GetEvents() { return Events; }
+	/** They survive a restart. */
+	FPreparedAnswers& GetAnswers() { return Answers; }
+	const FProjectFiles& GetFiles() const { return Files; }
 
 	/** Packages that would be lost if the editor went down now, by name. */
 	TArray<FString> GetUnsaved() const;
@@ -55,62 +56,36 @@ public:
 	/** Saves one of those that GetUnsaved() names, or all. */
 	FSaved Save(const TArray<FString>& Packages);
 
-	/** By all editors so far, in order of the first write; relative to the project where they are in it. */
-	TArray<FString> GetWrittenFiles() const;
-
-	/** Of all editors so far. */
-	int32 GetNumProblems() const;
-
-	/** Answers the next question of this kind that has no answer yet. Prepared answers survive a restart. */
-	void PrepareAnswer(FName Kind, const FHostAnswer& Answer, int32 ScriptLine);
-
 	/** Who is asked what no answer was prepared for; null for nobody. Holds over restarts. */
 	void SetPerson(TFunction<TOptional<FHostAnswer>(const FHostQuestion&)> InPerson) { Person = MoveTemp(InPerson); }
 
 	/** Told before an editor goes down: who looks at it lets go of all that is in it. Null for nobody. */
 	void SetGoingDownListener(TFunction<void()> InGoingDown) { GoingDown = MoveTemp(InGoingDown); }
 
-	/** What a prepared answer failed at since the last call; empty when nothing did. */
-	FString TakeAnswerTrouble();
+	/** By all editors so far, in order of the first write; relative to the project where they are in it. */
+	TArray<FString> GetWrittenFiles() const;
 
-	/** Script lines of prepared answers that nothing asked for. */
-	TArray<int32> GetUnusedAnswers() const;
-
-	/** Full path of a file of the project; empty for one outside. */
-	FString FindProjectFile(const FString& Relative) const;
-	FString MakeRelative(const FString& Path) const;
-
-	/** The text of a file in Config as it was when the session began; empty for one that was not there. UTF-8. */
-	const std::string& GetFirstText(const FString& Path);
+	/** Of all editors so far. */
+	int32 GetNumProblems() const;
 
 	/** What the last call gave, as text. */
 	FString LastResult;
 
 private:
-	struct FPreparedAnswer
-	{
-		FName Kind;
-		FHostAnswer Answer;
-		int32 ScriptLine = 0;
-	};
-
 	void BringUp();
 	void TakeDown();
-	void ReadConfiguration();
 	TOptional<FHostAnswer> Answer(const FHostQuestion& Question);
 
 	const FEditorHostOptions Options;
-	const FString ProjectDir; // full path with a slash at the end
+	const FProjectFiles Files;
+	FPreparedAnswers Answers;
+	TFunction<TOptional<FHostAnswer>(const FHostQuestion&)> Person;
+	TFunction<void()> GoingDown;
 	TUniquePtr<FEditorHost> Editor;
 	FPanelHost Panels; // empty while no editor runs, and so are the toolbar and the details panels
 	FToolbarHost Toolbar;
 	FDetailsPanels Details;
 	FEventWatch Events;
-	TArray<FPreparedAnswer> Answers; // not asked for yet
-	TFunction<TOptional<FHostAnswer>(const FHostQuestion&)> Person;
-	TFunction<void()> GoingDown;
-	FString AnswerTrouble;
 	TArray<FString> EarlierWrites;
 	int32 NumEarlierProblems = 0;
-	std::map<std::string, std::string> FirstTexts; // by full path
 };

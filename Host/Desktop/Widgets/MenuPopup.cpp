@@ -67,7 +67,8 @@ namespace MenuPopup
 		QWidget* const Frame = new QWidget(&Target);
 		QVBoxLayout* const Layout = new QVBoxLayout(Frame);
 		Layout->setContentsMargins(CustomPadding);
-		Layout->addWidget(new FWidgetRoot(Host, [Weak = TWeakPtr<SWidget>(Widget)] { return Weak.Pin(); }, Frame));
+		Layout->addWidget(new FWidgetRoot(
+			Host, [Weak = TWeakPtr<SWidget>(Widget)] { return Weak.Pin(); }, Frame));
 		Action->setDefaultWidget(Frame);
 		Target.addAction(Action);
 	}

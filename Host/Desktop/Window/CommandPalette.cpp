@@ -124,11 +124,11 @@ void FCommandPalette::CollectMenu(const QMenu& Menu, const QString& Place)
 		else if (!Action->isSeparator() && Action->isEnabled())
 		{
 			Commands.push_back({CommandPalette::Plain(Action->text()), Place, [Held = QPointer<QAction>(Action)] {
-				if (Held)
-				{
-					Held->trigger();
-				}
-			}});
+									if (Held)
+									{
+										Held->trigger();
+									}
+								}});
 		}
 	}
 }
@@ -154,16 +154,16 @@ void FCommandPalette::CollectToolbar()
 			const QString Place = QtText::From(Button.Label.IsEmpty() ? Button.ToolTip : Button.Label);
 			const FString Meant = Entry.Name.IsNone() ? Entry.Label : Entry.Name.ToString();
 			Commands.push_back({QtText::From(Entry.Label), Place, [&Services = Services, Name, Meant] {
-				Services.GetEditor().Do([&Services, &Name, &Meant] {
-					FString Why;
-					const TSharedPtr<SWidget> Opened = Services.GetEditor().GetSession().GetToolbar().OpenMenu(Name, Why);
-					if (Opened.IsValid())
-					{
-						HostSnapshot::Click(Opened.ToSharedRef(), Meant);
-					}
-				});
-				Services.RequestFrame();
-			}});
+									Services.GetEditor().Do([&Services, &Name, &Meant] {
+										FString Why;
+										const TSharedPtr<SWidget> Opened = Services.GetEditor().GetSession().GetToolbar().OpenMenu(Name, Why);
+										if (Opened.IsValid())
+										{
+											HostSnapshot::Click(Opened.ToSharedRef(), Meant);
+										}
+									});
+									Services.RequestFrame();
+								}});
 		}
 		HostMenus::DismissAll();
 	}
@@ -174,14 +174,14 @@ void FCommandPalette::CollectAssets()
 	for (const HostPackages::FStoredAsset& Asset : HostPackages::Scan())
 	{
 		Commands.push_back({QtText::From(Asset.AssetName), QtText::From(Asset.PackageName), [&Services = Services, Package = Asset.PackageName.ToString()] {
-			Services.GetEditor().Do([&Services, &Package] {
-				if (UObject* const Object = HostPackages::LoadAsset(Package))
-				{
-					Services.Inspect({Object});
-				}
-			});
-			Services.ShowDock(QStringLiteral("Details"));
-		}});
+								Services.GetEditor().Do([&Services, &Package] {
+									if (UObject* const Object = HostPackages::LoadAsset(Package))
+									{
+										Services.Inspect({Object});
+									}
+								});
+								Services.ShowDock(QStringLiteral("Details"));
+							}});
 	}
 }
 

@@ -20,6 +20,8 @@ namespace MainWindow
 	static const int ToolbarMilliseconds = 500; // between two looks at what plugins added to it
 	static const int ArrangementVersion = 1;
 	static const QSize FirstSize(1440, 900);
+	static const int SideWidth = 420;
+	static const int BottomHeight = 220;
 }
 
 FMainWindow::FMainWindow(FDesktopEditor& InEditor)
@@ -41,6 +43,7 @@ FMainWindow::FMainWindow(FDesktopEditor& InEditor)
 	Editor.OnRestarted = [this](const TArray<FString>& Lost) { TellLost(Lost); };
 	Editor.OnBroken = [this](const FString& Reason) { TellBroken(Reason); };
 	resize(MainWindow::FirstSize);
+	ArrangeAtFirst();
 	RestoreArrangement();
 	connect(&Timer, &QTimer::timeout, this, [this] { Frame(); });
 	Refresh();
@@ -69,7 +72,8 @@ void FMainWindow::MakeToolbar()
 	QToolBar* const Bar = addToolBar(tr("Toolbar"));
 	Bar->setObjectName(QStringLiteral("Toolbar"));
 	Bar->setMovable(false);
-	Bar->addWidget(new FWidgetRoot(*this, [this] { return FindToolbar(); }, Bar));
+	Bar->addWidget(new FWidgetRoot(
+		*this, [this] { return FindToolbar(); }, Bar));
 }
 
 TSharedPtr<SWidget> FMainWindow::FindToolbar()
@@ -101,6 +105,24 @@ void FMainWindow::MakeDocks()
 		Dock->setVisible(Kind.bOpenAtFirst);
 		Docks.push_back({QLatin1String(Kind.Name), Dock, View});
 		Menus->AddDock(*Dock);
+	}
+}
+
+/** Wide middle, tools around it; what a person arranged takes its place. */
+void FMainWindow::ArrangeAtFirst()
+{
+	setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
+	setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+	setCorner(Qt::TopLeftCorner, Qt::LeftDockWidgetArea);
+	setCorner(Qt::TopRightCorner, Qt::RightDockWidgetArea);
+	for (const FFixedDock& Each : Docks)
+	{
+		switch (dockWidgetArea(Each.Dock))
+		{
+			case Qt::RightDockWidgetArea: resizeDocks({Each.Dock}, {MainWindow::SideWidth}, Qt::Horizontal); break;
+			case Qt::BottomDockWidgetArea: resizeDocks({Each.Dock}, {MainWindow::BottomHeight}, Qt::Vertical); break;
+			default: break;
+		}
 	}
 }
 

@@ -59,6 +59,7 @@ private:
 
 	void MakeToolbar();
 	void MakeDocks();
+	void ArrangeAtFirst();
 	void Refresh();
 	void RefreshAll();
 	TSharedPtr<SWidget> FindToolbar();
