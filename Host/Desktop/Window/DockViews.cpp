@@ -4,6 +4,7 @@
 
 #include "Docks/DetailsDock.h"
 #include "Docks/NotificationHistoryDock.h"
+#include "Docks/WelcomeDock.h"
 
 namespace DockViews
 {
@@ -16,6 +17,7 @@ namespace DockViews
 	const std::vector<FKind>& GetAll()
 	{
 		static const std::vector<FKind> Kinds = {
+			{"Welcome", "Welcome", Qt::TopDockWidgetArea, false, &MakeOne<FWelcomeDock>},
 			{"Details", "Details", Qt::RightDockWidgetArea, true, &MakeOne<FDetailsDock>},
 			{"Notifications", "Notifications", Qt::BottomDockWidgetArea, true, &MakeOne<FNotificationHistoryDock>},
 		};
