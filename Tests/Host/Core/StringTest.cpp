@@ -10,7 +10,7 @@
 #include <cstring>
 #include <cwctype>
 
-namespace
+namespace StringTest
 {
 	/** Equality of FString ignores case; most of what is tested here does not. */
 	void ExpectExactly(const FString& Actual, const TCHAR* Expected)
@@ -18,6 +18,8 @@ namespace
 		EXPECT_TRUE(Actual.Equals(Expected)) << "is " << testing::PrintToString(Actual) << ", should be " << testing::PrintToString(FString(Expected));
 	}
 }
+
+using namespace StringTest;
 
 TEST(String, OperatorsAndMapKeysIgnoreCaseAlsoBeyondAscii)
 {

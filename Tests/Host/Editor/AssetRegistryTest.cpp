@@ -29,10 +29,10 @@ namespace AssetRegistryTest
 	}
 }
 
-class FAssetRegistry : public FAssetTestEditor
+class AssetRegistry : public FAssetTestEditor
 {
 protected:
-	FAssetRegistry()
+	AssetRegistry()
 	{
 		WriteContent("Zoo/B.uasset.json", MakeTestAssetFile("B", R"("Count": 1)"));
 		WriteContent("Alpha/C.uasset.json", MakeTestAssetFile("C", ""));
@@ -49,7 +49,7 @@ protected:
 	}
 };
 
-TEST_F(FAssetRegistry, FindsAssetsOfExactlyOneClassOnDiskAndInMemory)
+TEST_F(AssetRegistry, FindsAssetsOfExactlyOneClassOnDiskAndInMemory)
 {
 	MakeAsset(TEXT("/Game/Zoo/Second"));
 	MakeAsset(TEXT("/Game/Alpha/First"));
@@ -60,7 +60,7 @@ TEST_F(FAssetRegistry, FindsAssetsOfExactlyOneClassOnDiskAndInMemory)
 	EXPECT_EQ(FindObject<UObject>(nullptr, TEXT("/Game/Zoo/B.B")), nullptr) << "a query loads nothing";
 }
 
-TEST_F(FAssetRegistry, FiltersByEveryComponentThatIsNotEmpty)
+TEST_F(AssetRegistry, FiltersByEveryComponentThatIsNotEmpty)
 {
 	FARFilter Recursive = ByClass(UTestAsset::StaticClass());
 	Recursive.bRecursiveClasses = true;
@@ -88,7 +88,7 @@ TEST_F(FAssetRegistry, FiltersByEveryComponentThatIsNotEmpty)
 	EXPECT_FALSE(FAssetRegistryModule::GetRegistry().GetAssets(FARFilter(), None)) << "an empty filter is invalid";
 }
 
-TEST_F(FAssetRegistry, ListsAnAssetOnceWhetherLoadedSavedOrNew)
+TEST_F(AssetRegistry, ListsAnAssetOnceWhetherLoadedSavedOrNew)
 {
 	LoadTestAsset(TEXT("/Game/Zoo/B"));
 	UTestAsset* New = MakeAsset(TEXT("/Game/Zoo/A"));
@@ -103,14 +103,14 @@ TEST_F(FAssetRegistry, ListsAnAssetOnceWhetherLoadedSavedOrNew)
 	EXPECT_EQ(AssetRegistryTest::Find(OnDisk), (std::vector<std::string>{"/Game/Alpha/C.C", "/Game/Zoo/A.A", "/Game/Zoo/B.B"}));
 }
 
-TEST_F(FAssetRegistry, ForgetsDeadAssets)
+TEST_F(AssetRegistry, ForgetsDeadAssets)
 {
 	MakeAsset(TEXT("/Game/Dead"))->MarkAsGarbage();
 
 	EXPECT_EQ(AssetRegistryTest::Find(ByClass(UTestAsset::StaticClass())).size(), 2u);
 }
 
-TEST_F(FAssetRegistry, AssetDataLoadsItsAsset)
+TEST_F(AssetRegistry, AssetDataLoadsItsAsset)
 {
 	FARFilter ByPath;
 	ByPath.SoftObjectPaths.Add(FSoftObjectPath(FString(TEXT("/Game/Zoo/B.B"))));
@@ -130,7 +130,7 @@ TEST_F(FAssetRegistry, AssetDataLoadsItsAsset)
 	EXPECT_EQ(FAssetData().GetAsset(), nullptr);
 }
 
-TEST_F(FAssetRegistry, PassesOverFilesThatAreNoAssetsAndSaysSo)
+TEST_F(AssetRegistry, PassesOverFilesThatAreNoAssetsAndSaysSo)
 {
 	WriteContent("Notes.uasset.json", "{\"Hello\": 1}");
 	WriteContent("Cut.uasset.json", "{\"Class\": \"/Script/TestAssets.TestAsset\", \"Obj");
@@ -142,7 +142,7 @@ TEST_F(FAssetRegistry, PassesOverFilesThatAreNoAssetsAndSaysSo)
 	EXPECT_EQ(UEditorAssetLibrary::LoadAsset(TEXT("/Game/Cut.Cut")), nullptr);
 }
 
-TEST_F(FAssetRegistry, EditorScriptsLoadAssetsByAnyFormOfTheirPath)
+TEST_F(AssetRegistry, EditorScriptsLoadAssetsByAnyFormOfTheirPath)
 {
 	struct FCase
 	{
@@ -167,7 +167,7 @@ TEST_F(FAssetRegistry, EditorScriptsLoadAssetsByAnyFormOfTheirPath)
 	}
 }
 
-TEST_F(FAssetRegistry, EditorScriptsSaveLoadedAssets)
+TEST_F(AssetRegistry, EditorScriptsSaveLoadedAssets)
 {
 	UTestAsset* Asset = LoadTestAsset(TEXT("/Game/Zoo/B"));
 	ASSERT_NE(Asset, nullptr);
@@ -184,7 +184,7 @@ TEST_F(FAssetRegistry, EditorScriptsSaveLoadedAssets)
 	}
 }
 
-TEST_F(FAssetRegistry, DefinitionsAreFoundByReflection)
+TEST_F(AssetRegistry, DefinitionsAreFoundByReflection)
 {
 	const UAssetDefinition* Definition = HostAssetDefinitions::FindExact(UTestAsset::StaticClass());
 

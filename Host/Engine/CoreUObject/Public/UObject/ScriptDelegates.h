@@ -5,11 +5,11 @@
 
 #include "Containers/Array.h"
 #include "Delegates/DelegateInstancesImpl.h"
+#include "HostReflection/ParameterBlock.h"
+#include "HostReflection/ReflectedHandler.h"
 #include "Misc/AssertionMacros.h"
 #include "UObject/NameTypes.h"
 #include "UObject/ObjectPtr.h"
-#include "UObject/ParameterBlock.h"
-#include "UObject/ReflectedHandler.h"
 #include "UObject/WeakObjectPtr.h"
 
 #include <type_traits>
@@ -149,4 +149,4 @@ private:
 #define AddUniqueDynamic(UserObject, FuncName) __Internal_AddUniqueDynamic(UserObject, FuncName, UE::Reflection::HandlerName<decltype(FuncName)>(#FuncName))
 #define RemoveDynamic(UserObject, FuncName) __Internal_RemoveDynamic(UserObject, FuncName, UE::Reflection::HandlerName<decltype(FuncName)>(#FuncName))
 
-#include "UObject/ScriptDelegateMacros.h"
+#include "HostReflection/ScriptDelegateMacros.h"

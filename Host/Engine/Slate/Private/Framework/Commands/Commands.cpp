@@ -10,7 +10,7 @@ void FUICommandInfo::MakeCommandInfo(const TSharedRef<FBindingContext>& InContex
 	const FText& InCommandLabel, const FText& InCommandDesc, const FSlateIcon& InIcon, const EUserInterfaceActionType InUserInterfaceType,
 	const FInputChord& InDefaultChord, const FInputChord& InAlternateDefaultChord)
 {
-	const TSharedRef<FUICommandInfo> Command = MakeShared<FUICommandInfo>();
+	const TSharedRef<FUICommandInfo> Command = MakeShareable(new FUICommandInfo());
 	Command->BindingContext = InContext->GetContextName();
 	Command->CommandName = InCommandName;
 	Command->Label = InCommandLabel;

@@ -59,6 +59,8 @@ public:
 	EUserInterfaceActionType GetUserInterfaceType() const { return UserInterfaceType; }
 
 private:
+	FUICommandInfo() = default;
+
 	FName BindingContext;
 	FName CommandName;
 	FText Label;
