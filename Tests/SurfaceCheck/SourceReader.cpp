@@ -643,7 +643,10 @@ namespace SurfaceCheck
 				{
 					for (const std::string& Name : Scope.Names)
 					{
-						Result += bFriend && Scope.bClass ? "" : (Result.empty() ? "" : "::") + Name;
+						if (!bFriend || !Scope.bClass)
+						{
+							Result += (Result.empty() ? "" : "::") + Name;
+						}
 					}
 				}
 				for (const std::string& Name : Qualifiers)

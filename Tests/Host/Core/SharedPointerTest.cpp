@@ -194,7 +194,7 @@ TEST(Function, CopiesSmallAndLargeFunctors)
 	Copy = Big;
 	Small = MoveTemp(Big);
 	EXPECT_EQ(Copy(1) + Small(1), 12);
-	EXPECT_FALSE(Big);
+	EXPECT_FALSE(Big) << "what was moved away is left";
 	Copy = nullptr;
 	Small.Reset();
 	EXPECT_TRUE(Counter.IsUnique());

@@ -14,7 +14,8 @@ namespace ObjectConstructionTest
 	{
 		UTestWall* Defaults = GetMutableDefault<UTestWall>();
 		EXPECT_EQ(Utf8(Defaults->GetPathName()), "/Script/TestObjects.Default__TestWall");
-		EXPECT_TRUE(Defaults->HasAnyFlags(RF_ClassDefaultObject) && Defaults->HasAnyFlags(RF_ArchetypeObject));
+		EXPECT_TRUE(Defaults->HasAnyFlags(RF_ClassDefaultObject));
+		EXPECT_TRUE(Defaults->HasAnyFlags(RF_ArchetypeObject));
 		Defaults->Number = 42;
 		Defaults->Marks = {1, 2};
 		Defaults->Finish.Coats.AddDefaulted_GetRef().Pigment = TEXT("Ochre");

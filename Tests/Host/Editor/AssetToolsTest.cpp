@@ -100,13 +100,12 @@ TEST_F(AssetTools, CreatesAnUnsavedAssetThatTheRegistryKnows)
 
 	ASSERT_NE(Asset, nullptr);
 	EXPECT_EQ(Utf8(Asset->GetPathName()), "/Game/Dir/New.New");
-	EXPECT_TRUE(Asset->HasAnyFlags(RF_Public) && Asset->HasAnyFlags(RF_Standalone) && Asset->HasAnyFlags(RF_Transactional));
+	EXPECT_TRUE(Asset->HasAnyFlags(RF_Public));
+	EXPECT_TRUE(Asset->HasAnyFlags(RF_Standalone));
+	EXPECT_TRUE(Asset->HasAnyFlags(RF_Transactional));
 	EXPECT_TRUE(Asset->GetPackage()->IsDirty());
 	EXPECT_FALSE(HasContent("Dir/New.uasset.json")) << "not saved yet";
-	FARFilter ByPath;
-	ByPath.SoftObjectPaths.Add(FSoftObjectPath(Asset));
-	TArray<FAssetData> Found;
-	EXPECT_TRUE(FAssetRegistryModule::GetRegistry().GetAssets(ByPath, Found) && Found.Num() == 1);
+	EXPECT_TRUE(IAssetRegistry::GetChecked().GetAssetByObjectPath(FSoftObjectPath(Asset)).IsValid());
 	EXPECT_EQ(CountAsked("ReplaceAsset"), 0);
 }
 

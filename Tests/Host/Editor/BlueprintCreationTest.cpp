@@ -50,7 +50,9 @@ TEST_F(BlueprintCreation, MakesAClassThatCanBeSpawned)
 	ASSERT_NE(Blueprint, nullptr);
 	EXPECT_EQ(Blueprint->ParentClass, ATestActor::StaticClass());
 	EXPECT_EQ(Blueprint->BlueprintType, BPTYPE_Normal);
-	EXPECT_TRUE(Blueprint->HasAnyFlags(RF_Public) && Blueprint->HasAnyFlags(RF_Standalone) && Blueprint->HasAnyFlags(RF_Transactional));
+	EXPECT_TRUE(Blueprint->HasAnyFlags(RF_Public));
+	EXPECT_TRUE(Blueprint->HasAnyFlags(RF_Standalone));
+	EXPECT_TRUE(Blueprint->HasAnyFlags(RF_Transactional));
 	EXPECT_TRUE(Blueprint->GetPackage()->IsDirty());
 	UClass* Class = Blueprint->GeneratedClass;
 	ASSERT_NE(Class, nullptr);

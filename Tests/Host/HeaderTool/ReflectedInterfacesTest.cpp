@@ -75,7 +75,8 @@ TEST_F(ReflectedInterfaces, AreFoundByCasts)
 	EXPECT_EQ(Interface->_getUObject(), Greeter);
 	EXPECT_EQ(Cast<UFixtureGreeterObject>(Interface), Greeter);
 	EXPECT_EQ(Cast<IFixtureGreeter>(static_cast<UObject*>(NewObject<UFixtureSilentObject>())), nullptr);
-	EXPECT_TRUE(UFixtureGreeter::StaticClass()->HasAnyClassFlags(CLASS_Interface) && UFixtureGreeter::StaticClass()->HasAnyClassFlags(CLASS_Abstract));
+	EXPECT_TRUE(UFixtureGreeter::StaticClass()->HasAnyClassFlags(CLASS_Interface));
+	EXPECT_TRUE(UFixtureGreeter::StaticClass()->HasAnyClassFlags(CLASS_Abstract));
 }
 
 TEST_F(ReflectedInterfaces, RefuseWhatWouldPassTheScriptBy)

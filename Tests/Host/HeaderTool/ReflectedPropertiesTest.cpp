@@ -163,7 +163,9 @@ TEST_F(ReflectedProperties, OfAClassComeWithItsOwnFacts)
 	EXPECT_EQ(Class->GetClassPathName().ToString(), FString(TEXT("/Script/ReflectionFixtures.FixtureProperties")));
 	EXPECT_EQ(FString(UFixtureProperties::StaticPackage()), FString(TEXT("/Script/ReflectionFixtures")));
 	EXPECT_EQ(Class->ClassConfigName, FName(TEXT("FixtureConfig")));
-	EXPECT_TRUE(Class->HasAnyClassFlags(CLASS_Native) && Class->HasAnyClassFlags(CLASS_Config) && Class->HasAnyClassFlags(CLASS_DefaultConfig));
+	EXPECT_TRUE(Class->HasAnyClassFlags(CLASS_Native));
+	EXPECT_TRUE(Class->HasAnyClassFlags(CLASS_Config));
+	EXPECT_TRUE(Class->HasAnyClassFlags(CLASS_DefaultConfig));
 	EXPECT_FALSE(Class->HasAnyClassFlags(CLASS_Abstract));
 	EXPECT_EQ(Class->GetMetaData(TEXT("DisplayName")), FString(TEXT("All \"kinds\"")));
 	EXPECT_EQ(Class->GetMetaData(TEXT("ToolTip")), FString(TEXT("Every kind of property.\nIndented lines keep their words.")));

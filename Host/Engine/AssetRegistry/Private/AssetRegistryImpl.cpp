@@ -115,6 +115,16 @@ bool FAssetRegistryImpl::GetAssetsByPath(FName PackagePath, TArray<FAssetData>& 
 	return GetAssets(Filter, OutAssetData, true);
 }
 
+FAssetData FAssetRegistryImpl::GetAssetByObjectPath(const FSoftObjectPath& ObjectPath, bool bIncludeOnlyOnDiskAssets) const
+{
+	FARFilter Filter;
+	Filter.SoftObjectPaths.Add(ObjectPath);
+	Filter.bIncludeOnlyOnDiskAssets = bIncludeOnlyOnDiskAssets;
+	TArray<FAssetData> Found;
+	GetAssets(Filter, Found, true);
+	return Found.IsEmpty() ? FAssetData() : Found[0];
+}
+
 void FAssetRegistryImpl::AssetCreated(UObject* NewAsset)
 {
 	if (NewAsset == nullptr)

@@ -16,6 +16,11 @@ enum class EToolMenuInsertType : uint8
 struct FToolMenuInsert
 {
 	FToolMenuInsert() = default;
+	FToolMenuInsert(const FName InName, EToolMenuInsertType InPosition)
+		: Name(InName)
+		, Position(InPosition)
+	{
+	}
 
 	bool IsDefault() const { return Position == EToolMenuInsertType::Default; }
 

@@ -128,6 +128,11 @@ bool UEditorEngine::CanTransact()
 	return Trans != nullptr && !GIsTransacting;
 }
 
+bool UEditorEngine::IsTransactionActive() const
+{
+	return Trans != nullptr && Trans->IsActive();
+}
+
 void UEditorEngine::ResetTransaction(const FText& Reason)
 {
 	if (Trans != nullptr)

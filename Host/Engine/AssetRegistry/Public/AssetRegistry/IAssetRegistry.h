@@ -30,6 +30,9 @@ public:
 
 	virtual bool GetAssetsByPath(FName PackagePath, TArray<FAssetData>& OutAssetData, bool bRecursive = false, bool bIncludeOnlyOnDiskAssets = false) const = 0;
 
+	/** An invalid FAssetData when there is no such asset. */
+	virtual FAssetData GetAssetByObjectPath(const FSoftObjectPath& ObjectPath, bool bIncludeOnlyOnDiskAssets = false) const = 0;
+
 	/** Whoever makes an asset says so, through FAssetRegistryModule::AssetCreated(). */
 	virtual void AssetCreated(UObject* NewAsset) = 0;
 };

@@ -2,8 +2,29 @@
 
 #include "Misc/DateTime.h"
 
+#include "HostClock.h"
+#include "HostState.h"
+
+#include <chrono>
+
 namespace DateTime
 {
+	constexpr int64 UnixEpochDays = 719162; // from 0001-01-01 to 1970-01-01
+
+	/** What the machine's clock showed when the editor's clock stood at 0. */
+	struct FStartOfClock
+	{
+		FDateTime Time;
+
+		FStartOfClock()
+		{
+			const double UnixSeconds = std::chrono::duration<double>(std::chrono::system_clock::now().time_since_epoch()).count();
+			Time = FDateTime::FromUnixTimestamp(0) + FTimespan::FromSeconds(UnixSeconds - HostClock::Now());
+		}
+	};
+
+	THostState<FStartOfClock> StartOfClock;
+
 	/** Days from 0001-01-01 to the first of January. */
 	int64 DaysBeforeYear(int32 Year)
 	{
@@ -42,6 +63,16 @@ FDateTime::FDateTime(int32 Year, int32 Month, int32 Day, int32 Hour, int32 Minut
 		Days += DaysInMonth(Year, Before);
 	}
 	Ticks = Days * ETimespan::TicksPerDay + Hour * ETimespan::TicksPerHour + Minute * ETimespan::TicksPerMinute + Second * ETimespan::TicksPerSecond + Millisecond * ETimespan::TicksPerMillisecond;
+}
+
+FDateTime FDateTime::UtcNow()
+{
+	return DateTime::StartOfClock->Time + FTimespan::FromSeconds(HostClock::Now());
+}
+
+FDateTime FDateTime::FromUnixTimestamp(int64 UnixTime)
+{
+	return FDateTime(DateTime::UnixEpochDays * ETimespan::TicksPerDay + UnixTime * ETimespan::TicksPerSecond);
 }
 
 bool FDateTime::IsLeapYear(int32 Year)

@@ -45,6 +45,9 @@ struct FMath
 		return High < X ? High : X;
 	}
 
+	static constexpr bool IsNearlyEqual(float A, float B, float ErrorTolerance = UE_SMALL_NUMBER) { return Abs(A - B) <= ErrorTolerance; }
+	static constexpr bool IsNearlyEqual(double A, double B, double ErrorTolerance = UE_DOUBLE_SMALL_NUMBER) { return Abs(A - B) <= ErrorTolerance; }
+
 	/** Halves go up: -0.5 becomes 0. */
 	static int32 RoundToInt(float Value) { return FloorToInt(Value + 0.5f); }
 	static int64 RoundToInt(double Value) { return FloorToInt(Value + 0.5); }

@@ -20,6 +20,10 @@ struct FDateTime
 	/** Fatal when there is no such day or time. */
 	FDateTime(int32 Year, int32 Month, int32 Day, int32 Hour = 0, int32 Minute = 0, int32 Second = 0, int32 Millisecond = 0);
 
+	/** Host: the machine's time when the editor first asks, and from there on the host's clock, which tests step. */
+	static FDateTime UtcNow();
+	static FDateTime FromUnixTimestamp(int64 UnixTime);
+
 	static bool IsLeapYear(int32 Year);
 	static int32 DaysInMonth(int32 Year, int32 Month);
 	static bool Validate(int32 Year, int32 Month, int32 Day, int32 Hour, int32 Minute, int32 Second, int32 Millisecond);
@@ -41,7 +45,7 @@ struct FDateTime
 
 	/** "2024.05.31-23.59.59" */
 	FString ToString() const;
-	/** Reads what ToIso8601 writes, with or without milliseconds and 'Z', or a date alone. */
+	/** Reads "2024-05-31T23:59:59.000Z", with or without milliseconds and 'Z', or a date alone. */
 	static bool ParseIso8601(const TCHAR* DateTimeString, FDateTime& OutDateTime);
 
 private:

@@ -20,6 +20,7 @@ public:
 
 	//~ Begin SNotificationItem
 	virtual void SetText(const TAttribute<FText>& InText) override;
+	virtual ECompletionState GetCompletionState() const override { return Record->State; }
 	virtual void SetCompletionState(ECompletionState State) override;
 	virtual void ExpireAndFadeout() override;
 	//~ End SNotificationItem

@@ -21,7 +21,9 @@ public:
 
 	const FMargin GetPadding() const { return SlotPadding.Get(); }
 	void SetPadding(TAttribute<FMargin> InPadding) { SlotPadding = MoveTemp(InPadding); }
+	EHorizontalAlignment GetHorizontalAlignment() const { return HorizontalAlignment; }
 	void SetHorizontalAlignment(EHorizontalAlignment InAlignment) { HorizontalAlignment = InAlignment; }
+	EVerticalAlignment GetVerticalAlignment() const { return VerticalAlignment; }
 	void SetVerticalAlignment(EVerticalAlignment InAlignment) { VerticalAlignment = InAlignment; }
 
 private:

@@ -45,6 +45,9 @@ public:
 
 	FName GetTag() const { return Tag; }
 	void SetTag(FName InTag) { Tag = InTag; }
+
+	/** The widget class as SNew was given it. */
+	FName GetType() const { return TypeOfWidget; }
 	FString GetTypeAsString() const { return TypeOfWidget.ToString(); }
 
 protected:

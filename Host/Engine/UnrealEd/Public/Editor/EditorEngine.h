@@ -54,6 +54,7 @@ public:
 
 	/** Whether steps can be recorded: there is a buffer, and nothing is being undone. */
 	bool CanTransact();
+	bool IsTransactionActive() const;
 
 	/** Forgets all steps. */
 	void ResetTransaction(const FText& Reason);

@@ -6,6 +6,20 @@
 #include "Framework/Commands/UICommandList.h"
 #include "HostState.h"
 
+FText FInputChord::GetInputText() const
+{
+	if (!IsValidChord())
+	{
+		return FText::GetEmpty();
+	}
+	FString Text;
+	Text += (Modifiers & EModifierKey::Control) != 0 ? TEXT("Ctrl+") : TEXT("");
+	Text += (Modifiers & EModifierKey::Command) != 0 ? TEXT("Cmd+") : TEXT("");
+	Text += (Modifiers & EModifierKey::Alt) != 0 ? TEXT("Alt+") : TEXT("");
+	Text += (Modifiers & EModifierKey::Shift) != 0 ? TEXT("Shift+") : TEXT("");
+	return FText::FromString(Text + Key.ToString());
+}
+
 void FUICommandInfo::MakeCommandInfo(const TSharedRef<FBindingContext>& InContext, TSharedPtr<FUICommandInfo>& OutCommand, const FName InCommandName,
 	const FText& InCommandLabel, const FText& InCommandDesc, const FSlateIcon& InIcon, const EUserInterfaceActionType InUserInterfaceType,
 	const FInputChord& InDefaultChord, const FInputChord& InAlternateDefaultChord)
@@ -106,15 +120,45 @@ void FUICommandList::MapAction(const TSharedPtr<const FUICommandInfo> InUIComman
 	MapAction(InUICommandInfo, FUIAction(MoveTemp(ExecuteAction), MoveTemp(CanExecuteAction), RepeatMode));
 }
 
+void FUICommandList::Append(const TSharedRef<FUICommandList>& InCommandsToAppend)
+{
+	check(&InCommandsToAppend.Get() != this);
+	AppendedLists.Add(InCommandsToAppend);
+}
+
 const FUIAction* FUICommandList::GetActionForCommand(TSharedPtr<const FUICommandInfo> Command) const
 {
-	return UICommandBindingMap.Find(Command);
+	if (const FUIAction* Action = UICommandBindingMap.Find(Command))
+	{
+		return Action;
+	}
+	for (const TWeakPtr<FUICommandList>& Weak : AppendedLists)
+	{
+		const TSharedPtr<FUICommandList> List = Weak.Pin();
+		const FUIAction* Action = List.IsValid() ? List->GetActionForCommand(Command) : nullptr;
+		if (Action)
+		{
+			return Action;
+		}
+	}
+	return nullptr;
 }
 
 bool FUICommandList::ExecuteAction(const TSharedRef<const FUICommandInfo> InUICommandInfo) const
 {
 	const FUIAction* Action = GetActionForCommand(InUICommandInfo);
 	return Action && FUIAction(*Action).Execute(); // a copy: the action may change the list
+}
+
+bool FUICommandList::CanExecuteAction(const TSharedRef<const FUICommandInfo> InUICommandInfo) const
+{
+	const FUIAction* Action = GetActionForCommand(InUICommandInfo);
+	return !Action || Action->CanExecute();
+}
+
+bool FUICommandList::TryExecuteAction(const TSharedRef<const FUICommandInfo> InUICommandInfo) const
+{
+	return ExecuteAction(InUICommandInfo);
 }
 
 bool FUICommandList::IsActionMapped(const TSharedPtr<const FUICommandInfo> InUICommandInfo) const

@@ -21,6 +21,11 @@ struct SLATE_API FInputChord
 {
 	FInputChord() = default;
 
+	bool IsValidChord() const { return Key.IsValid(); }
+
+	/** "Ctrl+Shift+S"; empty for no chord. */
+	FText GetInputText() const;
+
 	FKey Key;
 	EModifierKey::Type Modifiers = EModifierKey::None;
 };

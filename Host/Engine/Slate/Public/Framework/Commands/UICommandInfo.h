@@ -58,6 +58,9 @@ public:
 	const FSlateIcon& GetIcon() const { return Icon; }
 	EUserInterfaceActionType GetUserInterfaceType() const { return UserInterfaceType; }
 
+	/** The chord as a menu prints it; empty when there is none. */
+	FText GetInputText() const { return DefaultChord.GetInputText(); }
+
 private:
 	FUICommandInfo() = default;
 

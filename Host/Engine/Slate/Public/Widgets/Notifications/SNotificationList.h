@@ -24,6 +24,7 @@ public:
 
 	virtual void SetText(const TAttribute<FText>& InText) = 0;
 
+	virtual ECompletionState GetCompletionState() const = 0;
 	/** Also decides which buttons show. */
 	virtual void SetCompletionState(ECompletionState State) = 0;
 

@@ -52,6 +52,8 @@ public:
 			RebuildList();
 		}
 	}
+	void ClearItemsSource() { SetItemsSource(nullptr); }
+	bool HasValidItemsSource() const { return ItemsSource != nullptr; }
 	TArrayView<const ItemType> GetItems() const { return ItemsSource ? TArrayView<const ItemType>(*ItemsSource) : TArrayView<const ItemType>(); }
 
 	virtual void RebuildList() override
