@@ -13,7 +13,7 @@ velmorant_program(DesktopTests
 	SOURCES ${DesktopTestSources}
 	MODULES
 		Core CoreUObject Projects SlateCore Slate Engine UMG UnrealEd PropertyEditor VelmorantProEditor Runtime
-	LIBRARIES GTest::gmock Qt6::Widgets Qt6::Svg Qt6::Test
+	LIBRARIES GTest::gmock Qt6::Widgets Qt6::Svg Qt6::Test HeaderToolCore
 	PCH DesktopTestPCH)
 target_sources(DesktopTests PRIVATE $<TARGET_OBJECTS:DesktopParts>)
 target_compile_options(DesktopTests PRIVATE ${VELMORANT_UNMEASURED})
