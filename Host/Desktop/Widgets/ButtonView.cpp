@@ -14,7 +14,7 @@ namespace ButtonView
 	static const int ArrowWidth = 14;
 	static const int Gap = 6;
 
-	static bool HasContent(const TArray<FHostWidgetPart>& Parts)
+	bool HasContent(const TArray<FHostWidgetPart>& Parts)
 	{
 		return Parts.ContainsByPredicate([](const FHostWidgetPart& Part) { return Part.Widget != SNullWidget::NullWidget; });
 	}

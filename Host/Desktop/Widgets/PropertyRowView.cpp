@@ -42,7 +42,7 @@ namespace PropertyRowView
 	};
 
 	/** The rows around a view's place; they hold each other's Qt widgets. */
-	static int DepthOf(const QWidget& Screen)
+	int DepthOf(const QWidget& Screen)
 	{
 		int Depth = 0;
 		for (const QWidget* Around = Screen.parentWidget(); Around != nullptr; Around = Around->parentWidget())
@@ -52,7 +52,7 @@ namespace PropertyRowView
 		return Depth;
 	}
 
-	static FSlotGeometry MakeSlot(double Fill, const QMargins& Padding = QMargins())
+	FSlotGeometry MakeSlot(double Fill, const QMargins& Padding = QMargins())
 	{
 		FSlotGeometry Slot;
 		Slot.Fill = Fill;
@@ -62,7 +62,7 @@ namespace PropertyRowView
 	}
 
 	/** Fields take the whole column; what has a size of its own keeps it. */
-	static bool FillsColumn(const TSharedRef<SWidget>& Widget)
+	bool FillsColumn(const TSharedRef<SWidget>& Widget)
 	{
 		const FHostWidgetDescription Description = FHostWidgetAccess::Describe(*Widget);
 		for (const TCHAR* Role : {TEXT("edit"), TEXT("search"), TEXT("combo"), TEXT("list"), TEXT("tiles"), TEXT("text")})

@@ -38,7 +38,7 @@ namespace PanelDocks
 	};
 
 	/** "VelmorantDeveloperPanel" as people write it. */
-	static QString MakeTitle(const QString& Label)
+	QString MakeTitle(const QString& Label)
 	{
 		QString Title;
 		for (const QChar Character : Label)
