@@ -265,14 +265,14 @@ TEST_F(ModuleInstallation, LeavesWhereItIsEndedWhatAnotherRunCompletes)
 	{
 		int NumKilled = 0;
 		bool bKilled = true;
-		const auto Next = [NumFiles](int Rename) { return Rename + NumFiles / 4 < NumFiles ? Rename + NumFiles / 4 : std::max(Rename + 1, NumFiles - 1); };
+		const auto Next = [NumFiles, bOverwrite](int Rename) { return !bOverwrite && Rename + NumFiles / 4 < NumFiles ? Rename + NumFiles / 4 : std::max(Rename + 1, bOverwrite ? 0 : NumFiles - 1); };
 		for (int Rename = 0; bKilled; Rename = Next(Rename)) // of many files alike some, the last ones in every step
 		{
 			SCOPED_TRACE(std::to_string(Rename) + (bOverwrite ? ", over other files" : ""));
 			WriteDescriptor(Descriptor);
 			for (const auto& [Path, State] : Complete)
 			{
-				if (Path.find("/VelmorantProEditor/") != std::string::npos && Path.ends_with(".cpp") && bOverwrite)
+				if (Path.find("/Private/Configurators/") != std::string::npos && Path.ends_with(".cpp") && bOverwrite)
 				{
 					std::ofstream(Path) << "// of the version before\n";
 				}

@@ -79,13 +79,13 @@ FProgramRun::FProgramRun(const std::vector<std::string>& Arguments, const FEnvir
 	Process = fork();
 	if (Process == 0)
 	{
-		Redirect(Output == EOutput::FullDisk ? "/dev/full" : Folder + "/out", STDOUT_FILENO);
+		ProgramRun::Redirect(Output == EOutput::FullDisk ? "/dev/full" : Folder + "/out", STDOUT_FILENO);
 		if (Output == EOutput::ClosedPipe)
 		{
-			RedirectToClosedPipe(STDOUT_FILENO);
+			ProgramRun::RedirectToClosedPipe(STDOUT_FILENO);
 		}
-		Redirect(Folder + "/err", STDERR_FILENO);
-		Execute(Arguments, Environment);
+		ProgramRun::Redirect(Folder + "/err", STDERR_FILENO);
+		ProgramRun::Execute(Arguments, Environment);
 	}
 }
 
@@ -101,10 +101,10 @@ FProgramRun::~FProgramRun()
 
 FProgramResult FProgramRun::Wait()
 {
-	FProgramResult Result = WaitFor(Process);
+	FProgramResult Result = ProgramRun::WaitFor(Process);
 	Process = -1;
-	Result.Output = ReadAll(Folder + "/out");
-	Result.Errors = ReadAll(Folder + "/err");
+	Result.Output = ProgramRun::ReadAll(Folder + "/out");
+	Result.Errors = ProgramRun::ReadAll(Folder + "/err");
 	return Result;
 }
 
@@ -119,7 +119,7 @@ FProgramResult FProgramRun::RunOnTerminal(const std::vector<std::string>& Argume
 	const pid_t Process = forkpty(&Terminal, nullptr, nullptr, nullptr);
 	if (Process == 0)
 	{
-		Execute(Arguments, Environment);
+		ProgramRun::Execute(Arguments, Environment);
 	}
 	std::string Shown;
 	std::string Typed = Line + "\n";
@@ -133,7 +133,7 @@ FProgramResult FProgramRun::RunOnTerminal(const std::vector<std::string>& Argume
 		}
 	}
 	close(Terminal);
-	FProgramResult Result = WaitFor(Process);
+	FProgramResult Result = ProgramRun::WaitFor(Process);
 	Result.Output = Shown;
 	return Result;
 }
