@@ -2,22 +2,18 @@
 
 #include "Run/RunCommand.h"
 
-#include "Containers/StringConv.h"
 #include "HostFiles.h"
 #include "HostProblems.h"
-#include "HostTextFiles.h"
 #include "Misc/Paths.h"
 #include "ProjectArgument.h"
 #include "Refusal.h"
 #include "Run/Script.h"
+#include "Run/ScriptFile.h"
 #include "Run/ScriptReport.h"
 #include "Run/ScriptRunner.h"
 
-#include <string>
-
 namespace RunCommand
 {
-	/** Tells what is wrong with the files that were named. */
 	bool CheckFiles(const FRunArguments& Arguments)
 	{
 		for (const FRunInput& Input : Arguments.Inputs)
@@ -30,19 +26,6 @@ namespace RunCommand
 		}
 		Refusal::PrintProblems(EExitStatus::Trouble, Arguments.bJson);
 		return HostProblems::GetAll().IsEmpty();
-	}
-
-	/** The script's text; false when it cannot be read, which is reported. */
-	bool ReadScript(const FString& Path, FString& OutText)
-	{
-		std::string Text;
-		const HostFiles::ERead Read = HostTextFiles::ReadUtf8(Path, Text);
-		if (Read == HostFiles::ERead::Missing)
-		{
-			HostProblems::Report(FPaths::ConvertRelativePathToFull(Path), 0, TEXT("there is no such script"));
-		}
-		OutText = UTF8_TO_TCHAR(Text.c_str());
-		return Read == HostFiles::ERead::Done;
 	}
 
 	FEditorHostOptions MakeOptions(const FString& Project, const FRunArguments& Arguments)
@@ -63,26 +46,15 @@ namespace RunCommand
 		{
 			return End.GetValue();
 		}
-		FString Text;
-		ReadScript(Arguments.Script, Text);
-		if (!CheckFiles(Arguments))
+		const FString Text = ScriptFile::ReadText(Arguments.Script);
+		FScript Script;
+		if (!CheckFiles(Arguments) || !ScriptFile::Parse(Arguments.Script, Text, Arguments.bJson, Script))
 		{
-			return EExitStatus::Trouble;
-		}
-		TArray<FScriptProblem> Problems;
-		const FScript Script = Script::Parse(Text, Problems);
-		if (!Problems.IsEmpty())
-		{
-			TArray<FString> Lines;
-			for (const FScriptProblem& Problem : Problems)
-			{
-				Lines.Add(Problem.ToString(Arguments.Script));
-			}
-			Refusal::Print(EExitStatus::Trouble, Lines, Arguments.bJson);
 			return EExitStatus::Trouble;
 		}
 		const TUniquePtr<IScriptReport> Report = ScriptReport::Make(Arguments.Script, Arguments.bJson);
-		FScriptRunner Runner(MakeOptions(Project, Arguments), *Report);
+		FScriptSession Session(MakeOptions(Project, Arguments));
+		FScriptRunner Runner(Session, *Report);
 		return Runner.Run(Script);
 	}
 }

@@ -26,5 +26,11 @@ struct FRunArguments
 /** velmorant run: does in a project what a script says. */
 namespace RunCommand
 {
+	/** Whether all files that were named are there; tells of those that are not. */
+	bool CheckFiles(const FRunArguments& Arguments);
+
+	/** The editor that the arguments ask for. */
+	FEditorHostOptions MakeOptions(const FString& Project, const FRunArguments& Arguments);
+
 	EExitStatus Run(const FRunArguments& Arguments);
 }

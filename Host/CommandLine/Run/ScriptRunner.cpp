@@ -101,6 +101,10 @@ EExitStatus FScriptRunner::Run(const FScript& Script)
 		}
 		Outcome = RunStep(Step).Outcome;
 		NumDone += Outcome == EStepOutcome::Done ? 1 : 0;
+		if (AfterStep)
+		{
+			AfterStep(Step);
+		}
 	}
 	FRunSummary Summary = SumUp(Outcome, NumDone);
 	ScriptSecrets::Hide(Summary);

@@ -421,7 +421,7 @@ namespace FilesOnDisk
 			const bool bWritten = Write("File", "new");
 			setrlimit(RLIMIT_FSIZE, &Usual);
 			bFlushFails = false;
-			EXPECT_FALSE(bWritten);
+			EXPECT_FALSE(bWritten) << Why;
 			EXPECT_EQ(GetProblems(), std::string("the file cannot be written and is as it was: ") + Why + ". Check free space and the permissions of its folder.\n");
 			EXPECT_EQ(Folder.Read("File"), "old");
 			EXPECT_EQ(Folder.Count(), 1u);

@@ -202,10 +202,10 @@ TEST_F(AssetRegistry, DefinitionsAreFoundByReflection)
 
 TEST(AssetCategoryPath, EqualTextsOfDifferentNamespacesAreOneCategory)
 {
-	const AssetCategoryPath Left(NSLOCTEXT("One", "Cat", "Towers"), NSLOCTEXT("One", "Sub", "Actions"));
-	const AssetCategoryPath Right = AssetCategoryPath(NSLOCTEXT("Two", "Other", "Towers")) / NSLOCTEXT("Two", "Sub", "Maps");
+	const FAssetCategoryPath Left(NSLOCTEXT("One", "Cat", "Towers"), NSLOCTEXT("One", "Sub", "Actions"));
+	const FAssetCategoryPath Right = FAssetCategoryPath(NSLOCTEXT("Two", "Other", "Towers")) / NSLOCTEXT("Two", "Sub", "Maps");
 
 	EXPECT_EQ(Left.GetCategory(), Right.GetCategory());
 	EXPECT_NE(Left.GetSubCategory(), Right.GetSubCategory());
-	EXPECT_FALSE(AssetCategoryPath(NSLOCTEXT("One", "Cat", "Towers")).HasSubCategory());
+	EXPECT_FALSE(FAssetCategoryPath(NSLOCTEXT("One", "Cat", "Towers")).HasSubCategory());
 }

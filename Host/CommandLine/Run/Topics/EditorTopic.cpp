@@ -2,9 +2,7 @@
 // The editor as a whole: time, saving, restarting, log and clipboard.
 
 #include "HAL/PlatformApplicationMisc.h"
-#include "HostEditor.h"
 #include "HostLog.h"
-#include "HostPackages.h"
 #include "Run/ScriptContext.h"
 #include "Run/ScriptObjects.h"
 #include "Run/ScriptTopics.h"
@@ -34,30 +32,16 @@ namespace EditorTopic
 
 	FStepResult Save(FScriptContext& Context, const FScriptArguments&)
 	{
-		TArray<FString> Homeless;
-		TArray<FString> Failed;
-		for (const FString& Name : Context.Session.GetUnsaved())
+		const FScriptSession::FSaved Saved = Context.Session.Save(Context.Session.GetUnsaved());
+		for (const FString& Name : Saved.Saved)
 		{
-			if (!HostPackages::IsValidPackageName(Name))
-			{
-				Homeless.Add(Name);
-				continue;
-			}
-			const bool bSaved = Name == HostEditor::GetOpenMap() ? HostEditor::SaveOpenMap() : HostPackages::Save(FindPackage(nullptr, *Name)).Succeeded();
-			if (bSaved)
-			{
-				Context.Print(FString(TEXT("saved ")) + Name);
-			}
-			else
-			{
-				Failed.Add(Name);
-			}
+			Context.Print(FString(TEXT("saved ")) + Name);
 		}
-		if (!Failed.IsEmpty())
+		if (!Saved.Failed.IsEmpty())
 		{
-			return FStepResult::Error(FString(TEXT("not saved: ")) + FString::Join(Failed, TEXT(", ")));
+			return FStepResult::Error(FString(TEXT("not saved: ")) + FString::Join(Saved.Failed, TEXT(", ")));
 		}
-		return Homeless.IsEmpty() ? FStepResult::Done() : FStepResult::Error(TEXT("the open level has no file yet; give it one with: save level /Game/FOLDER/NAME"));
+		return Saved.Homeless.IsEmpty() ? FStepResult::Done() : FStepResult::Error(TEXT("the open level has no file yet; give it one with: save level /Game/FOLDER/NAME"));
 	}
 
 	FStepResult Discard(FScriptContext& Context, const FScriptArguments&)

@@ -43,6 +43,10 @@ namespace WidgetLayoutClass
 		{
 			LayoutRunner::Assign(Widget, Assignment.Property, *Assignment.Value, Scope);
 		}
+		for (const FLayoutAssignment& Assignment : Recipe.Slot)
+		{
+			LayoutRunner::Assign(*Widget.Slot, Assignment.Property, *Assignment.Value, Scope);
+		}
 	}
 
 	/** A widget with all below it; properties wait until every name can be found. */

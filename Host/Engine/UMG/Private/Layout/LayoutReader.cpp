@@ -204,6 +204,10 @@ void FLayoutReader::ReadTree(const FJson& Document)
 		return;
 	}
 	ReadWidget(*Tree, TEXT("/Tree"), Layout->Tree);
+	if (!Layout->Tree.Slot.IsEmpty())
+	{
+		Complain(TEXT("/Tree/Slot"), TEXT("the outermost widget lies in no panel"));
+	}
 }
 
 void FLayoutReader::ReadObjects(const FJson& Document)

@@ -86,6 +86,11 @@ void SCheckBox::DescribeToHost(FHostWidgetDescription& OutDescription) const
 	}
 }
 
+void SCheckBox::DescribeLookToHost(FHostWidgetLook& OutLook) const
+{
+	OutLook.bToggle = IsToggleButton();
+}
+
 FHostInputResult SCheckBox::TakeHostInput(const FHostInput& Input)
 {
 	const bool bCheck = Input.Kind == EHostInput::Check && !IsToggleButton();
