@@ -31,6 +31,9 @@ namespace Arguments
 		std::string Script;
 		std::string Service;
 		std::string Platform;
+		std::string Filter;
+		std::string Report;
+		std::string Compare;
 		bool bUnattended = false;
 		bool bCommandlet = false;
 		bool bNullRhi = false;
@@ -39,6 +42,7 @@ namespace Arguments
 		bool bRepair = false;
 		bool bUndo = false;
 		bool bJson = false;
+		bool bList = false;
 
 		FEditorArguments GetEditor() const { return {ToText(Platform), bUnattended, bCommandlet, bNullRhi, bNoNotifications}; }
 	};
@@ -93,6 +97,20 @@ namespace Arguments
 		return Run;
 	}
 
+	CLI::App* AddAutomation(CLI::App& App, FRaw& Raw)
+	{
+		CLI::App* const Automation = App.add_subcommand("automation", "Run the toolkit's automation tests, which the engine runs as well");
+		Automation->add_option("PROJECT", Raw.Project, "A .uproject file, or the folder that holds one; --list and --compare do without");
+		Automation->add_option("FILTER", Raw.Filter, "Only tests whose path contains this; several joined by +");
+		CLI::Option* const List = Automation->add_flag("--list", Raw.bList, "Print the paths of the tests, and run none");
+		CLI::Option* const Report = Automation->add_option("--report", Raw.Report, "Write index.json there, as the engine does")->type_name("FOLDER");
+		CLI::Option* const Compare = Automation->add_option("--compare", Raw.Compare, "Print what differs from a run in the engine: the index.json that it exported")->type_name("REPORT");
+		Compare->excludes(List)->excludes(Report);
+		Report->excludes(List);
+		Automation->footer("Ends with 0 when all tests pass, or engine and host agree but for what is meant to differ, 1 when a\ntest fails or they differ, 2 for bad usage, no such project or no such test, 3 when a file could not\nbe read or written, or a report is not whole.");
+		return Automation;
+	}
+
 	/** Prints the help that was asked for, or what is wrong. */
 	EExitStatus TellEnd(const CLI::App& App, const CLI::ParseError& Error, int Count, const char* const* Values)
 	{
@@ -121,6 +139,7 @@ namespace Arguments
 		App.require_subcommand(1);
 		FRaw Raw;
 		const CLI::App* const Check = AddCheck(App, Raw);
+		const CLI::App* const Automation = AddAutomation(App, Raw);
 		AddRun(App, Raw);
 		try
 		{
@@ -133,6 +152,10 @@ namespace Arguments
 		if (Check->parsed())
 		{
 			OutArguments.Check = FCheckArguments{ToText(Raw.Project), Raw.GetEditor(), Raw.bDiff, Raw.bRepair, Raw.bUndo, Raw.bJson};
+		}
+		else if (Automation->parsed())
+		{
+			OutArguments.Automation = FAutomationArguments{ToText(Raw.Project), ToText(Raw.Filter), ToText(Raw.Report), ToText(Raw.Compare), Raw.bList};
 		}
 		else
 		{

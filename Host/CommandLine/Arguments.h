@@ -28,11 +28,22 @@ struct FRunArguments
 	bool bJson = false;
 };
 
+/** velmorant automation [PROJECT] [FILTER] [--list] [--report FOLDER | --compare REPORT] */
+struct FAutomationArguments
+{
+	FString Project; // may be empty with bList or Compare
+	FString Filter; // parts of the tests' paths, joined by '+'; empty: all
+	FString Report; // the folder to export to; empty: nowhere
+	FString Compare; // what an engine exported; empty: nothing
+	bool bList = false;
+};
+
 /** What the program was asked to do: exactly one of these is set. */
 struct FArguments
 {
 	TOptional<FCheckArguments> Check;
 	TOptional<FRunArguments> Run;
+	TOptional<FAutomationArguments> Automation;
 };
 
 namespace Arguments

@@ -1,6 +1,7 @@
 // Copyright Velmorant. All Rights Reserved.
 
 #include "Arguments.h"
+#include "Automation/AutomationCommand.h"
 #include "Check/CheckCommand.h"
 #include "Console.h"
 #include "HostLocale.h"
@@ -13,7 +14,15 @@ namespace VelmorantMain
 {
 	EExitStatus Run(const FArguments& Arguments)
 	{
-		return Arguments.Check.IsSet() ? CheckCommand::Run(Arguments.Check.GetValue()) : RunCommand::Run(Arguments.Run.GetValue());
+		if (Arguments.Check.IsSet())
+		{
+			return CheckCommand::Run(Arguments.Check.GetValue());
+		}
+		if (Arguments.Automation.IsSet())
+		{
+			return AutomationCommand::Run(Arguments.Automation.GetValue());
+		}
+		return RunCommand::Run(Arguments.Run.GetValue());
 	}
 
 	EExitStatus RunGuarded(const FArguments& Arguments)

@@ -52,6 +52,9 @@ public:
 	/** Names of the rows, those below others included, with the path of the property in parentheses where they differ. */
 	TArray<FString> GetRowTitles();
 
+	/** The headings of categories, in order, with all rows below them. */
+	const TArray<TSharedRef<SDetailsRow>>& GetCategories() const { return Categories; }
+
 	/** Makes all rows anew, as with new customizations. Handles of the panel lose their values. */
 	void Rebuild();
 

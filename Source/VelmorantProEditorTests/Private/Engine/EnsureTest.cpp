@@ -1,0 +1,79 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "CoreMinimal.h"
+#include "Misc/OutputDevice.h"
+#include "Misc/OutputDeviceRedirector.h"
+#include "Support/Beliefs.h"
+#include "Support/TestFlags.h"
+
+#if WITH_DEV_AUTOMATION_TESTS
+
+namespace EnsureTest
+{
+	/** The log, for the length of a scope. */
+	class FLogListener final : public FOutputDevice
+	{
+	public:
+		FLogListener() { GLog->AddOutputDevice(this); }
+		virtual ~FLogListener() override { GLog->RemoveOutputDevice(this); }
+
+		virtual void Serialize(const TCHAR* V, ELogVerbosity::Type Verbosity, const FName& Category) override
+		{
+			Lines.Add(FString::Printf(TEXT("%s %s %s"), *Category.ToString(), ToString(Verbosity), V));
+		}
+
+		int32 Count(const TCHAR* Part) const
+		{
+			return Lines.FilterByPredicate([Part](const FString& Line) { return Line.Contains(Part); }).Num();
+		}
+
+		TArray<FString> Lines;
+	};
+
+	bool FailAgain(int32 Number)
+	{
+		return ensure(Number < 0);
+	}
+}
+
+/** An ensure logs errors on purpose here. */
+class FVelmorantEnsureTestBase : public FAutomationTestBase
+{
+public:
+	using FAutomationTestBase::FAutomationTestBase;
+
+	virtual bool SuppressLogErrors() override { return true; }
+};
+
+IMPLEMENT_CUSTOM_SIMPLE_AUTOMATION_TEST(FVelmorantEnsureTest, FVelmorantEnsureTestBase, "Velmorant.Engine.Assertions.Ensure", VelmorantTests::Flags)
+
+bool FVelmorantEnsureTest::RunTest(const FString& Parameters)
+{
+	const EnsureTest::FLogListener Log;
+	int32 NumTrue = 0;
+	for (int32 Number = 0; Number < 3; ++Number)
+	{
+		NumTrue += EnsureTest::FailAgain(Number) ? 1 : 0;
+	}
+	TestEqual(TEXT("it has the value of its condition"), NumTrue, 0);
+	TestTrue(TEXT("and the value true, too"), EnsureTest::FailAgain(-1));
+	VelmorantTests::RecordBelief(*this, TEXT("reports of an ensure that fails three times"), Log.Count(TEXT("Ensure condition failed: Number < 0")));
+	return true;
+}
+
+DEFINE_LOG_CATEGORY_STATIC(LogVelmorantTests, Log, All);
+
+IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantLogTest, "Velmorant.Engine.Log.Lines", VelmorantTests::Flags)
+
+bool FVelmorantLogTest::RunTest(const FString& Parameters)
+{
+	AddExpectedErrorPlain(TEXT("Velmorant tower 7"), EAutomationExpectedErrorFlags::Contains, 1);
+	const EnsureTest::FLogListener Log;
+	UE_LOG(LogVelmorantTests, Warning, TEXT("Velmorant tower %d"), 7);
+	UE_LOG(LogVelmorantTests, Verbose, TEXT("Velmorant is not said aloud"));
+	TestEqual(TEXT("devices hear each line with its category and level"), Log.Count(TEXT("LogVelmorantTests Warning Velmorant tower 7")), 1);
+	TestEqual(TEXT("but what is beyond the category's level"), Log.Count(TEXT("Velmorant is not said aloud")), 0);
+	return true;
+}
+
+#endif
