@@ -105,6 +105,7 @@ namespace Arguments
 		CLI::Option* const List = Automation->add_flag("--list", Raw.bList, "Print the paths of the tests, and run none");
 		CLI::Option* const Report = Automation->add_option("--report", Raw.Report, "Write index.json there, as the engine does")->type_name("FOLDER");
 		CLI::Option* const Compare = Automation->add_option("--compare", Raw.Compare, "Print what differs from a run in the engine: the index.json that it exported")->type_name("REPORT");
+		Automation->add_flag("--with-repair", Raw.bRepair, "Also run the test of the repair, which edits DefaultEngine.ini and puts it back");
 		Compare->excludes(List)->excludes(Report);
 		Report->excludes(List);
 		Automation->footer("Ends with 0 when all tests pass, or engine and host agree but for what is meant to differ, 1 when a\ntest fails or they differ, 2 for bad usage, no such project or no such test, 3 when a file could not\nbe read or written, or a report is not whole.");
@@ -155,7 +156,7 @@ namespace Arguments
 		}
 		else if (Automation->parsed())
 		{
-			OutArguments.Automation = FAutomationArguments{ToText(Raw.Project), ToText(Raw.Filter), ToText(Raw.Report), ToText(Raw.Compare), Raw.bList};
+			OutArguments.Automation = FAutomationArguments{ToText(Raw.Project), ToText(Raw.Filter), ToText(Raw.Report), ToText(Raw.Compare), Raw.bList, Raw.bRepair};
 		}
 		else
 		{

@@ -28,7 +28,7 @@ struct FRunArguments
 	bool bJson = false;
 };
 
-/** velmorant automation [PROJECT] [FILTER] [--list] [--report FOLDER | --compare REPORT] */
+/** velmorant automation [PROJECT] [FILTER] [--list | --report FOLDER | --compare REPORT] [--with-repair] */
 struct FAutomationArguments
 {
 	FString Project; // may be empty with bList or Compare
@@ -36,6 +36,7 @@ struct FAutomationArguments
 	FString Report; // the folder to export to; empty: nowhere
 	FString Compare; // what an engine exported; empty: nothing
 	bool bList = false;
+	bool bRepair = false; // also the test that edits the project's configuration and puts it back
 };
 
 /** What the program was asked to do: exactly one of these is set. */

@@ -23,12 +23,13 @@ namespace AutomationCommand
 		const double SecondsPerFrame = 1.0 / 60.0;
 
 		/** As an engine runs tests on a build server. */
-		FEditorHostOptions MakeOptions(const FString& Project)
+		FEditorHostOptions MakeOptions(const FString& Project, bool bRepair)
 		{
 			FEditorArguments Editor;
 			Editor.bUnattended = true;
 			Editor.bNullRhi = true;
 			FEditorHostOptions Options = EditorArguments::MakeOptions(Project, Editor);
+			Options.CommandLine += bRepair ? TEXT(" -VelmorantTestRepair") : TEXT("");
 			if (Project.IsEmpty()) // an empty project of nobody, in memory only
 			{
 				const std::string Folder = (std::filesystem::temp_directory_path() / ("velmorant-automation-" + std::to_string(getpid()))).string();
@@ -39,12 +40,12 @@ namespace AutomationCommand
 			return Options;
 		}
 
-		FAutomationReport RunTests(const FString& Project, const FString& Filter, void (*Print)(const FReportedTest&))
+		FAutomationReport RunTests(const FString& Project, const FAutomationArguments& Arguments, void (*Print)(const FReportedTest&))
 		{
-			FEditorHost Editor(MakeOptions(Project));
+			FEditorHost Editor(MakeOptions(Project, Arguments.bRepair));
 			FAutomationReport Report;
 			bool bAlive = true;
-			for (const FAutomationTestInfo& Test : HostAutomation::Find(Filter))
+			for (const FAutomationTestInfo& Test : HostAutomation::Find(Arguments.Filter))
 			{
 				const HostAutomation::FResult Result = bAlive ? HostAutomation::Run(Test, [&Editor] { Editor.Tick(SecondsPerFrame); }, bAlive) : HostAutomation::FResult(Test);
 				Report.Tests.Add(AutomationReport::Make(Result));
@@ -99,7 +100,7 @@ namespace AutomationCommand
 			const bool bWhole = CheckReport(*InEngine, Arguments.Compare);
 			Refusal::PrintProblems(EExitStatus::Trouble, false);
 			HostProblems::Clear();
-			const FAutomationReport Here = RunTests(Project, Arguments.Filter, [](const FReportedTest&) {});
+			const FAutomationReport Here = RunTests(Project, Arguments, [](const FReportedTest&) {});
 			const FAutomationComparison Comparison = AutomationComparison::Make(*InEngine, Here);
 			AutomationComparison::Print(Comparison, *InEngine);
 			if (!bWhole)
@@ -144,5 +145,5 @@ EExitStatus AutomationCommand::Run(const FAutomationArguments& Arguments)
 	{
 		return Compare(Arguments, Project);
 	}
-	return TellAndExport(RunTests(Project, Arguments.Filter, &AutomationText::PrintTest), Arguments.Report);
+	return TellAndExport(RunTests(Project, Arguments, &AutomationText::PrintTest), Arguments.Report);
 }

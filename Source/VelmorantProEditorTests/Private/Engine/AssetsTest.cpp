@@ -16,7 +16,7 @@
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantUniqueAssetNameTest, "Velmorant.Engine.Assets.UniqueNames", VelmorantTests::Flags)
 
-bool FVelmorantUniqueAssetNameTest::RunTest(const FString& Parameters)
+bool FVelmorantUniqueAssetNameTest::RunTest(const FString&)
 {
 	const FVelmorantTestContent Content;
 	const auto MakeName = [&Content](const TCHAR* Base, const TCHAR* Suffix) {
@@ -38,7 +38,7 @@ bool FVelmorantUniqueAssetNameTest::RunTest(const FString& Parameters)
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantCreateAssetTest, "Velmorant.Engine.Assets.Create", VelmorantTests::Flags)
 
-bool FVelmorantCreateAssetTest::RunTest(const FString& Parameters)
+bool FVelmorantCreateAssetTest::RunTest(const FString&)
 {
 	const FVelmorantTestContent Content;
 	UObject* Asset = IAssetTools::Get().CreateAsset(TEXT("Sets"), Content.GetFolder(), ULevelVariantSets::StaticClass(), nullptr);
@@ -48,6 +48,7 @@ bool FVelmorantCreateAssetTest::RunTest(const FString& Parameters)
 	}
 	TestEqualSensitive(TEXT("it stands in a package of its name"), *Asset->GetPathName(), *(Content.GetPackageName(TEXT("Sets")) + TEXT(".Sets")));
 	TestTrue(TEXT("it is public, stands alone and can be undone"), Asset->HasAllFlags(RF_Public | RF_Standalone | RF_Transactional));
+	TestTrue(TEXT("the registry knows it"), IAssetRegistry::GetChecked().GetAssetByObjectPath(FSoftObjectPath(Asset)).IsValid());
 	TestTrue(TEXT("it waits to be saved"), Asset->GetPackage()->IsDirty());
 	TestEqual(TEXT("level variant sets begin without a set"), CastChecked<ULevelVariantSets>(Asset)->GetNumVariantSets(), 0);
 	if (FApp::IsUnattended()) // otherwise somebody would be asked
@@ -60,7 +61,7 @@ bool FVelmorantCreateAssetTest::RunTest(const FString& Parameters)
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantAssetRegistryTest, "Velmorant.Engine.Assets.Registry", VelmorantTests::Flags)
 
-bool FVelmorantAssetRegistryTest::RunTest(const FString& Parameters)
+bool FVelmorantAssetRegistryTest::RunTest(const FString&)
 {
 	const FVelmorantTestContent Content;
 	for (const TCHAR* Name : {TEXT("Second"), TEXT("First")})
@@ -85,7 +86,7 @@ bool FVelmorantAssetRegistryTest::RunTest(const FString& Parameters)
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantSoftPathTest, "Velmorant.Engine.Assets.UnloadedSoftPaths", VelmorantTests::Flags)
 
-bool FVelmorantSoftPathTest::RunTest(const FString& Parameters)
+bool FVelmorantSoftPathTest::RunTest(const FString&)
 {
 	const FVelmorantTestContent Content;
 	FSoftObjectPath Path;
@@ -102,7 +103,7 @@ bool FVelmorantSoftPathTest::RunTest(const FString& Parameters)
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantAssetCategoryBitsTest, "Velmorant.Engine.Assets.CategoryBits", VelmorantTests::Flags)
 
-bool FVelmorantAssetCategoryBitsTest::RunTest(const FString& Parameters)
+bool FVelmorantAssetCategoryBitsTest::RunTest(const FString&)
 {
 	// The module's own category: no further bit is used up.
 	IAssetTools& Tools = FModuleManager::LoadModuleChecked<FAssetToolsModule>("AssetTools").Get();

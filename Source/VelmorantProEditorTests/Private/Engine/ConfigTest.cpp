@@ -32,7 +32,7 @@ namespace ConfigTest
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantConfigSectionTest, "Velmorant.Engine.Config.SectionKeys", VelmorantTests::Flags)
 
-bool FVelmorantConfigSectionTest::RunTest(const FString& Parameters)
+bool FVelmorantConfigSectionTest::RunTest(const FString&)
 {
 	const FVelmorantTestFolder Folder;
 	const ConfigTest::FFile File(Folder, TEXT("Keys.ini"),
@@ -61,7 +61,7 @@ bool FVelmorantConfigSectionTest::RunTest(const FString& Parameters)
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantConfigCacheTest, "Velmorant.Engine.Config.CacheAfterWrite", VelmorantTests::Flags)
 
-bool FVelmorantConfigCacheTest::RunTest(const FString& Parameters)
+bool FVelmorantConfigCacheTest::RunTest(const FString&)
 {
 	const FVelmorantTestFolder Folder;
 	const ConfigTest::FFile File(Folder, TEXT("Cached.ini"), "[A]\nKey=old\n");
@@ -76,7 +76,7 @@ bool FVelmorantConfigCacheTest::RunTest(const FString& Parameters)
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantConfigBranchTest, "Velmorant.Engine.Config.MergedBranch", VelmorantTests::Flags)
 
-bool FVelmorantConfigBranchTest::RunTest(const FString& Parameters)
+bool FVelmorantConfigBranchTest::RunTest(const FString&)
 {
 	TArray<FString> Lines;
 	if (TestTrue(TEXT("the engine's branch has collision profiles"), GConfig->GetSection(TEXT("/Script/Engine.CollisionProfile"), Lines, GEngineIni)))

@@ -12,7 +12,7 @@
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantBroadcastTest, "Velmorant.Engine.Delegates.Broadcast", VelmorantTests::Flags)
 
-bool FVelmorantBroadcastTest::RunTest(const FString& Parameters)
+bool FVelmorantBroadcastTest::RunTest(const FString&)
 {
 	FSimpleMulticastDelegate Delegate;
 	FString Order;
@@ -41,7 +41,7 @@ bool FVelmorantBroadcastTest::RunTest(const FString& Parameters)
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantBroadcastRemovalTest, "Velmorant.Engine.Delegates.RemovalWithinBroadcast", VelmorantTests::Flags)
 
-bool FVelmorantBroadcastRemovalTest::RunTest(const FString& Parameters)
+bool FVelmorantBroadcastRemovalTest::RunTest(const FString&)
 {
 	// Each removes the other: whoever comes first, one is called.
 	FSimpleMulticastDelegate Delegate;
@@ -67,7 +67,7 @@ bool FVelmorantBroadcastRemovalTest::RunTest(const FString& Parameters)
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantAddUniqueTest, "Velmorant.Engine.Delegates.AddUnique", VelmorantTests::Flags)
 
-bool FVelmorantAddUniqueTest::RunTest(const FString& Parameters)
+bool FVelmorantAddUniqueTest::RunTest(const FString&)
 {
 	UVelmorantTestListener* Listener = NewObject<UVelmorantTestListener>();
 	Listener->Signal.AddUniqueDynamic(Listener, &UVelmorantTestListener::Hear);
@@ -86,7 +86,7 @@ bool FVelmorantAddUniqueTest::RunTest(const FString& Parameters)
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantDynamicBroadcastTest, "Velmorant.Engine.Delegates.DynamicBroadcast", VelmorantTests::Flags)
 
-bool FVelmorantDynamicBroadcastTest::RunTest(const FString& Parameters)
+bool FVelmorantDynamicBroadcastTest::RunTest(const FString&)
 {
 	TArray<FString> Diary;
 	UVelmorantTestListener* Source = NewObject<UVelmorantTestListener>();
@@ -111,7 +111,7 @@ bool FVelmorantDynamicBroadcastTest::RunTest(const FString& Parameters)
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantWeakHandlersTest, "Velmorant.Engine.Delegates.WeakHandlersAfterCollection", VelmorantTests::Flags)
 
-bool FVelmorantWeakHandlersTest::RunTest(const FString& Parameters)
+bool FVelmorantWeakHandlersTest::RunTest(const FString&)
 {
 	int32 NumWeak = 0;
 	FSimpleMulticastDelegate Native;

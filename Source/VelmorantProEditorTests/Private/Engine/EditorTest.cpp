@@ -20,7 +20,7 @@
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantModulesTest, "Velmorant.Engine.Modules.Loading", VelmorantTests::Flags)
 
-bool FVelmorantModulesTest::RunTest(const FString& Parameters)
+bool FVelmorantModulesTest::RunTest(const FString&)
 {
 	TestTrue(TEXT("a loaded module is given again"), FModuleManager::Get().LoadModule("PropertyEditor") == FModuleManager::GetModulePtr<FPropertyEditorModule>("PropertyEditor"));
 	TestFalse(TEXT("an unknown one is not loaded"), FModuleManager::Get().IsModuleLoaded("VelmorantNowhere"));
@@ -39,7 +39,7 @@ bool FVelmorantModulesTest::RunTest(const FString& Parameters)
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantBlueprintsTest, "Velmorant.Engine.Blueprints.Create", VelmorantTests::Flags)
 
-bool FVelmorantBlueprintsTest::RunTest(const FString& Parameters)
+bool FVelmorantBlueprintsTest::RunTest(const FString&)
 {
 	const FVelmorantTestContent Content;
 	TestTrue(TEXT("unit-volume actions can be made as Blueprints"), FKismetEditorUtilities::CanCreateBlueprintOfClass(UUnitVolumeAction::StaticClass()));
@@ -58,7 +58,7 @@ bool FVelmorantBlueprintsTest::RunTest(const FString& Parameters)
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantPlacementTest, "Velmorant.Engine.Placement.Categories", VelmorantTests::Flags)
 
-bool FVelmorantPlacementTest::RunTest(const FString& Parameters)
+bool FVelmorantPlacementTest::RunTest(const FString&)
 {
 	IPlacementModeModule& Placement = IPlacementModeModule::Get();
 	const FName Handle = TEXT("VelmorantTests");
@@ -73,20 +73,22 @@ bool FVelmorantPlacementTest::RunTest(const FString& Parameters)
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantCollisionProfilesTest, "Velmorant.Engine.Collision.Profiles", VelmorantTests::Flags)
 
-bool FVelmorantCollisionProfilesTest::RunTest(const FString& Parameters)
+bool FVelmorantCollisionProfilesTest::RunTest(const FString&)
 {
 	FCollisionResponseTemplate Template;
 	TestTrue(TEXT("stock profiles are known"), UCollisionProfile::Get()->GetProfileTemplate("BlockAll", Template));
 	TestTrue(TEXT("whatever the case of their names"), UCollisionProfile::Get()->GetProfileTemplate("BLOCKall", Template));
+	VelmorantTests::RecordBelief(*this, TEXT("the profile BlockAll has a help text"), !Template.HelpMessage.IsEmpty());
 	TestFalse(TEXT("others are not"), UCollisionProfile::Get()->GetProfileTemplate("VelmorantNowhere", Template));
 	return true;
 }
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantColorsTest, "Velmorant.Engine.Colors.Conversions", VelmorantTests::Flags)
 
-bool FVelmorantColorsTest::RunTest(const FString& Parameters)
+bool FVelmorantColorsTest::RunTest(const FString&)
 {
-	TestEqual(TEXT("an asset's colour is meant as on the screen"), FLinearColor(FColor::Purple), FLinearColor(0.396755f, 0.149960f, 0.701102f, 1.0f));
+	TestEqual(TEXT("a colour of bytes is meant as on the screen"), FLinearColor(FColor(128, 0, 255)).R, 0.2158605f);
+	TestEqual(TEXT("and comes back"), FLinearColor(FColor::Purple).ToFColor(true), FColor::Purple);
 	TestEqual(TEXT("emerald"), FColor::Emerald, FColor(80, 200, 120));
 	TestEqual(TEXT("purple"), FColor::Purple, FColor(169, 7, 228));
 	FLinearColor Color;

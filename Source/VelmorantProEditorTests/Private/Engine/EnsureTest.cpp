@@ -1,35 +1,14 @@
 // Copyright Velmorant. All Rights Reserved.
 
 #include "CoreMinimal.h"
-#include "Misc/OutputDevice.h"
-#include "Misc/OutputDeviceRedirector.h"
 #include "Support/Beliefs.h"
+#include "Support/LogListener.h"
 #include "Support/TestFlags.h"
 
 #if WITH_DEV_AUTOMATION_TESTS
 
 namespace EnsureTest
 {
-	/** The log, for the length of a scope. */
-	class FLogListener final : public FOutputDevice
-	{
-	public:
-		FLogListener() { GLog->AddOutputDevice(this); }
-		virtual ~FLogListener() override { GLog->RemoveOutputDevice(this); }
-
-		virtual void Serialize(const TCHAR* V, ELogVerbosity::Type Verbosity, const FName& Category) override
-		{
-			Lines.Add(FString::Printf(TEXT("%s %s %s"), *Category.ToString(), ToString(Verbosity), V));
-		}
-
-		int32 Count(const TCHAR* Part) const
-		{
-			return Lines.FilterByPredicate([Part](const FString& Line) { return Line.Contains(Part); }).Num();
-		}
-
-		TArray<FString> Lines;
-	};
-
 	bool FailAgain(int32 Number)
 	{
 		return ensure(Number < 0);
@@ -47,9 +26,9 @@ public:
 
 IMPLEMENT_CUSTOM_SIMPLE_AUTOMATION_TEST(FVelmorantEnsureTest, FVelmorantEnsureTestBase, "Velmorant.Engine.Assertions.Ensure", VelmorantTests::Flags)
 
-bool FVelmorantEnsureTest::RunTest(const FString& Parameters)
+bool FVelmorantEnsureTest::RunTest(const FString&)
 {
-	const EnsureTest::FLogListener Log;
+	const FVelmorantLogListener Log;
 	int32 NumTrue = 0;
 	for (int32 Number = 0; Number < 3; ++Number)
 	{
@@ -65,10 +44,10 @@ DEFINE_LOG_CATEGORY_STATIC(LogVelmorantTests, Log, All);
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantLogTest, "Velmorant.Engine.Log.Lines", VelmorantTests::Flags)
 
-bool FVelmorantLogTest::RunTest(const FString& Parameters)
+bool FVelmorantLogTest::RunTest(const FString&)
 {
 	AddExpectedErrorPlain(TEXT("Velmorant tower 7"), EAutomationExpectedErrorFlags::Contains, 1);
-	const EnsureTest::FLogListener Log;
+	const FVelmorantLogListener Log;
 	UE_LOG(LogVelmorantTests, Warning, TEXT("Velmorant tower %d"), 7);
 	UE_LOG(LogVelmorantTests, Verbose, TEXT("Velmorant is not said aloud"));
 	TestEqual(TEXT("devices hear each line with its category and level"), Log.Count(TEXT("LogVelmorantTests Warning Velmorant tower 7")), 1);

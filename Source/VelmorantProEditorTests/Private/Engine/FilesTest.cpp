@@ -10,7 +10,7 @@
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantFileLinesTest, "Velmorant.Engine.Files.LoadedLines", VelmorantTests::Flags)
 
-bool FVelmorantFileLinesTest::RunTest(const FString& Parameters)
+bool FVelmorantFileLinesTest::RunTest(const FString&)
 {
 	const FVelmorantTestFolder Folder;
 	const auto Load = [&Folder](const ANSICHAR* Bytes) {
@@ -21,7 +21,9 @@ bool FVelmorantFileLinesTest::RunTest(const FString& Parameters)
 	TestEqualSensitive(TEXT("LF"), *Load("a\nb\n"), TEXT("a|b"));
 	TestEqualSensitive(TEXT("CRLF"), *Load("a\r\nb\r\n"), TEXT("a|b"));
 	TestEqualSensitive(TEXT("CR alone"), *Load("a\rb"), TEXT("a|b"));
+	TestEqualSensitive(TEXT("all mixed"), *Load("a\r\nb\rc\nd"), TEXT("a|b|c|d"));
 	TestEqualSensitive(TEXT("empty lines stay"), *Load("a\n\n\nb"), TEXT("a|||b"));
+	TestEqualSensitive(TEXT("a lone line end is one empty line, without another"), *Load("\n"), TEXT(""));
 	TestEqualSensitive(TEXT("UTF-8 needs no mark"), *Load("T\xC3\xBCr\n"), TEXT("T\u00FCr"));
 	TestEqualSensitive(TEXT("nor does it show one"), *Load("\xEF\xBB\xBFT\xC3\xBCr\n"), TEXT("T\u00FCr"));
 
@@ -35,7 +37,7 @@ bool FVelmorantFileLinesTest::RunTest(const FString& Parameters)
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantSavedTextTest, "Velmorant.Engine.Files.SavedText", VelmorantTests::Flags)
 
-bool FVelmorantSavedTextTest::RunTest(const FString& Parameters)
+bool FVelmorantSavedTextTest::RunTest(const FString&)
 {
 	const FVelmorantTestFolder Folder;
 	const FString LineEnd = FString(LINE_TERMINATOR).Len() == 2 ? TEXT("0D 0A") : TEXT("0A");
@@ -54,7 +56,7 @@ bool FVelmorantSavedTextTest::RunTest(const FString& Parameters)
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantExistingTextTest, "Velmorant.Engine.Files.ExistingText", VelmorantTests::Flags)
 
-bool FVelmorantExistingTextTest::RunTest(const FString& Parameters)
+bool FVelmorantExistingTextTest::RunTest(const FString&)
 {
 	const FVelmorantTestFolder Folder;
 	TArray<FString> Lines;

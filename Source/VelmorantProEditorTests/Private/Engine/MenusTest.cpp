@@ -39,7 +39,7 @@ namespace MenusTest
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantMenuSectionsTest, "Velmorant.Engine.Menus.SectionsAndOrder", VelmorantTests::Flags)
 
-bool FVelmorantMenuSectionsTest::RunTest(const FString& Parameters)
+bool FVelmorantMenuSectionsTest::RunTest(const FString&)
 {
 	ON_SCOPE_EXIT { UToolMenus::UnregisterOwner(MenusTest::OwnerName); };
 	const FToolMenuOwnerScoped Owner(MenusTest::OwnerName);
@@ -63,7 +63,7 @@ bool FVelmorantMenuSectionsTest::RunTest(const FString& Parameters)
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantMenuOwnersTest, "Velmorant.Engine.Menus.Owners", VelmorantTests::Flags)
 
-bool FVelmorantMenuOwnersTest::RunTest(const FString& Parameters)
+bool FVelmorantMenuOwnersTest::RunTest(const FString&)
 {
 	UToolMenu* Menu = UToolMenus::Get()->ExtendMenu("VelmorantTests.Owned");
 	{
@@ -77,7 +77,7 @@ bool FVelmorantMenuOwnersTest::RunTest(const FString& Parameters)
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantMenuStartupTest, "Velmorant.Engine.Menus.StartupCallbacks", VelmorantTests::Flags)
 
-bool FVelmorantMenuStartupTest::RunTest(const FString& Parameters)
+bool FVelmorantMenuStartupTest::RunTest(const FString&)
 {
 	int32 NumCalls = 0;
 	UToolMenus::RegisterStartupCallback(FSimpleMulticastDelegate::FDelegate::CreateLambda([&NumCalls] { ++NumCalls; }));
@@ -87,7 +87,7 @@ bool FVelmorantMenuStartupTest::RunTest(const FString& Parameters)
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantMenuBuilderTest, "Velmorant.Engine.Menus.Builder", VelmorantTests::Flags)
 
-bool FVelmorantMenuBuilderTest::RunTest(const FString& Parameters)
+bool FVelmorantMenuBuilderTest::RunTest(const FString&)
 {
 	FMenuBuilder Builder(true, nullptr);
 	Builder.BeginSection("First", INVTEXT("VELMORANT FIRST"));

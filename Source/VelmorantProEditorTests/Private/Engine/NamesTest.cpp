@@ -8,7 +8,7 @@
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantNameComparisonTest, "Velmorant.Engine.Names.Comparison", VelmorantTests::Flags)
 
-bool FVelmorantNameComparisonTest::RunTest(const FString& Parameters)
+bool FVelmorantNameComparisonTest::RunTest(const FString&)
 {
 	const FName Name(TEXT("VelmorantHarborTower"));
 	TestTrue(TEXT("case does not count"), Name == FName(TEXT("velmorantHARBORtower")));
@@ -16,6 +16,7 @@ bool FVelmorantNameComparisonTest::RunTest(const FString& Parameters)
 	TestFalse(TEXT("case counts when asked for"), Name.IsEqual(FName(TEXT("VELMORANTHARBORTOWER")), ENameCase::CaseSensitive));
 	TestEqualSensitive(TEXT("each instance shows its own case"), *FName(TEXT("VELMORANTharbortower")).ToString(), TEXT("VELMORANTharbortower"));
 	TestTrue(TEXT("hashes ignore case"), GetTypeHash(Name) == GetTypeHash(FName(TEXT("VELMORANTHARBORTOWER"))));
+	VelmorantTests::RecordBelief(*this, TEXT("names ignore case beyond ASCII"), FName(TEXT("VelmorantT\u00DCR")) == FName(TEXT("VelmorantT\u00FCr")));
 	TestTrue(TEXT("no text is no name"), FName(TEXT("")).IsNone());
 	TestTrue(TEXT("the word None is no name, in any case"), FName(TEXT("nOnE")).IsNone());
 	TestTrue(TEXT("NAME_None passes for valid"), FName(NAME_None).IsValid());
@@ -25,23 +26,36 @@ bool FVelmorantNameComparisonTest::RunTest(const FString& Parameters)
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantNameNumbersTest, "Velmorant.Engine.Names.NumberSuffixes", VelmorantTests::Flags)
 
-bool FVelmorantNameNumbersTest::RunTest(const FString& Parameters)
+bool FVelmorantNameNumbersTest::RunTest(const FString&)
 {
+	struct FCase
+	{
+		const TCHAR* Text;
+		const TCHAR* Plain;
+		int32 Number; // one more than the text says; 0 for none
+	};
+	const FCase Cases[] = {
+		{TEXT("VelmorantUnit_1"), TEXT("VelmorantUnit"), 2},
+		{TEXT("VelmorantUnit_0"), TEXT("VelmorantUnit"), 1},
+		{TEXT("VelmorantUnit_01"), TEXT("VelmorantUnit_01"), 0},
+		{TEXT("VelmorantUnit_"), TEXT("VelmorantUnit_"), 0},
+		{TEXT("VelmorantUnit5"), TEXT("VelmorantUnit5"), 0},
+		{TEXT("VelmorantUnit_1a"), TEXT("VelmorantUnit_1a"), 0},
+		{TEXT("VelmorantUnit_1_2"), TEXT("VelmorantUnit_1"), 3},
+		{TEXT("VelmorantUnit_99999999999"), TEXT("VelmorantUnit_99999999999"), 0},
+	};
+	for (const FCase& Case : Cases)
+	{
+		const FName Name(Case.Text);
+		TestEqualSensitive(*FString::Printf(TEXT("%s without its number"), Case.Text), *Name.GetPlainNameString(), Case.Plain);
+		TestEqual(*FString::Printf(TEXT("number of %s"), Case.Text), Name.GetNumber(), Case.Number);
+		TestEqualSensitive(TEXT("printing loses nothing"), *Name.ToString(), Case.Text);
+	}
 	const FName Base(TEXT("VelmorantUnit"));
-	const TCHAR* const Numbered[] = {TEXT("VelmorantUnit_0"), TEXT("VelmorantUnit_1"), TEXT("VelmorantUnit_12")};
-	for (const TCHAR* Text : Numbered)
-	{
-		const FName Name(Text);
-		TestEqualSensitive(TEXT("the number is a part of its own"), *Name.GetPlainNameString(), TEXT("VelmorantUnit"));
-		TestEqualSensitive(TEXT("printing loses nothing"), *Name.ToString(), Text);
-		TestFalse(TEXT("the number counts"), Name == Base);
-		TestTrue(TEXT("unless told not to"), Name.IsEqual(Base, ENameCase::IgnoreCase, false));
-	}
-	const TCHAR* const Whole[] = {TEXT("VelmorantUnit_01"), TEXT("VelmorantUnit_"), TEXT("VelmorantUnit_1a"), TEXT("VelmorantUnit_99999999999")};
-	for (const TCHAR* Text : Whole)
-	{
-		TestEqualSensitive(TEXT("no number is split off"), *FName(Text).GetPlainNameString(), Text);
-	}
+	const FName Numbered(TEXT("velmorantUNIT_1"));
+	TestTrue(TEXT("case does not count before a number"), Numbered == FName(TEXT("VelmorantUnit_1")));
+	TestFalse(TEXT("the number counts"), Numbered == Base);
+	TestTrue(TEXT("unless told not to"), Numbered.IsEqual(Base, ENameCase::IgnoreCase, false));
 	VelmorantTests::RecordBelief(*this, TEXT("plain part of the name _5"), FName(TEXT("_5")).GetPlainNameString());
 	return true;
 }

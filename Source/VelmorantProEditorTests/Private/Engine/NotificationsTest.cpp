@@ -13,7 +13,7 @@
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantNotificationsRefusedTest, "Velmorant.Engine.Notifications.Refused", VelmorantTests::Flags)
 
-bool FVelmorantNotificationsRefusedTest::RunTest(const FString& Parameters)
+bool FVelmorantNotificationsRefusedTest::RunTest(const FString&)
 {
 	const FVelmorantNotificationsAllowed Allowed(false);
 	TestFalse(TEXT("they can be forbidden"), FSlateNotificationManager::Get().AreNotificationsAllowed());
@@ -23,7 +23,7 @@ bool FVelmorantNotificationsRefusedTest::RunTest(const FString& Parameters)
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantNotificationStateTest, "Velmorant.Engine.Notifications.State", VelmorantTests::Flags)
 
-bool FVelmorantNotificationStateTest::RunTest(const FString& Parameters)
+bool FVelmorantNotificationStateTest::RunTest(const FString&)
 {
 	const FVelmorantNotificationsAllowed Allowed(true);
 	FNotificationInfo Info(INVTEXT("Velmorant test"));
@@ -42,7 +42,7 @@ bool FVelmorantNotificationStateTest::RunTest(const FString& Parameters)
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantNotificationDefaultsTest, "Velmorant.Engine.Notifications.Defaults", VelmorantTests::Flags)
 
-bool FVelmorantNotificationDefaultsTest::RunTest(const FString& Parameters)
+bool FVelmorantNotificationDefaultsTest::RunTest(const FString&)
 {
 	const FNotificationInfo Info(INVTEXT("Velmorant test"));
 	VelmorantTests::RecordBelief(*this, TEXT("seconds that a notification fades in"), FString::Printf(TEXT("%.2f"), Info.FadeInDuration.Get()));
@@ -54,7 +54,7 @@ bool FVelmorantNotificationDefaultsTest::RunTest(const FString& Parameters)
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantDialogDefaultsTest, "Velmorant.Engine.Dialogs.UnattendedDefaults", VelmorantTests::Flags)
 
-bool FVelmorantDialogDefaultsTest::RunTest(const FString& Parameters)
+bool FVelmorantDialogDefaultsTest::RunTest(const FString&)
 {
 	if (!FApp::IsUnattended())
 	{

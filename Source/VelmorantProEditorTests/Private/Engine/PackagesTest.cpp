@@ -14,7 +14,7 @@
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantDirtyPackagesTest, "Velmorant.Engine.Packages.Dirty", VelmorantTests::Flags)
 
-bool FVelmorantDirtyPackagesTest::RunTest(const FString& Parameters)
+bool FVelmorantDirtyPackagesTest::RunTest(const FString&)
 {
 	const FVelmorantTestContent Content;
 	UVelmorantConfiguratorDataAsset* Asset = Content.Make<UVelmorantConfiguratorDataAsset>(TEXT("Data"));
@@ -36,7 +36,7 @@ bool FVelmorantDirtyPackagesTest::RunTest(const FString& Parameters)
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantDirtyByUndoTest, "Velmorant.Engine.Packages.DirtyAfterUndo", VelmorantTests::Flags)
 
-bool FVelmorantDirtyByUndoTest::RunTest(const FString& Parameters)
+bool FVelmorantDirtyByUndoTest::RunTest(const FString&)
 {
 	const FVelmorantTestContent Content;
 	const FVelmorantEditorState State;

@@ -16,7 +16,7 @@
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantSelectionEventsTest, "Velmorant.Engine.Selection.Events", VelmorantTests::Flags)
 
-bool FVelmorantSelectionEventsTest::RunTest(const FString& Parameters)
+bool FVelmorantSelectionEventsTest::RunTest(const FString&)
 {
 	const FVelmorantEditorState State;
 	AUnitVolumeActor* Actor = State.GetWorld()->SpawnActor<AUnitVolumeActor>();
@@ -44,7 +44,7 @@ bool FVelmorantSelectionEventsTest::RunTest(const FString& Parameters)
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantActorIterationTest, "Velmorant.Engine.Actors.Iteration", VelmorantTests::Flags)
 
-bool FVelmorantActorIterationTest::RunTest(const FString& Parameters)
+bool FVelmorantActorIterationTest::RunTest(const FString&)
 {
 	const FVelmorantEditorState State;
 	TArray<AActor*> Before;

@@ -33,7 +33,7 @@ namespace SlateTest
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantTileViewTest, "Velmorant.Engine.Slate.TileViewSource", VelmorantTests::Flags)
 
-bool FVelmorantTileViewTest::RunTest(const FString& Parameters)
+bool FVelmorantTileViewTest::RunTest(const FString&)
 {
 	using namespace SlateTest;
 	TArray<FItem> First = MakeItems({TEXT("anchor"), TEXT("boat")});
@@ -55,7 +55,7 @@ bool FVelmorantTileViewTest::RunTest(const FString& Parameters)
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantTileSelectionTest, "Velmorant.Engine.Slate.TileSelection", VelmorantTests::Flags)
 
-bool FVelmorantTileSelectionTest::RunTest(const FString& Parameters)
+bool FVelmorantTileSelectionTest::RunTest(const FString&)
 {
 	using namespace SlateTest;
 	TArray<FItem> Items = MakeItems({TEXT("anchor"), TEXT("boat")});
@@ -84,7 +84,7 @@ bool FVelmorantTileSelectionTest::RunTest(const FString& Parameters)
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantComboBoxTest, "Velmorant.Engine.Slate.ComboBox", VelmorantTests::Flags)
 
-bool FVelmorantComboBoxTest::RunTest(const FString& Parameters)
+bool FVelmorantComboBoxTest::RunTest(const FString&)
 {
 	using namespace SlateTest;
 	TArray<FItem> Options = MakeItems({TEXT("Bold"), TEXT("Thin")});
@@ -110,7 +110,7 @@ bool FVelmorantComboBoxTest::RunTest(const FString& Parameters)
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantSearchBoxTest, "Velmorant.Engine.Slate.SearchBox", VelmorantTests::Flags)
 
-bool FVelmorantSearchBoxTest::RunTest(const FString& Parameters)
+bool FVelmorantSearchBoxTest::RunTest(const FString&)
 {
 	TArray<FString> Heard;
 	const TSharedRef<SSearchBox> Box = SNew(SSearchBox).OnTextChanged_Lambda([&Heard](const FText& Text) { Heard.Add(Text.ToString()); });

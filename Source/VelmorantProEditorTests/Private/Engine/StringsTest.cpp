@@ -11,7 +11,7 @@
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantStringComparisonTest, "Velmorant.Engine.Strings.Comparison", VelmorantTests::Flags)
 
-bool FVelmorantStringComparisonTest::RunTest(const FString& Parameters)
+bool FVelmorantStringComparisonTest::RunTest(const FString&)
 {
 	const FString Text = TEXT("Living Room");
 	TestTrue(TEXT("== ignores case"), Text == TEXT("living room"));
@@ -31,7 +31,7 @@ bool FVelmorantStringComparisonTest::RunTest(const FString& Parameters)
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantStringSplitTest, "Velmorant.Engine.Strings.Split", VelmorantTests::Flags)
 
-bool FVelmorantStringSplitTest::RunTest(const FString& Parameters)
+bool FVelmorantStringSplitTest::RunTest(const FString&)
 {
 	FString Left = TEXT("left");
 	FString Right = TEXT("right");
@@ -48,7 +48,7 @@ bool FVelmorantStringSplitTest::RunTest(const FString& Parameters)
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantPathSplitTest, "Velmorant.Engine.Paths.Split", VelmorantTests::Flags)
 
-bool FVelmorantPathSplitTest::RunTest(const FString& Parameters)
+bool FVelmorantPathSplitTest::RunTest(const FString&)
 {
 	FString Folder;
 	FString Name;
@@ -66,7 +66,7 @@ bool FVelmorantPathSplitTest::RunTest(const FString& Parameters)
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantPathJoinTest, "Velmorant.Engine.Paths.Join", VelmorantTests::Flags)
 
-bool FVelmorantPathJoinTest::RunTest(const FString& Parameters)
+bool FVelmorantPathJoinTest::RunTest(const FString&)
 {
 	// The class icons of the style set are given with a slash in front.
 	const FString Root = TEXT("C:/Plugin/Resources");
@@ -82,7 +82,7 @@ bool FVelmorantPathJoinTest::RunTest(const FString& Parameters)
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantCharactersTest, "Velmorant.Engine.Strings.Characters", VelmorantTests::Flags)
 
-bool FVelmorantCharactersTest::RunTest(const FString& Parameters)
+bool FVelmorantCharactersTest::RunTest(const FString&)
 {
 	TestTrue(TEXT("letters and digits are"), iswalnum(static_cast<wint_t>(TEXT('a'))) && iswalnum(static_cast<wint_t>(TEXT('7'))));
 	TestFalse(TEXT("the underscore is not"), iswalnum(static_cast<wint_t>(TEXT('_'))) != 0);

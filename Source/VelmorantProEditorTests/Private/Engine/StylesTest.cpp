@@ -13,12 +13,14 @@
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantStyleKeysTest, "Velmorant.Engine.Styles.Keys", VelmorantTests::Flags)
 
-bool FVelmorantStyleKeysTest::RunTest(const FString& Parameters)
+bool FVelmorantStyleKeysTest::RunTest(const FString&)
 {
 	FSlateStyleSet Style(TEXT("VelmorantTestStyle"));
 	Style.SetContentRoot(TEXT("C:/Plugin/Resources"));
 	TestEqualSensitive(TEXT("images lie below the content root"), *Style.RootToContentDir(TEXT("Logo"), TEXT(".png")), TEXT("C:/Plugin/Resources/Logo.png"));
 	TestEqualSensitive(TEXT("also with a slash in front"), *Style.RootToContentDir(TEXT("/ClassIcons/Icon"), TEXT(".png")), TEXT("C:/Plugin/Resources/ClassIcons/Icon.png"));
+	Style.SetContentRoot(TEXT("C:/Plugin/Resources/"));
+	TestEqualSensitive(TEXT("and of a root with one"), *Style.RootToContentDir(TEXT("Logo"), TEXT(".png")), TEXT("C:/Plugin/Resources/Logo.png"));
 	Style.Set("Twice", new FSlateImageBrush(Style.RootToContentDir(TEXT("First"), TEXT(".png")), FVector2D(16.0f, 16.0f)));
 	Style.Set("Twice", new FSlateImageBrush(Style.RootToContentDir(TEXT("Second"), TEXT(".png")), FVector2D(20.0f, 20.0f)));
 	const FSlateBrush* Brush = Style.GetBrush("Twice");
@@ -30,7 +32,7 @@ bool FVelmorantStyleKeysTest::RunTest(const FString& Parameters)
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantStyleRegistryTest, "Velmorant.Engine.Styles.Registry", VelmorantTests::Flags)
 
-bool FVelmorantStyleRegistryTest::RunTest(const FString& Parameters)
+bool FVelmorantStyleRegistryTest::RunTest(const FString&)
 {
 	FSlateStyleSet Style(TEXT("VelmorantTestStyle"));
 	FSlateStyleRegistry::RegisterSlateStyle(Style);
@@ -42,7 +44,7 @@ bool FVelmorantStyleRegistryTest::RunTest(const FString& Parameters)
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantAppStyleTest, "Velmorant.Engine.Styles.EditorIcons", VelmorantTests::Flags)
 
-bool FVelmorantAppStyleTest::RunTest(const FString& Parameters)
+bool FVelmorantAppStyleTest::RunTest(const FString&)
 {
 	const FSlateBrush* Missing = FAppStyle::Get().GetDefaultBrush();
 	for (const TCHAR* Name : {TEXT("Icons.Settings"), TEXT("Icons.Help"), TEXT("Icons.Documentation"), TEXT("Icons.MakeStaticMesh")})

@@ -13,7 +13,7 @@
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantTextKeysTest, "Velmorant.Engine.Texts.SharedKeys", VelmorantTests::Flags)
 
-bool FVelmorantTextKeysTest::RunTest(const FString& Parameters)
+bool FVelmorantTextKeysTest::RunTest(const FString&)
 {
 	// The menu's version entry has two texts under one key.
 	const FText Plain = LOCTEXT("Shared", "Velmorant Version");
@@ -28,7 +28,7 @@ bool FVelmorantTextKeysTest::RunTest(const FString& Parameters)
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantTextFormatTest, "Velmorant.Engine.Texts.Formats", VelmorantTests::Flags)
 
-bool FVelmorantTextFormatTest::RunTest(const FString& Parameters)
+bool FVelmorantTextFormatTest::RunTest(const FString&)
 {
 	TestEqualSensitive(TEXT("a place without argument stays"), *FText::Format(INVTEXT("{0} and {1}"), INVTEXT("a")).ToString(), TEXT("a and {1}"));
 	TestEqualSensitive(TEXT("a place may be filled twice"), *FText::Format(INVTEXT("{0}{0}"), INVTEXT("a")).ToString(), TEXT("aa"));
@@ -42,7 +42,7 @@ bool FVelmorantTextFormatTest::RunTest(const FString& Parameters)
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantTextCategoryTest, "Velmorant.Engine.Texts.AssetCategories", VelmorantTests::Flags)
 
-bool FVelmorantTextCategoryTest::RunTest(const FString& Parameters)
+bool FVelmorantTextCategoryTest::RunTest(const FString&)
 {
 	// The module's definitions stand in five name spaces; the menu must have one category of them.
 	const FAssetCategoryPath First(NSLOCTEXT("VelmorantTestsA", "Cat", "VelmorantAsset"), NSLOCTEXT("VelmorantTestsA", "Sub", "Configurator"));

@@ -32,7 +32,7 @@ namespace UndoTest
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantUndoTest, "Velmorant.Engine.Undo.Steps", VelmorantTests::Flags)
 
-bool FVelmorantUndoTest::RunTest(const FString& Parameters)
+bool FVelmorantUndoTest::RunTest(const FString&)
 {
 	const FVelmorantEditorState State;
 	UVelmorantTestListener* Object = UndoTest::MakeObject();
@@ -56,7 +56,7 @@ bool FVelmorantUndoTest::RunTest(const FString& Parameters)
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantUndoNestedTest, "Velmorant.Engine.Undo.NestedScopes", VelmorantTests::Flags)
 
-bool FVelmorantUndoNestedTest::RunTest(const FString& Parameters)
+bool FVelmorantUndoNestedTest::RunTest(const FString&)
 {
 	const FVelmorantEditorState State;
 	UVelmorantTestListener* Object = UndoTest::MakeObject();
@@ -76,7 +76,7 @@ bool FVelmorantUndoNestedTest::RunTest(const FString& Parameters)
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantUndoNothingTest, "Velmorant.Engine.Undo.NothingRecorded", VelmorantTests::Flags)
 
-bool FVelmorantUndoNothingTest::RunTest(const FString& Parameters)
+bool FVelmorantUndoNothingTest::RunTest(const FString&)
 {
 	const FVelmorantEditorState State;
 	UVelmorantTestListener* Object = UndoTest::MakeObject();
@@ -100,9 +100,27 @@ bool FVelmorantUndoNothingTest::RunTest(const FString& Parameters)
 	return true;
 }
 
+IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantUndoOpenTest, "Velmorant.Engine.Undo.WhileAStepIsOpen", VelmorantTests::Flags)
+
+bool FVelmorantUndoOpenTest::RunTest(const FString&)
+{
+	const FVelmorantEditorState State;
+	UVelmorantTestListener* Object = UndoTest::MakeObject();
+	UndoTest::Change(*Object, 1, INVTEXT("Velmorant one"));
+	{
+		const FScopedTransaction Transaction(INVTEXT("Velmorant open"));
+		TestTrue(TEXT("a step is open"), GEditor->IsTransactionActive());
+		Object->Modify();
+		Object->Amount = 2;
+		VelmorantTests::RecordBelief(*this, TEXT("undo while a step is open"), GEditor->UndoTransaction() ? TEXT("done") : TEXT("refused"));
+	}
+	TestFalse(TEXT("no step is open"), GEditor->IsTransactionActive());
+	return true;
+}
+
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantUndoSpawnTest, "Velmorant.Engine.Undo.SpawnedActors", VelmorantTests::Flags)
 
-bool FVelmorantUndoSpawnTest::RunTest(const FString& Parameters)
+bool FVelmorantUndoSpawnTest::RunTest(const FString&)
 {
 	const FVelmorantEditorState State;
 	TWeakObjectPtr<AUnitVolumeActor> Actor;
@@ -125,7 +143,7 @@ bool FVelmorantUndoSpawnTest::RunTest(const FString& Parameters)
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantUndoSelectionTest, "Velmorant.Engine.Undo.Selection", VelmorantTests::Flags)
 
-bool FVelmorantUndoSelectionTest::RunTest(const FString& Parameters)
+bool FVelmorantUndoSelectionTest::RunTest(const FString&)
 {
 	const FVelmorantEditorState State;
 	AUnitVolumeActor* First = State.GetWorld()->SpawnActor<AUnitVolumeActor>();

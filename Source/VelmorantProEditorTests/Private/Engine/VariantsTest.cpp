@@ -32,7 +32,7 @@ namespace VariantsTest
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantVariantNamesTest, "Velmorant.Engine.Variants.FoundByName", VelmorantTests::Flags)
 
-bool FVelmorantVariantNamesTest::RunTest(const FString& Parameters)
+bool FVelmorantVariantNamesTest::RunTest(const FString&)
 {
 	const FVelmorantTestContent Content;
 	UVariantSet* Set = VariantsTest::MakeSet(Content);
@@ -56,7 +56,7 @@ bool FVelmorantVariantNamesTest::RunTest(const FString& Parameters)
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantVariantsAppendedTest, "Velmorant.Engine.Variants.Appended", VelmorantTests::Flags)
 
-bool FVelmorantVariantsAppendedTest::RunTest(const FString& Parameters)
+bool FVelmorantVariantsAppendedTest::RunTest(const FString&)
 {
 	const FVelmorantTestContent Content;
 	UVariantSet* Set = VariantsTest::MakeSet(Content);
@@ -74,7 +74,7 @@ bool FVelmorantVariantsAppendedTest::RunTest(const FString& Parameters)
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantVariantCollisionsTest, "Velmorant.Engine.Variants.TextsThatCollide", VelmorantTests::Flags)
 
-bool FVelmorantVariantCollisionsTest::RunTest(const FString& Parameters)
+bool FVelmorantVariantCollisionsTest::RunTest(const FString&)
 {
 	const FVelmorantTestContent Content;
 	UVariantSet* Set = VariantsTest::MakeSet(Content);
@@ -94,7 +94,7 @@ bool FVelmorantVariantCollisionsTest::RunTest(const FString& Parameters)
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantVariantsDirtyTest, "Velmorant.Engine.Variants.DirtyPackages", VelmorantTests::Flags)
 
-bool FVelmorantVariantsDirtyTest::RunTest(const FString& Parameters)
+bool FVelmorantVariantsDirtyTest::RunTest(const FString&)
 {
 	const FVelmorantTestContent Content;
 	UVariantSet* Set = VariantsTest::MakeSet(Content);

@@ -19,6 +19,14 @@ void UVelmorantTestListener::HearOnce(int32 Number)
 	Signal.RemoveDynamic(this, &UVelmorantTestListener::HearOnce);
 }
 
+void UVelmorantTestListener::HearOption(FString Option, ESelectInfo::Type SelectInfo)
+{
+	if (Diary)
+	{
+		Diary->Add(Option + (SelectInfo == ESelectInfo::Direct ? TEXT(" directly") : TEXT(" by somebody")));
+	}
+}
+
 void UVelmorantTestListener::HearPlainly()
 {
 	++NumHeard;
