@@ -2,10 +2,8 @@
 # How a module of the engine surface, a companion or the product becomes a CMake target.
 #
 # Each module is an OBJECT library (static libraries would drop the object files that only register themselves at load time).
-# Its dependencies' include folders are all it can see: a wrong include does not compile.
-
-define_property(GLOBAL PROPERTY VELMORANT_MODULES BRIEF_DOCS "All modules, in order of dependency" FULL_DOCS "All modules, in order of dependency")
-set_property(GLOBAL PROPERTY VELMORANT_MODULES "")
+# A target sees the include folders of the modules that it names and of those that they name for their users, as with the engine's
+# build tool: any other include does not compile. It is linked with all that stands below.
 
 function(velmorant_add_if_present Folder)
 	if(EXISTS ${CMAKE_SOURCE_DIR}/${Folder}/CMakeLists.txt)
@@ -15,15 +13,53 @@ function(velmorant_add_if_present Folder)
 	endif()
 endfunction()
 
-# Every module below Name, Name's own dependencies first.
-function(velmorant_collect_dependencies OutVar)
+# The named modules and those below them, each behind its own.
+#   Kind  DEPENDENCIES for all that must be linked, VISIBLE for those whose headers are seen through the named ones
+function(velmorant_collect OutVar Kind)
 	set(Result "")
-	foreach(Dependency ${ARGN})
-		get_property(Below GLOBAL PROPERTY VELMORANT_DEPENDENCIES_${Dependency})
-		list(APPEND Result ${Below} ${Dependency})
+	foreach(Module ${ARGN})
+		if(NOT TARGET ${Module})
+			message(FATAL_ERROR "${CMAKE_CURRENT_SOURCE_DIR} names ${Module}, but no module built before is called so.")
+		endif()
+		get_property(Below GLOBAL PROPERTY VELMORANT_${Kind}_${Module})
+		list(APPEND Result ${Below} ${Module})
 	endforeach()
 	list(REMOVE_DUPLICATES Result)
 	set(${OutVar} ${Result} PARENT_SCOPE)
+endfunction()
+
+# Host-facing headers of the modules: for the engine surface itself, programs and tests; never for the product or the companions.
+function(velmorant_see_internals Name)
+	foreach(Module ${ARGN})
+		if(IS_DIRECTORY ${CMAKE_SOURCE_DIR}/Host/Engine/${Module}/Internal)
+			target_include_directories(${Name} PRIVATE ${CMAKE_SOURCE_DIR}/Host/Engine/${Module}/Internal)
+		endif()
+	endforeach()
+endfunction()
+
+# What the modules' header tools write stands before Name compiles.
+function(velmorant_await_reflection Name)
+	foreach(Module ${ARGN})
+		get_property(Reflection GLOBAL PROPERTY VELMORANT_REFLECTION_TARGETS_${Module})
+		if(Reflection)
+			add_dependencies(${Name} ${Reflection})
+		endif()
+	endforeach()
+endfunction()
+
+# Writes down what a target names and sees. Tests hold it against what its sources include.
+function(velmorant_record_layer Name Kind Public Private Sources)
+	list(JOIN Public " " Public)
+	list(JOIN Private " " Private)
+	list(JOIN Sources "\nsource " Sources)
+	set(Includes "$<JOIN:$<REMOVE_DUPLICATES:$<TARGET_PROPERTY:${Name},INCLUDE_DIRECTORIES>>,\ninclude >")
+	set_property(GLOBAL APPEND_STRING PROPERTY VELMORANT_LAYERS
+		"${Kind} ${Name}\nfolder ${CMAKE_CURRENT_SOURCE_DIR}\npublic ${Public}\nprivate ${Private}\ninclude ${Includes}\nsource ${Sources}\n")
+endfunction()
+
+function(velmorant_write_layers)
+	get_property(Layers GLOBAL PROPERTY VELMORANT_LAYERS)
+	file(GENERATE OUTPUT ${CMAKE_BINARY_DIR}/Layers.txt CONTENT "${Layers}")
 endfunction()
 
 # Runs the header tool over the module's reflected headers and compiles what it writes.
@@ -67,9 +103,10 @@ function(velmorant_reflect Name ReflectedHeaders Dependencies)
 endfunction()
 
 # velmorant_engine_module(Name [DEPENDS Module...] [PRIVATE_DEPENDS Module...] [LIBRARIES Target...])
-#   DEPENDS          the modules whose Public (and, for engine modules, Internal) folders it may include; who uses it sees them too
-#   PRIVATE_DEPENDS  the same for its own sources alone
+#   DEPENDS          the modules that its Public and Internal headers include; who uses it sees them too
+#   PRIVATE_DEPENDS  the modules that only its sources include, or that must be there when it runs
 #   LIBRARIES        packages that only its own sources use
+# velmorant_module: the same for what is outside the engine, which sees no Internal folder.
 function(velmorant_engine_module Name)
 	velmorant_module(${Name} SEES_INTERNAL ${ARGN})
 endfunction()
@@ -91,37 +128,31 @@ function(velmorant_module Name)
 		set(Sources ${CMAKE_SOURCE_DIR}/cmake/HeaderOnlyModule.cpp)
 	endif()
 	add_library(${Name} OBJECT ${Sources} ${Headers})
-	velmorant_collect_dependencies(Dependencies ${Arg_DEPENDS} ${Arg_PRIVATE_DEPENDS})
+	set(Named ${Arg_DEPENDS} ${Arg_PRIVATE_DEPENDS})
+	velmorant_collect(Dependencies DEPENDENCIES ${Named})
+	velmorant_collect(VisibleToUsers VISIBLE ${Arg_DEPENDS})
+	velmorant_collect(Visible VISIBLE ${Named})
 	set_property(GLOBAL PROPERTY VELMORANT_DEPENDENCIES_${Name} ${Dependencies})
-	set_property(GLOBAL APPEND PROPERTY VELMORANT_MODULES ${Name})
+	set_property(GLOBAL PROPERTY VELMORANT_VISIBLE_${Name} ${VisibleToUsers})
 
 	string(TOUPPER ${Name} Upper)
 	target_compile_definitions(${Name} PUBLIC ${Upper}_API=)
 	if(NOT Name STREQUAL "CoreUObject") # whose precompiled header the others could not use then
 		target_compile_definitions(${Name} PRIVATE UE_MODULE_NAME="${Name}")
 	endif()
-	target_include_directories(${Name} PUBLIC Public)
+	target_include_directories(${Name} PUBLIC Public PRIVATE Private)
 	if(Arg_SEES_INTERNAL)
-		# Host-facing headers: for the engine surface itself, the runtime and the tests; never for the product or the companions.
-		target_include_directories(${Name} PRIVATE Internal Private)
-		foreach(Dependency ${Dependencies})
-			target_include_directories(${Name} PRIVATE ${CMAKE_SOURCE_DIR}/Host/Engine/${Dependency}/Internal)
-		endforeach()
-	else()
-		target_include_directories(${Name} PRIVATE Private)
+		target_include_directories(${Name} PRIVATE Internal)
+		velmorant_see_internals(${Name} ${Visible})
 	endif()
 	target_link_libraries(${Name} PUBLIC VelmorantBuild ${Arg_DEPENDS} PRIVATE ${Arg_PRIVATE_DEPENDS} ${Arg_LIBRARIES})
-	foreach(Dependency ${Dependencies})
-		get_property(Reflection GLOBAL PROPERTY VELMORANT_REFLECTION_TARGETS_${Dependency})
-		if(Reflection)
-			add_dependencies(${Name} ${Reflection})
-		endif()
-	endforeach()
+	velmorant_await_reflection(${Name} ${Visible})
 	if(Reflected)
-		velmorant_reflect(${Name} "${Reflected}" "${Dependencies}")
+		velmorant_reflect(${Name} "${Reflected}" "${Visible}")
 	endif()
+	velmorant_record_layer(${Name} module "${Arg_DEPENDS}" "${Arg_PRIVATE_DEPENDS}" "${Sources};${Headers}")
 	velmorant_use_unity(${Name})
-	velmorant_use_pch(${Name} "${Dependencies}")
+	velmorant_use_pch(${Name} "${Visible}")
 endfunction()
 
 # Sources compile in batches, as the engine's build tool has it: those of a batch read their headers once.
@@ -131,10 +162,10 @@ endfunction()
 
 # One precompiled header for everything above CoreUObject. It is made in a target of its own: the compiler takes a precompiled
 # header only where no macro differs that was there when it was made, and UE_MODULE_NAME differs in each module.
-function(velmorant_use_pch Name Dependencies)
+function(velmorant_use_pch Name Visible)
 	set(From SharedPCH ${ARGN})
 	list(GET From -1 From)
-	if(NOT VELMORANT_PCH OR NOT "CoreUObject" IN_LIST Dependencies)
+	if(NOT VELMORANT_PCH OR NOT "CoreUObject" IN_LIST Visible)
 		return()
 	endif()
 	if(NOT TARGET SharedPCH)
@@ -151,25 +182,24 @@ function(velmorant_add_pch Name)
 	target_precompile_headers(${Name} PRIVATE ${Arg_HEADERS} ${CMAKE_SOURCE_DIR}/cmake/SharedPCH.h)
 endfunction()
 
-# A program made of modules: their objects, and every Internal folder of the engine surface.
+# A program made of modules: it sees the headers of those that it names, Internal ones too, and has the objects of all below them.
 #   PCH  the target whose precompiled header it takes, in place of the shared one
 function(velmorant_program Name)
 	cmake_parse_arguments(Arg "" "PCH" "SOURCES;MODULES;LIBRARIES" ${ARGN})
 	add_executable(${Name} ${Arg_SOURCES})
-	velmorant_collect_dependencies(Modules ${Arg_MODULES})
+	velmorant_collect(Modules DEPENDENCIES ${Arg_MODULES})
+	velmorant_collect(Visible VISIBLE ${Arg_MODULES})
 	foreach(Module ${Modules})
 		target_sources(${Name} PRIVATE $<TARGET_OBJECTS:${Module}>)
-		target_include_directories(${Name} PRIVATE $<TARGET_PROPERTY:${Module},INTERFACE_INCLUDE_DIRECTORIES>)
-		if(EXISTS ${CMAKE_SOURCE_DIR}/Host/Engine/${Module}/Internal)
-			target_include_directories(${Name} PRIVATE ${CMAKE_SOURCE_DIR}/Host/Engine/${Module}/Internal)
-		endif()
-		target_compile_definitions(${Name} PRIVATE $<TARGET_PROPERTY:${Module},INTERFACE_COMPILE_DEFINITIONS>)
-		get_property(Reflection GLOBAL PROPERTY VELMORANT_REFLECTION_TARGETS_${Module})
-		if(Reflection)
-			add_dependencies(${Name} ${Reflection})
-		endif()
 	endforeach()
+	foreach(Module ${Arg_MODULES})
+		target_include_directories(${Name} PRIVATE $<TARGET_PROPERTY:${Module},INTERFACE_INCLUDE_DIRECTORIES>)
+		target_compile_definitions(${Name} PRIVATE $<TARGET_PROPERTY:${Module},INTERFACE_COMPILE_DEFINITIONS>)
+	endforeach()
+	velmorant_see_internals(${Name} ${Visible})
+	velmorant_await_reflection(${Name} ${Visible})
 	target_link_libraries(${Name} PRIVATE VelmorantBuild ${Arg_LIBRARIES})
+	velmorant_record_layer(${Name} program "" "${Arg_MODULES}" "${Arg_SOURCES}")
 	velmorant_use_unity(${Name})
-	velmorant_use_pch(${Name} "${Modules}" ${Arg_PCH})
+	velmorant_use_pch(${Name} "${Visible}" ${Arg_PCH})
 endfunction()

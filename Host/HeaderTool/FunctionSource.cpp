@@ -64,8 +64,9 @@ namespace HeaderTool
 			if (HasBlock(Function))
 			{
 				const std::string Filled = Arguments(Function, "");
-				const std::string Result = Function.Returns() ? (Filled.empty() ? "{}" : ", {}") : "";
-				Writer.Line(QualifiedBlock(Class, Function) + " Z_Parms{" + Filled + Result + "};");
+				const std::string Separator = Function.Returns() && !Filled.empty() ? ", " : "";
+				const std::string Result = Function.Returns() ? "{}" : "";
+				Writer.Line(QualifiedBlock(Class, Function) + " Z_Parms{" + Filled + Separator + Result + "};");
 			}
 		}
 

@@ -17,7 +17,7 @@ namespace HeaderTool
 			{"DisplayName", InEnumerator, ERole::Both, EValue::Needed, {}, "DisplayName", nullptr, "Enum.cpp"},
 			{"ToolTip", Anywhere & ~(InEnumerator | InParameter), ERole::Both, EValue::Needed, {}, "ToolTip", nullptr, "Field.cpp"},
 			{"ToolTip", InEnumerator, ERole::Both, EValue::Needed, {}, "ToolTip", nullptr, "Enum.cpp"},
-			{"Category", InProperty, ERole::Both, EValue::Needed, {}, "Category", nullptr, "HostDetailsView.cpp"},
+			{"Category", InProperty, ERole::Both, EValue::Needed, {}, "Category", nullptr, "DetailsCategories.cpp"},
 			{"Category", InFunction | InClass, ERole::Both, EValue::Needed, {}, "Category", nullptr, ByReflection},
 
 			// Classes and interfaces.
@@ -28,7 +28,7 @@ namespace HeaderTool
 			{"BlueprintType", InClass | InInterface, ERole::Both, EValue::None, {}, "BlueprintType", "true", ByReflection},
 			{"Config", InClass, ERole::Specifier, EValue::Needed, {"CLASS_Config"}, nullptr, nullptr, "ObjectConfig.cpp"},
 			{"DefaultConfig", InClass, ERole::Specifier, EValue::None, {"CLASS_DefaultConfig"}, nullptr, nullptr, "SettingsModule.cpp"},
-			{"PerObjectConfig", InClass, ERole::Specifier, EValue::None, {"CLASS_PerObjectConfig"}, nullptr, nullptr, "ObjectConstruction.cpp"},
+			{"PerObjectConfig", InClass, ERole::Specifier, EValue::None, {"CLASS_PerObjectConfig"}, nullptr, nullptr, "ObjectFactory.cpp"},
 			{"Deprecated", InClass, ERole::Specifier, EValue::None, {"CLASS_Deprecated", "CLASS_NotPlaceable"}, nullptr, nullptr, "WorldSpawn.cpp"},
 			{"NotPlaceable", InClass, ERole::Specifier, EValue::None, {"CLASS_NotPlaceable"}, nullptr, nullptr, "ActorFactories.cpp"},
 			{"MinimalAPI", InClass | InInterface, ERole::Specifier, EValue::None, {"CLASS_MinimalAPI"}, nullptr, nullptr, "Validator.cpp"},
@@ -48,7 +48,7 @@ namespace HeaderTool
 			{"Ref", InParameter, ERole::Specifier, EValue::None, {"CPF_ReferenceParm"}, nullptr, nullptr, "FunctionCall.cpp"},
 
 			// Properties.
-			{"EditAnywhere", InProperty, ERole::Specifier, EValue::None, {"CPF_Edit"}, nullptr, nullptr, "PropertyNodeChildren.cpp"},
+			{"EditAnywhere", InProperty, ERole::Specifier, EValue::None, {"CPF_Edit"}, nullptr, nullptr, "PropertyNode.cpp"},
 			{"VisibleAnywhere", InProperty, ERole::Specifier, EValue::None, {"CPF_Edit", "CPF_EditConst"}, nullptr, nullptr, "PropertyNode.cpp"},
 			{"EditFixedSize", InProperty, ERole::Specifier, EValue::None, {"CPF_EditFixedSize"}, nullptr, nullptr, "PropertyWidgets.cpp"},
 			{"BlueprintReadWrite", InProperty, ERole::Specifier, EValue::None, {"CPF_BlueprintVisible"}, nullptr, nullptr, "LayoutAccess.h"},
@@ -57,7 +57,7 @@ namespace HeaderTool
 			{"Config", InProperty, ERole::Specifier, EValue::None, {"CPF_Config"}, nullptr, nullptr, "ObjectConfig.cpp"},
 			{"GlobalConfig", InProperty, ERole::Specifier, EValue::None, {"CPF_Config", "CPF_GlobalConfig"}, nullptr, nullptr, "ObjectConfig.cpp"},
 			{"Transient", InProperty, ERole::Specifier, EValue::None, {"CPF_Transient"}, nullptr, nullptr, "PackageStructs.cpp"},
-			{"DuplicateTransient", InProperty, ERole::Specifier, EValue::None, {"CPF_DuplicateTransient"}, nullptr, nullptr, "ObjectConstruction.cpp"},
+			{"DuplicateTransient", InProperty, ERole::Specifier, EValue::None, {"CPF_DuplicateTransient"}, nullptr, nullptr, "ObjectFactory.cpp"},
 			{"AllowPrivateAccess", InProperty, ERole::Key, EValue::Optional, {}, "AllowPrivateAccess", nullptr, "Validator.cpp"},
 			{"BindWidget", InProperty, ERole::Key, EValue::Optional, {}, "BindWidget", nullptr, "LayoutReaderWidgets.cpp"},
 			{"BindWidgetOptional", InProperty, ERole::Key, EValue::Optional, {}, "BindWidgetOptional", nullptr, "LayoutReaderWidgets.cpp"},

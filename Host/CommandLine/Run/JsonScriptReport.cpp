@@ -11,8 +11,12 @@ namespace JsonScriptReport
 	{
 		const char* GetOutcomeWord(EStepOutcome Outcome)
 		{
-			return Outcome == EStepOutcome::Done ? "done" : Outcome == EStepOutcome::Failed ? "failed"
-																							: "error";
+			switch (Outcome)
+			{
+				case EStepOutcome::Done: return "done";
+				case EStepOutcome::Failed: return "failed";
+				default: return "error";
+			}
 		}
 
 		FJson Make(const FStepEvents::FNotification& Notification)

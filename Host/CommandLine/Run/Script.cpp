@@ -92,7 +92,7 @@ namespace Script
 			const FScriptLine& Line = Step.Line;
 			const bool bExpect = IsWord(Line, 0, ExpectWord);
 			Step.bNegated = bExpect && IsWord(Line, 1, NoWord);
-			const int32 NameWord = bExpect ? (Step.bNegated ? 2 : 1) : 0;
+			const int32 NameWord = (bExpect ? 1 : 0) + (Step.bNegated ? 1 : 0);
 			int32 NumWords = 0;
 			const FScriptSyntax* Syntax = nullptr;
 			if (bExpect)

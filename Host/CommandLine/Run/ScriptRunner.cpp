@@ -143,7 +143,7 @@ FStepResult FScriptRunner::Do(const FScriptStep& Step, FStepRecord& Record)
 {
 	FScriptContext Context(Session, Step.Line.Number);
 	FStepResult Result = ScriptRunner::RunGuarded(Step, Context);
-	const FString AnswerTrouble = Session.TakeAnswerTrouble();
+	const FString AnswerTrouble = Session.GetAnswers().TakeTrouble();
 	if (Result.Outcome == EStepOutcome::Done && !AnswerTrouble.IsEmpty())
 	{
 		Result = FStepResult::Error(AnswerTrouble);
@@ -177,7 +177,7 @@ FRunSummary FScriptRunner::SumUp(EStepOutcome Outcome, int32 NumSteps)
 	Summary.NumSteps = NumSteps;
 	Summary.WrittenFiles = Session.GetWrittenFiles();
 	Summary.Unsaved = Session.GetUnsaved();
-	Summary.UnusedAnswers = Session.GetUnusedAnswers();
+	Summary.UnusedAnswers = Session.GetAnswers().GetUnused();
 	if (Outcome == EStepOutcome::Error || Session.GetNumProblems() > 0)
 	{
 		Summary.Status = EExitStatus::Trouble;

@@ -3,15 +3,13 @@
 #pragma once
 
 #include "EditorHost.h"
-#include "HostQuestions.h"
 #include "PanelHost.h"
 #include "Run/DetailsPanels.h"
+#include "Run/PreparedAnswers.h"
+#include "Run/ProjectFiles.h"
 #include "Run/StepEvents.h"
 #include "Templates/UniquePtr.h"
 #include "ToolbarHost.h"
-
-#include <map>
-#include <string>
 
 /**
  * The editor that a script works in, over restarts: panels, prepared answers, what happened, which files were written.
@@ -40,6 +38,9 @@ public:
 	FToolbarHost& GetToolbar() { return Toolbar; }
 	FDetailsPanels& GetDetails() { return Details; }
 	FEventWatch& GetEvents() { return Events; }
+	/** They survive a restart. */
+	FPreparedAnswers& GetAnswers() { return Answers; }
+	const FProjectFiles& GetFiles() const { return Files; }
 
 	/** Packages that would be lost if the editor went down now, by name. */
 	TArray<FString> GetUnsaved() const;
@@ -50,48 +51,21 @@ public:
 	/** Of all editors so far. */
 	int32 GetNumProblems() const;
 
-	/** Answers the next question of this kind that has no answer yet. Prepared answers survive a restart. */
-	void PrepareAnswer(FName Kind, const FHostAnswer& Answer, int32 ScriptLine);
-
-	/** What a prepared answer failed at since the last call; empty when nothing did. */
-	FString TakeAnswerTrouble();
-
-	/** Script lines of prepared answers that nothing asked for. */
-	TArray<int32> GetUnusedAnswers() const;
-
-	/** Full path of a file of the project; empty for one outside. */
-	FString FindProjectFile(const FString& Relative) const;
-	FString MakeRelative(const FString& Path) const;
-
-	/** The text of a file in Config as it was when the session began; empty for one that was not there. UTF-8. */
-	const std::string& GetFirstText(const FString& Path);
-
 	/** What the last call gave, as text. */
 	FString LastResult;
 
 private:
-	struct FPreparedAnswer
-	{
-		FName Kind;
-		FHostAnswer Answer;
-		int32 ScriptLine = 0;
-	};
-
 	void BringUp();
 	void TakeDown();
-	void ReadConfiguration();
-	TOptional<FHostAnswer> Answer(const FHostQuestion& Question);
 
 	const FEditorHostOptions Options;
-	const FString ProjectDir; // full path with a slash at the end
+	const FProjectFiles Files;
+	FPreparedAnswers Answers;
 	TUniquePtr<FEditorHost> Editor;
 	FPanelHost Panels; // empty while no editor runs, and so are the toolbar and the details panels
 	FToolbarHost Toolbar;
 	FDetailsPanels Details;
 	FEventWatch Events;
-	TArray<FPreparedAnswer> Answers; // not asked for yet
-	FString AnswerTrouble;
 	TArray<FString> EarlierWrites;
 	int32 NumEarlierProblems = 0;
-	std::map<std::string, std::string> FirstTexts; // by full path
 };

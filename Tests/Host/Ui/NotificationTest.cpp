@@ -28,8 +28,11 @@ protected:
 	static std::string Phase(const FHostNotification& Notification)
 	{
 		HostNotifications::GetStanding(); // brings the records up to date
-		return Notification.IsGone() ? "gone" : Notification.FadeOutAt.IsSet() ? "fading"
-																			   : "standing";
+		if (Notification.IsGone())
+		{
+			return "gone";
+		}
+		return Notification.FadeOutAt.IsSet() ? "fading" : "standing";
 	}
 };
 

@@ -17,7 +17,7 @@ namespace FileTopic
 		/** The text of a file of the project, UTF-8. False with a message when there is none. */
 		bool ReadFile(const FScriptContext& Context, const FString& Relative, std::string& OutText, FString& OutError)
 		{
-			const FString Path = Context.Session.FindProjectFile(Relative);
+			const FString Path = Context.Session.GetFiles().Find(Relative);
 			if (Path.IsEmpty())
 			{
 				OutError = TEXT("files are named relative to the project's folder and stand in it");
@@ -61,12 +61,12 @@ namespace FileTopic
 			{
 				return FStepResult::Error(Error);
 			}
-			const FString Path = Context.Session.FindProjectFile(Arguments[0]);
-			if (!Context.Session.MakeRelative(Path).StartsWith(TEXT("Config/")))
+			const FString Path = Context.Session.GetFiles().Find(Arguments[0]);
+			if (!Context.Session.GetFiles().MakeRelative(Path).StartsWith(TEXT("Config/")))
 			{
 				return FStepResult::Error(TEXT("changes are known of the files in Config only"));
 			}
-			for (const FString& Line : LineDifference::GetAdded(Context.Session.GetFirstText(Path), Text))
+			for (const FString& Line : LineDifference::GetAdded(Context.Session.GetFiles().GetFirstText(Path), Text))
 			{
 				Context.Print(Line);
 			}

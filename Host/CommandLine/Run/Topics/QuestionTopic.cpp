@@ -33,7 +33,7 @@ namespace QuestionTopic
 				}
 				Prepared.Fields.Add(Field, Value);
 			}
-			Context.Session.PrepareAnswer(ScriptObjects::ToName(Arguments[0]), Prepared, Context.Line);
+			Context.Session.GetAnswers().Prepare(ScriptObjects::ToName(Arguments[0]), Prepared, Context.Line);
 			return FStepResult::Done();
 		}
 

@@ -5,14 +5,15 @@
 #include "Containers/Ticker.h"
 #include "CoreMinimal.h"
 #include "Templates/SharedPointer.h"
+#include "Templates/UniquePtr.h"
 
+class FDetailsCategories;
+class FDetailsSearch;
+class FDetailsSections;
 class FPropertyNode;
 class IPropertyHandle;
-class SDetailsRow;
 class SHostPartList;
-class SSearchBox;
 class SWidget;
-class UClass;
 class UObject;
 
 /**
@@ -62,19 +63,11 @@ private:
 	bool HandleTick(float DeltaTime);
 	void Refresh();
 	void MakeRows();
-	void AddToCategory(const FString& Category, const TSharedRef<SDetailsRow>& Row);
-	bool IsInSection(const FString& Category, const UClass& Class) const;
-	void MakeSectionButtons();
-	void AddSectionButton(FName Name, const FText& Label);
-	void ApplySearch();
 
 	TSharedRef<FPropertyNode> Root;
-	TArray<TSharedRef<SDetailsRow>> Categories;
-	TMap<FString, TSharedRef<SDetailsRow>> CategoriesByPath; // "Look|Colours"
-	FName Section;
+	TUniquePtr<FDetailsCategories> Categories;
+	TUniquePtr<FDetailsSections> Sections;
+	TUniquePtr<FDetailsSearch> Search;
 	TSharedRef<SHostPartList> Panel; // search box, section buttons, categories
-	TSharedPtr<SSearchBox> SearchBox;
-	TSharedRef<SHostPartList> SectionButtons;
-	TSharedRef<SHostPartList> Body;
 	FTSTicker::FDelegateHandle Ticker;
 };

@@ -3,46 +3,10 @@
 #include "PropertyEditorRegistrations.h"
 
 #include "IPropertyTypeCustomization.h"
+#include "Kinds/PropertyKind.h"
+#include "Kinds/TypeNames.h"
 #include "Modules/ModuleManager.h"
 #include "UObject/UnrealType.h"
-
-namespace PropertyEditorRegistrations
-{
-	static void AppendChain(const UStruct* Struct, TArray<FName>& OutNames)
-	{
-		for (; Struct != nullptr; Struct = Struct->GetSuperStruct())
-		{
-			OutNames.Add(Struct->GetFName());
-		}
-	}
-
-	/** What the type of a property is called, the most special name first. */
-	static TArray<FName> FindTypeNames(const FProperty& Property)
-	{
-		TArray<FName> Names;
-		if (const FStructProperty* StructProperty = CastField<FStructProperty>(&Property))
-		{
-			AppendChain(StructProperty->Struct, Names);
-		}
-		else if (const FObjectPropertyBase* ObjectProperty = CastField<FObjectPropertyBase>(&Property))
-		{
-			AppendChain(ObjectProperty->PropertyClass, Names);
-		}
-		else if (const FEnumProperty* EnumProperty = CastField<FEnumProperty>(&Property))
-		{
-			Names.Add(EnumProperty->GetEnum()->GetFName());
-		}
-		else if (const FByteProperty* ByteProperty = CastField<FByteProperty>(&Property); ByteProperty != nullptr && ByteProperty->Enum != nullptr)
-		{
-			Names.Add(ByteProperty->Enum->GetFName());
-		}
-		else
-		{
-			Names.Add(Property.GetClass()->GetFName());
-		}
-		return Names;
-	}
-}
 
 FPropertyEditorRegistrations::FPropertyEditorRegistrations()
 	: Module(FModuleManager::GetModulePtr<FPropertyEditorModule>("PropertyEditor"))
@@ -77,7 +41,7 @@ TSharedPtr<IPropertyTypeCustomization> FPropertyEditorRegistrations::MakeCustomi
 	{
 		return nullptr;
 	}
-	for (const FName TypeName : PropertyEditorRegistrations::FindTypeNames(*Property))
+	for (const FName TypeName : FPropertyKind::Of(Property).GetTypeNames(*Property))
 	{
 		if (const FTypeLayout* Layout = FindLayout(TypeName, Handle))
 		{
@@ -90,8 +54,7 @@ TSharedPtr<IPropertyTypeCustomization> FPropertyEditorRegistrations::MakeCustomi
 
 TArray<TSharedRef<FPropertySection>> FPropertyEditorRegistrations::FindSections(const UClass* Class) const
 {
-	TArray<FName> ClassNames;
-	PropertyEditorRegistrations::AppendChain(Class, ClassNames);
+	const TArray<FName> ClassNames = TypeNames::GetChain(Class);
 	TArray<TSharedRef<FPropertySection>> Found;
 	for (const FClassSection& Known : GetSections())
 	{

@@ -102,8 +102,8 @@ namespace IniSyntax
 		{
 			const CharType Next = At + 1 < Value.size() ? Value[At + 1] : CharType(0);
 			const bool bEscape = Value[At] == CharType('\\') && (Next == CharType('"') || Next == CharType('\\') || Next == CharType('n'));
-			Result.push_back(!bEscape ? Value[At] : Next == CharType('n') ? CharType('\n')
-																		  : Next);
+			const CharType Escaped = Next == CharType('n') ? CharType('\n') : Next;
+			Result.push_back(bEscape ? Escaped : Value[At]);
 			At += bEscape ? 1 : 0;
 		}
 		return Result;

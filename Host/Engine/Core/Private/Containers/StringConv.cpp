@@ -24,6 +24,15 @@ namespace StringConvPrivate
 		return Replacement;
 	}
 
+	/** By the number of bytes that follow the first one. */
+	constexpr uint32 SmallestPoints[] = {0, 0x80, 0x800, 0x10000};
+
+	/** How many bytes follow the first one. */
+	int32 CountMore(uint8 First)
+	{
+		return 1 + (First >= 0xe0 ? 1 : 0) + (First >= 0xf0 ? 1 : 0);
+	}
+
 	uint32 Decode(const ANSICHAR*& At, const ANSICHAR* End)
 	{
 		const uint8 First = static_cast<uint8>(*At++);
@@ -31,8 +40,7 @@ namespace StringConvPrivate
 		{
 			return First;
 		}
-		const int32 NumMore = First >= 0xf0 ? 3 : First >= 0xe0 ? 2
-																: 1;
+		const int32 NumMore = CountMore(First);
 		if (First < 0xc2 || First > 0xf4 || End - At < NumMore)
 		{
 			return Replacement;
@@ -47,8 +55,7 @@ namespace StringConvPrivate
 			}
 			Result = (Result << 6) | (Next & 0x3f);
 		}
-		const bool bOverlong = Result < (NumMore == 3 ? 0x10000u : NumMore == 2 ? 0x800u
-																				: 0x80u);
+		const bool bOverlong = Result < SmallestPoints[NumMore];
 		if (bOverlong || Result > 0x10ffff || (Result >= 0xd800 && Result <= 0xdfff))
 		{
 			return Replacement;
@@ -78,10 +85,9 @@ namespace StringConvPrivate
 			*Out++ = static_cast<ANSICHAR>(Point);
 			return Out;
 		}
-		const int32 NumMore = Point >= 0x10000 ? 3 : Point >= 0x800 ? 2
-																	: 1;
-		const uint32 Lead = NumMore == 3 ? 0xf0 : NumMore == 2 ? 0xe0
-															   : 0xc0;
+		const int32 NumMore = 1 + (Point >= SmallestPoints[2] ? 1 : 0) + (Point >= SmallestPoints[3] ? 1 : 0);
+		constexpr uint32 Leads[] = {0, 0xc0, 0xe0, 0xf0}; // by the number of bytes that follow
+		const uint32 Lead = Leads[NumMore];
 		*Out++ = static_cast<ANSICHAR>(Lead | (Point >> (6 * NumMore)));
 		for (int32 Index = NumMore - 1; Index >= 0; --Index)
 		{

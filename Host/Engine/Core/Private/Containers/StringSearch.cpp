@@ -1,6 +1,7 @@
 // Copyright Velmorant. All Rights Reserved.
 
 #include "Containers/StringView.h"
+#include "Math/UnrealMathUtility.h"
 
 #include <array>
 #include <bit>
@@ -174,7 +175,7 @@ int32 UE::String::Private::Find(const TCHAR* Text, int32 Len, const TCHAR* Sub, 
 	}
 	if (SearchDir == ESearchDir::FromStart)
 	{
-		const int32 Start = StartPosition < 0 ? 0 : (StartPosition > Len ? Len : StartPosition);
+		const int32 Start = FMath::Clamp(StartPosition, 0, Len);
 		if (SubLen == 0)
 		{
 			return Start;
@@ -214,7 +215,11 @@ int32 UE::String::Private::Compare(const TCHAR* A, int32 LenA, const TCHAR* B, i
 			return CharA < CharB ? -1 : 1;
 		}
 	}
-	return LenA == LenB ? 0 : (LenA < LenB ? -1 : 1);
+	if (LenA == LenB)
+	{
+		return 0;
+	}
+	return LenA < LenB ? -1 : 1;
 }
 
 uint32 UE::String::Private::HashIgnoringCase(const TCHAR* Text, int32 Len)

@@ -3,6 +3,7 @@
 #include "Containers/UnrealString.h"
 
 #include "Containers/StringConv.h"
+#include "Math/UnrealMathUtility.h"
 #include "String/FormatMessage.h"
 
 #include <algorithm>
@@ -209,13 +210,13 @@ bool FString::Split(const FString& Separator, FString* LeftS, FString* RightS, E
 
 void FString::LeftInline(int32 Count, EAllowShrinking AllowShrinking)
 {
-	const int32 Kept = Count < 0 ? 0 : (Count > Len() ? Len() : Count);
+	const int32 Kept = FMath::Clamp(Count, 0, Len());
 	RemoveAt(Kept, Len() - Kept, AllowShrinking);
 }
 
 void FString::RightChopInline(int32 Count, EAllowShrinking AllowShrinking)
 {
-	RemoveAt(0, Count < 0 ? 0 : (Count > Len() ? Len() : Count), AllowShrinking);
+	RemoveAt(0, FMath::Clamp(Count, 0, Len()), AllowShrinking);
 }
 
 void FString::MidInline(int32 Start, int32 Count, EAllowShrinking AllowShrinking)

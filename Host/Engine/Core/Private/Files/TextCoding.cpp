@@ -24,6 +24,16 @@ namespace TextCoding
 			return (Byte & 0xC0) == 0x80;
 		}
 
+		/** Of the bytes that begin with First, which is no ASCII; 0 when none do. */
+		size_t GetSequenceLength(unsigned char First)
+		{
+			if (First < 0xC2 || First >= 0xF5)
+			{
+				return 0;
+			}
+			return 2 + (First >= 0xE0 ? 1 : 0) + (First >= 0xF0 ? 1 : 0);
+		}
+
 		/** Number of bytes of the character that starts here, and its code point; 0 when it is not well-formed. */
 		size_t DecodeOne(std::string_view Bytes, size_t At, char32_t& OutCode)
 		{
@@ -34,10 +44,7 @@ namespace TextCoding
 				OutCode = First;
 				return 1;
 			}
-			const size_t Length = First < 0xC2 ? 0 : First < 0xE0 ? 2
-				: First < 0xF0									  ? 3
-				: First < 0xF5									  ? 4
-																  : 0;
+			const size_t Length = GetSequenceLength(First);
 			if (Length == 0 || At + Length > Bytes.size())
 			{
 				return 0;

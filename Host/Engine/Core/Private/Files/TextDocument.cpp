@@ -255,9 +255,8 @@ std::vector<FTextLine> FTextDocument::SplitLines(std::u16string_view Text)
 			continue;
 		}
 		const bool bPair = Unit == u'\r' && At + 1 < Text.size() && Text[At + 1] == u'\n';
-		const ELineEnd End = bPair ? ELineEnd::CrLf : Unit == u'\n' ? ELineEnd::Lf
-																	: ELineEnd::Cr;
-		Result.push_back(FTextLine{Text.substr(Start, At - Start), End});
+		const ELineEnd Single = Unit == u'\n' ? ELineEnd::Lf : ELineEnd::Cr;
+		Result.push_back(FTextLine{Text.substr(Start, At - Start), bPair ? ELineEnd::CrLf : Single});
 		At += bPair ? 1 : 0;
 		Start = At + 1;
 	}

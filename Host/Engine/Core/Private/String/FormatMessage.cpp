@@ -151,9 +151,8 @@ namespace FormatMessage
 	{
 		const bool bSigned = Directive.Conversion == 'd' || Directive.Conversion == 'i';
 		// Smaller integers are promoted to 32 bits, as in a C call.
-		const int64 Value = Arg.Bytes == 8 ? Arg.Integer
-			: bSigned					   ? static_cast<int64>(static_cast<int32>(Arg.Integer))
-										   : static_cast<int64>(static_cast<uint32>(Arg.Integer));
+		const int64 Promoted = bSigned ? static_cast<int64>(static_cast<int32>(Arg.Integer)) : static_cast<int64>(static_cast<uint32>(Arg.Integer));
+		const int64 Value = Arg.Bytes == 8 ? Arg.Integer : Promoted;
 		AppendNumber(Out, Directive, "ll", Value);
 	}
 

@@ -128,7 +128,8 @@ int32 FName::Compare(const FName& Other) const
 {
 	if (ComparisonIndex == Other.ComparisonIndex)
 	{
-		return Number == Other.Number ? 0 : (Number < Other.Number ? -1 : 1);
+		const int32 Order = Number < Other.Number ? -1 : 1;
+		return Number == Other.Number ? 0 : Order;
 	}
 	return FNamePool::Get().GetText(ComparisonIndex).Compare(FNamePool::Get().GetText(Other.ComparisonIndex), ESearchCase::IgnoreCase);
 }

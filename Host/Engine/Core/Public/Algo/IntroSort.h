@@ -94,7 +94,10 @@ namespace AlgoImpl
 				return Right + 1 < Num ? Right + 1 : Num - 1;
 			}
 			Swap(First[Left], First[Right]);
-			Pivot = Pivot == Left ? Right : (Pivot == Right ? Left : Pivot);
+			if (Pivot == Left || Pivot == Right)
+			{
+				Pivot = Pivot == Left ? Right : Left;
+			}
 			++Left;
 			--Right;
 		}

@@ -132,7 +132,11 @@ public:
 	ElementType* end() const { return Data + ArrayNum; }
 
 private:
-	SizeType ClampCount(SizeType Count) const { return Count < 0 ? 0 : (Count > ArrayNum ? ArrayNum : Count); }
+	SizeType ClampCount(SizeType Count) const
+	{
+		const SizeType Available = Count < ArrayNum ? Count : ArrayNum;
+		return Available < 0 ? 0 : Available;
+	}
 
 	ElementType* Data = nullptr;
 	SizeType ArrayNum = 0;

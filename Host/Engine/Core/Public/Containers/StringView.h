@@ -175,7 +175,11 @@ public:
 	friend uint32 GetTypeHash(TStringView View) { return UE::String::Private::HashIgnoringCase(View.Data, View.Size); }
 
 private:
-	constexpr int32 Clamp(int32 Count) const { return Count < 0 ? 0 : (Count > Size ? Size : Count); }
+	constexpr int32 Clamp(int32 Count) const
+	{
+		const int32 Available = Count < Size ? Count : Size;
+		return Available < 0 ? 0 : Available;
+	}
 
 	const CharType* Data = nullptr;
 	int32 Size = 0;

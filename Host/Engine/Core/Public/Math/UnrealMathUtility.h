@@ -38,7 +38,11 @@ struct FMath
 	template<typename T>
 	static constexpr T Clamp(const T X, const T Low, const T High)
 	{
-		return X < Low ? Low : (High < X ? High : X);
+		if (X < Low)
+		{
+			return Low;
+		}
+		return High < X ? High : X;
 	}
 	template<typename T>
 	static constexpr T Square(const T A)

@@ -44,9 +44,15 @@ struct FGuid
 	friend constexpr bool operator==(const FGuid& X, const FGuid& Y) { return X.A == Y.A && X.B == Y.B && X.C == Y.C && X.D == Y.D; }
 	friend constexpr bool operator<(const FGuid& X, const FGuid& Y)
 	{
-		return X.A != Y.A ? X.A < Y.A : X.B != Y.B ? X.B < Y.B
-			: X.C != Y.C						   ? X.C < Y.C
-												   : X.D < Y.D;
+		if (X.A != Y.A)
+		{
+			return X.A < Y.A;
+		}
+		if (X.B != Y.B)
+		{
+			return X.B < Y.B;
+		}
+		return X.C != Y.C ? X.C < Y.C : X.D < Y.D;
 	}
 	friend uint32 GetTypeHash(const FGuid& Guid) { return HashCombine(HashCombine(Guid.A, Guid.B), HashCombine(Guid.C, Guid.D)); }
 };

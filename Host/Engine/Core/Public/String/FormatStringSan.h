@@ -125,10 +125,11 @@ namespace UE::Core
 
 		constexpr void CheckFormatInteger(EFormatArg Arg, int32 NumL, bool bSize)
 		{
-			const bool bFits = bSize ? (Arg == EFormatArg::Long || Arg == EFormatArg::LongInteger)
-				: NumL == 2			 ? (Arg == EFormatArg::LongInteger || Arg == EFormatArg::Long)
-				: NumL == 1			 ? Arg == EFormatArg::Long
-									 : Arg == EFormatArg::Integer;
+			const bool bLong = Arg == EFormatArg::Long;
+			const bool bLongInteger = Arg == EFormatArg::LongInteger;
+			const bool bEitherLong = bSize || NumL == 2;
+			const bool bPlain = NumL == 1 ? bLong : Arg == EFormatArg::Integer;
+			const bool bFits = bEitherLong ? bLong || bLongInteger : bPlain;
 			if (!bFits)
 			{
 				FormatDirectiveNeedsAnIntegerOfThatSize();

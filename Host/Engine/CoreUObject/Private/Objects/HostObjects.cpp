@@ -3,6 +3,8 @@
 #include "HostObjects.h"
 
 #include "Misc/AssertionMacros.h"
+#include "Objects/EditorPackages.h"
+#include "Objects/GarbageCollector.h"
 #include "Objects/ObjectTable.h"
 #include "Reflection/TypeBuilder.h"
 #include "UObject/Package.h"
@@ -18,12 +20,12 @@ void HostObjects::Boot()
 
 void HostObjects::TearDown()
 {
-	FObjectTable::Get().TearDown();
+	FGarbageCollector::Get().TearDown();
 }
 
 int32 HostObjects::CollectGarbage()
 {
-	return FObjectTable::Get().CollectGarbage(RF_Standalone);
+	return FGarbageCollector::Get().Collect(RF_Standalone);
 }
 
 HostObjects::FCounts HostObjects::GetCounts()
@@ -46,7 +48,7 @@ HostObjects::FCounts HostObjects::GetCounts()
 
 void HostObjects::SetPackageLoader(TFunction<UPackage*(const FString& LongPackageName)> Loader)
 {
-	FObjectTable::Get().PackageLoader = MoveTemp(Loader);
+	FEditorPackages::Get().Loader = MoveTemp(Loader);
 }
 
 UClass* HostObjects::DeriveClass(UClass* Parent, FName Name, UObject* Outer, UClass* ClassOfClass)

@@ -6,7 +6,7 @@
 #include "HostState.h"
 #include "Misc/AssertionMacros.h"
 #include "Misc/ITransaction.h"
-#include "Objects/ObjectTable.h"
+#include "Objects/ObjectNameTable.h"
 #include "UObject/Interface.h"
 #include "UObject/Package.h"
 #include "UObject/Stack.h"
@@ -104,7 +104,7 @@ UObject* UObject::GetArchetype() const
 	if (HasAnyFlags(RF_DefaultSubObject))
 	{
 		UObject* OuterArchetype = OuterPrivate->GetArchetype();
-		UObject* Found = OuterArchetype ? FObjectTable::Get().Find(nullptr, OuterArchetype, NamePrivate) : nullptr;
+		UObject* Found = OuterArchetype ? FObjectNameTable::Get().Find(nullptr, OuterArchetype, NamePrivate) : nullptr;
 		if (Found && GetClass()->IsChildOf(Found->GetClass()))
 		{
 			return Found;
@@ -115,7 +115,7 @@ UObject* UObject::GetArchetype() const
 
 UObject* UObject::GetDefaultSubobjectByName(FName ToFind) const
 {
-	UObject* Found = FObjectTable::Get().Find(nullptr, this, ToFind);
+	UObject* Found = FObjectNameTable::Get().Find(nullptr, this, ToFind);
 	return Found && Found->IsDefaultSubobject() ? Found : nullptr;
 }
 

@@ -2,7 +2,7 @@
 
 #include "UObject/UObjectHash.h"
 
-#include "Objects/ObjectTable.h"
+#include "Objects/ObjectNameTable.h"
 #include "UObject/Class.h"
 #include "UObject/Object.h"
 #include "UObject/Package.h"
@@ -27,7 +27,7 @@ namespace ObjectLists
 
 	static void Collect(const UObject* Outer, bool bNested, TArray<UObject*>& Results)
 	{
-		FObjectTable::Get().ForEachInner(Outer, [bNested, &Results](UObject* Inner) {
+		FObjectNameTable::Get().ForEachInner(Outer, [bNested, &Results](UObject* Inner) {
 			Results.Add(Inner);
 			if (bNested)
 			{

@@ -2,7 +2,7 @@
 // Names, paths and outers.
 
 #include "Misc/AssertionMacros.h"
-#include "Objects/ObjectTable.h"
+#include "Objects/ObjectNameTable.h"
 #include "UObject/Class.h"
 #include "UObject/Object.h"
 #include "UObject/Package.h"
@@ -90,17 +90,17 @@ bool UObject::IsIn(const UObject* SomeOuter) const
 bool UObject::Rename(const TCHAR* NewName, UObject* NewOuter, ERenameFlags Flags)
 {
 	UObject* TargetOuter = NewOuter ? NewOuter : OuterPrivate;
-	FObjectTable& Table = FObjectTable::Get();
+	FObjectNameTable& Names = FObjectNameTable::Get();
 	FName TargetName = NamePrivate;
 	if (NewName)
 	{
 		TargetName = FName(NewName);
 	}
-	else if (UObject* Taken = Table.Find(nullptr, TargetOuter, NamePrivate); Taken && Taken != this)
+	else if (UObject* Taken = Names.Find(nullptr, TargetOuter, NamePrivate); Taken && Taken != this)
 	{
-		TargetName = Table.MakeUniqueName(TargetOuter, GetClass(), NAME_None);
+		TargetName = Names.MakeUniqueName(TargetOuter, GetClass(), NAME_None);
 	}
-	UObject* Existing = Table.Find(nullptr, TargetOuter, TargetName);
+	UObject* Existing = Names.Find(nullptr, TargetOuter, TargetName);
 	if (Existing && Existing != this)
 	{
 		checkf((Flags & REN_Test) != 0, TEXT("Renaming %s: there is %s already."), *GetFullName(), *Existing->GetFullName());
@@ -121,7 +121,7 @@ bool UObject::Rename(const TCHAR* NewName, UObject* NewOuter, ERenameFlags Flags
 	}
 	UObject* OldOuter = OuterPrivate;
 	const FName OldName = NamePrivate;
-	Table.ChangeName(this, TargetName, TargetOuter);
+	Names.ChangeName(this, TargetName, TargetOuter);
 	if (bDirty)
 	{
 		MarkPackageDirty();
@@ -132,5 +132,5 @@ bool UObject::Rename(const TCHAR* NewName, UObject* NewOuter, ERenameFlags Flags
 
 FName MakeUniqueObjectName(UObject* Outer, const UClass* Class, FName BaseName)
 {
-	return FObjectTable::Get().MakeUniqueName(Outer, Class, BaseName);
+	return FObjectNameTable::Get().MakeUniqueName(Outer, Class, BaseName);
 }

@@ -3,7 +3,8 @@
 
 #include "Logging/LogMacros.h"
 #include "Misc/AssertionMacros.h"
-#include "Objects/ObjectTable.h"
+#include "Objects/EditorPackages.h"
+#include "Objects/ObjectNameTable.h"
 #include "Properties/PropertyText.h"
 #include "UObject/Class.h"
 #include "UObject/Package.h"
@@ -26,7 +27,7 @@ namespace ObjectSearch
 	/** Follows "A.B:C" from Outer; null Outer starts with a package. Class counts for the last part only. */
 	static UObject* Follow(UClass* Class, UObject* Outer, const FString& Path, bool bExactClass)
 	{
-		FObjectTable& Table = FObjectTable::Get();
+		FObjectNameTable& Names = FObjectNameTable::Get();
 		int32 Start = 0;
 		for (;;)
 		{
@@ -38,9 +39,9 @@ namespace ObjectSearch
 			}
 			if (End >= Path.Len())
 			{
-				return Table.Find(Class, Outer, Part, bExactClass);
+				return Names.Find(Class, Outer, Part, bExactClass);
 			}
-			Outer = Table.Find(nullptr, Outer, Part);
+			Outer = Names.Find(nullptr, Outer, Part);
 			if (!Outer)
 			{
 				return nullptr;
@@ -67,18 +68,18 @@ UObject* StaticFindObject(UClass* Class, UObject* InOuter, const TCHAR* Name, bo
 
 UObject* StaticFindObject(UClass* Class, FTopLevelAssetPath ObjectPath, bool bExactClass)
 {
-	FObjectTable& Table = FObjectTable::Get();
-	UObject* Package = Table.Find(nullptr, nullptr, ObjectPath.GetPackageName());
+	FObjectNameTable& Names = FObjectNameTable::Get();
+	UObject* Package = Names.Find(nullptr, nullptr, ObjectPath.GetPackageName());
 	if (!Package || ObjectPath.GetAssetName().IsNone())
 	{
 		return Package && (!Class || Package->IsA(Class)) ? Package : nullptr;
 	}
-	return Table.Find(Class, Package, ObjectPath.GetAssetName(), bExactClass);
+	return Names.Find(Class, Package, ObjectPath.GetAssetName(), bExactClass);
 }
 
 UObject* StaticFindObjectFast(UClass* Class, UObject* InOuter, FName Name, bool bExactClass)
 {
-	return FObjectTable::Get().Find(Class, InOuter, Name, bExactClass);
+	return FObjectNameTable::Get().Find(Class, InOuter, Name, bExactClass);
 }
 
 UObject* StaticFindObjectChecked(UClass* Class, UObject* InOuter, const TCHAR* Name, bool bExactClass)
@@ -177,7 +178,7 @@ UPackage* LoadPackage(UPackage*, const TCHAR* LongPackageName, uint32 LoadFlags)
 	{
 		return Existing;
 	}
-	const TFunction<UPackage*(const FString&)>& Loader = FObjectTable::Get().PackageLoader;
+	const TFunction<UPackage*(const FString&)>& Loader = FEditorPackages::Get().Loader;
 	UPackage* Package = Loader ? Loader(Name) : nullptr;
 	if (!Package)
 	{

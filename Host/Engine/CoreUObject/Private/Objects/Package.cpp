@@ -3,7 +3,8 @@
 #include "UObject/Package.h"
 
 #include "HostState.h"
-#include "Objects/ObjectTable.h"
+#include "Objects/EditorPackages.h"
+#include "Objects/ObjectNameTable.h"
 
 UPackage::FPackageDirtyStateChanged UPackage::PackageDirtyStateChangedEvent;
 UPackage::FOnPackageMarkedDirty UPackage::PackageMarkedDirtyEvent;
@@ -30,7 +31,7 @@ void UPackage::SetDirtyFlag(bool bInIsDirty)
 UObject* UPackage::FindAssetInPackage(EObjectFlags RequiredTopLevelFlags) const
 {
 	UObject* Asset = nullptr;
-	FObjectTable::Get().ForEachInner(this, [&Asset, RequiredTopLevelFlags](UObject* Inner) {
+	FObjectNameTable::Get().ForEachInner(this, [&Asset, RequiredTopLevelFlags](UObject* Inner) {
 		if (!Asset && Inner->IsAsset() && (RequiredTopLevelFlags == RF_NoFlags || Inner->HasAnyFlags(RequiredTopLevelFlags)))
 		{
 			Asset = Inner;
@@ -41,5 +42,5 @@ UObject* UPackage::FindAssetInPackage(EObjectFlags RequiredTopLevelFlags) const
 
 UPackage* GetTransientPackage()
 {
-	return FObjectTable::Get().GetTransientPackage();
+	return FEditorPackages::Get().GetTransientPackage();
 }

@@ -357,9 +357,11 @@ const TCHAR* FMapProperty::ImportText_Internal(const TCHAR* Buffer, void* Value,
 		int32 Part = 0;
 		const TCHAR* Rest = *Text != TEXT('(') ? nullptr : ContainerProperties::ImportList(Text, [&](const TCHAR* Piece) -> const TCHAR* {
 			++Part;
-			return Part == 1 ? KeyProp->ImportText_Direct(Piece, Key.Get(), OwnerObject, PortFlags | PPF_Delimited, ErrorText)
-				: Part == 2	 ? ValueProp->ImportText_Direct(Piece, Mapped.Get(), OwnerObject, PortFlags | PPF_Delimited, ErrorText)
-							 : nullptr;
+			if (Part == 1)
+			{
+				return KeyProp->ImportText_Direct(Piece, Key.Get(), OwnerObject, PortFlags | PPF_Delimited, ErrorText);
+			}
+			return Part == 2 ? ValueProp->ImportText_Direct(Piece, Mapped.Get(), OwnerObject, PortFlags | PPF_Delimited, ErrorText) : nullptr;
 		});
 		if (!Rest || Part != 2)
 		{

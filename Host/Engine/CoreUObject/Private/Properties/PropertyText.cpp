@@ -44,6 +44,18 @@ namespace PropertyText
 		Out += TEXT('"');
 	}
 
+	/** What a backslash and this character stand for. */
+	TCHAR Unescape(TCHAR Character)
+	{
+		switch (Character)
+		{
+			case TEXT('n'): return TEXT('\n');
+			case TEXT('r'): return TEXT('\r');
+			case TEXT('t'): return TEXT('\t');
+			default: return Character;
+		}
+	}
+
 	const TCHAR* ReadQuoted(const TCHAR* Buffer, FString& OutText)
 	{
 		OutText.Reset();
@@ -59,9 +71,7 @@ namespace PropertyText
 				continue;
 			}
 			++Buffer;
-			OutText += *Buffer == TEXT('n') ? TEXT('\n') : *Buffer == TEXT('r') ? TEXT('\r')
-				: *Buffer == TEXT('t')											? TEXT('\t')
-																				: *Buffer;
+			OutText += Unescape(*Buffer);
 		}
 		return nullptr;
 	}

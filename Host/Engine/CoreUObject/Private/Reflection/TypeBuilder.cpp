@@ -3,7 +3,8 @@
 #include "Reflection/TypeBuilder.h"
 
 #include "Misc/AssertionMacros.h"
-#include "Objects/ObjectTable.h"
+#include "Objects/ObjectFactory.h"
+#include "Objects/ObjectNameTable.h"
 #include "Reflection/RootTypes.h"
 #include "UObject/Package.h"
 #include "UObject/UnrealType.h"
@@ -66,8 +67,8 @@ namespace UE::Reflection
 	template<typename T>
 	T* FTypeBuilder::MakeNative(UClass* Class, UObject* Outer, FName Name)
 	{
-		void* Memory = FObjectTable::Allocate(sizeof(T), alignof(T));
-		FObjectTable::Get().ConstructNative(Memory, Class, Outer, Name, [](void* Place, const FObjectInitializer& Initializer) { ::new (Place) T(Initializer); });
+		void* Memory = FObjectFactory::Allocate(sizeof(T), alignof(T));
+		FObjectFactory::ConstructNative(Memory, Class, Outer, Name, [](void* Place, const FObjectInitializer& Initializer) { ::new (Place) T(Initializer); });
 		return static_cast<T*>(Memory);
 	}
 
@@ -79,18 +80,17 @@ namespace UE::Reflection
 			return;
 		}
 		// Every object needs a class and a package, these included: the addresses come first.
-		UPackage* Package = static_cast<UPackage*>(FObjectTable::Allocate(sizeof(UPackage), alignof(UPackage)));
+		UPackage* Package = static_cast<UPackage*>(FObjectFactory::Allocate(sizeof(UPackage), alignof(UPackage)));
 		for (FClassRecord* Record : Roots)
 		{
-			Record->Class = static_cast<UClass*>(FObjectTable::Allocate(sizeof(UClass), alignof(UClass)));
+			Record->Class = static_cast<UClass*>(FObjectFactory::Allocate(sizeof(UClass), alignof(UClass)));
 		}
-		FObjectTable& Table = FObjectTable::Get();
-		Table.ConstructNative(Package, ClassOf<UPackage>(), nullptr, FName("/Script/CoreUObject"),
+		FObjectFactory::ConstructNative(Package, ClassOf<UPackage>(), nullptr, FName("/Script/CoreUObject"),
 			[](void* Place, const FObjectInitializer& Initializer) { ::new (Place) UPackage(Initializer); });
 		Package->SetPackageFlags(PKG_CompiledIn);
 		for (FClassRecord* Record : Roots)
 		{
-			Table.ConstructNative(Record->Class, ClassOf<UClass>(), Package, FName(Record->Name),
+			FObjectFactory::ConstructNative(Record->Class, ClassOf<UClass>(), Package, FName(Record->Name),
 				[](void* Place, const FObjectInitializer& Initializer) { ::new (Place) UClass(Initializer); });
 		}
 		for (FClassRecord* Record : Roots)
@@ -102,7 +102,7 @@ namespace UE::Reflection
 	UPackage* FTypeBuilder::FindOrMakePackage(const char* Name)
 	{
 		const FName PackageName(Name);
-		UObject* Existing = FObjectTable::Get().Find(nullptr, nullptr, PackageName);
+		UObject* Existing = FObjectNameTable::Get().Find(nullptr, nullptr, PackageName);
 		if (Existing)
 		{
 			return static_cast<UPackage*>(Existing);

@@ -331,7 +331,8 @@ public:
 	static void AddReferencedObjects(UObject* InThis, FReferenceCollector& Collector);
 
 private:
-	friend class FObjectTable;
+	friend class FGarbageCollector;
+	friend class FObjectFactory;
 	friend class FReachability;
 
 	UObject* CreateDefaultObject();

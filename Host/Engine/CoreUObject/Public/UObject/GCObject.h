@@ -18,7 +18,7 @@ public:
 	virtual FString GetReferencerName() const = 0;
 
 private:
-	friend class FObjectTable;
+	friend class FGarbageCollector;
 
 	FGCObject* Previous = nullptr;
 	FGCObject* Next = nullptr;

@@ -185,7 +185,7 @@ public:
 
 private:
 	friend class FObjectInitializer;
-	friend class FObjectTable;
+	friend class FObjectNameTable;
 
 	bool ImplementsInterfaceClass(const UClass* InterfaceClass) const;
 

@@ -86,7 +86,6 @@ enum EPropertyFlags : uint64
 	CPF_DuplicateTransient = 0x0000000000200000,
 	CPF_ReferenceParm = 0x0000000008000000,
 	CPF_BlueprintAssignable = 0x0000000010000000,
-	CPF_Deprecated = 0x0000000020000000,
 	CPF_NativeAccessSpecifierPublic = 0x0010000000000000,
 	CPF_NativeAccessSpecifierProtected = 0x0020000000000000,
 	CPF_NativeAccessSpecifierPrivate = 0x0040000000000000,

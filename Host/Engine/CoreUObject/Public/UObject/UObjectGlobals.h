@@ -14,8 +14,8 @@
 #include "UObject/TopLevelAssetPath.h"
 
 class FConfigCacheIni;
+class FObjectFactory;
 class FObjectInitializer;
-class FObjectTable;
 class UClass;
 class UFunction;
 class UObject;
@@ -90,7 +90,7 @@ public:
 	static void AssertIfInConstructor(const UObject* Outer, const TCHAR* ErrorMessage);
 
 private:
-	friend class FObjectTable;
+	friend class FObjectFactory;
 	friend class UObject;
 
 	FObjectInitializer(UObject* InObj, UClass* InClass, UObject* InOuter, FName InName, EObjectFlags InFlags, UObject* InArchetype);

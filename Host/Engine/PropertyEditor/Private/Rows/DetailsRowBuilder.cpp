@@ -48,11 +48,11 @@ namespace DetailsRowBuilder
 				PropertyWidgets::MakeExtension(Node, EPropertyButtons::Show)
 			];
 			// clang-format on
-			if (Node->IsContainer())
+			if (Node->GetKind().IsContainer())
 			{
 				Draft.Container = Node;
 			}
-			else if (!PropertyWidgets::IsShownWhole(*Node))
+			else if (!Node->GetKind().IsShownWhole(*Node->GetProperty()))
 			{
 				for (const TSharedRef<FPropertyNode>& Child : Node->GetChildren())
 				{
@@ -70,7 +70,7 @@ namespace DetailsRowBuilder
 				.Tag(FName(*Node->GetPath().Left(NAME_SIZE - 1)))
 				.Visibility(Wanted.VisibilityAttribute)
 				.IsEnabled(Wanted.EnabledAttribute)
-				.SearchWords(Node->GetName() + TEXT(" ") + Node->GetDisplayName().ToString())
+				.SearchWords(Node->GetPlace().GetName() + TEXT(" ") + Node->GetPlace().GetDisplayName().ToString())
 				.Customization(Draft.Customization)
 				.Container(Draft.Container);
 			// clang-format on

@@ -46,7 +46,7 @@ FPropertyAccess::Result FPropertyChange::Apply(EPropertyValueSetFlags::Type Flag
 	const bool bInteractive = (Flags & EPropertyValueSetFlags::InteractiveChange) != 0;
 	const bool bRecorded = !bInteractive && (Flags & EPropertyValueSetFlags::NotTransactable) == 0;
 	const bool bEndsInteraction = bRecorded && !Node->ValuesBeforeInteraction.IsEmpty();
-	const FScopedTransaction Transaction(FText::Format(LOCTEXT("EditProperty", "Edit {0}"), Node->GetDisplayName()), bRecorded);
+	const FScopedTransaction Transaction(FText::Format(LOCTEXT("EditProperty", "Edit {0}"), Node->GetPlace().GetDisplayName()), bRecorded);
 	if (bInteractive)
 	{
 		KeepValuesBeforeInteraction(Values);

@@ -2,6 +2,7 @@
 
 #include "Values/PropertyHandleImpl.h"
 
+#include "Kinds/PropertyKind.h"
 #include "Values/PropertyChange.h"
 #include "Values/PropertyValue.h"
 #include "Values/PropertyWidgets.h"
@@ -63,7 +64,7 @@ namespace PropertyHandle
 	{
 		TArray<void*> Values;
 		const FPropertyAccess::Result Result = PropertyValue::FindOne(Node, Values);
-		if (Result != FPropertyAccess::Fail && !TFits<T>::Test(PropertyValue::GetStorage(Node)))
+		if (Result != FPropertyAccess::Fail && !TFits<T>::Test(Node.GetKind().GetStorage(*Node.GetProperty())))
 		{
 			return FPropertyAccess::Fail;
 		}
@@ -78,7 +79,7 @@ namespace PropertyHandle
 	static FPropertyAccess::Result Write(FPropertyNode& Node, const T& Value, EPropertyValueSetFlags::Type Flags)
 	{
 		FPropertyChange Change(Node);
-		if (Change.Num() == 0 || !TFits<T>::Test(PropertyValue::GetStorage(Node)))
+		if (Change.Num() == 0 || !TFits<T>::Test(Node.GetKind().GetStorage(*Node.GetProperty())))
 		{
 			return FPropertyAccess::Fail;
 		}
@@ -134,13 +135,13 @@ FPropertyAccess::Result FPropertyHandle::GetNumChildren(uint32& OutNumChildren) 
 
 FPropertyAccess::Result FPropertyHandle::GetValue(UObject*& OutValue) const
 {
-	return PropertyValue::ReadObject(*Node, OutValue);
+	return Node->GetKind().ReadObject(*Node, OutValue);
 }
 
 FPropertyAccess::Result FPropertyHandle::GetValue(const UObject*& OutValue) const
 {
 	UObject* Object = nullptr;
-	const FPropertyAccess::Result Result = PropertyValue::ReadObject(*Node, Object);
+	const FPropertyAccess::Result Result = Node->GetKind().ReadObject(*Node, Object);
 	if (Result == FPropertyAccess::Success)
 	{
 		OutValue = Object;
@@ -151,7 +152,7 @@ FPropertyAccess::Result FPropertyHandle::GetValue(const UObject*& OutValue) cons
 FPropertyAccess::Result FPropertyHandle::GetValue(FAssetData& OutValue) const
 {
 	UObject* Object = nullptr;
-	const FPropertyAccess::Result Result = PropertyValue::ReadObject(*Node, Object);
+	const FPropertyAccess::Result Result = Node->GetKind().ReadObject(*Node, Object);
 	if (Result == FPropertyAccess::Success)
 	{
 		OutValue = Object != nullptr ? FAssetData(Object) : FAssetData();
@@ -161,17 +162,17 @@ FPropertyAccess::Result FPropertyHandle::GetValue(FAssetData& OutValue) const
 
 FPropertyAccess::Result FPropertyHandle::SetValue(UObject* const& InValue, EPropertyValueSetFlags::Type Flags)
 {
-	return PropertyValue::WriteObject(*Node, InValue, Flags);
+	return Node->GetKind().WriteObject(*Node, InValue, Flags);
 }
 
 FPropertyAccess::Result FPropertyHandle::SetValue(const UObject* const& InValue, EPropertyValueSetFlags::Type Flags)
 {
-	return PropertyValue::WriteObject(*Node, const_cast<UObject*>(InValue), Flags);
+	return Node->GetKind().WriteObject(*Node, const_cast<UObject*>(InValue), Flags);
 }
 
 FPropertyAccess::Result FPropertyHandle::SetValue(const FAssetData& InValue, EPropertyValueSetFlags::Type Flags)
 {
-	return PropertyValue::WriteObject(*Node, InValue.GetAsset(), Flags);
+	return Node->GetKind().WriteObject(*Node, InValue.GetAsset(), Flags);
 }
 
 FPropertyAccess::Result FPropertyHandle::SetValue(const TCHAR* InValue, EPropertyValueSetFlags::Type Flags)
@@ -191,7 +192,7 @@ FPropertyAccess::Result FPropertyHandle::SetValueFromFormattedString(const FStri
 
 FPropertyAccess::Result FPropertyHandle::GetValueAsDisplayString(FString& OutValue, EPropertyPortFlags PortFlags) const
 {
-	return PropertyValue::ReadDisplayText(*Node, OutValue, PortFlags);
+	return Node->GetKind().ReadDisplayText(*Node, OutValue, PortFlags);
 }
 
 void FPropertyHandle::SetOnPropertyValueChanged(const FSimpleDelegate& InOnPropertyValueChanged)
@@ -216,7 +217,7 @@ TSharedRef<SWidget> FPropertyHandle::CreatePropertyValueWidget(bool bDisplayDefa
 
 FText FPropertyHandle::GetPropertyDisplayName() const
 {
-	return Node->HasValues() && !Node->IsRoot() ? Node->GetDisplayName() : FText::GetEmpty();
+	return Node->HasValues() && !Node->IsRoot() ? Node->GetPlace().GetDisplayName() : FText::GetEmpty();
 }
 
 FProperty* FPropertyHandle::GetProperty() const

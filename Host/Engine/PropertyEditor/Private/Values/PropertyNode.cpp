@@ -2,73 +2,47 @@
 
 #include "Values/PropertyNode.h"
 
-namespace PropertyNode
-{
-	static UClass* FindCommonClass(const TArray<UObject*>& Objects)
-	{
-		UClass* Common = Objects.IsEmpty() ? nullptr : Objects[0]->GetClass();
-		for (const UObject* Object : Objects)
-		{
-			while (!Object->IsA(Common))
-			{
-				Common = Common->GetSuperClass();
-			}
-		}
-		return Common;
-	}
-}
+#include "Kinds/PropertyKind.h"
 
 TSharedRef<FPropertyNode> FPropertyNode::MakeRoot(const TArray<UObject*>& Objects)
 {
-	const TSharedRef<FPropertyNode> Root = MakeShared<FPropertyNode>(nullptr);
-	for (UObject* Object : Objects)
-	{
-		if (IsValid(Object))
-		{
-			Root->Objects.AddUnique(TWeakObjectPtr<UObject>(Object));
-		}
-	}
+	const TSharedRef<FPropertyNode> Root = MakeShareable(new FPropertyNode(nullptr));
+	Root->Shown = MakeUnique<FShownObjects>(Objects);
 	return Root;
 }
 
-FPropertyNode::FPropertyNode(FProperty* InProperty, int32 InIndex)
-	: Property(InProperty)
-	, Index(InIndex)
+TSharedRef<FPropertyNode> FPropertyNode::MakeBelow(const TSharedRef<FPropertyNode>& Above, FProperty* Property, TUniquePtr<IPropertyPlace> Place)
 {
+	const TSharedRef<FPropertyNode> Node = MakeShareable(new FPropertyNode(Property));
+	Node->Place = MoveTemp(Place);
+	Node->Parent = Above;
+	return Node;
+}
+
+FPropertyNode::FPropertyNode(FProperty* InProperty)
+	: Property(InProperty)
+	, Kind(FPropertyKind::Of(InProperty))
+{
+}
+
+FString FPropertyNode::GetPath() const
+{
+	const TSharedPtr<FPropertyNode> Above = GetParent();
+	if (IsRoot() || !Above.IsValid() || Above->IsRoot())
+	{
+		return IsRoot() ? FString() : Place->GetName();
+	}
+	return Above->GetPath() + (Place->IsElement() ? TEXT("") : TEXT(".")) + Place->GetName();
 }
 
 TArray<UObject*> FPropertyNode::GetObjects() const
 {
-	if (!IsRoot())
+	if (IsRoot())
 	{
-		const TSharedPtr<FPropertyNode> Above = GetParent();
-		return Above.IsValid() ? Above->GetObjects() : TArray<UObject*>();
+		return Shown->GetAll();
 	}
-	const TArray<UObject*> Remaining = GetRemainingObjects();
-	return Remaining.Num() == Objects.Num() ? Remaining : TArray<UObject*>();
-}
-
-bool FPropertyNode::HasLostObjects() const
-{
-	return GetRemainingObjects().Num() != Objects.Num();
-}
-
-TArray<UObject*> FPropertyNode::GetRemainingObjects() const
-{
-	TArray<UObject*> Result;
-	for (const TWeakObjectPtr<UObject>& Object : Objects)
-	{
-		if (Object.IsValid())
-		{
-			Result.Add(Object.Get());
-		}
-	}
-	return Result;
-}
-
-UClass* FPropertyNode::GetClass() const
-{
-	return PropertyNode::FindCommonClass(GetObjects());
+	const TSharedPtr<FPropertyNode> Above = GetParent();
+	return Above.IsValid() ? Above->GetObjects() : TArray<UObject*>();
 }
 
 bool FPropertyNode::GetValues(TArray<void*>& OutValues) const
@@ -89,7 +63,7 @@ bool FPropertyNode::GetValues(TArray<void*>& OutValues) const
 	}
 	for (void*& Value : OutValues)
 	{
-		Value = GoFrom(Value, *Above);
+		Value = Place->GoFrom(Value);
 		if (Value == nullptr)
 		{
 			return false;
@@ -104,31 +78,78 @@ bool FPropertyNode::HasValues() const
 	return GetValues(Values);
 }
 
-/** Null when the container has no such element. */
-void* FPropertyNode::GoFrom(void* ParentValue, const FPropertyNode& ParentNode) const
+const TArray<TSharedRef<FPropertyNode>>& FPropertyNode::GetChildren()
 {
-	if (const FArrayProperty* Array = Index != INDEX_NONE ? CastField<FArrayProperty>(ParentNode.Property) : nullptr)
+	TArray<void*> Values;
+	if (bHasMembers)
 	{
-		const FScriptArrayHelper Elements(Array, ParentValue);
-		return Elements.IsValidIndex(Index) ? Elements.GetRawPtr(Index) : nullptr;
+		return Children;
 	}
-	if (Key.IsValid())
+	if (IsRoot())
 	{
-		const FMapProperty* Map = CastField<FMapProperty>(ParentNode.Property);
-		return Map != nullptr ? Map->GetOps().Find(ParentValue, Key->Get()) : CastFieldChecked<FSetProperty>(ParentNode.Property)->GetOps().Find(ParentValue, Key->Get());
+		AddMembers(Shown->FindCommonClass());
 	}
-	return Property->ContainerPtrToValuePtr(ParentValue);
+	else if (!GetValues(Values))
+	{
+		Children.Empty();
+	}
+	else if (const UStruct* Struct = Kind.FindStruct(*Property))
+	{
+		AddMembers(Struct);
+	}
+	else
+	{
+		Kind.FitElements(AsShared(), Values, Children);
+	}
+	return Children;
 }
 
-bool FPropertyNode::IsContainer() const
+void FPropertyNode::AddMembers(const UStruct* Struct)
 {
-	return Property != nullptr && (Property->IsA<FArrayProperty>() || Property->IsA<FSetProperty>() || Property->IsA<FMapProperty>());
+	if (Struct == nullptr)
+	{
+		return; // no objects (any more)
+	}
+	bHasMembers = true;
+	for (FProperty* Member : TFieldRange<FProperty>(Struct))
+	{
+		if (Member->HasAnyPropertyFlags(CPF_Edit))
+		{
+			Children.Add(MakeBelow(AsShared(), Member, MakeUnique<FMemberPlace>(*Member)));
+		}
+	}
+}
+
+TSharedPtr<FPropertyNode> FPropertyNode::FindChild(FName Name, bool bRecurse)
+{
+	for (const TSharedRef<FPropertyNode>& Child : GetChildren())
+	{
+		if (Child->Place->IsCalled(Name))
+		{
+			return Child;
+		}
+	}
+	if (bRecurse)
+	{
+		for (const TSharedRef<FPropertyNode>& Child : GetChildren())
+		{
+			if (const TSharedPtr<FPropertyNode> Found = Child->FindChild(Name, true))
+			{
+				return Found;
+			}
+		}
+	}
+	return nullptr;
 }
 
 bool FPropertyNode::IsInSet() const
 {
+	if (IsRoot())
+	{
+		return false;
+	}
 	const TSharedPtr<FPropertyNode> Above = GetParent();
-	return Above.IsValid() && !Above->IsRoot() && (Above->Property->IsA<FSetProperty>() || Above->IsInSet());
+	return Place->IsFixed() || (Above.IsValid() && Above->IsInSet());
 }
 
 bool FPropertyNode::IsReadOnly() const
@@ -139,33 +160,4 @@ bool FPropertyNode::IsReadOnly() const
 	}
 	const TSharedPtr<FPropertyNode> Above = GetParent();
 	return Property->HasAnyPropertyFlags(CPF_EditConst) || IsInSet() || (Above.IsValid() && Above->IsReadOnly());
-}
-
-FString FPropertyNode::GetName() const
-{
-	if (Index != INDEX_NONE)
-	{
-		return FString::Printf(TEXT("[%d]"), Index);
-	}
-	return Key.IsValid() ? TEXT("[") + KeyText + TEXT("]") : Property->GetName();
-}
-
-FString FPropertyNode::GetPath() const
-{
-	const TSharedPtr<FPropertyNode> Above = GetParent();
-	if (IsRoot() || !Above.IsValid() || Above->IsRoot())
-	{
-		return IsRoot() ? FString() : GetName();
-	}
-	const bool bElement = Index != INDEX_NONE || Key.IsValid();
-	return Above->GetPath() + (bElement ? TEXT("") : TEXT(".")) + GetName();
-}
-
-FText FPropertyNode::GetDisplayName() const
-{
-	if (Index != INDEX_NONE)
-	{
-		return FText::Format(NSLOCTEXT("PropertyEditor", "ElementName", "Index [ {0} ]"), FText::AsNumber(Index));
-	}
-	return Key.IsValid() ? FText::FromString(KeyText) : Property->GetDisplayNameText();
 }

@@ -3,16 +3,10 @@
 #pragma once
 
 #include "CoreMinimal.h"
-#include "Templates/SharedPointer.h"
+#include "Kinds/PropertyKind.h"
 
 class FPropertyNode;
 class SWidget;
-
-enum class EPropertyButtons : uint8
-{
-	Show,
-	LeaveOut, // those that change a container's number of elements
-};
 
 /** The widgets of properties that nobody customizes. They read the value each time they are looked at, and keep no object alive. */
 namespace PropertyWidgets
@@ -29,9 +23,13 @@ namespace PropertyWidgets
 	/** Both. */
 	TSharedRef<SWidget> MakeWhole(const TSharedRef<FPropertyNode>& Node, EPropertyButtons Buttons);
 
-	/** Whether the value is shown as a whole, so that its members need no rows: numbers, texts, and the engine's own small structs. */
-	bool IsShownWhole(const FPropertyNode& Node);
+	//~ For kinds of property to make theirs of
+	/** For values that one line of text tells. */
+	TSharedRef<SWidget> MakeTextBox(const TSharedRef<FPropertyNode>& Node);
 
-	/** What stands for a value that the objects do not agree on. */
-	FText GetMultipleValuesText();
+	/** Whether the widget is enabled. */
+	bool CanEdit(TSharedRef<FPropertyNode> Node);
+
+	/** What a widget shows when there is not one value: "Multiple Values" when the objects do not agree, else nothing. */
+	FText GetTextInPlaceOfValue(FPropertyAccess::Result Result);
 }

@@ -3,6 +3,7 @@
 #include "Values/SPropertyEnum.h"
 
 #include "IPropertyTypeCustomization.h"
+#include "Kinds/EnumKind.h"
 #include "Values/PropertyChange.h"
 #include "Values/PropertyValue.h"
 #include "Values/PropertyWidgets.h"
@@ -11,7 +12,7 @@
 void SPropertyEnum::Construct(const FArguments&, const TSharedRef<FPropertyNode>& InNode)
 {
 	Node = InNode;
-	FillEntries(*PropertyValue::GetEnum(*Node->GetProperty()));
+	FillEntries(*FEnumKind::FindEnum(*Node->GetProperty()));
 	// clang-format off
 	ChildSlot
 	[
@@ -44,12 +45,8 @@ void SPropertyEnum::FillEntries(const UEnum& Enum)
 FText SPropertyEnum::GetCurrentText() const
 {
 	FString Text;
-	switch (PropertyValue::ReadDisplayText(*Node, Text, PPF_PropertyWindow))
-	{
-		case FPropertyAccess::Success: return FText::FromString(Text);
-		case FPropertyAccess::MultipleValues: return PropertyWidgets::GetMultipleValuesText();
-		default: return FText::GetEmpty();
-	}
+	const FPropertyAccess::Result Result = Node->GetKind().ReadDisplayText(*Node, Text, PPF_PropertyWindow);
+	return Result == FPropertyAccess::Success ? FText::FromString(Text) : PropertyWidgets::GetTextInPlaceOfValue(Result);
 }
 
 /** The value may have changed since the last pick: only one that differs from it is a pick. Several values are none. */
@@ -61,15 +58,15 @@ void SPropertyEnum::HandleOpening()
 		Combo->ClearSelection();
 		return;
 	}
-	const int64 Value = CastField<FNumericProperty>(PropertyValue::GetStorage(*Node))->GetSignedIntPropertyValue(Values[0]);
-	const UEnum* Enum = PropertyValue::GetEnum(*Node->GetProperty());
+	const int64 Value = FEnumKind::GetValue(*Node->GetProperty(), Values[0]);
+	const UEnum* Enum = FEnumKind::FindEnum(*Node->GetProperty());
 	const FEntry* Current = Entries.FindByPredicate([Enum, Value](const FEntry& Entry) { return Enum->GetValueByIndex(*Entry) == Value; });
 	Combo->SetSelectedItem(Current != nullptr ? *Current : nullptr, ESelectInfo::Direct);
 }
 
 TSharedRef<SWidget> SPropertyEnum::MakeEntry(FEntry Entry)
 {
-	const UEnum* Enum = Node->HasValues() ? PropertyValue::GetEnum(*Node->GetProperty()) : nullptr;
+	const UEnum* Enum = Node->HasValues() ? FEnumKind::FindEnum(*Node->GetProperty()) : nullptr;
 	return SNew(STextBlock).Text(Enum != nullptr ? Enum->GetDisplayNameTextByIndex(*Entry) : FText::GetEmpty());
 }
 
@@ -80,10 +77,10 @@ void SPropertyEnum::HandlePicked(FEntry Entry, ESelectInfo::Type SelectInfo)
 	{
 		return;
 	}
-	const int64 Value = PropertyValue::GetEnum(*Node->GetProperty())->GetValueByIndex(*Entry);
+	const int64 Value = FEnumKind::FindEnum(*Node->GetProperty())->GetValueByIndex(*Entry);
 	for (int32 Index = 0; Index < Change.Num(); ++Index)
 	{
-		CastField<FNumericProperty>(PropertyValue::GetStorage(*Node))->SetIntPropertyValue(Change.GetNewValue(Index), Value);
+		FEnumKind::SetValue(*Node->GetProperty(), Change.GetNewValue(Index), Value);
 	}
 	Change.Apply(EPropertyValueSetFlags::DefaultFlags);
 }

@@ -31,6 +31,16 @@ namespace HostSnapshotText
 		return Result;
 	}
 
+	static const TCHAR* GetCheckWord(ECheckBoxState State)
+	{
+		switch (State)
+		{
+			case ECheckBoxState::Checked: return TEXT("checked");
+			case ECheckBoxState::Unchecked: return TEXT("unchecked");
+			default: return TEXT("undetermined");
+		}
+	}
+
 	static TArray<FString> FactsOf(const FHostWidgetDescription& Description)
 	{
 		TArray<FString> Facts;
@@ -44,9 +54,7 @@ namespace HostSnapshotText
 		}
 		if (Description.Checked.IsSet())
 		{
-			const ECheckBoxState State = Description.Checked.GetValue();
-			Facts.Add(State == ECheckBoxState::Checked ? TEXT("checked") : State == ECheckBoxState::Unchecked ? TEXT("unchecked")
-																											  : TEXT("undetermined"));
+			Facts.Add(GetCheckWord(Description.Checked.GetValue()));
 		}
 		if (Description.bSelected)
 		{
@@ -230,6 +238,15 @@ namespace HostSnapshotFind
 		return Found;
 	}
 
+	static FHostInputResult GiveIfReachable(const FSeen& Seen, const FHostInput& Input)
+	{
+		if (!Seen.Description.bVisible)
+		{
+			return FHostInputResult::Refused(TEXT("is hidden"));
+		}
+		return Seen.Description.bEnabled ? FHostWidgetAccess::Give(Seen.Widget, Input) : FHostInputResult::Refused(TEXT("is disabled"));
+	}
+
 	static FHostInputResult Give(const TSharedRef<SWidget>& Root, const FString& Widget, const FHostInput& Input)
 	{
 		FString Reason;
@@ -239,9 +256,7 @@ namespace HostSnapshotFind
 			return FHostInputResult::Refused(Reason);
 		}
 		const FHostWidgetDescription& Description = Seen.GetValue().Description;
-		FHostInputResult Result = !Description.bVisible ? FHostInputResult::Refused(TEXT("is hidden"))
-			: !Description.bEnabled						? FHostInputResult::Refused(TEXT("is disabled"))
-														: FHostWidgetAccess::Give(Seen.GetValue().Widget, Input);
+		FHostInputResult Result = GiveIfReachable(Seen.GetValue(), Input);
 		if (!Result.bDone)
 		{
 			Result.Reason = FString::Printf(TEXT("The %s \"%s\" %s."), *Description.Role, *Widget, *Result.Reason);

@@ -1,8 +1,9 @@
 // Copyright Velmorant. All Rights Reserved.
-// How objects come into being: memory, native constructor, values of the template, PostInitProperties().
+
+#include "Objects/ObjectFactory.h"
 
 #include "Misc/AssertionMacros.h"
-#include "Objects/ObjectTable.h"
+#include "Objects/ObjectNameTable.h"
 #include "UObject/Object.h"
 #include "UObject/Package.h"
 #include "UObject/UnrealType.h"
@@ -32,7 +33,7 @@ namespace ObjectConstruction
 				return To;
 			}
 			UObject* Outer = Map(Inner->GetOuter());
-			return Outer ? FObjectTable::Get().Find(nullptr, Outer, Inner->GetFName()) : nullptr;
+			return Outer ? FObjectNameTable::Get().Find(nullptr, Outer, Inner->GetFName()) : nullptr;
 		}
 
 	protected:
@@ -68,6 +69,16 @@ namespace ObjectConstruction
 		Property->CollectReferences(Property->ContainerPtrToValuePtr(To), Mapper);
 	}
 
+	/** The object of the wanted name, whose place the new one takes; null when there is none. */
+	static UObject* FindForRebuild(const FStaticConstructObjectParameters& Params)
+	{
+		UObject* Existing = Params.Name.IsNone() ? nullptr : FObjectNameTable::Get().Find(nullptr, Params.Outer, Params.Name);
+		checkf(!Existing || Existing->GetClass() == Params.Class, TEXT("Cannot make a %s named %s: %s is there already, and of another class."),
+			*Params.Class->GetName(), *Params.Name.ToString(), *Existing->GetFullName());
+		checkf(!Existing || !FObjectTable::Get().GetItem(Existing).bNative, TEXT("Cannot replace %s."), *Existing->GetFullName());
+		return Existing;
+	}
+
 	/** The object whose values a new one starts with. */
 	static UObject* ChooseArchetype(const FStaticConstructObjectParameters& Params, FName Name)
 	{
@@ -83,7 +94,7 @@ namespace ObjectConstruction
 		if (Params.SetFlags & RF_DefaultSubObject)
 		{
 			UObject* OuterArchetype = Params.Outer->GetArchetype();
-			UObject* Found = OuterArchetype ? FObjectTable::Get().Find(Params.Class, OuterArchetype, Name) : nullptr;
+			UObject* Found = OuterArchetype ? FObjectNameTable::Get().Find(Params.Class, OuterArchetype, Name) : nullptr;
 			if (Found)
 			{
 				return Found;
@@ -111,7 +122,7 @@ FObjectInitializer::~FObjectInitializer() noexcept(false)
 	ObjectConstruction::Innermost = Previous;
 	if (std::uncaught_exceptions() > UncaughtExceptions)
 	{
-		FObjectTable::Get().DropHalfMade(Obj, Class, bIsRegistered);
+		FObjectFactory::DropHalfMade(Obj, Class, bIsRegistered);
 		return;
 	}
 	if (bIsDeferred)
@@ -194,19 +205,10 @@ void FObjectInitializer::AssertIfInConstructor(const UObject* Outer, const TCHAR
 
 UObject* StaticConstructObject_Internal(const FStaticConstructObjectParameters& Params)
 {
-	return FObjectTable::Get().Construct(Params);
+	return FObjectFactory::Construct(Params);
 }
 
-UObject* FObjectTable::FindForRebuild(const FStaticConstructObjectParameters& Params) const
-{
-	UObject* Existing = Params.Name.IsNone() ? nullptr : Find(nullptr, Params.Outer, Params.Name);
-	checkf(!Existing || Existing->GetClass() == Params.Class, TEXT("Cannot make a %s named %s: %s is there already, and of another class."),
-		*Params.Class->GetName(), *Params.Name.ToString(), *Existing->GetFullName());
-	checkf(!Existing || !Items[IndexOf(Existing)].bNative, TEXT("Cannot replace %s."), *Existing->GetFullName());
-	return Existing;
-}
-
-UObject* FObjectTable::Construct(const FStaticConstructObjectParameters& Params)
+UObject* FObjectFactory::Construct(const FStaticConstructObjectParameters& Params)
 {
 	checkf(Params.Class, TEXT("NewObject without a class."));
 	UClass* Class = const_cast<UClass*>(Params.Class);
@@ -214,15 +216,15 @@ UObject* FObjectTable::Construct(const FStaticConstructObjectParameters& Params)
 	checkf(Params.Outer || Class->IsChildOf(UPackage::StaticClass()), TEXT("NewObject of %s without an outer."), *Class->GetName());
 	checkf(bDefaultObject || !Class->HasAnyClassFlags(CLASS_Abstract), TEXT("NewObject of the abstract class %s."), *Class->GetName());
 
-	const FName Name = Params.Name.IsNone() ? MakeUniqueName(Params.Outer, Class, NAME_None) : Params.Name;
+	const FName Name = Params.Name.IsNone() ? FObjectNameTable::Get().MakeUniqueName(Params.Outer, Class, NAME_None) : Params.Name;
 	UObject* Archetype = ObjectConstruction::ChooseArchetype(Params, Name);
 	checkf(!Archetype || Class->IsChildOf(Archetype->GetClass()) || Archetype->IsA(Class), TEXT("%s cannot be the template of a new %s."),
 		*Archetype->GetPathName(), *Class->GetName());
 	void* Memory = nullptr;
 	int32 ReusedIndex = INDEX_NONE;
-	if (UObject* Existing = FindForRebuild(Params))
+	if (UObject* Existing = ObjectConstruction::FindForRebuild(Params))
 	{
-		ReusedIndex = IndexOf(Existing);
+		ReusedIndex = FObjectTable::IndexOf(Existing);
 		Existing->ConditionalBeginDestroy();
 		Existing->~UObject();
 		std::memset(static_cast<void*>(Existing), 0, static_cast<std::size_t>(Class->GetPropertiesSize()));
@@ -245,11 +247,52 @@ UObject* FObjectTable::Construct(const FStaticConstructObjectParameters& Params)
 	return Object;
 }
 
-void FObjectTable::ConstructNative(void* Memory, UClass* Class, UObject* Outer, FName Name, void (*Constructor)(void*, const FObjectInitializer&))
+void FObjectFactory::ConstructNative(void* Memory, UClass* Class, UObject* Outer, FName Name, void (*Constructor)(void*, const FObjectInitializer&))
 {
 	FObjectInitializer Initializer(static_cast<UObject*>(Memory), Class, Outer, Name, RF_Public | RF_MarkAsNative, nullptr);
 	Initializer.bIsDeferred = true;
 	Constructor(Memory, Initializer);
+}
+
+void* FObjectFactory::Allocate(int32 Size, int32 Alignment)
+{
+	void* Memory = UE::Core::Private::AllocateElements(1, static_cast<std::size_t>(Size), static_cast<std::size_t>(Alignment));
+	std::memset(Memory, 0, static_cast<std::size_t>(Size));
+	return Memory;
+}
+
+void FObjectFactory::Free(void* Memory, int32 Size, int32 Alignment)
+{
+	UE::Core::Private::FreeElements(Memory, 1, static_cast<std::size_t>(Size), static_cast<std::size_t>(Alignment));
+}
+
+int32 FObjectFactory::Register(UObject* Object, int32 ReusedIndex, bool bNative)
+{
+	FObjectTable& Table = FObjectTable::Get();
+	if (ReusedIndex != INDEX_NONE)
+	{
+		Table.Renew(ReusedIndex);
+		return ReusedIndex;
+	}
+	const int32 Index = Table.Enter(Object, bNative);
+	FObjectNameTable::Get().Add(Index);
+	return Index;
+}
+
+void FObjectFactory::DropHalfMade(UObject* Object, UClass* Class, bool bRegistered)
+{
+	if (Class->ClassDefaultObject == Object)
+	{
+		Class->ClassDefaultObject = nullptr;
+	}
+	if (bRegistered)
+	{
+		const int32 Index = FObjectTable::IndexOf(Object);
+		FObjectNameTable::Get().Remove(Index);
+		FObjectNameTable::Get().DropNumbers(Index);
+		FObjectTable::Get().Release(Index);
+	}
+	Free(Object, Class->GetPropertiesSize(), Class->GetMinAlignment());
 }
 
 UObject::UObject()
@@ -264,7 +307,7 @@ UObject::UObject(const FObjectInitializer& ObjectInitializer)
 	, ObjectFlags(ObjectInitializer.Flags | RF_NeedInitialization)
 {
 	checkf(ObjectInitializer.Obj == this, TEXT("Objects are made with NewObject or CreateDefaultSubobject."));
-	InternalIndex = FObjectTable::Get().Add(this, ObjectInitializer.ReusedIndex, (ObjectFlags & RF_MarkAsNative) != 0);
+	InternalIndex = FObjectFactory::Register(this, ObjectInitializer.ReusedIndex, (ObjectFlags & RF_MarkAsNative) != 0);
 	ObjectInitializer.bIsRegistered = true;
 }
 

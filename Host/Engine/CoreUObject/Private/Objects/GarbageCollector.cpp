@@ -1,7 +1,10 @@
 // Copyright Velmorant. All Rights Reserved.
-// Mark and sweep over reflected references, and the end of an editor.
 
-#include "Objects/ObjectTable.h"
+#include "Objects/GarbageCollector.h"
+
+#include "Objects/EditorPackages.h"
+#include "Objects/ObjectFactory.h"
+#include "Objects/ObjectNameTable.h"
 #include "UObject/Class.h"
 #include "UObject/GCObject.h"
 #include "UObject/Object.h"
@@ -15,15 +18,16 @@ class FReachability final : public FReferenceCollector
 public:
 	explicit FReachability(FObjectTable& InTable)
 		: Table(InTable)
+		, Mark(InTable.StartMarking())
 	{
 	}
 
 	void Reach(UObject* Object)
 	{
 		FObjectItem& Item = Table.GetItem(Object);
-		if (Item.Mark != Table.CurrentMark)
+		if (Item.Mark != Mark)
 		{
-			Item.Mark = Table.CurrentMark;
+			Item.Mark = Mark;
 			Pending.Add(Object);
 		}
 	}
@@ -56,16 +60,22 @@ private:
 	}
 
 	FObjectTable& Table;
+	const uint32 Mark;
 	TArray<UObject*> Pending;
 };
 
-void FObjectTable::MarkReachable(EObjectFlags KeepFlags)
+FGarbageCollector& FGarbageCollector::Get()
 {
-	++CurrentMark;
-	FReachability Reachability(*this);
-	for (int32 Index = 0; Index < Items.Num(); ++Index)
+	static FGarbageCollector* const Collector = new FGarbageCollector(FObjectTable::Get());
+	return *Collector;
+}
+
+void FGarbageCollector::MarkReachable(EObjectFlags KeepFlags)
+{
+	FReachability Reachability(Table);
+	for (int32 Index = 0; Index < Table.NumSlots(); ++Index)
 	{
-		const FObjectItem& Item = Items[Index];
+		const FObjectItem& Item = Table.GetItem(Index);
 		const bool bKept = Item.Object && (Item.bNative || Item.bRooted || Item.StrongCount > 0 || (!Item.bGarbage && (Item.Object->GetFlags() & KeepFlags) != 0));
 		if (bKept)
 		{
@@ -79,14 +89,14 @@ void FObjectTable::MarkReachable(EObjectFlags KeepFlags)
 	Reachability.FollowAll();
 }
 
-int32 FObjectTable::CollectGarbage(EObjectFlags KeepFlags)
+int32 FGarbageCollector::Collect(EObjectFlags KeepFlags)
 {
 	FCoreUObjectDelegates::GetPreGarbageCollectDelegate().Broadcast();
 	MarkReachable(KeepFlags);
 	TArray<int32> Doomed;
-	for (int32 Index = 0; Index < Items.Num(); ++Index)
+	for (int32 Index = 0; Index < Table.NumSlots(); ++Index)
 	{
-		if (Items[Index].Object && Items[Index].Mark != CurrentMark)
+		if (Table.GetItem(Index).Object && Table.GetItem(Index).Mark != Table.GetMark())
 		{
 			Doomed.Add(Index);
 		}
@@ -96,28 +106,25 @@ int32 FObjectTable::CollectGarbage(EObjectFlags KeepFlags)
 	return Doomed.Num();
 }
 
-void FObjectTable::Destroy(const TArray<int32>& Doomed)
+void FGarbageCollector::Destroy(const TArray<int32>& Doomed)
 {
 	for (const int32 Index : Doomed)
 	{
-		Items[Index].bUnreachable = true;
+		Table.GetItem(Index).bUnreachable = true;
 	}
 	for (const int32 Index : Doomed)
 	{
-		Items[Index].Object->ConditionalBeginDestroy();
+		Table.GetItem(Index).Object->ConditionalBeginDestroy();
 	}
 	TArray<int32> Plain;
 	TArray<int32> TypesAndPackages;
 	Plain.Reserve(Doomed.Num());
 	for (const int32 Index : Doomed)
 	{
-		const UClass* Class = Items[Index].Object->GetClass();
+		const UClass* Class = Table.GetItem(Index).Object->GetClass();
 		const bool bNeeded = Class->IsChildOf(UField::StaticClass()) || Class->IsChildOf(UPackage::StaticClass());
 		(bNeeded ? TypesAndPackages : Plain).Add(Index);
-		Unlink(Index);
-		Items[Index].HashNext = INDEX_NONE;
-		Items[Index].FirstInner = INDEX_NONE;
-		Items[Index].Mark = MAX_uint32; // no longer in the hash
+		FObjectNameTable::Get().Remove(Index);
 	}
 	for (const int32 Index : Plain)
 	{
@@ -129,72 +136,47 @@ void FObjectTable::Destroy(const TArray<int32>& Doomed)
 	}
 }
 
-void FObjectTable::DestroyOne(int32 Index)
+void FGarbageCollector::DestroyOne(int32 Index)
 {
-	UObject* Object = Items[Index].Object;
+	UObject* Object = Table.GetItem(Index).Object;
 	const UClass* Class = Object->GetClass();
 	const int32 Size = Class->GetPropertiesSize(); // the class itself may be what dies
 	const int32 Alignment = Class->GetMinAlignment();
 	Object->~UObject();
-	Free(Object, Size, Alignment);
-	FreeSlot(Index);
+	FObjectFactory::Free(Object, Size, Alignment);
+	FObjectNameTable::Get().DropNumbers(Index);
+	Table.Release(Index);
 }
 
-void FObjectTable::FreeSlot(int32 Index)
-{
-	Items[Index].Object = nullptr;
-	DropNextNumbers(Items[Index]);
-	FreeSlots.Add(Index);
-	--NumObjects;
-}
-
-void FObjectTable::DropHalfMade(UObject* Object, UClass* Class, bool bRegistered)
-{
-	if (Class->ClassDefaultObject == Object)
-	{
-		Class->ClassDefaultObject = nullptr;
-	}
-	if (bRegistered)
-	{
-		const int32 Index = IndexOf(Object);
-		Unlink(Index);
-		FreeSlot(Index);
-	}
-	Free(Object, Class->GetPropertiesSize(), Class->GetMinAlignment());
-}
-
-void FObjectTable::TearDown()
+void FGarbageCollector::TearDown()
 {
 	TArray<int32> Doomed;
 	do
 	{
 		Doomed.Reset();
-		for (int32 Index = 0; Index < Items.Num(); ++Index)
+		for (int32 Index = 0; Index < Table.NumSlots(); ++Index)
 		{
-			if (Items[Index].Object && !Items[Index].bNative)
+			if (Table.GetItem(Index).Object && !Table.GetItem(Index).bNative)
 			{
 				Doomed.Add(Index);
 			}
 		}
 		Destroy(Doomed);
-		for (const FObjectItem& Item : Items)
+		for (int32 Index = 0; Index < Table.NumSlots(); ++Index)
 		{
-			if (Item.Object && Item.Object->GetClass()->IsChildOf(UClass::StaticClass()))
+			UObject* Object = Table.GetItem(Index).Object;
+			if (Object && Object->GetClass()->IsChildOf(UClass::StaticClass()))
 			{
-				UClass* Class = static_cast<UClass*>(Item.Object);
-				Class->ClassDefaultObject = nullptr;
+				static_cast<UClass*>(Object)->ClassDefaultObject = nullptr;
 			}
+			FObjectNameTable::Get().DropNumbers(Index);
 		}
-		for (FObjectItem& Item : Items)
-		{
-			DropNextNumbers(Item);
-		}
-		TransientPackage = nullptr;
+		FEditorPackages::Get().ForgetTransientPackage();
 	} while (!Doomed.IsEmpty()); // a destructor may have asked for a default object
-	PackageLoader = nullptr;
+	FEditorPackages::Get().Loader = nullptr;
 }
 
-void FObjectTable::AddReferencer(FGCObject* Referencer)
+void FGarbageCollector::AddReferencer(FGCObject* Referencer)
 {
 	Referencer->Previous = nullptr;
 	Referencer->Next = FirstReferencer;
@@ -205,7 +187,7 @@ void FObjectTable::AddReferencer(FGCObject* Referencer)
 	FirstReferencer = Referencer;
 }
 
-void FObjectTable::RemoveReferencer(FGCObject* Referencer)
+void FGarbageCollector::RemoveReferencer(FGCObject* Referencer)
 {
 	(Referencer->Previous ? Referencer->Previous->Next : FirstReferencer) = Referencer->Next;
 	if (Referencer->Next)
@@ -216,7 +198,7 @@ void FObjectTable::RemoveReferencer(FGCObject* Referencer)
 
 FGCObject::FGCObject()
 {
-	FObjectTable::Get().AddReferencer(this);
+	FGarbageCollector::Get().AddReferencer(this);
 }
 
 FGCObject::FGCObject(const FGCObject&)
@@ -226,12 +208,12 @@ FGCObject::FGCObject(const FGCObject&)
 
 FGCObject::~FGCObject()
 {
-	FObjectTable::Get().RemoveReferencer(this);
+	FGarbageCollector::Get().RemoveReferencer(this);
 }
 
 void CollectGarbage(EObjectFlags KeepFlags, bool)
 {
-	FObjectTable::Get().CollectGarbage(KeepFlags);
+	FGarbageCollector::Get().Collect(KeepFlags);
 }
 
 namespace UE::CoreUObject::Private
