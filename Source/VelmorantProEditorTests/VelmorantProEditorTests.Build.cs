@@ -8,6 +8,7 @@ public class VelmorantProEditorTests : ModuleRules
 	{
 		PCHUsage = PCHUsageMode.UseExplicitOrSharedPCHs;
 
+		// Nobody includes headers of this module: all could stand in either list.
 		PublicDependencyModuleNames.AddRange(new[]
 		{
 			"Core",
@@ -33,7 +34,6 @@ public class VelmorantProEditorTests : ModuleRules
 			"AssetDefinition",
 			"AssetTools",
 			"AssetRegistry",
-			"ContentBrowser",
 			"PropertyEditor",
 			"PlacementMode",
 			"VariantManagerContent"

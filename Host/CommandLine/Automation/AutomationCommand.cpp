@@ -47,7 +47,9 @@ namespace AutomationCommand
 			bool bAlive = true;
 			for (const FAutomationTestInfo& Test : HostAutomation::Find(Arguments.Filter))
 			{
-				const HostAutomation::FResult Result = bAlive ? HostAutomation::Run(Test, [&Editor] { Editor.Tick(SecondsPerFrame); }, bAlive) : HostAutomation::FResult(Test);
+				const HostAutomation::FResult Result = bAlive ? HostAutomation::Run(
+																	Test, [&Editor] { Editor.Tick(SecondsPerFrame); }, bAlive)
+															  : HostAutomation::FResult(Test);
 				Report.Tests.Add(AutomationReport::Make(Result));
 				Print(Report.Tests.Last());
 			}

@@ -54,7 +54,7 @@ public:
 	TArray<FString> GetRowTitles();
 
 	/** The headings of categories, in order, with all rows below them. */
-	const TArray<TSharedRef<SDetailsRow>>& GetCategories() const { return Categories; }
+	const TArray<TSharedRef<SDetailsRow>>& GetCategories() const;
 
 	/** Makes all rows anew, as with new customizations. Handles of the panel lose their values. */
 	void Rebuild();

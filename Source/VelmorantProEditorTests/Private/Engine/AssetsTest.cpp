@@ -8,6 +8,7 @@
 #include "LevelVariantSets.h"
 #include "Misc/App.h"
 #include "Support/Beliefs.h"
+#include "Support/QuietTest.h"
 #include "Support/TestFlags.h"
 #include "Support/TestPackage.h"
 #include "UObject/SoftObjectPath.h"
@@ -51,11 +52,23 @@ bool FVelmorantCreateAssetTest::RunTest(const FString&)
 	TestTrue(TEXT("the registry knows it"), IAssetRegistry::GetChecked().GetAssetByObjectPath(FSoftObjectPath(Asset)).IsValid());
 	TestTrue(TEXT("it waits to be saved"), Asset->GetPackage()->IsDirty());
 	TestEqual(TEXT("level variant sets begin without a set"), CastChecked<ULevelVariantSets>(Asset)->GetNumVariantSets(), 0);
-	if (FApp::IsUnattended()) // otherwise somebody would be asked
+	return true;
+}
+
+IMPLEMENT_CUSTOM_SIMPLE_AUTOMATION_TEST(FVelmorantReplaceAssetTest, FVelmorantQuietTest, "Velmorant.Engine.Assets.Replace", VelmorantTests::Flags)
+
+bool FVelmorantReplaceAssetTest::RunTest(const FString&)
+{
+	if (!FApp::IsUnattended())
 	{
-		UObject* Again = IAssetTools::Get().CreateAsset(TEXT("Sets"), Content.GetFolder(), ULevelVariantSets::StaticClass(), nullptr);
-		VelmorantTests::RecordBelief(*this, TEXT("CreateAsset over an asset, unattended"), Again == nullptr ? TEXT("null") : TEXT("replaces it"));
+		AddInfo(TEXT("Left out: somebody would be asked. Run with -unattended."));
+		return true;
 	}
+	const FVelmorantTestContent Content;
+	const UObject* Asset = Content.Make<ULevelVariantSets>(TEXT("Sets"));
+	const UObject* Again = IAssetTools::Get().CreateAsset(TEXT("Sets"), Content.GetFolder(), ULevelVariantSets::StaticClass(), nullptr);
+	TestTrue(TEXT("nobody says yes: the asset stays"), IsValid(Asset));
+	VelmorantTests::RecordBelief(*this, TEXT("CreateAsset over an asset, unattended"), FString(Again == nullptr ? TEXT("null") : TEXT("replaces it")));
 	return true;
 }
 

@@ -3,6 +3,7 @@
 #include "CoreMinimal.h"
 #include "Support/Beliefs.h"
 #include "Support/LogListener.h"
+#include "Support/QuietTest.h"
 #include "Support/TestFlags.h"
 
 #if WITH_DEV_AUTOMATION_TESTS
@@ -15,16 +16,7 @@ namespace EnsureTest
 	}
 }
 
-/** An ensure logs errors on purpose here. */
-class FVelmorantEnsureTestBase : public FAutomationTestBase
-{
-public:
-	using FAutomationTestBase::FAutomationTestBase;
-
-	virtual bool SuppressLogErrors() override { return true; }
-};
-
-IMPLEMENT_CUSTOM_SIMPLE_AUTOMATION_TEST(FVelmorantEnsureTest, FVelmorantEnsureTestBase, "Velmorant.Engine.Assertions.Ensure", VelmorantTests::Flags)
+IMPLEMENT_CUSTOM_SIMPLE_AUTOMATION_TEST(FVelmorantEnsureTest, FVelmorantQuietTest, "Velmorant.Engine.Assertions.Ensure", VelmorantTests::Flags)
 
 bool FVelmorantEnsureTest::RunTest(const FString&)
 {

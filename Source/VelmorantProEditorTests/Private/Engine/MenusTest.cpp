@@ -41,7 +41,10 @@ IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantMenuSectionsTest, "Velmorant.Engine.M
 
 bool FVelmorantMenuSectionsTest::RunTest(const FString&)
 {
-	ON_SCOPE_EXIT { UToolMenus::UnregisterOwner(MenusTest::OwnerName); };
+	ON_SCOPE_EXIT
+	{
+		UToolMenus::UnregisterOwner(MenusTest::OwnerName);
+	};
 	const FToolMenuOwnerScoped Owner(MenusTest::OwnerName);
 	UToolMenu* Menu = UToolMenus::Get()->ExtendMenu(MenusTest::MenuName);
 	if (!TestNotNull(TEXT("a menu can be extended before anybody registers it"), Menu))
@@ -102,7 +105,8 @@ bool FVelmorantMenuBuilderTest::RunTest(const FString&)
 	const int32 First = Texts.Find(TEXT("VELMORANT FIRST"), ESearchCase::IgnoreCase);
 	const int32 Entry = Texts.Find(TEXT("Velmorant entry"));
 	const int32 Last = Texts.Find(TEXT("VELMORANT LAST"), ESearchCase::IgnoreCase);
-	TestTrue(TEXT("heading, entry and next heading follow each other"), First != INDEX_NONE && First < Entry && Entry < Last);
+	const int32 LastEntry = Texts.Find(TEXT("Velmorant last entry"), ESearchCase::CaseSensitive);
+	TestTrue(TEXT("headings stand above their entries, sections in their order"), First != INDEX_NONE && First < Entry && Entry < Last && Last < LastEntry);
 	VelmorantTests::RecordBelief(*this, TEXT("the heading of a section without entries shows"), Texts.Contains(TEXT("VELMORANT EMPTY")));
 	return true;
 }

@@ -22,7 +22,10 @@ bool FVelmorantSelectionEventsTest::RunTest(const FString&)
 	AUnitVolumeActor* Actor = State.GetWorld()->SpawnActor<AUnitVolumeActor>();
 	int32 NumEvents = 0;
 	const FDelegateHandle Handle = USelection::SelectionChangedEvent.AddLambda([&NumEvents](UObject*) { ++NumEvents; });
-	ON_SCOPE_EXIT { USelection::SelectionChangedEvent.Remove(Handle); };
+	ON_SCOPE_EXIT
+	{
+		USelection::SelectionChangedEvent.Remove(Handle);
+	};
 	const auto TakeEvents = [&NumEvents] {
 		const int32 Taken = NumEvents;
 		NumEvents = 0;

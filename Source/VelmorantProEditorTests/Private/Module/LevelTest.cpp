@@ -54,6 +54,7 @@ bool FVelmorantModulePlacedActorTest::RunTest(const FString&)
 		AddInfo(TEXT("Left out: the open level has such an actor, which would be changed. Run it with another level."));
 		return true;
 	}
+	AddExpectedErrorPlain(TEXT("Notification not shown: Found LevelVariant at Current Level"), EAutomationExpectedErrorFlags::Contains, 1);
 	ULevelVariantSets* Sets = Content.Make<ULevelVariantSets>(TEXT("Sets"));
 	UVelmorantConfiguratorDataAsset* First = Content.Make<UVelmorantConfiguratorDataAsset>(TEXT("First"));
 	UVelmorantConfiguratorDataAsset* Second = Content.Make<UVelmorantConfiguratorDataAsset>(TEXT("Second"));

@@ -23,16 +23,13 @@ namespace VelmorantStyleTest
 
 	const FKeys AllKeys[] = {
 		{TEXT("Velmorant.Editor."), FVector2D(20.0f, 20.0f), TEXT("/Vlm_"),
-			{
-				{TEXT("Logo"), TEXT("Color_128x")},
+			{{TEXT("Logo"), TEXT("Color_128x")},
 				{TEXT("LogoGrey"), TEXT("Grey_128x")},
 				{TEXT("LogoRamp"), TEXT("Ramp_128x")}}},
 		{TEXT("Velmorant.Editor."), FVector2D(421.0f, 75.0f), TEXT("/Vlm_"),
-			{
-				{TEXT("Banner"), TEXT("Banner_small")}}},
+			{{TEXT("Banner"), TEXT("Banner_small")}}},
 		{TEXT("ClassThumbnail."), FVector2D(40.0f, 40.0f), TEXT("/ClassIcons/Class_"),
-			{
-				{TEXT("VlmInteractiveSpot"), TEXT("InteractiveSpot")},
+			{{TEXT("VlmInteractiveSpot"), TEXT("InteractiveSpot")},
 				{TEXT("UnitVolumesManager"), TEXT("UnitVolumesManager")},
 				{TEXT("UnitVolumeActor"), TEXT("UnitVolumeActor")},
 				{TEXT("CuttingSectionScene"), TEXT("CuttingSection")},
@@ -52,8 +49,7 @@ namespace VelmorantStyleTest
 				{TEXT("VlmISPActionBase"), TEXT("VelmorantObject")},
 				{TEXT("VelmorantViewConfig"), TEXT("VelmorantObject")}}},
 		{TEXT("ClassIcon."), FVector2D(16.0f, 16.0f), TEXT("/ClassIcons/Icon_"),
-			{
-				{TEXT("VlmInteractiveSpot"), TEXT("InteractiveSpot")},
+			{{TEXT("VlmInteractiveSpot"), TEXT("InteractiveSpot")},
 				{TEXT("UnitVolumesManager"), TEXT("UnitVolumesManager")},
 				{TEXT("UnitVolumeActor"), TEXT("UnitVolumeActor")},
 				{TEXT("CuttingSectionScene"), TEXT("CuttingSection")},

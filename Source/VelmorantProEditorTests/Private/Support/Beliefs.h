@@ -15,6 +15,12 @@ namespace VelmorantTests
 		Test.AddInfo(FString::Printf(TEXT("Belief: %s = %s"), Name, *Value));
 	}
 
+	/** For literals, which would be taken for a bool. */
+	inline void RecordBelief(FAutomationTestBase& Test, const TCHAR* Name, const TCHAR* Value)
+	{
+		RecordBelief(Test, Name, FString(Value));
+	}
+
 	inline void RecordBelief(FAutomationTestBase& Test, const TCHAR* Name, bool bValue)
 	{
 		RecordBelief(Test, Name, FString(bValue ? TEXT("true") : TEXT("false")));

@@ -50,10 +50,8 @@ enum class EAutomationTestFlags : uint32
 };
 ENUM_CLASS_FLAGS(EAutomationTestFlags);
 
-inline constexpr EAutomationTestFlags EAutomationTestFlags_ApplicationContextMask = EAutomationTestFlags::EditorContext
-	| EAutomationTestFlags::ClientContext | EAutomationTestFlags::ServerContext | EAutomationTestFlags::CommandletContext | EAutomationTestFlags::ProgramContext;
-inline constexpr EAutomationTestFlags EAutomationTestFlags_FilterMask = EAutomationTestFlags::SmokeFilter | EAutomationTestFlags::EngineFilter
-	| EAutomationTestFlags::ProductFilter | EAutomationTestFlags::PerfFilter | EAutomationTestFlags::StressFilter | EAutomationTestFlags::NegativeFilter;
+inline constexpr EAutomationTestFlags EAutomationTestFlags_ApplicationContextMask = EAutomationTestFlags::EditorContext | EAutomationTestFlags::ClientContext | EAutomationTestFlags::ServerContext | EAutomationTestFlags::CommandletContext | EAutomationTestFlags::ProgramContext;
+inline constexpr EAutomationTestFlags EAutomationTestFlags_FilterMask = EAutomationTestFlags::SmokeFilter | EAutomationTestFlags::EngineFilter | EAutomationTestFlags::ProductFilter | EAutomationTestFlags::PerfFilter | EAutomationTestFlags::StressFilter | EAutomationTestFlags::NegativeFilter;
 
 namespace EAutomationExpectedMessageFlags
 {
@@ -347,13 +345,13 @@ namespace UE::Core::Private
 		explicit TClass(const FString& InName) \
 			: TBaseClass(InName, bComplex) \
 		{ \
-			static_assert(!!((TFlags) & EAutomationTestFlags_ApplicationContextMask), "AutomationTest has no application flag. It should not be possible to run it."); \
+			static_assert(!!((TFlags)&EAutomationTestFlags_ApplicationContextMask), "AutomationTest has no application flag. It should not be possible to run it."); \
 			static_assert(::UE::Core::Private::HasOneTestFilter(TFlags), "All AutomationTests must have exactly 1 filter type specified."); \
 		} \
 		virtual EAutomationTestFlags GetTestFlags() const override { return (TFlags); } \
 		virtual FString GetTestSourceFileName() const override { return __FILE__; } \
 		virtual int32 GetTestSourceFileLine() const override { return __LINE__; } \
-	\
+\
 	protected: \
 		virtual void GetTests(TArray<FString>& OutBeautifiedNames, TArray<FString>& OutTestCommands) const override; \
 		virtual bool RunTest(const FString& Parameters) override; \
