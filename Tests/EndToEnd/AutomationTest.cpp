@@ -76,16 +76,16 @@ TEST_F(FAutomationCommand, ComparesAnEnginesRunWithItsOwn)
 		int ExitStatus;
 		std::vector<std::string> Said;
 	};
-	const std::string Test = "\"fullTestPath\": \"Velmorant.Engine.Delegates.AddUnique\",\n   \"state\": \"";
+	const std::string TestWithState = "\"fullTestPath\": \"Velmorant.Engine.Delegates.AddUnique\",\n   \"state\": \"";
 	const std::string OfEnsures = "reports of an ensure that fails three times = ";
 	const FCase Cases[] = {
 		{"the same", "", "", 0, {"Engine and host agree."}},
 		{"another value", OfOrder, "Belief: order of a native broadcast = 123", 1, {"order of a native broadcast\n    engine: 123\n    host:   321", "differ."}},
 		{"a value that is not recorded", OfOrder, "nothing", 1, {"engine: not recorded"}},
 		{"a value that is meant to differ", OfEnsures + "1", OfEnsures + "2", 0, {"engine: 2\n    host:   1\n    intended: ", "agree."}},
-		{"a test that fails there", Test + "Success", Test + "Fail", 1, {"Fail in the engine only:\n  Velmorant.Engine.Delegates.AddUnique (Fail)"}},
+		{"a test that fails there", TestWithState + "Success", TestWithState + "Fail", 1, {"Fail in the engine only:\n  Velmorant.Engine.Delegates.AddUnique (Fail)"}},
 		{"a test that is not there", "Velmorant.Engine.Delegates.AddUnique", "Velmorant.Engine.Delegates.Older", 1, {"Not in the engine's report:\n  Velmorant.Engine.Delegates.AddUnique", "Not known to the host:\n  Velmorant.Engine.Delegates.Older"}},
-		{"a test that did not end", Test + "Success", Test + "InProcess", 3, {"Not finished in the engine:\n  Velmorant.Engine.Delegates.AddUnique"}},
+		{"a test that did not end", TestWithState + "Success", TestWithState + "InProcess", 3, {"Not finished in the engine:\n  Velmorant.Engine.Delegates.AddUnique"}},
 	};
 	for (const FCase& Case : Cases)
 	{

@@ -1,6 +1,7 @@
 // Copyright Velmorant. All Rights Reserved.
 // How the framework judges tests: those below are run by it, and this program looks at the verdicts.
 
+#include "Containers/StringConv.h"
 #include "HostAutomation.h"
 #include "HostClock.h"
 #include "HostState.h"
@@ -85,17 +86,17 @@ TEST_F(FAutomation, JudgesByChecksLogAndResult)
 	const FCase Cases[] = {
 		{"nothing wrong", [](FAutomationTestBase&) { return true; }, true, {}},
 		{"the test says so", [](FAutomationTestBase&) { return false; }, false, {}},
-		{"a check that holds", [](FAutomationTestBase& Test) { return Test.TestEqual(TEXT("n"), 3, 3) && Test.TestNull(TEXT("p"), nullptr); }, true, {}},
-		{"a check that does not, although the test goes on", [](FAutomationTestBase& Test) { Test.TestEqual(TEXT("n"), 3, 4); return true; }, false, {"Error: Expected 'n' to be 4, but it was 3."}},
-		{"strings of other case are equal", [](FAutomationTestBase& Test) { return Test.TestEqual(TEXT("s"), TEXT("oak"), TEXT("OAK")); }, true, {}},
-		{"unless asked for", [](FAutomationTestBase& Test) { Test.TestEqualSensitive(TEXT("s"), TEXT("oak"), TEXT("OAK")); return true; }, false, {"Error: Expected 's' to be \"OAK\", but it was \"oak\"."}},
-		{"a message is no fault", [](FAutomationTestBase& Test) { Test.AddInfo(TEXT("hello")); return true; }, true, {"Info: hello"}},
+		{"a check that holds", [](FAutomationTestBase& Sample) { return Sample.TestEqual(TEXT("n"), 3, 3) && Sample.TestNull(TEXT("p"), nullptr); }, true, {}},
+		{"a check that does not, although the test goes on", [](FAutomationTestBase& Sample) { Sample.TestEqual(TEXT("n"), 3, 4); return true; }, false, {"Error: Expected 'n' to be 4, but it was 3."}},
+		{"strings of other case are equal", [](FAutomationTestBase& Sample) { return Sample.TestEqual(TEXT("s"), TEXT("oak"), TEXT("OAK")); }, true, {}},
+		{"unless asked for", [](FAutomationTestBase& Sample) { Sample.TestEqualSensitive(TEXT("s"), TEXT("oak"), TEXT("OAK")); return true; }, false, {"Error: Expected 's' to be \"OAK\", but it was \"oak\"."}},
+		{"a message is no fault", [](FAutomationTestBase& Sample) { Sample.AddInfo(TEXT("hello")); return true; }, true, {"Info: hello"}},
 		{"a logged warning neither", [](FAutomationTestBase&) { UE_LOG(LogAutomationSample, Warning, TEXT("careful")); return true; }, true, {"Warning: LogAutomationSample: careful"}},
 		{"a logged error is", [](FAutomationTestBase&) { UE_LOG(LogAutomationSample, Error, TEXT("broken")); return true; }, false, {"Error: LogAutomationSample: broken"}},
-		{"unless it was expected", [](FAutomationTestBase& Test) { Test.AddExpectedErrorPlain(TEXT("broken")); UE_LOG(LogAutomationSample, Error, TEXT("broken")); return true; }, true, {}},
-		{"as often as said", [](FAutomationTestBase& Test) { Test.AddExpectedErrorPlain(TEXT("broken"), EAutomationExpectedErrorFlags::Contains, 2); UE_LOG(LogAutomationSample, Error, TEXT("broken")); return true; }, false, {"Error: Expected 'broken' to be logged 2 times, but it was 1 times."}},
-		{"at least once for none", [](FAutomationTestBase& Test) { Test.AddExpectedErrorPlain(TEXT("broken"), EAutomationExpectedErrorFlags::Contains, 0); return true; }, false, {"Error: Expected 'broken' to be logged at least once, but it was 0 times."}},
-		{"or any number", [](FAutomationTestBase& Test) { Test.AddExpectedErrorPlain(TEXT("broken"), EAutomationExpectedErrorFlags::Contains, -1); return true; }, true, {}},
+		{"unless it was expected", [](FAutomationTestBase& Sample) { Sample.AddExpectedErrorPlain(TEXT("broken")); UE_LOG(LogAutomationSample, Error, TEXT("broken")); return true; }, true, {}},
+		{"as often as said", [](FAutomationTestBase& Sample) { Sample.AddExpectedErrorPlain(TEXT("broken"), EAutomationExpectedErrorFlags::Contains, 2); UE_LOG(LogAutomationSample, Error, TEXT("broken")); return true; }, false, {"Error: Expected 'broken' to be logged 2 times, but it was 1 times."}},
+		{"at least once for none", [](FAutomationTestBase& Sample) { Sample.AddExpectedErrorPlain(TEXT("broken"), EAutomationExpectedErrorFlags::Contains, 0); return true; }, false, {"Error: Expected 'broken' to be logged at least once, but it was 0 times."}},
+		{"or any number", [](FAutomationTestBase& Sample) { Sample.AddExpectedErrorPlain(TEXT("broken"), EAutomationExpectedErrorFlags::Contains, -1); return true; }, true, {}},
 	};
 	for (const FCase& Case : Cases)
 	{
@@ -128,7 +129,7 @@ TEST_F(FAutomation, AFailedCheckFailsTheTestAndEndsTheRun)
 
 TEST_F(FAutomation, NamesFileAndLine)
 {
-	const HostAutomation::FResult Result = Run([](FAutomationTestBase& Test) { return Test.TestTrue(TEXT("no"), false); });
+	const HostAutomation::FResult Result = Run([](FAutomationTestBase& Sample) { return Sample.TestTrue(TEXT("no"), false); });
 	ASSERT_EQ(Result.Info.GetEntries().Num(), 1);
 	EXPECT_TRUE(Result.Info.GetEntries()[0].Filename.EndsWith(TEXT("Core/AutomationTest.cpp")));
 	EXPECT_EQ(Result.Info.GetEntries()[0].LineNumber, __LINE__ - 4);
@@ -137,13 +138,13 @@ TEST_F(FAutomation, NamesFileAndLine)
 TEST_F(FAutomation, LatentCommandsRunInTurnAndTheirChecksCount)
 {
 	TArray<FString> Order;
-	const HostAutomation::FResult Result = Run([&Order](FAutomationTestBase& Test) {
+	const HostAutomation::FResult Result = Run([&Order](FAutomationTestBase& Sample) {
 		const TSharedRef<int32> NumFrames = MakeShared<int32>(0);
 		ADD_LATENT_AUTOMATION_COMMAND(FFunctionLatentCommand([&Order, NumFrames] {
 			Order.Add(TEXT("first"));
 			return ++*NumFrames == 2;
 		}));
-		ADD_LATENT_AUTOMATION_COMMAND(FDelayedFunctionLatentCommand([&Order, &Test] { Order.Add(TEXT("second")); Test.TestTrue(TEXT("late"), false); }, 0.35f));
+		ADD_LATENT_AUTOMATION_COMMAND(FDelayedFunctionLatentCommand([&Order, &Sample] { Order.Add(TEXT("second")); Sample.TestTrue(TEXT("late"), false); }, 0.35f));
 		Order.Add(TEXT("body"));
 		return true;
 	});

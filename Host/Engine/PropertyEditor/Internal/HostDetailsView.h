@@ -12,6 +12,7 @@ class FDetailsSearch;
 class FDetailsSections;
 class FPropertyNode;
 class IPropertyHandle;
+class SDetailsRow;
 class SHostPartList;
 class SWidget;
 class UObject;

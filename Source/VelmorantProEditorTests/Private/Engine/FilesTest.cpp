@@ -42,13 +42,13 @@ bool FVelmorantSavedTextTest::RunTest(const FString&)
 	const FVelmorantTestFolder Folder;
 	const FString LineEnd = FString(LINE_TERMINATOR).Len() == 2 ? TEXT("0D 0A") : TEXT("0A");
 	const FString WideLineEnd = FString(LINE_TERMINATOR).Len() == 2 ? TEXT("0D 00 0A 00") : TEXT("0A 00");
-	TestTrue(TEXT("lines are saved"), FFileHelper::SaveStringArrayToFile({TEXT("a"), TEXT("b")}, *Folder.GetFile(TEXT("Ascii.ini"))));
+	TestTrue(TEXT("lines are saved"), FFileHelper::SaveStringArrayToFile(TArray<FString>{TEXT("a"), TEXT("b")}, *Folder.GetFile(TEXT("Ascii.ini"))));
 	TestEqualSensitive(TEXT("ASCII as it is, and the last line has an end"), *Folder.ReadBytes(TEXT("Ascii.ini")), *FString::Printf(TEXT("61 %s 62 %s"), *LineEnd, *LineEnd));
-	FFileHelper::SaveStringArrayToFile({TEXT("\u00FC")}, *Folder.GetFile(TEXT("Wide.ini")));
+	FFileHelper::SaveStringArrayToFile(TArray<FString>{TEXT("\u00FC")}, *Folder.GetFile(TEXT("Wide.ini")));
 	TestEqualSensitive(TEXT("one other letter makes it UTF-16 with a mark"), *Folder.ReadBytes(TEXT("Wide.ini")), *FString::Printf(TEXT("FF FE FC 00 %s"), *WideLineEnd));
 	FFileHelper::SaveStringToFile(TEXT("\u00FC"), *Folder.GetFile(TEXT("Utf8.ini")), FFileHelper::EEncodingOptions::ForceUTF8WithoutBOM);
 	TestEqualSensitive(TEXT("UTF-8 without mark when asked for"), *Folder.ReadBytes(TEXT("Utf8.ini")), TEXT("C3 BC"));
-	TestTrue(TEXT("no lines make an empty file"), FFileHelper::SaveStringArrayToFile({}, *Folder.GetFile(TEXT("None.ini"))));
+	TestTrue(TEXT("no lines make an empty file"), FFileHelper::SaveStringArrayToFile(TArray<FString>(), *Folder.GetFile(TEXT("None.ini"))));
 	TestEqualSensitive(TEXT("which is there"), *Folder.ReadBytes(TEXT("None.ini")), TEXT(""));
 	TestTrue(TEXT("missing folders are made"), FFileHelper::SaveStringToFile(TEXT("x"), *Folder.GetFile(TEXT("Deeper/And/Deeper.txt"))));
 	return true;
