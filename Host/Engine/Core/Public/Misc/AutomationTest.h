@@ -17,6 +17,11 @@
 
 #include <source_location>
 
+// Here and not in Misc/Build.h, which is precompiled: compiler caches overlook a macro that is new there.
+#ifndef WITH_DEV_AUTOMATION_TESTS
+#define WITH_DEV_AUTOMATION_TESTS 1
+#endif
+
 class FAutomationLog;
 class FAutomationTestBase;
 class FAutomationTestFramework;
