@@ -26,7 +26,7 @@ using testing::Contains;
 using testing::ElementsAre;
 using testing::Not;
 
-namespace
+namespace ModuleStartupTest
 {
 	const char* const CheckedLine = "Log: Checked UnitVolume DefaultChannelResponses and profile exist.";
 
@@ -69,6 +69,8 @@ namespace
 		return Lines;
 	}
 }
+
+using namespace ModuleStartupTest;
 
 class ModuleStartup : public FToolkitTest
 {

@@ -2,57 +2,40 @@
 
 #include "Run/RunCommand.h"
 
-#include "Containers/StringConv.h"
 #include "HostFiles.h"
 #include "HostProblems.h"
-#include "HostTextFiles.h"
 #include "Misc/Paths.h"
 #include "ProjectArgument.h"
 #include "Refusal.h"
 #include "Run/Script.h"
+#include "Run/ScriptFile.h"
 #include "Run/ScriptReport.h"
 #include "Run/ScriptRunner.h"
 
-#include <string>
-
 namespace RunCommand
 {
-	namespace
+	bool CheckFiles(const FRunArguments& Arguments)
 	{
-		/** Tells what is wrong with the files that were named. */
-		bool CheckFiles(const FRunArguments& Arguments)
+		for (const FRunInput& Input : Arguments.Inputs)
 		{
-			const HostFiles::EKind Kind = Arguments.Service.IsEmpty() ? HostFiles::EKind::File : HostFiles::GetKind(Arguments.Service);
+			const HostFiles::EKind Kind = HostFiles::GetKind(Input.Path);
 			if (Kind != HostFiles::EKind::File)
 			{
-				HostProblems::Report(FPaths::ConvertRelativePathToFull(Arguments.Service), 0, Kind == HostFiles::EKind::Missing ? TEXT("there is no such data file") : TEXT("this is no ordinary file, and nothing is read from it"), TEXT("Name the file that the service answers from."));
+				HostProblems::Report(FPaths::ConvertRelativePathToFull(Input.Path), 0, Kind == HostFiles::EKind::Missing ? *Input.Missing : TEXT("this is no ordinary file, and nothing is read from it"), *Input.Remedy);
 			}
-			Refusal::PrintProblems(EExitStatus::Trouble, Arguments.bJson);
-			return HostProblems::GetAll().IsEmpty();
 		}
+		Refusal::PrintProblems(EExitStatus::Trouble, Arguments.bJson);
+		return HostProblems::GetAll().IsEmpty();
+	}
 
-		/** The script's text; false when it cannot be read, which is reported. */
-		bool ReadScript(const FString& Path, FString& OutText)
+	FEditorHostOptions MakeOptions(const FString& Project, const FRunArguments& Arguments)
+	{
+		FEditorHostOptions Options = EditorArguments::MakeOptions(Project, Arguments.Editor);
+		for (const FRunInput& Input : Arguments.Inputs)
 		{
-			std::string Text;
-			const HostFiles::ERead Read = HostTextFiles::ReadUtf8(Path, Text);
-			if (Read == HostFiles::ERead::Missing)
-			{
-				HostProblems::Report(FPaths::ConvertRelativePathToFull(Path), 0, TEXT("there is no such script"));
-			}
-			OutText = UTF8_TO_TCHAR(Text.c_str());
-			return Read == HostFiles::ERead::Done;
+			Options.CommandLine += FString::Printf(TEXT(" -%s=\"%s\""), *Input.Switch, *FPaths::ConvertRelativePathToFull(Input.Path));
 		}
-
-		FEditorHostOptions MakeOptions(const FString& Project, const FRunArguments& Arguments)
-		{
-			FEditorHostOptions Options = EditorArguments::MakeOptions(Project, Arguments.Editor);
-			if (!Arguments.Service.IsEmpty())
-			{
-				Options.CommandLine += FString::Printf(TEXT(" -VelmorantService=\"%s\""), *FPaths::ConvertRelativePathToFull(Arguments.Service));
-			}
-			return Options;
-		}
+		return Options;
 	}
 
 	EExitStatus Run(const FRunArguments& Arguments)
@@ -63,26 +46,15 @@ namespace RunCommand
 		{
 			return End.GetValue();
 		}
-		FString Text;
-		ReadScript(Arguments.Script, Text);
-		if (!CheckFiles(Arguments))
+		const FString Text = ScriptFile::ReadText(Arguments.Script);
+		FScript Script;
+		if (!CheckFiles(Arguments) || !ScriptFile::Parse(Arguments.Script, Text, Arguments.bJson, Script))
 		{
-			return EExitStatus::Trouble;
-		}
-		TArray<FScriptProblem> Problems;
-		const FScript Script = Script::Parse(Text, Problems);
-		if (!Problems.IsEmpty())
-		{
-			TArray<FString> Lines;
-			for (const FScriptProblem& Problem : Problems)
-			{
-				Lines.Add(Problem.ToString(Arguments.Script));
-			}
-			Refusal::Print(EExitStatus::Trouble, Lines, Arguments.bJson);
 			return EExitStatus::Trouble;
 		}
 		const TUniquePtr<IScriptReport> Report = ScriptReport::Make(Arguments.Script, Arguments.bJson);
-		FScriptRunner Runner(MakeOptions(Project, Arguments), *Report);
+		FScriptSession Session(MakeOptions(Project, Arguments));
+		FScriptRunner Runner(Session, *Report);
 		return Runner.Run(Script);
 	}
 }

@@ -11,9 +11,11 @@
 class FScriptRunner
 {
 public:
-	FScriptRunner(const FEditorHostOptions& Options, IScriptReport& InReport)
-		: Session(Options)
+	/** @param InAfterStep called after each step, for those who show what it did; may be null */
+	FScriptRunner(FScriptSession& InSession, IScriptReport& InReport, TFunction<void(const FScriptStep&)> InAfterStep = nullptr)
+		: Session(InSession)
 		, Report(InReport)
+		, AfterStep(MoveTemp(InAfterStep))
 	{
 	}
 
@@ -27,6 +29,7 @@ private:
 	void RestartIfWanted(FStepResult& Result);
 	FRunSummary SumUp(EStepOutcome Outcome, int32 NumSteps);
 
-	FScriptSession Session;
+	FScriptSession& Session;
 	IScriptReport& Report;
+	TFunction<void(const FScriptStep&)> AfterStep;
 };

@@ -45,7 +45,7 @@ void FScriptSession::BringUp()
 {
 	Events.StartAnew();
 	Editor = MakeUnique<FEditorHost>(Options);
-	HostQuestions::SetResponder([this](const FHostQuestion& Question) { return Answers.Answer(Question); });
+	HostQuestions::SetResponder([this](const FHostQuestion& Question) { return Answer(Question); });
 	Events.Collect();
 }
 
@@ -54,6 +54,10 @@ void FScriptSession::TakeDown()
 	if (!IsRunning())
 	{
 		return;
+	}
+	if (GoingDown)
+	{
+		GoingDown();
 	}
 	Panels.CloseAll();
 	Toolbar.Close();
@@ -85,6 +89,28 @@ TArray<FString> FScriptSession::GetUnsaved() const
 		Names.AddUnique(World->GetPackage()->GetName());
 	}
 	return Names;
+}
+
+FScriptSession::FSaved FScriptSession::Save(const TArray<FString>& Packages)
+{
+	FSaved Result;
+	for (const FString& Name : Packages)
+	{
+		if (!HostPackages::IsValidPackageName(Name))
+		{
+			Result.Homeless.Add(Name);
+			continue;
+		}
+		const bool bSaved = Name == HostEditor::GetOpenMap() ? HostEditor::SaveOpenMap() : HostPackages::Save(FindPackage(nullptr, *Name)).Succeeded();
+		(bSaved ? Result.Saved : Result.Failed).Add(Name);
+	}
+	return Result;
+}
+
+TOptional<FHostAnswer> FScriptSession::Answer(const FHostQuestion& Question)
+{
+	const TOptional<FHostAnswer> Prepared = Answers.Answer(Question);
+	return !Prepared.IsSet() && Person ? Person(Question) : Prepared;
 }
 
 TArray<FString> FScriptSession::GetWrittenFiles() const

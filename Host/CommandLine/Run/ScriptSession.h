@@ -45,6 +45,23 @@ public:
 	/** Packages that would be lost if the editor went down now, by name. */
 	TArray<FString> GetUnsaved() const;
 
+	/** What became of the packages that were to be saved, by name. */
+	struct FSaved
+	{
+		TArray<FString> Saved;
+		TArray<FString> Failed;
+		TArray<FString> Homeless; // levels that have no file yet
+	};
+
+	/** Saves one of those that GetUnsaved() names, or all. */
+	FSaved Save(const TArray<FString>& Packages);
+
+	/** Who is asked what no answer was prepared for; null for nobody. Holds over restarts. */
+	void SetPerson(TFunction<TOptional<FHostAnswer>(const FHostQuestion&)> InPerson) { Person = MoveTemp(InPerson); }
+
+	/** Told before an editor goes down: who looks at it lets go of all that is in it. Null for nobody. */
+	void SetGoingDownListener(TFunction<void()> InGoingDown) { GoingDown = MoveTemp(InGoingDown); }
+
 	/** By all editors so far, in order of the first write; relative to the project where they are in it. */
 	TArray<FString> GetWrittenFiles() const;
 
@@ -57,10 +74,13 @@ public:
 private:
 	void BringUp();
 	void TakeDown();
+	TOptional<FHostAnswer> Answer(const FHostQuestion& Question);
 
 	const FEditorHostOptions Options;
 	const FProjectFiles Files;
 	FPreparedAnswers Answers;
+	TFunction<TOptional<FHostAnswer>(const FHostQuestion&)> Person;
+	TFunction<void()> GoingDown;
 	TUniquePtr<FEditorHost> Editor;
 	FPanelHost Panels; // empty while no editor runs, and so are the toolbar and the details panels
 	FToolbarHost Toolbar;

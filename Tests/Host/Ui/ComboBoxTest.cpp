@@ -7,10 +7,10 @@
 #include "UiTestEditor.h"
 #include "Widgets/SWidget.h"
 
-class FComboBoxTest : public FUiTestEditor
+class ComboBox : public FUiTestEditor
 {
 protected:
-	FComboBoxTest()
+	ComboBox()
 		: Listener(NewObject<UTestComboListener>())
 	{
 		Listener->Combo = NewObject<UComboBoxString>();
@@ -34,14 +34,14 @@ protected:
 	TStrongObjectPtr<UTestComboListener> Listener;
 };
 
-TEST_F(FComboBoxTest, SelectsTheFirstOfEqualOptions)
+TEST_F(ComboBox, SelectsTheFirstOfEqualOptions)
 {
 	Combo()->SetSelectedOption(TEXT("Harbor"));
 	EXPECT_EQ(Combo()->GetSelectedIndex(), 1);
 	EXPECT_EQ(Combo()->FindOptionIndex(TEXT("Nowhere")), INDEX_NONE);
 }
 
-TEST_F(FComboBoxTest, TellsOfAPersonsChoiceAsAMouseClick)
+TEST_F(ComboBox, TellsOfAPersonsChoiceAsAMouseClick)
 {
 	const TSharedRef<SWidget> Widget = Combo()->TakeWidget();
 	const FString Name = Combo()->GetName();
@@ -53,7 +53,7 @@ TEST_F(FComboBoxTest, TellsOfAPersonsChoiceAsAMouseClick)
 	EXPECT_EQ(Refusal(HostSnapshot::Choose(Widget, Name, TEXT("Valley"))), "The combo \"" + Utf8(Name) + "\" has no option \"Valley\".");
 }
 
-TEST_F(FComboBoxTest, AnOpenBoxShowsNewOptionsOnlyWhenRefreshed)
+TEST_F(ComboBox, AnOpenBoxShowsNewOptionsOnlyWhenRefreshed)
 {
 	const TSharedRef<SWidget> Widget = Combo()->TakeWidget();
 	const auto Shown = [&Widget]() { return Utf8(HostSnapshot::Take(Widget)); };
@@ -76,7 +76,7 @@ TEST_F(FComboBoxTest, AnOpenBoxShowsNewOptionsOnlyWhenRefreshed)
 	EXPECT_EQ(Shown(), Box + "(1 option)\n") << "with what came between the request and the drawing";
 }
 
-TEST_F(FComboBoxTest, ShowsTheWidgetsThatAGeneratorMakes)
+TEST_F(ComboBox, ShowsTheWidgetsThatAGeneratorMakes)
 {
 	Combo()->OnGenerateWidgetEvent.BindDynamic(Listener.Get(), &UTestComboListener::MakeOption);
 	const TSharedRef<SWidget> Widget = Combo()->TakeWidget();

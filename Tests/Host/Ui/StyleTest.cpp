@@ -8,9 +8,9 @@
 #include "Textures/SlateIcon.h"
 #include "UiTestEditor.h"
 
-using FStyleTest = FUiTestEditor;
+using StyleSets = FUiTestEditor;
 
-TEST_F(FStyleTest, TheLaterBrushOfAKeyReplacesTheEarlierAndBothAreOnRecord)
+TEST_F(StyleSets, TheLaterBrushOfAKeyReplacesTheEarlierAndBothAreOnRecord)
 {
 	FSlateStyleSet Style(FName(TEXT("TestStyle")));
 	Style.Set(FName(TEXT("Logo")), new FSlateImageBrush(TEXT("First"), FVector2D(20.0, 20.0)));
@@ -27,7 +27,7 @@ TEST_F(FStyleTest, TheLaterBrushOfAKeyReplacesTheEarlierAndBothAreOnRecord)
 	FSlateStyleRegistry::UnRegisterSlateStyle(Style);
 }
 
-TEST_F(FStyleTest, IconsFindStyleSetsThatAreRegisteredLater)
+TEST_F(StyleSets, IconsFindStyleSetsThatAreRegisteredLater)
 {
 	const FSlateIcon Icon(FName(TEXT("LateStyle")), FName(TEXT("Logo")));
 	const FSlateBrush* Missing = Icon.GetIcon();

@@ -7,6 +7,8 @@
 #include "Framework/Commands/UICommandInfo.h"
 #include "HostParts.h"
 #include "Misc/Attribute.h"
+#include "Misc/Optional.h"
+#include "Styling/SlateBrush.h"
 #include "Textures/SlateIcon.h"
 #include "Widgets/SCompoundWidget.h"
 
@@ -23,6 +25,9 @@ namespace HostMenus
 
 	/** How an icon reads in the facts about a widget: its key, and whether its style set lacks it. Empty for no icon. */
 	FString DescribeIcon(const FSlateIcon& Icon);
+
+	/** The icon as it is drawn; unset for none, and for one that its style set lacks. */
+	TOptional<FSlateBrush> FindBrush(const FSlateIcon& Icon);
 }
 
 /** A menu or toolbar as a person sees it: its sections. */
@@ -98,6 +103,7 @@ public:
 
 protected:
 	virtual void DescribeToHost(FHostWidgetDescription& OutDescription) const override;
+	virtual void DescribeLookToHost(FHostWidgetLook& OutLook) const override;
 	virtual FHostInputResult TakeHostInput(const FHostInput& Input) override;
 
 private:

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "HostWidgetLook.h"
 #include "Misc/Optional.h"
 #include "Styling/SlateTypes.h"
 #include "Widgets/SWidget.h"
@@ -46,6 +47,13 @@ enum class EHostInput : uint8
 	Type, // replaces the whole text, then leaves the field with Enter
 	Choose, // the option or row that shows Text
 	Check, // sets a check box to bOn
+
+	//~ The single acts of somebody with keyboard and mouse, who sees each of them.
+	Edit, // replaces the whole text and stays in the field
+	Commit, // leaves the field, with Text in it, as Commit says
+	Pick, // the option of that Index
+	Scroll, // shows the rows of Count items from Index on
+	Move, // by so many items as Index says, from the one that is selected, as with the arrow keys
 };
 
 /** One thing that a person does to a widget. */
@@ -54,6 +62,9 @@ struct FHostInput
 	EHostInput Kind = EHostInput::Click;
 	FString Text;
 	bool bOn = false;
+	int32 Index = 0;
+	int32 Count = 0;
+	ETextCommit::Type Commit = ETextCommit::OnEnter;
 };
 
 /** Whether the widget took the input; if not, why not, as half a sentence: "is disabled". */
@@ -72,11 +83,17 @@ class FHostWidgetAccess
 public:
 	static FHostWidgetDescription Describe(const SWidget& Widget);
 
+	static FHostWidgetLook LookOf(const SWidget& Widget);
+
+	/** What is drawn of it, the faces of buttons included, and where. */
+	static TArray<FHostWidgetPart> PartsOf(const TSharedRef<SWidget>& Widget);
+
 	/** Holds the widget for as long as its handlers run. Asks only this widget: disabled or hidden parents are the caller's concern. */
 	static FHostInputResult Give(const TSharedRef<SWidget>& Widget, const FHostInput& Input);
 
 	/** What a person could choose in a combo box, as shown; makes the option widgets anew, as opening the box does. */
 	static TArray<FString> OptionsOf(const TSharedRef<SWidget>& Widget);
+	static TArray<TSharedRef<SWidget>> OptionWidgetsOf(const TSharedRef<SWidget>& Widget);
 
 	/** The texts that show in a widget and below it, in order, one blank between. Secrets, colours and tool tips are not texts. */
 	static FString TextOf(SWidget& Widget);

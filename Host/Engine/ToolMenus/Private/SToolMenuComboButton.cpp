@@ -23,3 +23,9 @@ void SToolMenuComboButton::DescribeToHost(FHostWidgetDescription& OutDescription
 		OutDescription.Notes.Add(IconFact);
 	}
 }
+
+void SToolMenuComboButton::DescribeLookToHost(FHostWidgetLook& OutLook) const
+{
+	SComboButton::DescribeLookToHost(OutLook);
+	OutLook.Brush = HostMenus::FindBrush(Icon.Get(FSlateIcon()));
+}

@@ -18,7 +18,7 @@ namespace DetailsRow
 		Last,
 	};
 
-	static bool Takes(const FString& Role, EHostInput Kind, EEagerness Eagerness)
+	bool Takes(const FString& Role, EHostInput Kind, EEagerness Eagerness)
 	{
 		if (Eagerness == EEagerness::Last)
 		{
@@ -30,12 +30,12 @@ namespace DetailsRow
 			case EHostInput::Choose: return Role == TEXT("combo") || Role == TEXT("list") || Role == TEXT("tiles");
 			case EHostInput::Check: return Role == TEXT("checkbox");
 			case EHostInput::Click: return Role == TEXT("button") || Role == TEXT("checkbox");
+			default: return false; // a person sees the parts of the line
 		}
-		return false;
 	}
 
 	/** The first widget below that takes the input; null when none that can be reached does. */
-	static TSharedPtr<SWidget> FindTaker(const TSharedRef<SWidget>& Widget, EHostInput Kind, EEagerness Eagerness)
+	TSharedPtr<SWidget> FindTaker(const TSharedRef<SWidget>& Widget, EHostInput Kind, EEagerness Eagerness)
 	{
 		const FHostWidgetDescription Description = FHostWidgetAccess::Describe(*Widget);
 		if (!Description.bVisible)
@@ -57,7 +57,7 @@ namespace DetailsRow
 	}
 
 	/** Whether all that shows are texts. */
-	static bool IsOnlyText(const TSharedRef<SWidget>& Widget)
+	bool IsOnlyText(const TSharedRef<SWidget>& Widget)
 	{
 		const FHostWidgetDescription Description = FHostWidgetAccess::Describe(*Widget);
 		if (!Description.bTransparent)
@@ -214,11 +214,31 @@ FHostInputResult SDetailsRow::TakeHostInput(const FHostInput& Input)
 	return FHostWidgetAccess::Give(Taker.ToSharedRef(), Input);
 }
 
-void SDetailsRow::ListHostOptions(TArray<FString>& OutOptions)
+void SDetailsRow::ListHostOptions(TArray<TSharedRef<SWidget>>& OutOptions)
 {
 	if (const TSharedPtr<SWidget> Taker = FindTaker(EHostInput::Choose))
 	{
-		OutOptions = FHostWidgetAccess::OptionsOf(Taker.ToSharedRef());
+		OutOptions = FHostWidgetAccess::OptionWidgetsOf(Taker.ToSharedRef());
+	}
+}
+
+void SDetailsRow::ListPartsForHost(TArray<FHostWidgetPart>& OutParts)
+{
+	const auto Add = [&OutParts](const TSharedRef<SWidget>& Widget, EHostPart Kind) {
+		if (Widget != SNullWidget::NullWidget)
+		{
+			OutParts.Add(FHostWidgetPart{Widget, Kind, {}, HAlign_Fill, VAlign_Center, {}, 0.0f});
+		}
+	};
+	Add(NameWidget, EHostPart::RowName);
+	Add(ValueWidget, EHostPart::RowValue);
+	Add(ExtensionWidget, EHostPart::RowExtension);
+	for (const TSharedRef<SDetailsRow>& Row : Rows)
+	{
+		if (Row->bFound)
+		{
+			Add(Row, EHostPart::RowBelow);
+		}
 	}
 }
 

@@ -59,7 +59,8 @@ public:
 protected:
 	virtual void DescribeToHost(FHostWidgetDescription& OutDescription) const override;
 	virtual FHostInputResult TakeHostInput(const FHostInput& Input) override;
-	virtual void ListHostOptions(TArray<FString>& OutOptions) override;
+	virtual void ListHostOptions(TArray<TSharedRef<SWidget>>& OutOptions) override;
+	virtual void ListPartsForHost(TArray<FHostWidgetPart>& OutParts) override;
 
 private:
 	TSharedPtr<SWidget> FindPlainValue() const;

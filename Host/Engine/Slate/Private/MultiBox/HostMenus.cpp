@@ -11,7 +11,7 @@
 
 namespace HostMenus
 {
-	static TArray<TWeakPtr<SComboButton>>& GetOpened()
+	TArray<TWeakPtr<SComboButton>>& GetOpened()
 	{
 		static THostState<TArray<TWeakPtr<SComboButton>>> State;
 		return State.Get();
@@ -45,6 +45,12 @@ namespace HostMenus
 		}
 		const bool bKnown = Icon.GetIcon() != FStyleDefaults::GetNoBrush();
 		return (bKnown ? TEXT("icon: ") : TEXT("missing icon: ")) + Icon.GetStyleName().ToString();
+	}
+
+	TOptional<FSlateBrush> FindBrush(const FSlateIcon& Icon)
+	{
+		const FSlateBrush* Brush = Icon.IsSet() ? Icon.GetIcon() : nullptr;
+		return Brush != nullptr && Brush != FStyleDefaults::GetNoBrush() ? TOptional<FSlateBrush>(*Brush) : TOptional<FSlateBrush>();
 	}
 }
 
@@ -131,6 +137,11 @@ void SHostMenuEntry::DescribeToHost(FHostWidgetDescription& OutDescription) cons
 	{
 		OutDescription.Notes.Add(IconFact);
 	}
+}
+
+void SHostMenuEntry::DescribeLookToHost(FHostWidgetLook& OutLook) const
+{
+	OutLook.Brush = HostMenus::FindBrush(Icon.Get(FSlateIcon()));
 }
 
 FHostInputResult SHostMenuEntry::TakeHostInput(const FHostInput& Input)

@@ -9,7 +9,22 @@
 namespace SlateText
 {
 	/** A face that is not the plain one, with its size; a colour that is not the plain white. */
-	static void NoteLook(const FSlateFontInfo& Font, const FSlateColor& Color, TArray<FString>& OutNotes)
+	EHorizontalAlignment AlignmentOf(ETextJustify::Type Justification)
+	{
+		switch (Justification)
+		{
+			case ETextJustify::Center: return HAlign_Center;
+			case ETextJustify::Right: return HAlign_Right;
+			default: return HAlign_Left;
+		}
+	}
+
+	TOptional<float> SizeIf(const FOptionalSize& Size)
+	{
+		return Size.IsSet() ? TOptional<float>(Size.Get()) : TOptional<float>();
+	}
+
+	void NoteLook(const FSlateFontInfo& Font, const FSlateColor& Color, TArray<FString>& OutNotes)
 	{
 		if (!Font.TypefaceFontName.IsNone() && Font.TypefaceFontName != FName(TEXT("Regular")))
 		{
@@ -27,6 +42,9 @@ void STextBlock::Construct(const FArguments& InArgs)
 	Text = InArgs._Text;
 	Font = InArgs._Font;
 	ColorAndOpacity = InArgs._ColorAndOpacity;
+	AutoWrapText = InArgs._AutoWrapText;
+	Justification = InArgs._Justification;
+	MinDesiredWidth = InArgs._MinDesiredWidth;
 }
 
 const FText& STextBlock::GetText() const
@@ -40,6 +58,28 @@ void STextBlock::DescribeToHost(FHostWidgetDescription& OutDescription) const
 	OutDescription.Role = TEXT("text");
 	OutDescription.Value = GetText().ToString();
 	SlateText::NoteLook(GetFont(), GetColorAndOpacity(), OutDescription.Notes);
+}
+
+void STextBlock::DescribeLookToHost(FHostWidgetLook& OutLook) const
+{
+	OutLook.Font = GetFont();
+	OutLook.Color = GetColorAndOpacity();
+	OutLook.bWrapsText = AutoWrapText.Get(false);
+	OutLook.TextAlignment = SlateText::AlignmentOf(Justification.Get(ETextJustify::Left));
+	if (MinDesiredWidth.IsSet())
+	{
+		OutLook.MinWidth = MinDesiredWidth.Get();
+	}
+}
+
+void SBox::DescribeLookToHost(FHostWidgetLook& OutLook) const
+{
+	OutLook.Width = SlateText::SizeIf(WidthOverride.Get());
+	OutLook.Height = SlateText::SizeIf(HeightOverride.Get());
+	OutLook.MinWidth = SlateText::SizeIf(MinDesiredWidth.Get());
+	OutLook.MinHeight = SlateText::SizeIf(MinDesiredHeight.Get());
+	OutLook.MaxWidth = SlateText::SizeIf(MaxDesiredWidth.Get());
+	OutLook.MaxHeight = SlateText::SizeIf(MaxDesiredHeight.Get());
 }
 
 void SBox::Construct(const FArguments& InArgs)
@@ -85,6 +125,15 @@ void SBorder::DescribeToHost(FHostWidgetDescription& OutDescription) const
 		OutDescription.Value = GetBorderBackgroundColor().GetSpecifiedColor().ToString();
 		OutDescription.bTransparent = false;
 	}
+}
+
+void SBorder::DescribeLookToHost(FHostWidgetLook& OutLook) const
+{
+	if (const FSlateBrush* Image = GetBorderImage())
+	{
+		OutLook.Brush = *Image;
+	}
+	OutLook.Color = GetBorderBackgroundColor();
 }
 
 void SThrobber::Construct(const FArguments&)

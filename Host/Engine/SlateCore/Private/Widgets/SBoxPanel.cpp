@@ -8,7 +8,7 @@
 namespace SlateBoxPanel
 {
 	template<typename SlotArgumentsType, typename SlotType>
-	static void AddAll(const TArray<SlotArgumentsType>& Slots, TPanelChildren<SlotType>& Children)
+	void AddAll(const TArray<SlotArgumentsType>& Slots, TPanelChildren<SlotType>& Children)
 	{
 		for (const SlotArgumentsType& Slot : Slots)
 		{
@@ -53,6 +53,11 @@ void SHorizontalBox::DescribeToHost(FHostWidgetDescription& OutDescription) cons
 	OutDescription.Role = TEXT("horizontal");
 }
 
+void SHorizontalBox::DescribeLookToHost(FHostWidgetLook& OutLook) const
+{
+	OutLook.Arrangement = EHostArrangement::Row;
+}
+
 void SVerticalBox::Construct(const FArguments& InArgs)
 {
 	SlateBoxPanel::AddAll(InArgs._Slots, Children);
@@ -67,6 +72,25 @@ void SImage::Construct(const FArguments& InArgs)
 {
 	Image = InArgs._Image;
 	ColorAndOpacity = InArgs._ColorAndOpacity;
+	DesiredSizeOverride = InArgs._DesiredSizeOverride;
+}
+
+void SImage::DescribeLookToHost(FHostWidgetLook& OutLook) const
+{
+	const FSlateBrush* Brush = Image.Get(nullptr);
+	if (Brush != nullptr)
+	{
+		OutLook.Brush = *Brush;
+		OutLook.Width = static_cast<float>(Brush->ImageSize.X);
+		OutLook.Height = static_cast<float>(Brush->ImageSize.Y);
+	}
+	const TOptional<FVector2D> Size = DesiredSizeOverride.Get({});
+	if (Size.IsSet())
+	{
+		OutLook.Width = static_cast<float>(Size->X);
+		OutLook.Height = static_cast<float>(Size->Y);
+	}
+	OutLook.Color = ColorAndOpacity.Get(FSlateColor(FLinearColor::White));
 }
 
 void SImage::DescribeToHost(FHostWidgetDescription& OutDescription) const

@@ -3,6 +3,7 @@
 #include "Widgets/SWidget.h"
 
 #include "HostWidget.h"
+#include "Widgets/SBoxPanel.h"
 #include "Widgets/SCompoundWidget.h"
 #include "Widgets/SLeafWidget.h"
 #include "Widgets/SPanel.h"
@@ -24,7 +25,7 @@ namespace SlateWidget
 	};
 
 	/** Visits the texts that show in a widget and below it, in order, until the visitor returns false. @return whether it never did */
-	static bool VisitTexts(SWidget& Widget, TFunctionRef<bool(const FString&)> Visit, TFunctionRef<bool(const FHostWidgetDescription&)> IsPassedOver)
+	bool VisitTexts(SWidget& Widget, TFunctionRef<bool(const FString&)> Visit, TFunctionRef<bool(const FHostWidgetDescription&)> IsPassedOver)
 	{
 		const FHostWidgetDescription Description = FHostWidgetAccess::Describe(Widget);
 		if (!Description.bVisible || Description.bPassword || Description.Role == TEXT("swatch")) // a colour is no text
@@ -61,6 +62,13 @@ TSharedRef<SWidget> FNoChildren::GetChildAt(int32)
 	return SNullWidget::NullWidget;
 }
 
+const FSlotBase& FNoChildren::GetSlotAt(int32) const
+{
+	checkf(false, TEXT("A widget without children was asked for a slot."));
+	static const FSlotBase NoSlot;
+	return NoSlot;
+}
+
 TSharedRef<SWidget> FSingleWidgetChildrenWithBasicLayoutSlot::GetChildAt(int32)
 {
 	return GetWidget();
@@ -88,8 +96,21 @@ FHostInputResult SWidget::TakeHostInput(const FHostInput&)
 	return FHostInputResult::Refused(TEXT("takes no such input"));
 }
 
-void SWidget::ListHostOptions(TArray<FString>&)
+void SWidget::ListHostOptions(TArray<TSharedRef<SWidget>>&)
 {
+}
+
+void SWidget::DescribeLookToHost(FHostWidgetLook&) const
+{
+}
+
+void SWidget::ListPartsForHost(TArray<FHostWidgetPart>& OutParts)
+{
+	const FChildren* Children = GetChildren();
+	for (int32 Index = 0; Index < Children->Num(); ++Index)
+	{
+		OutParts.Add(FHostWidgetPart::FromSlot(Children->GetSlotAt(Index)));
+	}
 }
 
 void SPanel::DescribeToHost(FHostWidgetDescription& OutDescription) const
@@ -119,6 +140,36 @@ FHostWidgetDescription FHostWidgetAccess::Describe(const SWidget& Widget)
 	return Description;
 }
 
+FHostWidgetPart FHostWidgetPart::FromSlot(const FSlotBase& Slot, EHostPart Kind)
+{
+	FHostWidgetPart Part{Slot.GetWidget(), Kind, Slot.GetPadding(), Slot.GetHorizontalAlignment(), Slot.GetVerticalAlignment(), {}, 0.0f};
+	if (const FBoxPanelSlot* Box = dynamic_cast<const FBoxPanelSlot*>(&Slot))
+	{
+		Part.MaxSize = Box->MaxSize.Get();
+		if (Box->SizeParam.SizeRule != FSizeParam::SizeRule_Auto)
+		{
+			Part.Fill = Box->SizeParam.Value.Get();
+		}
+	}
+	return Part;
+}
+
+FHostWidgetLook FHostWidgetAccess::LookOf(const SWidget& Widget)
+{
+	FHostWidgetLook Look;
+	Look.Opacity = Widget.RenderOpacity;
+	Look.bCollapsed = Widget.GetVisibility() == EVisibility::Collapsed;
+	Widget.DescribeLookToHost(Look);
+	return Look;
+}
+
+TArray<FHostWidgetPart> FHostWidgetAccess::PartsOf(const TSharedRef<SWidget>& Widget)
+{
+	TArray<FHostWidgetPart> Parts;
+	Widget->ListPartsForHost(Parts);
+	return Parts;
+}
+
 FHostInputResult FHostWidgetAccess::Give(const TSharedRef<SWidget>& Widget, const FHostInput& Input)
 {
 	const TSharedRef<SWidget> HeldWhileHandling = Widget;
@@ -127,8 +178,18 @@ FHostInputResult FHostWidgetAccess::Give(const TSharedRef<SWidget>& Widget, cons
 
 TArray<FString> FHostWidgetAccess::OptionsOf(const TSharedRef<SWidget>& Widget)
 {
+	TArray<FString> Texts;
+	for (const TSharedRef<SWidget>& Option : OptionWidgetsOf(Widget))
+	{
+		Texts.Add(TextOf(*Option));
+	}
+	return Texts;
+}
+
+TArray<TSharedRef<SWidget>> FHostWidgetAccess::OptionWidgetsOf(const TSharedRef<SWidget>& Widget)
+{
 	const TSharedRef<SWidget> HeldWhileHandling = Widget;
-	TArray<FString> Options;
+	TArray<TSharedRef<SWidget>> Options;
 	HeldWhileHandling->ListHostOptions(Options);
 	return Options;
 }

@@ -15,6 +15,7 @@ public:
 
 	virtual int32 Num() const = 0;
 	virtual TSharedRef<SWidget> GetChildAt(int32 Index) = 0;
+	virtual const FSlotBase& GetSlotAt(int32 ChildIndex) const = 0;
 };
 
 class SLATECORE_API FNoChildren : public FChildren
@@ -22,6 +23,7 @@ class SLATECORE_API FNoChildren : public FChildren
 public:
 	virtual int32 Num() const override { return 0; }
 	virtual TSharedRef<SWidget> GetChildAt(int32 Index) override;
+	virtual const FSlotBase& GetSlotAt(int32 ChildIndex) const override;
 
 	static FNoChildren NoChildrenInstance;
 };
@@ -32,6 +34,7 @@ class SLATECORE_API FSingleWidgetChildrenWithBasicLayoutSlot : public FChildren,
 public:
 	virtual int32 Num() const override { return 1; }
 	virtual TSharedRef<SWidget> GetChildAt(int32 Index) override;
+	virtual const FSlotBase& GetSlotAt(int32) const override { return *this; }
 
 	FSingleWidgetChildrenWithBasicLayoutSlot& operator[](const TSharedRef<SWidget>& InChild)
 	{
@@ -65,6 +68,7 @@ class TPanelChildren : public FChildren
 public:
 	virtual int32 Num() const override { return Slots.Num(); }
 	virtual TSharedRef<SWidget> GetChildAt(int32 Index) override { return Slots[Index]->GetWidget(); }
+	virtual const FSlotBase& GetSlotAt(int32 ChildIndex) const override { return *Slots[ChildIndex]; }
 
 	SlotType& operator[](int32 Index) { return *Slots[Index]; }
 

@@ -126,6 +126,7 @@ public:
 
 protected:
 	virtual void DescribeToHost(FHostWidgetDescription& OutDescription) const override;
+	virtual void DescribeLookToHost(FHostWidgetLook& OutLook) const override;
 };
 
 class SLATECORE_API SVerticalBox : public TBoxPanel<FVerticalBoxSlot>

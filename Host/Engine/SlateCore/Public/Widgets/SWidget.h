@@ -15,11 +15,13 @@ class FHostWidgetAccess;
 struct FHostInput;
 struct FHostInputResult;
 struct FHostWidgetDescription;
+struct FHostWidgetLook;
+struct FHostWidgetPart;
 
 /**
  * One node of the tree that a person sees.
  *
- * Host: the tree is kept, not painted. What a person could see of a widget and do to it goes through the two host functions below,
+ * Host: the tree is kept, and drawn by others. What a person could see of a widget and do to it goes through the host functions below,
  * which only the host's own headers reach.
  */
 class SLATECORE_API SWidget : public FSlateControlledConstruction, public TSharedFromThis<SWidget>
@@ -58,7 +60,9 @@ protected:
 	friend class FHostWidgetAccess;
 	virtual void DescribeToHost(FHostWidgetDescription& OutDescription) const;
 	virtual FHostInputResult TakeHostInput(const FHostInput& Input);
-	virtual void ListHostOptions(TArray<FString>& OutOptions);
+	virtual void ListHostOptions(TArray<TSharedRef<SWidget>>& OutOptions);
+	virtual void DescribeLookToHost(FHostWidgetLook& OutLook) const;
+	virtual void ListPartsForHost(TArray<FHostWidgetPart>& OutParts);
 
 private:
 	TAttribute<EVisibility> Visibility = EVisibility::Visible;

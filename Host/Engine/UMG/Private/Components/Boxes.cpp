@@ -2,26 +2,48 @@
 
 #include "Components/CanvasPanel.h"
 #include "Components/HorizontalBox.h"
+#include "Components/HorizontalBoxSlot.h"
 #include "Components/SizeBox.h"
 #include "Components/VerticalBox.h"
+#include "Components/VerticalBoxSlot.h"
 #include "Widgets/Layout/SBox.h"
 #include "Widgets/SBoxPanel.h"
 
+#include <type_traits>
+
 namespace UMGBoxes
 {
-	/** The Slate box of a panel that is shown gets the panel's children anew. */
-	template<typename BoxType>
-	static void FillBox(BoxType& Box, const UPanelWidget& Panel)
+	template<typename SlateSlotType, typename SlotType>
+	static void ApplySlot(SlateSlotType& Slate, const SlotType& Slot)
 	{
+		Slate.SetPadding(Slot.Padding);
+		Slate.SetHorizontalAlignment(Slot.HorizontalAlignment);
+		Slate.SetVerticalAlignment(Slot.VerticalAlignment);
+		Slate.SizeParam.SizeRule = Slot.Size.SizeRule == ESlateSizeRule::Fill ? FSizeParam::SizeRule_Stretch : FSizeParam::SizeRule_Auto;
+		Slate.SizeParam.Value = Slot.Size.Value;
+	}
+
+	/** The Slate box of a panel that is shown gets the panel's children anew. A slot that says nothing is as high or wide as its child. */
+	template<typename BoxType>
+	void FillBox(BoxType& Box, const UPanelWidget& Panel)
+	{
+		using FSlateSlot = typename BoxType::FSlot;
+		using FBoxSlot = std::conditional_t<std::is_same_v<BoxType, SHorizontalBox>, UHorizontalBoxSlot, UVerticalBoxSlot>;
 		Box.ClearChildren();
 		for (UWidget* Child : Panel.GetAllChildren())
 		{
-			Box.AddSlot()[Child->TakeWidget()];
+			FSlateSlot* Slate = nullptr;
+			Box.AddSlot().Expose(Slate)[Child->TakeWidget()];
+			Slate->SizeParam.SizeRule = FSizeParam::SizeRule_Auto;
+			if (const FBoxSlot* Slot = Cast<FBoxSlot>(Child->Slot))
+			{
+				ApplySlot(*Slate, *Slot);
+			}
 		}
 	}
 
 	template<typename BoxType>
-	static TSharedRef<SWidget> MakeBox(const UPanelWidget& Panel)
+	TSharedRef<SWidget> MakeBox(const UPanelWidget& Panel)
 	{
 		const TSharedRef<BoxType> Box = SNew(BoxType);
 		FillBox(*Box, Panel);
@@ -29,7 +51,7 @@ namespace UMGBoxes
 	}
 
 	template<typename BoxType>
-	static void Refresh(const TWeakPtr<SWidget>& Widget, const UPanelWidget& Panel)
+	void Refresh(const TWeakPtr<SWidget>& Widget, const UPanelWidget& Panel)
 	{
 		if (const TSharedPtr<SWidget> Box = Widget.Pin())
 		{
@@ -37,7 +59,7 @@ namespace UMGBoxes
 		}
 	}
 
-	static FOptionalSize SizeIf(bool bSet, float Value)
+	FOptionalSize SizeIf(bool bSet, float Value)
 	{
 		return bSet ? FOptionalSize(Value) : FOptionalSize();
 	}
@@ -53,6 +75,11 @@ void UVerticalBox::RefreshChildren()
 	UMGBoxes::Refresh<SVerticalBox>(MyWidget, *this);
 }
 
+UClass* UVerticalBox::GetSlotClass() const
+{
+	return UVerticalBoxSlot::StaticClass();
+}
+
 TSharedRef<SWidget> UHorizontalBox::RebuildWidget()
 {
 	return UMGBoxes::MakeBox<SHorizontalBox>(*this);
@@ -61,6 +88,11 @@ TSharedRef<SWidget> UHorizontalBox::RebuildWidget()
 void UHorizontalBox::RefreshChildren()
 {
 	UMGBoxes::Refresh<SHorizontalBox>(MyWidget, *this);
+}
+
+UClass* UHorizontalBox::GetSlotClass() const
+{
+	return UHorizontalBoxSlot::StaticClass();
 }
 
 TSharedRef<SWidget> UCanvasPanel::RebuildWidget()

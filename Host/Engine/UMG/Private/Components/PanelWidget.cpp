@@ -13,6 +13,11 @@ void UPanelSlot::ReleaseSlateResources(bool bReleaseChildren)
 	}
 }
 
+UClass* UPanelWidget::GetSlotClass() const
+{
+	return UPanelSlot::StaticClass();
+}
+
 UWidget* UPanelWidget::GetChildAt(int32 Index) const
 {
 	return Slots.IsValidIndex(Index) ? Slots[Index]->Content.Get() : nullptr;
@@ -40,7 +45,7 @@ UPanelSlot* UPanelWidget::AddChild(UWidget* Content)
 		return nullptr;
 	}
 	Content->RemoveFromParent();
-	UPanelSlot* NewSlot = NewObject<UPanelSlot>(this);
+	UPanelSlot* NewSlot = NewObject<UPanelSlot>(this, GetSlotClass());
 	NewSlot->Parent = this;
 	NewSlot->Content = Content;
 	Content->Slot = NewSlot;

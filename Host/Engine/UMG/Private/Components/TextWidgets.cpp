@@ -20,6 +20,7 @@ void UTextBlock::SynchronizeProperties()
 		Widget->SetText(Text);
 		Widget->SetFont(Font);
 		Widget->SetColorAndOpacity(ColorAndOpacity);
+		Widget->SetAutoWrapText(AutoWrapText);
 	}
 }
 
@@ -38,6 +39,12 @@ void UTextBlock::SetFont(FSlateFontInfo InFontInfo)
 void UTextBlock::SetColorAndOpacity(FSlateColor InColorAndOpacity)
 {
 	ColorAndOpacity = InColorAndOpacity;
+	SynchronizeProperties();
+}
+
+void UTextBlock::SetAutoWrapText(bool InAutoTextWrap)
+{
+	AutoWrapText = InAutoTextWrap;
 	SynchronizeProperties();
 }
 

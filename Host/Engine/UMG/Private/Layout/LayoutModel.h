@@ -113,6 +113,7 @@ struct FLayoutWidget
 	FName Name; // None: the widget cannot be named by anybody
 	FString Pointer;
 	TArray<FLayoutAssignment> Properties;
+	TArray<FLayoutAssignment> Slot; // how it lies in the panel around it
 	TArray<FLayoutWidget> Children;
 };
 

@@ -9,13 +9,13 @@ namespace LayoutReaderWidgets
 {
 	using FJson = FLayoutReader::FJson;
 
-	static const FJson* Find(const FJson& Object, const char* Key)
+	const FJson* Find(const FJson& Object, const char* Key)
 	{
 		const auto Found = Object.find(Key);
 		return Found != Object.end() ? &*Found : nullptr;
 	}
 
-	static bool IsBound(const FProperty& Property, bool& bOutOptional)
+	bool IsBound(const FProperty& Property, bool& bOutOptional)
 	{
 		bOutOptional = Property.HasMetaData(TEXT("BindWidgetOptional")) || Property.GetBoolMetaData(FName(TEXT("OptionalWidget")));
 		return bOutOptional || Property.HasMetaData(TEXT("BindWidget"));
@@ -86,7 +86,7 @@ bool FLayoutReader::ReadWidget(const FJson& Json, const FString& Pointer, FLayou
 		Complain(Pointer, TEXT("a widget is a JSON object"));
 		return false;
 	}
-	CheckKeys(Json, Pointer, {"Class", "Name", "Comment", "Properties", "Children"});
+	CheckKeys(Json, Pointer, {"Class", "Name", "Comment", "Properties", "Slot", "Children"});
 	OutWidget.Pointer = Pointer;
 	OutWidget.Class = ReadWidgetClass(Json, Pointer);
 	if (!OutWidget.Class)
@@ -97,6 +97,10 @@ bool FLayoutReader::ReadWidget(const FJson& Json, const FString& Pointer, FLayou
 	if (const FJson* Properties = LayoutReaderWidgets::Find(Json, "Properties"))
 	{
 		ReadAssignments(*Properties, LayoutPointer::Child(Pointer, std::string("Properties")), OutWidget.Properties);
+	}
+	if (const FJson* Slot = LayoutReaderWidgets::Find(Json, "Slot"))
+	{
+		ReadAssignments(*Slot, LayoutPointer::Child(Pointer, std::string("Slot")), OutWidget.Slot);
 	}
 	ReadChildren(Json, Pointer, OutWidget);
 	return true;
@@ -177,6 +181,7 @@ void FLayoutReader::CheckWidgetValues(const FLayoutWidget& Widget)
 	CheckAssignments(Widget.Properties, *Widget.Class);
 	for (const FLayoutWidget& Child : Widget.Children)
 	{
+		CheckAssignments(Child.Slot, *Widget.Class->GetDefaultObject<UPanelWidget>()->GetSlotClassForHost());
 		CheckWidgetValues(Child);
 	}
 }

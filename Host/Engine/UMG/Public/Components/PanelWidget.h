@@ -50,7 +50,13 @@ public:
 
 	virtual void ReleaseSlateResources(bool bReleaseChildren) override;
 
+	/** Host: for those who put widgets together from data. */
+	UClass* GetSlotClassForHost() const { return GetSlotClass(); }
+
 protected:
+	/** What holds each child: how it can lie in this panel. */
+	virtual UClass* GetSlotClass() const;
+
 	/** Brings the Slate widget, if there is one, in step with the slots. */
 	virtual void RefreshChildren() {}
 

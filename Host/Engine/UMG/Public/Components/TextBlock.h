@@ -29,6 +29,11 @@ public:
 	void SetColorAndOpacity(FSlateColor InColorAndOpacity);
 	FSlateColor GetColorAndOpacity() const { return ColorAndOpacity; }
 
+	/** Breaks lines that the text's place is too narrow for. */
+	UFUNCTION(BlueprintCallable, Category = "Appearance")
+	void SetAutoWrapText(bool InAutoTextWrap);
+	bool GetAutoWrapText() const { return AutoWrapText; }
+
 	virtual void SynchronizeProperties() override;
 
 protected:
@@ -43,4 +48,7 @@ private:
 
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Appearance", meta = (AllowPrivateAccess = "true"))
 	FSlateFontInfo Font;
+
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Wrapping", meta = (AllowPrivateAccess = "true"))
+	bool AutoWrapText = false;
 };

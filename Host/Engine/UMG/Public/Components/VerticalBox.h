@@ -15,4 +15,5 @@ class UMG_API UVerticalBox : public UPanelWidget
 protected:
 	virtual TSharedRef<SWidget> RebuildWidget() override;
 	virtual void RefreshChildren() override;
+	virtual UClass* GetSlotClass() const override;
 };

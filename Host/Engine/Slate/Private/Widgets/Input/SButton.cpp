@@ -8,7 +8,7 @@
 
 namespace SlateButton
 {
-	static TSharedRef<SWidget> MakeContent(const SButton::FArguments& InArgs)
+	TSharedRef<SWidget> MakeContent(const SButton::FArguments& InArgs)
 	{
 		if (InArgs._Content.Widget != SNullWidget::NullWidget || !InArgs._Text.IsSet())
 		{
@@ -84,6 +84,11 @@ void SCheckBox::DescribeToHost(FHostWidgetDescription& OutDescription) const
 	{
 		OutDescription.Checked = GetCheckedState();
 	}
+}
+
+void SCheckBox::DescribeLookToHost(FHostWidgetLook& OutLook) const
+{
+	OutLook.bToggle = IsToggleButton();
 }
 
 FHostInputResult SCheckBox::TakeHostInput(const FHostInput& Input)

@@ -9,7 +9,7 @@
 namespace ComboButton
 {
 	/** The face is one line of text: its swatches are told beside it. */
-	static void NoteColors(SWidget& Face, TArray<FString>& OutNotes)
+	void NoteColors(SWidget& Face, TArray<FString>& OutNotes)
 	{
 		const FHostWidgetDescription Description = FHostWidgetAccess::Describe(Face);
 		if (Description.Role == TEXT("swatch"))
@@ -28,6 +28,7 @@ void SComboButton::Construct(const FArguments& InArgs)
 	OnGetMenuContent = InArgs._OnGetMenuContent;
 	OnComboBoxOpened = InArgs._OnComboBoxOpened;
 	StaticMenuContent = InArgs._MenuContent.Widget;
+	bHasDownArrow = InArgs._HasDownArrow;
 	ChildSlot[InArgs._ButtonContent.Widget];
 }
 
@@ -72,14 +73,32 @@ void SComboButton::DescribeToHost(FHostWidgetDescription& OutDescription) const
 	ComboButton::NoteColors(*ChildSlot.GetWidget(), OutDescription.Notes);
 }
 
-void SComboButton::ListHostOptions(TArray<FString>& OutOptions)
+void SComboButton::DescribeLookToHost(FHostWidgetLook& OutLook) const
+{
+	OutLook.bHasDownArrow = bHasDownArrow;
+	OutLook.bOpen = bIsOpen;
+}
+
+void SComboButton::ListPartsForHost(TArray<FHostWidgetPart>& OutParts)
+{
+	OutParts.Add(FHostWidgetPart::FromSlot(ChildSlot));
+	for (int32 Index = 0; Index < OpenMenu.Num(); ++Index)
+	{
+		if (OpenMenu.GetChildAt(Index) != SNullWidget::NullWidget) // a plain list of options has none
+		{
+			OutParts.Add(FHostWidgetPart::FromSlot(OpenMenu.GetSlotAt(Index), EHostPart::Menu));
+		}
+	}
+}
+
+void SComboButton::ListHostOptions(TArray<TSharedRef<SWidget>>& OutOptions)
 {
 	const bool bWasOpen = IsOpen();
 	SetIsOpen(true); // options may be filled in when the box opens
 	const int32 NumOptions = CountOptionsForHost();
 	for (int32 Index = 0; Index < NumOptions; ++Index)
 	{
-		OutOptions.Add(FHostWidgetAccess::TextOf(*MakeOptionForHost(Index)));
+		OutOptions.Add(MakeOptionForHost(Index));
 	}
 	SetIsOpen(bWasOpen);
 }
@@ -94,6 +113,12 @@ FHostInputResult SComboButton::TakeHostInput(const FHostInput& Input)
 	if (Input.Kind == EHostInput::Choose && CountOptionsForHost() >= 0)
 	{
 		return ChooseOption(Input.Text);
+	}
+	if (Input.Kind == EHostInput::Pick && Input.Index >= 0 && Input.Index < CountOptionsForHost())
+	{
+		PickOptionForHost(Input.Index);
+		SetIsOpen(false);
+		return FHostInputResult::Done();
 	}
 	return SCompoundWidget::TakeHostInput(Input);
 }

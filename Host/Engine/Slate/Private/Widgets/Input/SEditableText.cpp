@@ -14,6 +14,8 @@ void SEditableText::Construct(const FArguments& InArgs)
 	Password = InArgs._IsPassword;
 	OnTextChanged = InArgs._OnTextChanged;
 	OnTextCommitted = InArgs._OnTextCommitted;
+	Font = InArgs._Font;
+	MinDesiredWidth = InArgs._MinDesiredWidth;
 	NoteSecret(GetText());
 }
 
@@ -56,9 +58,20 @@ void SEditableText::DescribeToHost(FHostWidgetDescription& OutDescription) const
 	}
 }
 
+void SEditableText::DescribeLookToHost(FHostWidgetLook& OutLook) const
+{
+	OutLook.Hint = GetHintText().ToString();
+	OutLook.Font = Font.Get(FSlateFontInfo());
+	if (MinDesiredWidth.IsSet())
+	{
+		OutLook.MinWidth = MinDesiredWidth.Get();
+	}
+}
+
 FHostInputResult SEditableText::TakeHostInput(const FHostInput& Input)
 {
-	if (Input.Kind != EHostInput::Type)
+	const bool bCommits = Input.Kind == EHostInput::Type || Input.Kind == EHostInput::Commit;
+	if (!bCommits && Input.Kind != EHostInput::Edit)
 	{
 		return SLeafWidget::TakeHostInput(Input);
 	}
@@ -66,21 +79,31 @@ FHostInputResult SEditableText::TakeHostInput(const FHostInput& Input)
 	{
 		return FHostInputResult::Refused(TEXT("is read-only"));
 	}
+	const FText Typed = TakeTyped(Input.Text);
+	if (bCommits)
+	{
+		LastTyped.Reset();
+		OnTextCommitted.ExecuteIfBound(Typed, Input.Kind == EHostInput::Type ? ETextCommit::OnEnter : Input.Commit);
+	}
+	return FHostInputResult::Done();
+}
+
+/** What is typed over a bound text is seen only while typing: once it is committed, the text is again what its owner says. */
+FText SEditableText::TakeTyped(const FString& InText)
+{
+	const FText Typed = FText::FromString(InText);
 	if (!Text.IsBound())
 	{
-		SetText(FText::FromString(Input.Text));
-		OnTextCommitted.ExecuteIfBound(GetText(), ETextCommit::OnEnter);
-		return FHostInputResult::Done();
+		SetText(Typed);
+		return GetText();
 	}
-	// What is typed is seen only while typing: once it is committed, the text is again what its owner says.
-	const FText Typed = FText::FromString(Input.Text);
 	NoteSecret(Typed);
-	if (!Typed.EqualTo(GetText()))
+	if (!Typed.EqualTo(LastTyped.Get(GetText())))
 	{
+		LastTyped = Typed;
 		OnTextChanged.ExecuteIfBound(Typed);
 	}
-	OnTextCommitted.ExecuteIfBound(Typed, ETextCommit::OnEnter);
-	return FHostInputResult::Done();
+	return Typed;
 }
 
 void SEditableTextBox::Construct(const FArguments& InArgs)
@@ -94,6 +117,7 @@ void SEditableTextBox::Construct(const FArguments& InArgs)
 		.Font(InArgs._Font)
 		.IsReadOnly(InArgs._IsReadOnly)
 		.IsPassword(InArgs._IsPassword)
+		.MinDesiredWidth(InArgs._MinDesiredWidth)
 		.OnTextChanged(InArgs._OnTextChanged)
 		.OnTextCommitted(InArgs._OnTextCommitted)
 	]);
@@ -110,6 +134,13 @@ void SEditableTextBox::DescribeToHost(FHostWidgetDescription& OutDescription) co
 	OutDescription.bReadOnly = Inner.bReadOnly;
 	OutDescription.bPassword = Inner.bPassword;
 	OutDescription.bSealed = true;
+}
+
+void SEditableTextBox::DescribeLookToHost(FHostWidgetLook& OutLook) const
+{
+	OutLook = FHostWidgetAccess::LookOf(*EditableText);
+	OutLook.Opacity = GetRenderOpacity();
+	OutLook.bCollapsed = GetVisibility() == EVisibility::Collapsed;
 }
 
 FHostInputResult SEditableTextBox::TakeHostInput(const FHostInput& Input)

@@ -11,6 +11,7 @@ void SSearchBox::Construct(const FArguments& InArgs)
 	SEditableTextBox::Construct(SEditableTextBox::FArguments()
 									.Text(InArgs._InitialText)
 									.HintText(InArgs._HintText)
+									.MinDesiredWidth(InArgs._MinDesiredWidth)
 									.OnTextChanged(InArgs._OnTextChanged)
 									.OnTextCommitted(InArgs._OnTextCommitted));
 	// clang-format off

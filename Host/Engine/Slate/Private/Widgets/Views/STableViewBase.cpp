@@ -29,12 +29,12 @@ void STableViewBase::GenerateRows()
 {
 	const int32 NumItems = CountItems();
 	const int32 ScrollTarget = TakeScrollTarget();
-	if (ScrollTarget != INDEX_NONE && (ScrollTarget < FirstItemInView || ScrollTarget >= FirstItemInView + HostRowsInView))
+	if (ScrollTarget != INDEX_NONE && (ScrollTarget < FirstItemInView || ScrollTarget >= FirstItemInView + NumRowsInView))
 	{
 		FirstItemInView = ScrollTarget;
 	}
-	FirstItemInView = FMath::Max(0, FMath::Min(FirstItemInView, NumItems - HostRowsInView));
-	const int32 NumRows = FMath::Min(HostRowsInView, NumItems - FirstItemInView);
+	FirstItemInView = FMath::Max(0, FMath::Min(FirstItemInView, NumItems - NumRowsInView));
+	const int32 NumRows = FMath::Min(NumRowsInView, NumItems - FirstItemInView);
 
 	KeepRows(FirstItemInView, NumRows);
 	Rows.Empty();
@@ -55,6 +55,13 @@ void STableViewBase::DescribeToHost(FHostWidgetDescription& OutDescription) cons
 void STableViewBase::NoteTileSize(float Width, float Height, FHostWidgetDescription& OutDescription)
 {
 	OutDescription.Notes.Add(FString::Printf(TEXT("%s x %s each"), *FString::SanitizeFloat(Width, 0), *FString::SanitizeFloat(Height, 0)));
+}
+
+void STableViewBase::NoteTiles(float Width, float Height, FHostWidgetLook& OutLook)
+{
+	OutLook.bTiles = true;
+	OutLook.Width = Width;
+	OutLook.Height = Height;
 }
 
 int32 STableViewBase::FindItemOfRow(const SWidget& Row) const
@@ -93,17 +100,70 @@ FHostInputResult STableViewBase::GiveRowInput(const SWidget& Row, const FHostInp
 	return FHostInputResult::Done();
 }
 
-void STableViewBase::ListHostOptions(TArray<FString>& OutOptions)
+void STableViewBase::ListHostOptions(TArray<TSharedRef<SWidget>>& OutOptions)
 {
-	for (const TSharedRef<SWidget>& Row : FHostWidgetAccess::ChildrenOf(*this))
-	{
-		OutOptions.Add(FHostWidgetAccess::TextOf(*Row));
-	}
+	OutOptions = FHostWidgetAccess::ChildrenOf(*this);
 }
 
 FHostInputResult STableViewBase::TakeHostInput(const FHostInput& Input)
 {
+	if (Input.Kind == EHostInput::Scroll)
+	{
+		Scroll(Input.Index, Input.Count);
+		return FHostInputResult::Done();
+	}
+	if (Input.Kind == EHostInput::Move)
+	{
+		return MoveSelection(Input.Index);
+	}
 	return Input.Kind == EHostInput::Choose ? ChooseItem(Input.Text) : SCompoundWidget::TakeHostInput(Input);
+}
+
+/** A list that is about to be refreshed keeps the place for it. */
+void STableViewBase::Scroll(int32 FirstItem, int32 NumItems)
+{
+	const int32 NumRows = FMath::Max(1, NumItems);
+	if (FirstItem != FirstItemInView || NumRows != NumRowsInView)
+	{
+		FirstItemInView = FMath::Max(0, FirstItem);
+		NumRowsInView = NumRows;
+		if (!bRefreshPending)
+		{
+			GenerateRows();
+		}
+	}
+}
+
+/** Ends at the first and the last item, and scrolls to what is selected then. */
+FHostInputResult STableViewBase::MoveSelection(int32 NumItems)
+{
+	if (bRefreshPending || CountItems() == 0)
+	{
+		return FHostInputResult::Refused(TEXT("has no items to move to"));
+	}
+	int32 Selected = 0;
+	while (Selected < CountItems() && !IsItemIndexSelected(Selected))
+	{
+		++Selected;
+	}
+	const bool bNone = Selected == CountItems();
+	const int32 Target = bNone ? FirstItemInView : FMath::Clamp(Selected + NumItems, 0, CountItems() - 1);
+	if (Target < FirstItemInView || Target >= FirstItemInView + NumRowsInView)
+	{
+		FirstItemInView = Target;
+		GenerateRows();
+	}
+	if (bNone || Target != Selected)
+	{
+		MoveToItem(Target);
+	}
+	return FHostInputResult::Done();
+}
+
+void STableViewBase::DescribeLookToHost(FHostWidgetLook& OutLook) const
+{
+	OutLook.NumItems = CountItems();
+	OutLook.FirstItem = FirstItemInView;
 }
 
 FHostInputResult STableViewBase::ChooseItem(const FString& Shown)
@@ -124,7 +184,7 @@ FHostInputResult STableViewBase::ChooseItem(const FString& Shown)
 /** Scrolls through the items as a person would, a view at a time, to the first row that is meant. */
 bool STableViewBase::ClickFirst(TFunctionRef<bool(SWidget&)> IsMeant)
 {
-	for (int32 First = 0; First < CountItems(); First += HostRowsInView)
+	for (int32 First = 0; First < CountItems(); First += NumRowsInView)
 	{
 		FirstItemInView = First;
 		GenerateRows();

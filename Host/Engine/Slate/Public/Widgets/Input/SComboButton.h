@@ -38,7 +38,9 @@ public:
 protected:
 	virtual void DescribeToHost(FHostWidgetDescription& OutDescription) const override;
 	virtual FHostInputResult TakeHostInput(const FHostInput& Input) override;
-	virtual void ListHostOptions(TArray<FString>& OutOptions) override;
+	virtual void ListHostOptions(TArray<TSharedRef<SWidget>>& OutOptions) override;
+	virtual void DescribeLookToHost(FHostWidgetLook& OutLook) const override;
+	virtual void ListPartsForHost(TArray<FHostWidgetPart>& OutParts) override;
 
 	//~ Host: for combo buttons whose menu is a list of options. Negative count: it is none.
 	virtual int32 CountOptionsForHost() const { return -1; }
@@ -53,4 +55,5 @@ private:
 	TSharedRef<SWidget> StaticMenuContent = SNullWidget::NullWidget;
 	TPanelChildren<FSlotBase> OpenMenu;
 	bool bIsOpen = false;
+	bool bHasDownArrow = true;
 };

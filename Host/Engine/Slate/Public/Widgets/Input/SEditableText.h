@@ -4,6 +4,7 @@
 
 #include "Fonts/SlateFontInfo.h"
 #include "Framework/SlateDelegates.h"
+#include "Misc/Optional.h"
 #include "Widgets/SLeafWidget.h"
 
 /** One line of text to edit, without a frame. */
@@ -40,16 +41,21 @@ public:
 
 protected:
 	virtual void DescribeToHost(FHostWidgetDescription& OutDescription) const override;
+	virtual void DescribeLookToHost(FHostWidgetLook& OutLook) const override;
 	virtual FHostInputResult TakeHostInput(const FHostInput& Input) override;
 
 private:
 	/** What stands in a password field is to be printed nowhere. */
 	void NoteSecret(const FText& Held) const;
+	FText TakeTyped(const FString& InText);
 
 	TAttribute<FText> Text;
+	TOptional<FText> LastTyped; // over a bound text, until it is committed
 	TAttribute<FText> HintText;
 	TAttribute<bool> ReadOnly;
 	TAttribute<bool> Password;
+	TAttribute<FSlateFontInfo> Font;
+	TAttribute<float> MinDesiredWidth;
 	FOnTextChanged OnTextChanged;
 	FOnTextCommitted OnTextCommitted;
 };

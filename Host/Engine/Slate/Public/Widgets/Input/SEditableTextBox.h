@@ -38,6 +38,7 @@ public:
 
 protected:
 	virtual void DescribeToHost(FHostWidgetDescription& OutDescription) const override;
+	virtual void DescribeLookToHost(FHostWidgetLook& OutLook) const override;
 	virtual FHostInputResult TakeHostInput(const FHostInput& Input) override;
 
 	TSharedPtr<SEditableText> EditableText;

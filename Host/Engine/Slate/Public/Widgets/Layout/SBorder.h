@@ -42,6 +42,7 @@ public:
 
 protected:
 	virtual void DescribeToHost(FHostWidgetDescription& OutDescription) const override;
+	virtual void DescribeLookToHost(FHostWidgetLook& OutLook) const override;
 
 private:
 	TAttribute<const FSlateBrush*> BorderImage;

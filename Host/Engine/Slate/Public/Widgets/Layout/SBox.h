@@ -40,6 +40,7 @@ public:
 
 protected:
 	virtual void DescribeToHost(FHostWidgetDescription& OutDescription) const override;
+	virtual void DescribeLookToHost(FHostWidgetLook& OutLook) const override;
 
 private:
 	TAttribute<FOptionalSize> WidthOverride;

@@ -35,14 +35,20 @@ public:
 	void SetFont(TAttribute<FSlateFontInfo> InFont) { Font = MoveTemp(InFont); }
 	FSlateFontInfo GetFont() const { return Font.Get(FSlateFontInfo()); }
 	void SetColorAndOpacity(TAttribute<FSlateColor> InColorAndOpacity) { ColorAndOpacity = MoveTemp(InColorAndOpacity); }
+	void SetAutoWrapText(TAttribute<bool> InAutoWrapText) { AutoWrapText = MoveTemp(InAutoWrapText); }
+	void SetJustification(TAttribute<ETextJustify::Type> InJustification) { Justification = MoveTemp(InJustification); }
 	FSlateColor GetColorAndOpacity() const { return ColorAndOpacity.Get(FSlateColor::UseForeground()); }
 
 protected:
 	virtual void DescribeToHost(FHostWidgetDescription& OutDescription) const override;
+	virtual void DescribeLookToHost(FHostWidgetLook& OutLook) const override;
 
 private:
 	TAttribute<FText> Text;
 	TAttribute<FSlateFontInfo> Font;
 	TAttribute<FSlateColor> ColorAndOpacity;
+	TAttribute<bool> AutoWrapText;
+	TAttribute<ETextJustify::Type> Justification;
+	TAttribute<float> MinDesiredWidth;
 	mutable FText LastText; // what GetText() refers to
 };

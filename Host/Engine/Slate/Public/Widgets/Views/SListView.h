@@ -165,6 +165,12 @@ protected:
 		OnMouseButtonClick.ExecuteIfBound(Item);
 	}
 
+	virtual void MoveToItem(int32 ItemIndex) override
+	{
+		const ItemType Item = ShownItems[ItemIndex];
+		SetSelection(Item, ESelectInfo::OnNavigation);
+	}
+
 	FOnGenerateRow OnGenerateRow;
 
 private:

@@ -11,7 +11,7 @@ class ITableRow;
  * What lists and tile views share: rows exist only for the items that show, and are made anew at the tick after a refresh was asked for.
  * Items that come, go or move without one are not seen.
  *
- * Host: the view shows up to HostRowsInView items from the first one in view on.
+ * Host: the view shows up to HostRowsInView items from the first one in view on, or as many as somebody scrolls to.
  */
 class SLATE_API STableViewBase : public SCompoundWidget
 {
@@ -34,8 +34,10 @@ public:
 protected:
 	virtual void DescribeToHost(FHostWidgetDescription& OutDescription) const override;
 	virtual FHostInputResult TakeHostInput(const FHostInput& Input) override;
-	virtual void ListHostOptions(TArray<FString>& OutOptions) override;
+	virtual void ListHostOptions(TArray<TSharedRef<SWidget>>& OutOptions) override;
+	virtual void DescribeLookToHost(FHostWidgetLook& OutLook) const override;
 	static void NoteTileSize(float Width, float Height, FHostWidgetDescription& OutDescription);
+	static void NoteTiles(float Width, float Height, FHostWidgetLook& OutLook);
 
 	/** Items that the array of the owner has by now. */
 	virtual int32 CountSourceItems() const = 0;
@@ -49,6 +51,8 @@ protected:
 	virtual bool IsItemIndexSelected(int32 ItemIndex) const = 0;
 	/** What a click on the item's row does. */
 	virtual void ClickItem(int32 ItemIndex) = 0;
+	/** What the arrow keys do: selects it, and clicks nothing. */
+	virtual void MoveToItem(int32 ItemIndex) = 0;
 	virtual const TCHAR* GetHostRole() const = 0;
 
 	/** Which item was asked to be scrolled to since the last call; INDEX_NONE for none, or one that is not in the list (any more). */
@@ -58,10 +62,13 @@ private:
 	bool HandleTick(float DeltaTime);
 	void GenerateRows();
 	FHostInputResult ChooseItem(const FString& Shown);
+	void Scroll(int32 FirstItem, int32 NumItems);
+	FHostInputResult MoveSelection(int32 NumItems);
 	bool ClickFirst(TFunctionRef<bool(SWidget&)> IsMeant);
 	int32 FindItemOfRow(const SWidget& Row) const;
 
 	TPanelChildren<FSlotBase> Rows;
 	int32 FirstItemInView = 0;
+	int32 NumRowsInView = HostRowsInView;
 	bool bRefreshPending = false;
 };

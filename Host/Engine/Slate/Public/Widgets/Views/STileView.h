@@ -52,6 +52,11 @@ protected:
 		SListView<ItemType>::DescribeToHost(OutDescription);
 		this->NoteTileSize(ItemWidth.Get(), ItemHeight.Get(), OutDescription);
 	}
+	virtual void DescribeLookToHost(FHostWidgetLook& OutLook) const override
+	{
+		SListView<ItemType>::DescribeLookToHost(OutLook);
+		this->NoteTiles(ItemWidth.Get(), ItemHeight.Get(), OutLook);
+	}
 
 private:
 	TAttribute<float> ItemWidth; // Slate units

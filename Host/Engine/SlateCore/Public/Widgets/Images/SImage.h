@@ -24,8 +24,10 @@ public:
 
 protected:
 	virtual void DescribeToHost(FHostWidgetDescription& OutDescription) const override;
+	virtual void DescribeLookToHost(FHostWidgetLook& OutLook) const override;
 
 private:
 	TAttribute<const FSlateBrush*> Image;
 	TAttribute<FSlateColor> ColorAndOpacity;
+	TAttribute<TOptional<FVector2D>> DesiredSizeOverride;
 };

@@ -1,0 +1,50 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "Docks/DetailsDock.h"
+
+#include "Widgets/WidgetRoot.h"
+#include "Window/WindowServices.h"
+
+FDetailsDock::FDetailsDock(IWindowServices& InServices, QWidget* Parent)
+	: FDockView(Parent)
+	, Services(InServices)
+	, Empty(new QLabel(tr("Select an actor or an asset to see its properties."), this))
+{
+	QVBoxLayout* const Layout = new QVBoxLayout(this);
+	Layout->setContentsMargins(0, 0, 0, 0);
+	QScrollArea* const Area = new QScrollArea(this);
+	Area->setFrameShape(QFrame::NoFrame);
+	Area->setWidgetResizable(true);
+	FWidgetRoot* const Root = new FWidgetRoot(Services, [this] { return View ? TSharedPtr<SWidget>(View->GetWidget()) : TSharedPtr<SWidget>(); });
+	Area->setWidget(Root);
+	Empty->setAlignment(Qt::AlignCenter);
+	Empty->setWordWrap(true);
+	Empty->setEnabled(false);
+	Layout->addWidget(Empty);
+	Layout->addWidget(Area);
+}
+
+FDetailsDock::~FDetailsDock() = default;
+
+void FDetailsDock::Inspect(const TArray<UObject*>& Objects)
+{
+	if (View)
+	{
+		View->SetObjects(Objects);
+	}
+	else
+	{
+		View = std::make_unique<FHostDetailsView>(Objects);
+	}
+	Services.RequestFrame();
+}
+
+void FDetailsDock::Refresh()
+{
+	Empty->setVisible(!View || View->GetObjects().IsEmpty());
+}
+
+void FDetailsDock::LetGo()
+{
+	View.reset();
+}

@@ -1,0 +1,31 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include "QtHeaders.h"
+
+#include "Containers/UnrealString.h"
+#include "Internationalization/Text.h"
+#include "UObject/NameTypes.h"
+
+/** Texts of the editor as Qt has them, and back. Both are UTF-16. */
+namespace QtText
+{
+	inline QString From(const FString& Text)
+	{
+		return QString::fromUtf16(*Text, Text.Len());
+	}
+	inline QString From(const FText& Text)
+	{
+		return From(Text.ToString());
+	}
+	inline QString From(const FName& Name)
+	{
+		return Name.IsNone() ? QString() : From(Name.ToString());
+	}
+
+	inline FString ToEditor(const QString& Text)
+	{
+		return FString(static_cast<int32>(Text.size()), reinterpret_cast<const TCHAR*>(Text.utf16()));
+	}
+}

@@ -1,0 +1,26 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "Window/DockViews.h"
+
+#include "Docks/DetailsDock.h"
+#include "Docks/NotificationHistoryDock.h"
+#include "Docks/WelcomeDock.h"
+
+namespace DockViews
+{
+	template<typename DockType>
+	FDockView* MakeOne(IWindowServices& Services, QWidget* Parent)
+	{
+		return new DockType(Services, Parent);
+	}
+
+	const std::vector<FKind>& GetAll()
+	{
+		static const std::vector<FKind> Kinds = {
+			{"Welcome", "Welcome", Qt::TopDockWidgetArea, false, &MakeOne<FWelcomeDock>},
+			{"Details", "Details", Qt::RightDockWidgetArea, true, &MakeOne<FDetailsDock>},
+			{"Notifications", "Notifications", Qt::BottomDockWidgetArea, true, &MakeOne<FNotificationHistoryDock>},
+		};
+		return Kinds;
+	}
+}

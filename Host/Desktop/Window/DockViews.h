@@ -1,0 +1,23 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include "QtHeaders.h"
+
+class FDockView;
+class IWindowServices;
+
+/** The docks that the window always has; each row is one. */
+namespace DockViews
+{
+	struct FKind
+	{
+		const char* Name; // by which its place is remembered; never shown
+		const char* Title;
+		Qt::DockWidgetArea Area;
+		bool bOpenAtFirst;
+		FDockView* (*Make)(IWindowServices& Services, QWidget* Parent);
+	};
+
+	const std::vector<FKind>& GetAll();
+}

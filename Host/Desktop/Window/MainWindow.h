@@ -1,0 +1,99 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include "QtHeaders.h"
+
+#include "Look/Brushes.h"
+#include "Session/DesktopEditor.h"
+#include "Window/PanelDocks.h"
+#include "Window/Toasts.h"
+#include "Window/WindowServices.h"
+
+#include <vector>
+
+class FDockView;
+class FEditorMenus;
+class FStatusLine;
+
+/** The editor's window: menus, the toolbar, docks, notifications and the status line, brought up to date once a frame. */
+class FMainWindow : public QMainWindow, public IWindowServices
+{
+public:
+	/** @param InEditor outlives the window; nothing of it shows before it runs */
+	explicit FMainWindow(FDesktopEditor& InEditor);
+	virtual ~FMainWindow() override;
+
+	/** Lets time pass, and shows what came of it. The timer calls it; so do those who cannot wait. */
+	void Frame();
+
+	/** Shows everything as it is, also while the editor is in the middle of something, such as between two steps of a script. */
+	void ShowNow();
+
+	/** Lets so much time pass, whatever the clock says, and shows what came of it. */
+	void Let(double Seconds);
+
+	/** See IViewHost::GetLeastRows(). */
+	void SetLeastRows(int InLeastRows) { LeastRows = InLeastRows; }
+
+	/** Shows what to try first, unless that was closed once. */
+	void Welcome();
+
+	/** From now on, frames come by themselves. */
+	void StartClock();
+
+	//~ Begin IWindowServices
+	virtual FHostInputResult Give(const TSharedRef<SWidget>& Widget, const FHostInput& Input) override;
+	virtual void RequestFrame() override;
+	virtual FBrushes& GetBrushes() override { return Brushes; }
+	virtual int GetLeastRows() const override { return LeastRows; }
+	virtual QObject& GetContext() override { return *this; }
+	virtual void AddRoot(FWidgetRoot& Root) override;
+	virtual void RemoveRoot(FWidgetRoot& Root) override;
+	virtual FDesktopEditor& GetEditor() override { return Editor; }
+	virtual void ShowDock(const QString& Name) override;
+	virtual void Inspect(const TArray<UObject*>& Objects) override;
+	//~ End IWindowServices
+
+protected:
+	virtual void closeEvent(QCloseEvent* Event) override;
+	virtual void resizeEvent(QResizeEvent* Event) override;
+
+private:
+	struct FFixedDock
+	{
+		QString Name;
+		QDockWidget* Dock = nullptr;
+		FDockView* View = nullptr;
+	};
+
+	void MakeToolbar();
+	void MakeDocks();
+	void ArrangeAtFirst();
+	void Refresh();
+	void RefreshAll();
+	TSharedPtr<SWidget> FindToolbar();
+	TOptional<FHostAnswer> Ask(const FHostQuestion& Question);
+	bool MayClose();
+	void LetGo();
+	void TellLost(const TArray<FString>& Lost);
+	void TellBroken(const FString& Reason);
+	void RestoreArrangement();
+	void KeepArrangement() const;
+	QString GetSettingsFile() const;
+
+	FDesktopEditor& Editor;
+	FBrushes Brushes;
+	std::vector<FWidgetRoot*> Roots;
+	std::vector<FFixedDock> Docks;
+	FPanelDocks Panels;
+	FToasts Toasts;
+	FStatusLine* Status;
+	FEditorMenus* Menus;
+	QTimer Timer;
+	QElapsedTimer SinceToolbar;
+	TSharedPtr<SWidget> Toolbar; // as it was made last; let go of with the editor
+	int LeastRows = 0;
+	bool bFrameRequested = false;
+	bool bRefreshing = false;
+};
