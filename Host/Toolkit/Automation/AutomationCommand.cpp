@@ -8,7 +8,6 @@
 #include "Console.h"
 #include "EditorArguments.h"
 #include "EditorHost.h"
-#include "HostPaths.h"
 #include "HostProblems.h"
 #include "Misc/Paths.h"
 #include "ProjectArgument.h"
