@@ -64,26 +64,3 @@ TEST_F(CommandSets, RegisterOnceInEachEditor)
 	FTestCommands::Unregister();
 	EXPECT_FALSE(FTestCommands::IsRegistered());
 }
-
-TEST_F(CommandSets, RunOnlyWhatIsMappedAndAllowed)
-{
-	FTestCommands::Register();
-	const FTestCommands& Commands = FTestCommands::Get();
-	int32 NumRuns = 0;
-	bool bAllowed = false;
-	const TSharedRef<FUICommandList> List = MakeShared<FUICommandList>();
-	List->MapAction(Commands.OpenPanel, FExecuteAction::CreateLambda([&NumRuns] { ++NumRuns; }), FCanExecuteAction::CreateLambda([&bAllowed] { return bAllowed; }));
-
-	EXPECT_FALSE(List->ExecuteAction(Commands.SaveAll.ToSharedRef())) << "not mapped";
-	EXPECT_FALSE(List->ExecuteAction(Commands.OpenPanel.ToSharedRef())) << "not allowed";
-	bAllowed = true;
-	EXPECT_TRUE(List->ExecuteAction(Commands.OpenPanel.ToSharedRef()));
-	EXPECT_EQ(NumRuns, 1);
-
-	const TSharedRef<FUICommandList> Outer = MakeShared<FUICommandList>();
-	Outer->MapAction(Commands.SaveAll, FExecuteAction::CreateLambda([&NumRuns] { NumRuns += 10; }), FCanExecuteAction());
-	Outer->Append(List);
-	EXPECT_TRUE(Outer->ExecuteAction(Commands.OpenPanel.ToSharedRef())) << "from the appended list";
-	EXPECT_TRUE(Outer->ExecuteAction(Commands.SaveAll.ToSharedRef()));
-	EXPECT_EQ(NumRuns, 12);
-}

@@ -54,21 +54,6 @@ TEST_F(ToolMenus, RunsStartUpCallbacksOnceMenusAreReady)
 	EXPECT_EQ(Ran.Num(), 2) << "callbacks belong to one editor";
 }
 
-TEST_F(ToolMenus, KeepsSectionsAndEntriesInOrderAndReplacesEntriesOfTheSameName)
-{
-	UToolMenu* Menu = UToolMenus::Get()->ExtendMenu("Test.Menu");
-	FToolMenuSection& First = Menu->FindOrAddSection("First", Text(TEXT("The First")));
-	First.AddMenuEntry("A", Text(TEXT("Alpha")), FText(), FSlateIcon(), Noting(TEXT("A")));
-	First.AddMenuEntry("B", Text(TEXT("Beta")), FText(), FSlateIcon(), Noting(TEXT("B")));
-	FToolMenuEntry Front = FToolMenuEntry::InitMenuEntry("C", Text(TEXT("Gamma")), FText(), FSlateIcon(), Noting(TEXT("C")));
-	Front.InsertPosition = FToolMenuInsert("B", EToolMenuInsertType::Before);
-	First.AddEntry(Front);
-	First.AddMenuEntry("A", Text(TEXT("Alpha again")), FText(), FSlateIcon(), Noting(TEXT("A2")));
-	Menu->AddSection("Zero", FText(), FToolMenuInsert("First", EToolMenuInsertType::Before)).AddMenuEntry("Z", Text(TEXT("Zed")), FText(), FSlateIcon(), FExecuteAction());
-	EXPECT_EQ(LabelsOf("Test.Menu"), "Zero:Zed, First:Alpha again, First:Gamma, First:Beta");
-	EXPECT_EQ(Utf8(HostToolMenus::List("Test.Menu", FToolMenuContext())[1].SectionLabel), "The First");
-}
-
 TEST_F(ToolMenus, MakesDynamicEntriesForEachContext)
 {
 	FToolMenuSection& Section = UToolMenus::Get()->ExtendMenu("Test.Menu")->FindOrAddSection("GetAssetActions");
@@ -112,18 +97,6 @@ TEST_F(ToolMenus, RefusesEntriesThatCannotRun)
 	EXPECT_EQ(Refusal(HostToolMenus::Run("Test.Menu", Context, TEXT("Hidden"))), "The menu Test.Menu has no entry \"Hidden\".");
 	EXPECT_EQ(Refusal(HostToolMenus::Run("Test.Menu", Context, TEXT("Empty"))), "The menu entry \"Empty\" does nothing by itself.");
 	EXPECT_TRUE(Ran.IsEmpty());
-}
-
-TEST_F(ToolMenus, AnOwnerTakesItsEntriesAway)
-{
-	UToolMenu* Menu = UToolMenus::Get()->ExtendMenu("Test.Menu");
-	Menu->FindOrAddSection("S").AddMenuEntry("Mine", Text(TEXT("Mine")), FText(), FSlateIcon(), FExecuteAction());
-	{
-		FToolMenuOwnerScoped OwnerScoped(this);
-		Menu->FindOrAddSection("S").AddMenuEntry("Theirs", Text(TEXT("Theirs")), FText(), FSlateIcon(), FExecuteAction());
-	}
-	UToolMenus::UnregisterOwner(this);
-	EXPECT_EQ(LabelsOf("Test.Menu"), "S:Mine");
 }
 
 TEST_F(ToolMenus, OpensMenusOfComboButtons)

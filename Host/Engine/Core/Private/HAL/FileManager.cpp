@@ -2,10 +2,13 @@
 
 #include "HAL/FileManager.h"
 
+#include "Containers/StringConv.h"
 #include "Containers/UnrealString.h"
 #include "HostFiles.h"
 #include "Logging/LogMacros.h"
 #include "Misc/Paths.h"
+
+#include <filesystem>
 
 DEFINE_LOG_CATEGORY_STATIC(LogFileManager, Log, All);
 
@@ -32,6 +35,28 @@ namespace FileManager
 		{
 			const FString Full = FPaths::ConvertRelativePathToFull(Path);
 			return (Tree || HostFiles::DirectoryExists(FPaths::GetPath(Full))) && HostFiles::MakeDirectory(Full);
+		}
+
+		bool DeleteDirectory(const TCHAR* Path, bool RequireExists, bool Tree) override
+		{
+			if (!HostFiles::DirectoryExists(Path))
+			{
+				return !RequireExists;
+			}
+			bool bEmpty = true;
+			if (Tree)
+			{
+				for (const FString& File : HostFiles::FindFilesIn(Path, FString()))
+				{
+					bEmpty &= HostFiles::Delete(File);
+				}
+				for (const FString& Folder : HostFiles::FindDirectories(Path))
+				{
+					bEmpty &= DeleteDirectory(*Folder, false, true);
+				}
+			}
+			std::error_code Fault; // not empty, or somebody else's
+			return bEmpty && !HostFiles::HasOverlay() && std::filesystem::remove(std::filesystem::path(TCHAR_TO_UTF8(Path)), Fault);
 		}
 
 		uint32 Copy(const TCHAR* Dest, const TCHAR* Src, bool Replace, bool EvenIfReadOnly) override
