@@ -2,6 +2,7 @@
 
 #include "Docks/DetailsDock.h"
 
+#include "Level/LevelActors.h"
 #include "Widgets/WidgetRoot.h"
 #include "Window/WindowServices.h"
 
@@ -39,12 +40,32 @@ void FDetailsDock::Inspect(const TArray<UObject*>& Objects)
 	Services.RequestFrame();
 }
 
+/** What is selected elsewhere stays until the level's selection changes. */
+void FDetailsDock::FollowSelection()
+{
+	const TArray<AActor*> Selected = LevelActors::GetSelected();
+	const std::vector<TWeakObjectPtr<AActor>> Now(Selected.begin(), Selected.end());
+	if (Now == Followed)
+	{
+		return;
+	}
+	Followed = Now;
+	TArray<UObject*> Objects;
+	for (AActor* const Actor : Selected)
+	{
+		Objects.Add(Actor);
+	}
+	Inspect(Objects);
+}
+
 void FDetailsDock::Refresh()
 {
+	FollowSelection();
 	Empty->setVisible(!View || View->GetObjects().IsEmpty());
 }
 
 void FDetailsDock::LetGo()
 {
 	View.reset();
+	Followed.clear();
 }
