@@ -9,7 +9,7 @@
 #include "EngineUtils.h"
 #include "Level/LevelActors.h"
 #include "Level/LevelPlacement.h"
-#include "MinimapLevelController.h"
+#include "Look/Theme.h"
 #include "QtText.h"
 #include "UnitVolumeActor.h"
 

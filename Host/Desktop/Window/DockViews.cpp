@@ -9,6 +9,7 @@
 #include "Docks/PlacementDock.h"
 #include "Docks/PlanDock.h"
 #include "Docks/ProjectSetupDock.h"
+#include "Docks/WelcomeDock.h"
 
 namespace DockViews
 {
@@ -24,6 +25,7 @@ namespace DockViews
 			{"Plan", "Plan", Qt::TopDockWidgetArea, true, &MakeOne<FPlanDock>},
 			{"Outliner", "Outliner", Qt::RightDockWidgetArea, true, &MakeOne<FOutlinerDock>, 1},
 			{"Placement", "Placement", Qt::RightDockWidgetArea, true, &MakeOne<FPlacementDock>, 1},
+			{"Welcome", "Welcome", Qt::TopDockWidgetArea, false, &MakeOne<FWelcomeDock>},
 			{"Details", "Details", Qt::RightDockWidgetArea, true, &MakeOne<FDetailsDock>},
 			{"Notifications", "Notifications", Qt::BottomDockWidgetArea, true, &MakeOne<FNotificationHistoryDock>},
 			{"OutputLog", "Output log", Qt::BottomDockWidgetArea, true, &MakeOne<FOutputLogDock>},
