@@ -57,6 +57,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSettings>
+#include <QSet>
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QStatusBar>

@@ -36,10 +36,10 @@ FCollisionSetup FCollisionSetup::Read()
 	Setup.Verdict = ToolkitVerdict::Read();
 	Setup.bHasProfile = SpoiledSetup::HasProfile();
 	Setup.Spoilers = SpoiledSetup::Find();
-	const UCollisionProfile* const Profiles = UCollisionProfile::Get();
-	for (int32 Index = 0; Index < Profiles->GetNumOfProfiles(); ++Index)
+	const UCollisionProfile* const Known = UCollisionProfile::Get();
+	for (int32 Index = 0; Index < Known->GetNumOfProfiles(); ++Index)
 	{
-		const FCollisionResponseTemplate& Profile = *Profiles->GetProfileByIndex(Index);
+		const FCollisionResponseTemplate& Profile = *Known->GetProfileByIndex(Index);
 		const bool bOwn = Profile.Name == FName(UnitVolumeCollisionLines::ProfileName);
 		Setup.Profiles.push_back({QtText::From(Profile.Name), QtText::From(Profile.ObjectTypeName), CollisionSetup::DescribeResponses(Profile), bOwn});
 	}

@@ -44,17 +44,18 @@ void FDetailsDock::Inspect(const TArray<UObject*>& Objects)
 void FDetailsDock::FollowSelection()
 {
 	const TArray<AActor*> Selected = LevelActors::GetSelected();
-	const std::vector<TWeakObjectPtr<AActor>> Now(Selected.begin(), Selected.end());
+	std::vector<TWeakObjectPtr<AActor>> Now;
+	TArray<UObject*> Objects;
+	for (AActor* const Actor : Selected)
+	{
+		Now.push_back(Actor);
+		Objects.Add(Actor);
+	}
 	if (Now == Followed)
 	{
 		return;
 	}
-	Followed = Now;
-	TArray<UObject*> Objects;
-	for (AActor* const Actor : Selected)
-	{
-		Objects.Add(Actor);
-	}
+	Followed = std::move(Now);
 	Inspect(Objects);
 }
 

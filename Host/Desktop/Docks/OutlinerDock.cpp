@@ -63,7 +63,8 @@ void FOutlinerDock::Act(const std::function<void()>& What)
 
 void FOutlinerDock::Refresh()
 {
-	if (Tree->state() != QAbstractItemView::EditingState && Watch.HasChanged())
+	const bool bRenaming = Tree->viewport()->findChild<QLineEdit*>() != nullptr;
+	if (!bRenaming && Watch.HasChanged())
 	{
 		Fill();
 	}

@@ -115,7 +115,7 @@ void FPlacementDock::Fill()
 	List->clear();
 	for (const FName Category : HostPlacement::GetCategories())
 	{
-		QTreeWidgetItem* const Group = new QTreeWidgetItem(List, {QtText::From(Category)});
+		QTreeWidgetItem* const Group = new QTreeWidgetItem(List, {QtText::MakeTitle(QtText::From(Category))});
 		Group->setFlags(Qt::ItemIsEnabled);
 		for (const TSharedRef<FPlaceableItem>& Item : HostPlacement::GetItems(Category))
 		{

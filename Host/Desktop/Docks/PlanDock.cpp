@@ -4,7 +4,7 @@
 
 #include "HostEditor.h"
 #include "Level/LevelPlacement.h"
-#include "Look/Theme.h"
+#include "QtText.h"
 #include "Session/DesktopEditor.h"
 #include "Window/WindowServices.h"
 
@@ -256,10 +256,23 @@ void FPlanDock::FollowCamera()
 	}
 	if (NumCameraMoves >= 0 && NumMoves != NumCameraMoves && Active != nullptr)
 	{
-		const QPointF Target(Active->Target.X, Active->Target.Y);
-		View->PanTo(Target);
+		View->PanTo(QPointF(Active->Target.X, Active->Target.Y));
+		ShowFloorOf(Active->FocusedActors);
 	}
 	NumCameraMoves = NumMoves;
+}
+
+/** What stands on another floor would not be seen. */
+void FPlanDock::ShowFloorOf(const TArray<FString>& Labels)
+{
+	const std::vector<FPlanShape>& Shapes = View->GetPlan().GetShapes();
+	const bool bHidden = std::any_of(Shapes.begin(), Shapes.end(), [this, &Labels](const FPlanShape& Shape) {
+		return !FVolumePlan::IsOn(Shape, View->GetFloor()) && Labels.Contains(QtText::ToEditor(Shape.Label));
+	});
+	if (bHidden)
+	{
+		Floors->setCurrentIndex(0);
+	}
 }
 
 void FPlanDock::LetGo()

@@ -28,6 +28,7 @@ private:
 	void ReadLevel();
 	void ReadMinimap();
 	void FollowCamera();
+	void ShowFloorOf(const TArray<FString>& Labels);
 	void FillFloors();
 	void Select(const FPlanShape& Shape, FPlanView::ESelect How);
 	void Place(const QString& Key, QPointF Where);

@@ -5,6 +5,7 @@
 #include "Docks/PlanView.h"
 #include "Look/Theme.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace PlanPainter
@@ -177,7 +178,7 @@ void FPlanPainter::DrawActor(const FPlanShape& Shape)
 {
 	const QPointF Place = View.ToView(Shape.Centre);
 	const double Radius = PlanPainter::MarkerRadius;
-	const QPolygonF Diamond({Place + QPointF(0.0, -Radius), Place + QPointF(Radius, 0.0), Place + QPointF(0.0, Radius), Place + QPointF(-Radius, 0.0)});
+	const QPolygonF Diamond{Place + QPointF(0.0, -Radius), Place + QPointF(Radius, 0.0), Place + QPointF(0.0, Radius), Place + QPointF(-Radius, 0.0)};
 	Painter.setPen(QPen(Palette.color(Shape.bSelected ? QPalette::Highlight : QPalette::Text), Shape.bSelected ? 2.5 : 1.2));
 	Painter.setBrush(Palette.color(Shape.bSelected ? QPalette::Highlight : QPalette::Window));
 	Painter.drawPolygon(Diamond);

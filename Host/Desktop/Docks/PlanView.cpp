@@ -15,7 +15,8 @@ namespace PlanView
 	static const double ZoomStep = 1.25;
 	static const double MovePixels = 60.0;
 	static const double FitMargin = 50.0; // pixels
-	static const double LongestView = 2000.0; // centimetres around a single place
+	static const double RoomAround = 2000.0; // centimetres that show around what is selected
+	static const double LeastRoom = 500.0; // centimetres
 	static const double ReachPixels = 9.0; // of a click at a marker
 	static const int MarkMilliseconds = 900;
 }
@@ -77,7 +78,7 @@ void FPlanView::FitSelection()
 	{
 		if (Shape.bSelected)
 		{
-			const QRectF Own = QRectF(Shape.Centre, QSizeF()).adjusted(-PlanView::LongestView, -PlanView::LongestView, PlanView::LongestView, PlanView::LongestView);
+			const QRectF Own = QRectF(Shape.Centre, QSizeF(0.0, 0.0)).marginsAdded(QMarginsF(PlanView::RoomAround, PlanView::RoomAround, PlanView::RoomAround, PlanView::RoomAround));
 			Bounds = Bounds.isNull() ? Own : Bounds.united(Own);
 		}
 	}
@@ -93,8 +94,8 @@ void FPlanView::FitInto(const QRectF& Bounds)
 	Centre = Bounds.center();
 	const double AcrossPixels = std::max(40.0, width() - 2.0 * PlanView::FitMargin);
 	const double DownPixels = std::max(40.0, height() - 2.0 * PlanView::FitMargin);
-	const double Across = std::max(Bounds.width(), PlanView::LongestView / 4.0);
-	const double Down = std::max(Bounds.height(), PlanView::LongestView / 4.0);
+	const double Across = std::max(Bounds.width(), PlanView::LeastRoom);
+	const double Down = std::max(Bounds.height(), PlanView::LeastRoom);
 	PixelsPerCentimetre = std::clamp(std::min(AcrossPixels / Across, DownPixels / Down), PlanView::LeastPixelsPerCentimetre, PlanView::MostPixelsPerCentimetre);
 	update();
 }

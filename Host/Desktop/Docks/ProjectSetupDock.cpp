@@ -179,7 +179,7 @@ void FProjectSetupDock::ShowVerdict(const FCollisionSetup& Setup)
 		case EToolkitVerdict::Missing:
 			Verdict->setText(tr("✗ The profile or the channel that unit volumes need is missing."));
 			ProjectSetupDock::SetColor(*Verdict, Colors.Bad);
-			Lines.append(tr("The notification in the lower right corner adds both to Config/DefaultEngine.ini; the editor has to restart to read them."));
+			Lines.append(tr("Answer the notification in the lower right corner: it adds both to Config/DefaultEngine.ini, and restarts the editor to read them."));
 			break;
 		case EToolkitVerdict::None:
 			Verdict->setText(tr("The check's question was put off, or waits for a restart."));
@@ -208,7 +208,7 @@ void FProjectSetupDock::ShowProfiles(const FCollisionSetup& Setup)
 	}
 	for (const FCollisionSetup::FProfile& Profile : Setup.Profiles)
 	{
-		QTreeWidgetItem* const Item = new QTreeWidgetItem({Profile.Name, Profile.ObjectType, Profile.Responses});
+		QTreeWidgetItem* const Item = new QTreeWidgetItem(QStringList({Profile.Name, Profile.ObjectType, Profile.Responses}));
 		Item->setToolTip(2, Profile.Responses);
 		if (Profile.bOfUnitVolumes)
 		{

@@ -8,6 +8,7 @@
 #include "GameFramework/Actor.h"
 
 class UWorld;
+struct FSlateBrush;
 
 /** The open level's actors, and what a person does with them; each act is one step of undo. For use within FDesktopEditor::Do(). */
 namespace LevelActors
@@ -34,7 +35,7 @@ namespace LevelActors
 
 	/** What the class of an actor is called, and its icon in the style sets; null when it has none. */
 	QString GetClassTitle(const UClass& Class);
-	const struct FSlateBrush* FindClassIcon(const UClass& Class);
+	const FSlateBrush* FindClassIcon(const UClass& Class);
 }
 
 /**
