@@ -296,3 +296,51 @@ TEST_F(FLevelDocksTest, TellTheFloorsOfTheMinimap)
 	Let(0.0);
 	EXPECT_TRUE(Find<QLabel>("MinimapText").text().startsWith(QStringLiteral("No floor is active")));
 }
+
+TEST_F(FLevelDocksTest, WelcomeIsDismissedAndOpenedAgain)
+{
+	Open();
+	QAction* const Again = GetWindow().findChild<QAction*>(QStringLiteral("HelpWelcome"));
+	ASSERT_NE(Again, nullptr);
+	Again->trigger();
+	Let(0.0);
+	Click("WelcomeClose");
+	EXPECT_EQ(FindShown("WelcomeClose"), nullptr);
+	Again->trigger();
+	Let(0.0);
+	EXPECT_NE(FindShown("WelcomeClose"), nullptr);
+}
+
+TEST_F(FLevelDocksTest, TellTheCollisionSetUpAsTheCheckDoes)
+{
+	Open();
+	for (QDockWidget* const Dock : GetWindow().findChildren<QDockWidget*>(QStringLiteral("ProjectSetup")))
+	{
+		Dock->show();
+		Dock->raise();
+	}
+	Let(1.0);
+	const QLabel& Verdict = Find<QLabel>("CollisionVerdict");
+	EXPECT_TRUE(Verdict.text().contains(QStringLiteral("is missing"))) << Verdict.text().toStdString();
+	Click(FindButton(QStringLiteral("Skip")));
+	Let(1.0);
+	EXPECT_TRUE(Verdict.text().contains(QStringLiteral("put off"))) << Verdict.text().toStdString();
+	Click("CollisionCheck");
+	Let(1.0);
+	EXPECT_TRUE(Verdict.text().contains(QStringLiteral("is missing"))) << "asked once more";
+	Click(FindButton(QStringLiteral("Add to Project Config")));
+	Let(1.0);
+	Click(FindButton(QStringLiteral("Restart Editor")));
+	Let(6.0);
+	EXPECT_TRUE(Find<QLabel>("CollisionVerdict").text().contains(QStringLiteral("that unit volumes need"))) << Verdict.text().toStdString();
+	EXPECT_EQ(Find<QTreeWidget>("CollisionProfiles").topLevelItem(0)->text(0), QStringLiteral("UnitVolume"));
+
+	// A page of the settings opens in a tab of its own.
+	QTreeWidget& Pages = Find<QTreeWidget>("SettingsPages");
+	QTreeWidgetItem* const Page = FindRow(Pages, QStringLiteral("Velmorant SDKSettings"));
+	ASSERT_NE(Page, nullptr);
+	Pages.setCurrentItem(Page);
+	QTest::keyClick(&Pages, Qt::Key_Return);
+	Let(0.0);
+	EXPECT_NE(GetWindow().findChild<QDockWidget*>(QStringLiteral("Settings")), nullptr);
+}

@@ -2,6 +2,7 @@
 
 #include "TestHeaders.h"
 
+#include "Containers/StringConv.h"
 #include "Docks/LogFilter.h"
 
 namespace LogFilterTest
