@@ -150,27 +150,26 @@ void FPlanPainter::DrawVolume(const FPlanShape& Shape)
 	const bool bStraight = std::abs(std::remainder(Shape.Yaw, 90.0)) < 1.0;
 	const QPointF Half = bStraight ? QPointF(Outline.boundingRect().width(), Outline.boundingRect().height()) / 2.0 : QPointF(Lesser, Lesser) * 0.35;
 	const QPointF Middle = Outline.boundingRect().center();
-	DrawInside(Shape, QRectF(Middle - Half, Middle + Half).adjusted(5.0, 3.0, -5.0, -3.0));
+	DrawInside(Shape, QRectF(Middle - Half, Middle + Half).adjusted(4.0, 2.0, -4.0, -2.0));
 }
 
-/** The identifier, and the label below it, as far as there is room. */
+/** Identifier and label, as many lines as there is room for. */
 void FPlanPainter::DrawInside(const FPlanShape& Shape, const QRectF& Room)
 {
 	if (Room.width() < PlanPainter::LeastRoomForText.width() || Room.height() < PlanPainter::LeastRoomForText.height())
 	{
 		return;
 	}
+	QStringList Lines = Shape.Identifier.isEmpty() ? QStringList({QObject::tr("unassigned")}) : Shape.Identifier;
+	Lines.append(Shape.Label);
 	const QFontMetricsF Metrics(Painter.font());
-	const QString Title = Shape.Identifier.isEmpty() ? QObject::tr("unassigned") : Shape.Identifier;
-	const bool bBoth = Room.height() > 2.0 * Metrics.height();
-	QRectF Line(Room.left(), Room.center().y() - (bBoth ? Metrics.height() : Metrics.height() / 2.0), Room.width(), Metrics.height());
-	Painter.setPen(Palette.color(QPalette::Text));
-	Painter.drawText(Line, Qt::AlignCenter, Metrics.elidedText(Title, Qt::ElideRight, Line.width()));
-	if (bBoth)
+	const qsizetype NumLines = std::clamp<qsizetype>(static_cast<qsizetype>(Room.height() / Metrics.height()), 1, Lines.size());
+	QRectF Line(Room.left(), Room.center().y() - static_cast<double>(NumLines) * Metrics.height() / 2.0, Room.width(), Metrics.height());
+	for (qsizetype Index = 0; Index < NumLines; ++Index)
 	{
+		Painter.setPen(Index == 0 ? Palette.color(QPalette::Text) : Theme::GetColors().Subtle);
+		Painter.drawText(Line, Qt::AlignCenter, Metrics.elidedText(Lines[Index], Qt::ElideRight, Line.width()));
 		Line.translate(0.0, Metrics.height());
-		Painter.setPen(Theme::GetColors().Subtle);
-		Painter.drawText(Line, Qt::AlignCenter, Metrics.elidedText(Shape.Label, Qt::ElideRight, Line.width()));
 	}
 }
 

@@ -259,9 +259,9 @@ QString FPlanView::Describe(const FPlanShape& Shape) const
 	}
 	switch (Shape.State)
 	{
-		case EVolumeState::Assigned: Text += QStringLiteral("<br>%1").arg(Shape.Identifier.toHtmlEscaped()); break;
+		case EVolumeState::Assigned: Text += QStringLiteral("<br>%1").arg(Shape.Identifier.join(QStringLiteral(" · ")).toHtmlEscaped()); break;
 		case EVolumeState::Unassigned: Text += QStringLiteral("<br>%1").arg(tr("No unit is assigned")); break;
-		case EVolumeState::Duplicated: Text += QStringLiteral("<br>%1<br>%2").arg(Shape.Identifier.toHtmlEscaped(), tr("Another volume has the same identifier")); break;
+		case EVolumeState::Duplicated: Text += QStringLiteral("<br>%1<br>%2").arg(Shape.Identifier.join(QStringLiteral(" · ")).toHtmlEscaped(), tr("Another volume has the same identifier")); break;
 	}
 	return Text + QStringLiteral("<br>%1").arg(tr("%1 × %2 × %3 m").arg(Shape.HalfSize.width() / 50.0).arg(Shape.HalfSize.height() / 50.0).arg(Shape.Height / 100.0));
 }

@@ -19,10 +19,10 @@ namespace VolumePlan
 		return bUntouched ? EVolumeState::Unassigned : EVolumeState::Assigned;
 	}
 
-	static QString Describe(const FUnitVolumeUniqueIdentifier& Identifier)
+	static QStringList Describe(const FUnitVolumeUniqueIdentifier& Identifier)
 	{
 		const QString Number = QString::number(Identifier.UnitID);
-		return Identifier.HasValidKeycode() ? QStringLiteral("%1 · %2").arg(QtText::From(Identifier.Keycode), Number) : Number;
+		return Identifier.HasValidKeycode() ? QStringList({QtText::From(Identifier.Keycode), Number}) : QStringList({Number});
 	}
 
 	static FPlanShape MakeShape(AActor& Actor)
@@ -42,7 +42,7 @@ namespace VolumePlan
 			Shape.HalfSize = QSizeF(std::abs(Volume->BoxExtent.X * Scale.X), std::abs(Volume->BoxExtent.Y * Scale.Y));
 			Shape.Height = 2.0 * std::abs(Volume->BoxExtent.Z * Scale.Z);
 			Shape.State = GetStateOf(Volume->UniqueIdentifier);
-			Shape.Identifier = Shape.State == EVolumeState::Unassigned ? QString() : Describe(Volume->UniqueIdentifier);
+			Shape.Identifier = Shape.State == EVolumeState::Unassigned ? QStringList() : Describe(Volume->UniqueIdentifier);
 		}
 		return Shape;
 	}

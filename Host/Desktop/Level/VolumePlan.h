@@ -21,7 +21,7 @@ struct FPlanShape
 {
 	TWeakObjectPtr<AActor> Actor;
 	QString Label;
-	QString Identifier; // for people; empty for what is no volume, and while no unit is assigned
+	QStringList Identifier; // key code, where there is one, and number; empty for what is no volume, and while no unit is assigned
 	QPointF Centre;
 	QSizeF HalfSize; // empty for what is no volume
 	double Height = 0.0; // of the volume, from bottom to top
