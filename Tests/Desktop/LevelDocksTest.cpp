@@ -337,7 +337,7 @@ TEST_F(FLevelDocksTest, TellTheCollisionSetUpAsTheCheckDoes)
 
 	// A page of the settings opens in a tab of its own.
 	QTreeWidget& Pages = Find<QTreeWidget>("SettingsPages");
-	QTreeWidgetItem* const Page = FindRow(Pages, QStringLiteral("Velmorant SDKSettings"));
+	QTreeWidgetItem* const Page = FindRow(Pages, QStringLiteral("Velmorant SDK Settings"));
 	ASSERT_NE(Page, nullptr);
 	Pages.setCurrentItem(Page);
 	QTest::keyClick(&Pages, Qt::Key_Return);

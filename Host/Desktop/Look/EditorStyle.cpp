@@ -197,6 +197,13 @@ QIcon FEditorStyle::standardIcon(StandardPixmap Icon, const QStyleOption* Option
 	return QProxyStyle::standardIcon(Icon, Option, Widget);
 }
 
+QSize FEditorStyle::sizeFromContents(ContentsType Type, const QStyleOption* Option, const QSize& Size, const QWidget* Widget) const
+{
+	const QSize Wanted = QProxyStyle::sizeFromContents(Type, Option, Size, Widget);
+	const bool bPicked = Type == CT_ItemViewItem && (qobject_cast<const QTreeView*>(Widget) != nullptr || qobject_cast<const QListWidget*>(Widget) != nullptr);
+	return bPicked ? Wanted.expandedTo(QSize(0, EditorStyle::RowHeight)) : Wanted;
+}
+
 int FEditorStyle::pixelMetric(PixelMetric Metric, const QStyleOption* Option, const QWidget* Widget) const
 {
 	switch (Metric)

@@ -19,6 +19,7 @@ public:
 	virtual int pixelMetric(PixelMetric Metric, const QStyleOption* Option, const QWidget* Widget) const override;
 	virtual int styleHint(StyleHint Hint, const QStyleOption* Option, const QWidget* Widget, QStyleHintReturn* ReturnData) const override;
 	virtual QSize sizeFromContents(ContentsType Type, const QStyleOption* Option, const QSize& Size, const QWidget* Widget) const override;
+	virtual QSize sizeFromContents(ContentsType Type, const QStyleOption* Option, const QSize& Size, const QWidget* Widget) const override;
 	//~ End QStyle
 };
 
@@ -34,5 +35,6 @@ namespace EditorStyle
 	void DrawDownArrow(QPainter& Painter, const QRect& Rect, const QColor& Color);
 
 	constexpr int ControlHeight = 26;
+	constexpr int RowHeight = 21; // at least, of trees and lists that a person picks from
 	constexpr int Radius = 4;
 }

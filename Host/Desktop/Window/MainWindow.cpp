@@ -124,15 +124,32 @@ void FMainWindow::ArrangeAtFirst()
 	setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
 	setCorner(Qt::TopLeftCorner, Qt::LeftDockWidgetArea);
 	setCorner(Qt::TopRightCorner, Qt::RightDockWidgetArea);
+}
+
+/** Once everything has a size, as shares of it. */
+void FMainWindow::SizeAtFirst()
+{
+	QList<QDockWidget*> Across;
+	QList<int> Widths;
+	QList<QDockWidget*> Down;
+	QList<int> Heights;
 	for (const FFixedDock& Each : Docks)
 	{
-		switch (dockWidgetArea(Each.Dock))
+		const Qt::DockWidgetArea Area = dockWidgetArea(Each.Dock);
+		if (!Each.Dock->isVisible())
 		{
-			case Qt::RightDockWidgetArea: resizeDocks({Each.Dock}, {MainWindow::SideWidth}, Qt::Horizontal); break;
-			case Qt::BottomDockWidgetArea: resizeDocks({Each.Dock}, {MainWindow::BottomHeight}, Qt::Vertical); break;
-			default: break;
+			continue; // behind another tab, or closed
+		}
+		Across.append(Each.Dock);
+		Widths.append(Area == Qt::RightDockWidgetArea || Area == Qt::LeftDockWidgetArea ? MainWindow::SideWidth : width() - MainWindow::SideWidth);
+		if (Area == Qt::TopDockWidgetArea || Area == Qt::BottomDockWidgetArea)
+		{
+			Down.append(Each.Dock);
+			Heights.append(Area == Qt::BottomDockWidgetArea ? MainWindow::BottomHeight : height() - MainWindow::BottomHeight);
 		}
 	}
+	resizeDocks(Across, Widths, Qt::Horizontal);
+	resizeDocks(Down, Heights, Qt::Vertical);
 }
 
 void FMainWindow::Welcome()
@@ -310,6 +327,16 @@ bool FMainWindow::MayClose()
 	return Box.clickedButton() == Discard;
 }
 
+void FMainWindow::showEvent(QShowEvent* Event)
+{
+	QMainWindow::showEvent(Event);
+	if (!bArranged)
+	{
+		bArranged = true;
+		SizeAtFirst();
+	}
+}
+
 void FMainWindow::resizeEvent(QResizeEvent* Event)
 {
 	QMainWindow::resizeEvent(Event);
@@ -353,7 +380,7 @@ void FMainWindow::RestoreArrangement()
 {
 	const QSettings Settings(GetSettingsFile(), QSettings::IniFormat);
 	restoreGeometry(Settings.value(QStringLiteral("Window/Geometry")).toByteArray());
-	restoreState(Settings.value(QStringLiteral("Window/Arrangement")).toByteArray(), MainWindow::ArrangementVersion);
+	bArranged = restoreState(Settings.value(QStringLiteral("Window/Arrangement")).toByteArray(), MainWindow::ArrangementVersion);
 }
 
 void FMainWindow::KeepArrangement() const

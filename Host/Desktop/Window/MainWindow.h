@@ -57,6 +57,7 @@ public:
 
 protected:
 	virtual void closeEvent(QCloseEvent* Event) override;
+	virtual void showEvent(QShowEvent* Event) override;
 	virtual void resizeEvent(QResizeEvent* Event) override;
 
 private:
@@ -70,6 +71,7 @@ private:
 	void MakeToolbar();
 	void MakeDocks();
 	void ArrangeAtFirst();
+	void SizeAtFirst();
 	void Refresh();
 	void RefreshAll();
 	TSharedPtr<SWidget> FindToolbar();
@@ -94,6 +96,7 @@ private:
 	QElapsedTimer SinceToolbar;
 	TSharedPtr<SWidget> Toolbar; // as it was made last; let go of with the editor
 	int LeastRows = 0;
+	bool bArranged = false; // as a person did, or at first
 	bool bFrameRequested = false;
 	bool bRefreshing = false;
 };
