@@ -37,6 +37,10 @@ FMainWindow::FMainWindow(FDesktopEditor& InEditor)
 	setDockOptions(AnimatedDocks | AllowNestedDocks | AllowTabbedDocks | GroupedDragging);
 	setTabPosition(Qt::AllDockWidgetAreas, QTabWidget::North);
 	setDocumentMode(true);
+	setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
+	setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+	setCorner(Qt::TopLeftCorner, Qt::LeftDockWidgetArea);
+	setCorner(Qt::TopRightCorner, Qt::RightDockWidgetArea);
 	setStatusBar(Status);
 	MakeToolbar();
 	MakeDocks();
@@ -45,7 +49,6 @@ FMainWindow::FMainWindow(FDesktopEditor& InEditor)
 	Editor.OnRestarted = [this](const TArray<FString>& Lost) { TellLost(Lost); };
 	Editor.OnBroken = [this](const FString& Reason) { TellBroken(Reason); };
 	resize(MainWindow::FirstSize);
-	ArrangeAtFirst();
 	RestoreArrangement();
 	connect(&Timer, &QTimer::timeout, this, [this] { Frame(); });
 	Refresh();
@@ -119,15 +122,6 @@ void FMainWindow::MakeDocks()
 
 /** Wide middle, tools around it; what a person arranged takes its place. */
 void FMainWindow::ArrangeAtFirst()
-{
-	setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
-	setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
-	setCorner(Qt::TopLeftCorner, Qt::LeftDockWidgetArea);
-	setCorner(Qt::TopRightCorner, Qt::RightDockWidgetArea);
-}
-
-/** Once everything has a size, as shares of it. */
-void FMainWindow::SizeAtFirst()
 {
 	QList<QDockWidget*> Across;
 	QList<int> Widths;
@@ -327,20 +321,21 @@ bool FMainWindow::MayClose()
 	return Box.clickedButton() == Discard;
 }
 
+void FMainWindow::resizeEvent(QResizeEvent* Event)
+{
+	QMainWindow::resizeEvent(Event);
+	RequestFrame();
+}
+
+/** Docks take sizes once they have their place. */
 void FMainWindow::showEvent(QShowEvent* Event)
 {
 	QMainWindow::showEvent(Event);
 	if (!bArranged)
 	{
 		bArranged = true;
-		SizeAtFirst();
+		ArrangeAtFirst();
 	}
-}
-
-void FMainWindow::resizeEvent(QResizeEvent* Event)
-{
-	QMainWindow::resizeEvent(Event);
-	RequestFrame();
 }
 
 void FMainWindow::LetGo()

@@ -57,8 +57,8 @@ public:
 
 protected:
 	virtual void closeEvent(QCloseEvent* Event) override;
-	virtual void showEvent(QShowEvent* Event) override;
 	virtual void resizeEvent(QResizeEvent* Event) override;
+	virtual void showEvent(QShowEvent* Event) override;
 
 private:
 	struct FFixedDock
@@ -71,7 +71,6 @@ private:
 	void MakeToolbar();
 	void MakeDocks();
 	void ArrangeAtFirst();
-	void SizeAtFirst();
 	void Refresh();
 	void RefreshAll();
 	TSharedPtr<SWidget> FindToolbar();
@@ -96,7 +95,7 @@ private:
 	QElapsedTimer SinceToolbar;
 	TSharedPtr<SWidget> Toolbar; // as it was made last; let go of with the editor
 	int LeastRows = 0;
-	bool bArranged = false; // as a person did, or at first
+	bool bArranged = false; // as somebody left it, or once at first
 	bool bFrameRequested = false;
 	bool bRefreshing = false;
 };
