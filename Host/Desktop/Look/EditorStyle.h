@@ -19,7 +19,6 @@ public:
 	virtual int pixelMetric(PixelMetric Metric, const QStyleOption* Option, const QWidget* Widget) const override;
 	virtual int styleHint(StyleHint Hint, const QStyleOption* Option, const QWidget* Widget, QStyleHintReturn* ReturnData) const override;
 	virtual QSize sizeFromContents(ContentsType Type, const QStyleOption* Option, const QSize& Size, const QWidget* Widget) const override;
-	virtual QSize sizeFromContents(ContentsType Type, const QStyleOption* Option, const QSize& Size, const QWidget* Widget) const override;
 	//~ End QStyle
 };
 
