@@ -7,10 +7,10 @@
 
 using namespace CollisionIni;
 
-class FCheckConfigurations : public FProjectOnDisk
+class CheckConfigurations : public FProjectOnDisk
 {
 protected:
-	FCheckConfigurations() { MakeProject(); }
+	CheckConfigurations() { MakeProject(); }
 
 	/** Runs the program and expects that everything is as it was. */
 	void ExpectRefused(const std::vector<std::string>& Options, const std::string& Reason) const
@@ -24,7 +24,7 @@ protected:
 	}
 };
 
-TEST_F(FCheckConfigurations, RepairWorksOnFilesOfEveryShape)
+TEST_F(CheckConfigurations, RepairWorksOnFilesOfEveryShape)
 {
 	const std::string Two = ProfileLine + ChannelLine;
 	std::string Unended = SectionLine + GlassLine;
@@ -61,7 +61,7 @@ TEST_F(FCheckConfigurations, RepairWorksOnFilesOfEveryShape)
 	EXPECT_EQ(Check().ExitStatus, 0);
 }
 
-TEST_F(FCheckConfigurations, TheVerdictIsTheToolkits)
+TEST_F(CheckConfigurations, TheVerdictIsTheToolkits)
 {
 	std::string OtherSpacing = ChannelLine;
 	OtherSpacing.erase(OtherSpacing.find(", Name") + 1, 1);
@@ -88,7 +88,7 @@ TEST_F(FCheckConfigurations, TheVerdictIsTheToolkits)
 	}
 }
 
-TEST_F(FCheckConfigurations, AProjectWithoutTheSectionGetsTheEnginesProfilesFirst)
+TEST_F(CheckConfigurations, AProjectWithoutTheSectionGetsTheEnginesProfilesFirst)
 {
 	const std::string Told = " With them come the engine's current profiles (19 lines), which a project without a collision section gets first.\n";
 	const std::string Engine = "  the engine's current profiles:\n    [/Script/Engine.CollisionProfile]\n    +Profiles=(Name=\"NoCollision\",";
@@ -124,7 +124,8 @@ TEST_F(FCheckConfigurations, AProjectWithoutTheSectionGetsTheEnginesProfilesFirs
 
 		Restore();
 		const nlohmann::json Report = nlohmann::json::parse(Check({"--repair", "--json"}).Output, nullptr, false);
-		ASSERT_TRUE(Foretold.is_object() && Report.is_object());
+		ASSERT_TRUE(Foretold.is_object());
+		ASSERT_TRUE(Report.is_object());
 		ASSERT_EQ(Report["writtenFiles"].size(), 1u);
 		const nlohmann::json& Written = Report["writtenFiles"][0];
 		EXPECT_EQ(Foretold["repairWrites"], Report["writtenFiles"]) << "what was foretold is done";
@@ -135,7 +136,7 @@ TEST_F(FCheckConfigurations, AProjectWithoutTheSectionGetsTheEnginesProfilesFirs
 	}
 }
 
-TEST_F(FCheckConfigurations, ARepairThatDoesNotHelpIsForetoldAndWritesNothing)
+TEST_F(CheckConfigurations, ARepairThatDoesNotHelpIsForetoldAndWritesNothing)
 {
 	const std::string Ini = Folder.GetNative(IniFile).string();
 	const std::string Rule = "the toolkit adds its lines behind the last line that begins with +Profiles=";
@@ -158,9 +159,14 @@ TEST_F(FCheckConfigurations, ARepairThatDoesNotHelpIsForetoldAndWritesNothing)
 		{"a profile before the first section", GlassLine + SectionLine + "Key=1\n", "", Rule + ", which is " + Ini + "(1), in no section", ProfileLine + ChannelLine, ""},
 		{"a profile that goes on in the next line", SectionLine + "+Profiles=(Name=\"Any\")\\\n", "", "the lines that the toolkit adds have no effect where it adds them", ProfileLine + ChannelLine, ""},
 		{"profiles that are cleared below", SectionLine + GlassLine + "; note\n!Profiles=ClearArray\n", "", "line 4 of " + Ini + " has to go first", "", Ini + "(4)"},
+		{"profiles that are cleared above those of another section", SectionLine + ProfileLine + ChannelLine + "!Profiles=ClearArray\n[/Script/Other]\n" + GlassLine, "", "line 4 of " + Ini + " has to go first", "", Ini + "(4)"},
 		{"profiles that a layer clears", SectionLine + GlassLine, SectionLine + "!Profiles=ClearArray\n", "line 2 of " + Layer + " has to go first", "", Layer + "(2)"},
 		{"both lines, but a layer clears them", SectionLine + ProfileLine + ChannelLine, SectionLine + "!Profiles=ClearArray\n", "line 2 of " + Layer + " has to go first", "", Layer + "(2)"},
 	};
+	const std::filesystem::path Here = std::filesystem::current_path();
+	Folder.Write("Config/DefaultEngine.ini", "");
+	std::filesystem::permissions(Folder.GetNative("Config/DefaultEngine.ini"), std::filesystem::perms(0444));
+	std::filesystem::current_path(Folder.GetNative()); // a project in the working directory is none of check's business
 	for (const auto& Case : Cases)
 	{
 		SCOPED_TRACE(Case.Behaviour);
@@ -196,17 +202,21 @@ TEST_F(FCheckConfigurations, ARepairThatDoesNotHelpIsForetoldAndWritesNothing)
 		EXPECT_EQ(Check({"--repair"}).ExitStatus, 0);
 		EXPECT_EQ(Check({"--undo"}).ExitStatus, Case.ByHand.empty() && Case.Ini.find(ProfileLine) == std::string::npos ? 0 : 2) << "lines that were added by hand need no repair";
 	}
+	std::filesystem::current_path(Here);
 }
 
-TEST_F(FCheckConfigurations, AReadOnlyFileIsRefused)
+TEST_F(CheckConfigurations, AReadOnlyFileIsRefused)
 {
 	WriteIni(SectionLine + GlassLine);
 	std::filesystem::permissions(Folder.GetNative(IniFile), std::filesystem::perms(0444));
 	ExpectRefused({"--repair"}, "read-only");
-	EXPECT_EQ(Check().ExitStatus, 1) << "looking at it is no matter";
+	const FProgramResult Looked = Check({"--diff"});
+	EXPECT_EQ(Looked.ExitStatus, 1) << "looking at it is no matter";
+	EXPECT_EQ(Looked.Output.find("@@"), std::string::npos);
+	EXPECT_NE(Looked.Errors.find("read-only"), std::string::npos) << Looked.Errors;
 }
 
-TEST_F(FCheckConfigurations, AFolderInItsPlaceIsRefused)
+TEST_F(CheckConfigurations, AFolderInItsPlaceIsRefused)
 {
 	std::filesystem::create_directories(Folder.GetNative(IniFile));
 	ExpectRefused({"--repair"}, "folder");
@@ -216,7 +226,7 @@ TEST_F(FCheckConfigurations, AFolderInItsPlaceIsRefused)
 	ExpectRefused({"--repair"}, "the file cannot be written, its folder does not permit it. Check the permissions of the folder.");
 }
 
-TEST_F(FCheckConfigurations, BytesThatNoEncodingExplainsAreRefused)
+TEST_F(CheckConfigurations, BytesThatNoEncodingExplainsAreRefused)
 {
 	WriteIni(SectionLine + GlassLine + "; \xC3\x28 \xFF\n");
 	ExpectRefused({"--repair"}, "");

@@ -16,7 +16,7 @@
 
 using testing::UnorderedElementsAre;
 
-namespace
+namespace AssetTypesTest
 {
 	/** The lines of the menu of new assets that make assets of the toolkit. */
 	TArray<HostAssetTools::FNewAssetItem> GetToolkitItems()
@@ -50,6 +50,8 @@ namespace
 		return ToUtf8(FTextInspector::GetNamespace(Text).Get(FString(TEXT("none")))) + "|" + ToUtf8(FTextInspector::GetKey(Text).Get(FString(TEXT("none"))));
 	}
 }
+
+using namespace AssetTypesTest;
 
 class AssetTypes : public FToolkitTest
 {

@@ -17,7 +17,7 @@
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-namespace
+namespace LevelVariantActorTest
 {
 	const FOutcome Found{"Found LevelVariant at Current Level", "Updated current Actor with Configurator Data", SNotificationItem::CS_Success, 7.0f};
 	const FOutcome NoActor{"Failed Configuration Create LevelVariantActor", "Couldn't create a LevelVariantActor in current level", SNotificationItem::CS_Fail, 7.0f};
@@ -44,6 +44,8 @@ namespace
 		UVelmorantEditorUtilitiesLibrary::CreateLevelVariantActorInLevel(Asset);
 	}
 }
+
+using namespace LevelVariantActorTest;
 
 class LevelVariantActor : public FConfiguratorTest
 {

@@ -14,7 +14,7 @@
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-namespace
+namespace LevelVariantsTest
 {
 	const FOutcome Created{"Success Configuration Create LevelVariantSet", "", SNotificationItem::CS_Success, 7.0f};
 	const FOutcome Adopted{"Success Configuration Assigned Existing Asset", "It exits an LevelVariantSets with the suffix and had been assigned to configurator", SNotificationItem::CS_Success, 7.0f};
@@ -39,6 +39,8 @@ namespace
 		UVelmorantEditorUtilitiesLibrary::CreateVariantSetFromConfigurator(Asset);
 	}
 }
+
+using namespace LevelVariantsTest;
 
 class LevelVariants : public FConfiguratorTest
 {

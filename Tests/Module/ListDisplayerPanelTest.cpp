@@ -16,7 +16,7 @@
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-namespace
+namespace ListDisplayerPanelTest
 {
 	/** Two towers with units, not in the order of their numbers, and two configurators, of which the second applies to both towers. */
 	const char* const Data = R"(
@@ -31,6 +31,8 @@ namespace
 	const auto UnitsOfA = ElementsAre("10 A-1 First", "20 A-2 Second");
 	const auto Configurators = ElementsAre("-1 HT-B Brisa", "-1 HT-A Torre Alba", "-1 HT-B Brisa");
 }
+
+using namespace ListDisplayerPanelTest;
 
 class ListDisplayerPanel : public FToolkitTest
 {
@@ -144,17 +146,6 @@ TEST_F(ListDisplayerPanel, ShowsNothingUntilAProjectIsSelected)
 	SelectProject(TEXT("HT"));
 	EXPECT_THAT(Panel.TakeEvents(), ElementsAre("OnSelectionTypeChange(ELDIT_UnitGroup)", "OnListCountChange(0)", "OnSelectionTypeChange(ELDIT_UnitGroup)", "OnListCountChange(2)"));
 	EXPECT_THAT(Rows(Panel), TwoTowers);
-}
-
-TEST_F(ListDisplayerPanel, AProjectWithoutApiKeyIsNoSelectedOne)
-{
-	StartEditor();
-	SignIn();
-	SelectProject(TEXT("QV"));
-	FTestPanel Panel = ShowPanel();
-	Activate(Panel);
-	EXPECT_FALSE(ListOf(Panel)->IsProjectSelected());
-	EXPECT_THAT(Panel.TakeEvents(), IsEmpty());
 }
 
 TEST_F(ListDisplayerPanel, AClickOnAUnitGroupShowsItsUnitsByNumber)
@@ -288,7 +279,7 @@ TEST_F(ListDisplayerPanel, OneNavigationButtonIsSelectedAtATime)
 	EXPECT_THAT(NavBar(Panel), ElementsAre(false, false));
 }
 
-TEST_F(ListDisplayerPanel, ThereIsNoButtonBeforeTheFirstOrAfterTheLast)
+TEST_F(ListDisplayerPanel, OnlyButtonsOfTheBarHaveAnIndex)
 {
 	FTestPanel Panel = MakePanelOfUnits();
 	ListOf(Panel)->SetNavBarByIndex(0); // no buttons yet
@@ -299,6 +290,9 @@ TEST_F(ListDisplayerPanel, ThereIsNoButtonBeforeTheFirstOrAfterTheLast)
 	}
 	EXPECT_THAT(Panel.TakeEvents(), IsEmpty());
 	EXPECT_THAT(NavBar(Panel), ElementsAre(false, false));
+	ListOf(Panel)->SetNavBarButtons({}); // the old ones are still listened to
+	Panel.Click(TEXT("NavUnits"));
+	EXPECT_THAT(Panel.TakeEvents(), ElementsAre("OnNavBarButtonChanged(-1)"));
 }
 
 TEST_F(ListDisplayerPanel, NavigationIsIgnoredWithoutATarget)
@@ -321,20 +315,12 @@ TEST_F(ListDisplayerPanel, NavigationIsIgnoredWithoutApiKey)
 	SelectProject(TEXT("QV"));
 	FTestPanel Panel = ShowPanel();
 	Activate(Panel);
+	EXPECT_FALSE(ListOf(Panel)->IsProjectSelected());
 	GetRequests()->SetSelectedUnitGroup("QV-P");
 	ASSERT_TRUE(ListOf(Panel)->IsUnitGroupTarget());
 	SetNavBar(Panel);
 	ListOf(Panel)->SetNavBarByIndex(0);
 	EXPECT_THAT(Panel.TakeEvents(), IsEmpty());
-}
-
-TEST_F(ListDisplayerPanel, AButtonThatIsNotOfTheBarIsNoIndex)
-{
-	FTestPanel Panel = MakePanelOfUnits();
-	SetNavBar(Panel);
-	ListOf(Panel)->SetNavBarButtons({}); // the old ones are still listened to
-	Panel.Click(TEXT("NavUnits"));
-	EXPECT_THAT(Panel.TakeEvents(), ElementsAre("OnNavBarButtonChanged(-1)"));
 }
 
 TEST_F(ListDisplayerPanel, AMissingButtonOfTheBarKeepsItsIndex)

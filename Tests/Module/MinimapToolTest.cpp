@@ -15,7 +15,7 @@
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-namespace
+namespace MinimapToolTest
 {
 	const FWidgetTransform Moved(FVector2D(120.0, -40.0), FVector2D(0.5, 2.0), FVector2D(3.0, 4.0), 30.0f);
 
@@ -27,6 +27,8 @@ namespace
 		ASSERT_NE(Property->ImportText_InContainer(*Value, Actor, Actor, PPF_None), nullptr);
 	}
 }
+
+using namespace MinimapToolTest;
 
 class MinimapTool : public FToolkitTest
 {

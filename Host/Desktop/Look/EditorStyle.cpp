@@ -8,7 +8,7 @@
 
 namespace EditorStyle
 {
-	static void DrawTick(QPainter& Painter, const QRect& Rect, const QPalette& Palette, QStyle::State State)
+	void DrawTick(QPainter& Painter, const QRect& Rect, const QPalette& Palette, QStyle::State State)
 	{
 		const bool bOn = State.testFlag(QStyle::State_On);
 		const bool bSome = State.testFlag(QStyle::State_NoChange);
@@ -35,7 +35,7 @@ namespace EditorStyle
 	}
 
 	/** Lines on a field of 16 by 16. */
-	static QIcon MakeIcon(const std::vector<QPolygonF>& Lines)
+	QIcon MakeIcon(const std::vector<QPolygonF>& Lines)
 	{
 		QIcon Icon;
 		for (const int Scale : {1, 2})
@@ -251,7 +251,7 @@ QSize FEditorStyle::sizeFromContents(ContentsType Type, const QStyleOption* Opti
 
 namespace EditorStyle
 {
-	static void DrawFrame(QPainter& Painter, const QRect& Rect, const QColor& Fill, const QColor& Line)
+	void DrawFrame(QPainter& Painter, const QRect& Rect, const QColor& Fill, const QColor& Line)
 	{
 		Painter.save();
 		Painter.setRenderHint(QPainter::Antialiasing);

@@ -299,7 +299,7 @@ TEST(MulticastDelegate, SharesReferenceParametersAmongAllBindings)
 	CanClose.AddLambda([](bool& bCanClose) { bCanClose = false; });
 	bool bCanClose = true;
 	CanClose.Broadcast(bCanClose);
-	EXPECT_FALSE(bCanClose);
+	EXPECT_FALSE(bCanClose) << "the second listener forbids it";
 }
 
 TEST(MulticastDelegate, StaysUsableWhenABindingFailsACheck)

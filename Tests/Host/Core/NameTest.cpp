@@ -10,11 +10,13 @@
 
 static_assert(sizeof(FName) == 12 && std::is_trivially_copyable_v<FName>);
 
-namespace
+namespace NameTest
 {
 	// Built before main, when the name table may not exist yet.
 	const FName NameOfAStaticObject(TEXT("StaticNameTest_4"));
 }
+
+using namespace NameTest;
 
 TEST(Name, ComparesIgnoringCaseAndPrintsAsWritten)
 {

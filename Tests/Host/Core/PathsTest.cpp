@@ -8,7 +8,7 @@
 #include "HostProcess.h"
 #include "Misc/Paths.h"
 
-namespace
+namespace PathsTest
 {
 	class Paths : public FEditorFilesTest
 	{

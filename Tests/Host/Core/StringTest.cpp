@@ -9,7 +9,7 @@
 
 #include <cwctype>
 
-namespace
+namespace StringTest
 {
 	/** Equality of FString ignores case; most of what is tested here does not. */
 	void ExpectExactly(const FString& Actual, const TCHAR* Expected)
@@ -17,6 +17,8 @@ namespace
 		EXPECT_TRUE(Actual.Equals(Expected)) << "is " << testing::PrintToString(Actual) << ", should be " << testing::PrintToString(FString(Expected));
 	}
 }
+
+using namespace StringTest;
 
 TEST(String, OperatorsAndMapKeysIgnoreCaseAlsoBeyondAscii)
 {

@@ -4,7 +4,7 @@
 #include "TestWall.h"
 #include "UObject/SoftObjectPtr.h"
 
-namespace
+namespace SoftPathTest
 {
 	class SoftPath : public FObjectSystemTest
 	{

@@ -130,7 +130,7 @@ TEST_F(EditorRegistries, TheNewestLayoutOfAPropertyTypeCounts)
 	const int32 NumMade = FCustomization::NumMade;
 	EXPECT_TRUE(HostPropertyEditor::MakeCustomization("finish").IsValid());
 	EXPECT_EQ(FCustomization::NumMade, NumMade + 1);
-	EXPECT_FALSE(bOldUsed);
+	EXPECT_FALSE(bOldUsed) << "the later registration replaces the earlier one";
 	Editor.UnregisterCustomPropertyTypeLayout("Finish");
 	EXPECT_FALSE(HostPropertyEditor::MakeCustomization("Finish").IsValid());
 }

@@ -351,14 +351,14 @@ TEST_F(Transactions, TellObjectsAfterAllHaveChangedAndRecordNothingOfWhatTheyDoT
 	}
 	TArray<int32> Sums; // at each announcement
 	FCoreUObjectDelegates::OnObjectPropertyChanged.AddLambda([&](UObject*, FPropertyChangedEvent&) {
-		EXPECT_TRUE(GIsTransacting);
+		EXPECT_TRUE(GIsTransacting) << "while objects are told";
 		EXPECT_FALSE(Undo());
 		Sums.Add(First->Storey + Second->Storey);
 		SetStorey(*Second, 7);
 	});
 	int32 NumUndoRedo = 0;
 	FEditorDelegates::PostUndoRedo.AddLambda([&NumUndoRedo]() {
-		EXPECT_FALSE(GIsTransacting);
+		EXPECT_FALSE(GIsTransacting) << "after the step";
 		++NumUndoRedo;
 	});
 	Undo();

@@ -7,10 +7,10 @@
 #include "UiTestEditor.h"
 #include "Widgets/SWidget.h"
 
-class FComboBoxTest : public FUiTestEditor
+class ComboBox : public FUiTestEditor
 {
 protected:
-	FComboBoxTest()
+	ComboBox()
 		: Listener(NewObject<UTestComboListener>())
 	{
 		Listener->Combo = NewObject<UComboBoxString>();
@@ -34,7 +34,7 @@ protected:
 	TStrongObjectPtr<UTestComboListener> Listener;
 };
 
-TEST_F(FComboBoxTest, TellsOfSelectionsByCodeOnceAndAsDirect)
+TEST_F(ComboBox, TellsOfSelectionsByCodeOnceAndAsDirect)
 {
 	for (const bool bShown : {false, true})
 	{
@@ -53,14 +53,14 @@ TEST_F(FComboBoxTest, TellsOfSelectionsByCodeOnceAndAsDirect)
 	}
 }
 
-TEST_F(FComboBoxTest, SelectsTheFirstOfEqualOptions)
+TEST_F(ComboBox, SelectsTheFirstOfEqualOptions)
 {
 	Combo()->SetSelectedOption(TEXT("Harbor"));
 	EXPECT_EQ(Combo()->GetSelectedIndex(), 1);
 	EXPECT_EQ(Combo()->FindOptionIndex(TEXT("Nowhere")), INDEX_NONE);
 }
 
-TEST_F(FComboBoxTest, TellsOfAPersonsChoiceAsAMouseClick)
+TEST_F(ComboBox, TellsOfAPersonsChoiceAsAMouseClick)
 {
 	const TSharedRef<SWidget> Widget = Combo()->TakeWidget();
 	const FString Name = Combo()->GetName();
@@ -72,7 +72,7 @@ TEST_F(FComboBoxTest, TellsOfAPersonsChoiceAsAMouseClick)
 	EXPECT_EQ(Refusal(HostSnapshot::Choose(Widget, Name, TEXT("Valley"))), "The combo \"" + Utf8(Name) + "\" has no option \"Valley\".");
 }
 
-TEST_F(FComboBoxTest, ClearingTheOptionsClearsTheSelection)
+TEST_F(ComboBox, ClearingTheOptionsClearsTheSelection)
 {
 	const TSharedRef<SWidget> Widget = Combo()->TakeWidget();
 	Combo()->ClearOptions();
@@ -89,7 +89,7 @@ TEST_F(FComboBoxTest, ClearingTheOptionsClearsTheSelection)
 	EXPECT_EQ(Heard(), TArray<FString>{TEXT("Harbor 3")}) << "the same text is another option now";
 }
 
-TEST_F(FComboBoxTest, AnOpenBoxShowsNewOptionsOnlyWhenRefreshed)
+TEST_F(ComboBox, AnOpenBoxShowsNewOptionsOnlyWhenRefreshed)
 {
 	const TSharedRef<SWidget> Widget = Combo()->TakeWidget();
 	const auto Shown = [&Widget]() { return Utf8(HostSnapshot::Take(Widget)); };
@@ -112,7 +112,7 @@ TEST_F(FComboBoxTest, AnOpenBoxShowsNewOptionsOnlyWhenRefreshed)
 	EXPECT_EQ(Shown(), Box + "(1 option)\n") << "with what came between the request and the drawing";
 }
 
-TEST_F(FComboBoxTest, ShowsTheWidgetsThatAGeneratorMakes)
+TEST_F(ComboBox, ShowsTheWidgetsThatAGeneratorMakes)
 {
 	Combo()->OnGenerateWidgetEvent.BindDynamic(Listener.Get(), &UTestComboListener::MakeOption);
 	const TSharedRef<SWidget> Widget = Combo()->TakeWidget();

@@ -33,9 +33,9 @@ namespace CommandsTest
 #undef LOCTEXT_NAMESPACE
 
 using CommandsTest::FTestCommands;
-using FCommandsTest = FUiTestEditor;
+using CommandSets = FUiTestEditor;
 
-TEST_F(FCommandsTest, CarryTheirTextsIconsAndKeys)
+TEST_F(CommandSets, CarryTheirTextsIconsAndKeys)
 {
 	FTestCommands::Register();
 	const TSharedPtr<FUICommandInfo> Command = FTestCommands::Get().OpenPanel;
@@ -51,7 +51,7 @@ TEST_F(FCommandsTest, CarryTheirTextsIconsAndKeys)
 	EXPECT_EQ(FInputBindingManager::Get().FindCommandInContext(FName(TEXT("TestCommands")), FName(TEXT("OpenPanel"))), Command);
 }
 
-TEST_F(FCommandsTest, RegisterOnceInEachEditor)
+TEST_F(CommandSets, RegisterOnceInEachEditor)
 {
 	FTestCommands::NumRegistered = 0;
 	FTestCommands::Register();
@@ -65,7 +65,7 @@ TEST_F(FCommandsTest, RegisterOnceInEachEditor)
 	EXPECT_FALSE(FTestCommands::IsRegistered());
 }
 
-TEST_F(FCommandsTest, RunOnlyWhatIsMappedAndAllowed)
+TEST_F(CommandSets, RunOnlyWhatIsMappedAndAllowed)
 {
 	FTestCommands::Register();
 	const FTestCommands& Commands = FTestCommands::Get();

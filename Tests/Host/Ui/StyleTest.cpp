@@ -8,9 +8,9 @@
 #include "Textures/SlateIcon.h"
 #include "UiTestEditor.h"
 
-using FStyleTest = FUiTestEditor;
+using StyleSets = FUiTestEditor;
 
-TEST_F(FStyleTest, JoinsContentPathsWithOneSlash)
+TEST_F(StyleSets, JoinsContentPathsWithOneSlash)
 {
 	struct FCase
 	{
@@ -32,7 +32,7 @@ TEST_F(FStyleTest, JoinsContentPathsWithOneSlash)
 	}
 }
 
-TEST_F(FStyleTest, TheLaterBrushOfAKeyReplacesTheEarlierAndBothAreOnRecord)
+TEST_F(StyleSets, TheLaterBrushOfAKeyReplacesTheEarlierAndBothAreOnRecord)
 {
 	FSlateStyleSet Style(FName(TEXT("TestStyle")));
 	Style.Set(FName(TEXT("Logo")), new FSlateImageBrush(TEXT("First"), FVector2D(20.0, 20.0)));
@@ -49,7 +49,7 @@ TEST_F(FStyleTest, TheLaterBrushOfAKeyReplacesTheEarlierAndBothAreOnRecord)
 	FSlateStyleRegistry::UnRegisterSlateStyle(Style);
 }
 
-TEST_F(FStyleTest, UnknownKeysGiveABrushThatIsNotNull)
+TEST_F(StyleSets, UnknownKeysGiveABrushThatIsNotNull)
 {
 	const FSlateStyleSet Style(FName(TEXT("TestStyle")));
 	ASSERT_NE(Style.GetBrush(FName(TEXT("NoSuchKey"))), nullptr);
@@ -57,7 +57,7 @@ TEST_F(FStyleTest, UnknownKeysGiveABrushThatIsNotNull)
 	EXPECT_NE(FAppStyle::GetBrush(FName(TEXT("NoSuchKey"))), nullptr);
 }
 
-TEST_F(FStyleTest, IconsFindStyleSetsThatAreRegisteredLater)
+TEST_F(StyleSets, IconsFindStyleSetsThatAreRegisteredLater)
 {
 	const FSlateIcon Icon(FName(TEXT("LateStyle")), FName(TEXT("Logo")));
 	const FSlateBrush* Missing = Icon.GetIcon();

@@ -9,7 +9,7 @@
 #include "UiTestEditor.h"
 #include "Widgets/Text/STextBlock.h"
 
-class FToolMenusTest : public FUiTestEditor
+class ToolMenus : public FUiTestEditor
 {
 protected:
 	static FText Text(const TCHAR* String) { return FText::FromString(String); }
@@ -37,7 +37,7 @@ protected:
 	TArray<FString> Ran;
 };
 
-TEST_F(FToolMenusTest, RunsStartUpCallbacksOnceMenusAreReady)
+TEST_F(ToolMenus, RunsStartUpCallbacksOnceMenusAreReady)
 {
 	HostToolMenus::Stop();
 	const auto Note = [this](const TCHAR* What) { return FSimpleMulticastDelegate::FDelegate::CreateLambda([this, What] { Ran.Add(What); }); };
@@ -54,7 +54,7 @@ TEST_F(FToolMenusTest, RunsStartUpCallbacksOnceMenusAreReady)
 	EXPECT_EQ(Ran.Num(), 2) << "callbacks belong to one editor";
 }
 
-TEST_F(FToolMenusTest, KeepsSectionsAndEntriesInOrderAndReplacesEntriesOfTheSameName)
+TEST_F(ToolMenus, KeepsSectionsAndEntriesInOrderAndReplacesEntriesOfTheSameName)
 {
 	UToolMenu* Menu = UToolMenus::Get()->ExtendMenu("Test.Menu");
 	FToolMenuSection& First = Menu->FindOrAddSection("First", Text(TEXT("The First")));
@@ -69,7 +69,7 @@ TEST_F(FToolMenusTest, KeepsSectionsAndEntriesInOrderAndReplacesEntriesOfTheSame
 	EXPECT_EQ(Utf8(HostToolMenus::List("Test.Menu", FToolMenuContext())[1].SectionLabel), "The First");
 }
 
-TEST_F(FToolMenusTest, MakesDynamicEntriesForEachContext)
+TEST_F(ToolMenus, MakesDynamicEntriesForEachContext)
 {
 	FToolMenuSection& Section = UToolMenus::Get()->ExtendMenu("Test.Menu")->FindOrAddSection("GetAssetActions");
 	Section.AddDynamicEntry(NAME_None, FNewToolMenuSectionDelegate::CreateLambda([this](FToolMenuSection& InSection) {
@@ -87,7 +87,7 @@ TEST_F(FToolMenusTest, MakesDynamicEntriesForEachContext)
 	EXPECT_EQ(Ran, TArray<FString>{TEXT("open Oak")});
 }
 
-TEST_F(FToolMenusTest, ShowsWhatItsParentsHoldFirst)
+TEST_F(ToolMenus, ShowsWhatItsParentsHoldFirst)
 {
 	UToolMenus* Menus = UToolMenus::Get();
 	Menus->ExtendMenu("Test.Child")->FindOrAddSection("S").AddMenuEntry("C", Text(TEXT("child")), FText(), FSlateIcon(), FExecuteAction());
@@ -97,7 +97,7 @@ TEST_F(FToolMenusTest, ShowsWhatItsParentsHoldFirst)
 	EXPECT_EQ(LabelsOf("Test.Child"), "S:parent, S:child");
 }
 
-TEST_F(FToolMenusTest, RefusesEntriesThatCannotRun)
+TEST_F(ToolMenus, RefusesEntriesThatCannotRun)
 {
 	FToolMenuSection& Section = UToolMenus::Get()->ExtendMenu("Test.Menu")->FindOrAddSection("S");
 	FToolUIAction Never = Noting(TEXT("never"));
@@ -114,7 +114,7 @@ TEST_F(FToolMenusTest, RefusesEntriesThatCannotRun)
 	EXPECT_TRUE(Ran.IsEmpty());
 }
 
-TEST_F(FToolMenusTest, AnOwnerTakesItsEntriesAway)
+TEST_F(ToolMenus, AnOwnerTakesItsEntriesAway)
 {
 	UToolMenu* Menu = UToolMenus::Get()->ExtendMenu("Test.Menu");
 	Menu->FindOrAddSection("S").AddMenuEntry("Mine", Text(TEXT("Mine")), FText(), FSlateIcon(), FExecuteAction());
@@ -126,7 +126,7 @@ TEST_F(FToolMenusTest, AnOwnerTakesItsEntriesAway)
 	EXPECT_EQ(LabelsOf("Test.Menu"), "S:Mine");
 }
 
-TEST_F(FToolMenusTest, OpensMenusOfComboButtons)
+TEST_F(ToolMenus, OpensMenusOfComboButtons)
 {
 	FToolMenuSection& Section = UToolMenus::Get()->ExtendMenu("Test.ToolBar")->FindOrAddSection("PluginTools");
 	Section.AddEntry(FToolMenuEntry::InitComboButton("Tools", FUIAction(), FNewToolMenuDelegate::CreateLambda([this](UToolMenu* SubMenu) {
@@ -147,7 +147,7 @@ TEST_F(FToolMenusTest, OpensMenusOfComboButtons)
 	EXPECT_EQ(Utf8(HostSnapshot::Take(ToolBar)).find("Inner"), std::string::npos) << "the menu has closed";
 }
 
-TEST_F(FToolMenusTest, MakesTheContentAnewByAnyOfItsForms)
+TEST_F(ToolMenus, MakesTheContentAnewByAnyOfItsForms)
 {
 	int32 NumMade = 0;
 	const auto MakeText = [&NumMade]() -> TSharedRef<SWidget> { return SNew(STextBlock).Text(FText::AsNumber(++NumMade)); };
@@ -183,7 +183,7 @@ TEST_F(FToolMenusTest, MakesTheContentAnewByAnyOfItsForms)
 	}
 }
 
-TEST_F(FToolMenusTest, ToolbarsShowLabelsOnlyBesideIconsOfTheCalloutStyle)
+TEST_F(ToolMenus, ToolbarsShowLabelsOnlyBesideIconsOfTheCalloutStyle)
 {
 	const FSlateIcon Icon(FAppStyle::GetAppStyleSetName(), "Icons.Help");
 	FToolMenuSection& Section = UToolMenus::Get()->RegisterMenu("Test.ToolBar", NAME_None, EMultiBoxType::SlimHorizontalToolBar)->FindOrAddSection("S");

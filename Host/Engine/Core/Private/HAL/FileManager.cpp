@@ -11,56 +11,53 @@ DEFINE_LOG_CATEGORY_STATIC(LogFileManager, Log, All);
 
 namespace FileManager
 {
-	namespace
+	class FHostFileManager final : public IFileManager
 	{
-		class FHostFileManager final : public IFileManager
+	public:
+		//~ Begin IFileManager
+		bool FileExists(const TCHAR* Filename) override { return HostFiles::FileExists(Filename); }
+
+		bool DirectoryExists(const TCHAR* InDirectory) override { return HostFiles::DirectoryExists(InDirectory); }
+
+		bool Delete(const TCHAR* Filename, bool RequireExists, bool EvenReadOnly, bool Quiet) override
 		{
-		public:
-			//~ Begin IFileManager
-			bool FileExists(const TCHAR* Filename) override { return HostFiles::FileExists(Filename); }
+			const bool bMissing = HostFiles::GetKind(Filename) == HostFiles::EKind::Missing;
+			const HostFiles::EReadOnly ReadOnly = EvenReadOnly ? HostFiles::EReadOnly::Override : HostFiles::EReadOnly::Refuse;
+			const bool bDeleted = !(bMissing && RequireExists) && HostFiles::Delete(Filename, ReadOnly);
+			UE_CLOG(!bDeleted && !Quiet, LogFileManager, Warning, TEXT("Could not delete %s"), Filename);
+			return bDeleted;
+		}
 
-			bool DirectoryExists(const TCHAR* InDirectory) override { return HostFiles::DirectoryExists(InDirectory); }
+		bool MakeDirectory(const TCHAR* Path, bool Tree) override
+		{
+			const FString Full = FPaths::ConvertRelativePathToFull(Path);
+			return (Tree || HostFiles::DirectoryExists(FPaths::GetPath(Full))) && HostFiles::MakeDirectory(Full);
+		}
 
-			bool Delete(const TCHAR* Filename, bool RequireExists, bool EvenReadOnly, bool Quiet) override
+		uint32 Copy(const TCHAR* Dest, const TCHAR* Src, bool Replace, bool EvenIfReadOnly) override
+		{
+			std::string Bytes;
+			const bool bMayWrite = Replace || HostFiles::GetKind(Dest) == HostFiles::EKind::Missing;
+			const HostFiles::EReadOnly ReadOnly = EvenIfReadOnly ? HostFiles::EReadOnly::Override : HostFiles::EReadOnly::Refuse;
+			const bool bCopied = bMayWrite && HostFiles::Read(Src, Bytes) == HostFiles::ERead::Done && HostFiles::Write(Dest, Bytes, ReadOnly);
+			UE_CLOG(!bCopied, LogFileManager, Warning, TEXT("Could not copy %s to %s"), Src, Dest);
+			return bCopied ? COPY_OK : COPY_Fail;
+		}
+
+		void FindFiles(TArray<FString>& FoundFiles, const TCHAR* Directory, const TCHAR* FileExtension) override
+		{
+			FString Suffix = FileExtension != nullptr ? FileExtension : TEXT("");
+			if (!Suffix.IsEmpty() && !Suffix.StartsWith(TEXT(".")))
 			{
-				const bool bMissing = HostFiles::GetKind(Filename) == HostFiles::EKind::Missing;
-				const HostFiles::EReadOnly ReadOnly = EvenReadOnly ? HostFiles::EReadOnly::Override : HostFiles::EReadOnly::Refuse;
-				const bool bDeleted = !(bMissing && RequireExists) && HostFiles::Delete(Filename, ReadOnly);
-				UE_CLOG(!bDeleted && !Quiet, LogFileManager, Warning, TEXT("Could not delete %s"), Filename);
-				return bDeleted;
+				Suffix = TEXT(".") + Suffix;
 			}
-
-			bool MakeDirectory(const TCHAR* Path, bool Tree) override
+			for (const FString& File : HostFiles::FindFilesIn(Directory, Suffix))
 			{
-				const FString Full = FPaths::ConvertRelativePathToFull(Path);
-				return (Tree || HostFiles::DirectoryExists(FPaths::GetPath(Full))) && HostFiles::MakeDirectory(Full);
+				FoundFiles.Add(FPaths::GetCleanFilename(File));
 			}
-
-			uint32 Copy(const TCHAR* Dest, const TCHAR* Src, bool Replace, bool EvenIfReadOnly) override
-			{
-				std::string Bytes;
-				const bool bMayWrite = Replace || HostFiles::GetKind(Dest) == HostFiles::EKind::Missing;
-				const HostFiles::EReadOnly ReadOnly = EvenIfReadOnly ? HostFiles::EReadOnly::Override : HostFiles::EReadOnly::Refuse;
-				const bool bCopied = bMayWrite && HostFiles::Read(Src, Bytes) == HostFiles::ERead::Done && HostFiles::Write(Dest, Bytes, ReadOnly);
-				UE_CLOG(!bCopied, LogFileManager, Warning, TEXT("Could not copy %s to %s"), Src, Dest);
-				return bCopied ? COPY_OK : COPY_Fail;
-			}
-
-			void FindFiles(TArray<FString>& FoundFiles, const TCHAR* Directory, const TCHAR* FileExtension) override
-			{
-				FString Suffix = FileExtension != nullptr ? FileExtension : TEXT("");
-				if (!Suffix.IsEmpty() && !Suffix.StartsWith(TEXT(".")))
-				{
-					Suffix = TEXT(".") + Suffix;
-				}
-				for (const FString& File : HostFiles::FindFilesIn(Directory, Suffix))
-				{
-					FoundFiles.Add(FPaths::GetCleanFilename(File));
-				}
-			}
-			//~ End IFileManager
-		};
-	}
+		}
+		//~ End IFileManager
+	};
 }
 
 IFileManager& IFileManager::Get()

@@ -8,10 +8,7 @@
 
 namespace HostProcess
 {
-	namespace
-	{
-		THostState<TArray<FString>> OpenedUrls;
-	}
+	THostState<TArray<FString>> OpenedUrls;
 
 	const TArray<FString>& GetOpenedUrls()
 	{

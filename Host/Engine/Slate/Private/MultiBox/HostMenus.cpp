@@ -9,7 +9,7 @@
 
 namespace HostMenus
 {
-	static TArray<TWeakPtr<SComboButton>>& GetOpened()
+	TArray<TWeakPtr<SComboButton>>& GetOpened()
 	{
 		static THostState<TArray<TWeakPtr<SComboButton>>> State;
 		return State.Get();
