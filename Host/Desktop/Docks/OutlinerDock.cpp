@@ -71,7 +71,8 @@ void FOutlinerDock::Refresh()
 
 bool FOutlinerDock::IsRenaming() const
 {
-	return Tree->viewport()->findChild<QLineEdit*>() != nullptr;
+	const QLineEdit* const Field = Tree->viewport()->findChild<QLineEdit*>();
+	return Field != nullptr && Field->isVisible();
 }
 
 /** Rows stay while only the selection changes, and with them what is folded and where the list stands. */
