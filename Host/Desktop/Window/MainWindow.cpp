@@ -13,6 +13,8 @@
 #include "Window/StatusLine.h"
 
 #include <algorithm>
+#include <map>
+#include <utility>
 
 namespace MainWindow
 {
@@ -95,7 +97,7 @@ TSharedPtr<SWidget> FMainWindow::FindToolbar()
 
 void FMainWindow::MakeDocks()
 {
-	QDockWidget* LastIn[16] = {};
+	std::map<std::pair<int, int>, QDockWidget*> Firsts; // by area and stack
 	for (const DockViews::FKind& Kind : DockViews::GetAll())
 	{
 		QDockWidget* const Dock = new QDockWidget(tr(Kind.Title), this);
@@ -103,30 +105,45 @@ void FMainWindow::MakeDocks()
 		FDockView* const View = Kind.Make(*this, Dock);
 		Dock->setWidget(View);
 		addDockWidget(Kind.Area, Dock);
-		QDockWidget*& Last = LastIn[Kind.Area];
-		if (Last != nullptr)
+		const auto [First, bFirst] = Firsts.try_emplace({Kind.Area, Kind.Stack}, Dock);
+		if (!bFirst)
 		{
-			tabifyDockWidget(Last, Dock);
+			tabifyDockWidget(First->second, Dock);
 		}
-		Last = Last != nullptr ? Last : Dock;
 		Dock->setVisible(Kind.bOpenAtFirst);
 		Docks.push_back({QLatin1String(Kind.Name), Dock, View});
 		Menus->AddDock(*Dock);
+	}
+	for (const auto& First : Firsts)
+	{
+		First.second->raise();
 	}
 }
 
 /** Wide middle, tools around it; what a person arranged takes its place. */
 void FMainWindow::ArrangeAtFirst()
 {
+	QList<QDockWidget*> Across;
+	QList<int> Widths;
+	QList<QDockWidget*> Down;
+	QList<int> Heights;
 	for (const FFixedDock& Each : Docks)
 	{
-		switch (dockWidgetArea(Each.Dock))
+		const Qt::DockWidgetArea Area = dockWidgetArea(Each.Dock);
+		if (!Each.Dock->isVisible())
 		{
-			case Qt::RightDockWidgetArea: resizeDocks({Each.Dock}, {MainWindow::SideWidth}, Qt::Horizontal); break;
-			case Qt::BottomDockWidgetArea: resizeDocks({Each.Dock}, {MainWindow::BottomHeight}, Qt::Vertical); break;
-			default: break;
+			continue; // behind another tab, or closed
+		}
+		Across.append(Each.Dock);
+		Widths.append(Area == Qt::RightDockWidgetArea || Area == Qt::LeftDockWidgetArea ? MainWindow::SideWidth : width() - MainWindow::SideWidth);
+		if (Area == Qt::TopDockWidgetArea || Area == Qt::BottomDockWidgetArea)
+		{
+			Down.append(Each.Dock);
+			Heights.append(Area == Qt::BottomDockWidgetArea ? MainWindow::BottomHeight : height() - MainWindow::BottomHeight);
 		}
 	}
+	resizeDocks(Across, Widths, Qt::Horizontal);
+	resizeDocks(Down, Heights, Qt::Vertical);
 }
 
 void FMainWindow::Welcome()
