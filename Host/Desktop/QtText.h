@@ -28,4 +28,23 @@ namespace QtText
 	{
 		return FString(static_cast<int32>(Text.size()), reinterpret_cast<const TCHAR*>(Text.utf16()));
 	}
+
+	/** A name such as "VelmorantDeveloperPanel" as people write it. */
+	inline QString MakeTitle(const QString& Label)
+	{
+		QString Title;
+		for (qsizetype Index = 0; Index < Label.size(); ++Index)
+		{
+			const QChar Character = Label[Index];
+			if (Character == QLatin1Char('_'))
+			{
+				Title += QLatin1Char(' ');
+				continue;
+			}
+			const bool bBeforeLower = Index + 1 < Label.size() && Label[Index + 1].isLower();
+			const bool bWord = Character.isUpper() && !Title.isEmpty() && (Title.back().isLower() || (Title.back().isUpper() && bBeforeLower));
+			Title += bWord ? QStringLiteral(" ") + Character : QString(Character);
+		}
+		return Title;
+	}
 }

@@ -32,6 +32,9 @@ namespace Arguments
 		std::string Script;
 		std::string Service;
 		std::string Platform;
+		std::string Filter;
+		std::string Report;
+		std::string Compare;
 		std::string Plugin;
 		std::vector<std::string> Plugins;
 		bool bUnattended = false;
@@ -42,6 +45,7 @@ namespace Arguments
 		bool bRepair = false;
 		bool bUndo = false;
 		bool bJson = false;
+		bool bList = false;
 		bool bDryRun = false;
 		bool bWithTests = false;
 		bool bForce = false;
@@ -97,6 +101,21 @@ namespace Arguments
 		Run->add_flag("--json", Raw.bJson, "Report each step as a JSON object in a line of its own");
 		Run->footer("Ends with 0 when all went well, 1 when an expectation did not hold, 2 for bad usage or\nno such project, 3 when the script is wrong or could not go on, a file or the service's data\ncould not be read or written, or the output could not be written.");
 		return Run;
+	}
+
+	CLI::App* AddAutomation(CLI::App& App, FRaw& Raw)
+	{
+		CLI::App* const Automation = App.add_subcommand("automation", "Run the toolkit's automation tests, which the engine runs as well");
+		Automation->add_option("PROJECT", Raw.Project, "A .uproject file, or the folder that holds one; --list and --compare do without");
+		Automation->add_option("FILTER", Raw.Filter, "Only tests whose path contains this; several joined by +");
+		CLI::Option* const List = Automation->add_flag("--list", Raw.bList, "Print the paths of the tests, and run none");
+		CLI::Option* const Report = Automation->add_option("--report", Raw.Report, "Write index.json there, as the engine does")->type_name("FOLDER");
+		CLI::Option* const Compare = Automation->add_option("--compare", Raw.Compare, "Print what differs from a run in the engine: the index.json that it exported")->type_name("REPORT");
+		Automation->add_flag("--with-repair", Raw.bRepair, "Also run the test of the repair, which edits DefaultEngine.ini and puts it back");
+		Compare->excludes(List)->excludes(Report);
+		Report->excludes(List);
+		Automation->footer("Ends with 0 when all tests pass, or engine and host agree but for what is meant to differ, 1 when a\ntest fails or they differ, 2 for bad usage, no such project or no such test, 3 when a file could not\nbe read or written, or a report is not whole.");
+		return Automation;
 	}
 
 	CLI::App* AddInstall(CLI::App& App, FRaw& Raw)
@@ -158,6 +177,7 @@ namespace Arguments
 		const CLI::App* const Check = AddCheck(App, Raw);
 		const CLI::App* const Run = AddRun(App, Raw);
 		const CLI::App* const Install = AddInstall(App, Raw);
+		const CLI::App* const Automation = AddAutomation(App, Raw);
 		AddContract(App, Raw);
 		try
 		{
@@ -178,6 +198,10 @@ namespace Arguments
 		else if (Install->parsed())
 		{
 			OutArguments.Install = FInstallArguments{ToText(Raw.Plugin), Raw.bDryRun, Raw.bWithTests, Raw.bForce};
+		}
+		else if (Automation->parsed())
+		{
+			OutArguments.Automation = FAutomationArguments{ToText(Raw.Project), ToText(Raw.Filter), ToText(Raw.Report), ToText(Raw.Compare), Raw.bList, Raw.bRepair};
 		}
 		else
 		{

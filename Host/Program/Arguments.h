@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "Automation/AutomationCommand.h"
 #include "Check/CheckCommand.h"
 #include "Install/ContractCommand.h"
 #include "Install/InstallCommand.h"
@@ -15,6 +16,7 @@ struct FArguments
 	TOptional<FRunArguments> Run;
 	TOptional<FInstallArguments> Install;
 	TOptional<FContractArguments> Contract;
+	TOptional<FAutomationArguments> Automation;
 };
 
 namespace Arguments

@@ -38,6 +38,10 @@ namespace VelmorantMain
 		{
 			return CheckCommand::Run(Arguments.Check.GetValue());
 		}
+		if (Arguments.Automation.IsSet())
+		{
+			return AutomationCommand::Run(Arguments.Automation.GetValue());
+		}
 		if (Arguments.Install.IsSet())
 		{
 			return InstallCommand::Run(Arguments.Install.GetValue());

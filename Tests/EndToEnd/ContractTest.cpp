@@ -139,7 +139,7 @@ TEST_F(PluginContract, ListsWhatItCouldNotReadAndGoesOn)
 {
 	ReplaceInHeader("VlmButton.h", "UFUNCTION(BlueprintCallable, Category = \"Velmorant|Button\")\n\tvoid SetSelectionState", "UFUNCTION(BlueprintCallable, SealedEvent, Category = \"Velmorant|Button\")\n\tvoid SetSelectionState");
 	ReplaceInHeader("VelmorantSDKTypes.h", "FString ApiKey;", "FString ApiKey[2];");
-	ReplaceInHeader("UnitGroupWrapper.h", "#pragma once", "#pragma once\n/* never closed");
+	ReplaceInHeader("UnitGroupWrapper.h", "#pragma once", "#pragma once\nconst char* Broken = \"never closed;");
 	ReplaceInHeader("VlmText.h", "#pragma once", "#pragma once // \xA9 in Latin-1");
 	const FProgramResult Result = Compare();
 	EXPECT_EQ(Result.ExitStatus, 0) << Result.Output << Result.Errors;
@@ -148,7 +148,7 @@ TEST_F(PluginContract, ListsWhatItCouldNotReadAndGoesOn)
 	EXPECT_THAT(Unread, HasSubstr(GetPath(FindHeader("VlmButton.h")) + "("));
 	EXPECT_THAT(Unread, HasSubstr("'SealedEvent' in UFUNCTION()"));
 	EXPECT_THAT(Unread, HasSubstr("UPROPERTY 'ApiKey' is a C array"));
-	EXPECT_THAT(Unread, HasSubstr(GetPath(FindHeader("UnitGroupWrapper.h")) + "(4,1): error: this comment is never closed"));
+	EXPECT_THAT(Unread, HasSubstr(GetPath(FindHeader("UnitGroupWrapper.h")) + "(4,22): error: this string is not closed on its line"));
 }
 
 TEST_F(PluginContract, RefusesFoldersThatAreNotThere)

@@ -84,8 +84,11 @@ TEST_F(ModuleInstallation, PutsTheModuleIntoThePluginAndASecondTimeChangesNothin
 
 TEST_F(ModuleInstallation, ChangesOfTheDescriptorWhatItMust)
 {
-	const std::string Odd = "\xEF\xBB\xBF{ // the toolkit\r\n  \"Odd\" : [1,2 ,{\"a\" :null}],\"FileVersion\" : 3,\r\n  \"Modules\" :\r\n  [\r\n    /* kept */ {\"Name\" : \"VelmorantPro\",  \"Type\" : \"Runtime\"} , // of the game\r\n";
-	const std::string OddEnd = "  ],\r\n  \"Plugins\":[{\"Name\" : \"VelmorantSDK\",\"Enabled\" : true}/* last */],\r\n  /* \"Modules\" of the past */ \"More\":{}\r\n}";
+	const std::string Odd = "\xEF\xBB\xBF{ // the toolkit\r\n  \"Odd\" : [1,2 ,{\"a\" :null}],\"FileVersion\" : 3,\r\n  \"Modules\" :\r\n  [\r\n    /* kept */ {\"Name\" : \"VelmorantPro\",  \"Type\" : \"Runtime\"}";
+	const std::string OddPlugins = " // of the game\r\n  ],\r\n  \"Plugins\":[{\"Name\" : \"VelmorantSDK\",\"Enabled\" : true}";
+	const std::string OddEnd = "/* last */],\r\n  /* \"Modules\" of the past */ \"More\":{}\r\n}";
+	const std::string OddModule = ", // of the game\r\n    {\"Name\" : \"VelmorantProEditor\",  \"Type\" : \"Editor\",  \"LoadingPhase\" : \"Default\"}";
+	const std::string OddAdded = ", {\"Name\" : \"EditorScriptingUtilities\",\"Enabled\" : true}, {\"Name\" : \"VariantManagerContent\",\"Enabled\" : true}";
 	const std::string Plugins = "\"Plugins\": [ { \"Name\": \"EditorScriptingUtilities\", \"Enabled\": true }, { \"Name\": \"VariantManagerContent\", \"Enabled\": true } ]";
 	const std::string Lines = "{\n  \"Modules\": [\n    {\n      \"Name\": \"VelmorantPro\"\n    },\n";
 	const struct
@@ -94,8 +97,8 @@ TEST_F(ModuleInstallation, ChangesOfTheDescriptorWhatItMust)
 		std::string Before;
 		std::string After;
 	} Cases[] = {
-		{"comments, blanks, order and unknown members stay", Odd + OddEnd, Odd.substr(0, Odd.size() - 18) + ", // of the game\r\n    {\"Name\" : \"VelmorantProEditor\",  \"Type\" : \"Editor\",  \"LoadingPhase\" : \"Default\"}\r\n  ],\r\n  \"Plugins\":[{\"Name\" : \"VelmorantSDK\",\"Enabled\" : true}, {\"Name\" : \"EditorScriptingUtilities\",\"Enabled\" : true}, {\"Name\" : \"VariantManagerContent\",\"Enabled\" : true}/* last */],\r\n  /* \"Modules\" of the past */ \"More\":{}\r\n}"},
-		{"entries over several lines, a comma behind the last", Lines + "  ],\n}\n", Lines + "    {\n      \"Name\": \"VelmorantProEditor\",\n      \"Type\": \"Editor\",\n      \"LoadingPhase\": \"Default\"\n    },\n  ],\n  \"Plugins\": [\n    {\n      \"Name\": \"EditorScriptingUtilities\",\n      \"Enabled\": true\n    },\n    {\n      \"Name\": \"VariantManagerContent\",\n      \"Enabled\": true\n    },\n  ],\n}\n"},
+		{"comments, blanks, order and unknown members stay", Odd + OddPlugins + OddEnd, Odd + OddModule + OddPlugins.substr(15) + OddAdded + OddEnd},
+		{"entries over several lines, a comma behind the last", Lines + "  ],\n}\n", Lines + "    {\n      \"Name\": \"VelmorantProEditor\",\n      \"Type\": \"Editor\",\n      \"LoadingPhase\": \"Default\"\n    },\n  ],\n  \"Plugins\": [\n    {\n      \"Name\": \"EditorScriptingUtilities\",\n      \"Enabled\": true\n    },\n    {\n      \"Name\": \"VariantManagerContent\",\n      \"Enabled\": true\n    }\n  ],\n}\n"},
 		{"all on one line", "{ \"Modules\": [ { \"Name\": \"VelmorantPro\" } ], \"Plugins\": [] }", "{ \"Modules\": [ { \"Name\": \"VelmorantPro\" }, " + ModuleEntry() + " ], " + Plugins + " }"},
 		{"what is there with other values is put right, what is not written may be the default", "{ \"modules\": [ { \"Name\": \"VelmorantPro\" }, { \"name\": \"velmorantproeditor\", \"Type\": \"Runtime\" } ], \"Plugins\": [ { \"Name\": \"EditorScriptingUtilities\", \"Enabled\": false, \"Optional\": true }, { \"Name\": \"VariantManagerContent\" } ] }", "{ \"modules\": [ { \"Name\": \"VelmorantPro\" }, { \"name\": \"velmorantproeditor\", \"Type\": \"Editor\" } ], \"Plugins\": [ { \"Name\": \"EditorScriptingUtilities\", \"Enabled\": true, \"Optional\": true }, { \"Name\": \"VariantManagerContent\", \"Enabled\": true } ] }"},
 		{"a list with nothing but a comment", "{\n\t\"Modules\": [ { \"Name\": \"VelmorantPro\" } ],\n\t\"Plugins\": [\n\t\t// none yet\n\t]\n}\n", "{\n\t\"Modules\": [ { \"Name\": \"VelmorantPro\" }, " + ModuleEntry() + " ],\n\t\"Plugins\": [\n\t\t// none yet\n\t\t{ \"Name\": \"EditorScriptingUtilities\", \"Enabled\": true },\n\t\t{ \"Name\": \"VariantManagerContent\", \"Enabled\": true }\n\t]\n}\n"},
@@ -262,14 +265,14 @@ TEST_F(ModuleInstallation, LeavesWhereItIsEndedWhatAnotherRunCompletes)
 	{
 		int NumKilled = 0;
 		bool bKilled = true;
-		const auto Next = [NumFiles](int Rename) { return Rename + NumFiles / 4 < NumFiles ? Rename + NumFiles / 4 : std::max(Rename + 1, NumFiles - 1); };
+		const auto Next = [NumFiles, bOverwrite](int Rename) { return !bOverwrite && Rename + NumFiles / 4 < NumFiles ? Rename + NumFiles / 4 : std::max(Rename + 1, bOverwrite ? 0 : NumFiles - 1); };
 		for (int Rename = 0; bKilled; Rename = Next(Rename)) // of many files alike some, the last ones in every step
 		{
 			SCOPED_TRACE(std::to_string(Rename) + (bOverwrite ? ", over other files" : ""));
 			WriteDescriptor(Descriptor);
 			for (const auto& [Path, State] : Complete)
 			{
-				if (Path.find("/VelmorantProEditor/") != std::string::npos && Path.ends_with(".cpp") && bOverwrite)
+				if (Path.find("/Private/Configurators/") != std::string::npos && Path.ends_with(".cpp") && bOverwrite)
 				{
 					std::ofstream(Path) << "// of the version before\n";
 				}

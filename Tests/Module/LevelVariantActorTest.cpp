@@ -60,21 +60,6 @@ protected:
 	}
 };
 
-TEST_F(LevelVariantActor, IsSpawnedAboveTheOriginAndTakesTheData)
-{
-	StartEditor();
-	UVelmorantConfiguratorDataAsset* Asset = MakeDataAsset(TEXT("Tower"));
-	Place(Asset);
-
-	ASSERT_EQ(FindActors().size(), 1u);
-	const AVelmorantLevelVariantSetsActor* Actor = FindActors()[0];
-	EXPECT_EQ(Actor->GetActorLocation(), FVector(0.0, 0.0, 500.0));
-	EXPECT_EQ(Actor->GetActorRotation(), FRotator(0.0, 0.0, 0.0));
-	EXPECT_EQ(ToUtf8(Actor->LevelVariantSets.ToString()), "/Game/Towers/Sets.Tower");
-	EXPECT_EQ(Actor->ConfiguratorData, Asset);
-	EXPECT_THAT(TakeOutcomes(), IsEmpty()) << "selection and camera tell enough";
-}
-
 TEST_F(LevelVariantActor, IsSelectedAloneAndInView)
 {
 	StartEditor();

@@ -226,6 +226,15 @@ int FEditorStyle::styleHint(StyleHint Hint, const QStyleOption* Option, const QW
 	}
 }
 
+namespace EditorStyle
+{
+	/** Not the lists of combos, nor text by lines. */
+	static bool IsPickedFrom(const QWidget* Widget)
+	{
+		return qobject_cast<const QTreeView*>(Widget) != nullptr || qobject_cast<const QListWidget*>(Widget) != nullptr;
+	}
+}
+
 QSize FEditorStyle::sizeFromContents(ContentsType Type, const QStyleOption* Option, const QSize& Size, const QWidget* Widget) const
 {
 	const QSize Wanted = QProxyStyle::sizeFromContents(Type, Option, Size, Widget);
@@ -235,6 +244,7 @@ QSize FEditorStyle::sizeFromContents(ContentsType Type, const QStyleOption* Opti
 		case CT_LineEdit: return QSize(Wanted.width(), EditorStyle::ControlHeight);
 		case CT_HeaderSection: return QSize(Wanted.width(), EditorStyle::ControlHeight);
 		case CT_MenuItem: return QSize(Wanted.width(), qMax(Wanted.height(), EditorStyle::ControlHeight - 2));
+		case CT_ItemViewItem: return EditorStyle::IsPickedFrom(Widget) ? Wanted.expandedTo(QSize(0, EditorStyle::RowHeight)) : Wanted;
 		default: return Wanted;
 	}
 }

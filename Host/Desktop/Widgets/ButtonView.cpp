@@ -166,5 +166,6 @@ void FButtonView::Refresh(FSeenWidget& Seen)
 		GetButton().setIcon(Icon.IsNone() ? QIcon() : Host.GetBrushes().FindIcon(Look.Brush.GetValue()));
 	}
 	GetButton().SetFlat(!Icon.IsNone());
-	GetButton().SetCaption(QtText::From(Seen.GetDescription().Label));
+	const bool bSilent = Icon.IsNone() && Seen.GetDescription().Label.IsEmpty(); // says what it does in its tip alone
+	GetButton().SetCaption(QtText::From(bSilent ? Seen.GetDescription().ToolTip : Seen.GetDescription().Label));
 }

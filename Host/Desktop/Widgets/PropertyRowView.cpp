@@ -61,6 +61,19 @@ namespace PropertyRowView
 		return Slot;
 	}
 
+	/** What stands behind a value stands in its line, also when it is a list of things. */
+	static TArray<FHostWidgetPart> SideBySide(const FHostWidgetPart& Extension)
+	{
+		const bool bList = FHostWidgetAccess::Describe(*Extension.Widget).Role == TEXT("panel");
+		TArray<FHostWidgetPart> Parts = bList ? FHostWidgetAccess::PartsOf(Extension.Widget) : TArray<FHostWidgetPart>{Extension};
+		for (FHostWidgetPart& Part : Parts)
+		{
+			Part.Padding = FMargin(4.0f, 0.0f, 0.0f, 0.0f);
+			Part.VerticalAlignment = VAlign_Center;
+		}
+		return Parts;
+	}
+
 	/** Fields take the whole column; what has a size of its own keeps it. */
 	bool FillsColumn(const TSharedRef<SWidget>& Widget)
 	{
@@ -192,8 +205,7 @@ void FPropertyRowView::FitLine(FSeenWidget& Seen)
 		}
 		else if (Part.Kind == EHostPart::RowExtension)
 		{
-			Placed.Padding = FMargin(4.0f, 0.0f, 0.0f, 0.0f);
-			Values.Add(Placed);
+			Values.Append(PropertyRowView::SideBySide(Placed));
 		}
 	}
 	Name.Fit(Names);

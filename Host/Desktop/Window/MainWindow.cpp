@@ -13,6 +13,8 @@
 #include "Window/StatusLine.h"
 
 #include <algorithm>
+#include <map>
+#include <utility>
 
 namespace MainWindow
 {
@@ -35,6 +37,10 @@ FMainWindow::FMainWindow(FDesktopEditor& InEditor)
 	setDockOptions(AnimatedDocks | AllowNestedDocks | AllowTabbedDocks | GroupedDragging);
 	setTabPosition(Qt::AllDockWidgetAreas, QTabWidget::North);
 	setDocumentMode(true);
+	setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
+	setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+	setCorner(Qt::TopLeftCorner, Qt::LeftDockWidgetArea);
+	setCorner(Qt::TopRightCorner, Qt::RightDockWidgetArea);
 	setStatusBar(Status);
 	MakeToolbar();
 	MakeDocks();
@@ -43,7 +49,6 @@ FMainWindow::FMainWindow(FDesktopEditor& InEditor)
 	Editor.OnRestarted = [this](const TArray<FString>& Lost) { TellLost(Lost); };
 	Editor.OnBroken = [this](const FString& Reason) { TellBroken(Reason); };
 	resize(MainWindow::FirstSize);
-	ArrangeAtFirst();
 	RestoreArrangement();
 	connect(&Timer, &QTimer::timeout, this, [this] { Frame(); });
 	Refresh();
@@ -92,7 +97,7 @@ TSharedPtr<SWidget> FMainWindow::FindToolbar()
 
 void FMainWindow::MakeDocks()
 {
-	QDockWidget* LastIn[16] = {};
+	std::map<std::pair<int, int>, QDockWidget*> Firsts; // by area and stack
 	for (const DockViews::FKind& Kind : DockViews::GetAll())
 	{
 		QDockWidget* const Dock = new QDockWidget(tr(Kind.Title), this);
@@ -100,34 +105,45 @@ void FMainWindow::MakeDocks()
 		FDockView* const View = Kind.Make(*this, Dock);
 		Dock->setWidget(View);
 		addDockWidget(Kind.Area, Dock);
-		QDockWidget*& Last = LastIn[Kind.Area];
-		if (Last != nullptr)
+		const auto [First, bFirst] = Firsts.try_emplace({Kind.Area, Kind.Stack}, Dock);
+		if (!bFirst)
 		{
-			tabifyDockWidget(Last, Dock);
+			tabifyDockWidget(First->second, Dock);
 		}
-		Last = Last != nullptr ? Last : Dock;
 		Dock->setVisible(Kind.bOpenAtFirst);
 		Docks.push_back({QLatin1String(Kind.Name), Dock, View});
 		Menus->AddDock(*Dock);
+	}
+	for (const auto& First : Firsts)
+	{
+		First.second->raise();
 	}
 }
 
 /** Wide middle, tools around it; what a person arranged takes its place. */
 void FMainWindow::ArrangeAtFirst()
 {
-	setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
-	setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
-	setCorner(Qt::TopLeftCorner, Qt::LeftDockWidgetArea);
-	setCorner(Qt::TopRightCorner, Qt::RightDockWidgetArea);
+	QList<QDockWidget*> Across;
+	QList<int> Widths;
+	QList<QDockWidget*> Down;
+	QList<int> Heights;
 	for (const FFixedDock& Each : Docks)
 	{
-		switch (dockWidgetArea(Each.Dock))
+		const Qt::DockWidgetArea Area = dockWidgetArea(Each.Dock);
+		if (!Each.Dock->isVisible())
 		{
-			case Qt::RightDockWidgetArea: resizeDocks({Each.Dock}, {MainWindow::SideWidth}, Qt::Horizontal); break;
-			case Qt::BottomDockWidgetArea: resizeDocks({Each.Dock}, {MainWindow::BottomHeight}, Qt::Vertical); break;
-			default: break;
+			continue; // behind another tab, or closed
+		}
+		Across.append(Each.Dock);
+		Widths.append(Area == Qt::RightDockWidgetArea || Area == Qt::LeftDockWidgetArea ? MainWindow::SideWidth : width() - MainWindow::SideWidth);
+		if (Area == Qt::TopDockWidgetArea || Area == Qt::BottomDockWidgetArea)
+		{
+			Down.append(Each.Dock);
+			Heights.append(Area == Qt::BottomDockWidgetArea ? MainWindow::BottomHeight : height() - MainWindow::BottomHeight);
 		}
 	}
+	resizeDocks(Across, Widths, Qt::Horizontal);
+	resizeDocks(Down, Heights, Qt::Vertical);
 }
 
 void FMainWindow::Welcome()
@@ -311,6 +327,17 @@ void FMainWindow::resizeEvent(QResizeEvent* Event)
 	RequestFrame();
 }
 
+/** Docks take sizes once they have their place. */
+void FMainWindow::showEvent(QShowEvent* Event)
+{
+	QMainWindow::showEvent(Event);
+	if (!bArranged)
+	{
+		bArranged = true;
+		ArrangeAtFirst();
+	}
+}
+
 void FMainWindow::LetGo()
 {
 	Toolbar.Reset();
@@ -348,7 +375,7 @@ void FMainWindow::RestoreArrangement()
 {
 	const QSettings Settings(GetSettingsFile(), QSettings::IniFormat);
 	restoreGeometry(Settings.value(QStringLiteral("Window/Geometry")).toByteArray());
-	restoreState(Settings.value(QStringLiteral("Window/Arrangement")).toByteArray(), MainWindow::ArrangementVersion);
+	bArranged = restoreState(Settings.value(QStringLiteral("Window/Arrangement")).toByteArray(), MainWindow::ArrangementVersion);
 }
 
 void FMainWindow::KeepArrangement() const

@@ -16,6 +16,7 @@
 namespace PanelDocks
 {
 	static const int PanelMargin = 10;
+	static const int FirstWidth = 420;
 
 	/** Tells when somebody closes it. */
 	class FPanelDock : public QDockWidget
@@ -35,23 +36,6 @@ namespace PanelDocks
 			}
 		}
 	};
-
-	/** "VelmorantDeveloperPanel" as people write it. */
-	QString MakeTitle(const QString& Label)
-	{
-		QString Title;
-		for (const QChar Character : Label)
-		{
-			if (Character == QLatin1Char('_'))
-			{
-				Title += QLatin1Char(' ');
-				continue;
-			}
-			const bool bWord = Character.isUpper() && !Title.isEmpty() && Title.back().isLower();
-			Title += bWord ? QStringLiteral(" ") + Character : QString(Character);
-		}
-		return Title;
-	}
 }
 
 FPanelDocks::FPanelDocks(IWindowServices& InServices, QMainWindow& InWindow)
@@ -67,6 +51,7 @@ std::vector<FPanelDocks::FOpen> FPanelDocks::FindOpen() const
 	AddTabs(Open);
 	AddFreePanels(Open);
 	AddSettings(Open);
+	AddDetails(Open);
 	return Open;
 }
 
@@ -76,7 +61,7 @@ void FPanelDocks::AddTabs(std::vector<FOpen>& InOutOpen) const
 	{
 		FOpen Open;
 		Open.Name = QStringLiteral("Tab.") + QtText::From(Tab.Id);
-		Open.Title = PanelDocks::MakeTitle(QtText::From(Tab.Label));
+		Open.Title = QtText::MakeTitle(QtText::From(Tab.Label));
 		Open.Find = [Id = Tab.Id] { return HostTabs::Find(Id.ToString()).Content; };
 		Open.Close = [Id = Tab.Id] { GEditor->GetEditorSubsystem<UEditorUtilitySubsystem>()->CloseTabByID(Id); };
 		InOutOpen.push_back(Open);
@@ -95,7 +80,7 @@ void FPanelDocks::AddFreePanels(std::vector<FOpen>& InOutOpen) const
 		}
 		FOpen Open;
 		Open.Name = QStringLiteral("Panel.") + QtText::From(Panel.Name);
-		Open.Title = PanelDocks::MakeTitle(QtText::From(Panel.Name));
+		Open.Title = QtText::MakeTitle(QtText::From(Panel.Name));
 		Open.Find = [&Panels, Name = Panel.Name]() -> TSharedPtr<SWidget> {
 			const FPanelHost::FPanel* const Found = Panels.Find(Name);
 			return Found != nullptr ? Found->Content : nullptr;
@@ -112,12 +97,31 @@ void FPanelDocks::AddSettings(std::vector<FOpen>& InOutOpen) const
 	{
 		FOpen Open;
 		Open.Name = QStringLiteral("Settings");
-		Open.Title = tr("Settings: %1").arg(PanelDocks::MakeTitle(QtText::From(Page->Address.Section)));
+		Open.Title = tr("Settings: %1").arg(QtText::MakeTitle(QtText::From(Page->Address.Section)));
 		Open.Find = [] {
 			const TOptional<HostSettings::FOpenPage> Shown = HostSettings::GetOpenPage();
 			return Shown.IsSet() ? Shown->Content : TSharedPtr<SWidget>();
 		};
 		Open.Close = [] { HostSettings::Close(); };
+		InOutOpen.push_back(Open);
+	}
+}
+
+/** Details panels that scripts open. */
+void FPanelDocks::AddDetails(std::vector<FOpen>& InOutOpen) const
+{
+	FDetailsPanels& Details = Services.GetEditor().GetSession().GetDetails();
+	for (const FString& Name : Details.GetNames())
+	{
+		FOpen Open;
+		Open.Name = QStringLiteral("Details.") + QtText::From(Name);
+		Open.Title = tr("Details: %1").arg(QtText::From(Name));
+		Open.Area = Qt::RightDockWidgetArea;
+		Open.Find = [&Details, Name] {
+			FHostDetailsView* const View = Details.Find(Name);
+			return View != nullptr ? TSharedPtr<SWidget>(View->GetWidget()) : TSharedPtr<SWidget>();
+		};
+		Open.Close = [&Details, Name] { Details.Close(Name); };
 		InOutOpen.push_back(Open);
 	}
 }
@@ -166,12 +170,13 @@ QDockWidget* FPanelDocks::MakeDock(const FOpen& Open)
 	};
 	if (!Window.restoreDockWidget(Dock))
 	{
-		Window.addDockWidget(Qt::LeftDockWidgetArea, Dock);
-		for (const auto& Other : Docks)
+		Window.addDockWidget(Open.Area, Dock);
+		Window.resizeDocks({Dock}, {PanelDocks::FirstWidth}, Qt::Horizontal);
+		for (QDockWidget* const Other : Window.findChildren<QDockWidget*>(QString(), Qt::FindDirectChildrenOnly))
 		{
-			if (Other.second && Other.second != Dock && Window.dockWidgetArea(Other.second) == Qt::LeftDockWidgetArea)
+			if (Other != Dock && !Other->isFloating() && !Other->isHidden() && Window.dockWidgetArea(Other) == Open.Area)
 			{
-				Window.tabifyDockWidget(Other.second, Dock);
+				Window.tabifyDockWidget(Other, Dock);
 				break;
 			}
 		}

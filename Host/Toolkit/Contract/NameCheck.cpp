@@ -117,7 +117,7 @@ void FNameCheck::Compare(const FExpectedName& Name, const FTypePlace& Owner, int
 	++Out.NumExact;
 	std::vector<std::string> Parts = NameCheck::FindDifferences(*Wanted, *Found);
 	const auto Base = Wanted->Parts.find("base class");
-	if (Base != Wanted->Parts.end() && Companions.DerivesFrom(Owner, Base->second))
+	if (Base != Wanted->Parts.end() && (Base->second.empty() || Companions.DerivesFrom(Owner, Base->second))) // a base more does no harm
 	{
 		std::erase(Parts, "base class");
 	}

@@ -104,31 +104,6 @@ namespace FileHelperTest
 		}
 	}
 
-	TEST_F(FileHelper, SplitsLinesAtEveryKindOfLineEnd)
-	{
-		struct FCase
-		{
-			const char* Behaviour;
-			std::string Text;
-			std::vector<std::string> Expected;
-		};
-		const FCase Cases[] = {
-			{"an empty file has no lines", "", {}},
-			{"a line end at the very end starts no line", "a\n", {"a"}},
-			{"a last line without end counts", "a\nb", {"a", "b"}},
-			{"empty lines inside are kept", "a\n\n\nb\n", {"a", "", "", "b"}},
-			{"a lone line end is one empty line", "\n", {""}},
-			{"CRLF, CR and LF mixed", "a\r\nb\rc\nd", {"a", "b", "c", "d"}},
-			{"CR CR LF are two ends", "a\r\r\nb", {"a", "", "b"}},
-		};
-		for (const FCase& Case : Cases)
-		{
-			SCOPED_TRACE(Case.Behaviour);
-			Folder.Write("File.ini", Case.Text);
-			EXPECT_EQ(Load(), Case.Expected);
-		}
-	}
-
 	TEST_F(FileHelper, MissingFilesLoadAsNothingWithoutAProblem)
 	{
 		TArray<FString> Lines{TEXT("old")};

@@ -94,21 +94,6 @@ TEST_F(AssetTools, MakesNamesThatNothingHasYet)
 	}
 }
 
-TEST_F(AssetTools, CreatesAnUnsavedAssetThatTheRegistryKnows)
-{
-	UObject* Asset = IAssetTools::Get().CreateAsset(TEXT("New"), TEXT("/Game/Dir"), UTestAsset::StaticClass(), nullptr);
-
-	ASSERT_NE(Asset, nullptr);
-	EXPECT_EQ(Utf8(Asset->GetPathName()), "/Game/Dir/New.New");
-	EXPECT_TRUE(Asset->HasAnyFlags(RF_Public));
-	EXPECT_TRUE(Asset->HasAnyFlags(RF_Standalone));
-	EXPECT_TRUE(Asset->HasAnyFlags(RF_Transactional));
-	EXPECT_TRUE(Asset->GetPackage()->IsDirty());
-	EXPECT_FALSE(HasContent("Dir/New.uasset.json")) << "not saved yet";
-	EXPECT_TRUE(IAssetRegistry::GetChecked().GetAssetByObjectPath(FSoftObjectPath(Asset)).IsValid());
-	EXPECT_EQ(CountAsked("ReplaceAsset"), 0);
-}
-
 TEST_F(AssetTools, CreatesNothingFromBadNamesOrClasses)
 {
 	struct FCase

@@ -60,20 +60,6 @@ TEST_F(EditorRegistries, NothingIsPlaceableUntilThePlacementModuleIsLoaded)
 	IPlacementModeModule::Get();
 }
 
-TEST_F(EditorRegistries, APlacementHandleBelongsToItsFirstCategory)
-{
-	IPlacementModeModule& Placement = IPlacementModeModule::Get();
-	EXPECT_TRUE(Placement.RegisterPlacementCategory(FPlacementCategoryInfo(INVTEXT("First"), FSlateIcon(), TEXT("Tower"), TEXT("Tag"), 40)));
-	EXPECT_FALSE(Placement.RegisterPlacementCategory(FPlacementCategoryInfo(INVTEXT("Second"), FSlateIcon(), TEXT("tower"))));
-	EXPECT_TRUE(Placement.RegisterPlacementCategory(FPlacementCategoryInfo(INVTEXT("Above"), FSlateIcon("Style", "Icon"), TEXT("Above"), FString(), 10)));
-	const FPlacementCategoryInfo* Info = Placement.GetRegisteredPlacementCategory(TEXT("Tower"));
-	ASSERT_NE(Info, nullptr);
-	EXPECT_EQ(Utf8(Info->DisplayName.ToString()), "First");
-	EXPECT_EQ(Utf8(Info->TagMetaData), "Tag");
-	EXPECT_EQ(Placement.GetRegisteredPlacementCategory(TEXT("Above"))->DisplayIcon.GetStyleName(), FName("Icon"));
-	EXPECT_EQ(HostPlacement::GetCategories(), (TArray<FName>{TEXT("Above"), TEXT("Tower")}));
-}
-
 TEST_F(EditorRegistries, PlacementItemsComeAndGoWithTheirCategory)
 {
 	IPlacementModeModule& Placement = IPlacementModeModule::Get();
@@ -131,18 +117,14 @@ TEST_F(EditorRegistries, TheNewestLayoutOfAPropertyTypeCounts)
 	EXPECT_FALSE(HostPropertyEditor::MakeCustomization("Finish").IsValid());
 }
 
-TEST_F(EditorRegistries, ADetailsSectionKeepsItsFirstDisplayName)
+TEST_F(EditorRegistries, SettingsPagesThatSomebodyAskedForAreRecorded)
 {
-	FPropertyEditorModule& Editor = FModuleManager::LoadModuleChecked<FPropertyEditorModule>("PropertyEditor");
-	const TSharedRef<FPropertySection> Section = Editor.FindOrCreateSection("Object", "Velmorant", INVTEXT("Velmorant"));
-	Section->AddCategory("Velmorant|Icon");
-	EXPECT_EQ(Editor.FindOrCreateSection("object", "velmorant", INVTEXT("Other")), Section);
-	EXPECT_NE(Editor.FindOrCreateSection("Actor", "Velmorant", INVTEXT("Velmorant")), Section);
-	const TSharedPtr<FPropertySection> Found = HostPropertyEditor::FindSection("Object", "Velmorant");
-	ASSERT_TRUE(Found.IsValid());
-	EXPECT_EQ(Utf8(Found->GetDisplayName().ToString()), "Velmorant");
-	EXPECT_TRUE(Found->HasAddedCategory("velmorant|icon"));
-	EXPECT_FALSE(Found->HasAddedCategory("Icon"));
+	FModuleManager::LoadModuleChecked<ISettingsModule>("Settings").ShowViewer("Project", "Plugins", "VelmorantSDKSettings");
+	const TArray<HostSettings::FPageAddress> Pages = HostSettings::GetShownPages();
+	ASSERT_EQ(Pages.Num(), 1);
+	EXPECT_TRUE((Pages[0] == HostSettings::FPageAddress{"Project", "Plugins", "VelmorantSDKSettings"}));
+	Restart();
+	EXPECT_TRUE(HostSettings::GetShownPages().IsEmpty());
 }
 
 TEST_F(EditorRegistries, ASettingsPageShowsTheSettingsOfItsSection)

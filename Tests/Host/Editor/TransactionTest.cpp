@@ -90,46 +90,6 @@ TEST_F(Transactions, TakeStepsBackAndForthOneByOne)
 	EXPECT_EQ(Steps(), (Texts{"Set Storey"})) << "forgotten, not redone";
 }
 
-TEST_F(Transactions, ANewStepLeavesNothingToRedo)
-{
-	ATestActor* Actor = Spawn(TEXT("A"));
-	SetStorey(*Actor, 1);
-	SetStorey(*Actor, 2);
-	Undo();
-	Undo();
-	SetStorey(*Actor, 3);
-	EXPECT_FALSE(Redo());
-	EXPECT_EQ(Actor->Storey, 3);
-	EXPECT_EQ(Steps(), (Texts{"Set Storey"}));
-}
-
-TEST_F(Transactions, JoinTheOutermostOneAndRecordTheFirstState)
-{
-	ATestActor* Actor = Spawn(TEXT("A"));
-	ATestActor* Other = Spawn(TEXT("B"));
-	{
-		const FScopedTransaction Outer(Title("Whole"));
-		Actor->Modify();
-		Actor->Storey = 1;
-		{
-			const FScopedTransaction Inner(Title("Part"));
-			Actor->Modify();
-			Actor->Storey = 2;
-			Other->Modify();
-			Other->Neighbour = Actor;
-		}
-		EXPECT_FALSE(Undo()) << "a step is open";
-		EXPECT_EQ(Steps(), Texts());
-	}
-	EXPECT_EQ(Steps(), (Texts{"Whole"}));
-	Undo();
-	EXPECT_EQ(Actor->Storey, 0);
-	EXPECT_EQ(Other->Neighbour, nullptr);
-	Redo();
-	EXPECT_EQ(Actor->Storey, 2);
-	EXPECT_EQ(Other->Neighbour, Actor);
-}
-
 TEST_F(Transactions, LeaveNoStepWhereNothingRecordedChanged)
 {
 	ATestActor* Actor = Spawn(TEXT("A"));

@@ -34,25 +34,6 @@ protected:
 	TStrongObjectPtr<UTestComboListener> Listener;
 };
 
-TEST_F(ComboBox, TellsOfSelectionsByCodeOnceAndAsDirect)
-{
-	for (const bool bShown : {false, true})
-	{
-		SCOPED_TRACE(bShown ? "shown" : "not shown yet");
-		const TSharedPtr<SWidget> Widget = bShown ? TSharedPtr<SWidget>(Combo()->TakeWidget()) : nullptr;
-		Combo()->SetSelectedOption(TEXT("Hill"));
-		EXPECT_EQ(Heard(), TArray<FString>{TEXT("Hill 3")});
-		Combo()->SetSelectedOption(TEXT("Hill"));
-		Combo()->SetSelectedIndex(2);
-		Combo()->SetSelectedOption(TEXT("Valley"));
-		Combo()->SetSelectedIndex(17);
-		EXPECT_TRUE(Heard().IsEmpty());
-		EXPECT_EQ(Combo()->GetSelectedIndex(), 2);
-		Combo()->SetSelectedIndex(0);
-		EXPECT_EQ(Heard(), TArray<FString>{TEXT("No Selection 3")});
-	}
-}
-
 TEST_F(ComboBox, SelectsTheFirstOfEqualOptions)
 {
 	Combo()->SetSelectedOption(TEXT("Harbor"));
@@ -70,23 +51,6 @@ TEST_F(ComboBox, TellsOfAPersonsChoiceAsAMouseClick)
 	EXPECT_EQ(Combo()->GetSelectedOption(), TEXT("Hill"));
 	EXPECT_EQ(Utf8(HostSnapshot::Take(Widget)), "combo " + Utf8(Name) + " \"Hill\" (4 options)\n");
 	EXPECT_EQ(Refusal(HostSnapshot::Choose(Widget, Name, TEXT("Valley"))), "The combo \"" + Utf8(Name) + "\" has no option \"Valley\".");
-}
-
-TEST_F(ComboBox, ClearingTheOptionsClearsTheSelection)
-{
-	const TSharedRef<SWidget> Widget = Combo()->TakeWidget();
-	Combo()->ClearOptions();
-	EXPECT_TRUE(Heard().IsEmpty()) << "nothing was selected";
-	Combo()->AddOption(TEXT("Harbor"));
-	Combo()->SetSelectedIndex(0);
-	Combo()->ClearOptions();
-	EXPECT_EQ(Heard(), (TArray<FString>{TEXT("Harbor 3"), TEXT(" 3")}));
-	EXPECT_EQ(Combo()->GetSelectedOption(), TEXT(""));
-	EXPECT_EQ(Combo()->GetOptionCount(), 0);
-
-	Combo()->AddOption(TEXT("Harbor"));
-	Combo()->SetSelectedOption(TEXT("Harbor"));
-	EXPECT_EQ(Heard(), TArray<FString>{TEXT("Harbor 3")}) << "the same text is another option now";
 }
 
 TEST_F(ComboBox, AnOpenBoxShowsNewOptionsOnlyWhenRefreshed)

@@ -60,19 +60,3 @@ TEST_F(CommandSets, RegisterOnceInEachEditor)
 	FTestCommands::Register();
 	EXPECT_EQ(FTestCommands::NumRegistered, 2);
 }
-
-TEST_F(CommandSets, RunOnlyWhatIsMappedAndAllowed)
-{
-	FTestCommands::Register();
-	const FTestCommands& Commands = FTestCommands::Get();
-	int32 NumRuns = 0;
-	bool bAllowed = false;
-	const TSharedRef<FUICommandList> List = MakeShared<FUICommandList>();
-	List->MapAction(Commands.OpenPanel, FExecuteAction::CreateLambda([&NumRuns] { ++NumRuns; }), FCanExecuteAction::CreateLambda([&bAllowed] { return bAllowed; }));
-
-	EXPECT_FALSE(List->ExecuteAction(Commands.SaveAll.ToSharedRef())) << "not mapped";
-	EXPECT_FALSE(List->ExecuteAction(Commands.OpenPanel.ToSharedRef())) << "not allowed";
-	bAllowed = true;
-	EXPECT_TRUE(List->ExecuteAction(Commands.OpenPanel.ToSharedRef()));
-	EXPECT_EQ(NumRuns, 1);
-}

@@ -10,28 +10,6 @@
 
 using StyleSets = FUiTestEditor;
 
-TEST_F(StyleSets, JoinsContentPathsWithOneSlash)
-{
-	struct FCase
-	{
-		const char* Root;
-		const TCHAR* Relative;
-		const char* Expected;
-	};
-	const FCase Cases[] = {
-		{"/Plugin/Resources", TEXT("Logo"), "/Plugin/Resources/Logo.png"},
-		{"/Plugin/Resources", TEXT("/ClassIcons/Spot"), "/Plugin/Resources/ClassIcons/Spot.png"},
-		{"/Plugin/Resources/", TEXT("Logo"), "/Plugin/Resources/Logo.png"},
-	};
-	for (const FCase& Case : Cases)
-	{
-		SCOPED_TRACE(Case.Expected);
-		FSlateStyleSet Style(FName(TEXT("TestStyle")));
-		Style.SetContentRoot(FString(Case.Root));
-		EXPECT_EQ(Utf8(Style.RootToContentDir(Case.Relative, TEXT(".png"))), Case.Expected);
-	}
-}
-
 TEST_F(StyleSets, TheLaterBrushOfAKeyReplacesTheEarlierAndBothAreOnRecord)
 {
 	FSlateStyleSet Style(FName(TEXT("TestStyle")));
@@ -47,14 +25,6 @@ TEST_F(StyleSets, TheLaterBrushOfAKeyReplacesTheEarlierAndBothAreOnRecord)
 	EXPECT_EQ(Registrations[1].Brush->GetImageSize().X, 40.0f);
 	EXPECT_EQ(Registrations[1].Brush->GetImageSize().Y, 16.0f);
 	FSlateStyleRegistry::UnRegisterSlateStyle(Style);
-}
-
-TEST_F(StyleSets, UnknownKeysGiveABrushThatIsNotNull)
-{
-	const FSlateStyleSet Style(FName(TEXT("TestStyle")));
-	ASSERT_NE(Style.GetBrush(FName(TEXT("NoSuchKey"))), nullptr);
-	EXPECT_EQ(Style.GetOptionalBrush(FName(TEXT("NoSuchKey")), nullptr, nullptr), nullptr);
-	EXPECT_NE(FAppStyle::GetBrush(FName(TEXT("NoSuchKey"))), nullptr);
 }
 
 TEST_F(StyleSets, IconsFindStyleSetsThatAreRegisteredLater)

@@ -52,25 +52,6 @@ TEST_F(ToolMenus, RunsStartUpCallbacksOnceMenusAreReady)
 	EXPECT_EQ(Ran.Num(), 2) << "callbacks belong to one editor";
 }
 
-TEST_F(ToolMenus, KeepsSectionsAndEntriesInOrderAndReplacesEntriesOfTheSameName)
-{
-	UToolMenu* Menu = UToolMenus::Get()->ExtendMenu("Test.Menu");
-	FToolMenuSection& First = Menu->FindOrAddSection("First", Text(TEXT("The First")));
-	First.AddMenuEntry("A", Text(TEXT("Alpha")), FText(), FSlateIcon(), Noting(TEXT("A")));
-	First.AddMenuEntry("B", Text(TEXT("Beta")), FText(), FSlateIcon(), Noting(TEXT("B")));
-	FToolMenuEntry Front = FToolMenuEntry::InitMenuEntry("C", Text(TEXT("Gamma")), FText(), FSlateIcon(), Noting(TEXT("C")));
-	Front.InsertPosition.Name = "B";
-	Front.InsertPosition.Position = EToolMenuInsertType::Before;
-	First.AddEntry(Front);
-	First.AddMenuEntry("A", Text(TEXT("Alpha again")), FText(), FSlateIcon(), Noting(TEXT("A2")));
-	FToolMenuInsert BeforeFirst;
-	BeforeFirst.Name = "First";
-	BeforeFirst.Position = EToolMenuInsertType::Before;
-	Menu->FindOrAddSection("Zero", FText(), BeforeFirst).AddMenuEntry("Z", Text(TEXT("Zed")), FText(), FSlateIcon(), FExecuteAction());
-	EXPECT_EQ(LabelsOf("Test.Menu"), "Zero:Zed, First:Alpha again, First:Gamma, First:Beta");
-	EXPECT_EQ(Utf8(HostToolMenus::List("Test.Menu", FToolMenuContext())[1].SectionLabel), "The First");
-}
-
 TEST_F(ToolMenus, MakesDynamicEntriesForEachContext)
 {
 	FToolMenuSection& Section = UToolMenus::Get()->ExtendMenu("Test.Menu")->FindOrAddSection("GetAssetActions");

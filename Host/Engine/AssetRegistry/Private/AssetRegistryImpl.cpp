@@ -133,3 +133,8 @@ void FAssetRegistryImpl::AssetCreated(UObject* NewAsset)
 	}
 	Created.Add(NewAsset);
 }
+
+void FAssetRegistryImpl::AssetDeleted(UObject* DeletedAsset)
+{
+	Created.RemoveAll([DeletedAsset](const TWeakObjectPtr<UObject>& Object) { return Object == DeletedAsset; });
+}

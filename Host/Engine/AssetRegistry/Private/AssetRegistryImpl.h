@@ -16,6 +16,7 @@ public:
 	virtual bool GetAssetsByPath(FName PackagePath, TArray<FAssetData>& OutAssetData, bool bRecursive, bool bIncludeOnlyOnDiskAssets) const override;
 	virtual FAssetData GetAssetByObjectPath(const FSoftObjectPath& ObjectPath, bool bIncludeOnlyOnDiskAssets) const override;
 	virtual void AssetCreated(UObject* NewAsset) override;
+	virtual void AssetDeleted(UObject* DeletedAsset) override;
 	//~ End IAssetRegistry
 
 private:

@@ -26,6 +26,11 @@ void FAssetRegistryModule::AssetCreated(UObject* NewAsset)
 	GetRegistry().AssetCreated(NewAsset);
 }
 
+void FAssetRegistryModule::AssetDeleted(UObject* DeletedAsset)
+{
+	GetRegistry().AssetDeleted(DeletedAsset);
+}
+
 IAssetRegistry& IAssetRegistry::GetChecked()
 {
 	return FAssetRegistryModule::GetRegistry();

@@ -35,7 +35,7 @@ FToolMenuEntry FToolMenuEntry::InitComboButton(const FName InName, const FToolUI
 {
 	FToolMenuEntry Entry = InitMenuEntry(InName, InLabelOverride, InToolTipOverride, InIconOverride, InAction, EUserInterfaceActionType::Button, InTutorialHighlightName);
 	Entry.Type = EMultiBlockType::ToolBarComboButton;
-	Entry.MenuContent = InMenuContentGenerator;
+	Entry.ToolBarData.ComboButtonContextMenuGenerator = InMenuContentGenerator;
 	Entry.bOpensMenu = true;
 	return Entry;
 }

@@ -33,7 +33,7 @@ namespace ToolMenuWidgets
 
 TSharedRef<SWidget> FToolMenuBuilder::MakeOpenedMenu(const FToolMenuEntry& Entry, const FToolMenuContext& Context)
 {
-	const FNewToolMenuChoice& Content = Entry.MenuContent;
+	const FNewToolMenuChoice& Content = Entry.Type == EMultiBlockType::ToolBarComboButton ? Entry.ToolBarData.ComboButtonContextMenuGenerator : Entry.SubMenuContent;
 	if (Content.OnGetContent.IsBound())
 	{
 		return Content.OnGetContent.Execute();

@@ -2,10 +2,13 @@
 
 #include "HAL/FileManager.h"
 
+#include "Containers/StringConv.h"
 #include "Containers/UnrealString.h"
 #include "HostFiles.h"
 #include "Logging/LogMacros.h"
 #include "Misc/Paths.h"
+
+#include <filesystem>
 
 DEFINE_LOG_CATEGORY_STATIC(LogFileManager, Log, All);
 
@@ -24,6 +27,28 @@ namespace FileManager
 			const bool bDeleted = !(bMissing && RequireExists) && HostFiles::Delete(Filename, ReadOnly);
 			UE_CLOG(!bDeleted && !Quiet, LogFileManager, Warning, TEXT("Could not delete %s"), Filename);
 			return bDeleted;
+		}
+
+		bool DeleteDirectory(const TCHAR* Path, bool RequireExists, bool Tree) override
+		{
+			if (!HostFiles::DirectoryExists(Path))
+			{
+				return !RequireExists;
+			}
+			bool bEmpty = true;
+			if (Tree)
+			{
+				for (const FString& File : HostFiles::FindFilesIn(Path, FString()))
+				{
+					bEmpty &= HostFiles::Delete(File);
+				}
+				for (const FString& Folder : HostFiles::FindDirectories(Path))
+				{
+					bEmpty &= DeleteDirectory(*Folder, false, true);
+				}
+			}
+			std::error_code Fault; // not empty, or somebody else's
+			return bEmpty && !HostFiles::HasOverlay() && std::filesystem::remove(std::filesystem::path(TCHAR_TO_UTF8(Path)), Fault);
 		}
 
 		uint32 Copy(const TCHAR* Dest, const TCHAR* Src, bool Replace, bool EvenIfReadOnly) override
