@@ -117,16 +117,6 @@ TEST_F(EditorRegistries, TheNewestLayoutOfAPropertyTypeCounts)
 	EXPECT_FALSE(HostPropertyEditor::MakeCustomization("Finish").IsValid());
 }
 
-TEST_F(EditorRegistries, SettingsPagesThatSomebodyAskedForAreRecorded)
-{
-	FModuleManager::LoadModuleChecked<ISettingsModule>("Settings").ShowViewer("Project", "Plugins", "VelmorantSDKSettings");
-	const TArray<HostSettings::FPageAddress> Pages = HostSettings::GetShownPages();
-	ASSERT_EQ(Pages.Num(), 1);
-	EXPECT_TRUE((Pages[0] == HostSettings::FPageAddress{"Project", "Plugins", "VelmorantSDKSettings"}));
-	Restart();
-	EXPECT_TRUE(HostSettings::GetShownPages().IsEmpty());
-}
-
 TEST_F(EditorRegistries, ASettingsPageShowsTheSettingsOfItsSection)
 {
 	ISettingsModule& Settings = FModuleManager::LoadModuleChecked<ISettingsModule>("Settings");

@@ -24,6 +24,17 @@ bool AActor::SetActorLocation(const FVector& NewLocation)
 	return true;
 }
 
+bool AActor::SetActorRotation(FRotator NewRotation)
+{
+	ActorRotation = NewRotation;
+	return true;
+}
+
+void AActor::SetActorScale3D(FVector NewScale3D)
+{
+	ActorScale = NewScale3D;
+}
+
 ULevel* AActor::GetLevel() const
 {
 	return Cast<ULevel>(GetOuter());

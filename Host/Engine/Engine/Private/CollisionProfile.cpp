@@ -150,3 +150,8 @@ bool UCollisionProfile::GetProfileTemplate(FName ProfileName, FCollisionResponse
 	ProfileData = LoadedProfiles[*Index];
 	return true;
 }
+
+const FCollisionResponseTemplate* UCollisionProfile::GetProfileByIndex(int32 Index) const
+{
+	return LoadedProfiles.IsValidIndex(Index) ? &LoadedProfiles[Index] : nullptr;
+}

@@ -9,6 +9,9 @@ struct INPUTCORE_API FKey
 {
 	FKey() = default;
 
+	bool IsValid() const { return KeyName != NAME_None; }
+	FString ToString() const { return KeyName.ToString(); }
+
 	friend bool operator==(const FKey& A, const FKey& B) { return A.KeyName == B.KeyName; }
 
 private:

@@ -21,4 +21,7 @@ namespace HostStyles
 
 	/** All brushes ever set in a registered style set, in order, repeated keys included. Empty when there is no such set. */
 	TArray<FHostBrushRegistration> GetBrushRegistrations(FName StyleName);
+
+	/** The brush of a key in the first registered set that has it; null when none has. */
+	const FSlateBrush* FindBrush(FName Key);
 }

@@ -73,3 +73,8 @@ FString FColor::ToHex() const
 {
 	return FString::Printf(TEXT("%02X%02X%02X%02X"), R, G, B, A);
 }
+
+FString FColor::ToString() const
+{
+	return FString::Printf(TEXT("(R=%d,G=%d,B=%d,A=%d)"), R, G, B, A);
+}

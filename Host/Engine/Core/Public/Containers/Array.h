@@ -522,6 +522,9 @@ public:
 		}
 	}
 
+	/** By operator<, not stable. Elements that are pointers are compared by what they point to; so in all three. */
+	void Sort() { Sort(TLess<>()); }
+
 	template<typename PredicateType>
 	void Sort(const PredicateType& Predicate)
 	{

@@ -120,6 +120,9 @@ struct FColor
 	/** "RRGGBBAA" */
 	FString ToHex() const;
 
+	/** "(R=255,G=128,B=0,A=255)" */
+	FString ToString() const;
+
 	friend uint32 GetTypeHash(const FColor& C) { return C.ToPackedARGB(); }
 };
 

@@ -22,6 +22,8 @@ struct FDateTime
 
 	/** Host: the machine's time when the editor first asks, and from there on the host's clock, which tests step. */
 	static FDateTime UtcNow();
+	/** Host: the local time zone is UTC, so that files and tests are the same everywhere. */
+	static FDateTime Now() { return UtcNow(); }
 	static FDateTime FromUnixTimestamp(int64 UnixTime);
 
 	static bool IsLeapYear(int32 Year);

@@ -100,6 +100,11 @@ public:
 	 */
 	bool GetProfileTemplate(FName ProfileName, FCollisionResponseTemplate& ProfileData) const;
 
+	/** Null when there is no such index. Good until the profiles are loaded again. */
+	const FCollisionResponseTemplate* GetProfileByIndex(int32 Index) const;
+
+	int32 GetNumOfProfiles() const { return LoadedProfiles.Num(); }
+
 protected:
 	UPROPERTY(GlobalConfig)
 	TArray<FCollisionResponseTemplate> Profiles;

@@ -28,6 +28,10 @@ public:
 	bool SetActorLocation(const FVector& NewLocation);
 
 	FRotator GetActorRotation() const { return ActorRotation; }
+	bool SetActorRotation(FRotator NewRotation);
+
+	FVector GetActorScale3D() const { return ActorScale; }
+	void SetActorScale3D(FVector NewScale3D);
 
 	bool IsHidden() const { return bHidden; }
 

@@ -85,3 +85,15 @@ TArray<FHostBrushRegistration> HostStyles::GetBrushRegistrations(FName StyleName
 	const FSlateStyleSet* Style = dynamic_cast<const FSlateStyleSet*>(FSlateStyleRegistry::FindSlateStyle(StyleName));
 	return Style ? FHostStyleAccess::GetRegistrations(*Style) : TArray<FHostBrushRegistration>();
 }
+
+const FSlateBrush* HostStyles::FindBrush(FName Key)
+{
+	for (const ISlateStyle* Style : SlateStyleRegistry::Get().Styles)
+	{
+		if (const FSlateBrush* Brush = Style->GetOptionalBrush(Key, nullptr, nullptr))
+		{
+			return Brush;
+		}
+	}
+	return nullptr;
+}

@@ -65,6 +65,13 @@ public:
 		return Me();
 	}
 
+	/** Hands out the slot itself; good for as long as the slot stays in its panel. */
+	ArgumentsType& Expose(SlotType*& OutSlot)
+	{
+		OutSlot = &NewSlot.Get();
+		return Me();
+	}
+
 	const TSharedRef<SlotType>& GetSlot() const { return NewSlot; }
 
 private:

@@ -43,6 +43,8 @@ public:
 
 	void SetToolTipText(const TAttribute<FText>& InToolTipText) { ToolTipText = InToolTipText; }
 
+	float GetRenderOpacity() const { return RenderOpacity; }
+
 	FName GetTag() const { return Tag; }
 	void SetTag(FName InTag) { Tag = InTag; }
 

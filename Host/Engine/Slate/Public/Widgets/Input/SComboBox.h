@@ -41,6 +41,8 @@ public:
 		SComboButton::Construct(SComboButton::FArguments().ButtonContent()[InArgs._Content.Widget]);
 	}
 
+	OptionType GetSelectedItem() { return SelectedItem; }
+
 	/** Raises OnSelectionChanged when the item is another one. */
 	void SetSelectedItem(OptionType InSelectedItem, ESelectInfo::Type InSelectInfo = ESelectInfo::OnNavigation)
 	{

@@ -33,6 +33,7 @@ public:
 	void Construct(const FArguments& InArgs);
 
 	virtual void SetContent(TSharedRef<SWidget> InContent) { ChildSlot[InContent]; }
+	const FSlateBrush* GetBorderImage() const { return BorderImage.Get(nullptr); }
 	FSlateColor GetBorderBackgroundColor() const { return BorderBackgroundColor.Get(FSlateColor(FLinearColor::White)); }
 
 protected:
