@@ -28,6 +28,13 @@ struct SLATECORE_API FMargin
 		, Bottom(Vertical)
 	{
 	}
+	FMargin(float InLeft, float InTop, float InRight, float InBottom)
+		: Left(InLeft)
+		, Top(InTop)
+		, Right(InRight)
+		, Bottom(InBottom)
+	{
+	}
 
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Appearance")
 	float Left = 0.0f;
