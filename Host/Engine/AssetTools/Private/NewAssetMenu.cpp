@@ -13,9 +13,9 @@
 
 namespace NewAssetMenu
 {
-	const FAssetToolsImpl& GetTools()
+	FAssetToolsImpl& GetTools()
 	{
-		return static_cast<const FAssetToolsImpl&>(IAssetTools::Get());
+		return static_cast<FAssetToolsImpl&>(IAssetTools::Get());
 	}
 
 	TArray<UFactory*> GetFactories()
@@ -84,8 +84,21 @@ TArray<HostAssetTools::FNewAssetItem> HostAssetTools::GetNewAssetMenu()
 	return Items;
 }
 
-UObject* HostAssetTools::CreateFromMenu(const FNewAssetItem& Item)
+UObject* HostAssetTools::CreateFromMenu(const FNewAssetItem& Item, const FString& Folder)
 {
 	UFactory* Factory = NewObject<UFactory>(GetTransientPackage(), Item.DefaultFactory->GetClass());
-	return IAssetTools::Get().CreateAssetWithDialog(Item.AssetClass, Factory);
+	return NewAssetMenu::GetTools().CreateInFolder(Item.AssetClass, Factory, Folder);
+}
+
+HostAssetTools::FAssetKind HostAssetTools::FindKind(const UClass* AssetClass)
+{
+	if (const UAssetDefinition* Definition = HostAssetDefinitions::FindForClass(AssetClass))
+	{
+		return {Definition->GetAssetDisplayName(), Definition->GetAssetColor()};
+	}
+	if (const TSharedPtr<IAssetTypeActions> Actions = NewAssetMenu::GetTools().GetAssetTypeActionsForClass(AssetClass).Pin())
+	{
+		return {Actions->GetName(), FLinearColor(Actions->GetTypeColor())};
+	}
+	return {AssetClass->GetDisplayNameText(), FLinearColor::Gray};
 }
