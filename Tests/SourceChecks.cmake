@@ -93,3 +93,5 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU") # whose words the fixtures state
 endif()
 
 add_test(NAME BuildRules COMMAND ${CMAKE_COMMAND} -DCMAKE_FOLDER=${CMAKE_SOURCE_DIR}/cmake -P ${CMAKE_CURRENT_SOURCE_DIR}/BuildRules.cmake)
+add_test(NAME Artwork COMMAND ${CMAKE_COMMAND} -DRESOURCES=${CMAKE_SOURCE_DIR}/Companions/VelmorantPro/Resources
+	-DDRAWINGS=${CMAKE_SOURCE_DIR}/Host/Desktop/Resources -P ${CMAKE_CURRENT_SOURCE_DIR}/Artwork.cmake)

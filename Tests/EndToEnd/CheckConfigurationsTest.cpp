@@ -158,9 +158,14 @@ TEST_F(FCheckConfigurations, ARepairThatDoesNotHelpIsForetoldAndWritesNothing)
 		{"a profile before the first section", GlassLine + SectionLine + "Key=1\n", "", Rule + ", which is " + Ini + "(1), in no section", ProfileLine + ChannelLine, ""},
 		{"a profile that goes on in the next line", SectionLine + "+Profiles=(Name=\"Any\")\\\n", "", "the lines that the toolkit adds have no effect where it adds them", ProfileLine + ChannelLine, ""},
 		{"profiles that are cleared below", SectionLine + GlassLine + "; note\n!Profiles=ClearArray\n", "", "line 4 of " + Ini + " has to go first", "", Ini + "(4)"},
+		{"profiles that are cleared above those of another section", SectionLine + ProfileLine + ChannelLine + "!Profiles=ClearArray\n[/Script/Other]\n" + GlassLine, "", "line 4 of " + Ini + " has to go first", "", Ini + "(4)"},
 		{"profiles that a layer clears", SectionLine + GlassLine, SectionLine + "!Profiles=ClearArray\n", "line 2 of " + Layer + " has to go first", "", Layer + "(2)"},
 		{"both lines, but a layer clears them", SectionLine + ProfileLine + ChannelLine, SectionLine + "!Profiles=ClearArray\n", "line 2 of " + Layer + " has to go first", "", Layer + "(2)"},
 	};
+	const std::filesystem::path Here = std::filesystem::current_path();
+	Folder.Write("Config/DefaultEngine.ini", "");
+	std::filesystem::permissions(Folder.GetNative("Config/DefaultEngine.ini"), std::filesystem::perms(0444));
+	std::filesystem::current_path(Folder.GetNative()); // a project in the working directory is none of check's business
 	for (const auto& Case : Cases)
 	{
 		SCOPED_TRACE(Case.Behaviour);
@@ -196,6 +201,7 @@ TEST_F(FCheckConfigurations, ARepairThatDoesNotHelpIsForetoldAndWritesNothing)
 		EXPECT_EQ(Check({"--repair"}).ExitStatus, 0);
 		EXPECT_EQ(Check({"--undo"}).ExitStatus, Case.ByHand.empty() && Case.Ini.find(ProfileLine) == std::string::npos ? 0 : 2) << "lines that were added by hand need no repair";
 	}
+	std::filesystem::current_path(Here);
 }
 
 TEST_F(FCheckConfigurations, AReadOnlyFileIsRefused)
@@ -203,7 +209,10 @@ TEST_F(FCheckConfigurations, AReadOnlyFileIsRefused)
 	WriteIni(SectionLine + GlassLine);
 	std::filesystem::permissions(Folder.GetNative(IniFile), std::filesystem::perms(0444));
 	ExpectRefused({"--repair"}, "read-only");
-	EXPECT_EQ(Check().ExitStatus, 1) << "looking at it is no matter";
+	const FProgramResult Looked = Check({"--diff"});
+	EXPECT_EQ(Looked.ExitStatus, 1) << "looking at it is no matter";
+	EXPECT_EQ(Looked.Output.find("@@"), std::string::npos);
+	EXPECT_NE(Looked.Errors.find("read-only"), std::string::npos) << Looked.Errors;
 }
 
 TEST_F(FCheckConfigurations, AFolderInItsPlaceIsRefused)

@@ -85,13 +85,3 @@ TEST_F(FCheckDifference, StandsInTheReportOnlyWhenAskedFor)
 	EXPECT_EQ(CountOf(Repaired.Output, ChannelLine), 1u) << Repaired.Output;
 	EXPECT_NE(Repaired.Output.find("\n" + Headers + "@@ -1,2 +1,4 @@\n"), std::string::npos) << Repaired.Output;
 }
-
-TEST_F(FCheckDifference, TellsWhatWouldKeepTheRepairFromWriting)
-{
-	WriteIni(SectionLine + GlassLine);
-	std::filesystem::permissions(Folder.GetNative(IniFile), std::filesystem::perms(0444));
-	const FProgramResult Result = Check({"--diff"});
-	EXPECT_EQ(Result.ExitStatus, 1);
-	EXPECT_EQ(Result.Output.find("@@"), std::string::npos);
-	EXPECT_NE(Result.Errors.find("read-only"), std::string::npos) << Result.Errors;
-}

@@ -60,11 +60,14 @@ TEST_F(FCheckPlatforms, ALayerThatTakesTheProfileAwayIsNamed)
 TEST_F(FCheckPlatforms, AChannelThatIsTakenAwayIsToldThoughTheVerdictStays)
 {
 	Folder.Write("Project/Config/Linux/LinuxEngine.ini", SectionLine + "!DefaultChannelResponses=ClearArray\n");
-	const FProgramResult Result = Check({"--json"});
-	EXPECT_EQ(Result.ExitStatus, 0) << "the toolkit looks for the channel in DefaultEngine.ini only";
-	const nlohmann::json Report = nlohmann::json::parse(Result.Output, nullptr, false);
-	ASSERT_TRUE(Report.is_object()) << Result.Output;
-	EXPECT_EQ(Report["spoiledBy"], (nlohmann::json::array({{{"what", "channel"}, {"file", Folder.GetNative("Project/Config/Linux/LinuxEngine.ini").string()}, {"line", 2}, {"text", "!DefaultChannelResponses=ClearArray"}}})));
+	for (const std::vector<std::string>& Options : {std::vector<std::string>{"--json"}, {"--json", "--repair"}})
+	{
+		const FProgramResult Result = Check(Options);
+		EXPECT_EQ(Result.ExitStatus, 0) << "the toolkit looks for the channel in DefaultEngine.ini only";
+		const nlohmann::json Report = nlohmann::json::parse(Result.Output, nullptr, false);
+		ASSERT_TRUE(Report.is_object()) << Result.Output;
+		EXPECT_EQ(Report["spoiledBy"], (nlohmann::json::array({{{"what", "channel"}, {"file", Folder.GetNative("Project/Config/Linux/LinuxEngine.ini").string()}, {"line", 2}, {"text", "!DefaultChannelResponses=ClearArray"}}})));
+	}
 }
 
 TEST_F(FCheckPlatforms, AnUnknownPlatformIsBadUsage)

@@ -11,7 +11,9 @@
 #include "ToolkitTest.h"
 #include "VelmorantEditorStyle.h"
 
-#include <filesystem>
+#include <array>
+#include <cstring>
+#include <fstream>
 #include <set>
 
 using testing::StartsWith;
@@ -31,6 +33,19 @@ class EditorStyle : public FToolkitTest
 {
 protected:
 	static TArray<FHostBrushRegistration> GetBrushes() { return HostStyles::GetBrushRegistrations("VelmorantEditorStyle"); }
+
+	/** In pixels, from the head of the file; zero when it is no PNG. */
+	static FVector2D ReadPngSize(const std::string& Path)
+	{
+		std::array<unsigned char, 24> Head = {};
+		std::ifstream(Path, std::ios::binary).read(reinterpret_cast<char*>(Head.data()), Head.size());
+		if (std::memcmp(Head.data(), "\x89PNG\r\n\x1a\n", 8) != 0)
+		{
+			return FVector2D(0.0, 0.0);
+		}
+		const auto Read = [&Head](size_t At) { return (Head[At] << 24) + (Head[At + 1] << 16) + (Head[At + 2] << 8) + Head[At + 3]; };
+		return FVector2D(Read(16), Read(20));
+	}
 
 	static std::string Describe(const FHostBrushRegistration& Registration)
 	{
@@ -108,12 +123,16 @@ TEST_F(EditorStyle, RepeatsOneKeyAndTheLaterBrushCounts)
 	EXPECT_EQ(FVelmorantEditorStyle::Get().GetBrush("Velmorant.Editor.LogoGrey"), GetBrushes().Last().Brush);
 }
 
-TEST_F(EditorStyle, HasAnImageFileForEveryBrush)
+TEST_F(EditorStyle, HasAPictureForEveryBrushThatIsSharpAtTwiceItsSize)
 {
 	StartEditor();
 	for (const FHostBrushRegistration& Registration : GetBrushes())
 	{
-		EXPECT_TRUE(std::filesystem::exists(ToUtf8(Registration.Brush->GetResourceName()))) << ToUtf8(Registration.Key);
+		SCOPED_TRACE(ToUtf8(Registration.Key));
+		const FVector2D Brush(Registration.Brush->GetImageSize());
+		const FVector2D Picture = ReadPngSize(ToUtf8(Registration.Brush->GetResourceName()));
+		EXPECT_GE(Picture.X, 2.0 * Brush.X);
+		EXPECT_EQ(Picture.X * Brush.Y, Picture.Y * Brush.X) << "the brush would stretch it";
 	}
 }
 

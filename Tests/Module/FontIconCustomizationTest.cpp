@@ -194,6 +194,8 @@ TEST_F(FontIconCustomization, ShowsNoneForAnIconThatNoRowHolds)
 	EXPECT_EQ(Read(TEXT("Icon")), "None");
 	EXPECT_EQ(Read(TEXT("Icon Name")), "submarine");
 	EXPECT_THAT(Tiles(), ElementsAre("anchor", "sail-boat", "Buoy"));
+	Choose(TEXT("Icon Name"), TEXT("anchor"));
+	EXPECT_THAT(Tiles(), ElementsAre("[anchor]", "sail-boat", "Buoy"));
 }
 
 TEST_F(FontIconCustomization, IsEmptyWithoutAFont)

@@ -29,6 +29,7 @@ TEST(FontIconFilter, FindsPartsOfNamesAndWholeSearchWordsInAStyle)
 		{"all of a style for no text", TEXT(""), "Thin", {0, 1, 3}},
 		{"none of a style that no icon has", TEXT(""), "Round", {}},
 		{"one letter", TEXT("B"), "Thin", {1, 3}},
+		{"the beginning of the first", TEXT("AN"), "Thin", {0}},
 		{"a part of a name", TEXT("OAT"), "Thin", {1}},
 		{"a search word", TEXT("Regatta"), "Thin", {1}},
 		{"a part of a search word", TEXT("regatt"), "Thin", {}},

@@ -146,17 +146,6 @@ TEST_F(ListDisplayerPanel, ShowsNothingUntilAProjectIsSelected)
 	EXPECT_THAT(Rows(Panel), TwoTowers);
 }
 
-TEST_F(ListDisplayerPanel, AProjectWithoutApiKeyIsNoSelectedOne)
-{
-	StartEditor();
-	SignIn();
-	SelectProject(TEXT("QV"));
-	FTestPanel Panel = ShowPanel();
-	Activate(Panel);
-	EXPECT_FALSE(ListOf(Panel)->IsProjectSelected());
-	EXPECT_THAT(Panel.TakeEvents(), IsEmpty());
-}
-
 TEST_F(ListDisplayerPanel, AClickOnAUnitGroupShowsItsUnitsByNumber)
 {
 	FTestPanel Panel = MakePanel();
@@ -288,7 +277,7 @@ TEST_F(ListDisplayerPanel, OneNavigationButtonIsSelectedAtATime)
 	EXPECT_THAT(NavBar(Panel), ElementsAre(false, false));
 }
 
-TEST_F(ListDisplayerPanel, ThereIsNoButtonBeforeTheFirstOrAfterTheLast)
+TEST_F(ListDisplayerPanel, OnlyButtonsOfTheBarHaveAnIndex)
 {
 	FTestPanel Panel = MakePanelOfUnits();
 	ListOf(Panel)->SetNavBarByIndex(0); // no buttons yet
@@ -299,6 +288,9 @@ TEST_F(ListDisplayerPanel, ThereIsNoButtonBeforeTheFirstOrAfterTheLast)
 	}
 	EXPECT_THAT(Panel.TakeEvents(), IsEmpty());
 	EXPECT_THAT(NavBar(Panel), ElementsAre(false, false));
+	ListOf(Panel)->SetNavBarButtons({}); // the old ones are still listened to
+	Panel.Click(TEXT("NavUnits"));
+	EXPECT_THAT(Panel.TakeEvents(), ElementsAre("OnNavBarButtonChanged(-1)"));
 }
 
 TEST_F(ListDisplayerPanel, NavigationIsIgnoredWithoutATarget)
@@ -321,20 +313,12 @@ TEST_F(ListDisplayerPanel, NavigationIsIgnoredWithoutApiKey)
 	SelectProject(TEXT("QV"));
 	FTestPanel Panel = ShowPanel();
 	Activate(Panel);
+	EXPECT_FALSE(ListOf(Panel)->IsProjectSelected());
 	GetRequests()->SetSelectedUnitGroup("QV-P");
 	ASSERT_TRUE(ListOf(Panel)->IsUnitGroupTarget());
 	SetNavBar(Panel);
 	ListOf(Panel)->SetNavBarByIndex(0);
 	EXPECT_THAT(Panel.TakeEvents(), IsEmpty());
-}
-
-TEST_F(ListDisplayerPanel, AButtonThatIsNotOfTheBarIsNoIndex)
-{
-	FTestPanel Panel = MakePanelOfUnits();
-	SetNavBar(Panel);
-	ListOf(Panel)->SetNavBarButtons({}); // the old ones are still listened to
-	Panel.Click(TEXT("NavUnits"));
-	EXPECT_THAT(Panel.TakeEvents(), ElementsAre("OnNavBarButtonChanged(-1)"));
 }
 
 TEST_F(ListDisplayerPanel, AMissingButtonOfTheBarKeepsItsIndex)

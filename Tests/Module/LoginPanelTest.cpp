@@ -62,6 +62,8 @@ TEST_F(LoginPanel, SignsInAndTellsSo)
 	StartEditor();
 	FTestPanel Panel = MakePanel();
 	Panel.Show();
+	Panel.Hide(); // shown again, a click still counts once
+	Panel.Show();
 	FillIn(Panel, TEXT("sesame-77"));
 	EXPECT_THAT(Panel.TakeEvents(), IsEmpty()) << "nothing is remembered, nothing is asked yet";
 
@@ -108,16 +110,10 @@ TEST_F(LoginPanel, EndsTheBusyStateWhateverGoesWrong)
 	}
 }
 
-TEST_F(LoginPanel, TellsItsListenersLast)
+TEST_F(LoginPanel, TellsItsListenersLastAndIsUnboundAfterASuccess)
 {
 	FTestPanel Panel = SignIn(TEXT("sesame-77"));
 	EXPECT_THAT(Panel.TakeEvents(), ElementsAre("OnLoginInProcess(true)", "OnLoginInProcess(false)", "OnLoginResultReceived(true)", "OnLoginResult(true)"));
-}
-
-TEST_F(LoginPanel, IsUnboundAfterASuccess)
-{
-	FTestPanel Panel = SignIn(TEXT("sesame-77"));
-	Panel.TakeEvents();
 	LogInElsewhere();
 	EXPECT_THAT(Panel.TakeEvents(), IsEmpty());
 }
@@ -155,18 +151,6 @@ TEST_F(LoginPanel, TwoClicksAreTwoRequestsAndOneBinding)
 	EXPECT_THAT(Panel.TakeEvents(), ElementsAre("OnLoginInProcess(true)", "OnLoginInProcess(true)"));
 	Wait(0.0);
 	EXPECT_THAT(Panel.TakeEvents(), ElementsAre("OnLoginInProcess(false)", "OnLoginResultReceived(false)", "OnLoginResult(false)", "OnLoginInProcess(false)", "OnLoginResultReceived(false)", "OnLoginResult(false)"));
-}
-
-TEST_F(LoginPanel, ShownAgainAClickStillCountsOnce)
-{
-	StartEditor();
-	FTestPanel Panel = MakePanel();
-	Panel.Show();
-	Panel.Hide();
-	Panel.Show();
-	FillIn(Panel, TEXT("sesame-77"));
-	Panel.Click(TEXT("SummitButton"));
-	EXPECT_THAT(Panel.TakeEvents(), ElementsAre("OnLoginInProcess(true)"));
 }
 
 TEST_F(LoginPanel, FillsInWhatIsRemembered)

@@ -48,6 +48,7 @@ TEST(ProjectRows, AreFoundByKeyCodeAndNameInOne)
 		TArray<int32> Found;
 	} Cases[] = {
 		{TEXT("a-2"), {1}},
+		{TEXT("a-"), {0, 1}},
 		{TEXT("FIR"), {0}},
 		{TEXT("1f"), {0}}, // across the seam
 		{TEXT("1 F"), {}},

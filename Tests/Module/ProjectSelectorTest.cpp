@@ -150,6 +150,8 @@ TEST_F(ProjectSelector, MakesTheChosenProjectTheUsersOwn)
 	Panel.Choose(TEXT("ProjectSelection"), TEXT("Quay View"));
 	EXPECT_EQ(Panel.Read(TEXT("ProjectKeyCode")), "QV");
 	EXPECT_EQ(Panel.Read(TEXT("ProjectName")), "Quay View");
+	EXPECT_TRUE(Panel.Find<UEditableText>(TEXT("ProjectKeyCode"))->GetIsReadOnly());
+	EXPECT_TRUE(Panel.Find<UEditableText>(TEXT("ProjectName"))->GetIsReadOnly());
 	EXPECT_EQ(SelectedKeyCode(Panel), "QV");
 	EXPECT_EQ(UsersKeyCode(), "QV");
 }
@@ -260,6 +262,8 @@ TEST_F(ProjectSelector, HearsEveryAnswerOncePerRequestMade)
 TEST_F(ProjectSelector, CopiesTheKeyOfTheSelectedProject)
 {
 	FTestPanel Panel = MakeFilledPanel();
+	Panel.Hide(); // shown again, a click still counts once
+	Panel.Show();
 	Panel.Click(TEXT("CopyApyKey"));
 	EXPECT_EQ(NumCopied(), 0) << "nothing is selected";
 
@@ -354,23 +358,6 @@ TEST_F(ProjectSelector, FetchesAProjectAnewOnlyWhenToldTo)
 	Panel.Show();
 	ChooseAgain();
 	EXPECT_EQ(NumFetched, 3);
-}
-
-TEST_F(ProjectSelector, ShownAgainAClickStillCountsOnce)
-{
-	FTestPanel Panel = MakeFilledPanel();
-	Panel.Hide();
-	Panel.Show();
-	Panel.Choose(TEXT("ProjectSelection"), TEXT("Harbor Tower"));
-	Panel.Click(TEXT("CopyApyKey"));
-	EXPECT_EQ(NumCopied(), 1);
-}
-
-TEST_F(ProjectSelector, ItsFieldsAreForReading)
-{
-	const FTestPanel Panel = MakeFilledPanel();
-	EXPECT_TRUE(Panel.Find<UEditableText>(TEXT("ProjectKeyCode"))->GetIsReadOnly());
-	EXPECT_TRUE(Panel.Find<UEditableText>(TEXT("ProjectName"))->GetIsReadOnly());
 }
 
 TEST_F(ProjectSelector, MakesTheWidgetsOfItsComboBox)

@@ -223,26 +223,16 @@ TEST_F(ToolbarMenu, OpensTheUnitVolumeTools)
 	EXPECT_THAT(TellingsOfLaunches(), ElementsAre("Log: Editor widget launched successfully."));
 }
 
-TEST_F(ToolbarMenu, TellsWhenAToolsLayoutIsMissing)
-{
-	UseOtherToolkit();
-	PluginDirs = {Folder.Get("Plugins")};
-	StartEditor();
-	EXPECT_EQ(Choose(TEXT("Unit Volume Tools")), "");
-	EXPECT_EQ(Choose(TEXT("Login")), "");
-	EXPECT_TRUE(HostTabs::GetOpen().IsEmpty());
-	EXPECT_THAT(TellingsOfLaunches(), ElementsAre("Error: Failed to load widget blueprint.", "Error: Failed to load widget blueprint."));
-}
-
-TEST_F(ToolbarMenu, TellsWhenAnotherAssetStandsInThePlaceOfATool)
+TEST_F(ToolbarMenu, TellsWhenAToolsLayoutIsMissingOrAnotherAssetStandsInItsPlace)
 {
 	UseOtherToolkit();
 	Folder.Write(UnitVolumeTools, R"({"Class": "/Script/UMGEditor.WidgetBlueprint", "ParentClass": "/Script/UMG.UserWidget", "Tree": {"Class": "VerticalBox"}})");
 	PluginDirs = {Folder.Get("Plugins")};
 	StartEditor();
 	EXPECT_EQ(Choose(TEXT("Unit Volume Tools")), "");
+	EXPECT_EQ(Choose(TEXT("Login")), ""); // there is none
 	EXPECT_TRUE(HostTabs::GetOpen().IsEmpty());
-	EXPECT_THAT(TellingsOfLaunches(), ElementsAre("Error: Failed to load widget blueprint."));
+	EXPECT_THAT(TellingsOfLaunches(), ElementsAre("Error: Failed to load widget blueprint.", "Error: Failed to load widget blueprint."));
 }
 
 TEST_F(ToolbarMenu, TellsWhenNoTabCanBeMade)
@@ -338,14 +328,26 @@ TEST_F(ToolbarMenu, AToolkitWithoutAVersionShowsTheTextThatSharesTheKey)
 	EXPECT_EQ(ToUtf8(*FTextInspector::GetKey(FindEntry(TEXT("VelmorantVersion"))->GetLabel())), "VelmorantVersion");
 }
 
-TEST_F(ToolbarMenu, TheToolTipsOfVersionAndDocumentationShareTheirKey)
+TEST_F(ToolbarMenu, ItsEntriesAreTranslatedUnderTheirKeys)
 {
+	const struct
+	{
+		const TCHAR* Name;
+		const char* Label;
+		const char* ToolTip;
+	} Cases[] = {
+		{TEXT("UnitVolumeTools"), "UnitVolumeTools_Label", "UnitVolumeTools_Tooltip"},
+		{TEXT("OpenSupportPage"), "OpenSupportPage_Label", "OpenSupportPage_Tooltip"},
+		{TEXT("OpenDocPage"), "OpenDocPage_Label", "OpenDocPage_Tooltip"},
+		{TEXT("VelmorantVersion"), "", "OpenDocPage_Tooltip"}, // the label is put together, the tool tip's key is shared
+	};
 	StartEditor();
 	Open();
-	for (const TCHAR* Name : {TEXT("OpenDocPage"), TEXT("VelmorantVersion")})
+	for (const auto& Case : Cases)
 	{
-		const FText ToolTip = FindEntry(Name)->GetToolTip();
-		EXPECT_EQ(ToUtf8(*FTextInspector::GetNamespace(ToolTip)), "FVelmorantProEditor") << ToUtf8(ToolTip);
-		EXPECT_EQ(ToUtf8(*FTextInspector::GetKey(ToolTip)), "OpenDocPage_Tooltip") << ToUtf8(ToolTip);
+		const TSharedPtr<SHostMenuEntry> Entry = FindEntry(Case.Name);
+		EXPECT_EQ(ToUtf8(*FTextInspector::GetNamespace(Entry->GetToolTip())), "FVelmorantProEditor");
+		EXPECT_EQ(ToUtf8(FTextInspector::GetKey(Entry->GetLabel()).Get(FString())), Case.Label);
+		EXPECT_EQ(ToUtf8(*FTextInspector::GetKey(Entry->GetToolTip())), Case.ToolTip);
 	}
 }

@@ -5,12 +5,17 @@
 #include "HostFiles.h"
 #include "HostQuestions.h"
 
+#include <csignal>
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace
 {
+	std::string Flushed; // a letter for each flush: of a file or of a directory
+	bool bFlushFails = false;
+
 	const char* const LeftReadOnly = "the file is read-only and was left as it is. Make it writable, or check it out in version control.\n";
 
 	class HostFilesTest : public FEditorFilesTest
@@ -361,16 +366,42 @@ namespace
 		EXPECT_EQ(Seen, "new|old|");
 	}
 
+	TEST_F(HostFilesTest, WhatCannotBeWrittenToTheEndOrFlushedIsNotWritten)
+	{
+		Flushed.clear();
+		ASSERT_TRUE(Write("File", "old"));
+		EXPECT_EQ(Flushed, "fd") << "the bytes, and then the name";
+		rlimit Usual = {};
+		getrlimit(RLIMIT_FSIZE, &Usual);
+		const rlimit Tight = {2, Usual.rlim_max};
+		std::signal(SIGXFSZ, SIG_IGN);
+		for (const auto& [Limit, Why] : {std::pair(Usual, "Input/output error"), std::pair(Tight, "File too large")})
+		{
+			HostProblems::Clear();
+			bFlushFails = true;
+			setrlimit(RLIMIT_FSIZE, &Limit);
+			const bool bWritten = Write("File", "new");
+			setrlimit(RLIMIT_FSIZE, &Usual);
+			bFlushFails = false;
+			EXPECT_FALSE(bWritten);
+			EXPECT_EQ(GetProblems(), std::string("the file cannot be written and is as it was: ") + Why + ". Check free space and the permissions of its folder.\n");
+			EXPECT_EQ(Folder.Read("File"), "old");
+			EXPECT_EQ(Folder.Count(), 1u);
+		}
+	}
+
 	TEST_F(HostFilesTest, WritesWithoutAStandardInput)
 	{
+		std::filesystem::create_directory(Folder.GetNative("sub"));
 		const int Status = Wait(Fork([this] {
-			close(STDIN_FILENO); // the next file is number 0
+			const HostFiles::FLock Lock(Folder.Get("sub/File"));
+			close(STDIN_FILENO); // the next file is number 0: in sub the new one, elsewhere the lock
 			bool bLocked = false;
 			{
-				const HostFiles::FLock Lock(Folder.Get("File"));
+				const HostFiles::FLock Other(Folder.Get("File"));
 				bLocked = fcntl(STDIN_FILENO, F_GETFD) >= 0;
 			}
-			_exit(bLocked && Write("File", "new") && Folder.Read("File") == "new" && HostProblems::GetAll().IsEmpty() ? 0 : 1);
+			_exit(bLocked && Write("File", "new") && Write("sub/File", "new") && Folder.Read("File") == Folder.Read("sub/File") && HostProblems::GetAll().IsEmpty() ? 0 : 1);
 		}));
 		EXPECT_EQ(Status, 0);
 	}
@@ -482,15 +513,6 @@ namespace
 		EXPECT_EQ(GetProblems(), LeftReadOnly);
 	}
 
-	TEST_F(HostFilesTest, WhatIsWrittenBackInAnOverlayIsNotPending)
-	{
-		Folder.Write("File", "disk");
-		HostFiles::BeginOverlay();
-		Write("File", "other");
-		Write("File", "disk");
-		EXPECT_TRUE(HostFiles::GetPendingWrites().IsEmpty());
-	}
-
 	TEST_F(HostFilesTest, AnOverlayEndsWithItsEditor)
 	{
 		HostFiles::BeginOverlay();
@@ -590,4 +612,14 @@ namespace
 		EXPECT_EQ(Find(TEXT("ttf")), Fonts) << "the dot may be left out";
 		EXPECT_EQ(Find(nullptr).size(), 5u);
 	}
+}
+
+/** In place of the system's: tells what is flushed, and fails when it is to, as on a broken disk. */
+extern "C" int fsync(int File)
+{
+	struct stat Status = {};
+	fstat(File, &Status);
+	Flushed += S_ISDIR(Status.st_mode) ? 'd' : 'f';
+	errno = EIO;
+	return bFlushFails ? -1 : 0;
 }
