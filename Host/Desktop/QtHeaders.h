@@ -5,13 +5,16 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QAbstractListModel>
 #include <QAbstractScrollArea>
 #include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QDir>
@@ -27,12 +30,15 @@
 #include <QHeaderView>
 #include <QImage>
 #include <QImageReader>
+#include <QItemSelectionModel>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
+#include <QListView>
 #include <QListWidget>
 #include <QMainWindow>
+#include <QMap>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -46,8 +52,11 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QSet>
 #include <QSettings>
 #include <QShortcut>
+#include <QSignalBlocker>
+#include <QSplitter>
 #include <QString>
 #include <QStringList>
 #include <QStatusBar>
@@ -60,6 +69,7 @@
 #include <QSvgRenderer>
 #include <QTextDocument>
 #include <QTextLayout>
+#include <QTextOption>
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>

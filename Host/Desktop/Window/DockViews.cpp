@@ -2,8 +2,10 @@
 
 #include "Window/DockViews.h"
 
+#include "Docks/ContentBrowserDock.h"
 #include "Docks/DetailsDock.h"
 #include "Docks/NotificationHistoryDock.h"
+#include "Docks/VariantManagerDock.h"
 
 namespace DockViews
 {
@@ -17,6 +19,8 @@ namespace DockViews
 	{
 		static const std::vector<FKind> Kinds = {
 			{"Details", "Details", Qt::RightDockWidgetArea, true, &MakeOne<FDetailsDock>},
+			{"ContentBrowser", "Content Browser", Qt::BottomDockWidgetArea, true, &MakeOne<FContentBrowserDock>},
+			{"VariantManager", "Variant Manager", Qt::RightDockWidgetArea, true, &MakeOne<FVariantManagerDock>},
 			{"Notifications", "Notifications", Qt::BottomDockWidgetArea, true, &MakeOne<FNotificationHistoryDock>},
 		};
 		return Kinds;

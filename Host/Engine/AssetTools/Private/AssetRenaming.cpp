@@ -44,7 +44,7 @@ bool AssetRenaming::Rename(const FAssetRenameData& Request)
 	const FString Obstacle = FindObstacle(Asset, Request, PackageName);
 	if (!Obstacle.IsEmpty())
 	{
-		UE_LOG(LogAssetRenaming, Error, TEXT("Cannot rename '%s' to '%s': %s."), *GetPathNameSafe(Asset), *PackageName, *Obstacle);
+		UE_LOG(LogAssetRenaming, Error, TEXT("Cannot rename '%s' to '%s': %s."), *(Asset != nullptr ? Asset->GetPathName() : FString(TEXT("None"))), *PackageName, *Obstacle);
 		return false;
 	}
 	return HostPackages::Rename(Asset->GetPackage()->GetName(), PackageName);
