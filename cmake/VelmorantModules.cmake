@@ -183,15 +183,20 @@ function(velmorant_add_pch Name)
 endfunction()
 
 # A program made of modules: it sees the headers of those that it names, Internal ones too, and has the objects of all below them.
-#   PCH  the target whose precompiled header it takes, in place of the shared one
+#   PCH    the target whose precompiled header it takes, in place of the shared one
+#   PARTS  its sources alone, as objects for a program and its tests
 function(velmorant_program Name)
-	cmake_parse_arguments(Arg "" "PCH" "SOURCES;MODULES;LIBRARIES" ${ARGN})
-	add_executable(${Name} ${Arg_SOURCES})
+	cmake_parse_arguments(Arg "PARTS" "PCH" "SOURCES;MODULES;LIBRARIES" ${ARGN})
 	velmorant_collect(Modules DEPENDENCIES ${Arg_MODULES})
 	velmorant_collect(Visible VISIBLE ${Arg_MODULES})
-	foreach(Module ${Modules})
-		target_sources(${Name} PRIVATE $<TARGET_OBJECTS:${Module}>)
-	endforeach()
+	if(Arg_PARTS)
+		add_library(${Name} OBJECT ${Arg_SOURCES})
+	else()
+		add_executable(${Name} ${Arg_SOURCES})
+		foreach(Module ${Modules})
+			target_sources(${Name} PRIVATE $<TARGET_OBJECTS:${Module}>)
+		endforeach()
+	endif()
 	foreach(Module ${Arg_MODULES})
 		target_include_directories(${Name} PRIVATE $<TARGET_PROPERTY:${Module},INTERFACE_INCLUDE_DIRECTORIES>)
 		target_compile_definitions(${Name} PRIVATE $<TARGET_PROPERTY:${Module},INTERFACE_COMPILE_DEFINITIONS>)

@@ -35,6 +35,8 @@ namespace DesktopArguments
 		App.add_option("--theme", Theme, "Light or dark; as the desktop is unless given")->transform(CLI::IsMember({"light", "dark"}, CLI::ignore_case))->type_name("NAME");
 		App.add_option("--script", Script, "Do in the window what the script says, and end")->type_name("FILE");
 		App.add_option("--screenshot", Screenshot, "Draw the window into pictures in this folder, and end")->type_name("FOLDER");
+		bool bWelcome = false;
+		App.add_flag("--welcome", bWelcome, "Say what to try with the sample, until that is closed once");
 		try
 		{
 			App.parse(Count, Values);
@@ -51,7 +53,7 @@ namespace DesktopArguments
 			Refusal::Print(EExitStatus::Usage, {ToText(Errors.str()).TrimEnd()}, false);
 			return EExitStatus::Usage;
 		}
-		OutArguments = FDesktopArguments{ToText(Project), ToText(Service), ToText(Theme), ToText(Script), ToText(Screenshot)};
+		OutArguments = FDesktopArguments{ToText(Project), ToText(Service), ToText(Theme), ToText(Script), bWelcome, ToText(Screenshot)};
 		return TOptional<EExitStatus>();
 	}
 }

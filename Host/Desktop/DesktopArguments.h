@@ -13,6 +13,7 @@ struct FDesktopArguments
 	FString Service; // the service's data file; empty: the one that the project names
 	FString Theme; // "light", "dark", or empty for what the desktop has
 	FString Script; // played in the window; empty for none
+	bool bWelcome = false; // says what to try first
 	FString Screenshot; // where pictures go; empty for none
 };
 

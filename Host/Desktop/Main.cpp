@@ -14,10 +14,8 @@
 #include "ProjectArgument.h"
 #include "QtText.h"
 #include "Refusal.h"
-#include "Run/ScriptFile.h"
-#include "Run/ScriptReport.h"
-#include "Run/ScriptRunner.h"
 #include "Session/DesktopEditor.h"
+#include "Session/ScriptPlayer.h"
 #include "Window/MainWindow.h"
 
 #include <exception>
@@ -56,51 +54,27 @@ namespace DesktopMain
 		return TOptional<EExitStatus>();
 	}
 
-	/** Each step shows before the next one; at headings, and after the last step, a picture is kept if wanted. */
-	static EExitStatus PlayScript(const FDesktopArguments& Arguments, FDesktopEditor& Editor, FMainWindow& Window)
-	{
-		const FString Text = ScriptFile::ReadText(Arguments.Script);
-		Refusal::PrintProblems(EExitStatus::Trouble, false);
-		FScript Script;
-		if (!HostProblems::GetAll().IsEmpty() || !ScriptFile::Parse(Arguments.Script, Text, false, Script))
-		{
-			return EExitStatus::Trouble;
-		}
-		Editor.GetSession().SetPerson(nullptr); // what the script does not answer takes its default, as without a window
-		const QString Folder = QtText::From(Arguments.Screenshot);
-		int NumSteps = 0;
-		const auto ShowStep = [&Window, &Folder, &NumSteps] {
-			Window.ShowNow();
-			++NumSteps;
-			if (!Folder.isEmpty())
-			{
-				QDir().mkpath(Folder);
-				Window.grab().save(QStringLiteral("%1/Step%2.png").arg(Folder).arg(NumSteps, 3, 10, QLatin1Char('0')));
-			}
-		};
-		EExitStatus Status = EExitStatus::Trouble;
-		Editor.Do([&] {
-			const TUniquePtr<IScriptReport> Report = ScriptReport::Make(Arguments.Script, false);
-			FScriptRunner Runner(Editor.GetSession(), *Report, ShowStep);
-			Status = Runner.Run(Script);
-		});
-		return Status;
-	}
-
 	static int Run(const FDesktopArguments& Arguments, const FEditorHostOptions& Options)
 	{
 		FDesktopEditor Editor(Options);
 		Editor.OnBroken = [](const FString& Reason) { Console::PrintError(FString(TEXT("velmorant-editor: ")) + Reason); };
-		if (!Editor.Start())
+		const bool bPlays = !Arguments.Script.IsEmpty(); // then starting is a step of its own
+		if (!bPlays && !Editor.Start())
 		{
 			return static_cast<int>(EExitStatus::Trouble);
 		}
 		FMainWindow Window(Editor);
 		Window.setWindowTitle(QtText::From(FPaths::GetBaseFilename(Options.Project)) + QStringLiteral(" – Velmorant"));
-		Window.show();
-		if (!Arguments.Script.IsEmpty())
+		if (bPlays)
 		{
-			return static_cast<int>(PlayScript(Arguments, Editor, Window));
+			Window.resize(ScriptPlayer::PictureSize);
+			Window.show();
+			return static_cast<int>(ScriptPlayer::Play(Arguments.Script, Arguments.Screenshot, Editor, Window));
+		}
+		Window.show();
+		if (Arguments.bWelcome)
+		{
+			Window.Welcome();
 		}
 		Window.StartClock();
 		return QApplication::exec();
@@ -123,9 +97,14 @@ int main(int Count, char** Values)
 	{
 		return static_cast<int>(Console::Finish() ? End.GetValue() : EExitStatus::Trouble);
 	}
+	if (!Arguments.Screenshot.IsEmpty())
+	{
+		qputenv("QT_QPA_PLATFORM", "offscreen"); // pictures are the same on every screen, and without one
+	}
 	QApplication Application(Count, Values);
 	QApplication::setApplicationName(QStringLiteral("velmorant-editor"));
 	QApplication::setApplicationVersion(QStringLiteral(VELMORANT_VERSION));
 	Theme::Apply(DesktopMain::FindTheme(Arguments.Theme));
-	return DesktopMain::Run(Arguments, Options);
+	const int Status = DesktopMain::Run(Arguments, Options);
+	return Console::Finish() ? Status : static_cast<int>(EExitStatus::Trouble);
 }

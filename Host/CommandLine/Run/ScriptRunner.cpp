@@ -106,7 +106,7 @@ EExitStatus FScriptRunner::Run(const FScript& Script)
 		NumDone += Outcome == EStepOutcome::Done ? 1 : 0;
 		if (AfterStep)
 		{
-			AfterStep();
+			AfterStep(Step);
 		}
 	}
 	FRunSummary Summary = SumUp(Outcome, NumDone);

@@ -12,7 +12,7 @@ class FScriptRunner
 {
 public:
 	/** @param InAfterStep called after each step, for those who show what it did; may be null */
-	FScriptRunner(FScriptSession& InSession, IScriptReport& InReport, TFunction<void()> InAfterStep = nullptr)
+	FScriptRunner(FScriptSession& InSession, IScriptReport& InReport, TFunction<void(const FScriptStep&)> InAfterStep = nullptr)
 		: Session(InSession)
 		, Report(InReport)
 		, AfterStep(MoveTemp(InAfterStep))
@@ -31,5 +31,5 @@ private:
 
 	FScriptSession& Session;
 	IScriptReport& Report;
-	TFunction<void()> AfterStep;
+	TFunction<void(const FScriptStep&)> AfterStep;
 };

@@ -4,6 +4,60 @@
 
 #include "Look/Theme.h"
 
+#include <vector>
+
+namespace EditorStyle
+{
+	static void DrawTick(QPainter& Painter, const QRect& Rect, const QPalette& Palette, QStyle::State State)
+	{
+		const bool bOn = State.testFlag(QStyle::State_On);
+		const bool bSome = State.testFlag(QStyle::State_NoChange);
+		const bool bEnabled = State.testFlag(QStyle::State_Enabled);
+		Painter.save();
+		Painter.setRenderHint(QPainter::Antialiasing);
+		const QColor Accent = bEnabled ? Palette.color(QPalette::Highlight) : Theme::GetColors().FieldLine;
+		const bool bFilled = bOn || bSome;
+		const bool bMarked = State.testFlag(QStyle::State_MouseOver) || State.testFlag(QStyle::State_HasFocus);
+		Painter.setPen(bFilled || (bEnabled && bMarked) ? Accent : Theme::GetColors().FieldLine);
+		Painter.setBrush(bFilled ? Accent : Theme::GetColors().Field);
+		Painter.drawRoundedRect(QRectF(Rect).adjusted(1.5, 1.5, -1.5, -1.5), 3, 3);
+		Painter.setPen(QPen(Palette.color(QPalette::HighlightedText), 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+		const QPointF Middle = QRectF(Rect).center();
+		if (bSome)
+		{
+			Painter.drawLine(Middle - QPointF(3.0, 0.0), Middle + QPointF(3.0, 0.0));
+		}
+		else if (bOn)
+		{
+			Painter.drawPolyline(QPolygonF({Middle + QPointF(-3.2, 0.2), Middle + QPointF(-1.0, 2.6), Middle + QPointF(3.4, -2.8)}));
+		}
+		Painter.restore();
+	}
+
+	/** Lines on a field of 16 by 16. */
+	static QIcon MakeIcon(const std::vector<QPolygonF>& Lines)
+	{
+		QIcon Icon;
+		for (const int Scale : {1, 2})
+		{
+			QPixmap Picture(16 * Scale, 16 * Scale);
+			Picture.fill(Qt::transparent);
+			QPainter Painter(&Picture);
+			Painter.scale(Scale, Scale);
+			Painter.setRenderHint(QPainter::Antialiasing);
+			Painter.setPen(QPen(Theme::GetColors().Subtle, 1.3, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+			for (const QPolygonF& Line : Lines)
+			{
+				Painter.drawPolyline(Line);
+			}
+			Painter.end();
+			Picture.setDevicePixelRatio(Scale);
+			Icon.addPixmap(Picture);
+		}
+		return Icon;
+	}
+}
+
 FEditorStyle::FEditorStyle()
 	: QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion")))
 {
@@ -11,21 +65,136 @@ FEditorStyle::FEditorStyle()
 
 void FEditorStyle::drawPrimitive(PrimitiveElement Element, const QStyleOption* Option, QPainter* Painter, const QWidget* Widget) const
 {
-	if (Element == PE_PanelButtonCommand)
+	switch (Element)
 	{
-		EditorStyle::DrawButton(*Painter, Option->rect, Option->palette, Option->state, Option->state.testFlag(State_On));
-		return;
-	}
-	if (Element == PE_PanelLineEdit && qobject_cast<const QLineEdit*>(Widget) != nullptr)
-	{
-		EditorStyle::DrawField(*Painter, Option->rect, Option->palette, Option->state, Widget->property("wrong").toBool());
-		return;
-	}
-	if (Element == PE_FrameLineEdit || Element == PE_FrameFocusRect)
-	{
-		return; // drawn with the panel
+		case PE_PanelButtonCommand:
+			EditorStyle::DrawButton(*Painter, Option->rect, Option->palette, Option->state, Option->state.testFlag(State_On));
+			return;
+		case PE_PanelLineEdit:
+			if (qobject_cast<const QLineEdit*>(Widget) != nullptr)
+			{
+				EditorStyle::DrawField(*Painter, Option->rect, Option->palette, Option->state, Widget->property("wrong").toBool());
+				return;
+			}
+			break;
+		case PE_IndicatorCheckBox:
+			EditorStyle::DrawTick(*Painter, Option->rect, Option->palette, Option->state);
+			return;
+		case PE_IndicatorDockWidgetResizeHandle:
+			Painter->fillRect(Option->rect, Theme::GetColors().Line);
+			return;
+		case PE_FrameLineEdit: // drawn with the panel
+		case PE_FrameFocusRect:
+		case PE_FrameStatusBarItem:
+		case PE_FrameTabBarBase:
+		case PE_IndicatorToolBarSeparator:
+			return;
+		case PE_FrameDockWidget:
+			return;
+		default: break;
 	}
 	QProxyStyle::drawPrimitive(Element, Option, Painter, Widget);
+}
+
+void FEditorStyle::drawControl(ControlElement Element, const QStyleOption* Option, QPainter* Painter, const QWidget* Widget) const
+{
+	switch (Element)
+	{
+		case CE_DockWidgetTitle:
+			if (const QStyleOptionDockWidget* const Dock = qstyleoption_cast<const QStyleOptionDockWidget*>(Option))
+			{
+				Painter->fillRect(Option->rect, Theme::GetColors().Header);
+				Painter->setPen(Option->palette.color(QPalette::WindowText));
+				const QRect Room = Option->rect.adjusted(10, 0, -48, 0);
+				Painter->drawText(Room, Qt::AlignVCenter | Qt::AlignLeft, Option->fontMetrics.elidedText(Dock->title, Qt::ElideRight, Room.width()));
+				return;
+			}
+			break;
+		case CE_TabBarTabShape:
+			if (const QStyleOptionTab* const Tab = qstyleoption_cast<const QStyleOptionTab*>(Option))
+			{
+				const bool bSelected = Option->state.testFlag(State_Selected);
+				const QColor Ground = bSelected ? Option->palette.color(QPalette::Window) : Theme::GetColors().Header;
+				Painter->fillRect(Tab->rect, Option->state.testFlag(State_MouseOver) && !bSelected ? Theme::GetColors().Hover : Ground);
+				Painter->fillRect(QRect(Tab->rect.right(), Tab->rect.top(), 1, Tab->rect.height()), Theme::GetColors().Line);
+				if (bSelected)
+				{
+					Painter->fillRect(QRect(Tab->rect.left(), Tab->rect.top(), Tab->rect.width() - 1, 2), Option->palette.color(QPalette::Highlight));
+				}
+				return;
+			}
+			break;
+		case CE_HeaderSection:
+			Painter->fillRect(Option->rect, Theme::GetColors().Header);
+			Painter->fillRect(QRect(Option->rect.right(), Option->rect.top() + 4, 1, Option->rect.height() - 8), Theme::GetColors().FieldLine);
+			return;
+		case CE_HeaderEmptyArea:
+		case CE_ToolBar:
+			Painter->fillRect(Option->rect, Theme::GetColors().Header);
+			return;
+		case CE_Splitter:
+			Painter->fillRect(Option->rect, Theme::GetColors().Line);
+			return;
+		default: break;
+	}
+	QProxyStyle::drawControl(Element, Option, Painter, Widget);
+}
+
+void FEditorStyle::drawComplexControl(ComplexControl Control, const QStyleOptionComplex* Option, QPainter* Painter, const QWidget* Widget) const
+{
+	if (Control != CC_ScrollBar)
+	{
+		QProxyStyle::drawComplexControl(Control, Option, Painter, Widget);
+		return;
+	}
+	Painter->save();
+	Painter->fillRect(Option->rect, Option->palette.color(QPalette::Base));
+	const QRect Handle = subControlRect(CC_ScrollBar, Option, SC_ScrollBarSlider, Widget).adjusted(2, 2, -2, -2);
+	const bool bHeld = Option->activeSubControls.testFlag(SC_ScrollBarSlider);
+	Painter->setRenderHint(QPainter::Antialiasing);
+	Painter->setPen(Qt::NoPen);
+	Painter->setBrush(bHeld ? Theme::GetColors().Subtle : Theme::GetColors().FieldLine);
+	Painter->drawRoundedRect(Handle, 4, 4);
+	Painter->restore();
+}
+
+/** A scroll bar is its handle and no more: nobody uses the arrows. */
+QRect FEditorStyle::subControlRect(ComplexControl Control, const QStyleOptionComplex* Option, SubControl Part, const QWidget* Widget) const
+{
+	const QStyleOptionSlider* const Bar = Control == CC_ScrollBar ? qstyleoption_cast<const QStyleOptionSlider*>(Option) : nullptr;
+	if (Bar == nullptr)
+	{
+		return QProxyStyle::subControlRect(Control, Option, Part, Widget);
+	}
+	const bool bAcross = Bar->orientation == Qt::Horizontal;
+	const int Length = bAcross ? Bar->rect.width() : Bar->rect.height();
+	const int Range = Bar->maximum - Bar->minimum;
+	const int Handle = Range > 0 ? qBound(24, static_cast<int>(static_cast<qint64>(Length) * Bar->pageStep / (static_cast<qint64>(Range) + Bar->pageStep)), Length) : Length;
+	const int Begin = sliderPositionFromValue(Bar->minimum, Bar->maximum, Bar->sliderPosition, Length - Handle, Bar->upsideDown);
+	const auto Cut = [&Bar, bAcross](int From, int To) {
+		return bAcross ? QRect(From, 0, To - From, Bar->rect.height()) : QRect(0, From, Bar->rect.width(), To - From);
+	};
+	switch (Part)
+	{
+		case SC_ScrollBarSlider: return Cut(Begin, Begin + Handle);
+		case SC_ScrollBarGroove: return Cut(0, Length);
+		case SC_ScrollBarSubPage: return Cut(0, Begin);
+		case SC_ScrollBarAddPage: return Cut(Begin + Handle, Length);
+		default: return QRect();
+	}
+}
+
+QIcon FEditorStyle::standardIcon(StandardPixmap Icon, const QStyleOption* Option, const QWidget* Widget) const
+{
+	if (Icon == SP_TitleBarCloseButton || Icon == SP_DockWidgetCloseButton)
+	{
+		return EditorStyle::MakeIcon({{QPointF(4.5, 4.5), QPointF(11.5, 11.5)}, {QPointF(11.5, 4.5), QPointF(4.5, 11.5)}});
+	}
+	if (Icon == SP_TitleBarNormalButton)
+	{
+		return EditorStyle::MakeIcon({{QPointF(3.5, 6.5), QPointF(9.5, 6.5), QPointF(9.5, 12.5), QPointF(3.5, 12.5), QPointF(3.5, 6.5)}, {QPointF(6.5, 3.5), QPointF(12.5, 3.5), QPointF(12.5, 9.5)}});
+	}
+	return QProxyStyle::standardIcon(Icon, Option, Widget);
 }
 
 int FEditorStyle::pixelMetric(PixelMetric Metric, const QStyleOption* Option, const QWidget* Widget) const
@@ -35,18 +204,39 @@ int FEditorStyle::pixelMetric(PixelMetric Metric, const QStyleOption* Option, co
 		case PM_ScrollBarExtent: return 12;
 		case PM_SmallIconSize: return 16;
 		case PM_ToolBarIconSize: return 18;
-		case PM_DockWidgetSeparatorExtent: return 4;
+		case PM_DockWidgetSeparatorExtent: return 3;
+		case PM_DockWidgetTitleMargin: return 5;
+		case PM_DockWidgetFrameWidth: return 0;
+		case PM_IndicatorWidth:
+		case PM_IndicatorHeight: return 16;
+		case PM_TabBarTabVSpace: return 12;
+		case PM_TabBarTabHSpace: return 24;
 		default: return QProxyStyle::pixelMetric(Metric, Option, Widget);
 	}
 }
 
 int FEditorStyle::styleHint(StyleHint Hint, const QStyleOption* Option, const QWidget* Widget, QStyleHintReturn* ReturnData) const
 {
-	if (Hint == SH_EtchDisabledText || Hint == SH_DitherDisabledText)
+	switch (Hint)
 	{
-		return 0;
+		case SH_EtchDisabledText:
+		case SH_DitherDisabledText: return 0;
+		case SH_ScrollBar_Transient: return 0;
+		default: return QProxyStyle::styleHint(Hint, Option, Widget, ReturnData);
 	}
-	return QProxyStyle::styleHint(Hint, Option, Widget, ReturnData);
+}
+
+QSize FEditorStyle::sizeFromContents(ContentsType Type, const QStyleOption* Option, const QSize& Size, const QWidget* Widget) const
+{
+	const QSize Wanted = QProxyStyle::sizeFromContents(Type, Option, Size, Widget);
+	switch (Type)
+	{
+		case CT_PushButton:
+		case CT_LineEdit: return QSize(Wanted.width(), EditorStyle::ControlHeight);
+		case CT_HeaderSection: return QSize(Wanted.width(), EditorStyle::ControlHeight);
+		case CT_MenuItem: return QSize(Wanted.width(), qMax(Wanted.height(), EditorStyle::ControlHeight - 2));
+		default: return Wanted;
+	}
 }
 
 namespace EditorStyle

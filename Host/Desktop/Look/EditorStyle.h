@@ -12,15 +12,20 @@ public:
 
 	//~ Begin QStyle
 	virtual void drawPrimitive(PrimitiveElement Element, const QStyleOption* Option, QPainter* Painter, const QWidget* Widget) const override;
+	virtual void drawControl(ControlElement Element, const QStyleOption* Option, QPainter* Painter, const QWidget* Widget) const override;
+	virtual void drawComplexControl(ComplexControl Control, const QStyleOptionComplex* Option, QPainter* Painter, const QWidget* Widget) const override;
+	virtual QRect subControlRect(ComplexControl Control, const QStyleOptionComplex* Option, SubControl Part, const QWidget* Widget) const override;
+	virtual QIcon standardIcon(StandardPixmap Icon, const QStyleOption* Option, const QWidget* Widget) const override;
 	virtual int pixelMetric(PixelMetric Metric, const QStyleOption* Option, const QWidget* Widget) const override;
 	virtual int styleHint(StyleHint Hint, const QStyleOption* Option, const QWidget* Widget, QStyleHintReturn* ReturnData) const override;
+	virtual QSize sizeFromContents(ContentsType Type, const QStyleOption* Option, const QSize& Size, const QWidget* Widget) const override;
 	//~ End QStyle
 };
 
 /** The frames that several controls share. */
 namespace EditorStyle
 {
-	/** What a person presses. @param bDown pressed, or staying so */
+	/** What a person presses. @param bSelected stays pressed */
 	void DrawButton(QPainter& Painter, const QRect& Rect, const QPalette& Palette, QStyle::State State, bool bSelected);
 
 	/** What a person types into. */

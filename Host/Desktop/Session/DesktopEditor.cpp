@@ -61,13 +61,14 @@ bool FDesktopEditor::Do(const std::function<void()>& Act)
 void FDesktopEditor::Frame()
 {
 	const double Seconds = std::min(static_cast<double>(Clock.nsecsElapsed()) / 1e9, DesktopEditor::LongestFrame);
-	if (!IsReady())
-	{
-		Clock.restart(); // time stands
-		return;
-	}
 	Clock.restart();
-	if (Do([this, Seconds] { Session.GetEditor().Tick(Seconds); }))
+	Let(Seconds);
+}
+
+/** Time stands while the editor is in the middle of something. */
+void FDesktopEditor::Let(double Seconds)
+{
+	if (IsReady() && Do([this, Seconds] { Session.GetEditor().Tick(Seconds); }))
 	{
 		RestartIfWanted();
 	}

@@ -27,6 +27,9 @@ public:
 	/** Lets as much time pass as did since the last call, and restarts the editor when it asked for that. */
 	void Frame();
 
+	/** The same with time as somebody says. */
+	void Let(double Seconds);
+
 	/** Runs something in the editor, guarded. @return false when the editor broke down; it is not to be asked any more then */
 	bool Do(const std::function<void()>& Act);
 

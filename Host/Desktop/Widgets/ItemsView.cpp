@@ -221,6 +221,13 @@ FItemsView::FItemsView(IViewHost& InHost, QWidget& Parent)
 	GetArea().OnMoved = [this](int Step) { MoveSelection(Step); };
 }
 
+/** The area outlives its view a little. */
+FItemsView::~FItemsView()
+{
+	GetArea().OnScrolled = nullptr;
+	GetArea().OnMoved = nullptr;
+}
+
 void FItemsView::Refresh(FSeenWidget& Seen)
 {
 	const FHostWidgetLook& Look = Seen.GetLook();
@@ -240,7 +247,7 @@ void FItemsView::Refresh(FSeenWidget& Seen)
 void FItemsView::AskForRows(FSeenWidget& Seen)
 {
 	const int First = GetArea().GetFirst();
-	const int Count = GetArea().GetCount();
+	const int Count = std::max(GetArea().GetCount(), Host.GetLeastRows());
 	const int NumItems = Seen.GetLook().NumItems;
 	if (First == AskedFirst && Count == AskedCount && NumItems == AskedOf)
 	{

@@ -60,6 +60,7 @@ class FItemsView : public FWidgetView
 {
 public:
 	FItemsView(IViewHost& InHost, QWidget& Parent);
+	virtual ~FItemsView() override;
 
 protected:
 	virtual void Refresh(FSeenWidget& Seen) override;

@@ -23,6 +23,9 @@ public:
 
 	virtual FBrushes& GetBrushes() = 0;
 
+	/** How many rows a list has at least, seen or not: a script reads as many here as it does without a window. */
+	virtual int GetLeastRows() const = 0;
+
 	/** What lives as long as the host, for what is to be done later. */
 	virtual QObject& GetContext() = 0;
 

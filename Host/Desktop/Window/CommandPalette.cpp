@@ -56,7 +56,7 @@ namespace CommandPalette
 	}
 
 	/** The place stands behind the name, in the colour of what matters less. */
-	class FCommandLine : public QStyledItemDelegate
+	class FCommandItem : public QStyledItemDelegate
 	{
 	public:
 		using QStyledItemDelegate::QStyledItemDelegate;
@@ -93,7 +93,7 @@ FCommandPalette::FCommandPalette(IWindowServices& InServices, QMainWindow& InWin
 	Field->installEventFilter(this);
 	List->setFocusPolicy(Qt::NoFocus);
 	List->setFrameShape(QFrame::NoFrame);
-	List->setItemDelegate(new CommandPalette::FCommandLine(List));
+	List->setItemDelegate(new CommandPalette::FCommandItem(List));
 	for (QAction* const Action : Window.menuBar()->actions())
 	{
 		if (Action->menu() != nullptr)

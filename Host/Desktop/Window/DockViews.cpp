@@ -6,6 +6,7 @@
 #include "Docks/DetailsDock.h"
 #include "Docks/NotificationHistoryDock.h"
 #include "Docks/VariantManagerDock.h"
+#include "Docks/WelcomeDock.h"
 
 namespace DockViews
 {
@@ -18,6 +19,7 @@ namespace DockViews
 	const std::vector<FKind>& GetAll()
 	{
 		static const std::vector<FKind> Kinds = {
+			{"Welcome", "Welcome", Qt::TopDockWidgetArea, false, &MakeOne<FWelcomeDock>},
 			{"Details", "Details", Qt::RightDockWidgetArea, true, &MakeOne<FDetailsDock>},
 			{"ContentBrowser", "Content Browser", Qt::BottomDockWidgetArea, true, &MakeOne<FContentBrowserDock>},
 			{"VariantManager", "Variant Manager", Qt::RightDockWidgetArea, true, &MakeOne<FVariantManagerDock>},

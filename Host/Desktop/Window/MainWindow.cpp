@@ -88,6 +88,10 @@ void FMainWindow::MakeToolbar()
 
 TSharedPtr<SWidget> FMainWindow::FindToolbar()
 {
+	if (!Editor.GetSession().IsRunning())
+	{
+		return nullptr;
+	}
 	if (!Toolbar.IsValid() || !SinceToolbar.isValid() || SinceToolbar.elapsed() > MainWindow::ToolbarMilliseconds)
 	{
 		Toolbar = Editor.GetSession().GetToolbar().GetContent();
@@ -136,6 +140,16 @@ void FMainWindow::ArrangeAtFirst()
 	}
 }
 
+void FMainWindow::Welcome()
+{
+	QSettings Settings(GetSettingsFile(), QSettings::IniFormat);
+	if (!Settings.value(QStringLiteral("Window/Welcomed")).toBool())
+	{
+		Settings.setValue(QStringLiteral("Window/Welcomed"), true); // from now on, as the arrangement has it
+		ShowDock(QStringLiteral("Welcome"));
+	}
+}
+
 void FMainWindow::StartClock()
 {
 	Timer.start(MainWindow::FrameMilliseconds);
@@ -157,6 +171,12 @@ void FMainWindow::Refresh()
 	RefreshAll();
 }
 
+void FMainWindow::Let(double Seconds)
+{
+	Editor.Let(Seconds);
+	ShowNow();
+}
+
 void FMainWindow::ShowNow()
 {
 	RefreshAll();
@@ -168,6 +188,10 @@ void FMainWindow::ShowNow()
 
 void FMainWindow::RefreshAll()
 {
+	if (!Editor.GetSession().IsRunning())
+	{
+		return;
+	}
 	bRefreshing = true;
 	Editor.Do([this] {
 		Panels.Refresh();

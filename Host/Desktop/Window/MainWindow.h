@@ -20,7 +20,7 @@ class FStatusLine;
 class FMainWindow : public QMainWindow, public IWindowServices
 {
 public:
-	/** @param InEditor runs already, and outlives the window */
+	/** @param InEditor outlives the window; nothing of it shows before it runs */
 	explicit FMainWindow(FDesktopEditor& InEditor);
 	virtual ~FMainWindow() override;
 
@@ -30,6 +30,15 @@ public:
 	/** Shows everything as it is, also while the editor is in the middle of something, such as between two steps of a script. */
 	void ShowNow();
 
+	/** Lets so much time pass, whatever the clock says, and shows what came of it. */
+	void Let(double Seconds);
+
+	/** See IViewHost::GetLeastRows(). */
+	void SetLeastRows(int InLeastRows) { LeastRows = InLeastRows; }
+
+	/** Shows what to try first, unless that was closed once. */
+	void Welcome();
+
 	/** From now on, frames come by themselves. */
 	void StartClock();
 
@@ -37,6 +46,7 @@ public:
 	virtual FHostInputResult Give(const TSharedRef<SWidget>& Widget, const FHostInput& Input) override;
 	virtual void RequestFrame() override;
 	virtual FBrushes& GetBrushes() override { return Brushes; }
+	virtual int GetLeastRows() const override { return LeastRows; }
 	virtual QObject& GetContext() override { return *this; }
 	virtual void AddRoot(FWidgetRoot& Root) override;
 	virtual void RemoveRoot(FWidgetRoot& Root) override;
@@ -83,6 +93,7 @@ private:
 	QTimer Timer;
 	QElapsedTimer SinceToolbar;
 	TSharedPtr<SWidget> Toolbar; // as it was made last; let go of with the editor
+	int LeastRows = 0;
 	bool bFrameRequested = false;
 	bool bRefreshing = false;
 };
