@@ -66,7 +66,10 @@ protected:
 			{
 				Line += Set.child(Child)->isHidden() ? QString() : QLatin1Char(' ') + Describe(*Set.child(Child));
 			}
-			Set.isHidden() ? void() : Lines.append(Line);
+			if (!Set.isHidden())
+			{
+				Lines.append(Line);
+			}
 		}
 		return Lines;
 	}

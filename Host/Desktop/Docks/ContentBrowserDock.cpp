@@ -57,7 +57,9 @@ FContentBrowserDock::FContentBrowserDock(IWindowServices& InServices, QWidget* P
 	Halves->setSizes({ContentBrowserDock::TreeWidth, ContentBrowserDock::Wanted.width()});
 	Halves->setChildrenCollapsible(false);
 	MakeActions();
-	setTabOrder({Search, Kinds, Tree, View});
+	setTabOrder(Kinds, Search);
+	setTabOrder(Search, Tree);
+	setTabOrder(Tree, View);
 }
 
 QSize FContentBrowserDock::sizeHint() const
@@ -82,7 +84,7 @@ QWidget* FContentBrowserDock::MakeToolbar()
 	Add->setMenu(AddMenu);
 	Layout->addWidget(Add);
 
-	QPushButton* const SaveAll = new QPushButton(Icons::Find("Mark.Unsaved"), tr("Save all"), Bar);
+	SaveAll = new QPushButton(Icons::Find("Mark.Unsaved"), tr("Save all"), Bar);
 	SaveAll->setObjectName(QStringLiteral("ContentSaveAll"));
 	SaveAll->setToolTip(tr("Saves everything that has changes (Ctrl+S)"));
 	connect(SaveAll, &QPushButton::clicked, this, [this] {
@@ -242,7 +244,9 @@ void FContentBrowserDock::Refresh()
 	{
 		return; // a name is being typed
 	}
-	if (Catalog.Refresh(Services.GetEditor().GetSession().GetUnsaved()))
+	const TArray<FString> Unsaved = Services.GetEditor().GetSession().GetUnsaved();
+	SaveAll->setEnabled(!Unsaved.IsEmpty());
+	if (Catalog.Refresh(Unsaved))
 	{
 		FitTree();
 		ShowList();
@@ -263,7 +267,7 @@ void FContentBrowserDock::FitTree()
 	QSet<QString> Closed;
 	for (QTreeWidgetItemIterator It(Tree); *It != nullptr; ++It)
 	{
-		if (!(*It)->isExpanded())
+		if ((*It)->childCount() > 0 && !(*It)->isExpanded())
 		{
 			Closed.insert((*It)->data(0, Qt::UserRole).toString());
 		}
@@ -292,7 +296,20 @@ void FContentBrowserDock::FitTree()
 		// The project is open at first; what plugins bring is not.
 		Item->setExpanded(bFirst ? Folder.startsWith(ContentBrowserDock::ProjectRoot) : !Closed.contains(Folder));
 	}
-	Tree->setCurrentItem(Items.value(Query.Folder));
+	MarkFolder();
+}
+
+void FContentBrowserDock::MarkFolder()
+{
+	bFollowing = true;
+	for (QTreeWidgetItemIterator It(Tree); *It != nullptr; ++It)
+	{
+		if ((*It)->data(0, Qt::UserRole).toString() == Query.Folder)
+		{
+			Tree->setCurrentItem(*It);
+			Tree->scrollToItem(*It);
+		}
+	}
 	bFollowing = false;
 }
 
@@ -356,7 +373,7 @@ void FContentBrowserDock::FollowSelection()
 		Query.Search.clear();
 		Query.Kinds.clear();
 		Query.Folder = QtText::From(Selection[0].PackagePath);
-		FitTree();
+		MarkFolder();
 	}
 	ShowList();
 	const QModelIndex First = Selection.IsEmpty() ? QModelIndex() : List->FindPath(QtText::From(Selection[0].PackageName));
@@ -422,7 +439,7 @@ void FContentBrowserDock::GoTo(const QString& Folder)
 	Query.Folder = Folder;
 	Message->clear();
 	ShowList();
-	FitTree();
+	MarkFolder();
 	View->scrollToTop();
 }
 
@@ -479,7 +496,7 @@ void FContentBrowserDock::OpenMenu(const QPoint& Place, bool bOnItem)
 
 void FContentBrowserDock::FillKinds(QMenu& Menu)
 {
-	Menu.clear();
+	ContentMenus::Clear(Menu);
 	QMap<QString, int> Counted;
 	for (const FContentItem& Item : Catalog.GetItems())
 	{

@@ -37,6 +37,7 @@ private:
 
 	//~ Keeping it in step with the editor
 	void FitTree();
+	void MarkFolder();
 	void ShowList();
 	void FollowSelection();
 	void FitFoot();
@@ -63,6 +64,7 @@ private:
 	QLineEdit* Search = nullptr;
 	QToolButton* Kinds = nullptr;
 	QMenu* AddMenu = nullptr;
+	QPushButton* SaveAll = nullptr;
 	QLabel* Path = nullptr;
 	QLabel* Empty = nullptr;
 	QLabel* Counts = nullptr;

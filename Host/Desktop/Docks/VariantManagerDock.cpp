@@ -199,7 +199,7 @@ void FVariantManagerDock::Refresh()
 	Pair();
 	const VariantComparison::FSides Sides = FindSides();
 	const uint32 Now = HashCombine(VariantComparison::Fingerprint(Sides), static_cast<uint32>(qHash(SetsName) ^ (qHash(ConfiguratorName) << 1)));
-	if (SeenSides == Now)
+	if (SeenSides.IsSet() && SeenSides.GetValue() == Now)
 	{
 		return;
 	}
@@ -419,7 +419,7 @@ QString FVariantManagerDock::DescribeEmptiness(const VariantComparison::FSides& 
 /** The menu is that of the selected asset. */
 void FVariantManagerDock::OpenConfiguratorMenu()
 {
-	ActMenu->clear();
+	ContentMenus::Clear(*ActMenu);
 	Services.GetEditor().Do([this] {
 		if (UObject* const Asset = VariantManagerDock::Load<UVelmorantConfiguratorDataAsset>(ConfiguratorName))
 		{

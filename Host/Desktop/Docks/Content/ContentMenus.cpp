@@ -45,9 +45,15 @@ namespace ContentMenus
 	}
 }
 
-void ContentMenus::FillAdd(QMenu& Menu, IWindowServices& Services, const FCreate& Create)
+void ContentMenus::Clear(QMenu& Menu)
 {
 	Menu.clear();
+	qDeleteAll(Menu.findChildren<QMenu*>(QString(), Qt::FindDirectChildrenOnly)); // their actions are not the menu's own
+}
+
+void ContentMenus::FillAdd(QMenu& Menu, IWindowServices& Services, const FCreate& Create)
+{
+	Clear(Menu);
 	TArray<HostAssetTools::FNewAssetItem> Items;
 	Services.GetEditor().Do([&Items] { Items = HostAssetTools::GetNewAssetMenu(); });
 	QMenu* Category = nullptr;

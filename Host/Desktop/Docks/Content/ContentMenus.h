@@ -4,8 +4,8 @@
 
 #include "QtHeaders.h"
 
-#include "UObject/NameTypes.h"
 #include "Containers/UnrealString.h"
+#include "UObject/NameTypes.h"
 
 #include <functional>
 
@@ -15,6 +15,9 @@ class IWindowServices;
 namespace ContentMenus
 {
 	using FCreate = std::function<void(const FName& FactoryClass, const FString& Category)>;
+
+	/** Takes everything out of a menu that is filled anew each time it opens. */
+	void Clear(QMenu& Menu);
 
 	/** Kinds of asset that can be made, by category. */
 	void FillAdd(QMenu& Menu, IWindowServices& Services, const FCreate& Create);

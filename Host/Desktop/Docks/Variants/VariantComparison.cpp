@@ -92,7 +92,7 @@ namespace VariantComparison
 		FVariantRow Row = DescribePresent(Set.GetDisplayText().ToString(), Expected, bFound, bKnown);
 		for (UVariant* const Variant : Set.GetVariants())
 		{
-			const FString& Name = Variant->GetDisplayText().ToString();
+			const FString Name = Variant->GetDisplayText().ToString();
 			const int32* const Index = Expected != nullptr ? Expected->VariantsByName.Find(Name) : nullptr;
 			Row.Variants.push_back(DescribePresent(Name, Index != nullptr ? &Expected->Variants[*Index] : nullptr, bFound && Set.GetVariantByName(Name) == Variant, bKnown));
 		}
@@ -111,8 +111,12 @@ namespace VariantComparison
 
 	static uint32 HashUnit(const FVelmorantConfigUnit* Unit)
 	{
-		uint32 Result = Unit != nullptr ? 1 : 0;
-		for (const FVelmorantConfigRoom& Room : Unit != nullptr ? Unit->Rooms : TArray<FVelmorantConfigRoom>())
+		if (Unit == nullptr)
+		{
+			return 0;
+		}
+		uint32 Result = 1;
+		for (const FVelmorantConfigRoom& Room : Unit->Rooms)
 		{
 			for (const FVelmorantConfigGroup& Group : Room.Groups)
 			{
@@ -144,7 +148,7 @@ std::vector<FVariantRow> VariantComparison::Compare(const FSides& Sides)
 	{
 		for (UVariantSet* const Set : Sides.Sets->GetVariantSets())
 		{
-			const FString& Name = Set->GetDisplayText().ToString();
+			const FString Name = Set->GetDisplayText().ToString();
 			const int32* const Index = Expectations.SetsByName.Find(Name);
 			Rows.push_back(DescribeSet(*Set, Index != nullptr ? &Expectations.Sets[*Index] : nullptr, Sides.Sets->GetVariantSetByName(Name) == Set, bKnown));
 		}

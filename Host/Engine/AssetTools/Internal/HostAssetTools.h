@@ -51,7 +51,7 @@ namespace HostAssetTools
 		FLinearColor Color;
 	};
 
-	/** As its definition says, else its type actions, those of parent classes included; without any, the class's own name in grey. */
+	/** As the definition of the nearest class says, else its type actions; without any, the class's own name in grey. */
 	FAssetKind FindKind(const UClass* AssetClass);
 
 	/** Who shows a new asset to the user; the content browser sets this when it starts up. Holds until the editor goes down. */
