@@ -141,6 +141,6 @@ TEST_F(FVariantManagerTest, SaysWhyThereIsNothingAndTakesNoSidesWithoutAConfigur
 	EXPECT_TRUE(Read()[0].contains(QStringLiteral("=missing")));
 	HostContentBrowser::SetSelection({FAssetData(Sets)});
 	const QStringList Alone = Read();
-	EXPECT_EQ(Alone.filter(QLatin1Char('=')), QStringList()) << "nothing refers to it: nothing is known";
+	EXPECT_EQ(Alone.filter(QStringLiteral("=")), QStringList()) << "nothing refers to it: nothing is known";
 	EXPECT_TRUE(Find<QLabel>("VariantsConfigurator").text().startsWith(QStringLiteral("No configurator")));
 }
