@@ -25,6 +25,16 @@ FHostDetailsView* FDetailsPanels::Find(const FString& Name) const
 	return Index != INDEX_NONE ? Panels[Index].View.Get() : nullptr;
 }
 
+TArray<FString> FDetailsPanels::GetNames() const
+{
+	TArray<FString> Names;
+	for (const FPanel& Panel : Panels)
+	{
+		Names.Add(Panel.Name);
+	}
+	return Names;
+}
+
 bool FDetailsPanels::Close(const FString& Name)
 {
 	const int32 Index = IndexOf(Name);

@@ -21,6 +21,9 @@ public:
 	/** Null when there is no such panel. Good until panels open or close. */
 	FHostDetailsView* Find(const FString& Name) const;
 
+	/** In order of opening. */
+	TArray<FString> GetNames() const;
+
 	/** @return whether there was such a panel. */
 	bool Close(const FString& Name);
 	void CloseAll() { Panels.Empty(); }

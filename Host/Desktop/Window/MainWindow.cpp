@@ -45,6 +45,10 @@ FMainWindow::FMainWindow(FDesktopEditor& InEditor)
 	setDockOptions(AnimatedDocks | AllowNestedDocks | AllowTabbedDocks | GroupedDragging);
 	setTabPosition(Qt::AllDockWidgetAreas, QTabWidget::North);
 	setDocumentMode(true);
+	setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
+	setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+	setCorner(Qt::TopLeftCorner, Qt::LeftDockWidgetArea);
+	setCorner(Qt::TopRightCorner, Qt::RightDockWidgetArea);
 	setStatusBar(Status);
 	MakeToolbar();
 	MakeDocks();
@@ -53,7 +57,6 @@ FMainWindow::FMainWindow(FDesktopEditor& InEditor)
 	Editor.OnRestarted = [this](const TArray<FString>& Lost) { TellLost(Lost); };
 	Editor.OnBroken = [this](const FString& Reason) { TellBroken(Reason); };
 	resize(MainWindow::FirstSize);
-	ArrangeAtFirst();
 	RestoreArrangement();
 	connect(&Timer, &QTimer::timeout, this, [this] { Frame(); });
 	Refresh();
@@ -125,10 +128,6 @@ void FMainWindow::MakeDocks()
 /** Wide middle, tools around it; what a person arranged takes its place. */
 void FMainWindow::ArrangeAtFirst()
 {
-	setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
-	setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
-	setCorner(Qt::TopLeftCorner, Qt::LeftDockWidgetArea);
-	setCorner(Qt::TopRightCorner, Qt::RightDockWidgetArea);
 	for (const FFixedDock& Each : Docks)
 	{
 		switch (dockWidgetArea(Each.Dock))
@@ -321,6 +320,17 @@ void FMainWindow::resizeEvent(QResizeEvent* Event)
 	RequestFrame();
 }
 
+/** Docks take sizes once they have their place. */
+void FMainWindow::showEvent(QShowEvent* Event)
+{
+	QMainWindow::showEvent(Event);
+	if (!bArranged)
+	{
+		bArranged = true;
+		ArrangeAtFirst();
+	}
+}
+
 void FMainWindow::LetGo()
 {
 	Toolbar.Reset();
@@ -358,7 +368,7 @@ void FMainWindow::RestoreArrangement()
 {
 	const QSettings Settings(GetSettingsFile(), QSettings::IniFormat);
 	restoreGeometry(Settings.value(QStringLiteral("Window/Geometry")).toByteArray());
-	restoreState(Settings.value(QStringLiteral("Window/Arrangement")).toByteArray(), MainWindow::ArrangementVersion);
+	bArranged = restoreState(Settings.value(QStringLiteral("Window/Arrangement")).toByteArray(), MainWindow::ArrangementVersion);
 }
 
 void FMainWindow::KeepArrangement() const

@@ -58,6 +58,7 @@ public:
 protected:
 	virtual void closeEvent(QCloseEvent* Event) override;
 	virtual void resizeEvent(QResizeEvent* Event) override;
+	virtual void showEvent(QShowEvent* Event) override;
 
 private:
 	struct FFixedDock
@@ -94,6 +95,7 @@ private:
 	QElapsedTimer SinceToolbar;
 	TSharedPtr<SWidget> Toolbar; // as it was made last; let go of with the editor
 	int LeastRows = 0;
+	bool bArranged = false; // as somebody left it, or once at first
 	bool bFrameRequested = false;
 	bool bRefreshing = false;
 };

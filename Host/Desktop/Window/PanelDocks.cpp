@@ -16,6 +16,7 @@
 namespace PanelDocks
 {
 	static const int PanelMargin = 10;
+	static const int FirstWidth = 420;
 
 	/** Tells when somebody closes it. */
 	class FPanelDock : public QDockWidget
@@ -67,6 +68,7 @@ std::vector<FPanelDocks::FOpen> FPanelDocks::FindOpen() const
 	AddTabs(Open);
 	AddFreePanels(Open);
 	AddSettings(Open);
+	AddDetails(Open);
 	return Open;
 }
 
@@ -122,6 +124,25 @@ void FPanelDocks::AddSettings(std::vector<FOpen>& InOutOpen) const
 	}
 }
 
+/** Details panels that scripts open. */
+void FPanelDocks::AddDetails(std::vector<FOpen>& InOutOpen) const
+{
+	FDetailsPanels& Details = Services.GetEditor().GetSession().GetDetails();
+	for (const FString& Name : Details.GetNames())
+	{
+		FOpen Open;
+		Open.Name = QStringLiteral("Details.") + QtText::From(Name);
+		Open.Title = tr("Details: %1").arg(QtText::From(Name));
+		Open.Area = Qt::RightDockWidgetArea;
+		Open.Find = [&Details, Name] {
+			FHostDetailsView* const View = Details.Find(Name);
+			return View != nullptr ? TSharedPtr<SWidget>(View->GetWidget()) : TSharedPtr<SWidget>();
+		};
+		Open.Close = [&Details, Name] { Details.Close(Name); };
+		InOutOpen.push_back(Open);
+	}
+}
+
 void FPanelDocks::Refresh()
 {
 	const std::vector<FOpen> All = FindOpen();
@@ -166,10 +187,11 @@ QDockWidget* FPanelDocks::MakeDock(const FOpen& Open)
 	};
 	if (!Window.restoreDockWidget(Dock))
 	{
-		Window.addDockWidget(Qt::LeftDockWidgetArea, Dock);
+		Window.addDockWidget(Open.Area, Dock);
+		Window.resizeDocks({Dock}, {PanelDocks::FirstWidth}, Qt::Horizontal);
 		for (const auto& Other : Docks)
 		{
-			if (Other.second && Other.second != Dock && Window.dockWidgetArea(Other.second) == Qt::LeftDockWidgetArea)
+			if (Other.second && Other.second != Dock && Window.dockWidgetArea(Other.second) == Open.Area)
 			{
 				Window.tabifyDockWidget(Other.second, Dock);
 				break;

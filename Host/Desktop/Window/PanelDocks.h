@@ -32,6 +32,7 @@ private:
 	{
 		QString Name; // of the dock, by which its place is remembered
 		QString Title;
+		Qt::DockWidgetArea Area = Qt::LeftDockWidgetArea; // at first
 		std::function<TSharedPtr<SWidget>()> Find;
 		std::function<void()> Close;
 	};
@@ -40,6 +41,7 @@ private:
 	void AddTabs(std::vector<FOpen>& InOutOpen) const;
 	void AddFreePanels(std::vector<FOpen>& InOutOpen) const;
 	void AddSettings(std::vector<FOpen>& InOutOpen) const;
+	void AddDetails(std::vector<FOpen>& InOutOpen) const;
 	QDockWidget* MakeDock(const FOpen& Open);
 
 	IWindowServices& Services;
