@@ -83,7 +83,13 @@ namespace VariantManagerDock
 		const FStateLook& Look = GetLook(Row.State);
 		Item.setText(NameColumn, Row.Name);
 		Item.setText(StateColumn, QObject::tr(Look.Word));
-		Item.setText(OriginColumn, Row.Origin);
+		if (Item.parent() == nullptr)
+		{
+			Item.setText(OriginColumn, Row.Origin); // that of its variants is the same
+			QFont Bold = Item.font(NameColumn);
+			Bold.setBold(true);
+			Item.setFont(NameColumn, Bold);
+		}
 		Item.setData(NameColumn, DiffersRole, Row.State > EVariantState::Same);
 		Item.setData(NameColumn, Qt::AccessibleTextRole, *Look.Word != '\0' ? QStringLiteral("%1, %2").arg(Row.Name, QObject::tr(Look.Word)) : Row.Name);
 		Item.setToolTip(NameColumn, QObject::tr(Look.Why));
@@ -137,6 +143,7 @@ QWidget* FVariantManagerDock::MakeHead()
 	Assets->setObjectName(QStringLiteral("VariantsAsset"));
 	Assets->setAccessibleName(tr("Level variant sets"));
 	Assets->setMinimumContentsLength(12);
+	Assets->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 	Assets->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
 	connect(Assets, &QComboBox::activated, this, [this](int Index) {
 		Choose(Assets->itemData(Index).toString(), QString());

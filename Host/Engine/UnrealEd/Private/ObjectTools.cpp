@@ -18,6 +18,12 @@ DEFINE_LOG_CATEGORY_STATIC(LogObjectTools, Log, All);
 
 namespace ObjectTools
 {
+	/** Garbage, or a part of it. */
+	bool IsDead(const UObject* Object)
+	{
+		return Object != nullptr && (!IsValid(Object) || IsDead(Object->GetOuter()));
+	}
+
 	/** Points what still points at a dead object at nothing. */
 	class FDeadReferences final : public FReferenceCollector
 	{
@@ -31,7 +37,7 @@ namespace ObjectTools
 		}
 
 	protected:
-		virtual void HandleObjectReference(UObject*& Object) override { Object = IsValid(Object) ? Object : nullptr; }
+		virtual void HandleObjectReference(UObject*& Object) override { Object = IsDead(Object) ? nullptr : Object; }
 	};
 
 	/** By package name, without what cannot be deleted, which the log names. */
