@@ -28,4 +28,21 @@ namespace QtText
 	{
 		return FString(static_cast<int32>(Text.size()), reinterpret_cast<const TCHAR*>(Text.utf16()));
 	}
+
+	/** A name such as "VelmorantDeveloperPanel" as people write it. */
+	inline QString MakeTitle(const QString& Label)
+	{
+		QString Title;
+		for (const QChar Character : Label)
+		{
+			if (Character == QLatin1Char('_'))
+			{
+				Title += QLatin1Char(' ');
+				continue;
+			}
+			const bool bWord = Character.isUpper() && !Title.isEmpty() && Title.back().isLower();
+			Title += bWord ? QStringLiteral(" ") + Character : QString(Character);
+		}
+		return Title;
+	}
 }

@@ -39,6 +39,10 @@ public:
 	UPROPERTY(EditAnywhere, BlueprintReadOnly, Category = "UnitVolumeConfig")
 	FUnitVolumeUniqueIdentifier UniqueIdentifier;
 
+	/** Half of the box's size along its own axes, in centimetres, before the actor is scaled; the actor stands in its middle. */
+	UPROPERTY(EditAnywhere, BlueprintReadOnly, Category = "UnitVolumeConfig")
+	FVector BoxExtent = FVector(600.0, 450.0, 140.0);
+
 	/** The name that the level shows; outside the editor the object's own. */
 	UFUNCTION(BlueprintPure, Category = "UnitVolumeConfig")
 	FString GetVolumeLabel() const;

@@ -2,6 +2,7 @@
 
 #include "Docks/DetailsDock.h"
 
+#include "Level/LevelActors.h"
 #include "Widgets/WidgetRoot.h"
 #include "Window/WindowServices.h"
 
@@ -39,12 +40,33 @@ void FDetailsDock::Inspect(const TArray<UObject*>& Objects)
 	Services.RequestFrame();
 }
 
+/** What is selected elsewhere stays until the level's selection changes. */
+void FDetailsDock::FollowSelection()
+{
+	const TArray<AActor*> Selected = LevelActors::GetSelected();
+	std::vector<TWeakObjectPtr<AActor>> Now;
+	TArray<UObject*> Objects;
+	for (AActor* const Actor : Selected)
+	{
+		Now.push_back(Actor);
+		Objects.Add(Actor);
+	}
+	if (Now == Followed)
+	{
+		return;
+	}
+	Followed = std::move(Now);
+	Inspect(Objects);
+}
+
 void FDetailsDock::Refresh()
 {
+	FollowSelection();
 	Empty->setVisible(!View || View->GetObjects().IsEmpty());
 }
 
 void FDetailsDock::LetGo()
 {
 	View.reset();
+	Followed.clear();
 }

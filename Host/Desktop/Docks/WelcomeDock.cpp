@@ -17,7 +17,8 @@ namespace WelcomeDock
 		{"Choose a project", "Harbor Tower, in the list of the developer panel. Set it as default, and tomorrow it is chosen by itself."},
 		{"Look through the units", "Open a unit group with a click, search by key code or name, switch to the configurators."},
 		{"Make an asset of a configurator", "Mode Configurator, a configurator of the list, Create a data asset. Its menu in the content browser makes the level variant sets and places them into the level."},
-		{"Check the unit volumes", "Velmorant, Unit Volume Tools, Check the level: two identifiers of the sample are used twice."},
+		{"Check the unit volumes", "Velmorant, Unit Volume Tools, Check the level: two identifiers of the sample are used twice. The plan hatches those volumes in red."},
+		{"Place something", "Drag a unit volume from the Placement tab into the plan. Ctrl+Z takes it back."},
 		{"Pick an icon and a colour", "Select the spot at the harbour promenade: its icon and its background are picked in the details panel."},
 		{"Save", "Ctrl+S saves all. What is unsaved is counted in the lower right corner."},
 	};
@@ -44,7 +45,7 @@ FWelcomeDock::FWelcomeDock(IWindowServices&, QWidget* Parent)
 	Large.setBold(true);
 	Title->setFont(Large);
 	Layout->addWidget(Title);
-	QLabel* const Intro = new QLabel(tr("A property to try the toolkit on: a copy of your own, on which nothing can break. Close this tab when you know the way."), Page);
+	QLabel* const Intro = new QLabel(tr("A property to try the toolkit on: a copy of your own, on which nothing can break. Close this when you know the way; Help, What to try first (F1) opens it again."), Page);
 	Intro->setWordWrap(true);
 	Layout->addWidget(Intro);
 	Layout->addSpacing(12);
@@ -61,5 +62,14 @@ FWelcomeDock::FWelcomeDock(IWindowServices&, QWidget* Parent)
 		Layout->addWidget(Heading);
 		Layout->addWidget(Text);
 	}
+	QPushButton* const Close = new QPushButton(tr("I know the way"), Page);
+	Close->setObjectName(QStringLiteral("WelcomeClose"));
+	connect(Close, &QPushButton::clicked, this, [Dock = QPointer<QWidget>(Parent)] {
+		if (Dock)
+		{
+			Dock->close();
+		}
+	});
+	Layout->addWidget(Close, 0, Qt::AlignLeft);
 	Layout->addStretch(1);
 }

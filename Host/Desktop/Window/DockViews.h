@@ -17,6 +17,7 @@ namespace DockViews
 		Qt::DockWidgetArea Area;
 		bool bOpenAtFirst;
 		FDockView* (*Make)(IWindowServices& Services, QWidget* Parent);
+		int Stack = 0; // docks of one area and stack are tabs of each other; stacks lie side by side, in order of their first docks
 	};
 
 	const std::vector<FKind>& GetAll();

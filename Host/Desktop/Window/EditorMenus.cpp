@@ -46,6 +46,7 @@ FEditorMenus::FEditorMenus(IWindowServices& InServices, QMainWindow& InWindow)
 	MakeFileMenu();
 	MakeEditMenu();
 	MakeWindowMenu();
+	MakeHelpMenu();
 }
 
 void FEditorMenus::MakeFileMenu()
@@ -88,6 +89,14 @@ void FEditorMenus::MakeWindowMenu()
 	PanelsMenu = WindowMenu->addMenu(tr("&Panels"));
 	connect(PanelsMenu, &QMenu::aboutToShow, this, [this] { FillPanels(); });
 	WindowMenu->addSeparator();
+}
+
+void FEditorMenus::MakeHelpMenu()
+{
+	QMenu* const Menu = Window.menuBar()->addMenu(tr("&Help"));
+	QAction* const Welcome = Menu->addAction(tr("&What to try first"), this, [this] { Services.ShowDock(QStringLiteral("Welcome")); });
+	Welcome->setObjectName(QStringLiteral("HelpWelcome"));
+	Welcome->setShortcut(QKeySequence(Qt::Key_F1));
 }
 
 void FEditorMenus::AddDock(QDockWidget& Dock)

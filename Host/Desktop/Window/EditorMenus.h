@@ -22,6 +22,7 @@ private:
 	void MakeFileMenu();
 	void MakeEditMenu();
 	void MakeWindowMenu();
+	void MakeHelpMenu();
 	void SaveAll();
 	void Restart();
 	void OpenPanel(const QString& AssetPath);

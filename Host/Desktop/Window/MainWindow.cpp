@@ -14,6 +14,8 @@
 #include "Window/StatusLine.h"
 
 #include <algorithm>
+#include <map>
+#include <utility>
 
 namespace MainWindow
 {
@@ -105,7 +107,7 @@ TSharedPtr<SWidget> FMainWindow::FindToolbar()
 
 void FMainWindow::MakeDocks()
 {
-	QDockWidget* LastIn[16] = {};
+	std::map<std::pair<int, int>, QDockWidget*> Firsts; // by area and stack
 	for (const DockViews::FKind& Kind : DockViews::GetAll())
 	{
 		QDockWidget* const Dock = new QDockWidget(tr(Kind.Title), this);
@@ -113,15 +115,18 @@ void FMainWindow::MakeDocks()
 		FDockView* const View = Kind.Make(*this, Dock);
 		Dock->setWidget(View);
 		addDockWidget(Kind.Area, Dock);
-		QDockWidget*& Last = LastIn[Kind.Area];
-		if (Last != nullptr)
+		const auto [First, bFirst] = Firsts.try_emplace({Kind.Area, Kind.Stack}, Dock);
+		if (!bFirst)
 		{
-			tabifyDockWidget(Last, Dock);
+			tabifyDockWidget(First->second, Dock);
 		}
-		Last = Last != nullptr ? Last : Dock;
 		Dock->setVisible(Kind.bOpenAtFirst);
 		Docks.push_back({QLatin1String(Kind.Name), Dock, View});
 		Menus->AddDock(*Dock);
+	}
+	for (const auto& First : Firsts)
+	{
+		First.second->raise();
 	}
 }
 

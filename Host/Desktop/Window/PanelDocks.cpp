@@ -36,23 +36,6 @@ namespace PanelDocks
 			}
 		}
 	};
-
-	/** "VelmorantDeveloperPanel" as people write it. */
-	static QString MakeTitle(const QString& Label)
-	{
-		QString Title;
-		for (const QChar Character : Label)
-		{
-			if (Character == QLatin1Char('_'))
-			{
-				Title += QLatin1Char(' ');
-				continue;
-			}
-			const bool bWord = Character.isUpper() && !Title.isEmpty() && Title.back().isLower();
-			Title += bWord ? QStringLiteral(" ") + Character : QString(Character);
-		}
-		return Title;
-	}
 }
 
 FPanelDocks::FPanelDocks(IWindowServices& InServices, QMainWindow& InWindow)
@@ -78,7 +61,7 @@ void FPanelDocks::AddTabs(std::vector<FOpen>& InOutOpen) const
 	{
 		FOpen Open;
 		Open.Name = QStringLiteral("Tab.") + QtText::From(Tab.Id);
-		Open.Title = PanelDocks::MakeTitle(QtText::From(Tab.Label));
+		Open.Title = QtText::MakeTitle(QtText::From(Tab.Label));
 		Open.Find = [Id = Tab.Id] { return HostTabs::Find(Id.ToString()).Content; };
 		Open.Close = [Id = Tab.Id] { GEditor->GetEditorSubsystem<UEditorUtilitySubsystem>()->CloseTabByID(Id); };
 		InOutOpen.push_back(Open);
@@ -97,7 +80,7 @@ void FPanelDocks::AddFreePanels(std::vector<FOpen>& InOutOpen) const
 		}
 		FOpen Open;
 		Open.Name = QStringLiteral("Panel.") + QtText::From(Panel.Name);
-		Open.Title = PanelDocks::MakeTitle(QtText::From(Panel.Name));
+		Open.Title = QtText::MakeTitle(QtText::From(Panel.Name));
 		Open.Find = [&Panels, Name = Panel.Name]() -> TSharedPtr<SWidget> {
 			const FPanelHost::FPanel* const Found = Panels.Find(Name);
 			return Found != nullptr ? Found->Content : nullptr;
@@ -114,7 +97,7 @@ void FPanelDocks::AddSettings(std::vector<FOpen>& InOutOpen) const
 	{
 		FOpen Open;
 		Open.Name = QStringLiteral("Settings");
-		Open.Title = tr("Settings: %1").arg(PanelDocks::MakeTitle(QtText::From(Page->Address.Section)));
+		Open.Title = tr("Settings: %1").arg(QtText::MakeTitle(QtText::From(Page->Address.Section)));
 		Open.Find = [] {
 			const TOptional<HostSettings::FOpenPage> Shown = HostSettings::GetOpenPage();
 			return Shown.IsSet() ? Shown->Content : TSharedPtr<SWidget>();

@@ -1,0 +1,184 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "Level/LevelActors.h"
+
+#include "Editor.h"
+#include "EngineUtils.h"
+#include "HostStyles.h"
+#include "QtText.h"
+#include "ScopedTransaction.h"
+#include "Selection.h"
+#include "UnitVolumeActor.h"
+
+namespace LevelActors
+{
+	static const int RestPerLook = 20; // so many times as long as a look takes, the next one waits
+
+	static FText ToTitle(const QString& Text)
+	{
+		return FText::FromString(QtText::ToEditor(Text));
+	}
+
+	class FStamp
+	{
+	public:
+		template<typename ValueType>
+		void Add(const ValueType& Value)
+		{
+			AddBytes(&Value, sizeof(Value));
+		}
+		void Add(const FString& Text) { AddBytes(*Text, sizeof(TCHAR) * static_cast<std::size_t>(Text.Len())); }
+		quint64 Get() const { return Hash; }
+
+	private:
+		void AddBytes(const void* Bytes, std::size_t Count) { Hash = static_cast<quint64>(qHashBits(Bytes, Count, static_cast<std::size_t>(Hash))); }
+
+		quint64 Hash = 0;
+	};
+
+	static void Add(FStamp& Stamp, const FVector& Vector)
+	{
+		Stamp.Add(Vector.X);
+		Stamp.Add(Vector.Y);
+		Stamp.Add(Vector.Z);
+	}
+
+	static quint64 ReadStamp()
+	{
+		FStamp Stamp;
+		Stamp.Add(GetWorld());
+		for (const AActor* const Actor : GetAll())
+		{
+			Stamp.Add(Actor);
+			Stamp.Add(Actor->GetActorLabel());
+			Add(Stamp, Actor->GetActorLocation());
+			Add(Stamp, Actor->GetActorScale3D());
+			Stamp.Add(Actor->GetActorRotation().Yaw);
+			Stamp.Add(Actor->IsSelected());
+			if (const AUnitVolumeActor* const Volume = Cast<AUnitVolumeActor>(Actor))
+			{
+				Stamp.Add(Volume->UniqueIdentifier.UnitID);
+				Stamp.Add(Volume->UniqueIdentifier.Keycode);
+				Add(Stamp, Volume->BoxExtent);
+			}
+		}
+		return Stamp.Get();
+	}
+
+	UWorld* GetWorld()
+	{
+		return GEditor != nullptr ? GEditor->GetEditorWorldContext().World() : nullptr;
+	}
+
+	TArray<AActor*> GetAll()
+	{
+		TArray<AActor*> Actors;
+		if (UWorld* const World = GetWorld())
+		{
+			for (FActorIterator Each(World); Each; ++Each)
+			{
+				Actors.Add(*Each);
+			}
+		}
+		return Actors;
+	}
+
+	TArray<AActor*> GetSelected()
+	{
+		TArray<AActor*> Actors;
+		const USelection* const Selection = GEditor != nullptr ? GEditor->GetSelectedActors() : nullptr;
+		for (int32 Index = 0; Selection != nullptr && Index < Selection->Num(); ++Index)
+		{
+			if (AActor* const Actor = Cast<AActor>(Selection->GetSelectedObject(Index)))
+			{
+				Actors.Add(Actor);
+			}
+		}
+		return Actors;
+	}
+
+	void Select(const TArray<AActor*>& Actors)
+	{
+		if (GEditor == nullptr || GetSelected() == Actors)
+		{
+			return;
+		}
+		const FScopedTransaction Step(ToTitle(QObject::tr("Select actors")));
+		GEditor->SelectNone(false, true);
+		for (AActor* const Actor : Actors)
+		{
+			GEditor->SelectActor(Actor, true, false, true);
+		}
+		GEditor->NoteSelectionChange();
+	}
+
+	void Rename(AActor& Actor, const QString& Label)
+	{
+		const FString Wanted = QtText::ToEditor(Label.trimmed());
+		if (Wanted.IsEmpty() || Wanted.Equals(Actor.GetActorLabel()))
+		{
+			return;
+		}
+		const FScopedTransaction Step(ToTitle(QObject::tr("Rename actor")));
+		Actor.Modify();
+		Actor.SetActorLabel(Wanted);
+	}
+
+	void Delete(const TArray<AActor*>& Actors)
+	{
+		if (Actors.IsEmpty())
+		{
+			return;
+		}
+		const FScopedTransaction Step(ToTitle(QObject::tr("Delete actors")));
+		for (AActor* const Actor : Actors)
+		{
+			GEditor->SelectActor(Actor, false, false, true);
+			Actor->Modify();
+			Actor->Destroy();
+		}
+		GEditor->NoteSelectionChange();
+	}
+
+	void LookAt(const TArray<AActor*>& Actors)
+	{
+		if (GEditor != nullptr)
+		{
+			GEditor->MoveViewportCamerasToActor(Actors, false);
+		}
+	}
+
+	QString GetClassTitle(const UClass& Class)
+	{
+		return QtText::From(Class.GetDisplayNameText());
+	}
+
+	const FSlateBrush* FindClassIcon(const UClass& Class)
+	{
+		for (const UClass* Each = &Class; Each != nullptr; Each = Each->GetSuperClass())
+		{
+			if (const FSlateBrush* const Brush = HostStyles::FindBrush(FName(FString(TEXT("ClassIcon.")) + Each->GetName())))
+			{
+				return Brush;
+			}
+		}
+		return nullptr;
+	}
+}
+
+bool FLevelWatch::HasChanged()
+{
+	if (bLooked && SinceLook.nsecsElapsed() < CostOfLook * LevelActors::RestPerLook)
+	{
+		return false;
+	}
+	QElapsedTimer Clock;
+	Clock.start();
+	const quint64 Stamp = LevelActors::ReadStamp();
+	const bool bChanged = !bLooked || Stamp != LastStamp;
+	LastStamp = Stamp;
+	bLooked = true;
+	CostOfLook = Clock.nsecsElapsed();
+	SinceLook.start();
+	return bChanged;
+}
