@@ -19,7 +19,7 @@ namespace WindowScriptTest
 	};
 
 	/** Runs a program with a copy of the sample and a home of its own. */
-	static FRun Run(const char* Program, const FTemporaryFolder& Folder, const QStringList& Arguments)
+	FRun Run(const char* Program, const FTemporaryFolder& Folder, const QStringList& Arguments)
 	{
 		QProcess Process;
 		QProcessEnvironment Environment = QProcessEnvironment::systemEnvironment();
@@ -39,7 +39,7 @@ namespace WindowScriptTest
 		return Result;
 	}
 
-	static QString CopySample(const FTemporaryFolder& Folder)
+	QString CopySample(const FTemporaryFolder& Folder)
 	{
 		std::filesystem::copy(VELMORANT_SOURCE_DIR "/Samples/HarborTower", Folder.GetNative("HarborTower"), std::filesystem::copy_options::recursive);
 		return QString::fromStdString(Folder.GetNative("HarborTower").string());

@@ -101,13 +101,11 @@ QWidget* FContentBrowserDock::MakeToolbar()
 	Layout->addSpacing(8);
 	Layout->addWidget(Path, 1);
 
-	Kinds = new QToolButton(Bar);
+	Kinds = new QPushButton(Bar);
 	Kinds->setObjectName(QStringLiteral("ContentKinds"));
 	Kinds->setText(tr("All kinds"));
 	Kinds->setToolTip(tr("Shows only some kinds of asset"));
 	Kinds->setAccessibleName(tr("Kinds of asset that show"));
-	Kinds->setPopupMode(QToolButton::InstantPopup);
-	Kinds->setFocusPolicy(Qt::StrongFocus);
 	QMenu* const KindMenu = new QMenu(Kinds);
 	connect(KindMenu, &QMenu::aboutToShow, this, [this, KindMenu] { FillKinds(*KindMenu); });
 	Kinds->setMenu(KindMenu);
@@ -415,7 +413,8 @@ void FContentBrowserDock::FitFoot()
 {
 	const auto NumSelected = View->selectionModel()->selectedIndexes().size();
 	const int NumShown = List->rowCount();
-	Counts->setText(NumSelected > 0 ? tr("%1 items, %2 selected").arg(NumShown).arg(NumSelected) : tr("%1 items").arg(NumShown));
+	const QString Shown = NumShown == 1 ? tr("1 item") : tr("%1 items").arg(NumShown);
+	Counts->setText(NumSelected > 0 ? tr("%1, %2 selected").arg(Shown).arg(NumSelected) : Shown);
 	Kinds->setText(Query.Kinds.isEmpty() ? tr("All kinds") : tr("%1 kinds").arg(Query.Kinds.size()));
 }
 

@@ -62,7 +62,7 @@ private:
 	QTreeWidget* Tree = nullptr;
 	QListView* View = nullptr;
 	QLineEdit* Search = nullptr;
-	QToolButton* Kinds = nullptr;
+	QPushButton* Kinds = nullptr;
 	QMenu* AddMenu = nullptr;
 	QPushButton* SaveAll = nullptr;
 	QLabel* Path = nullptr;
