@@ -53,19 +53,19 @@ namespace CheckBenchmark
 	}
 }
 
-static void CheckSample(benchmark::State& State)
+void CheckSample(benchmark::State& State)
 {
 	CheckBenchmark::Run(State, {CheckBenchmark::Program, "check", CheckBenchmark::Sample}, 1);
 }
 BENCHMARK(CheckSample)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(100)->Repetitions(3);
 
-static void PythonDoingNothing(benchmark::State& State)
+void PythonDoingNothing(benchmark::State& State)
 {
 	CheckBenchmark::Run(State, {"python3", "-c", "pass"}, 0);
 }
 BENCHMARK(PythonDoingNothing)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(100)->Repetitions(3);
 
-static void RepairTenMegabytes(benchmark::State& State)
+void RepairTenMegabytes(benchmark::State& State)
 {
 	double PeakMebibytes = 0.0;
 	for (auto Iteration : State)

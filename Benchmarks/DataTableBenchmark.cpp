@@ -18,7 +18,7 @@ namespace DataTableBenchmark
 }
 
 /** From the file of a table with State.range(0) icons to the table in memory. */
-static void OpenDataTable(benchmark::State& State)
+void OpenDataTable(benchmark::State& State)
 {
 	FBenchmarkEditor Editor;
 	UDataTable* Table = IconTable::Make(State.range(0));
@@ -37,7 +37,7 @@ static void OpenDataTable(benchmark::State& State)
 }
 BENCHMARK(OpenDataTable)->Apply(DataTableBenchmark::Arguments);
 
-static void SaveDataTable(benchmark::State& State)
+void SaveDataTable(benchmark::State& State)
 {
 	FBenchmarkEditor Editor;
 	UPackage* Package = IconTable::Make(State.range(0))->GetPackage();

@@ -17,7 +17,7 @@ namespace DetailsPanelBenchmark
 }
 
 /** Opens the details panel of an object with State.range(0) properties, in blocks of ten, until it shows its rows. */
-static void OpenDetails(benchmark::State& State)
+void OpenDetails(benchmark::State& State)
 {
 	FBenchmarkEditor Editor;
 	const TStrongObjectPtr<UObject> Sheet(NewObject<UObject>(GetTransientPackage(), DetailsPanelBenchmark::GetSheet(State.range(0))));

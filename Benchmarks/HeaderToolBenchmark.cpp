@@ -9,7 +9,7 @@
 #include <vector>
 
 /** The header tool over every reflected header of the build, one run for each module, writing to a fresh folder. */
-static void ReflectAllHeaders(benchmark::State& State)
+void ReflectAllHeaders(benchmark::State& State)
 {
 	std::vector<std::filesystem::path> Manifests;
 	for (const auto& Entry : std::filesystem::directory_iterator(VELMORANT_GENERATED_DIR))

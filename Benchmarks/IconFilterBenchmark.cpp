@@ -4,10 +4,10 @@
 #include "CountOccurrences.h"
 #include "Editor.h"
 #include "Engine/World.h"
-#include "FontIconImporter.h"
 #include "FontPackage.h"
 #include "HostDetailsView.h"
 #include "HostSnapshot.h"
+#include "Icons/FontIconImporter.h"
 #include "VelmorantLevelActors.h"
 #include "VelmorantUISubsystem.h"
 
@@ -128,7 +128,7 @@ namespace IconFilterBenchmark
 }
 
 /** A change of the search text until the grid has its icons; the tiles on show are made later, as many as there is room for. */
-static void IconFilterKeystroke(benchmark::State& State)
+void IconFilterKeystroke(benchmark::State& State)
 {
 	if (!IconFilterBenchmark::IsThere(State))
 	{
@@ -150,7 +150,7 @@ static void IconFilterKeystroke(benchmark::State& State)
 BENCHMARK(IconFilterKeystroke)->Apply(IconFilterBenchmark::Arguments);
 
 /** For comparison: the C library over the names and search words of one icon after the other. */
-static void IconFilterStrcasestr(benchmark::State& State)
+void IconFilterStrcasestr(benchmark::State& State)
 {
 	if (!IconFilterBenchmark::IsThere(State))
 	{
@@ -172,7 +172,7 @@ static void IconFilterStrcasestr(benchmark::State& State)
 BENCHMARK(IconFilterStrcasestr)->Apply(IconFilterBenchmark::Arguments);
 
 /** For comparison: the C library over all names and search words at once. */
-static void IconFilterMemmem(benchmark::State& State)
+void IconFilterMemmem(benchmark::State& State)
 {
 	if (!IconFilterBenchmark::IsThere(State))
 	{

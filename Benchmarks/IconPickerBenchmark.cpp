@@ -38,7 +38,7 @@ namespace IconPickerBenchmark
 }
 
 /** Opens the details panel of a spot whose icon font is not in memory yet, until the grid shows its icons. */
-static void OpenIconPicker(benchmark::State& State)
+void OpenIconPicker(benchmark::State& State)
 {
 	FBenchmarkEditor Editor;
 	IconTable::EnterInSettings();
@@ -69,7 +69,7 @@ static void OpenIconPicker(benchmark::State& State)
 BENCHMARK(OpenIconPicker)->Apply(IconPickerBenchmark::Arguments);
 
 /** Chooses the other style, as a person does, until the grid shows its icons. */
-static void ChooseIconStyle(benchmark::State& State)
+void ChooseIconStyle(benchmark::State& State)
 {
 	FBenchmarkEditor Editor;
 	IconTable::EnterInSettings();

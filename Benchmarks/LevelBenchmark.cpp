@@ -40,7 +40,7 @@ namespace LevelBenchmark
 }
 
 /** From the file of a level with State.range(0) actors to the open level, instead of an empty one. */
-static void OpenLevel(benchmark::State& State)
+void OpenLevel(benchmark::State& State)
 {
 	FBenchmarkEditor Editor;
 	LevelBenchmark::Make(State.range(0));
@@ -59,7 +59,7 @@ static void OpenLevel(benchmark::State& State)
 }
 BENCHMARK(OpenLevel)->Apply(LevelBenchmark::Arguments);
 
-static void SaveLevel(benchmark::State& State)
+void SaveLevel(benchmark::State& State)
 {
 	FBenchmarkEditor Editor;
 	LevelBenchmark::Make(State.range(0));

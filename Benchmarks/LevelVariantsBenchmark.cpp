@@ -48,7 +48,7 @@ namespace LevelVariantsBenchmark
 	};
 }
 
-static void GenerateLevelVariantSets(benchmark::State& State)
+void GenerateLevelVariantSets(benchmark::State& State)
 {
 	for (auto Iteration : State)
 	{
@@ -65,7 +65,7 @@ static void GenerateLevelVariantSets(benchmark::State& State)
 }
 BENCHMARK(GenerateLevelVariantSets)->Arg(1000)->Arg(2000)->Unit(benchmark::kMillisecond)->Repetitions(3);
 
-static void RegenerateUnchangedLevelVariantSets(benchmark::State& State)
+void RegenerateUnchangedLevelVariantSets(benchmark::State& State)
 {
 	const LevelVariantsBenchmark::FScene Scene(State);
 	Scene.Generate();

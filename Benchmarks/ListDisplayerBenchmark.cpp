@@ -68,7 +68,7 @@ namespace ListDisplayerBenchmark
 }
 
 /** From the click on "Home" until the panel shows State.range(0) rows. */
-static void OpenList(benchmark::State& State)
+void OpenList(benchmark::State& State)
 {
 	ListDisplayerBenchmark::FScene Scene(State);
 	for (auto Iteration : State)
@@ -87,7 +87,7 @@ static void OpenList(benchmark::State& State)
 BENCHMARK(OpenList)->Apply(ListDisplayerBenchmark::Arguments);
 
 /** From a list of State.range(0) rows to one of a single row, until the others are collected. */
-static void LeaveList(benchmark::State& State)
+void LeaveList(benchmark::State& State)
 {
 	ListDisplayerBenchmark::FScene Scene(State);
 	for (auto Iteration : State)
@@ -106,7 +106,7 @@ static void LeaveList(benchmark::State& State)
 BENCHMARK(LeaveList)->Apply(ListDisplayerBenchmark::Arguments);
 
 /** For comparison: the bare objects of the rows. */
-static void MakeBareRows(benchmark::State& State)
+void MakeBareRows(benchmark::State& State)
 {
 	FBenchmarkEditor Editor;
 	std::vector<UListDisplayerItemBase*> Rows;
@@ -125,7 +125,7 @@ static void MakeBareRows(benchmark::State& State)
 BENCHMARK(MakeBareRows)->Apply(ListDisplayerBenchmark::Arguments);
 
 /** For comparison: the bare objects again, on their way out. */
-static void CollectBareRows(benchmark::State& State)
+void CollectBareRows(benchmark::State& State)
 {
 	FBenchmarkEditor Editor;
 	for (auto Iteration : State)

@@ -74,7 +74,7 @@ namespace ListFilterBenchmark
 }
 
 /** A change of the search text until the panel shows the rows that are left. */
-static void ListFilterKeystroke(benchmark::State& State)
+void ListFilterKeystroke(benchmark::State& State)
 {
 	FBenchmarkEditor Editor(ListFilterBenchmark::MakeService(ListFilterBenchmark::MakeRows(State)));
 	Editor.SignIn(TEXT("ada"), TEXT("sesame-77"));
@@ -101,7 +101,7 @@ static void ListFilterKeystroke(benchmark::State& State)
 BENCHMARK(ListFilterKeystroke)->Apply(ListFilterBenchmark::Arguments);
 
 /** For comparison: the C library, row by row. */
-static void ListFilterStrcasestr(benchmark::State& State)
+void ListFilterStrcasestr(benchmark::State& State)
 {
 	std::vector<std::string> Texts;
 	for (const ListFilterBenchmark::FRow& Row : ListFilterBenchmark::MakeRows(State))
@@ -118,7 +118,7 @@ static void ListFilterStrcasestr(benchmark::State& State)
 BENCHMARK(ListFilterStrcasestr)->Apply(ListFilterBenchmark::Arguments);
 
 /** For comparison: the C library over all rows at once, in lower case beforehand. */
-static void ListFilterMemmem(benchmark::State& State)
+void ListFilterMemmem(benchmark::State& State)
 {
 	const auto ToLower = [](std::string Text) {
 		std::transform(Text.begin(), Text.end(), Text.begin(), [](unsigned char Char) { return static_cast<char>(std::tolower(Char)); });

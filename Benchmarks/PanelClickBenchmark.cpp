@@ -25,7 +25,7 @@ namespace PanelClickBenchmark
 }
 
 /** From the click on "Sign in" to the service, which reads its data of State.range(0) projects, and back to the panel. */
-static void ClickSignIn(benchmark::State& State)
+void ClickSignIn(benchmark::State& State)
 {
 	FBenchmarkEditor Editor(PanelClickBenchmark::MakeService(State.range(0)));
 	FBenchmarkPanel Panel(PanelLayouts::Login, TEXT("OnLoginResultReceived"));

@@ -38,7 +38,7 @@ namespace ServiceDataBenchmark
 }
 
 /** Signs in against a data file of State.range(0) million bytes that was edited since the last request: from the request until it is answered. */
-static void SignInToLargeService(benchmark::State& State)
+void SignInToLargeService(benchmark::State& State)
 {
 	std::string Service = ServiceDataBenchmark::MakeService(State.range(0) * 1000000);
 	FBenchmarkEditor Editor(Service);
@@ -58,7 +58,7 @@ static void SignInToLargeService(benchmark::State& State)
 BENCHMARK(SignInToLargeService)->Apply(ServiceDataBenchmark::Arguments);
 
 /** Asks for all data of the project in such a file, which stays as it is: from the request until the project's unit groups are there. */
-static void RequestLargeProject(benchmark::State& State)
+void RequestLargeProject(benchmark::State& State)
 {
 	FBenchmarkEditor Editor(ServiceDataBenchmark::MakeService(State.range(0) * 1000000));
 	Editor.SignIn(TEXT("ada"), TEXT("sesame-77"));

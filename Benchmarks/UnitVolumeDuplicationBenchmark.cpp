@@ -45,7 +45,7 @@ namespace UnitVolumeDuplicationBenchmark
 	}
 }
 
-static void CheckForDuplicates(benchmark::State& State)
+void CheckForDuplicates(benchmark::State& State)
 {
 	const UnitVolumeDuplicationBenchmark::FScene Scene(State);
 	int32 NumGroups = 0;
@@ -63,7 +63,7 @@ static void CheckForDuplicates(benchmark::State& State)
 BENCHMARK(CheckForDuplicates)->Arg(5000)->Arg(50000)->Arg(100000)->Unit(benchmark::kMillisecond)->Repetitions(3);
 
 /** For comparison. */
-static void CheckForDuplicatesPairwise(benchmark::State& State)
+void CheckForDuplicatesPairwise(benchmark::State& State)
 {
 	const UnitVolumeDuplicationBenchmark::FScene Scene(State);
 	int32 NumGroups = 0;

@@ -15,21 +15,18 @@
 
 namespace Console
 {
-	namespace
+	int LossReason = 0; // errno of the first write to the standard output that failed
+
+	bool Write(std::FILE* File, std::string_view Line)
 	{
-		int LossReason = 0; // errno of the first write to the standard output that failed
+		return std::fwrite(Line.data(), 1, Line.size(), File) == Line.size() && std::fputc('\n', File) != EOF;
+	}
 
-		bool Write(std::FILE* File, std::string_view Line)
+	void NoteLoss(bool bWritten)
+	{
+		if (!bWritten && LossReason == 0)
 		{
-			return std::fwrite(Line.data(), 1, Line.size(), File) == Line.size() && std::fputc('\n', File) != EOF;
-		}
-
-		void NoteLoss(bool bWritten)
-		{
-			if (!bWritten && LossReason == 0)
-			{
-				LossReason = errno != 0 ? errno : EIO;
-			}
+			LossReason = errno != 0 ? errno : EIO;
 		}
 	}
 

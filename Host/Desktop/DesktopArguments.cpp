@@ -16,7 +16,7 @@
 
 namespace DesktopArguments
 {
-	static FString ToText(const std::string& Text)
+	FString ToText(const std::string& Text)
 	{
 		return FString(UTF8_TO_TCHAR(Text.c_str()));
 	}

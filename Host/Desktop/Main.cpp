@@ -4,16 +4,15 @@
 
 #include "Console.h"
 #include "DesktopArguments.h"
-#include "EditorArguments.h"
-#include "HostFiles.h"
 #include "HostLocale.h"
-#include "HostProblems.h"
 #include "Look/Theme.h"
 #include "Misc/Paths.h"
 #include "ProgramFault.h"
 #include "ProjectArgument.h"
 #include "QtText.h"
-#include "Refusal.h"
+#include "Run/RunCommand.h"
+#include "Scripts/ServiceFile.h"
+#include "Scripts/ToolkitScripts.h"
 #include "Session/DesktopEditor.h"
 #include "Session/ScriptPlayer.h"
 #include "Window/MainWindow.h"
@@ -22,7 +21,7 @@
 
 namespace DesktopMain
 {
-	static Theme::EKind FindTheme(const FString& Name)
+	Theme::EKind FindTheme(const FString& Name)
 	{
 		if (Name.IsEmpty())
 		{
@@ -32,7 +31,7 @@ namespace DesktopMain
 	}
 
 	/** Unset with what is wrong told. */
-	static TOptional<EExitStatus> MakeOptions(const FDesktopArguments& Arguments, FEditorHostOptions& OutOptions)
+	TOptional<EExitStatus> MakeOptions(const FDesktopArguments& Arguments, FEditorHostOptions& OutOptions)
 	{
 		FString Project;
 		const TOptional<EExitStatus> End = ProjectArgument::Find(Arguments.Project, Project, false);
@@ -40,21 +39,17 @@ namespace DesktopMain
 		{
 			return End;
 		}
-		OutOptions = EditorArguments::MakeOptions(Project, FEditorArguments());
-		if (!Arguments.Service.IsEmpty())
+		FRunArguments Run;
+		Run.Inputs = ServiceFile::MakeInputs(Arguments.Service);
+		if (!RunCommand::CheckFiles(Run))
 		{
-			if (HostFiles::GetKind(Arguments.Service) != HostFiles::EKind::File)
-			{
-				HostProblems::Report(FPaths::ConvertRelativePathToFull(Arguments.Service), 0, TEXT("there is no such data file"), TEXT("Name the file that the service answers from."));
-				Refusal::PrintProblems(EExitStatus::Trouble, false);
-				return EExitStatus::Trouble;
-			}
-			OutOptions.CommandLine += FString::Printf(TEXT(" -VelmorantService=\"%s\""), *FPaths::ConvertRelativePathToFull(Arguments.Service));
+			return EExitStatus::Trouble;
 		}
+		OutOptions = RunCommand::MakeOptions(Project, Run);
 		return TOptional<EExitStatus>();
 	}
 
-	static int Run(const FDesktopArguments& Arguments, const FEditorHostOptions& Options)
+	int Run(const FDesktopArguments& Arguments, const FEditorHostOptions& Options)
 	{
 		FDesktopEditor Editor(Options);
 		Editor.OnBroken = [](const FString& Reason) { Console::PrintError(FString(TEXT("velmorant-editor: ")) + Reason); };
@@ -85,6 +80,7 @@ int main(int Count, char** Values)
 {
 	Console::Prepare();
 	HostLocale::UseUnicodeCharacterClasses();
+	ScriptExtension::Set(ToolkitScripts::MakeExtension());
 	FDesktopArguments Arguments;
 	TOptional<EExitStatus> End = DesktopArguments::Parse(Count, Values, Arguments);
 	if (End.IsSet())

@@ -33,14 +33,16 @@ namespace QtText
 	inline QString MakeTitle(const QString& Label)
 	{
 		QString Title;
-		for (const QChar Character : Label)
+		for (qsizetype Index = 0; Index < Label.size(); ++Index)
 		{
+			const QChar Character = Label[Index];
 			if (Character == QLatin1Char('_'))
 			{
 				Title += QLatin1Char(' ');
 				continue;
 			}
-			const bool bWord = Character.isUpper() && !Title.isEmpty() && Title.back().isLower();
+			const bool bBeforeLower = Index + 1 < Label.size() && Label[Index + 1].isLower();
+			const bool bWord = Character.isUpper() && !Title.isEmpty() && (Title.back().isLower() || (Title.back().isUpper() && bBeforeLower));
 			Title += bWord ? QStringLiteral(" ") + Character : QString(Character);
 		}
 		return Title;

@@ -2,6 +2,7 @@
 
 #include "EnumParser.h"
 
+#include "Brackets.h"
 #include "SpecifierParser.h"
 #include "TypeParser.h"
 
@@ -9,20 +10,23 @@ namespace HeaderTool
 {
 	namespace EnumParser
 	{
-		/** `= …` up to what ends the enumerator. */
-		void SkipValue(FTokenCursor& Cursor)
+		/** What stands behind `=`, up to what ends the enumerator. */
+		std::string ParseValue(FTokenCursor& Cursor)
 		{
+			std::string Value;
 			while (!Cursor.AtEnd() && !Cursor.Is(",") && !Cursor.Is("}") && !Cursor.Is("UMETA"))
 			{
 				if (Cursor.Is("(") || Cursor.Is("{"))
 				{
-					Cursor.SkipBalanced();
+					const std::string Open = Cursor.Peek().Text;
+					Value += Open + Cursor.SkipBalanced() + PartnerOf(Open);
 				}
 				else
 				{
-					Cursor.Next();
+					AppendToken(Value, Cursor.Next());
 				}
 			}
+			return Value;
 		}
 
 		FEnumerator ParseEnumerator(FTokenCursor& Cursor, const std::string& Path, FDiagnostics& Diagnostics)
@@ -40,7 +44,7 @@ namespace HeaderTool
 			}
 			if (Cursor.Accept("="))
 			{
-				SkipValue(Cursor);
+				Enumerator.ValueText = ParseValue(Cursor);
 				if (Cursor.Is("UMETA"))
 				{
 					List = ParseSpecifiers(Cursor, Path);

@@ -227,6 +227,7 @@ namespace HeaderTool
 	struct FEnumerator
 	{
 		std::string Name;
+		std::string ValueText; // as written; empty if it follows from the one before
 		FPlace Place;
 		FMetaData Meta;
 	};

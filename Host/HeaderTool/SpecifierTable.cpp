@@ -50,7 +50,7 @@ namespace HeaderTool
 			// Properties.
 			{"EditAnywhere", InProperty, ERole::Specifier, EValue::None, {"CPF_Edit"}, nullptr, nullptr, "PropertyNode.cpp"},
 			{"VisibleAnywhere", InProperty, ERole::Specifier, EValue::None, {"CPF_Edit", "CPF_EditConst"}, nullptr, nullptr, "PropertyNode.cpp"},
-			{"EditFixedSize", InProperty, ERole::Specifier, EValue::None, {"CPF_EditFixedSize"}, nullptr, nullptr, "PropertyWidgets.cpp"},
+			{"EditFixedSize", InProperty, ERole::Specifier, EValue::None, {"CPF_EditFixedSize"}, nullptr, nullptr, "ContainerKinds.cpp"},
 			{"BlueprintReadWrite", InProperty, ERole::Specifier, EValue::None, {"CPF_BlueprintVisible"}, nullptr, nullptr, "LayoutAccess.h"},
 			{"BlueprintReadOnly", InProperty, ERole::Specifier, EValue::None, {"CPF_BlueprintVisible", "CPF_BlueprintReadOnly"}, nullptr, nullptr, "LayoutAccess.h"},
 			{"BlueprintAssignable", InProperty, ERole::Specifier, EValue::None, {"CPF_BlueprintAssignable"}, nullptr, nullptr, "LayoutAccess.h"},

@@ -21,7 +21,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 
-namespace
+namespace DeveloperPanelTest
 {
 	/** Ada has Harbor Tower with two towers and Quay View with a pier, and a picture; Eve has a garden and none. Members go first. */
 	std::string TwoAccounts(const std::string& Members = "")
@@ -43,6 +43,8 @@ namespace
 	/** The first bytes of a picture of one by one pixel: its size is all that is read. */
 	const std::string Picture = std::string("\x89PNG\r\n\x1A\n\0\0\0\rIHDR\0\0\0\1\0\0\0\1\x08\6\0\0\0", 29);
 }
+
+using namespace DeveloperPanelTest;
 
 /** The developer's tab as the toolkit lays it out, and what the service does to it. */
 class DeveloperPanel : public FToolkitTest

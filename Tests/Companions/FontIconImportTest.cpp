@@ -1,6 +1,6 @@
 // Copyright Velmorant. All Rights Reserved.
 
-#include "FontIconImporter.h"
+#include "Icons/FontIconImporter.h"
 
 #include "HostPackages.h"
 #include "ToolkitTest.h"
@@ -43,10 +43,10 @@ protected:
 		return FFontIconImporter::Import(Folder.Get("Package"), FontID, AssetFolder);
 	}
 
-	static const UDataTable* GetTable(const TCHAR* FontID = TEXT("Sky")) { return UVelmorantUISubsystem::Get()->GetFontIconDataByID(FontID).IconDataTable; }
+	const UDataTable* GetTable(const TCHAR* FontID = TEXT("Sky")) { return UVelmorantUISubsystem::Get()->GetFontIconDataByID(FontID).IconDataTable; }
 
 	/** All that rows say, an icon a line. */
-	static std::vector<std::string> Describe(const UDataTable* Table)
+	std::vector<std::string> Describe(const UDataTable* Table)
 	{
 		std::vector<std::string> Lines;
 		if (Table != nullptr)
@@ -67,7 +67,7 @@ protected:
 		return Lines;
 	}
 
-	static std::vector<std::string> Unsaved()
+	std::vector<std::string> Unsaved()
 	{
 		std::vector<std::string> Names;
 		for (const UPackage* Package : HostPackages::GetDirtyPackages())
@@ -198,7 +198,7 @@ TEST_F(FontIconImport, AMalformedFileIsToldWithItsPlaceAndLeavesTheOldIcons)
 		EXPECT_EQ(ToUtf8(Result.Error->Place).empty(), std::string(Case.Place).empty());
 		EXPECT_THAT(ToUtf8(Result.Error->Reason), HasSubstr(Case.Reason));
 		EXPECT_FALSE(Result.Error->Remedy.IsEmpty());
-		EXPECT_THAT(ToUtf8(LogOf(TEXT("LogVelmorantProUI")).Last()), HasSubstr(ToUtf8(Result.Error->ToString())));
+		EXPECT_THAT(ToUtf8(LogOf(TEXT("LogVelmorantFontIcons")).Last()), HasSubstr(ToUtf8(Result.Error->ToString())));
 		EXPECT_EQ(Describe(GetTable()), Icons);
 		EXPECT_TRUE(HostPackages::GetDirtyPackages().IsEmpty());
 		EXPECT_EQ(ReadProjectFile("Config/DefaultGame.ini"), Settings);

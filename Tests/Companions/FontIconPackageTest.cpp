@@ -1,9 +1,9 @@
 // Copyright Velmorant. All Rights Reserved.
 // The icon font as users have it, if it has been downloaded.
 
-#include "FontIconImporter.h"
 #include "FontPackage.h"
 #include "HostPackages.h"
+#include "Icons/FontIconImporter.h"
 #include "ToolkitTest.h"
 #include "VelmorantUISubsystem.h"
 

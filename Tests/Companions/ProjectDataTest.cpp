@@ -11,7 +11,7 @@
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-namespace
+namespace ProjectDataTest
 {
 	const char* const TwoProjects = R"({
 		"users": [{"userName": "ada", "password": "sesame-77", "projects": ["HT", "QV"]}],
@@ -25,6 +25,8 @@ namespace
 					{"name": "Loft", "recordName": "Other"}]},
 			{"keyCode": "QV", "name": "Quay View", "unitGroups": [{"keyCode": "Q", "name": "Quay"}]}]})";
 }
+
+using namespace ProjectDataTest;
 
 /** The selected project's data as wrappers hold it. */
 class ProjectData : public FToolkitTest

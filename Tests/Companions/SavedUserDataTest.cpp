@@ -14,11 +14,13 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 
-namespace
+namespace SavedUserDataTest
 {
 	const char* const SavedUser = "UserConfig/VelmorantUser.json";
 	const FVelmorantUserInformation Ada(true, TEXT("ada"), TEXT("sesame-77"));
 }
+
+using namespace SavedUserDataTest;
 
 /** What "Remember me" keeps. */
 class SavedUserData : public FToolkitTest

@@ -11,7 +11,7 @@ using testing::IsEmpty;
 using testing::SizeIs;
 using testing::StartsWith;
 
-namespace
+namespace ServiceDataTest
 {
 	/** A document with one configurator of one group; Group is the inside of the group's object. */
 	std::string WithGroup(const std::string& Group)
@@ -25,6 +25,8 @@ namespace
 		return R"({"projects": [{"keyCode": "A", "name": "A", "unitGroups": [{"keyCode": "G", "name": "G", "units": [)" + Units + "]}]" + Members + "}]}";
 	}
 }
+
+using namespace ServiceDataTest;
 
 /** Data files that stand in for the service. */
 class ServiceData : public FToolkitTest

@@ -12,7 +12,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-namespace
+namespace ServiceSessionTest
 {
 	const char* const ExpiredLine = "Warning: The login is not valid any more; sign in again.";
 
@@ -29,6 +29,8 @@ namespace
 			"Requests.OnProjectDataRequest": [{"Set": "Heard.Text", "To": {"If": "{Requests.IsRequestingProjectData}", "Then": "{Heard.Text} asked:{Requests.SelectedProjectName}", "Else": "{Heard.Text} answered"}}]
 		}})";
 }
+
+using namespace ServiceSessionTest;
 
 /** Logins, tokens and what may be asked with them. */
 class ServiceSession : public FToolkitTest
@@ -124,9 +126,9 @@ TEST_F(ServiceSession, EndsEveryRequestWithinTheTimeThatIsSet)
 	GetRequests()->RequestConfigurator("Tower", EUpdateRequestType::Get);
 	GetUser()->RequestUserLogin(FVelmorantUserInformation(false, TEXT("ada"), TEXT("sesame-77")));
 	Wait(5.4);
-	EXPECT_FALSE(bAnswered);
+	EXPECT_FALSE(bAnswered) << "the wait for the service is not over";
 	Wait(0.2);
-	EXPECT_TRUE(bAnswered);
+	EXPECT_TRUE(bAnswered) << "given up, and told as a failure";
 	EXPECT_THAT(Updates, ElementsAre(EUpdateRequestDataType::None, EUpdateRequestDataType::None));
 	for (const FText& Text : {GetUser()->GetProjectsFailureText(), GetRequests()->GetProjectDataFailureText(), GetUser()->GetLoginFailureText()})
 	{

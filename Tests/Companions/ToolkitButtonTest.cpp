@@ -6,7 +6,7 @@
 
 using testing::HasSubstr;
 
-namespace
+namespace ToolkitButtonTest
 {
 	const char* const Layout = R"({
 		"ParentClass": "/Script/VelmorantProEditor.VlmEWProjectSelector",
@@ -20,6 +20,8 @@ namespace
 			"Toggle.OnButtonClicked": [{"Set": "ProjectKeyCode.Text", "To": "{ButtonID}"}],
 			"Toggle.OnSelectionStateChanged": [{"Set": "ProjectName.Text", "To": "{bSelected}"}]}})";
 }
+
+using namespace ToolkitButtonTest;
 
 class ToolkitButton : public FToolkitTest
 {

@@ -15,7 +15,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 
-namespace
+namespace ToolkitFieldsTest
 {
 	const char* const Fields = R"j({
 		"ParentClass": "/Script/VelmorantProUI.VlmListEntry",
@@ -30,6 +30,8 @@ namespace
 			{"Class": "VlmNumberField", "Name": "MoveX"}, {"Class": "VlmNumberField", "Name": "MoveY"}, {"Class": "VlmNumberField", "Name": "ScaleX"}, {"Class": "VlmNumberField", "Name": "ScaleY"},
 			{"Class": "VlmNumberField", "Name": "ShearX"}, {"Class": "VlmNumberField", "Name": "ShearY"}, {"Class": "VlmNumberField", "Name": "Angle"}]}})";
 }
+
+using namespace ToolkitFieldsTest;
 
 /** The toolkit's texts and fields, in a project with a palette. */
 class ToolkitFields : public FToolkitTest

@@ -44,9 +44,9 @@ protected:
 		StartEditor();
 	}
 
-	static UVelmorantUISubsystem& Get() { return *UVelmorantUISubsystem::Get(); }
+	UVelmorantUISubsystem& Get() { return *UVelmorantUISubsystem::Get(); }
 
-	static std::vector<std::string> UiLog() { return ToUtf8(LogOf(TEXT("LogVelmorantProUI"))); }
+	std::vector<std::string> UiLog() { return ToUtf8(LogOf(TEXT("LogVelmorantProUI"))); }
 
 	static inline const FLinearColor Magenta = FLinearColor(1.0f, 0.0f, 1.0f, 1.0f);
 };

@@ -65,7 +65,7 @@ protected:
 	void Type(const char* Name, const QString& Text);
 
 	/** All texts that show in the widget. */
-	static QStringList TextsIn(const QWidget& Widget);
+	QStringList TextsIn(const QWidget& Widget);
 
 	/** Does something while the dialog that comes next is open. */
 	void WhenAsked(std::function<void(QDialog&)> Act);

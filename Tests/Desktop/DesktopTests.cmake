@@ -13,13 +13,13 @@ velmorant_program(DesktopTests
 	SOURCES ${DesktopTestSources}
 	MODULES
 		Core CoreUObject Projects SlateCore Slate Engine UMG UnrealEd AssetTools VariantManagerContent PropertyEditor ContentBrowser
-		VelmorantSDK VelmorantPro VelmorantProEditor Runtime
-	LIBRARIES GTest::gmock Qt6::Widgets Qt6::Svg Qt6::Test
+		VelmorantSDK VelmorantPro VelmorantProEditor Runtime CommandLine Toolkit
+	LIBRARIES GTest::gmock Qt6::Widgets Qt6::Svg Qt6::Test HeaderToolCore
 	PCH DesktopTestPCH)
 target_sources(DesktopTests PRIVATE $<TARGET_OBJECTS:DesktopParts>)
 target_compile_options(DesktopTests PRIVATE ${VELMORANT_UNMEASURED})
 target_compile_definitions(DesktopTests PRIVATE QT_NO_KEYWORDS VELMORANT_SOURCE_DIR="${CMAKE_SOURCE_DIR}" VELMORANT_BINARY_DIR="${CMAKE_RUNTIME_OUTPUT_DIRECTORY}")
-target_include_directories(DesktopTests PRIVATE ${CMAKE_SOURCE_DIR}/Tests/Support ${Desktop} ${CMAKE_SOURCE_DIR}/Host/CommandLine)
+target_include_directories(DesktopTests PRIVATE ${CMAKE_SOURCE_DIR}/Tests/Support ${Desktop})
 add_dependencies(DesktopTests velmorant velmorant-editor)
 add_test(NAME DesktopTests COMMAND DesktopTests --gtest_brief=1)
 set_tests_properties(DesktopTests PROPERTIES ENVIRONMENT QT_QPA_PLATFORM=offscreen)

@@ -264,7 +264,14 @@ TEST_F(FLevelDocksTest, SearchRenameAndDelete)
 
 	QTreeWidgetItem* const Row = FindRow(Outliner, QStringLiteral("Torre Alba 1º A"));
 	ASSERT_NE(Row, nullptr);
-	Row->setText(0, QStringLiteral("  Show flat "));
+	Outliner.setCurrentItem(Row);
+	Outliner.setFocus();
+	QTest::keyClick(&Outliner, Qt::Key_F2);
+	QLineEdit* const Field = Outliner.viewport()->findChild<QLineEdit*>();
+	ASSERT_NE(Field, nullptr);
+	Field->setText(QStringLiteral("  Show flat "));
+	QTest::keyClick(Field, Qt::Key_Return);
+	QApplication::processEvents(); // the field goes later
 	Let(0.0);
 	EXPECT_NE(FindActor("Show flat"), nullptr);
 	ASSERT_NE(FindRow(Outliner, QStringLiteral("Show flat")), nullptr);
@@ -337,7 +344,7 @@ TEST_F(FLevelDocksTest, TellTheCollisionSetUpAsTheCheckDoes)
 
 	// A page of the settings opens in a tab of its own.
 	QTreeWidget& Pages = Find<QTreeWidget>("SettingsPages");
-	QTreeWidgetItem* const Page = FindRow(Pages, QStringLiteral("Velmorant SDKSettings"));
+	QTreeWidgetItem* const Page = FindRow(Pages, QStringLiteral("Velmorant SDK Settings"));
 	ASSERT_NE(Page, nullptr);
 	Pages.setCurrentItem(Page);
 	QTest::keyClick(&Pages, Qt::Key_Return);

@@ -9,7 +9,7 @@
 
 namespace QuestionsTest
 {
-	static FHostQuestion MakeQuestion()
+	FHostQuestion MakeQuestion()
 	{
 		FHostQuestion Question;
 		Question.Kind = TEXT("SaveAsset");
@@ -22,7 +22,7 @@ namespace QuestionsTest
 		return Question;
 	}
 
-	static void Press(QDialog& Dialog, const QString& Text)
+	void Press(QDialog& Dialog, const QString& Text)
 	{
 		for (QPushButton* const Button : Dialog.findChildren<QPushButton*>())
 		{

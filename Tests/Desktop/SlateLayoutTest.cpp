@@ -28,7 +28,7 @@ namespace SlateLayoutTest
 		bool bHidden = false;
 	};
 
-	static FSlotGeometry Auto(EHorizontalAlignment Horizontal = HAlign_Fill, EVerticalAlignment Vertical = VAlign_Fill)
+	FSlotGeometry Auto(EHorizontalAlignment Horizontal = HAlign_Fill, EVerticalAlignment Vertical = VAlign_Fill)
 	{
 		FSlotGeometry Slot;
 		Slot.HorizontalAlignment = Horizontal;
@@ -36,21 +36,21 @@ namespace SlateLayoutTest
 		return Slot;
 	}
 
-	static FSlotGeometry Fill(double Share)
+	FSlotGeometry Fill(double Share)
 	{
 		FSlotGeometry Slot;
 		Slot.Fill = Share;
 		return Slot;
 	}
 
-	static FSlotGeometry Padded(int Left, int Top, int Right, int Bottom)
+	FSlotGeometry Padded(int Left, int Top, int Right, int Bottom)
 	{
 		FSlotGeometry Slot;
 		Slot.Padding = QMargins(Left, Top, Right, Bottom);
 		return Slot;
 	}
 
-	static FSlotGeometry AtMost(int Size)
+	FSlotGeometry AtMost(int Size)
 	{
 		FSlotGeometry Slot;
 		Slot.MaxSize = Size;

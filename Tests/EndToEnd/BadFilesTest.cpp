@@ -6,7 +6,7 @@
 #include <sys/stat.h>
 
 /** Files that hold what no person would put there. */
-class FBadFiles : public FProjectOnDisk
+class BadFiles : public FProjectOnDisk
 {
 protected:
 	static inline const std::string Long = std::string(1100, 'a');
@@ -41,7 +41,7 @@ protected:
 	}
 };
 
-TEST_F(FBadFiles, OnlyRegularFilesUpToALimitAreRead)
+TEST_F(BadFiles, OnlyRegularFilesUpToALimitAreRead)
 {
 	MakeProject();
 	Folder.Write("test.velscript", "wait 0\n");
@@ -75,7 +75,7 @@ TEST_F(FBadFiles, OnlyRegularFilesUpToALimitAreRead)
 	}
 }
 
-TEST_F(FBadFiles, UnusableServiceDataEndsARunWithThree)
+TEST_F(BadFiles, UnusableServiceDataEndsARunWithThree)
 {
 	CopySample();
 	const std::string Service = Folder.GetNative("Service.json").string();
@@ -107,7 +107,7 @@ TEST_F(FBadFiles, UnusableServiceDataEndsARunWithThree)
 	}
 }
 
-TEST_F(FBadFiles, NumbersAndNamesOutOfRangeAreToldWithTheirPlace)
+TEST_F(BadFiles, NumbersAndNamesOutOfRangeAreToldWithTheirPlace)
 {
 	const std::string Game = "Config/DefaultGame.ini";
 	const std::string Level = "Content/Maps/HarborTower.umap.json";
@@ -151,7 +151,7 @@ TEST_F(FBadFiles, NumbersAndNamesOutOfRangeAreToldWithTheirPlace)
 	}
 }
 
-TEST_F(FBadFiles, LongWordsOfAScriptAreNoNames)
+TEST_F(BadFiles, LongWordsOfAScriptAreNoNames)
 {
 	CopySample();
 	for (const std::string Step : {"select /Game/", "print log ", "expect no log x category ", "print assets ", "expect no settings ", "answer ", "action ", "click X ", "print property ", "expect no actors ",

@@ -6,7 +6,7 @@
 using namespace CollisionIni;
 
 /** The program started as build servers start an editor. */
-class FBuildServer : public FProjectOnDisk
+class BuildServer : public FProjectOnDisk
 {
 protected:
 	static inline const std::vector<std::vector<std::string>> Switches = {{"--unattended"}, {"--unattended", "--nullrhi"}, {"--no-notifications"}, {"--commandlet"}, {"--commandlet", "--unattended", "--no-notifications"}};
@@ -14,7 +14,7 @@ protected:
 	static bool ShowsNotifications(const std::vector<std::string>& Options) { return Options[0] == "--unattended"; }
 };
 
-TEST_F(FBuildServer, TheVerdictIsTheSameHoweverItIsTold)
+TEST_F(BuildServer, TheVerdictIsTheSameHoweverItIsTold)
 {
 	MakeProject();
 	for (const std::vector<std::string>& Options : Switches)
@@ -37,7 +37,7 @@ TEST_F(FBuildServer, TheVerdictIsTheSameHoweverItIsTold)
 	}
 }
 
-TEST_F(FBuildServer, ARepairNeedsButtonsToPress)
+TEST_F(BuildServer, ARepairNeedsButtonsToPress)
 {
 	MakeProject();
 	WriteIni(SectionLine + GlassLine);
@@ -51,7 +51,7 @@ TEST_F(FBuildServer, ARepairNeedsButtonsToPress)
 	EXPECT_EQ(Check({"--repair", "--unattended", "--nullrhi"}).ExitStatus, 0) << "the program presses them";
 }
 
-TEST_F(FBuildServer, ScriptsCallOperationsWithoutAUserInterface)
+TEST_F(BuildServer, ScriptsCallOperationsWithoutAUserInterface)
 {
 	CopySample();
 	for (const std::vector<std::string>& Options : Switches)
@@ -70,7 +70,7 @@ TEST_F(FBuildServer, ScriptsCallOperationsWithoutAUserInterface)
 	}
 }
 
-TEST_F(FBuildServer, WhatNeedsAUserInterfaceSaysSo)
+TEST_F(BuildServer, WhatNeedsAUserInterfaceSaysSo)
 {
 	CopySample();
 	const std::string None = "there is no user interface";
@@ -84,7 +84,7 @@ TEST_F(FBuildServer, WhatNeedsAUserInterfaceSaysSo)
 	}
 }
 
-TEST_F(FBuildServer, AnUnattendedEditorTakesNoAnswers)
+TEST_F(BuildServer, AnUnattendedEditorTakesNoAnswers)
 {
 	CopySample();
 	const std::string Lines =

@@ -7,10 +7,10 @@
 
 using namespace CollisionIni;
 
-class FCheckConfigurations : public FProjectOnDisk
+class CheckConfigurations : public FProjectOnDisk
 {
 protected:
-	FCheckConfigurations() { MakeProject(); }
+	CheckConfigurations() { MakeProject(); }
 
 	/** Runs the program and expects that everything is as it was. */
 	void ExpectRefused(const std::vector<std::string>& Options, const std::string& Reason) const
@@ -24,7 +24,7 @@ protected:
 	}
 };
 
-TEST_F(FCheckConfigurations, RepairWorksOnFilesOfEveryShape)
+TEST_F(CheckConfigurations, RepairWorksOnFilesOfEveryShape)
 {
 	const std::string Two = ProfileLine + ChannelLine;
 	std::string Unended = SectionLine + GlassLine;
@@ -61,7 +61,7 @@ TEST_F(FCheckConfigurations, RepairWorksOnFilesOfEveryShape)
 	EXPECT_EQ(Check().ExitStatus, 0);
 }
 
-TEST_F(FCheckConfigurations, TheVerdictIsTheToolkits)
+TEST_F(CheckConfigurations, TheVerdictIsTheToolkits)
 {
 	std::string OtherSpacing = ChannelLine;
 	OtherSpacing.erase(OtherSpacing.find(", Name") + 1, 1);
@@ -88,7 +88,7 @@ TEST_F(FCheckConfigurations, TheVerdictIsTheToolkits)
 	}
 }
 
-TEST_F(FCheckConfigurations, AProjectWithoutTheSectionGetsTheEnginesProfilesFirst)
+TEST_F(CheckConfigurations, AProjectWithoutTheSectionGetsTheEnginesProfilesFirst)
 {
 	const std::string Told = " With them come the engine's current profiles (19 lines), which a project without a collision section gets first.\n";
 	const std::string Engine = "  the engine's current profiles:\n    [/Script/Engine.CollisionProfile]\n    +Profiles=(Name=\"NoCollision\",";
@@ -124,7 +124,8 @@ TEST_F(FCheckConfigurations, AProjectWithoutTheSectionGetsTheEnginesProfilesFirs
 
 		Restore();
 		const nlohmann::json Report = nlohmann::json::parse(Check({"--repair", "--json"}).Output, nullptr, false);
-		ASSERT_TRUE(Foretold.is_object() && Report.is_object());
+		ASSERT_TRUE(Foretold.is_object());
+		ASSERT_TRUE(Report.is_object());
 		ASSERT_EQ(Report["writtenFiles"].size(), 1u);
 		const nlohmann::json& Written = Report["writtenFiles"][0];
 		EXPECT_EQ(Foretold["repairWrites"], Report["writtenFiles"]) << "what was foretold is done";
@@ -135,7 +136,7 @@ TEST_F(FCheckConfigurations, AProjectWithoutTheSectionGetsTheEnginesProfilesFirs
 	}
 }
 
-TEST_F(FCheckConfigurations, ARepairThatDoesNotHelpIsForetoldAndWritesNothing)
+TEST_F(CheckConfigurations, ARepairThatDoesNotHelpIsForetoldAndWritesNothing)
 {
 	const std::string Ini = Folder.GetNative(IniFile).string();
 	const std::string Rule = "the toolkit adds its lines behind the last line that begins with +Profiles=";
@@ -204,7 +205,7 @@ TEST_F(FCheckConfigurations, ARepairThatDoesNotHelpIsForetoldAndWritesNothing)
 	std::filesystem::current_path(Here);
 }
 
-TEST_F(FCheckConfigurations, AReadOnlyFileIsRefused)
+TEST_F(CheckConfigurations, AReadOnlyFileIsRefused)
 {
 	WriteIni(SectionLine + GlassLine);
 	std::filesystem::permissions(Folder.GetNative(IniFile), std::filesystem::perms(0444));
@@ -215,7 +216,7 @@ TEST_F(FCheckConfigurations, AReadOnlyFileIsRefused)
 	EXPECT_NE(Looked.Errors.find("read-only"), std::string::npos) << Looked.Errors;
 }
 
-TEST_F(FCheckConfigurations, AFolderInItsPlaceIsRefused)
+TEST_F(CheckConfigurations, AFolderInItsPlaceIsRefused)
 {
 	std::filesystem::create_directories(Folder.GetNative(IniFile));
 	ExpectRefused({"--repair"}, "folder");
@@ -225,7 +226,7 @@ TEST_F(FCheckConfigurations, AFolderInItsPlaceIsRefused)
 	ExpectRefused({"--repair"}, "the file cannot be written, its folder does not permit it. Check the permissions of the folder.");
 }
 
-TEST_F(FCheckConfigurations, BytesThatNoEncodingExplainsAreRefused)
+TEST_F(CheckConfigurations, BytesThatNoEncodingExplainsAreRefused)
 {
 	WriteIni(SectionLine + GlassLine + "; \xC3\x28 \xFF\n");
 	ExpectRefused({"--repair"}, "");

@@ -8,17 +8,17 @@
 using namespace CollisionIni;
 
 /** The repair as a unified difference, before and after it is made. */
-class FCheckDifference : public FProjectOnDisk
+class CheckDifference : public FProjectOnDisk
 {
 protected:
-	FCheckDifference() { MakeProject(); }
+	CheckDifference() { MakeProject(); }
 
 	static std::string GetDifference(const FProgramResult& Result) { return nlohmann::json::parse(Result.Output, nullptr, false).value("diff", "none"); }
 
 	static inline const std::string Headers = "--- Config/DefaultEngine.ini\n+++ Config/DefaultEngine.ini\n";
 };
 
-TEST_F(FCheckDifference, ShowsWhatTheRepairAddsWithThreeLinesAroundIt)
+TEST_F(CheckDifference, ShowsWhatTheRepairAddsWithThreeLinesAroundIt)
 {
 	const std::string Added = "+" + ProfileLine + "+" + ChannelLine;
 	const struct
@@ -49,7 +49,7 @@ TEST_F(FCheckDifference, ShowsWhatTheRepairAddsWithThreeLinesAroundIt)
 	}
 }
 
-TEST_F(FCheckDifference, ShowsTheSectionThatIsMadeAndAFileThatIsNew)
+TEST_F(CheckDifference, ShowsTheSectionThatIsMadeAndAFileThatIsNew)
 {
 	for (const bool bFile : {true, false})
 	{
@@ -76,7 +76,7 @@ TEST_F(FCheckDifference, ShowsTheSectionThatIsMadeAndAFileThatIsNew)
 	}
 }
 
-TEST_F(FCheckDifference, StandsInTheReportOnlyWhenAskedFor)
+TEST_F(CheckDifference, StandsInTheReportOnlyWhenAskedFor)
 {
 	WriteIni(SectionLine + GlassLine);
 	EXPECT_EQ(Check().Output.find("@@"), std::string::npos);

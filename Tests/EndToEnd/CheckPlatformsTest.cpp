@@ -8,17 +8,17 @@
 using namespace CollisionIni;
 
 /** What the layers above DefaultEngine.ini make of a set-up that is sound in it. */
-class FCheckPlatforms : public FProjectOnDisk
+class CheckPlatforms : public FProjectOnDisk
 {
 protected:
-	FCheckPlatforms()
+	CheckPlatforms()
 	{
 		MakeProject();
 		WriteIni(SectionLine + GlassLine + ProfileLine + ChannelLine);
 	}
 };
 
-TEST_F(FCheckPlatforms, ALayerThatTakesTheProfileAwayIsNamed)
+TEST_F(CheckPlatforms, ALayerThatTakesTheProfileAwayIsNamed)
 {
 	const std::string Clear = "; nothing\n" + SectionLine + "!Profiles=ClearArray\n";
 	const struct
@@ -57,7 +57,7 @@ TEST_F(FCheckPlatforms, ALayerThatTakesTheProfileAwayIsNamed)
 	}
 }
 
-TEST_F(FCheckPlatforms, AChannelThatIsTakenAwayIsToldThoughTheVerdictStays)
+TEST_F(CheckPlatforms, AChannelThatIsTakenAwayIsToldThoughTheVerdictStays)
 {
 	Folder.Write("Project/Config/Linux/LinuxEngine.ini", SectionLine + "!DefaultChannelResponses=ClearArray\n");
 	for (const std::vector<std::string>& Options : {std::vector<std::string>{"--json"}, {"--json", "--repair"}})
@@ -70,7 +70,7 @@ TEST_F(FCheckPlatforms, AChannelThatIsTakenAwayIsToldThoughTheVerdictStays)
 	}
 }
 
-TEST_F(FCheckPlatforms, AnUnknownPlatformIsBadUsage)
+TEST_F(CheckPlatforms, AnUnknownPlatformIsBadUsage)
 {
 	for (const char* Name : {"Win64", "Android", "", "../Linux"})
 	{
@@ -81,7 +81,7 @@ TEST_F(FCheckPlatforms, AnUnknownPlatformIsBadUsage)
 	}
 }
 
-TEST_F(FCheckPlatforms, ScriptsRunWithAPlatformsConfigurationToo)
+TEST_F(CheckPlatforms, ScriptsRunWithAPlatformsConfigurationToo)
 {
 	Folder.Write("Project/Config/Windows/WindowsGame.ini", "[/Script/VelmorantSDK.VelmorantSDKSettings]\nApiKey=for-windows\n");
 	Do("expect property default:VelmorantSDKSettings ApiKey for-windows\n", {"--platform", "Windows"});

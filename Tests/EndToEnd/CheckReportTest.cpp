@@ -1,7 +1,6 @@
 // Copyright Velmorant. All Rights Reserved.
 
 #include "Check/CheckReport.h"
-#include "Check/LineDifference.h"
 #include "Check/RepairRecord.h"
 #include "Check/ToolkitVerdict.h"
 #include "Check/UnifiedDifference.h"
@@ -9,6 +8,7 @@
 #include "EditorHost.h"
 #include "HostPaths.h"
 #include "HostState.h"
+#include "LineDifference.h"
 #include "Logging/LogMacros.h"
 #include "ProjectOnDisk.h"
 #include "UObject/Package.h"
@@ -24,11 +24,11 @@ using namespace CollisionIni;
 using FJson = nlohmann::ordered_json;
 
 /** What check tells: the words of its reports, and the parts they are made of. */
-class FCheckReports : public FProjectOnDisk
+class CheckReports : public FProjectOnDisk
 {
 protected:
-	FCheckReports() { MakeProject(); }
-	~FCheckReports() override { HostState::DestroyAll(); }
+	CheckReports() { MakeProject(); }
+	~CheckReports() override { HostState::DestroyAll(); }
 
 	static std::string PrintText(const FCheckReport& Report, CheckReport::EChanges Changes = CheckReport::EChanges::Lines)
 	{
@@ -53,7 +53,7 @@ protected:
 	static inline const std::string Checked = "LogVelmorantProEditor: Checked UnitVolume DefaultChannelResponses and profile exist.";
 };
 
-TEST_F(FCheckReports, EachVerdictHasItsStatusWordAndSentence)
+TEST_F(CheckReports, EachVerdictHasItsStatusWordAndSentence)
 {
 	const std::string Missing = "Missing: the UnitVolume channel or profile is not there. --repair ";
 	const std::string Engine = " With them come the engine's current profiles (3 lines), which a project without a collision section gets first.";
@@ -106,7 +106,7 @@ TEST_F(FCheckReports, EachVerdictHasItsStatusWordAndSentence)
 	}
 }
 
-TEST_F(FCheckReports, EveryPartHasItsLinesAndMembers)
+TEST_F(CheckReports, EveryPartHasItsLinesAndMembers)
 {
 	FCheckReport Report;
 	Report.Status = ECheckStatus::StillMissing;
@@ -150,7 +150,7 @@ TEST_F(FCheckReports, EveryPartHasItsLinesAndMembers)
 	EXPECT_EQ(PrintJson(Report), Expected.dump(2) + "\n");
 }
 
-TEST_F(FCheckReports, TheProgramFillsThemIn)
+TEST_F(CheckReports, TheProgramFillsThemIn)
 {
 	const std::string Ini = Folder.GetNative(IniFile).string();
 	const std::string Project = GetProject() + "/Test.uproject";
@@ -197,7 +197,7 @@ TEST_F(FCheckReports, TheProgramFillsThemIn)
 	}
 }
 
-TEST_F(FCheckReports, DifferencesAreThoseThatPatchReads)
+TEST_F(CheckReports, DifferencesAreThoseThatPatchReads)
 {
 	const std::string Names = "--- f\n+++ f\n";
 	const std::string Ten = "1\n2\n3\n4\n5\n6\n7\n8\n9\n10\n";
@@ -246,7 +246,7 @@ TEST_F(FCheckReports, DifferencesAreThoseThatPatchReads)
 	EXPECT_EQ(LineDifference::Split("\ra\n\rb"), (LineDifference::FLines{"", "a", "", "b"}));
 }
 
-TEST_F(FCheckReports, ARecordOfARepairIsReadBackOrRefused)
+TEST_F(CheckReports, ARecordOfARepairIsReadBackOrRefused)
 {
 	const std::string State = Folder.GetNative("UserState").string();
 	ASSERT_EQ(setenv("XDG_STATE_HOME", State.c_str(), 1), 0);
@@ -283,7 +283,7 @@ TEST_F(FCheckReports, ARecordOfARepairIsReadBackOrRefused)
 	unsetenv("XDG_STATE_HOME");
 }
 
-TEST_F(FCheckReports, TheVerdictIsReadFromWhatTheToolkitSays)
+TEST_F(CheckReports, TheVerdictIsReadFromWhatTheToolkitSays)
 {
 	const TCHAR* const SoundLine = TEXT("Checked UnitVolume DefaultChannelResponses and profile exist.");
 	const TCHAR* const Refused = TEXT("Notification not shown: Velmorant: Da fehlt etwas: ");

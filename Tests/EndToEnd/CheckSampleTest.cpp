@@ -8,13 +8,13 @@
 #include <string>
 #include <utility>
 
-class FCheckSample : public FProjectOnDisk
+class CheckSample : public FProjectOnDisk
 {
 protected:
-	FCheckSample() { CopySample(); }
+	CheckSample() { CopySample(); }
 };
 
-TEST_F(FCheckSample, FindsTheProfileMissingAndChangesNothing)
+TEST_F(CheckSample, FindsTheProfileMissingAndChangesNothing)
 {
 	const FFolderState Before = LookAtFolder(Folder.GetNative());
 	const FProgramResult Result = Check();
@@ -24,7 +24,7 @@ TEST_F(FCheckSample, FindsTheProfileMissingAndChangesNothing)
 	EXPECT_EQ(LookAtFolder(Folder.GetNative()), Before);
 }
 
-TEST_F(FCheckSample, RepairAddsExactlyTheTwoLinesBehindTheLastProfile)
+TEST_F(CheckSample, RepairAddsExactlyTheTwoLinesBehindTheLastProfile)
 {
 	const std::string Before = ReadIni();
 	const FProgramResult Result = Check({"--repair"});
@@ -36,7 +36,7 @@ TEST_F(FCheckSample, RepairAddsExactlyTheTwoLinesBehindTheLastProfile)
 	EXPECT_EQ(ReadIni(), Expected);
 }
 
-TEST_F(FCheckSample, ATranslatedToolkitGetsTheSameVerdict)
+TEST_F(CheckSample, ATranslatedToolkitGetsTheSameVerdict)
 {
 	// The program with other words of the same length where the toolkit has its own.
 	std::string Program = ReadBytes(VELMORANT_BINARY_DIR "/velmorant");
@@ -48,15 +48,16 @@ TEST_F(FCheckSample, ATranslatedToolkitGetsTheSameVerdict)
 		ASSERT_NE(Program.find(Own), std::string::npos);
 		Program = CollisionIni::Replace(Program, Own, std::string(reinterpret_cast<const char*>(To), Length));
 	}
-	Folder.Write("translated", Program);
-	std::filesystem::permissions(Folder.GetNative("translated"), std::filesystem::perms::owner_all);
-	const std::string Call = "cd '" + Folder.GetNative().string() + "' && XDG_CONFIG_HOME=$PWD/UserConfig XDG_STATE_HOME=$PWD/UserState ./translated check --repair Project >out";
+	Folder.Write("bin/translated", Program);
+	std::filesystem::permissions(Folder.GetNative("bin/translated"), std::filesystem::perms::owner_all);
+	std::filesystem::create_directory_symlink(VELMORANT_BINARY_DIR "/../share", Folder.GetNative("share"));
+	const std::string Call = "cd '" + Folder.GetNative().string() + "' && XDG_CONFIG_HOME=$PWD/UserConfig XDG_STATE_HOME=$PWD/UserState bin/translated check --repair Project >out";
 	EXPECT_EQ(std::system(Call.c_str()), 0);
 	EXPECT_NE(Folder.Read("out").find("Notification: Velmorant: Profil UnitVolume fehlt"), std::string::npos) << Folder.Read("out");
 	EXPECT_NE(ReadIni().find(CollisionIni::ProfileLine), std::string::npos);
 }
 
-TEST_F(FCheckSample, ARepairedProjectIsSoundAndLeftAlone)
+TEST_F(CheckSample, ARepairedProjectIsSoundAndLeftAlone)
 {
 	ASSERT_EQ(Check({"--repair"}).ExitStatus, 0);
 	const FFolderState Before = LookAtFolder(Folder.GetNative("Project"));
@@ -67,7 +68,7 @@ TEST_F(FCheckSample, ARepairedProjectIsSoundAndLeftAlone)
 	EXPECT_EQ(LookAtFolder(Folder.GetNative("Project")), Before);
 }
 
-TEST_F(FCheckSample, RepairKeepsTheModeOfTheFile)
+TEST_F(CheckSample, RepairKeepsTheModeOfTheFile)
 {
 	const std::filesystem::path Ini = Folder.GetNative(IniFile);
 	const auto Mode = std::filesystem::perms(0640);
@@ -76,13 +77,13 @@ TEST_F(FCheckSample, RepairKeepsTheModeOfTheFile)
 	EXPECT_EQ(std::filesystem::status(Ini).permissions(), Mode);
 }
 
-TEST_F(FCheckSample, TheProjectMayBeNamedByItsFileOrItsFolder)
+TEST_F(CheckSample, TheProjectMayBeNamedByItsFileOrItsFolder)
 {
 	EXPECT_EQ(FProgramRun::Run({"check", GetProject() + "/HarborTower.uproject"}, GetEnvironment()).ExitStatus, 1);
 	EXPECT_EQ(FProgramRun::Run({"check", GetProject() + "/"}, GetEnvironment()).ExitStatus, 1);
 }
 
-TEST_F(FCheckSample, UnreadableMapsDoNotSpoilTheVerdict)
+TEST_F(CheckSample, UnreadableMapsDoNotSpoilTheVerdict)
 {
 	// What a project made with the engine has there.
 	Folder.Write(IniFile, "[/Script/EngineSettings.GameMapsSettings]\nEditorStartupMap=/Game/Maps/Binary.Binary\n\n" + CollisionIni::SectionLine + CollisionIni::GlassLine);

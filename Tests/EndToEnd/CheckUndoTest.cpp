@@ -8,10 +8,10 @@
 using namespace CollisionIni;
 
 /** Taking a repair back. */
-class FCheckUndo : public FProjectOnDisk
+class CheckUndo : public FProjectOnDisk
 {
 protected:
-	FCheckUndo() { MakeProject(); }
+	CheckUndo() { MakeProject(); }
 
 	void RepairFrom(const std::string& Before) const
 	{
@@ -34,7 +34,7 @@ protected:
 	static inline const std::string Usual = SectionLine + GlassLine + "Key=1\n";
 };
 
-TEST_F(FCheckUndo, GivesTheFileBackAsItWas)
+TEST_F(CheckUndo, GivesTheFileBackAsItWas)
 {
 	std::string Unended = Usual;
 	Unended.pop_back();
@@ -81,7 +81,7 @@ TEST_F(FCheckUndo, GivesTheFileBackAsItWas)
 	EXPECT_EQ(ReadIni(), "; mine\n");
 }
 
-TEST_F(FCheckUndo, FindsTheLinesWhereTheyStandNow)
+TEST_F(CheckUndo, FindsTheLinesWhereTheyStandNow)
 {
 	RepairFrom(Usual);
 	const std::string Repaired = ReadIni();
@@ -92,7 +92,7 @@ TEST_F(FCheckUndo, FindsTheLinesWhereTheyStandNow)
 	EXPECT_NE(Result.Output.find("\n-" + ProfileLine + " ; between\n-" + ChannelLine), std::string::npos) << Result.Output;
 }
 
-TEST_F(FCheckUndo, ChangesNothingWhenTheLinesAreNotAsTheyWere)
+TEST_F(CheckUndo, ChangesNothingWhenTheLinesAreNotAsTheyWere)
 {
 	RepairFrom("[Other]\nKey=1\n");
 	const std::string Repaired = ReadIni();
@@ -121,7 +121,7 @@ TEST_F(FCheckUndo, ChangesNothingWhenTheLinesAreNotAsTheyWere)
 	EXPECT_EQ(ReadIni(), "[Other]\nKey=1\n");
 }
 
-TEST_F(FCheckUndo, IsAboutTheLastRepairOfThisProject)
+TEST_F(CheckUndo, IsAboutTheLastRepairOfThisProject)
 {
 	Folder.Write("Second/Test.uproject", "{ \"FileVersion\": 3 }\n");
 	Folder.Write("Second/Config/DefaultEngine.ini", "; second\n" + Usual);
@@ -138,7 +138,7 @@ TEST_F(FCheckUndo, IsAboutTheLastRepairOfThisProject)
 	EXPECT_EQ(Folder.Read("Second/Config/DefaultEngine.ini"), "; second\n" + Usual);
 }
 
-TEST_F(FCheckUndo, NeedsARecord)
+TEST_F(CheckUndo, NeedsARecord)
 {
 	WriteIni(SectionLine + GlassLine + ProfileLine + ChannelLine);
 	const std::string Before = ReadIni();
@@ -149,7 +149,7 @@ TEST_F(FCheckUndo, NeedsARecord)
 	EXPECT_EQ(ReadIni(), Before);
 }
 
-TEST_F(FCheckUndo, TheRecordIsTheUsersOwnAndNotInTheProject)
+TEST_F(CheckUndo, TheRecordIsTheUsersOwnAndNotInTheProject)
 {
 	RepairFrom(Usual);
 	EXPECT_EQ(Folder.Count("Project"), 2u) << "descriptor and configuration";
@@ -167,7 +167,7 @@ TEST_F(FCheckUndo, TheRecordIsTheUsersOwnAndNotInTheProject)
 	EXPECT_EQ(ReadIni(), Repaired);
 }
 
-TEST_F(FCheckUndo, ARepairThatCannotBeRecordedIsARepairAllTheSame)
+TEST_F(CheckUndo, ARepairThatCannotBeRecordedIsARepairAllTheSame)
 {
 	Folder.Write("UserState", "a file in its place");
 	WriteIni(Usual);
@@ -177,7 +177,7 @@ TEST_F(FCheckUndo, ARepairThatCannotBeRecordedIsARepairAllTheSame)
 	EXPECT_EQ(Check().ExitStatus, 0);
 }
 
-TEST_F(FCheckUndo, AFileThatCannotBeWrittenIsRefused)
+TEST_F(CheckUndo, AFileThatCannotBeWrittenIsRefused)
 {
 	RepairFrom(Usual);
 	const std::string Repaired = ReadIni();
@@ -190,7 +190,7 @@ TEST_F(FCheckUndo, AFileThatCannotBeWrittenIsRefused)
 	EXPECT_EQ(Check({"--undo"}).ExitStatus, 0) << "the record is still there";
 }
 
-TEST_F(FCheckUndo, JsonTellsWhatWasTakenOut)
+TEST_F(CheckUndo, JsonTellsWhatWasTakenOut)
 {
 	RepairFrom(Usual);
 	const nlohmann::json Report = nlohmann::json::parse(Check({"--undo", "--json"}).Output, nullptr, false);

@@ -4,11 +4,11 @@
 
 #include <nlohmann/json.hpp>
 
-class FCommandLineUse : public FProjectOnDisk
+class CommandLineUse : public FProjectOnDisk
 {
 };
 
-TEST_F(FCommandLineUse, BadUsageEndsWithTwo)
+TEST_F(CommandLineUse, BadUsageEndsWithTwo)
 {
 	MakeProject();
 	Folder.Write("test.velscript", "");
@@ -46,7 +46,7 @@ TEST_F(FCommandLineUse, BadUsageEndsWithTwo)
 	}
 }
 
-TEST_F(FCommandLineUse, WithJsonWhatStopsTheProgramIsAnObject)
+TEST_F(CommandLineUse, WithJsonWhatStopsTheProgramIsAnObject)
 {
 	MakeProject();
 	Folder.Write("wrong.velscript", "wait 0\ndance\n");
@@ -80,7 +80,7 @@ TEST_F(FCommandLineUse, WithJsonWhatStopsTheProgramIsAnObject)
 	}
 }
 
-TEST_F(FCommandLineUse, HelpIsNoError)
+TEST_F(CommandLineUse, HelpIsNoError)
 {
 	for (const std::vector<std::string>& Arguments : {std::vector<std::string>{"--help"}, {"check", "--help"}, {"run", "--help"}, {"check", "--help", "--json"}, {"--version"}})
 	{
@@ -90,7 +90,7 @@ TEST_F(FCommandLineUse, HelpIsNoError)
 	}
 }
 
-TEST_F(FCommandLineUse, MissingFilesOfRunAreNamed)
+TEST_F(CommandLineUse, MissingFilesOfRunAreNamed)
 {
 	MakeProject();
 	const FProgramResult Script = FProgramRun::Run({"run", GetProject(), GetScript()}, GetEnvironment());
@@ -103,7 +103,7 @@ TEST_F(FCommandLineUse, MissingFilesOfRunAreNamed)
 	EXPECT_NE(Data.Errors.find(Service), std::string::npos) << Data.Errors;
 }
 
-TEST_F(FCommandLineUse, AMalformedProjectFileIsNamed)
+TEST_F(CommandLineUse, AMalformedProjectFileIsNamed)
 {
 	Folder.Write("Project/Test.uproject", "{ \"FileVersion\": 3,\n  broken\n");
 	Folder.Write("test.velscript", "wait 0\n");

@@ -6,10 +6,10 @@
 #include <nlohmann/json.hpp>
 #include <sstream>
 
-class FDemoScript : public FProjectOnDisk
+class DemoScript : public FProjectOnDisk
 {
 protected:
-	FDemoScript() { CopySample(); }
+	DemoScript() { CopySample(); }
 
 	FProgramResult RunDemo(const std::vector<std::string>& Options = {}, const char* Script = "Demo") const
 	{
@@ -19,7 +19,7 @@ protected:
 	}
 };
 
-TEST_F(FDemoScript, GoesFromTheMissingProfileToTheActorInTheLevel)
+TEST_F(DemoScript, GoesFromTheMissingProfileToTheActorInTheLevel)
 {
 	const FProgramResult Result = RunDemo();
 	EXPECT_EQ(Result.ExitStatus, 0) << Result.Output << Result.Errors;
@@ -37,7 +37,7 @@ TEST_F(FDemoScript, GoesFromTheMissingProfileToTheActorInTheLevel)
 	EXPECT_NE(Folder.Read("Project/Config/DefaultGame.ini").find("ht-7f3c-91d2-demo"), std::string::npos);
 }
 
-TEST_F(FDemoScript, ToursEveryPanelMenuAndPicker)
+TEST_F(DemoScript, ToursEveryPanelMenuAndPicker)
 {
 	for (const bool bAfterTheDemo : {false, true})
 	{
@@ -61,7 +61,7 @@ TEST_F(FDemoScript, ToursEveryPanelMenuAndPicker)
 	EXPECT_NE(Folder.Read("Project/Content/Maps/HarborTower.umap.json").find("\"wave\""), std::string::npos);
 }
 
-TEST_F(FDemoScript, ShowsThePasswordNowhereAndKeepsItOutOfTheProject)
+TEST_F(DemoScript, ShowsThePasswordNowhereAndKeepsItOutOfTheProject)
 {
 	const std::string Password = "harbor-2026";
 	for (const bool bJson : {false, true})
@@ -80,7 +80,7 @@ TEST_F(FDemoScript, ShowsThePasswordNowhereAndKeepsItOutOfTheProject)
 	}
 }
 
-TEST_F(FDemoScript, JsonHasAnObjectForEachStepAndOneForTheEnd)
+TEST_F(DemoScript, JsonHasAnObjectForEachStepAndOneForTheEnd)
 {
 	const FProgramResult Result = RunDemo({"--json"});
 	std::vector<nlohmann::json> Lines;
@@ -105,7 +105,7 @@ TEST_F(FDemoScript, JsonHasAnObjectForEachStepAndOneForTheEnd)
 	EXPECT_TRUE(bMissingShown) << Result.Output;
 }
 
-TEST_F(FDemoScript, ASecondRunFailsBecauseTheProfileIsThere)
+TEST_F(DemoScript, ASecondRunFailsBecauseTheProfileIsThere)
 {
 	ASSERT_EQ(RunDemo().ExitStatus, 0);
 	const FProgramResult Again = RunDemo();

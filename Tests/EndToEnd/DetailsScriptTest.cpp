@@ -3,10 +3,10 @@
 #include "ProjectOnDisk.h"
 
 /** Details panels, as scripts use them, on the sample. */
-class FDetailsScript : public FProjectOnDisk
+class DetailsScript : public FProjectOnDisk
 {
 protected:
-	FDetailsScript() { CopySample(); }
+	DetailsScript() { CopySample(); }
 
 	/** What the program says about a script that cannot be done. */
 	std::string Complaint(const std::string& Script) const
@@ -19,7 +19,7 @@ protected:
 	static inline const std::string Style = "/Game/UI/HarborStyle";
 };
 
-TEST_F(FDetailsScript, ChangesAnAssetAsADesignerWould)
+TEST_F(DetailsScript, ChangesAnAssetAsADesignerWould)
 {
 	Do("inspect " + Style + "\n" +
 		"expect panel Details\n"
@@ -42,14 +42,14 @@ TEST_F(FDetailsScript, ChangesAnAssetAsADesignerWould)
 				"expect no panel Second\n");
 }
 
-TEST_F(FDetailsScript, SearchesThePanelAndPrintsItsRows)
+TEST_F(DetailsScript, SearchesThePanelAndPrintsItsRows)
 {
 	const FProgramResult Result = Do("inspect " + Style + "\nprint rows Details\ntype Details \"Search Details\" \"display\"\nexpect no row Details SimpleColors\nexpect row Details DisplayName\n"
 														  "click Details \"Search Details/Clear\"\nexpect row Details SimpleColors\n");
 	EXPECT_NE(Result.Output.find("Display Name (DisplayName)\n"), std::string::npos) << Result.Output;
 }
 
-TEST_F(FDetailsScript, ChangesSeveralActorsAtOnce)
+TEST_F(DetailsScript, ChangesSeveralActorsAtOnce)
 {
 	const std::string First = "\"actor:Torre Alba 1º A\"";
 	const std::string Second = "\"actor:Torre Brisa 1º B\"";
@@ -70,7 +70,7 @@ TEST_F(FDetailsScript, ChangesSeveralActorsAtOnce)
 		"expect no row Units UniqueIdentifier.Keycode value \"Multiple Values\"\n");
 }
 
-TEST_F(FDetailsScript, PicksFromListsAndTiles)
+TEST_F(DetailsScript, PicksFromListsAndTiles)
 {
 	const std::string Spot = "\"actor:Spot roof terrace\"";
 	Do("inspect " + Spot + "\n" +
@@ -90,7 +90,7 @@ TEST_F(FDetailsScript, PicksFromListsAndTiles)
 		"expect no option Details Icon.IconStyle Oblique\n");
 }
 
-TEST_F(FDetailsScript, WhatCannotBeDoneSaysWhatThereIs)
+TEST_F(DetailsScript, WhatCannotBeDoneSaysWhatThereIs)
 {
 	EXPECT_NE(Complaint("inspect " + Style + "\ntype Details Colour White\n").find("There is no widget \"Colour\". The rows are: Display Name (DisplayName), Simple Colors (SimpleColors)"), std::string::npos);
 	EXPECT_NE(Complaint("inspect " + Style + "\nprint options Details Colour\n").find("There is no widget \"Colour\". The rows are: Display Name (DisplayName)"), std::string::npos);

@@ -6,10 +6,10 @@
 #include <sstream>
 
 /** Work that cannot be written, as the person at the editor and the one who runs a script see it. */
-class FFailedWrites : public FProjectOnDisk
+class FailedWrites : public FProjectOnDisk
 {
 protected:
-	FFailedWrites() { CopySample(); }
+	FailedWrites() { CopySample(); }
 
 	void MakeReadOnly(const std::filesystem::path& File) const { std::filesystem::permissions(File, std::filesystem::perms(0444)); }
 
@@ -40,7 +40,7 @@ protected:
 		"wait 1\n";
 };
 
-TEST_F(FFailedWrites, EndTheStepAndShowFileAndRemedy)
+TEST_F(FailedWrites, EndTheStepAndShowFileAndRemedy)
 {
 	const struct
 	{
@@ -74,7 +74,7 @@ TEST_F(FFailedWrites, EndTheStepAndShowFileAndRemedy)
 	EXPECT_EQ(ReadIni(), Before);
 }
 
-TEST_F(FFailedWrites, OfReadOnlyFilesUnderVersionControlAreAskedAbout)
+TEST_F(FailedWrites, OfReadOnlyFilesUnderVersionControlAreAskedAbout)
 {
 	Folder.Write("Project/Config/DefaultEditor.ini", "[Velmorant.VersionControl]\nCheckOutCommand=chmod u+w\n");
 	const struct

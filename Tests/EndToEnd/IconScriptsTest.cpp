@@ -4,10 +4,10 @@
 #include "ProjectOnDisk.h"
 
 /** Scripts about the icons of the sample and of imported fonts. */
-class FIconScripts : public FProjectOnDisk
+class IconScripts : public FProjectOnDisk
 {
 protected:
-	FIconScripts() { CopySample(); }
+	IconScripts() { CopySample(); }
 
 	void WritePackage(const std::string& Icons) const
 	{
@@ -19,7 +19,7 @@ protected:
 		R"("kite": {"unicode": "1fa81", "label": "Kite", "search": {"terms": ["wind"]}, "familyStylesByLicense": {"free": [{"family": "classic", "style": "solid"}]}})";
 };
 
-TEST_F(FIconScripts, TheSampleHasIconsAndColoursOfItsOwn)
+TEST_F(IconScripts, TheSampleHasIconsAndColoursOfItsOwn)
 {
 	const FProgramResult Result = Do(
 		"open level /Game/Maps/HarborTower\n"
@@ -37,7 +37,7 @@ TEST_F(FIconScripts, TheSampleHasIconsAndColoursOfItsOwn)
 	EXPECT_NE(Result.Output.find("HarborIcons: 30 icons (Regular, Bold)"), std::string::npos) << Result.Output;
 }
 
-TEST_F(FIconScripts, AnImportedFontStaysWithTheProject)
+TEST_F(IconScripts, AnImportedFontStaysWithTheProject)
 {
 	WritePackage(Kite);
 	const FProgramResult Result = Do(
@@ -54,7 +54,7 @@ TEST_F(FIconScripts, AnImportedFontStaysWithTheProject)
 	EXPECT_NE(Result.Output.find("\xF0\x9F\xAA\x81 kite (Solid)"), std::string::npos) << Result.Output;
 }
 
-TEST_F(FIconScripts, AnImportThatFailsTellsWhereAndChangesNothing)
+TEST_F(IconScripts, AnImportThatFailsTellsWhereAndChangesNothing)
 {
 	const struct
 	{
@@ -81,7 +81,7 @@ TEST_F(FIconScripts, AnImportThatFailsTellsWhereAndChangesNothing)
 	}
 }
 
-TEST_F(FIconScripts, TheDownloadedFontIsImportedWhole)
+TEST_F(IconScripts, TheDownloadedFontIsImportedWhole)
 {
 	SKIP_WITHOUT_FONT_PACKAGE();
 	const FProgramResult Result = Do(
@@ -97,7 +97,7 @@ TEST_F(FIconScripts, TheDownloadedFontIsImportedWhole)
 	EXPECT_NE(Result.Output.find("FontAwesome: 1895 icons ("), std::string::npos) << Result.Output;
 }
 
-TEST_F(FIconScripts, ADesignerPicksFromTheDownloadedFont)
+TEST_F(IconScripts, ADesignerPicksFromTheDownloadedFont)
 {
 	SKIP_WITHOUT_FONT_PACKAGE();
 	Do(

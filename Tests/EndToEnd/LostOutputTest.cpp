@@ -4,11 +4,11 @@
 #include "ProjectOnDisk.h"
 
 /** A standard output that takes nothing. */
-class FLostOutput : public FProjectOnDisk
+class LostOutput : public FProjectOnDisk
 {
 };
 
-TEST_F(FLostOutput, IsNoSuccess)
+TEST_F(LostOutput, IsNoSuccess)
 {
 	using namespace CollisionIni;
 	MakeProject();
@@ -27,7 +27,7 @@ TEST_F(FLostOutput, IsNoSuccess)
 	}
 }
 
-TEST_F(FLostOutput, EndsAScriptBeforeItsNextStep)
+TEST_F(LostOutput, EndsAScriptBeforeItsNextStep)
 {
 	CopySample();
 	Folder.Write("test.velscript", "wait 0\nplace \"Sun Sky Velmorant\"\nsave\n");

@@ -3,13 +3,13 @@
 #include "ProjectOnDisk.h"
 
 /** The toolbar's menu, from scripts. */
-class FMenuScript : public FProjectOnDisk
+class MenuScript : public FProjectOnDisk
 {
 protected:
-	FMenuScript() { CopySample(); }
+	MenuScript() { CopySample(); }
 };
 
-TEST_F(FMenuScript, ADesignerSignsInByWayOfTheMenu)
+TEST_F(MenuScript, ADesignerSignsInByWayOfTheMenu)
 {
 	const FProgramResult Result = Do(
 		"print toolbar\n"
@@ -35,7 +35,7 @@ TEST_F(FMenuScript, ADesignerSignsInByWayOfTheMenu)
 	EXPECT_NE(Result.Output.find("section VelmorantAbout [About Velmorant]"), std::string::npos) << Result.Output;
 }
 
-TEST_F(FMenuScript, ATabThatIsClosedIsGoneUnderAllItsNames)
+TEST_F(MenuScript, ATabThatIsClosedIsGoneUnderAllItsNames)
 {
 	Do(
 		"open /VelmorantPro/EditorHelpers/DeveloperPanel/VelmorantDeveloperPanel as Dev\n"
@@ -47,7 +47,7 @@ TEST_F(FMenuScript, ATabThatIsClosedIsGoneUnderAllItsNames)
 		"expect panel VelmorantDeveloperPanel\n");
 }
 
-TEST_F(FMenuScript, AClickElsewhereClosesTheMenu)
+TEST_F(MenuScript, AClickElsewhereClosesTheMenu)
 {
 	Do(
 		"open /VelmorantPro/EditorHelpers/DeveloperPanel/VelmorantDeveloperPanel as Dev\n"
@@ -60,7 +60,7 @@ TEST_F(FMenuScript, AClickElsewhereClosesTheMenu)
 		"expect widget VelmorantMenu UserName value \"Developer not registered\"\n");
 }
 
-TEST_F(FMenuScript, EntriesLeadToToolsPagesAndTheClipboard)
+TEST_F(MenuScript, EntriesLeadToToolsPagesAndTheClipboard)
 {
 	const FProgramResult Result = Do(
 		"open menu VelmorantMenu\n"
@@ -94,7 +94,7 @@ TEST_F(FMenuScript, EntriesLeadToToolsPagesAndTheClipboard)
 	EXPECT_NE(Result.Output.find("text \"Project - Plugins - Velmorant SDK Settings\""), std::string::npos) << Result.Output;
 }
 
-TEST_F(FMenuScript, WhatIsNotThereIsNamed)
+TEST_F(MenuScript, WhatIsNotThereIsNamed)
 {
 	const struct
 	{
@@ -123,7 +123,7 @@ TEST_F(FMenuScript, WhatIsNotThereIsNamed)
 	}
 }
 
-TEST_F(FMenuScript, OpenedPagesAreInTheJsonReport)
+TEST_F(MenuScript, OpenedPagesAreInTheJsonReport)
 {
 	const FProgramResult Result = RunScript("open menu VelmorantMenu\nclick VelmorantMenu OpenSupportPage\n", {"--json"});
 	EXPECT_EQ(Result.ExitStatus, 0) << Result.Errors;

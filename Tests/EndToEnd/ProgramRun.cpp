@@ -12,10 +12,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-namespace
+namespace ProgramRun
 {
-	const char* const Binary = VELMORANT_BINARY_DIR "/velmorant";
-
 	std::string ReadAll(const std::string& Path)
 	{
 		std::ifstream Stream(Path, std::ios::binary);
@@ -56,17 +54,19 @@ namespace
 		{
 			setenv(Name.c_str(), Value.c_str(), 1);
 		}
-		std::vector<char*> Values = {const_cast<char*>(Binary)};
+		std::vector<char*> Values = {FProgramRun::Program.data()};
 		for (const std::string& Argument : Arguments)
 		{
 			Values.push_back(const_cast<char*>(Argument.c_str()));
 		}
 		Values.push_back(nullptr);
 		alarm(120); // seconds
-		execv(Binary, Values.data());
+		execv(FProgramRun::Program.c_str(), Values.data());
 		_exit(127);
 	}
 }
+
+std::string FProgramRun::Program = VELMORANT_BINARY_DIR "/velmorant";
 
 FProgramRun::FProgramRun(const std::vector<std::string>& Arguments, const FEnvironment& Environment, EOutput Output)
 {
@@ -79,13 +79,13 @@ FProgramRun::FProgramRun(const std::vector<std::string>& Arguments, const FEnvir
 	Process = fork();
 	if (Process == 0)
 	{
-		Redirect(Output == EOutput::FullDisk ? "/dev/full" : Folder + "/out", STDOUT_FILENO);
+		ProgramRun::Redirect(Output == EOutput::FullDisk ? "/dev/full" : Folder + "/out", STDOUT_FILENO);
 		if (Output == EOutput::ClosedPipe)
 		{
-			RedirectToClosedPipe(STDOUT_FILENO);
+			ProgramRun::RedirectToClosedPipe(STDOUT_FILENO);
 		}
-		Redirect(Folder + "/err", STDERR_FILENO);
-		Execute(Arguments, Environment);
+		ProgramRun::Redirect(Folder + "/err", STDERR_FILENO);
+		ProgramRun::Execute(Arguments, Environment);
 	}
 }
 
@@ -101,10 +101,10 @@ FProgramRun::~FProgramRun()
 
 FProgramResult FProgramRun::Wait()
 {
-	FProgramResult Result = WaitFor(Process);
+	FProgramResult Result = ProgramRun::WaitFor(Process);
 	Process = -1;
-	Result.Output = ReadAll(Folder + "/out");
-	Result.Errors = ReadAll(Folder + "/err");
+	Result.Output = ProgramRun::ReadAll(Folder + "/out");
+	Result.Errors = ProgramRun::ReadAll(Folder + "/err");
 	return Result;
 }
 
@@ -119,7 +119,7 @@ FProgramResult FProgramRun::RunOnTerminal(const std::vector<std::string>& Argume
 	const pid_t Process = forkpty(&Terminal, nullptr, nullptr, nullptr);
 	if (Process == 0)
 	{
-		Execute(Arguments, Environment);
+		ProgramRun::Execute(Arguments, Environment);
 	}
 	std::string Shown;
 	std::string Typed = Line + "\n";
@@ -133,7 +133,7 @@ FProgramResult FProgramRun::RunOnTerminal(const std::vector<std::string>& Argume
 		}
 	}
 	close(Terminal);
-	FProgramResult Result = WaitFor(Process);
+	FProgramResult Result = ProgramRun::WaitFor(Process);
 	Result.Output = Shown;
 	return Result;
 }

@@ -15,11 +15,14 @@ struct FProgramResult
 	std::string Errors;
 };
 
-/** The built velmorant program as a process of its own. */
+/** The velmorant program as a process of its own. */
 class FProgramRun
 {
 public:
 	using FEnvironment = std::vector<std::pair<std::string, std::string>>;
+
+	/** What is run. */
+	static std::string Program;
 
 	/** Where the standard output goes. */
 	enum class EOutput

@@ -13,13 +13,13 @@
 
 using namespace CollisionIni;
 
-class FRepairSafety : public FProjectOnDisk
+class RepairSafety : public FProjectOnDisk
 {
 protected:
-	FRepairSafety() { MakeProject(); }
+	RepairSafety() { MakeProject(); }
 };
 
-TEST_F(FRepairSafety, RepairsAtOnceAddTheLinesOnce)
+TEST_F(RepairSafety, RepairsAtOnceAddTheLinesOnce)
 {
 	for (int Round = 0; Round < 3; ++Round)
 	{
@@ -39,7 +39,7 @@ TEST_F(FRepairSafety, RepairsAtOnceAddTheLinesOnce)
 	}
 }
 
-TEST_F(FRepairSafety, ACrashBeforeTheRenameLeavesTheOldFile)
+TEST_F(RepairSafety, ACrashBeforeTheRenameLeavesTheOldFile)
 {
 	const std::string Before = SectionLine + GlassLine;
 	WriteIni(Before);
@@ -64,7 +64,7 @@ TEST_F(FRepairSafety, ACrashBeforeTheRenameLeavesTheOldFile)
 	EXPECT_EQ(Folder.Count("Project/Config"), 1u) << "what the crash left is cleared away";
 }
 
-TEST_F(FRepairSafety, WhatComesBetweenCheckAndWriteIsTold)
+TEST_F(RepairSafety, WhatComesBetweenCheckAndWriteIsTold)
 {
 	const struct
 	{

@@ -2,13 +2,13 @@
 
 #include "ProjectOnDisk.h"
 
-class FScriptErrors : public FProjectOnDisk
+class ScriptErrors : public FProjectOnDisk
 {
 protected:
-	FScriptErrors() { MakeProject(); }
+	ScriptErrors() { MakeProject(); }
 };
 
-TEST_F(FScriptErrors, MalformedLinesAreNamedBeforeAnythingRuns)
+TEST_F(ScriptErrors, MalformedLinesAreNamedBeforeAnythingRuns)
 {
 	const struct
 	{
@@ -38,7 +38,7 @@ TEST_F(FScriptErrors, MalformedLinesAreNamedBeforeAnythingRuns)
 	}
 }
 
-TEST_F(FScriptErrors, AllMalformedLinesAreTold)
+TEST_F(ScriptErrors, AllMalformedLinesAreTold)
 {
 	const FProgramResult Result = RunScript("first\nwait 0\nsecond\nheading \"\n");
 	EXPECT_EQ(CountOf(Result.Errors, ": error: "), 3u) << Result.Errors;
@@ -46,7 +46,7 @@ TEST_F(FScriptErrors, AllMalformedLinesAreTold)
 	EXPECT_LT(Result.Errors.find("(3)"), Result.Errors.find("(4)"));
 }
 
-TEST_F(FScriptErrors, StepsThatCannotBeDoneEndTheScriptWithThree)
+TEST_F(ScriptErrors, StepsThatCannotBeDoneEndTheScriptWithThree)
 {
 	const struct
 	{
@@ -85,7 +85,7 @@ TEST_F(FScriptErrors, StepsThatCannotBeDoneEndTheScriptWithThree)
 	}
 }
 
-TEST_F(FScriptErrors, ExpectationsThatDoNotHoldEndTheScriptWithOne)
+TEST_F(ScriptErrors, ExpectationsThatDoNotHoldEndTheScriptWithOne)
 {
 	const struct
 	{
@@ -114,7 +114,7 @@ TEST_F(FScriptErrors, ExpectationsThatDoNotHoldEndTheScriptWithOne)
 	}
 }
 
-TEST_F(FScriptErrors, PasswordsStayHiddenWhenTheirStepFails)
+TEST_F(ScriptErrors, PasswordsStayHiddenWhenTheirStepFails)
 {
 	const std::string Open = "open /VelmorantPro/EditorHelpers/DeveloperPanel/LoginPanel as Login\n";
 	for (const char* Step : {"type Login NoSuchField s3cret-77", "type Nowhere UserPassword s3cret-77", "expect widget Login UserPassword value s3cret-77", "type Login UserPassword s3cret-77 again",

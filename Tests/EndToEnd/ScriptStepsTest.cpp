@@ -3,10 +3,10 @@
 #include "ProjectOnDisk.h"
 
 /** Scripts that work on the sample. */
-class FScriptSteps : public FProjectOnDisk
+class ScriptSteps : public FProjectOnDisk
 {
 protected:
-	FScriptSteps() { CopySample(); }
+	ScriptSteps() { CopySample(); }
 
 	/** Signed in, with the project's data there. */
 	static inline const std::string SignIn =
@@ -21,7 +21,7 @@ protected:
 	static inline const std::string CreateAsset = "call VelmorantEditorUtilitiesLibrary.CreateConfiguratorDataAssetFromConfigurator \"Garden Flat\"\n";
 };
 
-TEST_F(FScriptSteps, WrongCredentialsShowAndEndTheBusyState)
+TEST_F(ScriptSteps, WrongCredentialsShowAndEndTheBusyState)
 {
 	Do("open /VelmorantPro/EditorHelpers/DeveloperPanel/VelmorantDeveloperPanel as Dev\n"
 	   "type Dev UserName lucia\n"
@@ -34,12 +34,12 @@ TEST_F(FScriptSteps, WrongCredentialsShowAndEndTheBusyState)
 	   "expect no option Dev ProjectSelection \"Harbor Tower\"\n");
 }
 
-TEST_F(FScriptSteps, CopiesTheKeyOfTheChosenProject)
+TEST_F(ScriptSteps, CopiesTheKeyOfTheChosenProject)
 {
 	Do(SignIn + "click Dev CopyApyKey\nexpect clipboard ht-7f3c-91d2-demo\nexpect widget Dev ProjectName value \"Harbor Tower\" state read-only\n");
 }
 
-TEST_F(FScriptSteps, ACancelledDialogMakesNoAsset)
+TEST_F(ScriptSteps, ACancelledDialogMakesNoAsset)
 {
 	Do(SignIn + "answer SaveAsset Cancel\n" + CreateAsset +
 		"expect question SaveAsset choice Cancel\n"
@@ -48,7 +48,7 @@ TEST_F(FScriptSteps, ACancelledDialogMakesNoAsset)
 		"expect no unsaved\n");
 }
 
-TEST_F(FScriptSteps, AnswersMayNameFolderAndAsset)
+TEST_F(ScriptSteps, AnswersMayNameFolderAndAsset)
 {
 	Do(SignIn + "answer SaveAsset Save Name=Mine Path=/Game/Elsewhere\n" + CreateAsset + "save\nexpect asset /Game/Elsewhere/Mine class VelmorantConfiguratorDataAsset\n"
 																						 "expect property /Game/Elsewhere/Mine ConfiguratorName \"Garden Flat\"\n"
@@ -59,20 +59,20 @@ TEST_F(FScriptSteps, AnswersMayNameFolderAndAsset)
 	EXPECT_TRUE(Folder.Exists("Project/Content/Elsewhere/Mine.uasset.json"));
 }
 
-TEST_F(FScriptSteps, AnAnswerThatWasNotOfferedIsAnError)
+TEST_F(ScriptSteps, AnAnswerThatWasNotOfferedIsAnError)
 {
 	const FProgramResult Result = RunScript(SignIn + "answer SaveAsset Maybe\n" + CreateAsset);
 	EXPECT_EQ(Result.ExitStatus, 3);
 	EXPECT_NE(Result.Errors.find("the answer of line 8, \"Maybe\", is not one of: Save, Cancel"), std::string::npos) << Result.Errors;
 }
 
-TEST_F(FScriptSteps, AnAnswerThatNothingAskedForIsToldAtTheEnd)
+TEST_F(ScriptSteps, AnAnswerThatNothingAskedForIsToldAtTheEnd)
 {
 	const FProgramResult Result = Do("answer SaveAsset Save\nwait 0\n");
 	EXPECT_NE(Result.Errors.find("(1): warning: nothing asked for this answer"), std::string::npos) << Result.Errors;
 }
 
-TEST_F(FScriptSteps, UnsavedAssetsAreNeverDroppedSilently)
+TEST_F(ScriptSteps, UnsavedAssetsAreNeverDroppedSilently)
 {
 	const std::string Asset = "/Game/Velmorant/Configurator/Configurator_GardenFlat";
 	const FProgramResult Ended = Do(SignIn + CreateAsset + "expect unsaved " + Asset + "\n");
@@ -91,7 +91,7 @@ TEST_F(FScriptSteps, UnsavedAssetsAreNeverDroppedSilently)
 	EXPECT_EQ(Discarded.Errors, "");
 }
 
-TEST_F(FScriptSteps, TheLevelIsSavedAndOpenedAgain)
+TEST_F(ScriptSteps, TheLevelIsSavedAndOpenedAgain)
 {
 	Do(SignIn + CreateAsset +
 		"select /Game/Velmorant/Configurator/Configurator_GardenFlat\n"
@@ -108,7 +108,7 @@ TEST_F(FScriptSteps, TheLevelIsSavedAndOpenedAgain)
 		"expect no variant /Game/Velmorant/Configurator/LevelVariant_Garden_Flat \"Kitchen - Appliances\" Golden\n");
 }
 
-TEST_F(FScriptSteps, AnUntitledLevelNeedsANameToBeSaved)
+TEST_F(ScriptSteps, AnUntitledLevelNeedsANameToBeSaved)
 {
 	const std::string Placed = SignIn + CreateAsset +
 		"save\nnew level\nselect /Game/Velmorant/Configurator/Configurator_GardenFlat\naction \"Place LevelVariantActor into Level\"\n";
@@ -122,7 +122,7 @@ TEST_F(FScriptSteps, AnUntitledLevelNeedsANameToBeSaved)
 	EXPECT_TRUE(Folder.Exists("Project/Content/Maps/Second.umap.json"));
 }
 
-TEST_F(FScriptSteps, CallsGiveTheirResult)
+TEST_F(ScriptSteps, CallsGiveTheirResult)
 {
 	const FProgramResult Result = Do(
 		"call VelmorantEditorUtilitiesLibrary.GetVelmorantProVersion\n"
@@ -136,7 +136,7 @@ TEST_F(FScriptSteps, CallsGiveTheirResult)
 	EXPECT_NE(Result.Output.find("= 3.1.0"), std::string::npos) << Result.Output;
 }
 
-TEST_F(FScriptSteps, TheServiceCanComeFromAnotherFile)
+TEST_F(ScriptSteps, TheServiceCanComeFromAnotherFile)
 {
 	std::string Data = Folder.Read("Project/VelmorantService.json");
 	Data.replace(Data.find("harbor-2026"), 11, "other-pass!");
@@ -147,7 +147,7 @@ TEST_F(FScriptSteps, TheServiceCanComeFromAnotherFile)
 	Do(Script + "expect widget Dev LoginStatus value \"Signed in as lucia\"\n", {"--service", Folder.GetNative("My Service.json").string()});
 }
 
-TEST_F(FScriptSteps, AMalformedServiceFileIsNamed)
+TEST_F(ScriptSteps, AMalformedServiceFileIsNamed)
 {
 	const std::string Service = Folder.GetNative("Service.json").string();
 	const struct
@@ -168,7 +168,7 @@ TEST_F(FScriptSteps, AMalformedServiceFileIsNamed)
 	}
 }
 
-TEST_F(FScriptSteps, WordsMayHoldBlanksQuotesAndLineEnds)
+TEST_F(ScriptSteps, WordsMayHoldBlanksQuotesAndLineEnds)
 {
 	Do("call VelmorantEditorUtilitiesLibrary.CopyToClipboard \"a \\\"b\\\"\\n\\tc\\\\\" x # a comment\n"
 	   "expect clipboard \"a \\\"b\\\"\\n\\tc\\\\\"\n"
@@ -176,7 +176,7 @@ TEST_F(FScriptSteps, WordsMayHoldBlanksQuotesAndLineEnds)
 	   "expect clipboard \"Ático#1\"\n");
 }
 
-TEST_F(FScriptSteps, RemembersTheUserOverRestartsAndLogins)
+TEST_F(ScriptSteps, RemembersTheUserOverRestartsAndLogins)
 {
 	const std::string Open = "open /VelmorantPro/EditorHelpers/DeveloperPanel/LoginPanel as Login\n";
 	const std::string Remembered = Open +
@@ -198,7 +198,7 @@ TEST_F(FScriptSteps, RemembersTheUserOverRestartsAndLogins)
 	EXPECT_TRUE(std::filesystem::exists(Folder.GetNative("UserConfig")));
 }
 
-TEST_F(FScriptSteps, StepsAreTakenBackAndDoneAgain)
+TEST_F(ScriptSteps, StepsAreTakenBackAndDoneAgain)
 {
 	const std::string Place = SignIn + CreateAsset +
 		"select /Game/Velmorant/Configurator/Configurator_GardenFlat\n"
@@ -235,7 +235,7 @@ TEST_F(FScriptSteps, StepsAreTakenBackAndDoneAgain)
 	EXPECT_EQ(Result.Output.find("LevelVariantSet <- undo", Result.Output.find("> restart")), std::string::npos) << "another editor has no steps yet";
 }
 
-TEST_F(FScriptSteps, NothingToUndoOrRedoIsAFailure)
+TEST_F(ScriptSteps, NothingToUndoOrRedoIsAFailure)
 {
 	const std::string Edit = "inspect \"actor:Spot harbour promenade\"\ntype Details ActorLabel Quay\n";
 	const struct

@@ -8,10 +8,10 @@
 #include <unistd.h>
 
 /** Passwords: where they come from, and that nothing repeats them. */
-class FSecrets : public FProjectOnDisk
+class Secrets : public FProjectOnDisk
 {
 protected:
-	FSecrets() { CopySample(); }
+	Secrets() { CopySample(); }
 
 	static inline const std::string Open = "open /VelmorantPro/EditorHelpers/DeveloperPanel/LoginPanel as Login\n";
 
@@ -31,7 +31,7 @@ protected:
 	}
 };
 
-TEST_F(FSecrets, WhatAPasswordFieldHoldsIsPrintedNowhere)
+TEST_F(Secrets, WhatAPasswordFieldHoldsIsPrintedNowhere)
 {
 	const std::string Typed = Open + "type Login UserPassword \"s3cret \\\"77\"\n";
 	const std::string Prints =
@@ -52,14 +52,14 @@ TEST_F(FSecrets, WhatAPasswordFieldHoldsIsPrintedNowhere)
 	}
 }
 
-TEST_F(FSecrets, ShortPasswordsAreHiddenWhereTheyStandAlone)
+TEST_F(Secrets, ShortPasswordsAreHiddenWhereTheyStandAlone)
 {
 	const FProgramResult Result = Do(Open + "type Login UserPassword in\ncall VelmorantEditorUtilitiesLibrary.CopyToClipboard in \"in ink\"\nprint clipboard\nprint snapshot Login\n");
 	EXPECT_NE(Result.Output.find("> print clipboard\n    ••••••••\n"), std::string::npos) << Result.Output;
 	EXPECT_NE(Result.Output.find("        •••••••• ink\n"), std::string::npos) << Result.Output;
 }
 
-TEST_F(FSecrets, GuessesAtAPasswordAreHiddenToo)
+TEST_F(Secrets, GuessesAtAPasswordAreHiddenToo)
 {
 	for (const char* Step : {"choose Login UserPassword guess-99", "choose Login NoSuchField guess-99", "expect property Login UserPassword.Text guess-99", "expect property Nowhere UserPassword.Text guess-99",
 			 "expect property Login UserPasword.Text guess-99", "expect widget Login UserPassword label guess-99", "expect option Login UserPassword guess-99"})
@@ -75,7 +75,7 @@ TEST_F(FSecrets, GuessesAtAPasswordAreHiddenToo)
 	}
 }
 
-TEST_F(FSecrets, PasswordsComeFromTheEnvironment)
+TEST_F(Secrets, PasswordsComeFromTheEnvironment)
 {
 	const std::string SignIn = Open + "type Login UserName lucia\ntype Login UserPassword env:HARBOR_PASSWORD\nclick Login SummitButton\nwait 1\n";
 	const FProgramResult Result = RunWith(SignIn + "expect widget Login LoginStatus value \"Signed in as lucia\"\nprint property Login UserPassword.Text\n", {{"HARBOR_PASSWORD", "harbor-2026"}});
@@ -91,7 +91,7 @@ TEST_F(FSecrets, PasswordsComeFromTheEnvironment)
 	EXPECT_EQ(RunScript(Open + "type Login UserName env:no-name\n").ExitStatus, 3);
 }
 
-TEST_F(FSecrets, PasswordsAreAskedForOnATerminalWithoutEcho)
+TEST_F(Secrets, PasswordsAreAskedForOnATerminalWithoutEcho)
 {
 	Folder.Write("test.velscript", Open + "type Login UserName lucia\ntype Login UserPassword env:HARBOR_PASSWORD\nclick Login SummitButton\nwait 1\nexpect widget Login LoginStatus value \"Signed in as lucia\"\n");
 	const FProgramResult Result = FProgramRun::RunOnTerminal({"run", GetProject(), GetScript()}, GetEnvironment(), "HARBOR_PASSWORD: ", "harbor-2026");
@@ -99,7 +99,7 @@ TEST_F(FSecrets, PasswordsAreAskedForOnATerminalWithoutEcho)
 	ExpectHidden(Result, "harbor-2026");
 }
 
-TEST_F(FSecrets, RememberedUsersAreKeptInTheDesktopsSecretStore)
+TEST_F(Secrets, RememberedUsersAreKeptInTheDesktopsSecretStore)
 {
 	const FFakeSecretStore Store(Folder);
 	const FProgramRun::FEnvironment Desktop = {{"PATH", Store.GetPath()}, {"VELMORANT_NO_KEYRING", ""}, {"HARBOR_PASSWORD", "harbor-2026"}};
@@ -126,7 +126,7 @@ TEST_F(FSecrets, RememberedUsersAreKeptInTheDesktopsSecretStore)
 	EXPECT_EQ(Store.GetCalls(), Calls);
 }
 
-TEST_F(FSecrets, WhatKilledProgramsLeftGoesAtTheNextStart)
+TEST_F(Secrets, WhatKilledProgramsLeftGoesAtTheNextStart)
 {
 	const std::vector<std::string> Leftovers = {"UserConfig/velmorant/.velmorant-4711-1.tmp", "UserState/velmorant/.velmorant-4711-2.tmp", "Project/Config/.velmorant-4711-3.tmp",
 		"Project/Saved/Config/LinuxEditor/.velmorant-4711-4.tmp", "Project/Content/Deep/Down/.velmorant-4711-5.tmp"};

@@ -3,10 +3,10 @@
 #include "ProjectOnDisk.h"
 
 /** The panels of the toolkit's own content, on the sample. */
-class FToolPanels : public FProjectOnDisk
+class ToolPanels : public FProjectOnDisk
 {
 protected:
-	FToolPanels() { CopySample(); }
+	ToolPanels() { CopySample(); }
 
 	void Do(const std::string& Script) const
 	{
@@ -30,7 +30,7 @@ protected:
 	static inline const std::string OpenVolumeTools = "open /VelmorantPro/EditorHelpers/ToolsWidget/UnitVolumeTools/VelmorantEditorTool_StaticMeshToUnitVolume as Volumes\n";
 };
 
-TEST_F(FToolPanels, ShowsTheDeveloperAndSignsOut)
+TEST_F(ToolPanels, ShowsTheDeveloperAndSignsOut)
 {
 	Do(SignIn +
 		"expect widget Dev DevName value \"Lucía Ferrer\"\n"
@@ -44,7 +44,7 @@ TEST_F(FToolPanels, ShowsTheDeveloperAndSignsOut)
 		"expect widget Dev LogoutButton state hidden\n");
 }
 
-TEST_F(FToolPanels, SignedOutNothingOfTheDeveloperShows)
+TEST_F(ToolPanels, SignedOutNothingOfTheDeveloperShows)
 {
 	Do(SignIn +
 		"click Dev LogoutButton\n"
@@ -62,7 +62,7 @@ TEST_F(FToolPanels, SignedOutNothingOfTheDeveloperShows)
 		"expect no option Dev ProjectSelection \"Harbor Tower\"\n");
 }
 
-TEST_F(FToolPanels, OpenedAgainTheyKnowWhoIsSignedIn)
+TEST_F(ToolPanels, OpenedAgainTheyKnowWhoIsSignedIn)
 {
 	Do(SignIn +
 		"close Dev\n"
@@ -79,7 +79,7 @@ TEST_F(FToolPanels, OpenedAgainTheyKnowWhoIsSignedIn)
 		"expect widget VelmorantDeveloperPanel LogoutButton state hidden\n");
 }
 
-TEST_F(FToolPanels, BrowsesTheProject)
+TEST_F(ToolPanels, BrowsesTheProject)
 {
 	Do(SignIn +
 		"expect widget Dev ListTitle value \"Unit groups\"\n"
@@ -111,7 +111,7 @@ TEST_F(FToolPanels, BrowsesTheProject)
 		"print snapshot Dev\n");
 }
 
-TEST_F(FToolPanels, FindsDuplicatedVolumesAndAssignsUnits)
+TEST_F(ToolPanels, FindsDuplicatedVolumesAndAssignsUnits)
 {
 	const std::string Find = "click Volumes CheckDuplications\nwait 0\nwait 0\nprint snapshot Volumes\n"; // the lists within the rows follow
 	const FProgramResult Result = FProjectOnDisk::Do(SignIn + OpenVolumeTools + Find +
@@ -144,7 +144,7 @@ TEST_F(FToolPanels, FindsDuplicatedVolumesAndAssignsUnits)
 	EXPECT_NE(Result.Output.find("text VolumeLabel \"Torre Brisa 1º B\""), std::string::npos) << Result.Output;
 }
 
-TEST_F(FToolPanels, PartsOfAToolOpenedAloneKnowTheLevelToo)
+TEST_F(ToolPanels, PartsOfAToolOpenedAloneKnowTheLevelToo)
 {
 	Do("open /VelmorantPro/EditorHelpers/ToolsWidget/UnitVolumeTools/UnitVolumeDuplicationPanel as Duplications\n"
 	   "click Duplications CheckDuplications\n"
@@ -159,7 +159,7 @@ TEST_F(FToolPanels, PartsOfAToolOpenedAloneKnowTheLevelToo)
 	   "expect widget Map MinimapStatus value \"The level has no minimap controller: place one\"\n");
 }
 
-TEST_F(FToolPanels, SwitchesTheFloorsOfTheMinimap)
+TEST_F(ToolPanels, SwitchesTheFloorsOfTheMinimap)
 {
 	Do(OpenMinimap +
 		"print snapshot Map\n"
@@ -195,7 +195,7 @@ TEST_F(FToolPanels, SwitchesTheFloorsOfTheMinimap)
 	}
 }
 
-TEST_F(FToolPanels, PlacesTheActiveFloorOfTheMinimap)
+TEST_F(ToolPanels, PlacesTheActiveFloorOfTheMinimap)
 {
 	const std::string Floors = "expect property /Game/Minimap/HarborTowerFloors Floors";
 	Do(OpenMinimap +
@@ -229,7 +229,7 @@ TEST_F(FToolPanels, PlacesTheActiveFloorOfTheMinimap)
 		"expect widget Map MoveX value 0\n");
 }
 
-TEST_F(FToolPanels, SavesThePlacesOfTheFloors)
+TEST_F(ToolPanels, SavesThePlacesOfTheFloors)
 {
 	Do(OpenMinimap +
 		"expect widget Map SaveFloors state disabled\n"
@@ -244,7 +244,7 @@ TEST_F(FToolPanels, SavesThePlacesOfTheFloors)
 		"expect property /Game/Minimap/HarborTowerFloors Floors[1].WidgetTransform.Translation.X 24\n");
 }
 
-TEST_F(FToolPanels, SaysWhyThereIsNoMinimapToWorkOn)
+TEST_F(ToolPanels, SaysWhyThereIsNoMinimapToWorkOn)
 {
 	Do(OpenMinimap +
 		"new level\n"

@@ -47,10 +47,11 @@ namespace Layers
 			std::istringstream Rest(Line);
 			std::string Key;
 			Rest >> Key;
-			if (Key == "module" || Key == "program")
+			if (Key == "module" || Key == "part" || Key == "program")
 			{
 				Result.emplace_back();
 				Result.back().bProgram = Key == "program";
+				Result.back().bFlat = Key == "part";
 				Rest >> Result.back().Name;
 			}
 			else
@@ -73,7 +74,7 @@ namespace Layers
 				{
 					const fs::path Path = fs::relative(File, Layer.Folder);
 					const FOffer Offer = {Layer.Name, File};
-					const auto [Same, bNew] = Result.emplace(fs::relative(Path, *Path.begin()).generic_string(), Offer);
+					const auto [Same, bNew] = Result.emplace((Layer.bFlat ? Path : fs::relative(Path, *Path.begin())).generic_string(), Offer);
 					EXPECT_TRUE(bNew) << Layer.Name << " and " << Same->second.Module << " both offer " << Same->first;
 				}
 			}
@@ -108,7 +109,11 @@ namespace Layers
 
 	bool FLayer::IsForUsers(const fs::path& File) const
 	{
-		return !bProgram && (IsBelow(File, Folder / "Public") || IsBelow(File, Folder / "Internal"));
+		if (bProgram || bFlat)
+		{
+			return bFlat && File.extension() == ".h";
+		}
+		return IsBelow(File, Folder / "Public") || IsBelow(File, Folder / "Detail") || IsBelow(File, Folder / "Internal");
 	}
 
 	const std::vector<FLayer>& All()
@@ -144,23 +149,33 @@ namespace Layers
 		return Found != Known.end() ? Found->second : Known.emplace(File, ReadIncludes(File)).first->second;
 	}
 
+	/** Where the compiler finds what a source of the layer includes and no module offers; empty for what is not of this project. */
+	fs::path FindBeside(const FLayer& Layer, const fs::path& Source, const std::string& Include)
+	{
+		std::vector<fs::path> Places = {Source.parent_path()};
+		Places.insert(Places.end(), Layer.IncludeFolders.begin(), Layer.IncludeFolders.end());
+		for (const fs::path& Place : Places)
+		{
+			if (fs::is_regular_file(Place / Include))
+			{
+				return (Place / Include).lexically_normal();
+			}
+		}
+		return fs::path();
+	}
+
 	std::vector<fs::path> FilesOf(const FLayer& Layer)
 	{
 		std::vector<fs::path> Result = Layer.Sources;
 		std::set<fs::path> Seen(Result.begin(), Result.end());
-		for (size_t Index = 0; Index < Result.size(); ++Index)
+		for (size_t Index = 0; Layer.bProgram && Index < Result.size(); ++Index)
 		{
 			for (const std::string& Include : IncludesOf(Result[Index]))
 			{
-				std::vector<fs::path> Places = Layer.IncludeFolders;
-				Places.insert(Places.begin(), Result[Index].parent_path());
-				for (const fs::path& Place : Places)
+				const fs::path Beside = Offers().count(Include) == 0 ? FindBeside(Layer, Result[Index], Include) : fs::path();
+				if (!Beside.empty() && Seen.insert(Beside).second)
 				{
-					const fs::path File = (Place / Include).lexically_normal();
-					if (Offers().count(Include) == 0 && fs::is_regular_file(File) && Seen.insert(File).second)
-					{
-						Result.push_back(File);
-					}
+					Result.push_back(Beside);
 				}
 			}
 		}

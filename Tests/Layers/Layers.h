@@ -16,6 +16,7 @@ namespace Layers
 	{
 		std::string Name;
 		bool bProgram = false;
+		bool bFlat = false; // a part of programs, without folders for who may see what
 		std::filesystem::path Folder;
 
 		/** The modules that it names: for its users as well, and for itself. */
@@ -48,7 +49,7 @@ namespace Layers
 	/** Fails the test if there is none of that name. */
 	const FLayer& Find(const std::string& Name);
 
-	/** Include paths of all headers in Public and Internal folders. */
+	/** Include paths of all headers in Public, Detail and Internal folders. */
 	const std::map<std::string, FOffer>& Offers();
 
 	/** As they are written between quotation marks, those of generated headers left out. */

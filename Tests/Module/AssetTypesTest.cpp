@@ -16,7 +16,7 @@
 
 using testing::UnorderedElementsAre;
 
-namespace
+namespace AssetTypesTest
 {
 	/** The lines of the menu of new assets that make assets of the toolkit. */
 	TArray<HostAssetTools::FNewAssetItem> GetToolkitItems()
@@ -51,6 +51,8 @@ namespace
 	}
 }
 
+using namespace AssetTypesTest;
+
 class AssetTypes : public FToolkitTest
 {
 };
@@ -64,26 +66,6 @@ TEST_F(AssetTypes, AreSevenInTheMenuOfNewAssets)
 		Lines.push_back(ToUtf8(Item.Category) + "/" + ToUtf8(Item.SubCategory) + "/" + ToUtf8(Item.DisplayName) + ": " + ToUtf8(Item.AssetClass->GetName()) + " by " + ToUtf8(Item.DefaultFactory->GetClass()->GetName()));
 	}
 	EXPECT_THAT(Lines, UnorderedElementsAre("Velmorant Assets//Maps Linker Asset: VelmorantMapsLinkerConfig by MapLinkerAssetFactory", "Velmorant Assets//Minimap Config Asset: MinimapConfigAsset by MinimapDataAssetFactory", "VelmorantAsset/Actions/InteractiveSpotPlacement Action: VlmISPActionsBase by ISPActionBaseFactory", "VelmorantAsset/Actions/UnitVolume Action: UnitVolumeAction by UnitVolumeActionFactory", "VelmorantAsset/Configurator/Configurator Data Asset: VelmorantConfiguratorDataAsset by ConfiguratorDataAssetFactory", "VelmorantAsset/Configurator/Configurator Items Override: VelmorantConfiguratorItemOverride by ConfiguratorItemOverrideFactory", "VelmorantAsset/UI/UI Style Configuration: VelmorantUIStyleConfiguration by UIStyleConfigurationAssetFactory"));
-}
-
-TEST_F(AssetTypes, HaveTheirColours)
-{
-	const FColor Purple(169, 7, 228);
-	const FColor Emerald(80, 200, 120);
-	const FColor Cyan(0, 255, 255);
-	const struct
-	{
-		const char* DisplayName;
-		FColor Color; // sRGB
-	} Cases[] = {{"Configurator Data Asset", Purple}, {"Configurator Items Override", Emerald}, {"UI Style Configuration", Emerald}, {"InteractiveSpotPlacement Action", Cyan},
-		{"UnitVolume Action", Cyan}, {"Maps Linker Asset", Purple}, {"Minimap Config Asset", Purple}};
-	StartEditor();
-	for (const auto& Case : Cases)
-	{
-		const FLinearColor Color = FindItem(Case.DisplayName).Color;
-		EXPECT_EQ(Color.ToFColor(true), Case.Color) << Case.DisplayName;
-		EXPECT_EQ(Color.A, 1.0f) << Case.DisplayName;
-	}
 }
 
 TEST_F(AssetTypes, OfDefinitionsHaveTranslatableTexts)

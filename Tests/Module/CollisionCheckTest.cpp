@@ -20,7 +20,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::StartsWith;
 
-namespace
+namespace CollisionCheckTest
 {
 	const TCHAR* const MissingTitle = TEXT("Velmorant: Missing UnitVolume Profile");
 	const TCHAR* const RestartTitle = TEXT("Restart Editor Required");
@@ -83,6 +83,8 @@ namespace
 		EXPECT_FALSE(Notification.ExpiresAt.IsSet());
 	}
 }
+
+using namespace CollisionCheckTest;
 
 class CollisionCheck : public FToolkitTest
 {

@@ -13,10 +13,12 @@ using CollisionIni::Replace;
 using CollisionIni::Section;
 using CollisionIni::ToUtf16;
 
-namespace
+namespace CollisionRepairTest
 {
 	const std::string Repair = Profile + "\n" + Channel + "\n"; // what is inserted
 }
+
+using namespace CollisionRepairTest;
 
 class CollisionRepair : public FToolkitTest
 {

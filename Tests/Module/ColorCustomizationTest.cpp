@@ -20,7 +20,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-namespace
+namespace ColorCustomizationTest
 {
 	const char* const White = "(R=1.000000,G=1.000000,B=1.000000,A=1.000000)";
 	const char* const WhiteContrast = "(R=0.000000,G=0.000000,B=0.250000,A=1.000000)";
@@ -30,6 +30,8 @@ namespace
 	const char* const Free = "(R=0.100000,G=0.200000,B=0.300000,A=0.400000)";
 	const char* const Magenta = "(R=1.000000,G=0.000000,B=1.000000,A=1.000000)";
 }
+
+using namespace ColorCustomizationTest;
 
 /** A colour in the details panel. */
 class ColorCustomization : public FDetailsTest

@@ -2,6 +2,8 @@
 // The tables of Docs/Companions.md against what the module really takes from its companions, found by the compiler.
 
 #include "CompanionDeclarations.h"
+#include "Containers/StringConv.h"
+#include "Contract/CompanionTables.h"
 #include "SourceText.h"
 #include "TemporaryFolder.h"
 
@@ -142,23 +144,21 @@ namespace CompanionContractTest
 		return SourceText::FindAll(Cell, std::regex("`([^`]+)`"));
 	}
 
+	/** As programs read the tables. */
+	std::vector<FExpectedName> ReadExpected()
+	{
+		std::vector<FExpectedName> Names;
+		EXPECT_TRUE(CompanionTables::Read(FString(UTF8_TO_TCHAR((SourceText::Root / "Docs/Companions.md").c_str())), Names));
+		return Names;
+	}
+
 	/** The same as FindNeeds() returns, of what is listed. */
-	FNames ReadListed(const FDeclarations& Declarations)
+	FNames ReadListed()
 	{
 		FNames Listed;
-		std::string Header;
-		for (const std::vector<std::string>& Cells : ReadTables("| Header | Type | Given | Chosen | For |"))
+		for (const FExpectedName& Name : ReadExpected())
 		{
-			Header = CodeIn(Cells[0]).empty() ? Header : CodeIn(Cells[0])[0];
-			const std::string TypeText = CodeIn(Cells[1]).empty() ? Cells[1] : CodeIn(Cells[1])[0];
-			EXPECT_THAT(Cells[1], testing::AnyOf(testing::StartsWith("given: "), testing::StartsWith("chosen: ")));
-			const auto Type = std::find_if(Declarations.begin(), Declarations.end(), [&TypeText](const FCompanionDeclaration& Each) { return Each.Text == TypeText; });
-			const std::string Prefix = Header + " " + (Type != Declarations.end() ? Type->Type : "?") + ": ";
-			Listed.insert(Prefix + TypeText);
-			for (const std::string& Text : CodeIn(Cells[2] + Cells[3]))
-			{
-				EXPECT_TRUE(Listed.insert(Prefix + Text).second) << Text << " is listed twice";
-			}
+			EXPECT_TRUE(Listed.insert(Name.Header + " " + Name.Type + ": " + Name.Text).second) << Name.Text << " is listed twice";
 		}
 		return Listed;
 	}
@@ -188,16 +188,15 @@ TEST(CompanionContract, ListsWhatTheModuleTakesFromTheCompanionsAsItIsDeclared)
 	const FTemporaryFolder Folder;
 	const fs::path MarkedFolder = Folder.GetNative("Marked");
 	const FDeclarations Declarations = ReadCompanionHeaders(MarkedFolder);
-	ExpectSame(ReadListed(Declarations), FindNeeds(ReadModule(), Declarations, MarkedFolder));
+	ExpectSame(ReadListed(), FindNeeds(ReadModule(), Declarations, MarkedFolder));
 }
 
 TEST(CompanionContract, ListsEveryHeaderThatTheModuleIncludes)
 {
 	FNames Listed;
-	for (const std::vector<std::string>& Cells : ReadTables("| Header | Type | Given | Chosen | For |"))
+	for (const FExpectedName& Name : ReadExpected())
 	{
-		const std::vector<std::string> Header = CodeIn(Cells[0]);
-		Listed.insert(Header.begin(), Header.end());
+		Listed.insert(Name.Header);
 	}
 	FNames Included;
 	for (const fs::path& Source : SourceText::FindSources(ModuleFolder))
@@ -215,6 +214,24 @@ TEST(CompanionContract, ListsEveryHeaderThatTheModuleIncludes)
 	}
 	EXPECT_GT(Included.size(), 20u);
 	EXPECT_EQ(Without(Included, Listed), "");
+}
+
+TEST(CompanionContract, TellsOfGivenNamesWhichPartsAreGiven)
+{
+	const std::vector<FExpectedName> Names = ReadExpected();
+	size_t NumParts = 0;
+	for (const std::vector<std::string>& Cells : ReadTables("| Declaration | Given parts |"))
+	{
+		for (const std::string& Listed : CodeIn(Cells[0]))
+		{
+			const auto Name = std::find_if(Names.begin(), Names.end(), [&Listed](const FExpectedName& Each) { return Each.GetName() == Listed; });
+			ASSERT_NE(Name, Names.end()) << Listed << " is in none of the other tables";
+			EXPECT_TRUE(Name->bGiven) << Listed;
+			EXPECT_THAT(Name->GivenParts, testing::Each(testing::AnyOf("base class", "parameters", "result", "static"))) << Listed;
+			NumParts += Name->GivenParts.size();
+		}
+	}
+	EXPECT_GT(NumParts, 15u);
 }
 
 TEST(CompanionContract, ListsWhatTheModuleNamesInTexts)

@@ -9,7 +9,7 @@
 
 using testing::ElementsAre;
 
-namespace
+namespace ConfiguratorCreationTest
 {
 	const FOutcome Created{"Success Configuration Creation", "", SNotificationItem::CS_Success, 7.0f};
 	const FOutcome Cancelled{"Cancelled Configuration Creation", "", SNotificationItem::CS_Fail, 7.0f};
@@ -38,6 +38,8 @@ namespace
 		return ToUtf8(Question.Fields[TEXT("Path")]) + "/" + ToUtf8(Question.Fields[TEXT("Name")]);
 	}
 }
+
+using namespace ConfiguratorCreationTest;
 
 class ConfiguratorCreation : public FConfiguratorTest
 {

@@ -12,7 +12,7 @@ using testing::Contains;
 using testing::ElementsAre;
 using testing::Not;
 
-namespace
+namespace ConfiguratorMenuTest
 {
 	const char* const TwoConfigurators = R"({"name": "Tower"}, {"name": "Loft"})";
 
@@ -61,6 +61,8 @@ namespace
 	}
 }
 
+using namespace ConfiguratorMenuTest;
+
 /** The context menu of configurator data assets in the content browser. */
 class ConfiguratorMenu : public FConfiguratorTest
 {
@@ -77,7 +79,7 @@ TEST_F(ConfiguratorMenu, HasThreeEntriesInOneSection)
 	{
 		if (ToUtf8(Entry.Name).starts_with("ConfiguratorDataAsset_"))
 		{
-			EXPECT_TRUE(LastSection.IsNone() || Entry.Section == LastSection);
+			EXPECT_TRUE(LastSection.IsNone() || Entry.Section == LastSection) << "all entries stand in one section";
 			LastSection = Entry.Section;
 			EXPECT_EQ(ToUtf8(Entry.IconStyle) + " " + ToUtf8(Entry.IconKey), "VelmorantEditorStyle Velmorant.Editor.LogoGrey");
 			EXPECT_TRUE(Entry.bEnabled);

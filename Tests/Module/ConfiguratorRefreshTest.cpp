@@ -16,7 +16,7 @@
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-namespace
+namespace ConfiguratorRefreshTest
 {
 	/** Looks, when the service is asked, whether somebody listens for the answer already. */
 	class FListenersWhenAsked : public FOutputDevice
@@ -47,6 +47,8 @@ namespace
 		return UVelmorantEditorUtilitiesLibrary::UpdateConfiguratorDataAssetInfo(Asset);
 	}
 }
+
+using namespace ConfiguratorRefreshTest;
 
 class ConfiguratorRefresh : public FConfiguratorTest
 {

@@ -10,7 +10,7 @@
 
 using testing::IsEmpty;
 
-namespace
+namespace DeveloperInfoPanelTest
 {
 	/** The first bytes of a PNG file, up to its size. */
 	std::string PngOf(uint8 Width, uint8 Height)
@@ -40,6 +40,8 @@ namespace
 
 	const FLinearColor Tint(0.5f, 0.25f, 0.0f, 0.5f);
 }
+
+using namespace DeveloperInfoPanelTest;
 
 class DeveloperInfoPanel : public FToolkitTest
 {

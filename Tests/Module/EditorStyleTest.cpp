@@ -57,56 +57,6 @@ protected:
 	}
 };
 
-TEST_F(EditorStyle, RegistersItsBrushesInOrder)
-{
-	const char* const Expected[] = {
-		"Velmorant.Editor.Logo /Vlm_Color_128x.png 20x20",
-		"Velmorant.Editor.LogoGrey /Vlm_Grey_128x.png 20x20",
-		"Velmorant.Editor.LogoRamp /Vlm_Ramp_128x.png 20x20",
-		"Velmorant.Editor.Banner /Vlm_Banner_small.png 421x75",
-		"ClassThumbnail.VlmInteractiveSpot /ClassIcons/Class_InteractiveSpot.png 40x40",
-		"ClassIcon.VlmInteractiveSpot /ClassIcons/Icon_InteractiveSpot.png 16x16",
-		"ClassThumbnail.UnitVolumesManager /ClassIcons/Class_UnitVolumesManager.png 40x40",
-		"ClassIcon.UnitVolumesManager /ClassIcons/Icon_UnitVolumesManager.png 16x16",
-		"ClassThumbnail.UnitVolumeActor /ClassIcons/Class_UnitVolumeActor.png 40x40",
-		"ClassIcon.UnitVolumeActor /ClassIcons/Icon_UnitVolumeActor.png 16x16",
-		"ClassThumbnail.CuttingSectionScene /ClassIcons/Class_CuttingSection.png 40x40",
-		"ClassIcon.CuttingSectionScene /ClassIcons/Icon_CuttingSection.png 16x16",
-		"ClassThumbnail.VelmorantLevelConfiguration /ClassIcons/Class_LevelConfiguration.png 40x40",
-		"ClassIcon.VelmorantLevelConfiguration /ClassIcons/Icon_LevelConfiguration.png 16x16",
-		"ClassThumbnail.VelmorantWalkCharacter /ClassIcons/Class_WalkChar.png 40x40",
-		"ClassIcon.VelmorantWalkCharacter /ClassIcons/Icon_WalkChar.png 16x16",
-		"ClassThumbnail.VelmorantOrbitalCharacter /ClassIcons/Class_OrbitalChar.png 40x40",
-		"ClassIcon.VelmorantOrbitalCharacter /ClassIcons/Icon_OrbitalChar.png 16x16",
-		"ClassThumbnail.VelmorantPanoramicCharacter /ClassIcons/Class_PanoramicChar.png 40x40",
-		"ClassIcon.VelmorantPanoramicCharacter /ClassIcons/Icon_PanoramicChar.png 16x16",
-		"ClassThumbnail.VelmorantLevelVariantSetsActor /ClassIcons/Class_LevelVariant.png 40x40",
-		"ClassIcon.VelmorantLevelVariantSetsActor /ClassIcons/Icon_LevelVariant.png 16x16",
-		"ClassThumbnail.VelmorantConfiguratorDataAsset /ClassIcons/Class_ConfiguratorDataAsset.png 40x40",
-		"ClassThumbnail.VelmorantConfiguratorItemOverride /ClassIcons/Class_ConfiguratorItemOverrideAsset.png 40x40",
-		"ClassThumbnail.VelmorantMapsLinkerConfig /ClassIcons/Class_MapLinker.png 40x40",
-		"ClassIcon.VelmorantMapsLinkerConfig /ClassIcons/Icon_MapLinker.png 16x16",
-		"ClassThumbnail.MinimapLevelController /ClassIcons/Class_MinimapCapture.png 40x40",
-		"ClassIcon.MinimapLevelController /ClassIcons/Icon_MinimapCapture.png 16x16",
-		"ClassThumbnail.MinimapFloorAnchor /ClassIcons/Class_MinimapCapture.png 40x40",
-		"ClassIcon.MinimapFloorAnchor /ClassIcons/Icon_MinimapCapture.png 16x16",
-		"ClassThumbnail.MinimapConfigAsset /ClassIcons/Class_MinimapConfiguration.png 40x40",
-		"ClassIcon.MinimapConfigAsset /ClassIcons/Icon_MinimapConfiguration.png 16x16",
-		"ClassThumbnail.VelmorantUIStyleConfiguration /ClassIcons/Class_UIStyleConfiguration.png 40x40",
-		"ClassThumbnail.UnitVolumeAction /ClassIcons/Class_VelmorantObject.png 40x40",
-		"ClassThumbnail.VlmISPActionBase /ClassIcons/Class_VelmorantObject.png 40x40",
-		"ClassThumbnail.VelmorantViewConfig /ClassIcons/Class_VelmorantObject.png 40x40",
-		"Velmorant.Editor.LogoGrey /Vlm_Grey_128x.png 20x20",
-	};
-	StartEditor();
-	std::vector<std::string> Brushes;
-	for (const FHostBrushRegistration& Registration : GetBrushes())
-	{
-		Brushes.push_back(Describe(Registration));
-	}
-	EXPECT_THAT(Brushes, testing::ElementsAreArray(Expected));
-}
-
 TEST_F(EditorStyle, RepeatsOneKeyAndTheLaterBrushCounts)
 {
 	StartEditor();

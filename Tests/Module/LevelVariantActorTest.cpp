@@ -17,7 +17,7 @@
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-namespace
+namespace LevelVariantActorTest
 {
 	const FOutcome Found{"Found LevelVariant at Current Level", "Updated current Actor with Configurator Data", SNotificationItem::CS_Success, 7.0f};
 	const FOutcome NoActor{"Failed Configuration Create LevelVariantActor", "Couldn't create a LevelVariantActor in current level", SNotificationItem::CS_Fail, 7.0f};
@@ -45,6 +45,8 @@ namespace
 	}
 }
 
+using namespace LevelVariantActorTest;
+
 class LevelVariantActor : public FConfiguratorTest
 {
 protected:
@@ -57,21 +59,6 @@ protected:
 		return Asset;
 	}
 };
-
-TEST_F(LevelVariantActor, IsSpawnedAboveTheOriginAndTakesTheData)
-{
-	StartEditor();
-	UVelmorantConfiguratorDataAsset* Asset = MakeDataAsset(TEXT("Tower"));
-	Place(Asset);
-
-	ASSERT_EQ(FindActors().size(), 1u);
-	const AVelmorantLevelVariantSetsActor* Actor = FindActors()[0];
-	EXPECT_EQ(Actor->GetActorLocation(), FVector(0.0, 0.0, 500.0));
-	EXPECT_EQ(Actor->GetActorRotation(), FRotator(0.0, 0.0, 0.0));
-	EXPECT_EQ(ToUtf8(Actor->LevelVariantSets.ToString()), "/Game/Towers/Sets.Tower");
-	EXPECT_EQ(Actor->ConfiguratorData, Asset);
-	EXPECT_THAT(TakeOutcomes(), IsEmpty()) << "selection and camera tell enough";
-}
 
 TEST_F(LevelVariantActor, IsSelectedAloneAndInView)
 {

@@ -14,7 +14,7 @@
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-namespace
+namespace LevelVariantsTest
 {
 	const FOutcome Created{"Success Configuration Create LevelVariantSet", "", SNotificationItem::CS_Success, 7.0f};
 	const FOutcome Adopted{"Success Configuration Assigned Existing Asset", "It exits an LevelVariantSets with the suffix and had been assigned to configurator", SNotificationItem::CS_Success, 7.0f};
@@ -39,6 +39,8 @@ namespace
 		UVelmorantEditorUtilitiesLibrary::CreateVariantSetFromConfigurator(Asset);
 	}
 }
+
+using namespace LevelVariantsTest;
 
 class LevelVariants : public FConfiguratorTest
 {
@@ -79,27 +81,6 @@ TEST_F(LevelVariants, MakesASetPerRoomAndGroupAndAVariantPerProduct)
 	EXPECT_FALSE(Folder.Exists("Project/Content/Towers")) << "saving is the designer's";
 }
 
-TEST_F(LevelVariants, AddsNothingTheSecondTime)
-{
-	StartEditor();
-	UVelmorantConfiguratorDataAsset* Asset = MakeDataAsset(TEXT("Tower"), {MakeGroup(TEXT("Fronts"), {TEXT("Oak"), TEXT("Lacquer")})});
-	Generate(Asset);
-	const std::vector<std::string> First = DescribeVariants(Asset);
-	Generate(Asset);
-	EXPECT_THAT(TakeOutcomes(), ElementsAre(Created, Updated));
-	EXPECT_EQ(DescribeVariants(Asset), First);
-}
-
-TEST_F(LevelVariants, AppendsWhatIsNewAndKeepsWhatIsGone)
-{
-	StartEditor();
-	UVelmorantConfiguratorDataAsset* Asset = MakeDataAsset(TEXT("Tower"), {MakeGroup(TEXT("Fronts"), {TEXT("Oak"), TEXT("Lacquer")}), MakeGroup(TEXT("Worktop"), {TEXT("Stone")})});
-	Generate(Asset);
-	Asset->ConfiguratorUnit.Rooms[0].Groups = {MakeGroup(TEXT("Lights"), {TEXT("Spot")}), MakeGroup(TEXT("Fronts"), {TEXT("Steel"), TEXT("Lacquer")})};
-	Generate(Asset);
-	EXPECT_THAT(DescribeVariants(Asset), ElementsAre("Kitchen - Fronts: Oak, Lacquer, Steel", "Kitchen - Worktop: Stone", "Kitchen - Lights: Spot"));
-}
-
 TEST_F(LevelVariants, RewritesTheTextOfASetAndKeepsThatOfAVariant)
 {
 	StartEditor();
@@ -108,14 +89,6 @@ TEST_F(LevelVariants, RewritesTheTextOfASetAndKeepsThatOfAVariant)
 	Asset->ConfiguratorUnit.Rooms[0].Groups = {MakeGroup(TEXT("FRONTS"), {TEXT("OAK")})};
 	Generate(Asset);
 	EXPECT_THAT(DescribeVariants(Asset), ElementsAre("Kitchen - FRONTS: oak"));
-}
-
-TEST_F(LevelVariants, AProductNamedTwiceInAGroupIsOneVariant)
-{
-	StartEditor();
-	UVelmorantConfiguratorDataAsset* Asset = MakeDataAsset(TEXT("Tower"), {MakeGroup(TEXT("Fronts"), {TEXT("Oak"), TEXT("Steel"), TEXT("Oak"), TEXT("OAK"), TEXT(""), TEXT("")}), MakeGroup(TEXT("Worktop"), {TEXT("Oak")})});
-	Generate(Asset);
-	EXPECT_THAT(DescribeVariants(Asset), ElementsAre("Kitchen - Fronts: Oak, Steel, ", "Kitchen - Worktop: Oak"));
 }
 
 TEST_F(LevelVariants, GroupsWithTheSameCombinedNameShareASet)
@@ -265,14 +238,6 @@ TEST_F(LevelVariants, WhoListensToTheSetsMayChangeTheRoomsMeanwhile)
 	Generate(Asset);
 	FCoreUObjectDelegates::OnObjectModified.Remove(Listener);
 	EXPECT_THAT(DescribeVariants(Asset), ElementsAre("Kitchen - Fronts: Oak, Steel", "Kitchen - Worktop: Stone"));
-}
-
-TEST_F(LevelVariants, BlanksInTheNameBecomeUnderscores)
-{
-	StartEditor();
-	UVelmorantConfiguratorDataAsset* Asset = MakeDataAsset(TEXT("Türmchen  Ñ - A"), {});
-	Generate(Asset);
-	EXPECT_EQ(ToUtf8(Asset->LevelVariantSets.ToString()), "/Game/Towers/LevelVariant_Türmchen__Ñ_-_A.LevelVariant_Türmchen__Ñ_-_A");
 }
 
 TEST_F(LevelVariants, ANameThatNoAssetCanHaveEndsInTwoFailures)

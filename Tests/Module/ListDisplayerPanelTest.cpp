@@ -16,7 +16,7 @@
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-namespace
+namespace ListDisplayerPanelTest
 {
 	/** Two towers with units, not in the order of their numbers, and two configurators, of which the second applies to both towers. */
 	const char* const Data = R"(
@@ -31,6 +31,8 @@ namespace
 	const auto UnitsOfA = ElementsAre("10 A-1 First", "20 A-2 Second");
 	const auto Configurators = ElementsAre("-1 HT-B Brisa", "-1 HT-A Torre Alba", "-1 HT-B Brisa");
 }
+
+using namespace ListDisplayerPanelTest;
 
 class ListDisplayerPanel : public FToolkitTest
 {

@@ -16,7 +16,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 
-namespace
+namespace LoginPanelTest
 {
 	const char* const SavedUser = "UserConfig/VelmorantUser.json";
 
@@ -31,6 +31,8 @@ namespace
 		Panel.Type(TEXT("UserPassword"), Password);
 	}
 }
+
+using namespace LoginPanelTest;
 
 class LoginPanel : public FToolkitTest
 {

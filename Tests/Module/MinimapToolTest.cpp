@@ -15,7 +15,7 @@
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-namespace
+namespace MinimapToolTest
 {
 	const FWidgetTransform Moved(FVector2D(120.0, -40.0), FVector2D(0.5, 2.0), FVector2D(3.0, 4.0), 30.0f);
 
@@ -27,6 +27,8 @@ namespace
 		ASSERT_NE(Property->ImportText_InContainer(*Value, Actor, Actor, PPF_None), nullptr);
 	}
 }
+
+using namespace MinimapToolTest;
 
 class MinimapTool : public FToolkitTest
 {
@@ -79,22 +81,6 @@ TEST_F(MinimapTool, LooksAtTheLevelAsItIsMade)
 	EXPECT_EQ(Tool->GetActiveMinimapFloor(), -1);
 }
 
-TEST_F(MinimapTool, OffersUpToOneAboveTheNumberOfFloors)
-{
-	const struct
-	{
-		int32 NumFloors;
-		int32 MaxFloor;
-	} Cases[] = {{-1, 0}, {0, 0}, {1, 2}, {40, 41}};
-	for (const auto& Case : Cases)
-	{
-		SCOPED_TRACE(Case.NumFloors);
-		AMinimapLevelController* Controller = SpawnController(Case.NumFloors);
-		EXPECT_THAT(FloorRange(*MakePanel(&GetWorld()).Get<UVlmEWMinimapTool>()), ElementsAre(1, Case.MaxFloor));
-		Controller->Destroy();
-	}
-}
-
 TEST_F(MinimapTool, TellsALevelWithoutController)
 {
 	FTestPanel Panel = MakePanel(&GetWorld());
@@ -135,17 +121,6 @@ TEST_F(MinimapTool, LooksAfterItsBlueprintWasInitialized)
 {
 	FTestPanel Panel(PanelLayouts::MinimapTool, {TEXT("OnInitialized"), TEXT("OnScanMinimapLevel")}, &GetWorld());
 	EXPECT_THAT(Panel.TakeEvents(), ElementsAre("OnInitialized", "OnScanMinimapLevel"));
-}
-
-TEST_F(MinimapTool, SwitchesOnlyToFloorsThatThereAre)
-{
-	SpawnController(2);
-	const FTestPanel Panel = MakePanel(&GetWorld());
-	UVlmEWMinimapTool* Tool = Panel.Get<UVlmEWMinimapTool>();
-	EXPECT_TRUE(Tool->SetActiveMinimapFloor(1));
-	EXPECT_FALSE(Tool->SetActiveMinimapFloor(2));
-	EXPECT_FALSE(Tool->SetActiveMinimapFloor(-1));
-	EXPECT_EQ(Tool->GetActiveMinimapFloor(), 1);
 }
 
 TEST_F(MinimapTool, PlacesTheActiveFloorAndDoesNothingElse)

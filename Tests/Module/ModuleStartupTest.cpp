@@ -26,7 +26,7 @@ using testing::Contains;
 using testing::ElementsAre;
 using testing::Not;
 
-namespace
+namespace ModuleStartupTest
 {
 	const char* const CheckedLine = "Log: Checked UnitVolume DefaultChannelResponses and profile exist.";
 
@@ -69,6 +69,8 @@ namespace
 		return Lines;
 	}
 }
+
+using namespace ModuleStartupTest;
 
 class ModuleStartup : public FToolkitTest
 {
@@ -128,29 +130,6 @@ TEST_F(ModuleStartup, TellsOfItsLifeInTheLogAsWarnings)
 	EXPECT_THAT(TakeModuleLog(), ElementsAre("Warning: LogVelmorantProEditor module has been unloaded"));
 }
 
-TEST_F(ModuleStartup, RegistersFourCommandsWithTheirTexts)
-{
-	StartEditor();
-	const TSharedPtr<FBindingContext> Context = FInputBindingManager::Get().GetContextByName("VelmorantProEdCommands");
-	ASSERT_TRUE(Context.IsValid());
-	EXPECT_EQ(ToUtf8(Context->GetContextDesc()), "VelmorantProEdCommands Settings");
-	EXPECT_EQ(ToUtf8(*FTextInspector::GetKey(Context->GetContextDesc())), "VelmorantProEdCommands_Desc");
-	EXPECT_EQ(ToUtf8(Context->GetStyleSetName()), "VelmorantEditorStyle");
-
-	std::vector<std::string> Texts;
-	TArray<TSharedPtr<FUICommandInfo>> Commands;
-	FInputBindingManager::Get().GetCommandInfosFromContext("VelmorantProEdCommands", Commands);
-	for (const TSharedPtr<FUICommandInfo>& Command : Commands)
-	{
-		EXPECT_EQ(Command->GetUserInterfaceType(), EUserInterfaceActionType::Button);
-		EXPECT_TRUE(Command->GetInputText().IsEmpty());
-		EXPECT_EQ(ToUtf8(*FTextInspector::GetNamespace(Command->GetDescription())), "FVelmorantProEditor");
-		EXPECT_EQ(ToUtf8(*FTextInspector::GetKey(Command->GetDescription())), ToUtf8(Command->GetCommandName()) + "_ToolTip");
-		Texts.push_back(ToUtf8(Command->GetCommandName()) + ": " + ToUtf8(Command->GetLabel()) + " | " + ToUtf8(Command->GetDescription()));
-	}
-	EXPECT_THAT(Texts, ElementsAre("VelmorantCommand_OpenMenu: Register User | Open Velmorant Options", "VelmorantPro_OpenProSettings: Velmorant Pro Settings | Open Velmorant Pro Settings panel", "VelmorantPro_OpenProUISettings: Velmorant Pro UI Settings | Open Velmorant Pro UI Settings panel", "VelmorantSDK_OpenSDKSettings: Velmorant SDK Settings | Open Velmorant SDK Settings panel"));
-}
-
 TEST_F(ModuleStartup, GroupsTheRuntimeClassesCategoriesInOneDetailsSection)
 {
 	StartEditor();
@@ -183,33 +162,6 @@ TEST_F(ModuleStartup, CustomizesTheDetailsOfColorsAndIcons)
 	EXPECT_THAT(ToUtf8(HostPropertyEditor::GetCustomizedTypes()), ElementsAre("VelmorantColorHandler", "FontIconHandler"));
 	EXPECT_EQ(HostPropertyEditor::GetNumChangeNotes(), 1);
 	EXPECT_TRUE(HostPropertyEditor::MakeCustomization("FontIconHandler").IsValid());
-}
-
-TEST_F(ModuleStartup, OffersItsActorsForPlacement)
-{
-	StartEditor();
-	const FPlacementCategoryInfo* Category = IPlacementModeModule::Get().GetRegisteredPlacementCategory("VelmorantActors");
-	ASSERT_NE(Category, nullptr);
-	EXPECT_EQ(ToUtf8(Category->DisplayName), "Velmorant Actors");
-	EXPECT_EQ(ToUtf8(Category->DisplayIcon.GetStyleSetName()) + " " + ToUtf8(Category->DisplayIcon.GetStyleName()), "VelmorantEditorStyle Velmorant.Editor.LogoRamp");
-
-	const TArray<TSharedRef<FPlaceableItem>> Items = HostPlacement::GetItems("VelmorantActors");
-	const TSharedRef<FPlaceableItem>* SunSky = Items.FindByPredicate([](const TSharedRef<FPlaceableItem>& Item) { return ToUtf8(Item->DisplayName) == "Sun Sky Velmorant"; });
-	ASSERT_NE(SunSky, nullptr);
-	EXPECT_EQ(ToUtf8((*SunSky)->AssetData.PackageName), "/VelmorantPro/Features/SunAndLights/SunSkyVlm");
-	EXPECT_EQ(ToUtf8((*SunSky)->AssetData.PackagePath), "/VelmorantPro/Features/SunAndLights");
-	EXPECT_EQ(ToUtf8((*SunSky)->AssetData.AssetName), "SunSkyVlm");
-	EXPECT_EQ(ToUtf8((*SunSky)->AssetData.AssetClassPath.ToString()), "/Script/Engine.Blueprint");
-	EXPECT_EQ(ToUtf8((*SunSky)->Factory->GetClass()->GetName()), "ActorFactoryBlueprint");
-	EXPECT_EQ(ToUtf8(*FTextInspector::GetKey((*SunSky)->DisplayName)), "SunSkyVelmorant");
-	EXPECT_FALSE((*SunSky)->SortOrder.IsSet());
-	EXPECT_FALSE((*SunSky)->AssetTypeColorOverride.IsSet());
-	EXPECT_EQ(Category->SortOrder, 35) << "below the engine's own";
-	EXPECT_EQ(ToUtf8(Category->UniqueHandle), "VelmorantActors");
-	EXPECT_EQ(ToUtf8(*FTextInspector::GetKey(Category->DisplayName)), "VelmorantActors");
-	EXPECT_EQ(ToUtf8((*SunSky)->ClassThumbnailBrushOverride), "SunPosition.ModesThumbnail");
-	EXPECT_EQ(ToUtf8((*SunSky)->ClassIconBrushOverride), "SunPosition.ModesIcon");
-	EXPECT_EQ(Items.Num(), 12) << "the toolkit's own actors are missing";
 }
 
 TEST_F(ModuleStartup, OffersActorsThatCanBePlacedAndAreThereAgainInTheSavedLevel)

@@ -19,7 +19,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-namespace
+namespace PanelInterfaceTest
 {
 	/** The condition of the assertion that the call fails; empty when it does not. */
 	template<typename CallT>
@@ -92,6 +92,8 @@ namespace
 		return Members;
 	}
 }
+
+using namespace PanelInterfaceTest;
 
 class PanelInterface : public FToolkitTest
 {

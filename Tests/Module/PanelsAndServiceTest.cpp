@@ -16,7 +16,7 @@ using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-namespace
+namespace PanelsAndServiceTest
 {
 	/** Ada has Harbor Tower with two towers and Quay View with a pier; Eve has a project of her own. Members go first. */
 	std::string TwoAccounts(const std::string& Members = "")
@@ -33,6 +33,8 @@ namespace
 
 	const char* const ExpiredLine = "Warning: The login is not valid any more; sign in again.";
 }
+
+using namespace PanelsAndServiceTest;
 
 /** What the service answers late, to somebody else, or not at all. */
 class PanelsAndService : public FToolkitTest

@@ -23,7 +23,7 @@ using namespace SelectorEvents;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-namespace
+namespace ProjectSelectorTest
 {
 	const char* const GameIni = "Config/DefaultGame.ini";
 
@@ -32,6 +32,8 @@ namespace
 		return std::string("[/Script/VelmorantSDK.VelmorantSDKSettings]\nApiKey=") + ApiKey + "\n";
 	}
 }
+
+using namespace ProjectSelectorTest;
 
 class ProjectSelector : public FToolkitTest
 {

@@ -303,7 +303,7 @@ TEST_F(UndoOfOperations, AssignedUnitsGoBackAlsoWhereAVolumeIsGone)
 	EXPECT_EQ(Describe(), "3 A-2, 7 A-1");
 	SaveAndRestart(Map);
 	TActorIterator<AUnitVolumeActor> Volume(GetWorld());
-	ASSERT_TRUE(Volume);
+	ASSERT_TRUE(Volume) << "the saved level has a volume";
 	EXPECT_EQ(Volume->UniqueIdentifier.UnitID, 3);
 	++Volume;
 	EXPECT_FALSE(Volume) << "the other one was destroyed";

@@ -72,18 +72,6 @@ protected:
 	int32 NumAnswers = 0;
 };
 
-TEST_F(UnitVolumeDuplication, TellsTheVolumesThatAreAlikeOrAnEmptyList)
-{
-	EXPECT_THAT(Check(), IsEmpty()) << "no volumes";
-	Spawn(TEXT("a"), 1, TEXT("A1"));
-	Spawn(TEXT("b"), 2, TEXT("B1"));
-	GetWorld().SpawnActor<AActor>();
-	EXPECT_THAT(Check(), IsEmpty());
-	Spawn(TEXT("c"), 2, TEXT("b1"));
-	Spawn(TEXT("d"), 1, TEXT("A1"));
-	EXPECT_THAT(Check(), ElementsAre("A1: a d", "B1: b c"));
-}
-
 TEST_F(UnitVolumeDuplication, TellsTheSameAgainInNewItems)
 {
 	Spawn(TEXT("a"), 1, TEXT("A1"));

@@ -24,7 +24,7 @@ using testing::Contains;
 using testing::ElementsAre;
 using testing::StartsWith;
 
-namespace
+namespace WithoutPersonTest
 {
 	const char* const MissingLine =
 		"Warning: Notification not shown: Velmorant: Missing UnitVolume Profile: The UnitVolume profile was not found. This profile is required for "
@@ -52,6 +52,8 @@ namespace
 		{"unattended commandlet", TEXT(" -run=Cook -unattended -nullrhi"), false, false, true, false},
 	};
 }
+
+using namespace WithoutPersonTest;
 
 class WithoutPerson : public FConfiguratorTest
 {
@@ -129,7 +131,7 @@ TEST_F(WithoutPerson, TheEditorSaysWhatItIs)
 		EXPECT_EQ(FApp::IsUnattended(), Start.bUnattended);
 		EXPECT_EQ(FApp::CanEverRender(), Start.bDraws);
 		EXPECT_EQ(FSlateNotificationManager::Get().AreNotificationsAllowed(), Start.bAllowNotifications);
-		EXPECT_TRUE(GIsEditor);
+		EXPECT_TRUE(GIsEditor) << "commandlets run in the editor, too";
 		FVelmorantEditorStyle::ReloadTextures();
 		EXPECT_EQ(HostSlate::GetTextureReloads(), Start.bDraws ? 1 : 0);
 	}

@@ -119,7 +119,7 @@ namespace ReflectionSweep
 			if (Type->IsA<UClass>())
 			{
 				UClass* Class = static_cast<UClass*>(Type);
-				EXPECT_TRUE(Class->GetSuperClass() || Class == UObject::StaticClass());
+				EXPECT_TRUE(Class->GetSuperClass() || Class == UObject::StaticClass()) << "has no super class";
 				EXPECT_TRUE(Class->IsChildOf(UObject::StaticClass()));
 				EXPECT_NE(Class->GetDefaultObject(), nullptr);
 				CheckProperties(Class);

@@ -10,43 +10,40 @@
 
 namespace DesktopSecrets
 {
-	namespace
+	const char* const ProgramName = "secret-tool";
+	constexpr std::chrono::seconds TimeLimit(2); // the editor stands still meanwhile
+
+	FString Describe(const ProgramCall::FAnswer& Answer)
 	{
-		const char* const ProgramName = "secret-tool";
-		constexpr std::chrono::seconds TimeLimit(2); // the editor stands still meanwhile
-
-		FString Describe(const ProgramCall::FAnswer& Answer)
+		switch (Answer.ExitStatus)
 		{
-			switch (Answer.ExitStatus)
+			case ProgramCall::FAnswer::NotStarted:
+				return TEXT("secret-tool could not be started");
+			case ProgramCall::FAnswer::TimedOut:
+				return FString::Printf(TEXT("secret-tool gave no answer within %d seconds"), static_cast<int32>(TimeLimit.count()));
+			default:
 			{
-				case ProgramCall::FAnswer::NotStarted:
-					return TEXT("secret-tool could not be started");
-				case ProgramCall::FAnswer::TimedOut:
-					return FString::Printf(TEXT("secret-tool gave no answer within %d seconds"), static_cast<int32>(TimeLimit.count()));
-				default:
-				{
-					const std::string FirstLine = Answer.Errors.substr(0, Answer.Errors.find('\n'));
-					return FString::Printf(TEXT("secret-tool ended with status %d"), Answer.ExitStatus) + (FirstLine.empty() ? FString() : FString(TEXT(": ")) + UTF8_TO_TCHAR(FirstLine.c_str()));
-				}
+				const std::string FirstLine = Answer.Errors.substr(0, Answer.Errors.find('\n'));
+				return FString::Printf(TEXT("secret-tool ended with status %d"), Answer.ExitStatus) + (FirstLine.empty() ? FString() : FString(TEXT(": ")) + UTF8_TO_TCHAR(FirstLine.c_str()));
 			}
 		}
+	}
 
-		/** @return whether it ended with status 0 */
-		bool Ask(std::vector<std::string> Words, const std::string& Input, ProgramCall::FAnswer& OutAnswer, FString& OutReason)
+	/** @return whether it ended with status 0 */
+	bool Ask(std::vector<std::string> Words, const std::string& Input, ProgramCall::FAnswer& OutAnswer, FString& OutReason)
+	{
+		if (!IsThere(OutReason))
 		{
-			if (!IsThere(OutReason))
-			{
-				return false;
-			}
-			Words.insert(Words.begin(), ProgramCall::Find(ProgramName));
-			Words.insert(Words.end(), {"application", "velmorant", "item", "sign-in"}); // by which the store finds it again
-			OutAnswer = ProgramCall::Run(Words, Input, TimeLimit);
-			if (OutAnswer.ExitStatus != 0)
-			{
-				OutReason = Describe(OutAnswer);
-			}
-			return OutAnswer.ExitStatus == 0;
+			return false;
 		}
+		Words.insert(Words.begin(), ProgramCall::Find(ProgramName));
+		Words.insert(Words.end(), {"application", "velmorant", "item", "sign-in"}); // by which the store finds it again
+		OutAnswer = ProgramCall::Run(Words, Input, TimeLimit);
+		if (OutAnswer.ExitStatus != 0)
+		{
+			OutReason = Describe(OutAnswer);
+		}
+		return OutAnswer.ExitStatus == 0;
 	}
 
 	bool IsThere(FString& OutReason)

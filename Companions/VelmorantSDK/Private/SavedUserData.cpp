@@ -15,73 +15,70 @@
 
 namespace SavedUserData
 {
-	namespace
+	// Members of the file. The first two are there when the file itself keeps them; what it keeps is newer than what the store does.
+	const char* const UserNameMember = "userName";
+	const char* const PasswordMember = "password";
+	const char* const InSecretStoreMember = "inSecretStore"; // whether there is an item in the store, and be it an old one
+
+	FString GetPath()
 	{
-		// Members of the file. The first two are there when the file itself keeps them; what it keeps is newer than what the store does.
-		const char* const UserNameMember = "userName";
-		const char* const PasswordMember = "password";
-		const char* const InSecretStoreMember = "inSecretStore"; // whether there is an item in the store, and be it an old one
+		return FPaths::Combine(FPlatformProcess::UserSettingsDir(), TEXT("VelmorantUser.json"));
+	}
 
-		FString GetPath()
-		{
-			return FPaths::Combine(FPlatformProcess::UserSettingsDir(), TEXT("VelmorantUser.json"));
-		}
+	/** Neither throws nor tells where the text is wrong: it may be a password. */
+	nlohmann::json Parse(const std::string& Text)
+	{
+		return nlohmann::json::parse(Text, nullptr, false);
+	}
 
-		/** Neither throws nor tells where the text is wrong: it may be a password. */
-		nlohmann::json Parse(const std::string& Text)
-		{
-			return nlohmann::json::parse(Text, nullptr, false);
-		}
+	bool ReadFile(nlohmann::json& OutDocument)
+	{
+		FString Text;
+		const bool bRead = FPaths::FileExists(GetPath()) && FFileHelper::LoadFileToString(Text, *GetPath());
+		OutDocument = bRead ? Parse(TCHAR_TO_UTF8(*Text)) : nlohmann::json();
+		return bRead;
+	}
 
-		bool ReadFile(nlohmann::json& OutDocument)
+	bool WriteFile(const nlohmann::json& Document)
+	{
+		const std::string Text = Document.dump();
+		const TArrayView<const uint8> Bytes(reinterpret_cast<const uint8*>(Text.data()), static_cast<int32>(Text.size()));
+		const bool bSaved = FFileHelper::SaveArrayToFile(Bytes, *GetPath());
+		if (!bSaved)
 		{
-			FString Text;
-			const bool bRead = FPaths::FileExists(GetPath()) && FFileHelper::LoadFileToString(Text, *GetPath());
-			OutDocument = bRead ? Parse(TCHAR_TO_UTF8(*Text)) : nlohmann::json();
-			return bRead;
+			UE_LOG(LogVelmorantSDK, Error, TEXT("The user could not be remembered in %s."), *GetPath());
 		}
+		return bSaved;
+	}
 
-		bool WriteFile(const nlohmann::json& Document)
-		{
-			const std::string Text = Document.dump();
-			const TArrayView<const uint8> Bytes(reinterpret_cast<const uint8*>(Text.data()), static_cast<int32>(Text.size()));
-			const bool bSaved = FFileHelper::SaveArrayToFile(Bytes, *GetPath());
-			if (!bSaved)
-			{
-				UE_LOG(LogVelmorantSDK, Error, TEXT("The user could not be remembered in %s."), *GetPath());
-			}
-			return bSaved;
-		}
+	bool IsInSecretStore(const nlohmann::json& Document)
+	{
+		return Document.is_object() && Document.value(InSecretStoreMember, nlohmann::json()) == true;
+	}
 
-		bool IsInSecretStore(const nlohmann::json& Document)
+	bool Take(const nlohmann::json& Document, FVelmorantUserInformation& OutUserInformation)
+	{
+		const auto HasText = [&Document](const char* Member) { return Document.contains(Member) && Document[Member].is_string(); };
+		if (!Document.is_object() || !HasText(UserNameMember) || !HasText(PasswordMember))
 		{
-			return Document.is_object() && Document.value(InSecretStoreMember, nlohmann::json()) == true;
+			return false;
 		}
+		OutUserInformation.bRememberMe = true;
+		OutUserInformation.UserName = UTF8_TO_TCHAR(Document[UserNameMember].get<std::string>().c_str());
+		OutUserInformation.Password = UTF8_TO_TCHAR(Document[PasswordMember].get<std::string>().c_str());
+		return true;
+	}
 
-		bool Take(const nlohmann::json& Document, FVelmorantUserInformation& OutUserInformation)
+	bool LoadFromSecretStore(FVelmorantUserInformation& OutUserInformation)
+	{
+		std::string Secret;
+		FString Reason = TEXT("what it keeps is damaged");
+		const bool bLoaded = DesktopSecrets::Load(Secret, Reason) && Take(Parse(Secret), OutUserInformation);
+		if (!bLoaded)
 		{
-			const auto HasText = [&Document](const char* Member) { return Document.contains(Member) && Document[Member].is_string(); };
-			if (!Document.is_object() || !HasText(UserNameMember) || !HasText(PasswordMember))
-			{
-				return false;
-			}
-			OutUserInformation.bRememberMe = true;
-			OutUserInformation.UserName = UTF8_TO_TCHAR(Document[UserNameMember].get<std::string>().c_str());
-			OutUserInformation.Password = UTF8_TO_TCHAR(Document[PasswordMember].get<std::string>().c_str());
-			return true;
+			UE_LOG(LogVelmorantSDK, Warning, TEXT("The remembered user could not be read from the desktop's secret store: %s. Sign in again."), *Reason);
 		}
-
-		bool LoadFromSecretStore(FVelmorantUserInformation& OutUserInformation)
-		{
-			std::string Secret;
-			FString Reason = TEXT("what it keeps is damaged");
-			const bool bLoaded = DesktopSecrets::Load(Secret, Reason) && Take(Parse(Secret), OutUserInformation);
-			if (!bLoaded)
-			{
-				UE_LOG(LogVelmorantSDK, Warning, TEXT("The remembered user could not be read from the desktop's secret store: %s. Sign in again."), *Reason);
-			}
-			return bLoaded;
-		}
+		return bLoaded;
 	}
 }
 

@@ -7,40 +7,37 @@
 
 namespace JsonScriptReport
 {
-	namespace
+	const char* GetOutcomeWord(EStepOutcome Outcome)
 	{
-		const char* GetOutcomeWord(EStepOutcome Outcome)
+		switch (Outcome)
 		{
-			switch (Outcome)
-			{
-				case EStepOutcome::Done: return "done";
-				case EStepOutcome::Failed: return "failed";
-				default: return "error";
-			}
+			case EStepOutcome::Done: return "done";
+			case EStepOutcome::Failed: return "failed";
+			default: return "error";
 		}
+	}
 
-		FJson Make(const FStepEvents::FNotification& Notification)
-		{
-			return {{"title", JsonText::Make(Notification.Title)}, {"subText", JsonText::Make(Notification.SubText)}, {"state", JsonText::Make(Notification.State)},
-				{"seconds", Notification.Seconds}, {"buttons", JsonText::Make(Notification.Buttons)}};
-		}
+	FJson Make(const FStepEvents::FNotification& Notification)
+	{
+		return {{"title", JsonText::Make(Notification.Title)}, {"subText", JsonText::Make(Notification.SubText)}, {"state", JsonText::Make(Notification.State)},
+			{"seconds", Notification.Seconds}, {"buttons", JsonText::Make(Notification.Buttons)}};
+	}
 
-		FJson Make(const FStepEvents::FQuestion& Question)
-		{
-			return {{"kind", JsonText::Make(Question.Kind)}, {"message", JsonText::Make(Question.Message)}, {"choice", JsonText::Make(Question.Choice)},
-				{"unattended", Question.bUnattended}, {"fields", JsonText::Make(Question.Fields)}};
-		}
+	FJson Make(const FStepEvents::FQuestion& Question)
+	{
+		return {{"kind", JsonText::Make(Question.Kind)}, {"message", JsonText::Make(Question.Message)}, {"choice", JsonText::Make(Question.Choice)},
+			{"unattended", Question.bUnattended}, {"fields", JsonText::Make(Question.Fields)}};
+	}
 
-		template<typename EventType>
-		FJson MakeArray(const TArray<EventType>& Events)
+	template<typename EventType>
+	FJson MakeArray(const TArray<EventType>& Events)
+	{
+		FJson Array = FJson::array();
+		for (const EventType& Event : Events)
 		{
-			FJson Array = FJson::array();
-			for (const EventType& Event : Events)
-			{
-				Array.push_back(Make(Event));
-			}
-			return Array;
+			Array.push_back(Make(Event));
 		}
+		return Array;
 	}
 }
 

@@ -14,29 +14,28 @@
 
 namespace RunCommand
 {
-	namespace
+	bool CheckFiles(const FRunArguments& Arguments)
 	{
-		/** Tells what is wrong with the files that were named. */
-		bool CheckFiles(const FRunArguments& Arguments)
+		for (const FRunInput& Input : Arguments.Inputs)
 		{
-			const HostFiles::EKind Kind = Arguments.Service.IsEmpty() ? HostFiles::EKind::File : HostFiles::GetKind(Arguments.Service);
+			const HostFiles::EKind Kind = HostFiles::GetKind(Input.Path);
 			if (Kind != HostFiles::EKind::File)
 			{
-				HostProblems::Report(FPaths::ConvertRelativePathToFull(Arguments.Service), 0, Kind == HostFiles::EKind::Missing ? TEXT("there is no such data file") : TEXT("this is no ordinary file, and nothing is read from it"), TEXT("Name the file that the service answers from."));
+				HostProblems::Report(FPaths::ConvertRelativePathToFull(Input.Path), 0, Kind == HostFiles::EKind::Missing ? *Input.Missing : TEXT("this is no ordinary file, and nothing is read from it"), *Input.Remedy);
 			}
-			Refusal::PrintProblems(EExitStatus::Trouble, Arguments.bJson);
-			return HostProblems::GetAll().IsEmpty();
 		}
+		Refusal::PrintProblems(EExitStatus::Trouble, Arguments.bJson);
+		return HostProblems::GetAll().IsEmpty();
+	}
 
-		FEditorHostOptions MakeOptions(const FString& Project, const FRunArguments& Arguments)
+	FEditorHostOptions MakeOptions(const FString& Project, const FRunArguments& Arguments)
+	{
+		FEditorHostOptions Options = EditorArguments::MakeOptions(Project, Arguments.Editor);
+		for (const FRunInput& Input : Arguments.Inputs)
 		{
-			FEditorHostOptions Options = EditorArguments::MakeOptions(Project, Arguments.Editor);
-			if (!Arguments.Service.IsEmpty())
-			{
-				Options.CommandLine += FString::Printf(TEXT(" -VelmorantService=\"%s\""), *FPaths::ConvertRelativePathToFull(Arguments.Service));
-			}
-			return Options;
+			Options.CommandLine += FString::Printf(TEXT(" -%s=\"%s\""), *Input.Switch, *FPaths::ConvertRelativePathToFull(Input.Path));
 		}
+		return Options;
 	}
 
 	EExitStatus Run(const FRunArguments& Arguments)

@@ -2,10 +2,35 @@
 
 #pragma once
 
-#include "Arguments.h"
+#include "EditorArguments.h"
+#include "ExitStatus.h"
+
+/** A file that the editor reads besides the project's. */
+struct FRunInput
+{
+	FString Path;
+	FString Switch; // of the editor's command line
+	FString Missing; // half a sentence, for when it is not there
+	FString Remedy;
+};
+
+struct FRunArguments
+{
+	FString Project; // a .uproject, or a folder with one in it
+	FEditorArguments Editor;
+	FString Script;
+	TArray<FRunInput> Inputs;
+	bool bJson = false;
+};
 
 /** velmorant run: does in a project what a script says. */
 namespace RunCommand
 {
+	/** Whether all files that were named are there; tells of those that are not. */
+	bool CheckFiles(const FRunArguments& Arguments);
+
+	/** The editor that the arguments ask for. */
+	FEditorHostOptions MakeOptions(const FString& Project, const FRunArguments& Arguments);
+
 	EExitStatus Run(const FRunArguments& Arguments);
 }

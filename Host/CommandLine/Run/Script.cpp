@@ -6,117 +6,115 @@
 
 namespace Script
 {
-	namespace
+	const TCHAR* const ExpectWord = TEXT("expect");
+	const TCHAR* const NoWord = TEXT("no");
+
+	bool IsWord(const FScriptLine& Line, int32 Index, const TCHAR* Word)
 	{
-		const TCHAR* const ExpectWord = TEXT("expect");
-		const TCHAR* const NoWord = TEXT("no");
+		return Line.Words.IsValidIndex(Index) && Line.Words[Index].Text.Equals(Word);
+	}
 
-		bool IsWord(const FScriptLine& Line, int32 Index, const TCHAR* Word)
+	/** How many words of the line, from First on, are the name; 0 when they are not. */
+	int32 MatchName(const FScriptLine& Line, int32 First, const FString& Name)
+	{
+		TArray<FString> Words;
+		Name.ParseIntoArrayWS(Words);
+		for (int32 Index = 0; Index < Words.Num(); ++Index)
 		{
-			return Line.Words.IsValidIndex(Index) && Line.Words[Index].Text.Equals(Word);
-		}
-
-		/** How many words of the line, from First on, are the name; 0 when they are not. */
-		int32 MatchName(const FScriptLine& Line, int32 First, const FString& Name)
-		{
-			TArray<FString> Words;
-			Name.ParseIntoArrayWS(Words);
-			for (int32 Index = 0; Index < Words.Num(); ++Index)
+			if (!IsWord(Line, First + Index, *Words[Index]))
 			{
-				if (!IsWord(Line, First + Index, *Words[Index]))
+				return 0;
+			}
+		}
+		return Words.Num();
+	}
+
+	/** The entry with the longest matching name; null when there is none. */
+	template<typename EntryType>
+	const EntryType* FindEntry(const FScriptLine& Line, int32 First, TConstArrayView<EntryType> (*GetEntries)(const FScriptTopic&), int32& OutNumWords)
+	{
+		static const TArray<FScriptTopic> Topics = ScriptTopics::GetAll();
+		const EntryType* Best = nullptr;
+		OutNumWords = 0;
+		for (const FScriptTopic& Topic : Topics)
+		{
+			for (const EntryType& Entry : GetEntries(Topic))
+			{
+				const int32 NumWords = MatchName(Line, First, Entry.Syntax.Name);
+				if (NumWords > OutNumWords)
 				{
-					return 0;
+					Best = &Entry;
+					OutNumWords = NumWords;
 				}
 			}
-			return Words.Num();
 		}
+		return Best;
+	}
 
-		/** The entry with the longest matching name; null when there is none. */
-		template<typename EntryType>
-		const EntryType* FindEntry(const FScriptLine& Line, int32 First, TConstArrayView<EntryType> (*GetEntries)(const FScriptTopic&), int32& OutNumWords)
-		{
-			const EntryType* Best = nullptr;
-			OutNumWords = 0;
-			for (const FScriptTopic& Topic : ScriptTopics::GetAll())
-			{
-				for (const EntryType& Entry : GetEntries(Topic))
-				{
-					const int32 NumWords = MatchName(Line, First, Entry.Syntax.Name);
-					if (NumWords > OutNumWords)
-					{
-						Best = &Entry;
-						OutNumWords = NumWords;
-					}
-				}
-			}
-			return Best;
-		}
+	TConstArrayView<FScriptCommand> GetCommands(const FScriptTopic& Topic)
+	{
+		return Topic.Commands;
+	}
+	TConstArrayView<FScriptExpectation> GetExpectations(const FScriptTopic& Topic)
+	{
+		return Topic.Expectations;
+	}
 
-		TConstArrayView<FScriptCommand> GetCommands(const FScriptTopic& Topic)
-		{
-			return Topic.Commands;
-		}
-		TConstArrayView<FScriptExpectation> GetExpectations(const FScriptTopic& Topic)
-		{
-			return Topic.Expectations;
-		}
+	bool IsOption(const FScriptSyntax& Syntax, const FString& Word)
+	{
+		TArray<FString> Options;
+		FString(Syntax.Options).ParseIntoArrayWS(Options);
+		return Options.ContainsByPredicate([&Word](const FString& Option) { return Option.Equals(Word); });
+	}
 
-		bool IsOption(const FScriptSyntax& Syntax, const FString& Word)
+	/** Options come in pairs behind the arguments. */
+	bool AreOptions(const FScriptSyntax& Syntax, const FScriptArguments& Arguments)
+	{
+		bool bFits = (Arguments.Num() - Syntax.MaxArguments) % 2 == 0;
+		for (int32 Index = Syntax.MaxArguments; bFits && Index < Arguments.Num(); Index += 2)
 		{
-			TArray<FString> Options;
-			FString(Syntax.Options).ParseIntoArrayWS(Options);
-			return Options.ContainsByPredicate([&Word](const FString& Option) { return Option.Equals(Word); });
+			bFits = IsOption(Syntax, Arguments[Index]);
 		}
+		return bFits;
+	}
 
-		/** Options come in pairs behind the arguments. */
-		bool AreOptions(const FScriptSyntax& Syntax, const FScriptArguments& Arguments)
-		{
-			bool bFits = (Arguments.Num() - Syntax.MaxArguments) % 2 == 0;
-			for (int32 Index = Syntax.MaxArguments; bFits && Index < Arguments.Num(); Index += 2)
-			{
-				bFits = IsOption(Syntax, Arguments[Index]);
-			}
-			return bFits;
-		}
+	bool Fits(const FScriptSyntax& Syntax, const FScriptArguments& Arguments)
+	{
+		const bool bEnough = Arguments.Num() >= Syntax.MinArguments;
+		const bool bNoOptions = Syntax.MaxArguments == FScriptSyntax::Any || Arguments.Num() <= Syntax.MaxArguments;
+		return bEnough && (bNoOptions || AreOptions(Syntax, Arguments));
+	}
 
-		bool Fits(const FScriptSyntax& Syntax, const FScriptArguments& Arguments)
+	/** Fills in what the line says; returns what is wrong with it, or nothing. */
+	FString Resolve(FScriptStep& Step)
+	{
+		const FScriptLine& Line = Step.Line;
+		const bool bExpect = IsWord(Line, 0, ExpectWord);
+		Step.bNegated = bExpect && IsWord(Line, 1, NoWord);
+		const int32 NameWord = (bExpect ? 1 : 0) + (Step.bNegated ? 1 : 0);
+		int32 NumWords = 0;
+		const FScriptSyntax* Syntax = nullptr;
+		if (bExpect)
 		{
-			const bool bEnough = Arguments.Num() >= Syntax.MinArguments;
-			const bool bNoOptions = Syntax.MaxArguments == FScriptSyntax::Any || Arguments.Num() <= Syntax.MaxArguments;
-			return bEnough && (bNoOptions || AreOptions(Syntax, Arguments));
+			Step.Expectation = FindEntry(Line, NameWord, &GetExpectations, NumWords);
+			Syntax = Step.Expectation != nullptr ? &Step.Expectation->Syntax : nullptr;
 		}
-
-		/** Fills in what the line says; returns what is wrong with it, or nothing. */
-		FString Resolve(FScriptStep& Step)
+		else
 		{
-			const FScriptLine& Line = Step.Line;
-			const bool bExpect = IsWord(Line, 0, ExpectWord);
-			Step.bNegated = bExpect && IsWord(Line, 1, NoWord);
-			const int32 NameWord = (bExpect ? 1 : 0) + (Step.bNegated ? 1 : 0);
-			int32 NumWords = 0;
-			const FScriptSyntax* Syntax = nullptr;
-			if (bExpect)
-			{
-				Step.Expectation = FindEntry(Line, NameWord, &GetExpectations, NumWords);
-				Syntax = Step.Expectation != nullptr ? &Step.Expectation->Syntax : nullptr;
-			}
-			else
-			{
-				Step.Command = FindEntry(Line, NameWord, &GetCommands, NumWords);
-				Syntax = Step.Command != nullptr ? &Step.Command->Syntax : nullptr;
-			}
-			if (Syntax == nullptr)
-			{
-				const FString Word = Line.Words.IsValidIndex(NameWord) ? Line.Words[NameWord].Text : FString();
-				return bExpect ? FString::Printf(TEXT("nothing called \"%s\" can be expected"), *Word) : FString::Printf(TEXT("there is no command \"%s\""), *Word);
-			}
-			Step.FirstArgument = NameWord + NumWords;
-			if (!Fits(*Syntax, Step.GetArguments()))
-			{
-				return FString::Printf(TEXT("this is written: %s%s %s"), bExpect ? TEXT("expect [no] ") : TEXT(""), Syntax->Name, Syntax->Usage);
-			}
-			return FString();
+			Step.Command = FindEntry(Line, NameWord, &GetCommands, NumWords);
+			Syntax = Step.Command != nullptr ? &Step.Command->Syntax : nullptr;
 		}
+		if (Syntax == nullptr)
+		{
+			const FString Word = Line.Words.IsValidIndex(NameWord) ? Line.Words[NameWord].Text : FString();
+			return bExpect ? FString::Printf(TEXT("nothing called \"%s\" can be expected"), *Word) : FString::Printf(TEXT("there is no command \"%s\""), *Word);
+		}
+		Step.FirstArgument = NameWord + NumWords;
+		if (!Fits(*Syntax, Step.GetArguments()))
+		{
+			return FString::Printf(TEXT("this is written: %s%s %s"), bExpect ? TEXT("expect [no] ") : TEXT(""), Syntax->Name, Syntax->Usage);
+		}
+		return FString();
 	}
 
 	FScript Parse(const FString& Text, TArray<FScriptProblem>& OutProblems)

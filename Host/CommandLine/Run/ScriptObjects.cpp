@@ -12,59 +12,56 @@
 
 namespace ScriptObjects
 {
-	namespace
+	const TCHAR* const ActorPrefix = TEXT("actor:");
+	const TCHAR* const DefaultPrefix = TEXT("default:");
+
+	/** The actor of that label, or else of that name; labels ignore case. */
+	AActor* FindActorByLabel(const FString& Label)
 	{
-		const TCHAR* const ActorPrefix = TEXT("actor:");
-		const TCHAR* const DefaultPrefix = TEXT("default:");
-
-		/** The actor of that label, or else of that name; labels ignore case. */
-		AActor* FindActorByLabel(const FString& Label)
+		AActor* Named = nullptr;
+		for (FActorIterator Actors(GetWorld(), AActor::StaticClass()); Actors; ++Actors)
 		{
-			AActor* Named = nullptr;
-			for (FActorIterator Actors(GetWorld(), AActor::StaticClass()); Actors; ++Actors)
+			if ((*Actors)->GetActorLabel(false) == Label)
 			{
-				if ((*Actors)->GetActorLabel(false) == Label)
-				{
-					return *Actors;
-				}
-				Named = Named == nullptr && (*Actors)->GetName() == Label ? *Actors : Named;
+				return *Actors;
 			}
-			return Named;
+			Named = Named == nullptr && (*Actors)->GetName() == Label ? *Actors : Named;
 		}
+		return Named;
+	}
 
-		UObject* FindActor(const FString& ClassName, FString& OutReason)
+	UObject* FindActor(const FString& ClassName, FString& OutReason)
+	{
+		UClass* Class = FindClass(ClassName, OutReason);
+		if (Class == nullptr)
 		{
-			UClass* Class = FindClass(ClassName, OutReason);
-			if (Class == nullptr)
-			{
-				AActor* Labelled = FindActorByLabel(ClassName);
-				OutReason = Labelled != nullptr ? FString() : FString::Printf(TEXT("there is no class %s, and no actor of that label"), *ClassName);
-				return Labelled;
-			}
-			if (!Class->IsChildOf(AActor::StaticClass()))
-			{
-				OutReason = FString::Printf(TEXT("%s is no class of actors"), *ClassName);
-				return nullptr;
-			}
-			const FActorIterator Actors(GetWorld(), Class);
-			if (!Actors)
-			{
-				OutReason = FString::Printf(TEXT("no actor of the class %s stands in the open level"), *ClassName);
-				return nullptr;
-			}
-			return *Actors;
+			AActor* Labelled = FindActorByLabel(ClassName);
+			OutReason = Labelled != nullptr ? FString() : FString::Printf(TEXT("there is no class %s, and no actor of that label"), *ClassName);
+			return Labelled;
 		}
+		if (!Class->IsChildOf(AActor::StaticClass()))
+		{
+			OutReason = FString::Printf(TEXT("%s is no class of actors"), *ClassName);
+			return nullptr;
+		}
+		const FActorIterator Actors(GetWorld(), Class);
+		if (!Actors)
+		{
+			OutReason = FString::Printf(TEXT("no actor of the class %s stands in the open level"), *ClassName);
+			return nullptr;
+		}
+		return *Actors;
+	}
 
-		UObject* FindPanel(FScriptContext& Context, const FString& Name, FString& OutReason)
+	UObject* FindPanel(FScriptContext& Context, const FString& Name, FString& OutReason)
+	{
+		const FPanelHost::FPanel* Panel = Context.Session.GetPanels().Find(Name);
+		if (Panel == nullptr)
 		{
-			const FPanelHost::FPanel* Panel = Context.Session.GetPanels().Find(Name);
-			if (Panel == nullptr)
-			{
-				OutReason = FString::Printf(TEXT("no panel named %s is open"), *Name);
-				return nullptr;
-			}
-			return Panel->Widget.Get();
+			OutReason = FString::Printf(TEXT("no panel named %s is open"), *Name);
+			return nullptr;
 		}
+		return Panel->Widget.Get();
 	}
 
 	UObject* Find(FScriptContext& Context, const FString& Text, FString& OutReason)

@@ -10,77 +10,74 @@
 
 namespace ScriptRunner
 {
-	namespace
+	const TCHAR* const Bullets = TEXT("\"\u2022\u2022\u2022\u2022\u2022\u2022\u2022\u2022\""); // as many whatever was typed
+
+	/** The line as the script has it, with bullets in the place of secrets. */
+	FString GetShownText(const FScriptStep& Step, const FScriptContext& Context)
 	{
-		const TCHAR* const Bullets = TEXT("\"\u2022\u2022\u2022\u2022\u2022\u2022\u2022\u2022\""); // as many whatever was typed
-
-		/** The line as the script has it, with bullets in the place of secrets. */
-		FString GetShownText(const FScriptStep& Step, const FScriptContext& Context)
+		FString Text = Step.Line.Source;
+		for (int32 Index = Step.Line.Words.Num() - 1; Index >= 0; --Index)
 		{
-			FString Text = Step.Line.Source;
-			for (int32 Index = Step.Line.Words.Num() - 1; Index >= 0; --Index)
+			const FScriptWord& Word = Step.Line.Words[Index];
+			if (Context.IsMasked(Index))
 			{
-				const FScriptWord& Word = Step.Line.Words[Index];
-				if (Context.IsMasked(Index))
-				{
-					Text = Text.Left(Word.Begin) + Bullets + Text.RightChop(Word.End);
-				}
+				Text = Text.Left(Word.Begin) + Bullets + Text.RightChop(Word.End);
 			}
-			return Text;
 		}
+		return Text;
+	}
 
-		FStepResult Look(const FScriptStep& Step, FScriptContext& Context)
+	FStepResult Look(const FScriptStep& Step, FScriptContext& Context)
+	{
+		const FExpectation Seen = Step.Expectation->Look(Context, Step.GetArguments());
+		if (!Seen.Error.IsEmpty())
 		{
-			const FExpectation Seen = Step.Expectation->Look(Context, Step.GetArguments());
-			if (!Seen.Error.IsEmpty())
+			return FStepResult::Error(Seen.Error);
+		}
+		if (Seen.bHolds != Step.bNegated)
+		{
+			return FStepResult::Done();
+		}
+		FStepResult Result;
+		Result.Outcome = EStepOutcome::Failed;
+		Result.Message = GetShownText(Step, Context);
+		if (!Step.bNegated && !Seen.Found.IsEmpty())
+		{
+			Result.Message += TEXT(", but ") + Seen.Found;
+		}
+		return Result;
+	}
+
+	/** A person sees that work was not kept, and goes no further. */
+	FStepResult JudgeWrites(const FStepResult& Result, const TArray<FHostProblem>& NotWritten)
+	{
+		if (Result.Outcome != EStepOutcome::Done || NotWritten.IsEmpty())
+		{
+			return Result;
+		}
+		TArray<FString> Texts;
+		for (const FHostProblem& Problem : NotWritten)
+		{
+			Texts.AddUnique(HostProblems::ToString(Problem));
+		}
+		return FStepResult::Error(FString::Join(Texts, TEXT("\n")));
+	}
+
+	/** What the engine would not survive ends the script, not the program. */
+	FStepResult RunGuarded(const FScriptStep& Step, FScriptContext& Context)
+	{
+		try
+		{
+			const FStepResult Result = Step.Command != nullptr ? Step.Command->Run(Context, Step.GetArguments()) : Look(Step, Context);
+			if (Step.Command != nullptr)
 			{
-				return FStepResult::Error(Seen.Error);
-			}
-			if (Seen.bHolds != Step.bNegated)
-			{
-				return FStepResult::Done();
-			}
-			FStepResult Result;
-			Result.Outcome = EStepOutcome::Failed;
-			Result.Message = GetShownText(Step, Context);
-			if (!Step.bNegated && !Seen.Found.IsEmpty())
-			{
-				Result.Message += TEXT(", but ") + Seen.Found;
+				Context.Session.GetEditor().Tick(0.0); // a person sees the result before going on
 			}
 			return Result;
 		}
-
-		/** A person sees that work was not kept, and goes no further. */
-		FStepResult JudgeWrites(const FStepResult& Result, const TArray<FHostProblem>& NotWritten)
+		catch (const FHostAssertionFailure& Failure)
 		{
-			if (Result.Outcome != EStepOutcome::Done || NotWritten.IsEmpty())
-			{
-				return Result;
-			}
-			TArray<FString> Texts;
-			for (const FHostProblem& Problem : NotWritten)
-			{
-				Texts.AddUnique(HostProblems::ToString(Problem));
-			}
-			return FStepResult::Error(FString::Join(Texts, TEXT("\n")));
-		}
-
-		/** What the engine would not survive ends the script, not the program. */
-		FStepResult RunGuarded(const FScriptStep& Step, FScriptContext& Context)
-		{
-			try
-			{
-				const FStepResult Result = Step.Command != nullptr ? Step.Command->Run(Context, Step.GetArguments()) : Look(Step, Context);
-				if (Step.Command != nullptr)
-				{
-					Context.Session.GetEditor().Tick(0.0); // a person sees the result before going on
-				}
-				return Result;
-			}
-			catch (const FHostAssertionFailure& Failure)
-			{
-				return FStepResult::Error(ProgramFault::Describe(Failure));
-			}
+			return FStepResult::Error(ProgramFault::Describe(Failure));
 		}
 	}
 }

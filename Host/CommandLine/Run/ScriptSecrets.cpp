@@ -14,49 +14,46 @@
 
 namespace ScriptSecrets
 {
-	namespace
+	const TCHAR* const VariablePrefix = TEXT("env:");
+
+	bool IsVariableName(const FString& Name)
 	{
-		const TCHAR* const VariablePrefix = TEXT("env:");
-
-		bool IsVariableName(const FString& Name)
+		bool bName = !Name.IsEmpty() && !FChar::IsDigit(Name[0]);
+		for (const TCHAR Char : Name)
 		{
-			bool bName = !Name.IsEmpty() && !FChar::IsDigit(Name[0]);
-			for (const TCHAR Char : Name)
-			{
-				bName &= Char < 128 && (FChar::IsAlnum(Char) || Char == TEXT('_'));
-			}
-			return bName;
+			bName &= Char < 128 && (FChar::IsAlnum(Char) || Char == TEXT('_'));
 		}
+		return bName;
+	}
 
-		void HideAll(TArray<FString>& Texts)
+	void HideAll(TArray<FString>& Texts)
+	{
+		for (FString& Text : Texts)
 		{
-			for (FString& Text : Texts)
-			{
-				Text = HostSecrets::Hide(Text);
-			}
+			Text = HostSecrets::Hide(Text);
 		}
+	}
 
-		void HideIn(FStepEvents& Events)
+	void HideIn(FStepEvents& Events)
+	{
+		for (FStepEvents::FNotification& Notification : Events.Notifications)
 		{
-			for (FStepEvents::FNotification& Notification : Events.Notifications)
-			{
-				Notification.Title = HostSecrets::Hide(Notification.Title);
-				Notification.SubText = HostSecrets::Hide(Notification.SubText);
-				HideAll(Notification.Buttons);
-			}
-			for (FStepEvents::FQuestion& Question : Events.Questions)
-			{
-				Question.Message = HostSecrets::Hide(Question.Message);
-				HideAll(Question.Fields);
-			}
-			for (FHostProblem& Problem : Events.Problems)
-			{
-				Problem.File = HostSecrets::Hide(Problem.File);
-				Problem.Message = HostSecrets::Hide(Problem.Message);
-			}
-			HideAll(Events.Log);
-			HideAll(Events.Urls);
+			Notification.Title = HostSecrets::Hide(Notification.Title);
+			Notification.SubText = HostSecrets::Hide(Notification.SubText);
+			HideAll(Notification.Buttons);
 		}
+		for (FStepEvents::FQuestion& Question : Events.Questions)
+		{
+			Question.Message = HostSecrets::Hide(Question.Message);
+			HideAll(Question.Fields);
+		}
+		for (FHostProblem& Problem : Events.Problems)
+		{
+			Problem.File = HostSecrets::Hide(Problem.File);
+			Problem.Message = HostSecrets::Hide(Problem.Message);
+		}
+		HideAll(Events.Log);
+		HideAll(Events.Urls);
 	}
 
 	FString Resolve(const FScriptArguments& Arguments, int32 Index, FString& OutText)

@@ -2,9 +2,12 @@
 
 #include "Run/ScriptTopics.h"
 
-TConstArrayView<FScriptTopic> ScriptTopics::GetAll()
+#include "Run/ScriptExtension.h"
+
+TArray<FScriptTopic> ScriptTopics::GetAll()
 {
-	static const FScriptTopic Topics[] = {
-		GetPanels(), GetMenus(), GetDetails(), GetNotifications(), GetQuestions(), GetAssets(), GetIcons(), GetCalls(), GetLevel(), GetPlacement(), GetUndo(), GetFiles(), GetEditor()};
+	TArray<FScriptTopic> Topics = {
+		GetPanels(), GetMenus(), GetDetails(), GetNotifications(), GetQuestions(), GetAssets(), GetCalls(), GetLevel(), GetPlacement(), GetUndo(), GetFiles(), GetEditor()};
+	Topics.Append(ScriptExtension::Get().Topics);
 	return Topics;
 }

@@ -13,7 +13,6 @@ namespace ScriptTopics
 	FScriptTopic GetNotifications();
 	FScriptTopic GetQuestions();
 	FScriptTopic GetAssets();
-	FScriptTopic GetIcons();
 	FScriptTopic GetCalls();
 	FScriptTopic GetLevel();
 	FScriptTopic GetUndo();
@@ -21,6 +20,6 @@ namespace ScriptTopics
 	FScriptTopic GetFiles();
 	FScriptTopic GetEditor();
 
-	/** Topics in the order of the documentation. */
-	TConstArrayView<FScriptTopic> GetAll();
+	/** Topics in the order of the documentation, then those of the program's extension. */
+	TArray<FScriptTopic> GetAll();
 }

@@ -11,31 +11,28 @@
 
 namespace ScriptWidgets
 {
-	namespace
+	/** Null unless that page shows. */
+	TSharedPtr<SWidget> FindSettingsPage(const FString& Section)
 	{
-		/** Null unless that page shows. */
-		TSharedPtr<SWidget> FindSettingsPage(const FString& Section)
-		{
-			const TOptional<HostSettings::FOpenPage> Page = HostSettings::GetOpenPage();
-			const bool bMeant = Page.IsSet() && Page->Address.Section == ScriptObjects::ToName(Section);
-			return bMeant ? Page->Content : TSharedPtr<SWidget>();
-		}
+		const TOptional<HostSettings::FOpenPage> Page = HostSettings::GetOpenPage();
+		const bool bMeant = Page.IsSet() && Page->Address.Section == ScriptObjects::ToName(Section);
+		return bMeant ? Page->Content : TSharedPtr<SWidget>();
+	}
 
-		/** Why nothing of that name is open; a button or page of that name may be meant. */
-		FString Explain(FScriptContext& Context, const FString& Name)
+	/** Why nothing of that name is open; a button or page of that name may be meant. */
+	FString Explain(FScriptContext& Context, const FString& Name)
+	{
+		FString Reason;
+		if (!CheckUserInterface(Reason))
 		{
-			FString Reason;
-			if (!CheckUserInterface(Reason))
-			{
-				return Reason;
-			}
-			const TOptional<FHostWidgetDescription> Button = HostSnapshot::Describe(Context.Session.GetToolbar().GetContent(), Name, Reason);
-			if (Button.IsSet() && Button->Role == TEXT("menu button"))
-			{
-				return FString::Printf(TEXT("the menu of the toolbar's button %s is not open; open it with: open menu %s"), *Name, *Name);
-			}
-			return FString::Printf(TEXT("no panel named %s is open"), *Name);
+			return Reason;
 		}
+		const TOptional<FHostWidgetDescription> Button = HostSnapshot::Describe(Context.Session.GetToolbar().GetContent(), Name, Reason);
+		if (Button.IsSet() && Button->Role == TEXT("menu button"))
+		{
+			return FString::Printf(TEXT("the menu of the toolbar's button %s is not open; open it with: open menu %s"), *Name, *Name);
+		}
+		return FString::Printf(TEXT("no panel named %s is open"), *Name);
 	}
 
 	bool CheckUserInterface(FString& OutReason)

@@ -6,6 +6,7 @@
 #include "HostNotifications.h"
 #include "HostProcess.h"
 #include "HostQuestions.h"
+#include "Run/ScriptExtension.h"
 
 namespace StepEvents
 {
@@ -24,15 +25,17 @@ namespace StepEvents
 		}
 	}
 
-	/** The service's files belong to the run as the project's do; it tells of them in the log only, as the rest of the toolkit does. */
-	static bool IsServiceTrouble(const FHostLogLine& Line)
+	bool IsShown(const FHostLogLine& Line)
 	{
-		return Line.Verbosity <= ELogVerbosity::Error && Line.Category == FName("LogVelmorantSDK");
+		const auto IsShownBesides = ScriptExtension::Get().IsShown;
+		return Line.Verbosity <= ELogVerbosity::Warning || (IsShownBesides != nullptr && IsShownBesides(Line));
 	}
 
-	static bool IsShown(const FHostLogLine& Line)
+	/** What only the log tells of. */
+	bool IsTrouble(const FHostLogLine& Line)
 	{
-		return Line.Verbosity <= ELogVerbosity::Warning || Line.Category.ToString().StartsWith(TEXT("LogVelmorant"));
+		const auto IsMeant = ScriptExtension::Get().IsTrouble;
+		return IsMeant != nullptr && IsMeant(Line);
 	}
 }
 
@@ -41,7 +44,7 @@ void FEventWatch::Collect()
 	CollectNotifications();
 	CollectQuestions();
 	CollectUrls();
-	ReportServiceTrouble();
+	ReportTrouble();
 	CollectLog();
 	CollectProblems();
 	CollectNotWritten();
@@ -101,12 +104,12 @@ void FEventWatch::CollectLog()
 	}
 }
 
-void FEventWatch::ReportServiceTrouble() const
+void FEventWatch::ReportTrouble() const
 {
 	const TArray<FHostLogLine>& Lines = HostLog::GetLines();
 	for (int32 Index = NumLogLines; Index < Lines.Num(); ++Index)
 	{
-		if (StepEvents::IsServiceTrouble(Lines[Index]))
+		if (StepEvents::IsTrouble(Lines[Index]))
 		{
 			HostProblems::Report(FString(), 0, Lines[Index].Text);
 		}

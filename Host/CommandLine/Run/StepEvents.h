@@ -29,7 +29,7 @@ struct FStepEvents
 
 	TArray<FNotification> Notifications;
 	TArray<FQuestion> Questions;
-	TArray<FString> Log; // warnings, errors, and all that the toolkit says
+	TArray<FString> Log; // warnings, errors, and what the program's extension shows
 	TArray<FString> Urls; // web pages that were opened
 	TArray<FHostProblem> Problems;
 	TArray<FHostProblem> NotWritten; // the work that was not kept; also where it stands among the problems from an earlier step
@@ -55,7 +55,7 @@ private:
 	void CollectNotifications();
 	void CollectQuestions();
 	void CollectUrls();
-	void ReportServiceTrouble() const;
+	void ReportTrouble() const;
 	void CollectProblems();
 	void CollectNotWritten();
 

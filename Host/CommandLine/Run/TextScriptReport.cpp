@@ -6,63 +6,60 @@
 
 namespace TextScriptReport
 {
-	namespace
+	const TCHAR* const Indent = TEXT("    ");
+
+	void PrintHeading(const FString& Heading)
 	{
-		const TCHAR* const Indent = TEXT("    ");
+		Console::Print(FString());
+		Console::Print(Heading);
+		Console::Print(FString::ChrN(Heading.Len(), TEXT('-')));
+	}
 
-		void PrintHeading(const FString& Heading)
+	void PrintNotification(const FStepEvents::FNotification& Notification)
+	{
+		FString Line = FString::Printf(TEXT("%s(%s) %s"), Indent, *Notification.State, *Notification.Title);
+		for (const FString& Button : Notification.Buttons)
 		{
-			Console::Print(FString());
-			Console::Print(Heading);
-			Console::Print(FString::ChrN(Heading.Len(), TEXT('-')));
+			Line += TEXT("  [") + Button + TEXT("]");
 		}
+		Console::Print(Line);
+		TArray<FString> SubText;
+		Notification.SubText.ParseIntoArrayLines(SubText);
+		for (const FString& Each : SubText)
+		{
+			Console::Print(FString(Indent) + Indent + Each.TrimStartAndEnd());
+		}
+	}
 
-		void PrintNotification(const FStepEvents::FNotification& Notification)
+	void PrintQuestion(const FStepEvents::FQuestion& Question)
+	{
+		FString Line = FString::Printf(TEXT("%sasked: %s -> %s%s"), Indent, *Question.Message, *Question.Choice, Question.bUnattended ? TEXT(" (nobody answered)") : TEXT(""));
+		for (const FString& Field : Question.Fields)
 		{
-			FString Line = FString::Printf(TEXT("%s(%s) %s"), Indent, *Notification.State, *Notification.Title);
-			for (const FString& Button : Notification.Buttons)
-			{
-				Line += TEXT("  [") + Button + TEXT("]");
-			}
-			Console::Print(Line);
-			TArray<FString> SubText;
-			Notification.SubText.ParseIntoArrayLines(SubText);
-			for (const FString& Each : SubText)
-			{
-				Console::Print(FString(Indent) + Indent + Each.TrimStartAndEnd());
-			}
+			Line += TEXT("  ") + Field;
 		}
+		Console::Print(Line);
+	}
 
-		void PrintQuestion(const FStepEvents::FQuestion& Question)
+	void PrintEvents(const FStepEvents& Events)
+	{
+		for (const FString& Line : Events.Log)
 		{
-			FString Line = FString::Printf(TEXT("%sasked: %s -> %s%s"), Indent, *Question.Message, *Question.Choice, Question.bUnattended ? TEXT(" (nobody answered)") : TEXT(""));
-			for (const FString& Field : Question.Fields)
-			{
-				Line += TEXT("  ") + Field;
-			}
-			Console::Print(Line);
+			Console::Print(FString(Indent) + TEXT("log: ") + Line);
 		}
-
-		void PrintEvents(const FStepEvents& Events)
+		for (const FString& Url : Events.Urls)
 		{
-			for (const FString& Line : Events.Log)
-			{
-				Console::Print(FString(Indent) + TEXT("log: ") + Line);
-			}
-			for (const FString& Url : Events.Urls)
-			{
-				Console::Print(FString(Indent) + TEXT("web page: ") + Url);
-			}
-			for (const FStepEvents::FQuestion& Question : Events.Questions)
-			{
-				PrintQuestion(Question);
-			}
-			for (const FStepEvents::FNotification& Notification : Events.Notifications)
-			{
-				PrintNotification(Notification);
-			}
-			Console::PrintProblems(Events.Problems);
+			Console::Print(FString(Indent) + TEXT("web page: ") + Url);
 		}
+		for (const FStepEvents::FQuestion& Question : Events.Questions)
+		{
+			PrintQuestion(Question);
+		}
+		for (const FStepEvents::FNotification& Notification : Events.Notifications)
+		{
+			PrintNotification(Notification);
+		}
+		Console::PrintProblems(Events.Problems);
 	}
 }
 

@@ -10,10 +10,10 @@ FDetailsDock::FDetailsDock(IWindowServices& InServices, QWidget* Parent)
 	: FDockView(Parent)
 	, Services(InServices)
 	, Empty(new QLabel(tr("Select an actor or an asset to see its properties."), this))
+	, Area(new QScrollArea(this))
 {
 	QVBoxLayout* const Layout = new QVBoxLayout(this);
 	Layout->setContentsMargins(0, 0, 0, 0);
-	QScrollArea* const Area = new QScrollArea(this);
 	Area->setFrameShape(QFrame::NoFrame);
 	Area->setWidgetResizable(true);
 	FWidgetRoot* const Root = new FWidgetRoot(Services, [this] { return View ? TSharedPtr<SWidget>(View->GetWidget()) : TSharedPtr<SWidget>(); });
@@ -62,7 +62,9 @@ void FDetailsDock::FollowSelection()
 void FDetailsDock::Refresh()
 {
 	FollowSelection();
-	Empty->setVisible(!View || View->GetObjects().IsEmpty());
+	const bool bEmpty = !View || View->GetObjects().IsEmpty();
+	Empty->setVisible(bEmpty);
+	Area->setVisible(!bEmpty);
 }
 
 void FDetailsDock::LetGo()

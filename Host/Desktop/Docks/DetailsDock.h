@@ -35,4 +35,5 @@ private:
 	std::unique_ptr<FHostDetailsView> View; // of the running editor; goes with it
 	std::vector<TWeakObjectPtr<AActor>> Followed; // the level's selection when it was looked at last
 	QLabel* Empty;
+	QScrollArea* Area;
 };

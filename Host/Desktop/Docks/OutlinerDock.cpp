@@ -63,11 +63,16 @@ void FOutlinerDock::Act(const std::function<void()>& What)
 
 void FOutlinerDock::Refresh()
 {
-	const bool bRenaming = Tree->viewport()->findChild<QLineEdit*>() != nullptr;
-	if (!bRenaming && Watch.HasChanged())
+	if (!IsRenaming() && Watch.HasChanged())
 	{
 		Fill();
 	}
+}
+
+bool FOutlinerDock::IsRenaming() const
+{
+	const QLineEdit* const Field = Tree->viewport()->findChild<QLineEdit*>();
+	return Field != nullptr && Field->isVisible();
 }
 
 /** Rows stay while only the selection changes, and with them what is folded and where the list stands. */
@@ -240,7 +245,7 @@ void FOutlinerDock::OpenMenu(const QPoint& Place)
 
 bool FOutlinerDock::eventFilter(QObject* Watched, QEvent* Event)
 {
-	if (Event->type() != QEvent::KeyPress)
+	if (Event->type() != QEvent::KeyPress || IsRenaming())
 	{
 		return FDockView::eventFilter(Watched, Event);
 	}

@@ -31,6 +31,7 @@ private:
 
 	void Fill();
 	QTreeWidgetItem* FindGroup(AActor& Actor);
+	bool IsRenaming() const;
 	void ShowSelection();
 	void ShowCount(int NumShown);
 	void SelectMarked();

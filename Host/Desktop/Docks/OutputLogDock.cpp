@@ -127,7 +127,8 @@ QWidget* FOutputLogDock::MakeBar()
 	Search->setClearButtonEnabled(true);
 	Category->setObjectName(QStringLiteral("OutputLogCategory"));
 	Category->setAccessibleName(tr("Category"));
-	Category->setMinimumWidth(200);
+	Category->setMinimumWidth(150);
+	Search->setMinimumWidth(140);
 	Category->addItem(tr("All categories"));
 	Verbosity->setObjectName(QStringLiteral("OutputLogVerbosity"));
 	Verbosity->setAccessibleName(tr("Verbosity"));

@@ -16,6 +16,7 @@
 namespace PlacementDock
 {
 	static const int KeyRole = Qt::UserRole;
+	static const int IconSize = 20;
 
 	/** Rows carry what the plan takes. */
 	class FList : public QTreeWidget
@@ -46,6 +47,14 @@ namespace PlacementDock
 			}
 		}
 		return FVector::ZeroVector;
+	}
+
+	/** In place of an icon, so that names stand below each other. */
+	static QIcon MakeBlank()
+	{
+		QPixmap Blank(IconSize, IconSize);
+		Blank.fill(Qt::transparent);
+		return QIcon(Blank);
 	}
 
 	static const FSlateBrush* FindIcon(const FPlaceableItem& Item)
@@ -82,7 +91,7 @@ FPlacementDock::FPlacementDock(IWindowServices& InServices, QWidget* Parent)
 	List->setHeaderHidden(true);
 	List->setFrameShape(QFrame::NoFrame);
 	List->setUniformRowHeights(true);
-	List->setIconSize(QSize(20, 20));
+	List->setIconSize(QSize(PlacementDock::IconSize, PlacementDock::IconSize));
 	List->setDragEnabled(true);
 	List->setDragDropMode(QAbstractItemView::DragOnly);
 	Hint->setObjectName(QStringLiteral("PlacementHint"));
@@ -122,10 +131,8 @@ void FPlacementDock::Fill()
 			QTreeWidgetItem* const Row = new QTreeWidgetItem(Group, {QtText::From(Item->DisplayName)});
 			Row->setData(0, PlacementDock::KeyRole, LevelPlacement::MakeKey(Category, *Item));
 			Row->setToolTip(0, QtText::From(Item->NativeName));
-			if (const FSlateBrush* const Icon = PlacementDock::FindIcon(*Item))
-			{
-				Row->setIcon(0, Services.GetBrushes().FindIcon(*Icon));
-			}
+			const FSlateBrush* const Icon = PlacementDock::FindIcon(*Item);
+			Row->setIcon(0, Icon != nullptr ? Services.GetBrushes().FindIcon(*Icon) : PlacementDock::MakeBlank());
 		}
 		Group->setExpanded(true);
 	}

@@ -58,7 +58,7 @@ FPlanDock::FPlanDock(IWindowServices& InServices, QWidget* Parent)
 	Row->addWidget(View, 1);
 	Row->addWidget(MakeMinimap());
 	Layout->addLayout(Row, 1);
-	View->SetEmptyText(tr("Nothing stands in this level yet.\nDrag something here from the Placement tab, or open another level in the content browser."));
+	View->SetEmptyText(tr("This level has no unit volumes yet.\nDrag a Unit Volume Actor here from the Placement tab, or open another level in the content browser."));
 	ListenToView();
 }
 

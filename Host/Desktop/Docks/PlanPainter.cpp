@@ -13,6 +13,7 @@ namespace PlanPainter
 	static const double GridPixels = 70.0; // a line is about so far from the next
 	static const QSizeF LeastRoomForText(44.0, 15.0);
 	static const double MarkerRadius = 6.0;
+	static const std::size_t MostSmoothShapes = 3000; // more take too long to draw while the plan moves
 	static const int Margin = 12;
 	static const QSize Swatch(18, 12);
 
@@ -67,7 +68,7 @@ FPlanPainter::FPlanPainter(const FPlanView& InView, QPainter& InPainter)
 	, Painter(InPainter)
 	, Palette(InView.palette())
 {
-	Painter.setRenderHint(QPainter::Antialiasing);
+	Painter.setRenderHint(QPainter::Antialiasing, View.GetPlan().GetShapes().size() <= PlanPainter::MostSmoothShapes);
 }
 
 void FPlanPainter::DrawGrid(double PixelsPerCentimetre)
@@ -76,6 +77,7 @@ void FPlanPainter::DrawGrid(double PixelsPerCentimetre)
 	const QRectF Seen(View.ToLevel(QPointF(0.0, 0.0)), View.ToLevel(QPointF(View.width(), View.height())));
 	const QColor Line = PlanPainter::WithAlpha(Palette.color(QPalette::Text), 18);
 	const QColor Axis = PlanPainter::WithAlpha(Palette.color(QPalette::Text), 60);
+	const bool bSmooth = Painter.testRenderHint(QPainter::Antialiasing);
 	Painter.setRenderHint(QPainter::Antialiasing, false);
 	for (double X = std::ceil(Seen.left() / Step) * Step; X <= Seen.right(); X += Step)
 	{
@@ -89,7 +91,7 @@ void FPlanPainter::DrawGrid(double PixelsPerCentimetre)
 		Painter.setPen(std::abs(Y) < Step / 2.0 ? Axis : Line);
 		Painter.drawLine(QPointF(0.0, At), QPointF(View.width(), At));
 	}
-	Painter.setRenderHint(QPainter::Antialiasing);
+	Painter.setRenderHint(QPainter::Antialiasing, bSmooth);
 }
 
 /** What is selected comes last, to be seen whole. */

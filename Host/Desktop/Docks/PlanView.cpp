@@ -136,11 +136,11 @@ void FPlanView::paintEvent(QPaintEvent*)
 	QPainter Painter(this);
 	Painter.fillRect(rect(), palette().color(QPalette::Base));
 	FPlanPainter Plotter(*this, Painter);
-	if (Plan.GetShapes().empty())
+	if (Plan.GetFloors().empty())
 	{
 		Plotter.DrawEmpty(EmptyText);
 	}
-	else
+	if (!Plan.GetShapes().empty())
 	{
 		Plotter.DrawGrid(PixelsPerCentimetre);
 		Plotter.DrawShapes();

@@ -35,7 +35,7 @@ public:
 	/** Moves the place to the middle of the view and marks it for a moment. */
 	void PanTo(QPointF Place);
 
-	/** What to say when there is nothing to see. */
+	/** What to say while there are no volumes. */
 	void SetEmptyText(const QString& Text);
 
 	//~ Between the level, in centimetres, and the widget, in its pixels

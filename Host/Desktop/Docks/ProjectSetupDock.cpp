@@ -59,6 +59,7 @@ QWidget* FProjectSetupDock::MakePages()
 	Pages->setObjectName(QStringLiteral("SettingsPages"));
 	Pages->setAccessibleName(tr("Pages of the project's settings"));
 	Pages->setToolTip(tr("Enter or a click opens the page in a tab"));
+	Pages->setMinimumWidth(190);
 	Pages->setHeaderHidden(true);
 	Pages->setFrameShape(QFrame::NoFrame);
 	connect(Pages, &QTreeWidget::itemClicked, this, [this](const QTreeWidgetItem* Item) { OpenPage(*Item); });

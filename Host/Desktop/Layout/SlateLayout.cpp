@@ -7,17 +7,17 @@
 
 namespace SlateLayout
 {
-	static int ToPixels(float Units)
+	int ToPixels(float Units)
 	{
 		return static_cast<int>(std::lround(Units));
 	}
 
-	static int ToPixels(const TOptional<float>& Units)
+	int ToPixels(const TOptional<float>& Units)
 	{
 		return Units.IsSet() ? ToPixels(Units.GetValue()) : -1;
 	}
 
-	static int Fit(int Length, int Least, int Most)
+	int Fit(int Length, int Least, int Most)
 	{
 		const int AtMost = Most >= 0 ? std::min(Length, Most) : Length;
 		return Least >= 0 ? std::max(AtMost, Least) : AtMost;

@@ -8,7 +8,7 @@
 
 namespace EditorStyle
 {
-	static void DrawTick(QPainter& Painter, const QRect& Rect, const QPalette& Palette, QStyle::State State)
+	void DrawTick(QPainter& Painter, const QRect& Rect, const QPalette& Palette, QStyle::State State)
 	{
 		const bool bOn = State.testFlag(QStyle::State_On);
 		const bool bSome = State.testFlag(QStyle::State_NoChange);
@@ -35,7 +35,7 @@ namespace EditorStyle
 	}
 
 	/** Lines on a field of 16 by 16. */
-	static QIcon MakeIcon(const std::vector<QPolygonF>& Lines)
+	QIcon MakeIcon(const std::vector<QPolygonF>& Lines)
 	{
 		QIcon Icon;
 		for (const int Scale : {1, 2})
@@ -226,6 +226,15 @@ int FEditorStyle::styleHint(StyleHint Hint, const QStyleOption* Option, const QW
 	}
 }
 
+namespace EditorStyle
+{
+	/** Not the lists of combos, nor text by lines. */
+	static bool IsPickedFrom(const QWidget* Widget)
+	{
+		return qobject_cast<const QTreeView*>(Widget) != nullptr || qobject_cast<const QListWidget*>(Widget) != nullptr;
+	}
+}
+
 QSize FEditorStyle::sizeFromContents(ContentsType Type, const QStyleOption* Option, const QSize& Size, const QWidget* Widget) const
 {
 	const QSize Wanted = QProxyStyle::sizeFromContents(Type, Option, Size, Widget);
@@ -235,13 +244,14 @@ QSize FEditorStyle::sizeFromContents(ContentsType Type, const QStyleOption* Opti
 		case CT_LineEdit: return QSize(Wanted.width(), EditorStyle::ControlHeight);
 		case CT_HeaderSection: return QSize(Wanted.width(), EditorStyle::ControlHeight);
 		case CT_MenuItem: return QSize(Wanted.width(), qMax(Wanted.height(), EditorStyle::ControlHeight - 2));
+		case CT_ItemViewItem: return EditorStyle::IsPickedFrom(Widget) ? Wanted.expandedTo(QSize(0, EditorStyle::RowHeight)) : Wanted;
 		default: return Wanted;
 	}
 }
 
 namespace EditorStyle
 {
-	static void DrawFrame(QPainter& Painter, const QRect& Rect, const QColor& Fill, const QColor& Line)
+	void DrawFrame(QPainter& Painter, const QRect& Rect, const QColor& Fill, const QColor& Line)
 	{
 		Painter.save();
 		Painter.setRenderHint(QPainter::Antialiasing);

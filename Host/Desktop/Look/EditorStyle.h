@@ -34,5 +34,6 @@ namespace EditorStyle
 	void DrawDownArrow(QPainter& Painter, const QRect& Rect, const QColor& Color);
 
 	constexpr int ControlHeight = 26;
+	constexpr int RowHeight = 21; // at least, of trees and lists that a person picks from
 	constexpr int Radius = 4;
 }

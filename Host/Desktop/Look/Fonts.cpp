@@ -13,13 +13,13 @@ namespace Fonts
 {
 	static const int StandardPixels = 13;
 
-	static int ToPixels(float Points)
+	int ToPixels(float Points)
 	{
 		return std::max(1, static_cast<int>(std::lround(Points * 96.0f / 72.0f)));
 	}
 
 	/** Read once; empty when there is no such file, or no font in it. */
-	static QString FindFamilyInFile(const QString& File)
+	QString FindFamilyInFile(const QString& File)
 	{
 		static QHash<QString, QString> Known;
 		const auto Found = Known.constFind(File);
@@ -33,7 +33,7 @@ namespace Fonts
 	}
 
 	/** Of the face's file, where the font has one; empty otherwise. */
-	static QString FindFamily(const UObject* FontObject, FName Typeface)
+	QString FindFamily(const UObject* FontObject, FName Typeface)
 	{
 		const UFont* const Font = Cast<UFont>(FontObject);
 		if (Font == nullptr)

@@ -37,7 +37,7 @@ namespace Theme
 
 	static EKind Current = EKind::Dark;
 
-	static QPalette MakePalette(const FScheme& Scheme)
+	QPalette MakePalette(const FScheme& Scheme)
 	{
 		QPalette Palette;
 		Palette.setColor(QPalette::Window, Scheme.Window);

@@ -15,7 +15,7 @@
 namespace ScriptPlayer
 {
 	/** "The designer signs in" becomes "the-designer-signs-in". */
-	static QString MakeFileName(const FString& Heading)
+	QString MakeFileName(const FString& Heading)
 	{
 		QString Name;
 		for (const QChar Character : QtText::From(Heading).toLower())
@@ -30,7 +30,7 @@ namespace ScriptPlayer
 	}
 
 	/** The window with the menus that are open over it. */
-	static QPixmap Draw(FMainWindow& Window)
+	QPixmap Draw(FMainWindow& Window)
 	{
 		QPixmap Picture = Window.grab();
 		QPainter Painter(&Picture);

@@ -14,7 +14,7 @@ namespace ButtonView
 	static const int ArrowWidth = 14;
 	static const int Gap = 6;
 
-	static bool HasContent(const TArray<FHostWidgetPart>& Parts)
+	bool HasContent(const TArray<FHostWidgetPart>& Parts)
 	{
 		return Parts.ContainsByPredicate([](const FHostWidgetPart& Part) { return Part.Widget != SNullWidget::NullWidget; });
 	}
@@ -166,5 +166,6 @@ void FButtonView::Refresh(FSeenWidget& Seen)
 		GetButton().setIcon(Icon.IsNone() ? QIcon() : Host.GetBrushes().FindIcon(Look.Brush.GetValue()));
 	}
 	GetButton().SetFlat(!Icon.IsNone());
-	GetButton().SetCaption(QtText::From(Seen.GetDescription().Label));
+	const bool bSilent = Icon.IsNone() && Seen.GetDescription().Label.IsEmpty(); // says what it does in its tip alone
+	GetButton().SetCaption(QtText::From(bSilent ? Seen.GetDescription().ToolTip : Seen.GetDescription().Label));
 }

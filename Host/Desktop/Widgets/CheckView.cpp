@@ -6,7 +6,7 @@
 
 namespace CheckView
 {
-	static Qt::CheckState ToQt(ECheckBoxState State)
+	Qt::CheckState ToQt(ECheckBoxState State)
 	{
 		switch (State)
 		{

@@ -11,7 +11,7 @@ namespace MenuPopup
 {
 	static const QMargins CustomPadding(12, 2, 12, 2);
 
-	static void AddEntry(QMenu& Target, FSeenWidget& Seen, IViewHost& Host)
+	void AddEntry(QMenu& Target, FSeenWidget& Seen, IViewHost& Host)
 	{
 		const FHostWidgetDescription& Description = Seen.GetDescription();
 		QAction* const Action = Target.addAction(QtText::From(Description.Label).replace(QLatin1Char('&'), QLatin1String("&&")));
@@ -36,7 +36,7 @@ namespace MenuPopup
 	}
 
 	/** An entry that opens a menu of its own beside this one. */
-	static void AddSubMenu(QMenu& Target, FSeenWidget& Seen, IViewHost& Host)
+	void AddSubMenu(QMenu& Target, FSeenWidget& Seen, IViewHost& Host)
 	{
 		QMenu* const Sub = Target.addMenu(QtText::From(Seen.GetDescription().Label));
 		Sub->menuAction()->setObjectName(QtText::From(Seen.GetDescription().Name));
@@ -61,7 +61,7 @@ namespace MenuPopup
 		});
 	}
 
-	static void AddWidget(QMenu& Target, const TSharedRef<SWidget>& Widget, IViewHost& Host)
+	void AddWidget(QMenu& Target, const TSharedRef<SWidget>& Widget, IViewHost& Host)
 	{
 		QWidgetAction* const Action = new QWidgetAction(&Target);
 		QWidget* const Frame = new QWidget(&Target);
@@ -73,7 +73,7 @@ namespace MenuPopup
 		Target.addAction(Action);
 	}
 
-	static void Add(QMenu& Target, const TSharedRef<SWidget>& Widget, IViewHost& Host)
+	void Add(QMenu& Target, const TSharedRef<SWidget>& Widget, IViewHost& Host)
 	{
 		FSeenWidget Seen(Widget);
 		if (!Seen.GetDescription().bVisible)

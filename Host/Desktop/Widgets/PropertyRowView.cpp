@@ -42,7 +42,7 @@ namespace PropertyRowView
 	};
 
 	/** The rows around a view's place; they hold each other's Qt widgets. */
-	static int DepthOf(const QWidget& Screen)
+	int DepthOf(const QWidget& Screen)
 	{
 		int Depth = 0;
 		for (const QWidget* Around = Screen.parentWidget(); Around != nullptr; Around = Around->parentWidget())
@@ -52,7 +52,7 @@ namespace PropertyRowView
 		return Depth;
 	}
 
-	static FSlotGeometry MakeSlot(double Fill, const QMargins& Padding = QMargins())
+	FSlotGeometry MakeSlot(double Fill, const QMargins& Padding = QMargins())
 	{
 		FSlotGeometry Slot;
 		Slot.Fill = Fill;
@@ -61,8 +61,21 @@ namespace PropertyRowView
 		return Slot;
 	}
 
+	/** What stands behind a value stands in its line, also when it is a list of things. */
+	static TArray<FHostWidgetPart> SideBySide(const FHostWidgetPart& Extension)
+	{
+		const bool bList = FHostWidgetAccess::Describe(*Extension.Widget).Role == TEXT("panel");
+		TArray<FHostWidgetPart> Parts = bList ? FHostWidgetAccess::PartsOf(Extension.Widget) : TArray<FHostWidgetPart>{Extension};
+		for (FHostWidgetPart& Part : Parts)
+		{
+			Part.Padding = FMargin(4.0f, 0.0f, 0.0f, 0.0f);
+			Part.VerticalAlignment = VAlign_Center;
+		}
+		return Parts;
+	}
+
 	/** Fields take the whole column; what has a size of its own keeps it. */
-	static bool FillsColumn(const TSharedRef<SWidget>& Widget)
+	bool FillsColumn(const TSharedRef<SWidget>& Widget)
 	{
 		const FHostWidgetDescription Description = FHostWidgetAccess::Describe(*Widget);
 		for (const TCHAR* Role : {TEXT("edit"), TEXT("search"), TEXT("combo"), TEXT("list"), TEXT("tiles"), TEXT("text")})
@@ -192,8 +205,7 @@ void FPropertyRowView::FitLine(FSeenWidget& Seen)
 		}
 		else if (Part.Kind == EHostPart::RowExtension)
 		{
-			Placed.Padding = FMargin(4.0f, 0.0f, 0.0f, 0.0f);
-			Values.Add(Placed);
+			Values.Append(PropertyRowView::SideBySide(Placed));
 		}
 	}
 	Name.Fit(Names);

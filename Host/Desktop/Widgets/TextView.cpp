@@ -10,7 +10,7 @@
 
 namespace TextView
 {
-	static Qt::Alignment AlignmentOf(EHorizontalAlignment Alignment)
+	Qt::Alignment AlignmentOf(EHorizontalAlignment Alignment)
 	{
 		switch (Alignment)
 		{
@@ -21,7 +21,7 @@ namespace TextView
 	}
 
 	/** White means the editor's own colour of texts, which a light theme has dark. */
-	static QColor ColorOf(const FSlateColor& Color)
+	QColor ColorOf(const FSlateColor& Color)
 	{
 		const bool bOwn = !Color.IsColorSpecified() || Color.GetSpecifiedColor() == FLinearColor::White;
 		return bOwn ? QColor() : Theme::ToQt(Color.GetSpecifiedColor());

@@ -18,7 +18,7 @@
 namespace ViewTable
 {
 	template<typename ViewType>
-	static std::unique_ptr<FWidgetView> MakeOne(IViewHost& Host, QWidget& Parent)
+	std::unique_ptr<FWidgetView> MakeOne(IViewHost& Host, QWidget& Parent)
 	{
 		return std::make_unique<ViewType>(Host, Parent);
 	}

@@ -18,13 +18,13 @@ namespace CommandPalette
 	static const std::size_t MostShown = 100;
 	static const int PlaceRole = Qt::UserRole;
 
-	static QString Plain(QString Text)
+	QString Plain(QString Text)
 	{
 		return Text.remove(QLatin1Char('&'));
 	}
 
 	/** The entries of an open menu, sections and all, with their labels. */
-	static void CollectEntries(const TSharedRef<SWidget>& Menu, TArray<FHostWidgetDescription>& OutEntries)
+	void CollectEntries(const TSharedRef<SWidget>& Menu, TArray<FHostWidgetDescription>& OutEntries)
 	{
 		const FHostWidgetDescription Description = FHostWidgetAccess::Describe(*Menu);
 		if (!Description.bVisible)
@@ -41,7 +41,7 @@ namespace CommandPalette
 		}
 	}
 
-	static void CollectButtons(const TSharedRef<SWidget>& Toolbar, TArray<FHostWidgetDescription>& OutButtons)
+	void CollectButtons(const TSharedRef<SWidget>& Toolbar, TArray<FHostWidgetDescription>& OutButtons)
 	{
 		const FHostWidgetDescription Description = FHostWidgetAccess::Describe(*Toolbar);
 		if (Description.Role == TEXT("menu button"))

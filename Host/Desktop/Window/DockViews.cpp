@@ -16,7 +16,7 @@
 namespace DockViews
 {
 	template<typename DockType>
-	static FDockView* MakeOne(IWindowServices& Services, QWidget* Parent)
+	FDockView* MakeOne(IWindowServices& Services, QWidget* Parent)
 	{
 		return new DockType(Services, Parent);
 	}

@@ -16,7 +16,7 @@ namespace EditorMenus
 	static const TCHAR* const PanelClass = TEXT("/Script/Blutility.EditorUtilityWidgetBlueprint");
 
 	/** The title of the step that would be undone (0) or done again (1); empty when there is none. */
-	static QString FindStep(int32 Offset)
+	QString FindStep(int32 Offset)
 	{
 		const UTransactor* Steps = GEditor != nullptr ? GEditor->Trans.Get() : nullptr;
 		if (Steps == nullptr)
@@ -27,7 +27,7 @@ namespace EditorMenus
 		return Index >= 0 && Index < Steps->GetQueueLength() ? QtText::From(Steps->GetTransaction(Index)->GetTitle()) : QString();
 	}
 
-	static void FitStep(QAction& Action, const QString& Verb, const QString& Step)
+	void FitStep(QAction& Action, const QString& Verb, const QString& Step)
 	{
 		const QString Text = Step.isEmpty() ? Verb : QStringLiteral("%1: %2").arg(Verb, Step);
 		if (Action.text() != Text)

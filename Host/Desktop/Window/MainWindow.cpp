@@ -133,15 +133,27 @@ void FMainWindow::MakeDocks()
 /** Wide middle, tools around it; what a person arranged takes its place. */
 void FMainWindow::ArrangeAtFirst()
 {
+	QList<QDockWidget*> Across;
+	QList<int> Widths;
+	QList<QDockWidget*> Down;
+	QList<int> Heights;
 	for (const FFixedDock& Each : Docks)
 	{
-		switch (dockWidgetArea(Each.Dock))
+		const Qt::DockWidgetArea Area = dockWidgetArea(Each.Dock);
+		if (!Each.Dock->isVisible())
 		{
-			case Qt::RightDockWidgetArea: resizeDocks({Each.Dock}, {MainWindow::SideWidth}, Qt::Horizontal); break;
-			case Qt::BottomDockWidgetArea: resizeDocks({Each.Dock}, {MainWindow::BottomHeight}, Qt::Vertical); break;
-			default: break;
+			continue; // behind another tab, or closed
+		}
+		Across.append(Each.Dock);
+		Widths.append(Area == Qt::RightDockWidgetArea || Area == Qt::LeftDockWidgetArea ? MainWindow::SideWidth : width() - MainWindow::SideWidth);
+		if (Area == Qt::TopDockWidgetArea || Area == Qt::BottomDockWidgetArea)
+		{
+			Down.append(Each.Dock);
+			Heights.append(Area == Qt::BottomDockWidgetArea ? MainWindow::BottomHeight : height() - MainWindow::BottomHeight);
 		}
 	}
+	resizeDocks(Across, Widths, Qt::Horizontal);
+	resizeDocks(Down, Heights, Qt::Vertical);
 }
 
 void FMainWindow::Welcome()

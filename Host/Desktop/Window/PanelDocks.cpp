@@ -172,11 +172,11 @@ QDockWidget* FPanelDocks::MakeDock(const FOpen& Open)
 	{
 		Window.addDockWidget(Open.Area, Dock);
 		Window.resizeDocks({Dock}, {PanelDocks::FirstWidth}, Qt::Horizontal);
-		for (const auto& Other : Docks)
+		for (QDockWidget* const Other : Window.findChildren<QDockWidget*>(QString(), Qt::FindDirectChildrenOnly))
 		{
-			if (Other.second && Other.second != Dock && Window.dockWidgetArea(Other.second) == Open.Area)
+			if (Other != Dock && !Other->isFloating() && !Other->isHidden() && Window.dockWidgetArea(Other) == Open.Area)
 			{
-				Window.tabifyDockWidget(Other.second, Dock);
+				Window.tabifyDockWidget(Other, Dock);
 				break;
 			}
 		}

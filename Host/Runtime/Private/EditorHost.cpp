@@ -84,7 +84,7 @@ FEditorHost::FEditorHost(const FEditorHostOptions& Options)
 
 FEditorHost::~FEditorHost()
 {
-	// The toolkit's modules first, the last loaded first, while every engine module is still there. Module objects go last: raw
+	// The plugins' modules first, the last loaded first, while every engine module is still there. Module objects go last: raw
 	// bindings to them may be destroyed after their shut-down, but are never called.
 	TArray<FName> ShutdownOrder;
 	for (int32 Index = PluginModules.Num() - 1; Index >= 0; --Index)
@@ -113,7 +113,7 @@ void FEditorHost::BringUpEngine(const FEditorHostOptions& Options)
 	{
 		HostPaths::SetProjectDir(Options.Project);
 	}
-	HostPaths::SetPluginDirs(Options.PluginDirs.IsEmpty() ? TArray<FString>{TEXT(VELMORANT_PLUGIN_DIR)} : Options.PluginDirs);
+	HostPaths::SetPluginDirs(Options.PluginDirs.IsEmpty() ? TArray<FString>{HostPaths::FindProgramData(TEXT("Plugins"))} : Options.PluginDirs);
 	if (!Options.UserSettingsDir.IsEmpty())
 	{
 		HostPaths::SetUserSettingsDir(Options.UserSettingsDir);

@@ -12,13 +12,13 @@ namespace ToolbarHost
 	/** By which plugins extend the toolbar. */
 	static const TCHAR* const MenuName = TEXT("LevelEditor.LevelEditorToolBar.PlayToolBar");
 
-	static bool OpensMenu(SWidget& Widget)
+	bool OpensMenu(SWidget& Widget)
 	{
 		return FHostWidgetAccess::Describe(Widget).Role == TEXT("menu button");
 	}
 
 	/** What is open below a button; null while nothing is, and for anything but a button that opens a menu. */
-	static TSharedPtr<SWidget> MenuBelow(const TSharedPtr<SWidget>& Button)
+	TSharedPtr<SWidget> MenuBelow(const TSharedPtr<SWidget>& Button)
 	{
 		if (!Button.IsValid() || !OpensMenu(*Button))
 		{
@@ -29,7 +29,7 @@ namespace ToolbarHost
 	}
 
 	/** The names of the buttons that open menus; nothing of what is open below them. */
-	static void ListButtons(const TSharedRef<SWidget>& Widget, TArray<FString>& OutNames)
+	void ListButtons(const TSharedRef<SWidget>& Widget, TArray<FString>& OutNames)
 	{
 		const FHostWidgetDescription Seen = FHostWidgetAccess::Describe(*Widget);
 		if (Seen.Role == TEXT("menu button"))
@@ -43,7 +43,7 @@ namespace ToolbarHost
 		}
 	}
 
-	static bool HasOpenMenu(const TSharedRef<SWidget>& Widget)
+	bool HasOpenMenu(const TSharedRef<SWidget>& Widget)
 	{
 		if (MenuBelow(Widget).IsValid())
 		{

@@ -11,21 +11,18 @@
 
 namespace WriteNotices
 {
-	namespace
-	{
-		constexpr float SecondsToRead = 10.0f; // a path, a reason and a remedy
+	constexpr float SecondsToRead = 10.0f; // a path, a reason and a remedy
 
-		/** Where notifications are refused, the programs' own report of the problem has to do. */
-		void Show(const FHostProblem& Problem)
+	/** Where notifications are refused, the programs' own report of the problem has to do. */
+	void Show(const FHostProblem& Problem)
+	{
+		FNotificationInfo Info(FText::Format(LOCTEXT("NotWritten", "Not written: {0}"), FText::FromString(FPaths::GetCleanFilename(Problem.File))));
+		Info.SubText = FText::FromString(HostProblems::ToString(Problem));
+		Info.ExpireDuration = SecondsToRead;
+		Info.bUseSuccessFailIcons = true;
+		if (const TSharedPtr<SNotificationItem> Item = FSlateNotificationManager::Get().AddNotification(Info))
 		{
-			FNotificationInfo Info(FText::Format(LOCTEXT("NotWritten", "Not written: {0}"), FText::FromString(FPaths::GetCleanFilename(Problem.File))));
-			Info.SubText = FText::FromString(HostProblems::ToString(Problem));
-			Info.ExpireDuration = SecondsToRead;
-			Info.bUseSuccessFailIcons = true;
-			if (const TSharedPtr<SNotificationItem> Item = FSlateNotificationManager::Get().AddNotification(Info))
-			{
-				Item->SetCompletionState(SNotificationItem::CS_Fail);
-			}
+			Item->SetCompletionState(SNotificationItem::CS_Fail);
 		}
 	}
 

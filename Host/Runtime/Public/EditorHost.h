@@ -15,7 +15,7 @@ struct FEditorHostOptions
 	FString Project;
 
 	/**
-	 * The process's command line: switches such as -VelmorantService=FILE, which the toolkit's modules read, and the engine's own:
+	 * The process's command line: switches that the plugins read, and the engine's own:
 	 * -unattended (nobody answers questions), -run=NAME (a commandlet: no user interface), -nullrhi (a user interface that is not drawn).
 	 */
 	FString CommandLine;
@@ -26,7 +26,7 @@ struct FEditorHostOptions
 	/** Whose configuration counts, one of HostConfig::GetPlatforms(); empty: this machine's. */
 	FString Platform;
 
-	/** Folders whose sub-folders are plugins; empty: those that this program was built with. */
+	/** Folders whose sub-folders are plugins; empty: those that come with the program. */
 	TArray<FString> PluginDirs;
 
 	/** Where user settings go; empty: $XDG_CONFIG_HOME/velmorant or ~/.config/velmorant. */
@@ -46,7 +46,7 @@ struct FEditorHostOptions
 };
 
 /**
- * One running editor: constructing it brings the engine up, loads the toolkit's modules and opens the start-up map; destroying it
+ * One running editor: constructing it brings the engine up, loads the modules of the plugins and opens the start-up map; destroying it
  * takes everything down, so that the next one in the same process starts fresh. One at a time; single thread.
  *
  * What goes wrong with files is told to HostProblems; log lines and notifications are recorded by their own modules. The log

@@ -35,7 +35,7 @@ public:
 
 	/**
 	 * Opens the panel of a widget blueprint.
-	 * @param AssetPath "/VelmorantPro/EditorHelpers/Panel", also with ".Panel" behind it
+	 * @param AssetPath "/Plugin/Folder/Panel", also with ".Panel" behind it
 	 * @param Name      empty: the asset's own name. Names ignore case; one that is in use is refused
 	 * @return null with a reason
 	 */

@@ -4,11 +4,13 @@
 
 #include "TestPrinters.h"
 
-namespace
+namespace ColorTest
 {
 	// Built before main from another file's constants.
 	const FLinearColor StaticPurple(FColor::Purple);
 }
+
+using namespace ColorTest;
 
 TEST(Color, ConvertsFromSrgbChannelByChannelButNotOpacity)
 {

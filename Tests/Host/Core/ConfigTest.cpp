@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-namespace
+namespace ConfigTest
 {
 	class Config : public FEditorFilesTest
 	{

@@ -4,6 +4,7 @@
 #include "HAL/FileManager.h"
 #include "HostFiles.h"
 #include "HostQuestions.h"
+#include "HostStaging.h"
 
 #include <csignal>
 #include <fcntl.h>
@@ -11,17 +12,17 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 
-namespace
+namespace FilesOnDisk
 {
 	std::string Flushed; // a letter for each flush: of a file or of a directory
 	bool bFlushFails = false;
 
 	const char* const LeftReadOnly = "the file is read-only and was left as it is. Make it writable, or check it out in version control.\n";
 
-	class HostFilesTest : public FEditorFilesTest
+	class FilesOnDisk : public FEditorFilesTest
 	{
 	protected:
-		~HostFilesTest() override { HostFiles::SetBeforeRename(nullptr); }
+		~FilesOnDisk() override { HostFiles::SetBeforeRename(nullptr); }
 
 		void SetMode(std::string_view File, mode_t Mode) const { ASSERT_EQ(chmod(Folder.GetNative(File).c_str(), Mode), 0); }
 
@@ -52,7 +53,7 @@ namespace
 		}
 	};
 
-	TEST_F(HostFilesTest, ReplacesAFileWithoutTouchingTheOldOne)
+	TEST_F(FilesOnDisk, ReplacesAFileWithoutTouchingTheOldOne)
 	{
 		Folder.Write("File", "old");
 		const ino_t Before = GetStatus("File").st_ino;
@@ -65,7 +66,7 @@ namespace
 		EXPECT_EQ(Old, "old");
 	}
 
-	TEST_F(HostFilesTest, KeepsTheModeOfAnExistingFile)
+	TEST_F(FilesOnDisk, KeepsTheModeOfAnExistingFile)
 	{
 		for (const mode_t Mode : {0640u, 01666u, 0200u})
 		{
@@ -77,7 +78,7 @@ namespace
 		}
 	}
 
-	TEST_F(HostFilesTest, KeepsTheOwnerWhereItMay)
+	TEST_F(FilesOnDisk, KeepsTheOwnerWhereItMay)
 	{
 		if (geteuid() != 0)
 		{
@@ -90,7 +91,7 @@ namespace
 		EXPECT_EQ(GetStatus("File").st_gid, 1234u);
 	}
 
-	TEST_F(HostFilesTest, WritesThroughSymbolicLinks)
+	TEST_F(FilesOnDisk, WritesThroughSymbolicLinks)
 	{
 		struct FCase
 		{
@@ -114,7 +115,7 @@ namespace
 		}
 	}
 
-	TEST_F(HostFilesTest, RefusesWhatMustNotBeReplaced)
+	TEST_F(FilesOnDisk, RefusesWhatMustNotBeReplaced)
 	{
 		Folder.Write("ReadOnly", "old");
 		SetMode("ReadOnly", 0444);
@@ -149,7 +150,7 @@ namespace
 		EXPECT_EQ(Folder.Read("ReadOnly"), "new");
 	}
 
-	TEST_F(HostFilesTest, AReadOnlyFileThatHoldsTheBytesAlreadyIsNoProblem)
+	TEST_F(FilesOnDisk, AReadOnlyFileThatHoldsTheBytesAlreadyIsNoProblem)
 	{
 		Folder.Write("ReadOnly", "same");
 		SetMode("ReadOnly", 0444);
@@ -159,7 +160,7 @@ namespace
 		EXPECT_EQ(GetProblems(), "");
 	}
 
-	TEST_F(HostFilesTest, ACrashBetweenWriteAndRenameLeavesTheOldFileAndIsTidiedUp)
+	TEST_F(FilesOnDisk, ACrashBetweenWriteAndRenameLeavesTheOldFileAndIsTidiedUp)
 	{
 		Folder.Write("sub/File", "old");
 		const int Status = Wait(Fork([this] {
@@ -175,7 +176,44 @@ namespace
 		EXPECT_EQ(Folder.Count("sub"), 1u);
 	}
 
-	TEST_F(HostFilesTest, WhatOthersCallTemporaryIsTheirs)
+	TEST_F(FilesOnDisk, WhatIsPreparedTakesItsPlaceInOneStep)
+	{
+		Folder.Write("Stage/File", "new");
+		Folder.Write("Stage/Whole/In/It", "new");
+		Folder.Write("sub/File", "old");
+		SetMode("sub/File", 0604);
+		EXPECT_TRUE(HostStaging::Move(Folder.Get("Stage/File"), Folder.Get("sub/File")));
+		EXPECT_EQ(Folder.Read("sub/File"), "new");
+		EXPECT_EQ(std::filesystem::status(Folder.GetNative("sub/File")).permissions(), std::filesystem::perms(0604)) << "as the file before";
+		EXPECT_TRUE(HostStaging::Move(Folder.Get("Stage/Whole"), Folder.Get("not/there/yet")));
+		EXPECT_EQ(Folder.Read("not/there/yet/In/It"), "new");
+		EXPECT_EQ(Folder.Count("Stage"), 0u);
+		EXPECT_EQ(GetProblems(), "");
+
+		SetMode("sub/File", 0444);
+		Folder.Write("Stage/File", "newer");
+		Folder.Write("Stage/Folder/File", "newer");
+		EXPECT_FALSE(HostStaging::Move(Folder.Get("Stage/File"), Folder.Get("sub/File")));
+		EXPECT_FALSE(HostStaging::Move(Folder.Get("Stage/Folder"), Folder.Get("not/there/yet"))) << "a folder replaces none";
+		EXPECT_FALSE(HostStaging::Move(Folder.Get("Nothing"), Folder.Get("sub/Other")));
+		EXPECT_NE(GetProblems().find("the file is read-only and was left as it is"), std::string::npos);
+		EXPECT_NE(GetProblems().find("sub/Other: what was prepared for this place cannot be put there: No such file or directory"), std::string::npos);
+		EXPECT_EQ(Folder.Read("sub/File"), "new");
+	}
+
+	TEST_F(FilesOnDisk, AFolderIsDeletedWithAllInItAndLinksLeadNowhere)
+	{
+		Folder.Write("Stage/a/b/File", "");
+		Folder.Write("Kept/File", "kept");
+		std::filesystem::create_symlink(Folder.GetNative("Kept"), Folder.GetNative("Stage/Link"));
+		EXPECT_TRUE(HostStaging::DeleteDirectory(Folder.Get("Stage")));
+		EXPECT_FALSE(Folder.Exists("Stage"));
+		EXPECT_EQ(Folder.Read("Kept/File"), "kept");
+		EXPECT_TRUE(HostStaging::DeleteDirectory(Folder.Get("Stage"))) << "it is not there";
+		EXPECT_EQ(GetProblems(), "");
+	}
+
+	TEST_F(FilesOnDisk, WhatOthersCallTemporaryIsTheirs)
 	{
 		const std::vector<std::string> Theirs = {"Config/.velmorant-1-.tmp", "Config/.velmorant-1-2.tmp~", "Config/.velmorant-1-x.tmp", "Config/.velmorant-notes.tmp", "Config/.velmorant.tmp", "Config/File.ini.tmp", "Config/a.velmorant-1-2.tmp"};
 		for (const std::string& File : Theirs)
@@ -191,7 +229,7 @@ namespace
 		EXPECT_EQ(Folder.Read(Theirs[0]), "theirs");
 	}
 
-	TEST_F(HostFilesTest, AWriteThatFailsHalfWayIsToldEachTimeAndLeavesNothing)
+	TEST_F(FilesOnDisk, AWriteThatFailsHalfWayIsToldEachTimeAndLeavesNothing)
 	{
 		std::vector<std::string> Told;
 		HostProblems::SetNotWrittenListener([&Told](const FHostProblem& Problem) { Told.push_back(ToUtf8(HostProblems::ToString(Problem))); });
@@ -209,7 +247,7 @@ namespace
 		EXPECT_TRUE(HostFiles::GetWrittenFiles().IsEmpty());
 	}
 
-	TEST_F(HostFilesTest, AsksBeforeAReadOnlyFileOfAProjectUnderVersionControlIsWritten)
+	TEST_F(FilesOnDisk, AsksBeforeAReadOnlyFileOfAProjectUnderVersionControlIsWritten)
 	{
 		const struct
 		{
@@ -277,7 +315,7 @@ namespace
 		}
 	}
 
-	TEST_F(HostFilesTest, AFileThatGoesDuringTheQuestionIsNotWritten)
+	TEST_F(FilesOnDisk, AFileThatGoesDuringTheQuestionIsNotWritten)
 	{
 		Folder.Write(".git", "");
 		Folder.Write("File", "old");
@@ -290,7 +328,7 @@ namespace
 		EXPECT_EQ(GetProblems(), "the file cannot be made writable: No such file or directory. Check whose file it is.\n");
 	}
 
-	TEST_F(HostFilesTest, AsksNothingWhereNothingIsAtStake)
+	TEST_F(FilesOnDisk, AsksNothingWhereNothingIsAtStake)
 	{
 		Folder.Write(".git", "");
 		Folder.Write("File", "old");
@@ -306,7 +344,7 @@ namespace
 		EXPECT_EQ(GetStatus("File").st_mode & 0777, 0444u);
 	}
 
-	TEST_F(HostFilesTest, ReadsWhatIsThereAndSaysWhatIsNot)
+	TEST_F(FilesOnDisk, ReadsWhatIsThereAndSaysWhatIsNot)
 	{
 		Folder.Write("File", "text");
 		std::string Bytes = "left over";
@@ -324,7 +362,7 @@ namespace
 		EXPECT_EQ(Bytes, std::string(std::istreambuf_iterator<char>(Endless), {}));
 	}
 
-	TEST_F(HostFilesTest, ResolvesPathsToWhereTheyLead)
+	TEST_F(FilesOnDisk, ResolvesPathsToWhereTheyLead)
 	{
 		Folder.Write("Real/File", "");
 		std::filesystem::create_directory_symlink("Real", Folder.GetNative("Link"));
@@ -350,7 +388,7 @@ namespace
 		}
 	}
 
-	TEST_F(HostFilesTest, TheNewFileIsCompleteBeforeTheOldOneGoes)
+	TEST_F(FilesOnDisk, TheNewFileIsCompleteBeforeTheOldOneGoes)
 	{
 		static std::string Seen;
 		Seen.clear();
@@ -366,7 +404,7 @@ namespace
 		EXPECT_EQ(Seen, "new|old|");
 	}
 
-	TEST_F(HostFilesTest, WhatCannotBeWrittenToTheEndOrFlushedIsNotWritten)
+	TEST_F(FilesOnDisk, WhatCannotBeWrittenToTheEndOrFlushedIsNotWritten)
 	{
 		Flushed.clear();
 		ASSERT_TRUE(Write("File", "old"));
@@ -383,14 +421,14 @@ namespace
 			const bool bWritten = Write("File", "new");
 			setrlimit(RLIMIT_FSIZE, &Usual);
 			bFlushFails = false;
-			EXPECT_FALSE(bWritten);
+			EXPECT_FALSE(bWritten) << Why;
 			EXPECT_EQ(GetProblems(), std::string("the file cannot be written and is as it was: ") + Why + ". Check free space and the permissions of its folder.\n");
 			EXPECT_EQ(Folder.Read("File"), "old");
 			EXPECT_EQ(Folder.Count(), 1u);
 		}
 	}
 
-	TEST_F(HostFilesTest, WritesWithoutAStandardInput)
+	TEST_F(FilesOnDisk, WritesWithoutAStandardInput)
 	{
 		std::filesystem::create_directory(Folder.GetNative("sub"));
 		const int Status = Wait(Fork([this] {
@@ -406,7 +444,7 @@ namespace
 		EXPECT_EQ(Status, 0);
 	}
 
-	TEST_F(HostFilesTest, ListsWrittenFilesOnceInOrder)
+	TEST_F(FilesOnDisk, ListsWrittenFilesOnceInOrder)
 	{
 		Write("b", "1");
 		Write("a", "1");
@@ -414,7 +452,7 @@ namespace
 		EXPECT_EQ(ToUtf8(HostFiles::GetWrittenFiles()), (std::vector<std::string>{ToUtf8(Folder.Get("b")), ToUtf8(Folder.Get("a"))}));
 	}
 
-	TEST_F(HostFilesTest, FilesOfTheUsersSettingsAreForTheirOwnerOnly)
+	TEST_F(FilesOnDisk, FilesOfTheUsersSettingsAreForTheirOwnerOnly)
 	{
 		ASSERT_TRUE(Write("settings/sub/User.json", "{}"));
 		ASSERT_TRUE(Write("project/File", "{}"));
@@ -426,7 +464,7 @@ namespace
 		EXPECT_EQ(GetStatus("settings/sub/User.json").st_mode & 0777, 0600u) << "who could read it before cannot any longer";
 	}
 
-	TEST_F(HostFilesTest, FindsFilesInAllFoldersSortedAndWithoutGoingInCircles)
+	TEST_F(FilesOnDisk, FindsFilesInAllFoldersSortedAndWithoutGoingInCircles)
 	{
 		Folder.Write("Content/b.json", "");
 		Folder.Write("Content/A/c.json", "");
@@ -442,7 +480,7 @@ namespace
 		EXPECT_EQ(ToUtf8(HostFiles::FindDirectories(Folder.Get("Content"))), ToUtf8(TArray<FString>{Folder.Get("Content/0"), Folder.Get("Content/A"), Folder.Get("Content/Z")}));
 	}
 
-	TEST_F(HostFilesTest, AnOverlayShowsWritesAndLeavesTheDiskAlone)
+	TEST_F(FilesOnDisk, AnOverlayShowsWritesAndLeavesTheDiskAlone)
 	{
 		Folder.Write("Content/kept.json", "disk");
 		Folder.Write("Content/gone.json", "disk");
@@ -469,7 +507,7 @@ namespace
 		EXPECT_FALSE(Pending[2].bDeleted);
 	}
 
-	TEST_F(HostFilesTest, AnOverlayKnowsFoldersAndForgetsWhatIsDeleted)
+	TEST_F(FilesOnDisk, AnOverlayKnowsFoldersAndForgetsWhatIsDeleted)
 	{
 		using EKind = HostFiles::EKind;
 		Folder.Write("Content/disk.json", "disk");
@@ -504,7 +542,7 @@ namespace
 		EXPECT_FALSE(Folder.Exists("Made"));
 	}
 
-	TEST_F(HostFilesTest, AnOverlayRefusesWhatTheDiskWouldRefuse)
+	TEST_F(FilesOnDisk, AnOverlayRefusesWhatTheDiskWouldRefuse)
 	{
 		Folder.Write("ReadOnly", "old");
 		SetMode("ReadOnly", 0444);
@@ -513,7 +551,7 @@ namespace
 		EXPECT_EQ(GetProblems(), LeftReadOnly);
 	}
 
-	TEST_F(HostFilesTest, AnOverlayEndsWithItsEditor)
+	TEST_F(FilesOnDisk, AnOverlayEndsWithItsEditor)
 	{
 		HostFiles::BeginOverlay();
 		Write("File", "overlay");
@@ -522,7 +560,7 @@ namespace
 		EXPECT_FALSE(HostFiles::FileExists(Folder.Get("File")));
 	}
 
-	TEST_F(HostFilesTest, ALockKeepsOtherProcessesOutUntilTheLastOfItsNestedLocksGoes)
+	TEST_F(FilesOnDisk, ALockKeepsOtherProcessesOutUntilTheLastOfItsNestedLocksGoes)
 	{
 		const auto IsFreeForOthers = [this] {
 			return Wait(Fork([this] {
@@ -542,7 +580,7 @@ namespace
 		EXPECT_TRUE(IsFreeForOthers());
 	}
 
-	TEST_F(HostFilesTest, ChecksBeforehandWhetherAFileCouldBeWritten)
+	TEST_F(FilesOnDisk, ChecksBeforehandWhetherAFileCouldBeWritten)
 	{
 		Folder.Write("Config/Fine.ini", "");
 		Folder.Write("Config/ReadOnly.ini", "");
@@ -558,7 +596,7 @@ namespace
 		EXPECT_FALSE(Folder.Exists("New"));
 	}
 
-	TEST_F(HostFilesTest, TheFileManagerDeletesAndToleratesWhatIsNotThere)
+	TEST_F(FilesOnDisk, TheFileManagerDeletesAndToleratesWhatIsNotThere)
 	{
 		Folder.Write("File", "");
 		Folder.Write("ReadOnly", "");
@@ -576,7 +614,7 @@ namespace
 		EXPECT_EQ(GetProblems(), "the file cannot be deleted: Operation not permitted. Check the permissions of its folder.\n");
 	}
 
-	TEST_F(HostFilesTest, TheFileManagerCopiesOverWhatMayBeReplaced)
+	TEST_F(FilesOnDisk, TheFileManagerCopiesOverWhatMayBeReplaced)
 	{
 		const std::string Bytes("a\0b\n", 4);
 		Folder.Write("Source", Bytes);
@@ -596,7 +634,7 @@ namespace
 		EXPECT_EQ(Folder.Read("Old"), Bytes);
 	}
 
-	TEST_F(HostFilesTest, TheFileManagerFindsFilesByExtension)
+	TEST_F(FilesOnDisk, TheFileManagerFindsFilesByExtension)
 	{
 		for (const char* Name : {"Fonts/b.ttf", "Fonts/a.ttf", "Fonts/a.woff2", "Fonts/attf", "Fonts/Deep/c.ttf"})
 		{
@@ -619,7 +657,7 @@ extern "C" int fsync(int File)
 {
 	struct stat Status = {};
 	fstat(File, &Status);
-	Flushed += S_ISDIR(Status.st_mode) ? 'd' : 'f';
+	FilesOnDisk::Flushed += S_ISDIR(Status.st_mode) ? 'd' : 'f';
 	errno = EIO;
-	return bFlushFails ? -1 : 0;
+	return FilesOnDisk::bFlushFails ? -1 : 0;
 }

@@ -8,7 +8,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace
+namespace LeftoversTest
 {
 	int Reached[2]; // a writer in another process says that its file is complete,
 	int GoOn[2]; // and waits until it may put it into its place
@@ -22,16 +22,18 @@ namespace
 		}
 	}
 
-	class FLeftoversTest : public FEditorFilesTest
+	class Leftovers : public FEditorFilesTest
 	{
 	protected:
-		~FLeftoversTest() override { HostFiles::SetBeforeRename(nullptr); }
+		~Leftovers() override { HostFiles::SetBeforeRename(nullptr); }
 
 		static inline const std::string Leftover = ".velmorant-1-2.tmp";
 	};
 }
 
-TEST_F(FLeftoversTest, GoBelowAFolderAndNothingElseDoes)
+using namespace LeftoversTest;
+
+TEST_F(Leftovers, GoBelowAFolderAndNothingElseDoes)
 {
 	for (const std::string Directory : {"Top/", "Top/Deep/Down/", "Elsewhere/"})
 	{
@@ -55,7 +57,7 @@ TEST_F(FLeftoversTest, GoBelowAFolderAndNothingElseDoes)
 	EXPECT_EQ(GetProblems(), "");
 }
 
-TEST_F(FLeftoversTest, AreNotTheFilesOfWritersWhoStillLive)
+TEST_F(Leftovers, AreNotTheFilesOfWritersWhoStillLive)
 {
 	ASSERT_EQ(pipe(Reached), 0);
 	ASSERT_EQ(pipe(GoOn), 0);
@@ -76,7 +78,7 @@ TEST_F(FLeftoversTest, AreNotTheFilesOfWritersWhoStillLive)
 	}
 }
 
-TEST_F(FLeftoversTest, GoWithThePrivateFileThatIsDeleted)
+TEST_F(Leftovers, GoWithThePrivateFileThatIsDeleted)
 {
 	Folder.Write("settings/" + Leftover, "a password");
 	Folder.Write("Config/" + Leftover, "no secret");
@@ -86,7 +88,7 @@ TEST_F(FLeftoversTest, GoWithThePrivateFileThatIsDeleted)
 	EXPECT_TRUE(Folder.Exists("Config/" + Leftover));
 }
 
-TEST_F(FLeftoversTest, StayWhereTheDiskIsNotToBeTouched)
+TEST_F(Leftovers, StayWhereTheDiskIsNotToBeTouched)
 {
 	Folder.Write("settings/" + Leftover, "a password");
 	HostFiles::BeginOverlay();

@@ -12,7 +12,7 @@
 DEFINE_LOG_CATEGORY_STATIC(LogHostLogTest, Log, All);
 DEFINE_LOG_CATEGORY_STATIC(LogHostLogTestQuiet, Warning, Warning);
 
-namespace
+namespace LogTest
 {
 	class FLogTest : public testing::Test
 	{
@@ -67,6 +67,8 @@ namespace
 		return bOk ? 0 : Place;
 	}
 }
+
+using namespace LogTest;
 
 TEST_F(Log, LinesSayCategoryAndLevelExceptForLog)
 {

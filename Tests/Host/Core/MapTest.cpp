@@ -287,9 +287,9 @@ TEST(Set, SaysWhetherAnElementWasThere)
 	TSet<int32> Set = {1, 2};
 	bool bThere = false;
 	Set.Add(2, &bThere);
-	EXPECT_TRUE(bThere);
+	EXPECT_TRUE(bThere) << "2 was in the set already";
 	Set.Add(3, &bThere);
-	EXPECT_FALSE(bThere);
+	EXPECT_FALSE(bThere) << "3 is new";
 	EXPECT_EQ(Set.Array(), (TArray<int32>{1, 2, 3}));
 	EXPECT_EQ(Set.Remove(2), 1);
 	EXPECT_EQ(Set.Remove(2), 0);

@@ -43,10 +43,8 @@ IMPLEMENT_MODULE(ModuleManagerTest::FBaseModule, TestBase)
 IMPLEMENT_MODULE(ModuleManagerTest::FToolModule, TestTool)
 IMPLEMENT_MODULE(ModuleManagerTest::FStubbornModule, TestStubborn)
 
-namespace
+namespace ModuleManagerTest
 {
-	using namespace ModuleManagerTest;
-
 	class ModuleManager : public FEditorFilesTest
 	{
 	protected:

@@ -10,11 +10,13 @@
 
 static_assert(sizeof(FName) == 12 && std::is_trivially_copyable_v<FName>);
 
-namespace
+namespace NameTest
 {
 	// Built before main, when the name table may not exist yet.
 	const FName NameOfAStaticObject(TEXT("StaticNameTest_4"));
 }
+
+using namespace NameTest;
 
 TEST(Name, ComparesIgnoringCaseAndPrintsAsWritten)
 {
@@ -28,41 +30,6 @@ TEST(Name, ComparesIgnoringCaseAndPrintsAsWritten)
 	EXPECT_FALSE(Lower.IsEqual(Mixed, ENameCase::CaseSensitive));
 	EXPECT_TRUE(Lower == TEXT("TÜRMCHEN Ñ"));
 	EXPECT_FALSE(Lower == TEXT("turmchen n"));
-}
-
-TEST(Name, SplitsANumberOffOnlyWhenPrintingGivesItBack)
-{
-	struct FCase
-	{
-		const char* Behaviour;
-		const TCHAR* Text;
-		const TCHAR* Plain;
-		int32 Number;
-	};
-	const FCase Cases[] = {
-		{"a number", TEXT("Unit_1"), TEXT("Unit"), 2},
-		{"zero alone", TEXT("Unit_0"), TEXT("Unit"), 1},
-		{"leading zeros are text", TEXT("Unit_01"), TEXT("Unit_01"), 0},
-		{"no digits", TEXT("Unit_"), TEXT("Unit_"), 0},
-		{"nothing before the underscore", TEXT("_5"), TEXT("_5"), 0},
-		{"no underscore", TEXT("Unit5"), TEXT("Unit5"), 0},
-		{"only the last one", TEXT("Unit_1_2"), TEXT("Unit_1"), 3},
-		{"the largest", TEXT("Unit_2147483646"), TEXT("Unit"), MAX_int32},
-		{"too large", TEXT("Unit_2147483647"), TEXT("Unit_2147483647"), 0},
-		{"far too large", TEXT("Unit_99999999999999999999"), TEXT("Unit_99999999999999999999"), 0},
-	};
-	for (const FCase& Case : Cases)
-	{
-		SCOPED_TRACE(Case.Behaviour);
-		const FName Name(Case.Text);
-		EXPECT_TRUE(Name.GetPlainNameString().Equals(Case.Plain)) << testing::PrintToString(Name.GetPlainNameString());
-		EXPECT_EQ(Name.GetNumber(), Case.Number);
-		EXPECT_TRUE(Name.ToString().Equals(Case.Text));
-	}
-	EXPECT_EQ(FName(TEXT("A_1")), FName(TEXT("a_1")));
-	EXPECT_FALSE(FName(TEXT("A_1")) == FName(TEXT("A_2")));
-	EXPECT_EQ(FName(TEXT("Unit"), NAME_EXTERNAL_TO_INTERNAL(7)), FName(TEXT("Unit_7")));
-	EXPECT_EQ(FName(FName(TEXT("Unit_3")), NAME_NO_NUMBER_INTERNAL), FName(TEXT("Unit")));
 }
 
 TEST(Name, IsNoneForEmptyTextAndNoneInAnyCase)

@@ -34,7 +34,7 @@ TEST(Parse, ReadsValuesBehindTheirKeys)
 	EXPECT_EQ(Delay, 0.5f);
 	bool bOn = true;
 	EXPECT_TRUE(FParse::Bool(TEXT("On=False"), TEXT("On="), bOn));
-	EXPECT_FALSE(bOn);
+	EXPECT_FALSE(bOn) << "\"False\" was read";
 }
 
 TEST(Parse, SwitchesAreWholeWordsBehindADash)

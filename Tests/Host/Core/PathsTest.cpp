@@ -8,7 +8,7 @@
 #include "HostProcess.h"
 #include "Misc/Paths.h"
 
-namespace
+namespace PathsTest
 {
 	class Paths : public FEditorFilesTest
 	{
@@ -24,37 +24,6 @@ namespace
 		EXPECT_EQ(ToUtf8(FPaths::SourceConfigDir()), Root + "/Config/");
 		EXPECT_EQ(ToUtf8(FPaths::ProjectContentDir()), Root + "/Content/");
 		EXPECT_EQ(ToUtf8(FPaths::GeneratedConfigDir()), Root + "/Saved/Config/");
-	}
-
-	TEST_F(Paths, SplitsFolderNameAndExtension)
-	{
-		struct FCase
-		{
-			FString Path;
-			const char* Folder;
-			const char* Name;
-			const char* Extension;
-		};
-		const FCase Cases[] = {
-			{TEXT("/Game/A/X.X"), "/Game/A", "X", "X"},
-			{TEXT("/Game/A/X"), "/Game/A", "X", ""},
-			{TEXT("X.tar.gz"), "", "X.tar", "gz"},
-			{TEXT("/Game.Dir/X"), "/Game.Dir", "X", ""},
-			{TEXT("C:\\Dir\\X.ini"), "C:\\Dir", "X", "ini"},
-			{TEXT("/Game/A/"), "/Game/A", "", ""},
-			{TEXT(""), "", "", ""},
-		};
-		for (const FCase& Case : Cases)
-		{
-			SCOPED_TRACE(ToUtf8(Case.Path));
-			FString PathPart;
-			FString Name;
-			FString Extension;
-			FPaths::Split(Case.Path, PathPart, Name, Extension);
-			EXPECT_EQ(ToUtf8(PathPart), Case.Folder);
-			EXPECT_EQ(ToUtf8(Name), Case.Name);
-			EXPECT_EQ(ToUtf8(Extension), Case.Extension);
-		}
 	}
 
 	TEST_F(Paths, CombineSetsOneSlashAtEachSeam)

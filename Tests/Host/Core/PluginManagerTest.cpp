@@ -5,7 +5,7 @@
 #include "HostProject.h"
 #include "Interfaces/IPluginManager.h"
 
-namespace
+namespace PluginManagerTest
 {
 	class PluginManager : public FEditorFilesTest
 	{

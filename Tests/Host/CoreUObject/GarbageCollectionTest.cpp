@@ -6,7 +6,7 @@
 #include "UObject/StrongObjectPtr.h"
 #include "UObject/UObjectIterator.h"
 
-namespace
+namespace GarbageCollectionTest
 {
 	class GarbageCollection : public FObjectSystemTest
 	{

@@ -3,7 +3,7 @@
 #include "ObjectSystemTest.h"
 #include "TestSettings.h"
 
-namespace
+namespace ObjectConfigTest
 {
 	class ObjectConfig : public FObjectSystemTest
 	{

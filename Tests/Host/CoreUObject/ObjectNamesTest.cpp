@@ -5,7 +5,7 @@
 #include "UObject/StrongObjectPtr.h"
 #include "UObject/UObjectHash.h"
 
-namespace
+namespace ObjectNamesTest
 {
 	class ObjectNames : public FObjectSystemTest
 	{

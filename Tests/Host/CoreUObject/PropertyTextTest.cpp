@@ -4,7 +4,7 @@
 #include "TestWall.h"
 #include "UObject/UnrealType.h"
 
-namespace
+namespace PropertyTextTest
 {
 	class PropertyText : public FObjectSystemTest
 	{

@@ -6,7 +6,7 @@
 #include "TestWall.h"
 #include "UObject/UnrealType.h"
 
-namespace
+namespace ReflectionTest
 {
 	class Reflection : public FObjectSystemTest
 	{

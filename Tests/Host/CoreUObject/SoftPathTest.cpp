@@ -4,7 +4,7 @@
 #include "TestWall.h"
 #include "UObject/SoftObjectPtr.h"
 
-namespace
+namespace SoftPathTest
 {
 	class SoftPath : public FObjectSystemTest
 	{
@@ -59,16 +59,6 @@ namespace
 		}
 		EXPECT_EQ(CountLogLines(TEXT("Short asset name")), 1);
 		EXPECT_EQ(FSoftObjectPath(TEXT("/Game/a.b")), FSoftObjectPath(TEXT("/Game/A.B")));
-	}
-
-	TEST_F(SoftPath, ResolvingFindsOnlyWhatIsInMemory)
-	{
-		InstallLoader();
-		UTestWall* Wall = NewObject<UTestWall>(CreatePackage(TEXT("/Game/A")), TEXT("A"));
-		EXPECT_EQ(FSoftObjectPath(Wall).ResolveObject(), Wall);
-		EXPECT_EQ(FSoftObjectPath(Wall->Skirting).ResolveObject(), Wall->Skirting);
-		EXPECT_EQ(FSoftObjectPath(TEXT("/Game/Disk/B.B")).ResolveObject(), nullptr);
-		EXPECT_EQ(NumLoads, 0);
 	}
 
 	TEST_F(SoftPath, LoadingAsksTheStorageOnce)

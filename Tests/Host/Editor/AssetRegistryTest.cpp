@@ -29,10 +29,10 @@ namespace AssetRegistryTest
 	}
 }
 
-class FAssetRegistry : public FAssetTestEditor
+class AssetRegistry : public FAssetTestEditor
 {
 protected:
-	FAssetRegistry()
+	AssetRegistry()
 	{
 		WriteContent("Zoo/B.uasset.json", MakeTestAssetFile("B", R"("Count": 1)"));
 		WriteContent("Alpha/C.uasset.json", MakeTestAssetFile("C", ""));
@@ -49,7 +49,7 @@ protected:
 	}
 };
 
-TEST_F(FAssetRegistry, FindsAssetsOfExactlyOneClassOnDiskAndInMemory)
+TEST_F(AssetRegistry, FindsAssetsOfExactlyOneClassOnDiskAndInMemory)
 {
 	MakeAsset(TEXT("/Game/Zoo/Second"));
 	MakeAsset(TEXT("/Game/Alpha/First"));
@@ -60,7 +60,7 @@ TEST_F(FAssetRegistry, FindsAssetsOfExactlyOneClassOnDiskAndInMemory)
 	EXPECT_EQ(FindObject<UObject>(nullptr, TEXT("/Game/Zoo/B.B")), nullptr) << "a query loads nothing";
 }
 
-TEST_F(FAssetRegistry, FiltersByEveryComponentThatIsNotEmpty)
+TEST_F(AssetRegistry, FiltersByEveryComponentThatIsNotEmpty)
 {
 	FARFilter Recursive = ByClass(UTestAsset::StaticClass());
 	Recursive.bRecursiveClasses = true;
@@ -88,7 +88,7 @@ TEST_F(FAssetRegistry, FiltersByEveryComponentThatIsNotEmpty)
 	EXPECT_FALSE(IAssetRegistry::GetChecked().GetAssets(FARFilter(), None)) << "an empty filter is invalid";
 }
 
-TEST_F(FAssetRegistry, ListsAnAssetOnceWhetherLoadedSavedOrNew)
+TEST_F(AssetRegistry, ListsAnAssetOnceWhetherLoadedSavedOrNew)
 {
 	LoadTestAsset(TEXT("/Game/Zoo/B"));
 	UTestAsset* New = MakeAsset(TEXT("/Game/Zoo/A"));
@@ -103,14 +103,14 @@ TEST_F(FAssetRegistry, ListsAnAssetOnceWhetherLoadedSavedOrNew)
 	EXPECT_EQ(AssetRegistryTest::Find(OnDisk), (std::vector<std::string>{"/Game/Alpha/C.C", "/Game/Zoo/A.A", "/Game/Zoo/B.B"}));
 }
 
-TEST_F(FAssetRegistry, ForgetsDeadAssets)
+TEST_F(AssetRegistry, ForgetsDeadAssets)
 {
 	MakeAsset(TEXT("/Game/Dead"))->MarkAsGarbage();
 
 	EXPECT_EQ(AssetRegistryTest::Find(ByClass(UTestAsset::StaticClass())).size(), 2u);
 }
 
-TEST_F(FAssetRegistry, AssetDataLoadsItsAsset)
+TEST_F(AssetRegistry, AssetDataLoadsItsAsset)
 {
 	const FAssetData Data = IAssetRegistry::GetChecked().GetAssetByObjectPath(FSoftObjectPath(FString(TEXT("/Game/Zoo/B.B"))));
 
@@ -126,7 +126,7 @@ TEST_F(FAssetRegistry, AssetDataLoadsItsAsset)
 	EXPECT_EQ(FAssetData().GetAsset(), nullptr);
 }
 
-TEST_F(FAssetRegistry, PassesOverFilesThatAreNoAssetsAndSaysSo)
+TEST_F(AssetRegistry, PassesOverFilesThatAreNoAssetsAndSaysSo)
 {
 	WriteContent("Notes.uasset.json", "{\"Hello\": 1}");
 	WriteContent("Cut.uasset.json", "{\"Class\": \"/Script/TestAssets.TestAsset\", \"Obj");
@@ -138,7 +138,7 @@ TEST_F(FAssetRegistry, PassesOverFilesThatAreNoAssetsAndSaysSo)
 	EXPECT_EQ(IAssetRegistry::GetChecked().GetAssetByObjectPath(FSoftObjectPath(FString(TEXT("/Game/Cut.Cut")))).GetAsset(), nullptr);
 }
 
-TEST_F(FAssetRegistry, AnnouncesNewAssets)
+TEST_F(AssetRegistry, AnnouncesNewAssets)
 {
 	std::vector<std::string> Announced;
 	IAssetRegistry::GetChecked().OnAssetAdded().AddLambda([&Announced](const FAssetData& Data) { Announced.push_back(Utf8(Data.AssetName)); });
@@ -147,7 +147,7 @@ TEST_F(FAssetRegistry, AnnouncesNewAssets)
 	EXPECT_EQ(Announced, std::vector<std::string>{"Fresh"});
 }
 
-TEST_F(FAssetRegistry, EditorScriptsLoadAssetsByAnyFormOfTheirPath)
+TEST_F(AssetRegistry, EditorScriptsLoadAssetsByAnyFormOfTheirPath)
 {
 	struct FCase
 	{
@@ -172,7 +172,7 @@ TEST_F(FAssetRegistry, EditorScriptsLoadAssetsByAnyFormOfTheirPath)
 	}
 }
 
-TEST_F(FAssetRegistry, EditorScriptsSaveLoadedAssets)
+TEST_F(AssetRegistry, EditorScriptsSaveLoadedAssets)
 {
 	UTestAsset* Asset = LoadTestAsset(TEXT("/Game/Zoo/B"));
 	ASSERT_NE(Asset, nullptr);
@@ -189,7 +189,7 @@ TEST_F(FAssetRegistry, EditorScriptsSaveLoadedAssets)
 	}
 }
 
-TEST_F(FAssetRegistry, DefinitionsAreFoundByReflection)
+TEST_F(AssetRegistry, DefinitionsAreFoundByReflection)
 {
 	const UAssetDefinition* Definition = HostAssetDefinitions::FindForClass(UTestSpecialAsset::StaticClass());
 
@@ -200,7 +200,7 @@ TEST_F(FAssetRegistry, DefinitionsAreFoundByReflection)
 	EXPECT_EQ(Definition->GetAssetCategories()[0].GetSubCategory(), FName("Fixtures"));
 }
 
-TEST(FAssetCategoryPath, EqualTextsOfDifferentNamespacesAreOneCategory)
+TEST(AssetCategoryPath, EqualTextsOfDifferentNamespacesAreOneCategory)
 {
 	const FAssetCategoryPath Left(NSLOCTEXT("One", "Cat", "Towers"), NSLOCTEXT("One", "Sub", "Actions"));
 	const FAssetCategoryPath Right = FAssetCategoryPath(NSLOCTEXT("Two", "Other", "Towers")) / NSLOCTEXT("Two", "Sub", "Maps");

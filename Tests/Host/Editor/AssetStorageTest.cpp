@@ -10,9 +10,9 @@
 
 #include <limits>
 
-using FAssetStorage = FAssetTestEditor;
+using AssetStorage = FAssetTestEditor;
 
-TEST_F(FAssetStorage, KeepsNumbersExactly)
+TEST_F(AssetStorage, KeepsNumbersExactly)
 {
 	UTestAsset* Asset = MakeAsset(TEXT("/Game/Numbers"));
 	Asset->bFlag = false;
@@ -47,7 +47,7 @@ TEST_F(FAssetStorage, KeepsNumbersExactly)
 	EXPECT_NE(ReadContent("Numbers.uasset.json").find("\"Single\": 0.1,"), std::string::npos) << "a float must not grow digits";
 }
 
-TEST_F(FAssetStorage, KeepsTextsWithTheirNamespaceAndKey)
+TEST_F(AssetStorage, KeepsTextsWithTheirNamespaceAndKey)
 {
 	UTestAsset* Asset = MakeAsset(TEXT("/Game/Texts"));
 	Asset->Text = TEXT("Türmchen Ñ \"quoted\"\n\t語 😀");
@@ -72,7 +72,7 @@ TEST_F(FAssetStorage, KeepsTextsWithTheirNamespaceAndKey)
 	EXPECT_TRUE(Loaded->Captions[2].IsEmpty());
 }
 
-TEST_F(FAssetStorage, KeepsContainersAndStructs)
+TEST_F(AssetStorage, KeepsContainersAndStructs)
 {
 	UTestAsset* Asset = MakeAsset(TEXT("/Game/Containers"));
 	Asset->Rooms.SetNum(2);
@@ -115,7 +115,7 @@ TEST_F(FAssetStorage, KeepsContainersAndStructs)
 	EXPECT_EQ(Problems(), "");
 }
 
-TEST_F(FAssetStorage, WritesOnlyWhatDiffersFromTheClassDefault)
+TEST_F(AssetStorage, WritesOnlyWhatDiffersFromTheClassDefault)
 {
 	UTestAsset* Asset = MakeAsset(TEXT("/Game/Dir/Plain"));
 	Asset->Count = 8;
@@ -131,7 +131,7 @@ TEST_F(FAssetStorage, WritesOnlyWhatDiffersFromTheClassDefault)
 	EXPECT_EQ(ReadContent("Dir/Plain.uasset.json").rfind("{\n\t\"Class\": ", 0), 0u) << "tabs, class first";
 }
 
-TEST_F(FAssetStorage, SavesTheSameBytesAgainAfterLoading)
+TEST_F(AssetStorage, SavesTheSameBytesAgainAfterLoading)
 {
 	UTestAsset* Asset = MakeAsset(TEXT("/Game/Same"));
 	Asset->Rooms.SetNum(3);
@@ -152,7 +152,7 @@ TEST_F(FAssetStorage, SavesTheSameBytesAgainAfterLoading)
 	EXPECT_EQ(ReadContent("Same.uasset.json"), Before);
 }
 
-TEST_F(FAssetStorage, KeepsObjectsInsideTheAssetAndTheirReferences)
+TEST_F(AssetStorage, KeepsObjectsInsideTheAssetAndTheirReferences)
 {
 	UTestAsset* Asset = MakeAsset(TEXT("/Game/Owner"));
 	UTestPart* First = NewObject<UTestPart>(Asset, FName("First"), RF_Public);
@@ -183,7 +183,7 @@ TEST_F(FAssetStorage, KeepsObjectsInsideTheAssetAndTheirReferences)
 	EXPECT_EQ(Loaded->OwnPart->GetOuter(), Loaded);
 }
 
-TEST_F(FAssetStorage, LoadsAssetsThatReferToEachOther)
+TEST_F(AssetStorage, LoadsAssetsThatReferToEachOther)
 {
 	UTestAsset* Left = MakeAsset(TEXT("/Game/Left"));
 	UTestAsset* Right = MakeAsset(TEXT("/Game/Sub/Right"));
@@ -204,7 +204,7 @@ TEST_F(FAssetStorage, LoadsAssetsThatReferToEachOther)
 	EXPECT_EQ(Problems(), "");
 }
 
-TEST_F(FAssetStorage, KeepsBlueprintsWhoseClassOthersReferTo)
+TEST_F(AssetStorage, KeepsBlueprintsWhoseClassOthersReferTo)
 {
 	UBlueprint* Blueprint = FKismetEditorUtilities::CreateBlueprint(UTestAsset::StaticClass(), CreatePackage(TEXT("/Game/BP_Test")), FName("BP_Test"),
 		BPTYPE_Normal, UBlueprint::StaticClass(), UBlueprintGeneratedClass::StaticClass());
@@ -225,7 +225,7 @@ TEST_F(FAssetStorage, KeepsBlueprintsWhoseClassOthersReferTo)
 	EXPECT_EQ(Problems(), "");
 }
 
-TEST_F(FAssetStorage, DoesNotSaveAnAssetWhoseReferencesWereLost)
+TEST_F(AssetStorage, DoesNotSaveAnAssetWhoseReferencesWereLost)
 {
 	WriteContent("Keeper.uasset.json", MakeTestAssetFile("Keeper", R"("Count": 3, "Other": "/Game/Gone.Gone")"));
 	const std::string Before = ReadContent("Keeper.uasset.json");
@@ -243,7 +243,7 @@ TEST_F(FAssetStorage, DoesNotSaveAnAssetWhoseReferencesWereLost)
 	EXPECT_EQ(HostPackages::GetDirtyPackages().Num(), 1) << "still unsaved";
 }
 
-TEST_F(FAssetStorage, LeavesBinaryAssetsAlone)
+TEST_F(AssetStorage, LeavesBinaryAssetsAlone)
 {
 	WriteContent("Mesh.uasset", std::string("\xC1\x83\x2A\x9E binary", 11));
 
@@ -256,7 +256,7 @@ TEST_F(FAssetStorage, LeavesBinaryAssetsAlone)
 	EXPECT_EQ(ReadContent("Mesh.uasset"), std::string("\xC1\x83\x2A\x9E binary", 11));
 }
 
-TEST_F(FAssetStorage, FindsAssetsWhateverTheCaseOfTheirName)
+TEST_F(AssetStorage, FindsAssetsWhateverTheCaseOfTheirName)
 {
 	WriteContent("Dir/Tower.uasset.json", MakeTestAssetFile("Tower", R"("Count": 3)"));
 
@@ -269,7 +269,7 @@ TEST_F(FAssetStorage, FindsAssetsWhateverTheCaseOfTheirName)
 	EXPECT_TRUE(HostPackages::FindFile(TEXT("/Game/dir/HOUSE")).EndsWith(TEXT("/Dir/House.uasset.json"), ESearchCase::CaseSensitive));
 }
 
-TEST_F(FAssetStorage, LoadsThroughTheEnginesOwnLookUps)
+TEST_F(AssetStorage, LoadsThroughTheEnginesOwnLookUps)
 {
 	WriteContent("Lazy.uasset.json", MakeTestAssetFile("Lazy", R"("Count": 3)"));
 
@@ -281,7 +281,7 @@ TEST_F(FAssetStorage, LoadsThroughTheEnginesOwnLookUps)
 	EXPECT_EQ(Path.ResolveObject(), Asset);
 }
 
-TEST_F(FAssetStorage, RefusesMalformedFilesAndLeavesNothingBehind)
+TEST_F(AssetStorage, RefusesMalformedFilesAndLeavesNothingBehind)
 {
 	struct FCase
 	{
@@ -339,7 +339,7 @@ TEST_F(FAssetStorage, RefusesMalformedFilesAndLeavesNothingBehind)
 	}
 }
 
-TEST_F(FAssetStorage, ReadsClassesWithAFormatOfTheirOwnAndDoesNotWriteThem)
+TEST_F(AssetStorage, ReadsClassesWithAFormatOfTheirOwnAndDoesNotWriteThem)
 {
 	// The registration lasts as long as the process; no other test stores this class.
 	HostPackages::RegisterReader(UTestLayoutAsset::StaticClass()->GetClassPathName(), [](const HostPackages::FDocument& Document, UPackage* Package) {
@@ -359,7 +359,7 @@ TEST_F(FAssetStorage, ReadsClassesWithAFormatOfTheirOwnAndDoesNotWriteThem)
 	EXPECT_EQ(ReadContent("Layout.uasset.json"), File);
 }
 
-TEST_F(FAssetStorage, TellsNamesThatCannotBeStored)
+TEST_F(AssetStorage, TellsNamesThatCannotBeStored)
 {
 	struct FCase
 	{

@@ -11,7 +11,7 @@
 
 #include <filesystem>
 
-using FAssetTools = FAssetTestEditor;
+using AssetTools = FAssetTestEditor;
 
 namespace AssetToolsTest
 {
@@ -50,7 +50,7 @@ namespace AssetToolsTest
 	};
 }
 
-TEST_F(FAssetTools, MakesNamesThatNothingHasYet)
+TEST_F(AssetTools, MakesNamesThatNothingHasYet)
 {
 	struct FCase
 	{
@@ -94,20 +94,7 @@ TEST_F(FAssetTools, MakesNamesThatNothingHasYet)
 	}
 }
 
-TEST_F(FAssetTools, CreatesAnUnsavedAssetThatTheRegistryKnows)
-{
-	UObject* Asset = IAssetTools::Get().CreateAsset(TEXT("New"), TEXT("/Game/Dir"), UTestAsset::StaticClass(), nullptr);
-
-	ASSERT_NE(Asset, nullptr);
-	EXPECT_EQ(Utf8(Asset->GetPathName()), "/Game/Dir/New.New");
-	EXPECT_TRUE(Asset->HasAllFlags(RF_Public | RF_Standalone | RF_Transactional));
-	EXPECT_TRUE(Asset->GetPackage()->IsDirty());
-	EXPECT_FALSE(HasContent("Dir/New.uasset.json")) << "not saved yet";
-	EXPECT_TRUE(IAssetRegistry::GetChecked().GetAssetByObjectPath(FSoftObjectPath(Asset)).IsValid());
-	EXPECT_EQ(CountAsked("ReplaceAsset"), 0);
-}
-
-TEST_F(FAssetTools, CreatesNothingFromBadNamesOrClasses)
+TEST_F(AssetTools, CreatesNothingFromBadNamesOrClasses)
 {
 	struct FCase
 	{
@@ -133,7 +120,7 @@ TEST_F(FAssetTools, CreatesNothingFromBadNamesOrClasses)
 	EXPECT_TRUE(HostPackages::GetDirtyPackages().IsEmpty());
 }
 
-TEST_F(FAssetTools, KeepsAnExistingAssetUnlessTheUserReplacesIt)
+TEST_F(AssetTools, KeepsAnExistingAssetUnlessTheUserReplacesIt)
 {
 	UTestAsset* Old = MakeAsset(TEXT("/Game/Taken"));
 	Old->Count = 1;
@@ -150,7 +137,7 @@ TEST_F(FAssetTools, KeepsAnExistingAssetUnlessTheUserReplacesIt)
 	EXPECT_EQ(CastChecked<UTestAsset>(New)->Count, 7);
 }
 
-TEST_F(FAssetTools, AsksBeforeItReplacesAFileThatIsNotLoaded)
+TEST_F(AssetTools, AsksBeforeItReplacesAFileThatIsNotLoaded)
 {
 	WriteContent("Stored.uasset.json", MakeTestAssetFile("Stored", R"("Count": 3)"));
 	const std::string Before = ReadContent("Stored.uasset.json");
@@ -166,7 +153,7 @@ TEST_F(FAssetTools, AsksBeforeItReplacesAFileThatIsNotLoaded)
 	EXPECT_NE(ReadContent("Stored.uasset.json"), Before);
 }
 
-TEST_F(FAssetTools, NeverReplacesBinaryAssetsAndLevels)
+TEST_F(AssetTools, NeverReplacesBinaryAssetsAndLevels)
 {
 	WriteContent("Mesh.uasset", "binary");
 	WriteContent("Harbor.umap.json", "{}");
@@ -177,7 +164,7 @@ TEST_F(FAssetTools, NeverReplacesBinaryAssetsAndLevels)
 	EXPECT_EQ(CountAsked("ReplaceAsset"), 0) << "there is nothing to choose";
 }
 
-TEST_F(FAssetTools, SaveDialogDecidesNameAndFolder)
+TEST_F(AssetTools, SaveDialogDecidesNameAndFolder)
 {
 	struct FCase
 	{
@@ -205,7 +192,7 @@ TEST_F(FAssetTools, SaveDialogDecidesNameAndFolder)
 	}
 }
 
-TEST_F(FAssetTools, UnattendedDialogSavesAsProposed)
+TEST_F(AssetTools, UnattendedDialogSavesAsProposed)
 {
 	UObject* Asset = IAssetTools::Get().CreateAssetWithDialog(UTestAsset::StaticClass(), NewObject<UTestAssetFactory>());
 
@@ -216,7 +203,7 @@ TEST_F(FAssetTools, UnattendedDialogSavesAsProposed)
 	EXPECT_EQ(Utf8(Second->GetName()), "NewTestAsset1");
 }
 
-TEST_F(FAssetTools, MakesNothingWhenAnybodySaysNo)
+TEST_F(AssetTools, MakesNothingWhenAnybodySaysNo)
 {
 	IAssetTools& Tools = IAssetTools::Get();
 	UTestAssetFactory* Factory = NewObject<UTestAssetFactory>();
@@ -236,7 +223,7 @@ TEST_F(FAssetTools, MakesNothingWhenAnybodySaysNo)
 	ASSERT_EQ(HostPackages::GetDirtyPackages().Num(), 1);
 }
 
-TEST_F(FAssetTools, HandsOutOneBitPerCategoryKey)
+TEST_F(AssetTools, HandsOutOneBitPerCategoryKey)
 {
 	IAssetTools& Tools = IAssetTools::Get();
 	const EAssetTypeCategories::Type First = Tools.RegisterAdvancedAssetCategory(FName("One"), FText::FromString(TEXT("First")));
@@ -259,7 +246,7 @@ TEST_F(FAssetTools, HandsOutOneBitPerCategoryKey)
 	EXPECT_EQ(IAssetTools::Get().FindAdvancedAssetCategory(FName("Two")), EAssetTypeCategories::Misc) << "another editor starts anew";
 }
 
-TEST_F(FAssetTools, FindsTypeActionsByClassUntilTheyAreUnregistered)
+TEST_F(AssetTools, FindsTypeActionsByClassUntilTheyAreUnregistered)
 {
 	IAssetTools& Tools = IAssetTools::Get();
 	const TSharedRef<IAssetTypeActions> Actions = MakeShared<AssetToolsTest::FSpecialActions>(EAssetTypeCategories::Misc);
@@ -275,7 +262,7 @@ TEST_F(FAssetTools, FindsTypeActionsByClassUntilTheyAreUnregistered)
 	EXPECT_FALSE(Tools.GetAssetTypeActionsForClass(UTestSpecialAsset::StaticClass()).IsValid());
 }
 
-TEST_F(FAssetTools, MenuOfNewAssetsShowsWhatDefinitionsSay)
+TEST_F(AssetTools, MenuOfNewAssetsShowsWhatDefinitionsSay)
 {
 	const TArray<HostAssetTools::FNewAssetItem> Menu = HostAssetTools::GetNewAssetMenu();
 	const HostAssetTools::FNewAssetItem* Item =

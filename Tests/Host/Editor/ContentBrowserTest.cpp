@@ -10,7 +10,7 @@
 #include "ToolMenus.h"
 #include "UObject/Package.h"
 
-using FContentBrowser = FAssetTestEditor;
+using ContentBrowser = FAssetTestEditor;
 
 namespace ContentBrowserTest
 {
@@ -74,7 +74,7 @@ namespace ContentBrowserTest
 	}
 }
 
-TEST_F(FContentBrowser, MenuRunsOnTheSelectedAssetsInTheirOrder)
+TEST_F(ContentBrowser, MenuRunsOnTheSelectedAssetsInTheirOrder)
 {
 	ContentBrowserTest::Ran.clear();
 	UObject* Left = MakeAsset(TEXT("/Game/Left"));
@@ -87,7 +87,7 @@ TEST_F(FContentBrowser, MenuRunsOnTheSelectedAssetsInTheirOrder)
 	EXPECT_EQ(ContentBrowserTest::Ran, (std::vector<std::string>{"Right", "Left"}));
 }
 
-TEST_F(FContentBrowser, MenuIsThereInEveryEditor)
+TEST_F(ContentBrowser, MenuIsThereInEveryEditor)
 {
 	Restart();
 	HostContentBrowser::SetSelection(ContentBrowserTest::DataOf({MakeAsset(TEXT("/Game/Left"))}));
@@ -96,7 +96,7 @@ TEST_F(FContentBrowser, MenuIsThereInEveryEditor)
 		<< "once, not once per editor before";
 }
 
-TEST_F(FContentBrowser, MenuOfASubclassBeginsWithThatOfItsParent)
+TEST_F(ContentBrowser, MenuOfASubclassBeginsWithThatOfItsParent)
 {
 	UObject* Special = ContentBrowserTest::MakeSpecial();
 	HostContentBrowser::SetSelection(ContentBrowserTest::DataOf({Special}));
@@ -107,7 +107,7 @@ TEST_F(FContentBrowser, MenuOfASubclassBeginsWithThatOfItsParent)
 		<< "only what all selected assets have";
 }
 
-TEST_F(FContentBrowser, LoadsWhatIsSelectedAndLeavesOutOtherTypes)
+TEST_F(ContentBrowser, LoadsWhatIsSelectedAndLeavesOutOtherTypes)
 {
 	ContentBrowserTest::Ran.clear();
 	WriteContent("Stored.uasset.json", MakeTestAssetFile("Stored", R"("Count": 3)"));
@@ -125,7 +125,7 @@ TEST_F(FContentBrowser, LoadsWhatIsSelectedAndLeavesOutOtherTypes)
 	EXPECT_EQ(Context->GetSelectedAssetsOfType(UTestAsset::StaticClass(), EIncludeSubclasses::No).Num(), 1);
 }
 
-TEST_F(FContentBrowser, RefusesWhatCannotRunAndSaysWhy)
+TEST_F(ContentBrowser, RefusesWhatCannotRunAndSaysWhy)
 {
 	EXPECT_NE(Utf8(HostContentBrowser::RunContextMenuEntry(TEXT("First")).Reason).find("No asset is selected"), std::string::npos);
 	EXPECT_TRUE(HostContentBrowser::GetContextMenu().IsEmpty());
@@ -140,7 +140,7 @@ TEST_F(FContentBrowser, RefusesWhatCannotRunAndSaysWhy)
 	EXPECT_FALSE(HostContentBrowser::RunContextMenuEntry(TEXT("First")).bDone);
 }
 
-TEST_F(FContentBrowser, RemembersWhatItWasAskedToShow)
+TEST_F(ContentBrowser, RemembersWhatItWasAskedToShow)
 {
 	const TArray<UObject*> Assets = {MakeAsset(TEXT("/Game/Left")), MakeAsset(TEXT("/Game/Right"))};
 	IContentBrowserSingleton::Get().SyncBrowserToAssets(Assets, false, true);

@@ -13,7 +13,7 @@
 
 namespace DetailsCustomizationTest
 {
-	static TSharedRef<SWidget> MakeText(const TCHAR* Text)
+	TSharedRef<SWidget> MakeText(const TCHAR* Text)
 	{
 		return SNew(STextBlock).Text(FText::FromString(Text));
 	}

@@ -62,20 +62,6 @@ TEST_F(EditorRegistries, NothingIsPlaceableUntilThePlacementModuleIsLoaded)
 	EXPECT_TRUE(IPlacementModeModule::IsAvailable());
 }
 
-TEST_F(EditorRegistries, APlacementHandleBelongsToItsFirstCategory)
-{
-	IPlacementModeModule& Placement = IPlacementModeModule::Get();
-	EXPECT_TRUE(Placement.RegisterPlacementCategory(FPlacementCategoryInfo(INVTEXT("First"), TEXT("Tower"), TEXT("Tag"), 40)));
-	EXPECT_FALSE(Placement.RegisterPlacementCategory(FPlacementCategoryInfo(INVTEXT("Second"), TEXT("tower"))));
-	EXPECT_TRUE(Placement.RegisterPlacementCategory(FPlacementCategoryInfo(INVTEXT("Above"), FSlateIcon("Style", "Icon"), TEXT("Above"), FString(), 10)));
-	const FPlacementCategoryInfo* Info = Placement.GetRegisteredPlacementCategory(TEXT("Tower"));
-	ASSERT_NE(Info, nullptr);
-	EXPECT_EQ(Utf8(Info->DisplayName.ToString()), "First");
-	EXPECT_EQ(Utf8(Info->TagMetaData), "Tag");
-	EXPECT_EQ(Placement.GetRegisteredPlacementCategory(TEXT("Above"))->DisplayIcon.GetStyleName(), FName("Icon"));
-	EXPECT_EQ(HostPlacement::GetCategories(), (TArray<FName>{TEXT("Above"), TEXT("Tower")}));
-}
-
 TEST_F(EditorRegistries, PlacementItemsComeAndGoWithTheirCategory)
 {
 	IPlacementModeModule& Placement = IPlacementModeModule::Get();
@@ -130,23 +116,9 @@ TEST_F(EditorRegistries, TheNewestLayoutOfAPropertyTypeCounts)
 	const int32 NumMade = FCustomization::NumMade;
 	EXPECT_TRUE(HostPropertyEditor::MakeCustomization("finish").IsValid());
 	EXPECT_EQ(FCustomization::NumMade, NumMade + 1);
-	EXPECT_FALSE(bOldUsed);
+	EXPECT_FALSE(bOldUsed) << "the later registration replaces the earlier one";
 	Editor.UnregisterCustomPropertyTypeLayout("Finish");
 	EXPECT_FALSE(HostPropertyEditor::MakeCustomization("Finish").IsValid());
-}
-
-TEST_F(EditorRegistries, ADetailsSectionKeepsItsFirstDisplayName)
-{
-	FPropertyEditorModule& Editor = FModuleManager::LoadModuleChecked<FPropertyEditorModule>("PropertyEditor");
-	const TSharedRef<FPropertySection> Section = Editor.FindOrCreateSection("Object", "Velmorant", INVTEXT("Velmorant"));
-	Section->AddCategory("Velmorant|Icon");
-	EXPECT_EQ(Editor.FindOrCreateSection("object", "velmorant", INVTEXT("Other")), Section);
-	EXPECT_NE(Editor.FindOrCreateSection("Actor", "Velmorant", INVTEXT("Velmorant")), Section);
-	const TSharedPtr<FPropertySection> Found = HostPropertyEditor::FindSection("Object", "Velmorant");
-	ASSERT_TRUE(Found.IsValid());
-	EXPECT_EQ(Utf8(Found->GetDisplayName().ToString()), "Velmorant");
-	EXPECT_TRUE(Found->HasAddedCategory("velmorant|icon"));
-	EXPECT_FALSE(Found->HasAddedCategory("Icon"));
 }
 
 TEST_F(EditorRegistries, SettingsPagesThatSomebodyAskedForAreRecorded)

@@ -90,47 +90,6 @@ TEST_F(Transactions, TakeStepsBackAndForthOneByOne)
 	EXPECT_EQ(Steps(), (Texts{"Set Storey"})) << "forgotten, not redone";
 }
 
-TEST_F(Transactions, ANewStepLeavesNothingToRedo)
-{
-	ATestActor* Actor = Spawn(TEXT("A"));
-	SetStorey(*Actor, 1);
-	SetStorey(*Actor, 2);
-	Undo();
-	Undo();
-	SetStorey(*Actor, 3);
-	EXPECT_FALSE(Redo());
-	EXPECT_EQ(Actor->Storey, 3);
-	EXPECT_EQ(Steps(), (Texts{"Set Storey"}));
-}
-
-TEST_F(Transactions, JoinTheOutermostOneAndRecordTheFirstState)
-{
-	ATestActor* Actor = Spawn(TEXT("A"));
-	ATestActor* Other = Spawn(TEXT("B"));
-	{
-		const FScopedTransaction Outer(Title("Whole"));
-		Actor->Modify();
-		Actor->Storey = 1;
-		{
-			const FScopedTransaction Inner(Title("Part"));
-			EXPECT_TRUE(GEditor->IsTransactionActive());
-			Actor->Modify();
-			Actor->Storey = 2;
-			Other->Modify();
-			Other->Neighbour = Actor;
-		}
-		EXPECT_FALSE(Undo()) << "a step is open";
-		EXPECT_EQ(Steps(), Texts());
-	}
-	EXPECT_EQ(Steps(), (Texts{"Whole"}));
-	Undo();
-	EXPECT_EQ(Actor->Storey, 0);
-	EXPECT_EQ(Other->Neighbour, nullptr);
-	Redo();
-	EXPECT_EQ(Actor->Storey, 2);
-	EXPECT_EQ(Other->Neighbour, Actor);
-}
-
 TEST_F(Transactions, LeaveNoStepWhereNothingRecordedChanged)
 {
 	ATestActor* Actor = Spawn(TEXT("A"));
@@ -351,14 +310,14 @@ TEST_F(Transactions, TellObjectsAfterAllHaveChangedAndRecordNothingOfWhatTheyDoT
 	}
 	TArray<int32> Sums; // at each announcement
 	FCoreUObjectDelegates::OnObjectPropertyChanged.AddLambda([&](UObject*, FPropertyChangedEvent&) {
-		EXPECT_TRUE(GIsTransacting);
+		EXPECT_TRUE(GIsTransacting) << "while objects are told";
 		EXPECT_FALSE(Undo());
 		Sums.Add(First->Storey + Second->Storey);
 		SetStorey(*Second, 7);
 	});
 	int32 NumUndoRedo = 0;
 	FEditorDelegates::PostUndoRedo.AddLambda([&NumUndoRedo]() {
-		EXPECT_FALSE(GIsTransacting);
+		EXPECT_FALSE(GIsTransacting) << "after the step";
 		++NumUndoRedo;
 	});
 	Undo();

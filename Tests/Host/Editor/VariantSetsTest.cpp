@@ -68,31 +68,6 @@ protected:
 	ULevelVariantSets* Asset = nullptr;
 };
 
-TEST_F(VariantSets, TakesOverWhatWasMadeInTheTransientPackage)
-{
-	UVariant* Variant = MakeVariant(TEXT("Oak"));
-	UVariantSet* Set = MakeSet(TEXT("Floor"));
-	Asset->GetPackage()->SetDirtyFlag(false);
-	Set->AddVariants({Variant});
-	EXPECT_FALSE(Asset->GetPackage()->IsDirty());
-	Asset->AddVariantSets({Set});
-	EXPECT_EQ(Variant->GetParent(), Set);
-	EXPECT_EQ(Set->GetParent(), Asset);
-	EXPECT_EQ(Variant->GetPackage(), Asset->GetPackage());
-	EXPECT_TRUE(Asset->GetPackage()->IsDirty());
-}
-
-TEST_F(VariantSets, FindsByDisplayTextIgnoringCase)
-{
-	UVariantSet* Set = MakeAbc();
-	EXPECT_EQ(Set->GetVariantByName(TEXT("b")), Set->GetVariant(1));
-	EXPECT_EQ(Set->GetVariantByName(TEXT("B ")), nullptr);
-	EXPECT_EQ(Set->GetVariantByName(TEXT("")), nullptr);
-	Asset->AddVariantSets({Set});
-	EXPECT_EQ(Asset->GetVariantSetByName(TEXT("SET")), Set);
-	EXPECT_EQ(Asset->GetVariantSetByName(TEXT("Variant Set")), nullptr);
-}
-
 TEST_F(VariantSets, LookUpsFollowEveryChangeOfText)
 {
 	UVariantSet* Set = MakeAbc();

@@ -7,13 +7,13 @@
 #include "Widgets/SBoxPanel.h"
 #include "Widgets/Text/STextBlock.h"
 
-class FBoxPanelTest : public FUiTestEditor
+class BoxPanel : public FUiTestEditor
 {
 protected:
 	static TSharedRef<STextBlock> Label(const TCHAR* String) { return SNew(STextBlock).Text(FText::FromString(String)); }
 };
 
-TEST_F(FBoxPanelTest, KeepsSlotsInTheOrderWrittenWithTheirLayout)
+TEST_F(BoxPanel, KeepsSlotsInTheOrderWrittenWithTheirLayout)
 {
 	SHorizontalBox::FSlot* Exposed = nullptr;
 	// clang-format off
@@ -34,7 +34,7 @@ TEST_F(FBoxPanelTest, KeepsSlotsInTheOrderWrittenWithTheirLayout)
 	EXPECT_EQ(Box->GetChildren()->GetChildAt(2), SNullWidget::NullWidget);
 }
 
-TEST_F(FBoxPanelTest, AddsAndRemovesSlotsLater)
+TEST_F(BoxPanel, AddsAndRemovesSlotsLater)
 {
 	const TSharedRef<SVerticalBox> Box = SNew(SVerticalBox);
 	const TSharedRef<SWidget> Middle = Label(TEXT("Middle"));
@@ -49,7 +49,7 @@ TEST_F(FBoxPanelTest, AddsAndRemovesSlotsLater)
 	EXPECT_EQ(Box->NumSlots(), 0);
 }
 
-TEST_F(FBoxPanelTest, AttributesAreAskedEachTime)
+TEST_F(BoxPanel, AttributesAreAskedEachTime)
 {
 	int32 NumAsked = 0;
 	const TSharedRef<STextBlock> Text = SNew(STextBlock).Text_Lambda([&NumAsked] { return FText::AsNumber(++NumAsked); });
@@ -60,7 +60,7 @@ TEST_F(FBoxPanelTest, AttributesAreAskedEachTime)
 	EXPECT_EQ(NumAsked, 2);
 }
 
-TEST_F(FBoxPanelTest, AnEmptyBorderIsASwatchOfItsColour)
+TEST_F(BoxPanel, AnEmptyBorderIsASwatchOfItsColour)
 {
 	// clang-format off
 	const TSharedRef<SWidget> Swatch = SNew(SBox).WidthOverride(25.0f).HeightOverride(25.0f)
@@ -71,7 +71,7 @@ TEST_F(FBoxPanelTest, AnEmptyBorderIsASwatchOfItsColour)
 	EXPECT_EQ(Utf8(HostSnapshot::Take(Swatch)), "swatch \"" + Utf8(FLinearColor(1.0f, 0.0f, 1.0f, 1.0f).ToString()) + "\"\n");
 }
 
-TEST_F(FBoxPanelTest, WidgetsAreAssignedBeforeTheyAreConstructed)
+TEST_F(BoxPanel, WidgetsAreAssignedBeforeTheyAreConstructed)
 {
 	TSharedPtr<STextBlock> Assigned;
 	TWeakPtr<SWidget> Weak;

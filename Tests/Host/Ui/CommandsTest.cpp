@@ -33,9 +33,9 @@ namespace CommandsTest
 #undef LOCTEXT_NAMESPACE
 
 using CommandsTest::FTestCommands;
-using FCommandsTest = FUiTestEditor;
+using CommandSets = FUiTestEditor;
 
-TEST_F(FCommandsTest, CarryTheirTextsIconsAndKeys)
+TEST_F(CommandSets, CarryTheirTextsIconsAndKeys)
 {
 	FTestCommands::Register();
 	const TSharedPtr<FUICommandInfo> Command = FTestCommands::Get().OpenPanel;
@@ -51,7 +51,7 @@ TEST_F(FCommandsTest, CarryTheirTextsIconsAndKeys)
 	EXPECT_EQ(FInputBindingManager::Get().FindCommandInContext(FName(TEXT("TestCommands")), FName(TEXT("OpenPanel"))), Command);
 }
 
-TEST_F(FCommandsTest, RegisterOnceInEachEditor)
+TEST_F(CommandSets, RegisterOnceInEachEditor)
 {
 	FTestCommands::NumRegistered = 0;
 	FTestCommands::Register();
@@ -63,27 +63,4 @@ TEST_F(FCommandsTest, RegisterOnceInEachEditor)
 	EXPECT_EQ(FTestCommands::NumRegistered, 2);
 	FTestCommands::Unregister();
 	EXPECT_FALSE(FTestCommands::IsRegistered());
-}
-
-TEST_F(FCommandsTest, RunOnlyWhatIsMappedAndAllowed)
-{
-	FTestCommands::Register();
-	const FTestCommands& Commands = FTestCommands::Get();
-	int32 NumRuns = 0;
-	bool bAllowed = false;
-	const TSharedRef<FUICommandList> List = MakeShared<FUICommandList>();
-	List->MapAction(Commands.OpenPanel, FExecuteAction::CreateLambda([&NumRuns] { ++NumRuns; }), FCanExecuteAction::CreateLambda([&bAllowed] { return bAllowed; }));
-
-	EXPECT_FALSE(List->ExecuteAction(Commands.SaveAll.ToSharedRef())) << "not mapped";
-	EXPECT_FALSE(List->ExecuteAction(Commands.OpenPanel.ToSharedRef())) << "not allowed";
-	bAllowed = true;
-	EXPECT_TRUE(List->ExecuteAction(Commands.OpenPanel.ToSharedRef()));
-	EXPECT_EQ(NumRuns, 1);
-
-	const TSharedRef<FUICommandList> Outer = MakeShared<FUICommandList>();
-	Outer->MapAction(Commands.SaveAll, FExecuteAction::CreateLambda([&NumRuns] { NumRuns += 10; }), FCanExecuteAction());
-	Outer->Append(List);
-	EXPECT_TRUE(Outer->ExecuteAction(Commands.OpenPanel.ToSharedRef())) << "from the appended list";
-	EXPECT_TRUE(Outer->ExecuteAction(Commands.SaveAll.ToSharedRef()));
-	EXPECT_EQ(NumRuns, 12);
 }

@@ -11,10 +11,10 @@
 #include "TestToolPanel.h"
 #include "UiTestEditor.h"
 
-class FEditorTabsTest : public FUiTestEditor
+class EditorTabs : public FUiTestEditor
 {
 protected:
-	FEditorTabsTest()
+	EditorTabs()
 	{
 		for (const char* Name : {"Tool", "Other"})
 		{
@@ -33,7 +33,7 @@ protected:
 	}
 };
 
-TEST_F(FEditorTabsTest, OpensOneTabForEachBlueprintAndBringsItToTheFront)
+TEST_F(EditorTabs, OpensOneTabForEachBlueprintAndBringsItToTheFront)
 {
 	FName Id;
 	UEditorUtilityWidget* Tool = Tabs()->SpawnAndRegisterTabAndGetID(Blueprint(TEXT("Tool")), Id);
@@ -48,7 +48,7 @@ TEST_F(FEditorTabsTest, OpensOneTabForEachBlueprintAndBringsItToTheFront)
 	EXPECT_EQ(Tool->GetWorld(), GEditor->GetEditorWorldContext().World());
 }
 
-TEST_F(FEditorTabsTest, APanelMayCloseItsOwnTab)
+TEST_F(EditorTabs, APanelMayCloseItsOwnTab)
 {
 	Tabs()->SpawnAndRegisterTab(Blueprint(TEXT("Tool")));
 	{
@@ -62,7 +62,7 @@ TEST_F(FEditorTabsTest, APanelMayCloseItsOwnTab)
 	EXPECT_NE(Tabs()->SpawnAndRegisterTab(Blueprint(TEXT("Tool"))), nullptr);
 }
 
-TEST_F(FEditorTabsTest, OpensNothingWithoutABlueprintOrAUserInterface)
+TEST_F(EditorTabs, OpensNothingWithoutABlueprintOrAUserInterface)
 {
 	EXPECT_EQ(Tabs()->SpawnAndRegisterTab(nullptr), nullptr);
 	EXPECT_FALSE(Tabs()->CloseTabByID(FName(TEXT("Nobody"))));
@@ -70,7 +70,7 @@ TEST_F(FEditorTabsTest, OpensNothingWithoutABlueprintOrAUserInterface)
 	EXPECT_EQ(Tabs()->SpawnAndRegisterTab(Blueprint(TEXT("Tool"))), nullptr);
 }
 
-TEST_F(FEditorTabsTest, PanelsAreTakenDownWithTheEditor)
+TEST_F(EditorTabs, PanelsAreTakenDownWithTheEditor)
 {
 	Tabs()->SpawnAndRegisterTab(Blueprint(TEXT("Tool")));
 	Tabs()->SpawnAndRegisterTab(Blueprint(TEXT("Other")));

@@ -6,7 +6,7 @@
 #include "Widgets/Views/STableRow.h"
 #include "Widgets/Views/STileView.h"
 
-class FListViewTest : public FUiTestEditor
+class ListView : public FUiTestEditor
 {
 protected:
 	using FItem = TSharedPtr<FString>;
@@ -46,7 +46,7 @@ protected:
 	int32 NumRowsMade = 0;
 };
 
-TEST_F(FListViewTest, MakesRowsAtTheTickAndOnlyForWhatShows)
+TEST_F(ListView, MakesRowsAtTheTickAndOnlyForWhatShows)
 {
 	AddItems(100000);
 	const TSharedRef<SListView<FItem>> List = MakeList();
@@ -64,7 +64,7 @@ TEST_F(FListViewTest, MakesRowsAtTheTickAndOnlyForWhatShows)
 	EXPECT_EQ(NumRowsMade, 2 * STableViewBase::HostRowsInView);
 }
 
-TEST_F(FListViewTest, ChoosesAnItemFarDownByScrollingToIt)
+TEST_F(ListView, ChoosesAnItemFarDownByScrollingToIt)
 {
 	AddItems(1000);
 	const TSharedRef<SListView<FItem>> List = MakeList();
@@ -76,7 +76,7 @@ TEST_F(FListViewTest, ChoosesAnItemFarDownByScrollingToIt)
 	EXPECT_EQ(Refusal(HostSnapshot::Choose(List, TEXT("List"), TEXT("Item 1000"))), "The list \"List\" has no item \"Item 1000\".");
 }
 
-TEST_F(FListViewTest, TellsCodeFromAPersonAndDoesNotRepeatAPick)
+TEST_F(ListView, TellsCodeFromAPersonAndDoesNotRepeatAPick)
 {
 	AddItems(3);
 	const TSharedRef<SListView<FItem>> List = MakeList();
@@ -89,7 +89,7 @@ TEST_F(FListViewTest, TellsCodeFromAPersonAndDoesNotRepeatAPick)
 	EXPECT_EQ(Heard, (TArray<FString>{TEXT("Item 0 3"), TEXT("Item 1 2"), TEXT("nothing 3")}));
 }
 
-TEST_F(FListViewTest, RefusesClicksOnRowsThatAreAboutToGo)
+TEST_F(ListView, RefusesClicksOnRowsThatAreAboutToGo)
 {
 	AddItems(3);
 	const TSharedRef<SListView<FItem>> List = MakeList();
@@ -102,7 +102,7 @@ TEST_F(FListViewTest, RefusesClicksOnRowsThatAreAboutToGo)
 	EXPECT_EQ(Refusal(HostSnapshot::Click(List, TEXT("Item 1"))), "");
 }
 
-TEST_F(FListViewTest, ItemsThatComeAndGoAreSeenOnlyWithARefresh)
+TEST_F(ListView, ItemsThatComeAndGoAreSeenOnlyWithARefresh)
 {
 	AddItems(3);
 	const TSharedRef<SListView<FItem>> List = MakeList();
@@ -125,7 +125,7 @@ TEST_F(FListViewTest, ItemsThatComeAndGoAreSeenOnlyWithARefresh)
 	EXPECT_NE(Utf8(HostSnapshot::Take(List)).find("(1 item)\n  item (tip: tip of Other)"), std::string::npos);
 }
 
-TEST_F(FListViewTest, AnItemThatLeftCannotStaySelected)
+TEST_F(ListView, AnItemThatLeftCannotStaySelected)
 {
 	AddItems(2);
 	const TSharedRef<SListView<FItem>> List = MakeList();
@@ -137,7 +137,7 @@ TEST_F(FListViewTest, AnItemThatLeftCannotStaySelected)
 	EXPECT_EQ(Heard.Last(), TEXT("nothing 3"));
 }
 
-TEST_F(FListViewTest, ScrollsToAnItemAtTheNextTick)
+TEST_F(ListView, ScrollsToAnItemAtTheNextTick)
 {
 	AddItems(500);
 	const TSharedRef<SListView<FItem>> List = MakeList();
@@ -154,7 +154,7 @@ TEST_F(FListViewTest, ScrollsToAnItemAtTheNextTick)
 	EXPECT_NE(Utf8(HostSnapshot::Take(List)).find("\"Item 499\""), std::string::npos) << "wherever it stands by then";
 }
 
-TEST_F(FListViewTest, TilesAreAListOfTiles)
+TEST_F(ListView, TilesAreAListOfTiles)
 {
 	AddItems(2);
 	// clang-format off

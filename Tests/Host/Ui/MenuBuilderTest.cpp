@@ -36,10 +36,10 @@ namespace MenuBuilderTest
 
 using MenuBuilderTest::FMenuCommands;
 
-class FMenuBuilderTest : public FUiTestEditor
+class MenuBuilder : public FUiTestEditor
 {
 protected:
-	FMenuBuilderTest() { FMenuCommands::Register(); }
+	MenuBuilder() { FMenuCommands::Register(); }
 
 	static FText Text(const TCHAR* String) { return FText::FromString(String); }
 	static FSlateIcon Icon(const TCHAR* Key) { return FSlateIcon(FAppStyle::GetAppStyleSetName(), Key); }
@@ -54,7 +54,7 @@ protected:
 	bool bAllowed = true;
 };
 
-TEST_F(FMenuBuilderTest, ShowsSectionsAndEntriesInOrder)
+TEST_F(MenuBuilder, ShowsSectionsAndEntriesInOrder)
 {
 	Commands->MapAction(FMenuCommands::Get().Paint, Noting(TEXT("paint")));
 	FMenuBuilder Menu(true, Commands);
@@ -82,7 +82,7 @@ TEST_F(FMenuBuilderTest, ShowsSectionsAndEntriesInOrder)
 		"      button [Press]\n");
 }
 
-TEST_F(FMenuBuilderTest, CommandsDoWhatTheirListSays)
+TEST_F(MenuBuilder, CommandsDoWhatTheirListSays)
 {
 	Commands->MapAction(FMenuCommands::Get().Paint, Noting(TEXT("paint")));
 	FMenuBuilder Builder(true, Commands);
@@ -97,14 +97,14 @@ TEST_F(FMenuBuilderTest, CommandsDoWhatTheirListSays)
 	EXPECT_EQ(Ran, TArray<FString>{TEXT("paint")});
 }
 
-TEST_F(FMenuBuilderTest, WithoutACommandListNoCommandCanRun)
+TEST_F(MenuBuilder, WithoutACommandListNoCommandCanRun)
 {
 	FMenuBuilder Builder(true, nullptr);
 	Builder.AddMenuEntry(FMenuCommands::Get().Paint);
 	EXPECT_EQ(Refusal(HostSnapshot::Click(Builder.MakeWidget(), TEXT("Paint Wall"))), "The entry \"Paint Wall\" is disabled.");
 }
 
-TEST_F(FMenuBuilderTest, TogglesShowTheirState)
+TEST_F(MenuBuilder, TogglesShowTheirState)
 {
 	bool bGrid = false;
 	Commands->MapAction(FMenuCommands::Get().Grid, FExecuteAction::CreateLambda([&bGrid] { bGrid = !bGrid; }), FCanExecuteAction(), FIsActionChecked::CreateLambda([&bGrid] { return bGrid; }));
@@ -116,14 +116,14 @@ TEST_F(FMenuBuilderTest, TogglesShowTheirState)
 	EXPECT_EQ(Utf8(HostSnapshot::Take(Menu)), "menu\n  entry Grid [Show Grid] (checked, icon: Icons.Info)\n");
 }
 
-TEST_F(FMenuBuilderTest, AnEntryWithoutAnActionSaysSo)
+TEST_F(MenuBuilder, AnEntryWithoutAnActionSaysSo)
 {
 	FMenuBuilder Builder(true, nullptr);
 	Builder.AddMenuEntry(Text(TEXT("Later")), FText::GetEmpty(), FSlateIcon(), FUIAction());
 	EXPECT_EQ(Refusal(HostSnapshot::Click(Builder.MakeWidget(), TEXT("Later"))), "The entry \"Later\" does nothing.");
 }
 
-TEST_F(FMenuBuilderTest, ChoosingAnEntryClosesTheMenuUnlessItIsToStay)
+TEST_F(MenuBuilder, ChoosingAnEntryClosesTheMenuUnlessItIsToStay)
 {
 	for (const bool bCloses : {true, false})
 	{
@@ -149,7 +149,7 @@ TEST_F(FMenuBuilderTest, ChoosingAnEntryClosesTheMenuUnlessItIsToStay)
 	EXPECT_EQ(Ran.Num(), 2);
 }
 
-TEST_F(FMenuBuilderTest, AllOpenMenusCanBeDismissed)
+TEST_F(MenuBuilder, AllOpenMenusCanBeDismissed)
 {
 	const TSharedRef<SComboButton> First = SNew(SComboButton);
 	const TSharedRef<SComboButton> Second = SNew(SComboButton);
@@ -160,7 +160,7 @@ TEST_F(FMenuBuilderTest, AllOpenMenusCanBeDismissed)
 	EXPECT_FALSE(Second->IsOpen());
 }
 
-TEST_F(FMenuBuilderTest, SectionsThatDoNotMatchAreAMistake)
+TEST_F(MenuBuilder, SectionsThatDoNotMatchAreAMistake)
 {
 	FMenuBuilder Open(true, nullptr);
 	Open.BeginSection("A");

@@ -6,7 +6,7 @@
 #include "HostSnapshot.h"
 #include "UiTestEditor.h"
 
-class FNotificationTest : public FUiTestEditor
+class Notification : public FUiTestEditor
 {
 protected:
 	static FNotificationInfo MakeInfo(float ExpireSeconds, float FadeOutSeconds)
@@ -36,7 +36,7 @@ protected:
 	}
 };
 
-TEST_F(FNotificationTest, GoesByItsDurations)
+TEST_F(Notification, GoesByItsDurations)
 {
 	struct FCase
 	{
@@ -62,7 +62,7 @@ TEST_F(FNotificationTest, GoesByItsDurations)
 	}
 }
 
-TEST_F(FNotificationTest, KeepsTheExactTimesThoughTheClockTakesLongSteps)
+TEST_F(Notification, KeepsTheExactTimesThoughTheClockTakesLongSteps)
 {
 	Wait(10.0);
 	Show(MakeInfo(3.0f, 2.0f));
@@ -72,7 +72,7 @@ TEST_F(FNotificationTest, KeepsTheExactTimesThoughTheClockTakesLongSteps)
 	EXPECT_DOUBLE_EQ(Newest().GoneAt.Get(0.0), 15.0);
 }
 
-TEST_F(FNotificationTest, StaysUntilToldToGoUnlessItIsFireAndForget)
+TEST_F(Notification, StaysUntilToldToGoUnlessItIsFireAndForget)
 {
 	FNotificationInfo Info = MakeInfo(1.0f, 1.0f);
 	Info.bFireAndForget = false;
@@ -89,7 +89,7 @@ TEST_F(FNotificationTest, StaysUntilToldToGoUnlessItIsFireAndForget)
 	EXPECT_EQ(Phase(Newest()), "gone");
 }
 
-TEST_F(FNotificationTest, ExpiringStartsAnewEvenWhileItFades)
+TEST_F(Notification, ExpiringStartsAnewEvenWhileItFades)
 {
 	const TSharedRef<SNotificationItem> Item = Show(MakeInfo(1.0f, 2.0f));
 	Wait(2.0);
@@ -106,7 +106,7 @@ TEST_F(FNotificationTest, ExpiringStartsAnewEvenWhileItFades)
 	EXPECT_EQ(Phase(Newest()), "gone") << "what has gone does not come back";
 }
 
-TEST_F(FNotificationTest, FadeoutDoesNotWaitForTheExpireTime)
+TEST_F(Notification, FadeoutDoesNotWaitForTheExpireTime)
 {
 	const TSharedRef<SNotificationItem> Item = Show(MakeInfo(60.0f, 1.0f));
 	Item->Fadeout();
@@ -116,7 +116,7 @@ TEST_F(FNotificationTest, FadeoutDoesNotWaitForTheExpireTime)
 	EXPECT_TRUE(HostNotifications::GetStanding().IsEmpty());
 }
 
-TEST_F(FNotificationTest, ShowsAButtonOnlyInItsState)
+TEST_F(Notification, ShowsAButtonOnlyInItsState)
 {
 	struct FCase
 	{
@@ -144,7 +144,7 @@ TEST_F(FNotificationTest, ShowsAButtonOnlyInItsState)
 	EXPECT_EQ(Newest().States.Num(), 4);
 }
 
-TEST_F(FNotificationTest, PressesOnlyWhatAPersonCouldPress)
+TEST_F(Notification, PressesOnlyWhatAPersonCouldPress)
 {
 	int32 NumPressed = 0;
 	bool bEnabled = false;
@@ -179,7 +179,7 @@ TEST_F(FNotificationTest, PressesOnlyWhatAPersonCouldPress)
 	EXPECT_EQ(Newest().PressedButtons, (TArray<FString>{TEXT("Go"), TEXT("Later"), TEXT("Go")}));
 }
 
-TEST_F(FNotificationTest, PressesTheNewestOfTwoEqualButtons)
+TEST_F(Notification, PressesTheNewestOfTwoEqualButtons)
 {
 	TArray<FString> Pressed;
 	for (const TCHAR* Which : {TEXT("first"), TEXT("second")})
@@ -193,7 +193,7 @@ TEST_F(FNotificationTest, PressesTheNewestOfTwoEqualButtons)
 	EXPECT_EQ(Pressed, TArray<FString>{TEXT("second")});
 }
 
-TEST_F(FNotificationTest, AButtonMayTakeItsOwnNotificationAway)
+TEST_F(Notification, AButtonMayTakeItsOwnNotificationAway)
 {
 	FNotificationInfo Info = MakeInfo(60.0f, 0.0f);
 	TSharedPtr<SNotificationItem> Item;
@@ -208,7 +208,7 @@ TEST_F(FNotificationTest, AButtonMayTakeItsOwnNotificationAway)
 	EXPECT_EQ(Phase(Newest()), "gone");
 }
 
-TEST_F(FNotificationTest, IsShownOnlyWhereItIsAllowedAndThereIsAUserInterface)
+TEST_F(Notification, IsShownOnlyWhereItIsAllowedAndThereIsAUserInterface)
 {
 	FSlateNotificationManager& Manager = FSlateNotificationManager::Get();
 	Show(MakeInfo(60.0f, 1.0f));
@@ -223,7 +223,7 @@ TEST_F(FNotificationTest, IsShownOnlyWhereItIsAllowedAndThereIsAUserInterface)
 	EXPECT_EQ(HostNotifications::GetHistory().Num(), 2);
 }
 
-TEST_F(FNotificationTest, HistoryBelongsToOneEditor)
+TEST_F(Notification, HistoryBelongsToOneEditor)
 {
 	Show(MakeInfo(60.0f, 1.0f));
 	Restart();
@@ -232,7 +232,7 @@ TEST_F(FNotificationTest, HistoryBelongsToOneEditor)
 	EXPECT_EQ(Newest().Id, 1);
 }
 
-TEST_F(FNotificationTest, QueuedOnesShowAtTheNextTick)
+TEST_F(Notification, QueuedOnesShowAtTheNextTick)
 {
 	FSlateNotificationManager::Get().QueueNotification(new FNotificationInfo(FText::FromString(TEXT("Queued"))));
 	EXPECT_TRUE(HostNotifications::GetHistory().IsEmpty());
@@ -241,7 +241,7 @@ TEST_F(FNotificationTest, QueuedOnesShowAtTheNextTick)
 	EXPECT_EQ(Newest().Text.ToString(), TEXT("Queued"));
 }
 
-TEST_F(FNotificationTest, ReadsAsItLooks)
+TEST_F(Notification, ReadsAsItLooks)
 {
 	FNotificationInfo Info = MakeInfo(60.0f, 1.0f);
 	Info.SubText = FText::FromString(TEXT("Sub"));

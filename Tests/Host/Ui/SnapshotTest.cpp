@@ -11,13 +11,13 @@
 #include "Widgets/SBoxPanel.h"
 #include "Widgets/Text/STextBlock.h"
 
-class FSnapshotTest : public FUiTestEditor
+class Snapshot : public FUiTestEditor
 {
 protected:
 	static FText Text(const TCHAR* String) { return FText::FromString(String); }
 };
 
-TEST_F(FSnapshotTest, ShowsOneWidgetALineAsAPersonSeesIt)
+TEST_F(Snapshot, ShowsOneWidgetALineAsAPersonSeesIt)
 {
 	// clang-format off
 	const TSharedRef<SWidget> Root = SNew(SVerticalBox)
@@ -52,7 +52,7 @@ TEST_F(FSnapshotTest, ShowsOneWidgetALineAsAPersonSeesIt)
 		"  button [Go] (tip: Goes)\n");
 }
 
-TEST_F(FSnapshotTest, TellsNeitherTheTextNorTheLengthOfAPassword)
+TEST_F(Snapshot, TellsNeitherTheTextNorTheLengthOfAPassword)
 {
 	const auto LineOf = [](const TCHAR* Password) {
 		return Utf8(HostSnapshot::Take(SNew(SEditableText).Tag(FName(TEXT("Secret"))).IsPassword(true).Text(Text(Password))));
@@ -68,7 +68,7 @@ TEST_F(FSnapshotTest, TellsNeitherTheTextNorTheLengthOfAPassword)
 	EXPECT_FALSE(FHostWidgetAccess::TextOf(*Box).Contains(TEXT("pa55")));
 }
 
-TEST_F(FSnapshotTest, RefusesWhatAPersonCouldNotDo)
+TEST_F(Snapshot, RefusesWhatAPersonCouldNotDo)
 {
 	int32 NumClicks = 0;
 	const auto Button = [&NumClicks](const TCHAR* Label) {
@@ -96,7 +96,7 @@ TEST_F(FSnapshotTest, RefusesWhatAPersonCouldNotDo)
 	EXPECT_EQ(NumClicks, 1);
 }
 
-TEST_F(FSnapshotTest, PrefersNamesToLabelsAndWhatShowsToWhatDoesNot)
+TEST_F(Snapshot, PrefersNamesToLabelsAndWhatShowsToWhatDoesNot)
 {
 	TArray<FString> Clicked;
 	const auto Button = [&Clicked](const TCHAR* Name, const TCHAR* Label, EVisibility Visibility) {
@@ -116,7 +116,7 @@ TEST_F(FSnapshotTest, PrefersNamesToLabelsAndWhatShowsToWhatDoesNot)
 	EXPECT_EQ(Clicked, (TArray<FString>{TEXT("B"), TEXT("B")}));
 }
 
-TEST_F(FSnapshotTest, TypingTellsOfTheChangeAtOnceAndThenCommits)
+TEST_F(Snapshot, TypingTellsOfTheChangeAtOnceAndThenCommits)
 {
 	TArray<FString> Heard;
 	// clang-format off
@@ -134,7 +134,7 @@ TEST_F(FSnapshotTest, TypingTellsOfTheChangeAtOnceAndThenCommits)
 	EXPECT_EQ(Heard, (TArray<FString>{TEXT("changed oak"), TEXT("committed oak 1"), TEXT("committed oak 1")}));
 }
 
-TEST_F(FSnapshotTest, CheckingIsDoneOnceAndClickingToggles)
+TEST_F(Snapshot, CheckingIsDoneOnceAndClickingToggles)
 {
 	TArray<ECheckBoxState> Heard;
 	const TSharedRef<SWidget> Box = SNew(SCheckBox).Tag(FName(TEXT("Box"))).OnCheckStateChanged_Lambda([&Heard](ECheckBoxState State) { Heard.Add(State); });
@@ -144,7 +144,7 @@ TEST_F(FSnapshotTest, CheckingIsDoneOnceAndClickingToggles)
 	EXPECT_EQ(Heard, (TArray<ECheckBoxState>{ECheckBoxState::Checked, ECheckBoxState::Unchecked}));
 }
 
-TEST_F(FSnapshotTest, AWidgetLivesWhileItsHandlerTakesItAway)
+TEST_F(Snapshot, AWidgetLivesWhileItsHandlerTakesItAway)
 {
 	const TSharedRef<SBox> Root = SNew(SBox);
 	TWeakPtr<SWidget> Weak;
@@ -160,11 +160,11 @@ TEST_F(FSnapshotTest, AWidgetLivesWhileItsHandlerTakesItAway)
 	FString Reason;
 	Weak = HostSnapshot::Find(Root, TEXT("Go"), Reason);
 	EXPECT_TRUE(HostSnapshot::Click(Root, TEXT("Go")).bDone);
-	EXPECT_TRUE(bAliveInHandler);
+	EXPECT_TRUE(bAliveInHandler) << "the widget is held while it handles the click";
 	EXPECT_FALSE(Weak.IsValid());
 }
 
-TEST_F(FSnapshotTest, AMenuIsMadeEachTimeItOpens)
+TEST_F(Snapshot, AMenuIsMadeEachTimeItOpens)
 {
 	int32 NumMade = 0;
 	// clang-format off
@@ -188,7 +188,7 @@ TEST_F(FSnapshotTest, AMenuIsMadeEachTimeItOpens)
 	}
 }
 
-TEST_F(FSnapshotTest, ABindingByThisDiesWithItsOwner)
+TEST_F(Snapshot, ABindingByThisDiesWithItsOwner)
 {
 	struct FOwner : public TSharedFromThis<FOwner>
 	{

@@ -8,31 +8,9 @@
 #include "Textures/SlateIcon.h"
 #include "UiTestEditor.h"
 
-using FStyleTest = FUiTestEditor;
+using StyleSets = FUiTestEditor;
 
-TEST_F(FStyleTest, JoinsContentPathsWithOneSlash)
-{
-	struct FCase
-	{
-		const char* Root;
-		const TCHAR* Relative;
-		const char* Expected;
-	};
-	const FCase Cases[] = {
-		{"/Plugin/Resources", TEXT("Logo"), "/Plugin/Resources/Logo.png"},
-		{"/Plugin/Resources", TEXT("/ClassIcons/Spot"), "/Plugin/Resources/ClassIcons/Spot.png"},
-		{"/Plugin/Resources/", TEXT("Logo"), "/Plugin/Resources/Logo.png"},
-	};
-	for (const FCase& Case : Cases)
-	{
-		SCOPED_TRACE(Case.Expected);
-		FSlateStyleSet Style(FName(TEXT("TestStyle")));
-		Style.SetContentRoot(FString(Case.Root));
-		EXPECT_EQ(Utf8(Style.RootToContentDir(Case.Relative, TEXT(".png"))), Case.Expected);
-	}
-}
-
-TEST_F(FStyleTest, TheLaterBrushOfAKeyReplacesTheEarlierAndBothAreOnRecord)
+TEST_F(StyleSets, TheLaterBrushOfAKeyReplacesTheEarlierAndBothAreOnRecord)
 {
 	FSlateStyleSet Style(FName(TEXT("TestStyle")));
 	Style.Set(FName(TEXT("Logo")), new FSlateImageBrush(TEXT("First"), FVector2D(20.0, 20.0)));
@@ -49,15 +27,7 @@ TEST_F(FStyleTest, TheLaterBrushOfAKeyReplacesTheEarlierAndBothAreOnRecord)
 	FSlateStyleRegistry::UnRegisterSlateStyle(Style);
 }
 
-TEST_F(FStyleTest, UnknownKeysGiveABrushThatIsNotNull)
-{
-	const FSlateStyleSet Style(FName(TEXT("TestStyle")));
-	ASSERT_NE(Style.GetBrush(FName(TEXT("NoSuchKey"))), nullptr);
-	EXPECT_EQ(Style.GetOptionalBrush(FName(TEXT("NoSuchKey")), nullptr, nullptr), nullptr);
-	EXPECT_NE(FAppStyle::GetBrush(FName(TEXT("NoSuchKey"))), nullptr);
-}
-
-TEST_F(FStyleTest, IconsFindStyleSetsThatAreRegisteredLater)
+TEST_F(StyleSets, IconsFindStyleSetsThatAreRegisteredLater)
 {
 	const FSlateIcon Icon(FName(TEXT("LateStyle")), FName(TEXT("Logo")));
 	const FSlateBrush* Missing = Icon.GetIcon();

@@ -9,7 +9,7 @@
 #include "UiTestEditor.h"
 #include "Widgets/Text/STextBlock.h"
 
-class FToolMenusTest : public FUiTestEditor
+class ToolMenus : public FUiTestEditor
 {
 protected:
 	static FText Text(const TCHAR* String) { return FText::FromString(String); }
@@ -37,7 +37,7 @@ protected:
 	TArray<FString> Ran;
 };
 
-TEST_F(FToolMenusTest, RunsStartUpCallbacksOnceMenusAreReady)
+TEST_F(ToolMenus, RunsStartUpCallbacksOnceMenusAreReady)
 {
 	HostToolMenus::Stop();
 	const auto Note = [this](const TCHAR* What) { return FSimpleMulticastDelegate::FDelegate::CreateLambda([this, What] { Ran.Add(What); }); };
@@ -54,22 +54,7 @@ TEST_F(FToolMenusTest, RunsStartUpCallbacksOnceMenusAreReady)
 	EXPECT_EQ(Ran.Num(), 2) << "callbacks belong to one editor";
 }
 
-TEST_F(FToolMenusTest, KeepsSectionsAndEntriesInOrderAndReplacesEntriesOfTheSameName)
-{
-	UToolMenu* Menu = UToolMenus::Get()->ExtendMenu("Test.Menu");
-	FToolMenuSection& First = Menu->FindOrAddSection("First", Text(TEXT("The First")));
-	First.AddMenuEntry("A", Text(TEXT("Alpha")), FText(), FSlateIcon(), Noting(TEXT("A")));
-	First.AddMenuEntry("B", Text(TEXT("Beta")), FText(), FSlateIcon(), Noting(TEXT("B")));
-	FToolMenuEntry Front = FToolMenuEntry::InitMenuEntry("C", Text(TEXT("Gamma")), FText(), FSlateIcon(), Noting(TEXT("C")));
-	Front.InsertPosition = FToolMenuInsert("B", EToolMenuInsertType::Before);
-	First.AddEntry(Front);
-	First.AddMenuEntry("A", Text(TEXT("Alpha again")), FText(), FSlateIcon(), Noting(TEXT("A2")));
-	Menu->AddSection("Zero", FText(), FToolMenuInsert("First", EToolMenuInsertType::Before)).AddMenuEntry("Z", Text(TEXT("Zed")), FText(), FSlateIcon(), FExecuteAction());
-	EXPECT_EQ(LabelsOf("Test.Menu"), "Zero:Zed, First:Alpha again, First:Gamma, First:Beta");
-	EXPECT_EQ(Utf8(HostToolMenus::List("Test.Menu", FToolMenuContext())[1].SectionLabel), "The First");
-}
-
-TEST_F(FToolMenusTest, MakesDynamicEntriesForEachContext)
+TEST_F(ToolMenus, MakesDynamicEntriesForEachContext)
 {
 	FToolMenuSection& Section = UToolMenus::Get()->ExtendMenu("Test.Menu")->FindOrAddSection("GetAssetActions");
 	Section.AddDynamicEntry(NAME_None, FNewToolMenuSectionDelegate::CreateLambda([this](FToolMenuSection& InSection) {
@@ -87,7 +72,7 @@ TEST_F(FToolMenusTest, MakesDynamicEntriesForEachContext)
 	EXPECT_EQ(Ran, TArray<FString>{TEXT("open Oak")});
 }
 
-TEST_F(FToolMenusTest, ShowsWhatItsParentsHoldFirst)
+TEST_F(ToolMenus, ShowsWhatItsParentsHoldFirst)
 {
 	UToolMenus* Menus = UToolMenus::Get();
 	Menus->ExtendMenu("Test.Child")->FindOrAddSection("S").AddMenuEntry("C", Text(TEXT("child")), FText(), FSlateIcon(), FExecuteAction());
@@ -97,7 +82,7 @@ TEST_F(FToolMenusTest, ShowsWhatItsParentsHoldFirst)
 	EXPECT_EQ(LabelsOf("Test.Child"), "S:parent, S:child");
 }
 
-TEST_F(FToolMenusTest, RefusesEntriesThatCannotRun)
+TEST_F(ToolMenus, RefusesEntriesThatCannotRun)
 {
 	FToolMenuSection& Section = UToolMenus::Get()->ExtendMenu("Test.Menu")->FindOrAddSection("S");
 	FToolUIAction Never = Noting(TEXT("never"));
@@ -114,19 +99,7 @@ TEST_F(FToolMenusTest, RefusesEntriesThatCannotRun)
 	EXPECT_TRUE(Ran.IsEmpty());
 }
 
-TEST_F(FToolMenusTest, AnOwnerTakesItsEntriesAway)
-{
-	UToolMenu* Menu = UToolMenus::Get()->ExtendMenu("Test.Menu");
-	Menu->FindOrAddSection("S").AddMenuEntry("Mine", Text(TEXT("Mine")), FText(), FSlateIcon(), FExecuteAction());
-	{
-		FToolMenuOwnerScoped OwnerScoped(this);
-		Menu->FindOrAddSection("S").AddMenuEntry("Theirs", Text(TEXT("Theirs")), FText(), FSlateIcon(), FExecuteAction());
-	}
-	UToolMenus::UnregisterOwner(this);
-	EXPECT_EQ(LabelsOf("Test.Menu"), "S:Mine");
-}
-
-TEST_F(FToolMenusTest, OpensMenusOfComboButtons)
+TEST_F(ToolMenus, OpensMenusOfComboButtons)
 {
 	FToolMenuSection& Section = UToolMenus::Get()->ExtendMenu("Test.ToolBar")->FindOrAddSection("PluginTools");
 	Section.AddEntry(FToolMenuEntry::InitComboButton("Tools", FUIAction(), FNewToolMenuDelegate::CreateLambda([this](UToolMenu* SubMenu) {
@@ -147,7 +120,7 @@ TEST_F(FToolMenusTest, OpensMenusOfComboButtons)
 	EXPECT_EQ(Utf8(HostSnapshot::Take(ToolBar)).find("Inner"), std::string::npos) << "the menu has closed";
 }
 
-TEST_F(FToolMenusTest, MakesTheContentAnewByAnyOfItsForms)
+TEST_F(ToolMenus, MakesTheContentAnewByAnyOfItsForms)
 {
 	int32 NumMade = 0;
 	const auto MakeText = [&NumMade]() -> TSharedRef<SWidget> { return SNew(STextBlock).Text(FText::AsNumber(++NumMade)); };
@@ -183,7 +156,7 @@ TEST_F(FToolMenusTest, MakesTheContentAnewByAnyOfItsForms)
 	}
 }
 
-TEST_F(FToolMenusTest, ToolbarsShowLabelsOnlyBesideIconsOfTheCalloutStyle)
+TEST_F(ToolMenus, ToolbarsShowLabelsOnlyBesideIconsOfTheCalloutStyle)
 {
 	const FSlateIcon Icon(FAppStyle::GetAppStyleSetName(), "Icons.Help");
 	FToolMenuSection& Section = UToolMenus::Get()->RegisterMenu("Test.ToolBar", NAME_None, EMultiBoxType::SlimHorizontalToolBar)->FindOrAddSection("S");

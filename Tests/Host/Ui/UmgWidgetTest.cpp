@@ -17,7 +17,7 @@
 #include "UiTestEditor.h"
 #include "Widgets/SWidget.h"
 
-class FUmgWidgetTest : public FUiTestEditor
+class UmgWidget : public FUiTestEditor
 {
 protected:
 	template<typename WidgetType>
@@ -36,7 +36,7 @@ protected:
 	}
 };
 
-TEST_F(FUmgWidgetTest, ValuesReachTheSlateWidgetBeforeAndAfterItIsMade)
+TEST_F(UmgWidget, ValuesReachTheSlateWidgetBeforeAndAfterItIsMade)
 {
 	UEditableText* Text = Make<UEditableText>(TEXT("Key"));
 	Text->SetText(FText::FromString(TEXT("before")));
@@ -53,7 +53,7 @@ TEST_F(FUmgWidgetTest, ValuesReachTheSlateWidgetBeforeAndAfterItIsMade)
 	EXPECT_EQ(Text->TakeWidget(), Widget) << "made once, as long as somebody holds it";
 }
 
-TEST_F(FUmgWidgetTest, TypedTextComesBack)
+TEST_F(UmgWidget, TypedTextComesBack)
 {
 	UEditableText* Text = Make<UEditableText>(TEXT("Key"));
 	const TStrongObjectPtr<UEditableText> Kept(Text);
@@ -65,7 +65,7 @@ TEST_F(FUmgWidgetTest, TypedTextComesBack)
 	EXPECT_EQ(Utf8(HostSnapshot::Take(Text->TakeWidget())), "edit Key \"typed\"\n");
 }
 
-TEST_F(FUmgWidgetTest, ACheckBoxThatCodeSetsTellsNobody)
+TEST_F(UmgWidget, ACheckBoxThatCodeSetsTellsNobody)
 {
 	UCheckBox* Box = Make<UCheckBox>(TEXT("Box"));
 	UTestLoginPanel* Listener = nullptr;
@@ -84,7 +84,7 @@ TEST_F(FUmgWidgetTest, ACheckBoxThatCodeSetsTellsNobody)
 	EXPECT_FALSE(Box->IsChecked());
 }
 
-TEST_F(FUmgWidgetTest, PanelsShowTheirChildrenInOrderAndFollowChanges)
+TEST_F(UmgWidget, PanelsShowTheirChildrenInOrderAndFollowChanges)
 {
 	UVerticalBox* Box = NewObject<UVerticalBox>();
 	UTextBlock* First = Label(TEXT("First"));
@@ -105,7 +105,7 @@ TEST_F(FUmgWidgetTest, PanelsShowTheirChildrenInOrderAndFollowChanges)
 	EXPECT_EQ(Box->AddChild(nullptr), nullptr);
 }
 
-TEST_F(FUmgWidgetTest, ASizeBoxHoldsOneChildAndItsSizes)
+TEST_F(UmgWidget, ASizeBoxHoldsOneChildAndItsSizes)
 {
 	USizeBox* Box = NewObject<USizeBox>();
 	Box->SetMinDesiredHeight(10.0f);
@@ -121,7 +121,7 @@ TEST_F(FUmgWidgetTest, ASizeBoxHoldsOneChildAndItsSizes)
 	EXPECT_EQ(First->GetParent(), nullptr);
 }
 
-TEST_F(FUmgWidgetTest, MakesWidgetsOnlyOfClassesThatCanBeMade)
+TEST_F(UmgWidget, MakesWidgetsOnlyOfClassesThatCanBeMade)
 {
 	WriteLayout("Tool", R"("ParentClass": "/Script/TestPanels.TestToolPanel", "Tree": {"Class": "TextBlock", "Name": "Label"})");
 	UUserWidget* Panel = MakePanel(TEXT("Tool"));
@@ -136,7 +136,7 @@ TEST_F(FUmgWidgetTest, MakesWidgetsOnlyOfClassesThatCanBeMade)
 	EXPECT_EQ(Panel->WidgetTree->ConstructWidget<UWidget>(UPanelWidget::StaticClass()), nullptr);
 }
 
-TEST_F(FUmgWidgetTest, ATransformIsTheIdentityUntilItIsChanged)
+TEST_F(UmgWidget, ATransformIsTheIdentityUntilItIsChanged)
 {
 	FWidgetTransform Transform;
 	EXPECT_TRUE(Transform.IsIdentity());

@@ -3,7 +3,7 @@
 #include "UiTestEditor.h"
 
 /** Layouts that are not sound. */
-class FWidgetLayoutRefusalTest : public FUiTestEditor
+class WidgetLayoutRefusal : public FUiTestEditor
 {
 protected:
 	/** The problems with one document, without its class. */
@@ -30,7 +30,7 @@ protected:
 	}
 };
 
-TEST_F(FWidgetLayoutRefusalTest, NamesPanelWidgetAndClassOfMissingAndWrongBindings)
+TEST_F(WidgetLayoutRefusal, NamesPanelWidgetAndClassOfMissingAndWrongBindings)
 {
 	EXPECT_EQ(ProblemsWith(R"("ParentClass": "/Script/TestPanels.TestLoginPanel", "Tree": {"Class": "VerticalBox", "Children": [
 			{"Class": "TextBlock", "Name": "Submit"}]})"),
@@ -38,7 +38,7 @@ TEST_F(FWidgetLayoutRefusalTest, NamesPanelWidgetAndClassOfMissingAndWrongBindin
 		"/Tree: panel TestLoginPanel binds the widget 'Submit' as a Button, but here it is a TextBlock\n");
 }
 
-TEST_F(FWidgetLayoutRefusalTest, SaysWhatIsWrongWithTheParentClass)
+TEST_F(WidgetLayoutRefusal, SaysWhatIsWrongWithTheParentClass)
 {
 	EXPECT_EQ(ProblemsWith(R"("Tree": {"Class": "VerticalBox"})"), "/: a text 'ParentClass' is needed\n");
 	EXPECT_EQ(ProblemsWith(R"("ParentClass": 7, "Tree": {})"), "/ParentClass: a text 'ParentClass' is needed\n");
@@ -47,7 +47,7 @@ TEST_F(FWidgetLayoutRefusalTest, SaysWhatIsWrongWithTheParentClass)
 	EXPECT_EQ(ProblemsWith(R"("ParentClass": "/Script/TestPanels.TestToolPanel")"), "/: the layout has no 'Tree'\n");
 }
 
-TEST_F(FWidgetLayoutRefusalTest, SaysWhatIsWrongWithAWidget)
+TEST_F(WidgetLayoutRefusal, SaysWhatIsWrongWithAWidget)
 {
 	struct FCase
 	{
@@ -95,7 +95,7 @@ TEST_F(FWidgetLayoutRefusalTest, SaysWhatIsWrongWithAWidget)
 	}
 }
 
-TEST_F(FWidgetLayoutRefusalTest, SaysWhatIsWrongWithEventsAndCalls)
+TEST_F(WidgetLayoutRefusal, SaysWhatIsWrongWithEventsAndCalls)
 {
 	struct FCase
 	{
@@ -168,7 +168,7 @@ TEST_F(FWidgetLayoutRefusalTest, SaysWhatIsWrongWithEventsAndCalls)
 	}
 }
 
-TEST_F(FWidgetLayoutRefusalTest, TellsAllProblemsOfOneKindOfTroubleAtOnceAndLeavesNothingBehind)
+TEST_F(WidgetLayoutRefusal, TellsAllProblemsOfOneKindOfTroubleAtOnceAndLeavesNothingBehind)
 {
 	EXPECT_EQ(ProblemsWithRest(R"("Events": {"OnA": [], "OnB": []}, "Calls": {"Submit.OnC": []})"),
 		"/Events/OnA: panel TestLoginPanel has no event 'OnA'\n"
@@ -178,7 +178,7 @@ TEST_F(FWidgetLayoutRefusalTest, TellsAllProblemsOfOneKindOfTroubleAtOnceAndLeav
 	EXPECT_NE(MakePanel(TEXT("Bad")), nullptr) << "put right, it loads in the same editor";
 }
 
-TEST_F(FWidgetLayoutRefusalTest, NeedsAnEditorUtilityWidgetAsTheOutermostPanel)
+TEST_F(WidgetLayoutRefusal, NeedsAnEditorUtilityWidgetAsTheOutermostPanel)
 {
 	WriteLayout("Bad", R"("ParentClass": "/Script/TestPanels.TestListEntry", "Tree": {"Class": "TextBlock"})", "/Script/Blutility.EditorUtilityWidgetBlueprint");
 	EXPECT_EQ(MakePanel(TEXT("Bad")), nullptr);

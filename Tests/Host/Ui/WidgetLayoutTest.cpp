@@ -15,7 +15,7 @@
 #include "UiTestEditor.h"
 
 /** Panels made of layouts that are sound. */
-class FWidgetLayoutTest : public FUiTestEditor
+class WidgetLayout : public FUiTestEditor
 {
 protected:
 	/** A login layout with everything bound; Members are added at the end of the document. */
@@ -49,7 +49,7 @@ protected:
 	TSharedPtr<SWidget> Root;
 };
 
-TEST_F(FWidgetLayoutTest, BindsNamedWidgetsBeforeThePanelIsInitialized)
+TEST_F(WidgetLayout, BindsNamedWidgetsBeforeThePanelIsInitialized)
 {
 	WriteLogin("");
 	ASSERT_NE(Open(), nullptr);
@@ -65,7 +65,7 @@ TEST_F(FWidgetLayoutTest, BindsNamedWidgetsBeforeThePanelIsInitialized)
 		"    button Submit [Sign in]\n");
 }
 
-TEST_F(FWidgetLayoutTest, APanelEndsWithItsWidgetAndBeginsAgainWithTheNext)
+TEST_F(WidgetLayout, APanelEndsWithItsWidgetAndBeginsAgainWithTheNext)
 {
 	WriteLogin("");
 	ASSERT_NE(Open(), nullptr);
@@ -79,7 +79,7 @@ TEST_F(FWidgetLayoutTest, APanelEndsWithItsWidgetAndBeginsAgainWithTheNext)
 	EXPECT_EQ(Panel->Happened.Num(), 4) << "the handler was added once";
 }
 
-TEST_F(FWidgetLayoutTest, EventsShowWhatTheLayoutSays)
+TEST_F(WidgetLayout, EventsShowWhatTheLayoutSays)
 {
 	WriteLogin(R"("Events": {
 		"OnLoginInProcess": [
@@ -110,7 +110,7 @@ TEST_F(FWidgetLayoutTest, EventsShowWhatTheLayoutSays)
 	EXPECT_EQ(Read(TEXT("Status")), "Nobody");
 }
 
-TEST_F(FWidgetLayoutTest, CallsPassOnWhatTheEventGave)
+TEST_F(WidgetLayout, CallsPassOnWhatTheEventGave)
 {
 	WriteLogin(R"("Calls": {
 		"RememberUser.OnCheckStateChanged": [{"Call": "SetRememberMe"}],
@@ -135,7 +135,7 @@ TEST_F(FWidgetLayoutTest, CallsPassOnWhatTheEventGave)
 	EXPECT_EQ(Panel->Happened, (TArray<FString>{TEXT("remember"), TEXT("now ada 5"), TEXT("Ada failed 0"), TEXT("Status"), TEXT("UserName"), TEXT("submit ada")}));
 }
 
-TEST_F(FWidgetLayoutTest, ACallIsNotMadeWithWhatDoesNotFit)
+TEST_F(WidgetLayout, ACallIsNotMadeWithWhatDoesNotFit)
 {
 	WriteLogin(R"("Calls": {"Submit.OnClicked": [
 		{"Call": "Note", "With": {"InText": "visits", "InNumber": "{UserName.Text}"}},
@@ -154,7 +154,7 @@ TEST_F(FWidgetLayoutTest, ACallIsNotMadeWithWhatDoesNotFit)
 	EXPECT_EQ(Panel->Happened, (TArray<FString>{TEXT("visits 12"), TEXT("submit 12")}));
 }
 
-TEST_F(FWidgetLayoutTest, ACallGoesOnByWhatItReturned)
+TEST_F(WidgetLayout, ACallGoesOnByWhatItReturned)
 {
 	WriteLogin(R"("Calls": {"Submit.OnClicked": [
 		{"Call": "RememberUser.IsChecked", "With": {},
@@ -172,7 +172,7 @@ TEST_F(FWidgetLayoutTest, ACallGoesOnByWhatItReturned)
 	EXPECT_EQ(Panel->Happened, (TArray<FString>{TEXT("after 0"), TEXT("submit ada"), TEXT("kept 0"), TEXT("after 0"), TEXT("submit ada")}));
 }
 
-TEST_F(FWidgetLayoutTest, ObjectsThatAreNoWidgetsAreAskedAndHeardWhileThePanelShows)
+TEST_F(WidgetLayout, ObjectsThatAreNoWidgetsAreAskedAndHeardWhileThePanelShows)
 {
 	WriteLogin(R"("Objects": {
 			"Book": {"ResultOf": "/Script/TestPanels.TestVisitorBook.GetBook", "With": {"InWhere": "{UserName.Text}"}},
@@ -203,7 +203,7 @@ TEST_F(FWidgetLayoutTest, ObjectsThatAreNoWidgetsAreAskedAndHeardWhileThePanelSh
 	EXPECT_EQ(Visit(), TArray<FString>{TEXT("Ada at the pier 0")}) << "once";
 }
 
-TEST_F(FWidgetLayoutTest, ValuesCanBeWhatAFunctionReturns)
+TEST_F(WidgetLayout, ValuesCanBeWhatAFunctionReturns)
 {
 	const std::string Visitor = R"({"ResultOf": "/Script/TestPanels.TestVisitorBook.MakeVisitor", "With": {"Name": "{UserName.Text}", "Visits": 7})";
 	WriteLogin(R"("Calls": {"Submit.OnClicked": [
@@ -223,7 +223,7 @@ TEST_F(FWidgetLayoutTest, ValuesCanBeWhatAFunctionReturns)
 	EXPECT_EQ(Panel->Happened, (TArray<FString>{TEXT("submit eve"), TEXT("Ahoy 0"), TEXT("submit ada")}));
 }
 
-TEST_F(FWidgetLayoutTest, ALayoutsOwnFunctionsAreCalledLikeThoseOfThePanel)
+TEST_F(WidgetLayout, ALayoutsOwnFunctionsAreCalledLikeThoseOfThePanel)
 {
 	WriteLogin(R"("Functions": {
 			"Greet": [{"Set": "Status.Text", "To": "Hello {UserName.Text}"}, {"Call": "Tell"}],
@@ -238,7 +238,7 @@ TEST_F(FWidgetLayoutTest, ALayoutsOwnFunctionsAreCalledLikeThoseOfThePanel)
 	EXPECT_EQ(Panel->Happened, (TArray<FString>{TEXT("Hello ada 0"), TEXT("submit ada"), TEXT("Hello ada 0")}));
 }
 
-TEST_F(FWidgetLayoutTest, ActionsThatRaiseTheirOwnEventAreStopped)
+TEST_F(WidgetLayout, ActionsThatRaiseTheirOwnEventAreStopped)
 {
 	WriteLogin(R"("Events": {
 		"OnVisitorChanged": [{"Call": "OnVisitorChanged"}, {"Call": "OnVisitorChanged"}, {"Set": "Status.Text", "To": "never"}],
@@ -253,7 +253,7 @@ TEST_F(FWidgetLayoutTest, ActionsThatRaiseTheirOwnEventAreStopped)
 	EXPECT_EQ(Read(TEXT("Status")), "works on");
 }
 
-TEST_F(FWidgetLayoutTest, AFunctionOfThePanelMakesTheOptionsOfAComboBox)
+TEST_F(WidgetLayout, AFunctionOfThePanelMakesTheOptionsOfAComboBox)
 {
 	WriteLogin("", R"(, {"Class": "ComboBoxString", "Name": "Place", "Properties": {"OnGenerateWidgetEvent": "MakeOptionWidget"}})");
 	ASSERT_NE(Open(), nullptr);
@@ -267,7 +267,7 @@ TEST_F(FWidgetLayoutTest, AFunctionOfThePanelMakesTheOptionsOfAComboBox)
 	EXPECT_EQ(Read(TEXT("Place")), "[Tower]");
 }
 
-TEST_F(FWidgetLayoutTest, OverridesReachNativeEventsAndInterfaces)
+TEST_F(WidgetLayout, OverridesReachNativeEventsAndInterfaces)
 {
 	WriteLogin(R"("Events": {
 		"OnMoodChanged": [{"When": {"Value": "{NewMood}", "Is": "Busy"}, "CallParent": true}, {"Call": "Note", "With": {"InText": "{NewMood}"}}],
@@ -281,7 +281,7 @@ TEST_F(FWidgetLayoutTest, OverridesReachNativeEventsAndInterfaces)
 	EXPECT_EQ(Panel->Happened, (TArray<FString>{TEXT("Calm 0"), TEXT("native OnMoodChanged"), TEXT("Busy 0"), TEXT("activated 0")}));
 }
 
-TEST_F(FWidgetLayoutTest, ALayoutCanHoldAnotherOne)
+TEST_F(WidgetLayout, ALayoutCanHoldAnotherOne)
 {
 	WriteLogin("");
 	WriteLayout("Shell", R"("ParentClass": "/Script/TestPanels.TestToolPanel",
@@ -312,7 +312,7 @@ TEST_F(FWidgetLayoutTest, ALayoutCanHoldAnotherOne)
 	EXPECT_EQ(First->Happened.Last(), TEXT("submit ")) << "what shows is kept";
 }
 
-TEST_F(FWidgetLayoutTest, ALayoutHearsWhenAPanelInItIsShownOrHidden)
+TEST_F(WidgetLayout, ALayoutHearsWhenAPanelInItIsShownOrHidden)
 {
 	WriteLogin("");
 	WriteLayout("Shell", R"("ParentClass": "/Script/TestPanels.TestToolPanel",
@@ -331,7 +331,7 @@ TEST_F(FWidgetLayoutTest, ALayoutHearsWhenAPanelInItIsShownOrHidden)
 	EXPECT_EQ(Read(TEXT("Heard")), "-Collapsed-Visible-");
 }
 
-TEST_F(FWidgetLayoutTest, RowsOfAListAreEntriesOfALayout)
+TEST_F(WidgetLayout, RowsOfAListAreEntriesOfALayout)
 {
 	WriteLayout("Entry", R"("ParentClass": "/Script/TestPanels.TestListEntry",
 		"Tree": {"Class": "TextBlock", "Name": "Label"},
@@ -358,7 +358,7 @@ TEST_F(FWidgetLayoutTest, RowsOfAListAreEntriesOfALayout)
 	EXPECT_TRUE(HostLog::GetLines().ContainsByPredicate([](const auto& Line) { return Line.Text.Equals(TEXT("Blueprints cannot read 'Price' of TestListItem; it reads as empty in layouts.")); }));
 }
 
-TEST_F(FWidgetLayoutTest, ARowOfSeveralTextsIsMeantByAnyOfThem)
+TEST_F(WidgetLayout, ARowOfSeveralTextsIsMeantByAnyOfThem)
 {
 	WriteLayout("Entry", R"("ParentClass": "/Script/TestPanels.TestListEntry",
 		"Tree": {"Class": "HorizontalBox", "Children": [{"Class": "TextBlock", "Properties": {"Text": "Wood"}}, {"Class": "TextBlock", "Name": "Label"}, {"Class": "ListView", "Name": "Inner"}]},
@@ -385,7 +385,7 @@ TEST_F(FWidgetLayoutTest, ARowOfSeveralTextsIsMeantByAnyOfThem)
 	EXPECT_NE(Refusal(HostSnapshot::Click(Root.ToSharedRef(), TEXT("Wood"))), "") << "all rows have it";
 }
 
-TEST_F(FWidgetLayoutTest, AClosedPanelIsCollectedAndItsClassLivesOnWithItsAsset)
+TEST_F(WidgetLayout, AClosedPanelIsCollectedAndItsClassLivesOnWithItsAsset)
 {
 	WriteLogin("");
 	ASSERT_NE(Open(), nullptr);

@@ -7,10 +7,7 @@
 
 namespace HostClipboard
 {
-	namespace
-	{
-		THostState<TArray<FString>> History;
-	}
+	THostState<TArray<FString>> History;
 
 	const TArray<FString>& GetHistory()
 	{

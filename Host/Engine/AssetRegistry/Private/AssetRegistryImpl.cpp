@@ -162,3 +162,8 @@ void FAssetRegistryImpl::AssetCreated(UObject* NewAsset)
 	Created.Add(NewAsset);
 	AssetAdded.Broadcast(FAssetData(NewAsset));
 }
+
+void FAssetRegistryImpl::AssetDeleted(UObject* DeletedAsset)
+{
+	Created.RemoveAll([DeletedAsset](const TWeakObjectPtr<UObject>& Object) { return Object == DeletedAsset; });
+}

@@ -22,6 +22,7 @@ public:
 	virtual void SearchAllAssets(bool bSynchronousSearch) override;
 	virtual FAssetAddedEvent& OnAssetAdded() override { return AssetAdded; }
 	virtual void AssetCreated(UObject* NewAsset) override;
+	virtual void AssetDeleted(UObject* DeletedAsset) override;
 	//~ End IAssetRegistry
 
 private:

@@ -26,6 +26,11 @@ void FAssetRegistryModule::AssetCreated(UObject* NewAsset)
 	GetRegistry().AssetCreated(NewAsset);
 }
 
+void FAssetRegistryModule::AssetDeleted(UObject* DeletedAsset)
+{
+	GetRegistry().AssetDeleted(DeletedAsset);
+}
+
 IAssetRegistry* IAssetRegistry::Get()
 {
 	const FAssetRegistryModule* Module = FModuleManager::GetModulePtr<FAssetRegistryModule>(FName("AssetRegistry"));

@@ -26,11 +26,17 @@ namespace AssetCreation
 		return (InMemory != nullptr && InMemory->IsA<UWorld>()) || HostPackages::FindFile(PackageName).EndsWith(TEXT(".umap.json"));
 	}
 
+	/** Below the root of what nobody means to keep; host: it has no folder on disk. */
+	bool IsTemporary(const FString& PackageName)
+	{
+		return PackageName.StartsWith(TEXT("/Temp/"));
+	}
+
 	/** False, with the reason in the log, for a request that cannot become an asset. */
 	bool IsPossible(const FAssetRequest& Request, const FString& PackageName)
 	{
 		FString Reason;
-		if (!HostPackages::IsValidAssetName(Request.AssetName, &Reason) || !HostPackages::IsValidPackageName(PackageName, &Reason))
+		if (!HostPackages::IsValidAssetName(Request.AssetName, &Reason) || (!IsTemporary(PackageName) && !HostPackages::IsValidPackageName(PackageName, &Reason)))
 		{
 			UE_LOG(LogAssetTools, Error, TEXT("Cannot create the asset '%s' in '%s': %s."), *Request.AssetName, *Request.PackagePath, *Reason);
 			return false;

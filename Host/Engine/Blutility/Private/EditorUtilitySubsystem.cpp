@@ -14,7 +14,7 @@
 
 namespace EditorUtility
 {
-	static FString CheckParent(const UClass& ParentClass)
+	FString CheckParent(const UClass& ParentClass)
 	{
 		return ParentClass.IsChildOf<UEditorUtilityWidget>()
 			? FString()

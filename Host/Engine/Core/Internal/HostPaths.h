@@ -23,7 +23,16 @@ namespace HostPaths
 	/** Without a project this is the engine folder, as in an engine started without one. */
 	const FString& GetProjectDir();
 
-	/** The folder that holds Config/Base….ini; by default the one that this program was built from. */
+	/**
+	 * What comes with the program, a file or folder by its path: it lies in share/velmorant beside the folder that the program runs from,
+	 * wherever both were moved together. Links are followed, so that messages name the files themselves. Without a slash at its end.
+	 */
+	FString FindProgramData(const TCHAR* Path);
+
+	/** The first that is not there of what no editor can do without; empty if all is. */
+	FString FindMissingProgramData();
+
+	/** The folder that holds Config/Base….ini; by default the program's own. */
 	void SetEngineDir(const FString& Directory);
 	const FString& GetEngineDir();
 

@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include "UObject/Property.h"
+#include "HostReflection/Property.h"
 
 #include <cstring>
 #include <new>

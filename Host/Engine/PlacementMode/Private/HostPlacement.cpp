@@ -11,13 +11,13 @@
 
 namespace HostPlacement
 {
-	static const FPlacementModeModule* GetModule()
+	const FPlacementModeModule* GetModule()
 	{
 		return static_cast<const FPlacementModeModule*>(FModuleManager::GetModulePtr<IPlacementModeModule>("PlacementMode"));
 	}
 
 	/** The item's own factory, or the first that can place its asset. Null when none can. */
-	static UActorFactory* FindFactory(const FPlaceableItem& Item)
+	UActorFactory* FindFactory(const FPlaceableItem& Item)
 	{
 		if (Item.Factory != nullptr)
 		{

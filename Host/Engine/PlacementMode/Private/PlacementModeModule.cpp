@@ -2,6 +2,17 @@
 
 #include "PlacementModeModule.h"
 
+void FPlacementModeModule::GetItemsForCategory(FName CategoryName, TArray<TSharedPtr<FPlaceableItem>>& OutItems) const
+{
+	if (const FCategory* Category = FindCategory(CategoryName))
+	{
+		for (const FItem& Item : Category->Items)
+		{
+			OutItems.Add(Item.Item);
+		}
+	}
+}
+
 IMPLEMENT_MODULE(FPlacementModeModule, PlacementMode)
 
 bool FPlacementModeModule::RegisterPlacementCategory(const FPlacementCategoryInfo& Info)

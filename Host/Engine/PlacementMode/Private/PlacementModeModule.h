@@ -27,6 +27,7 @@ public:
 	virtual TOptional<FPlacementModeID> RegisterPlaceableItem(FName CategoryName, const TSharedRef<FPlaceableItem>& Item) override;
 	virtual void UnregisterPlaceableItem(FPlacementModeID ID) override;
 	virtual const FPlacementCategoryInfo* GetRegisteredPlacementCategory(FName UniqueHandle) const override;
+	virtual void GetItemsForCategory(FName CategoryName, TArray<TSharedPtr<FPlaceableItem>>& OutItems) const override;
 	//~ End IPlacementModeModule
 
 	const TArray<FCategory>& GetCategories() const { return Categories; }

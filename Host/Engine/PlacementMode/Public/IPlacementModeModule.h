@@ -96,4 +96,7 @@ public:
 
 	/** Null when there is none. Good until a category is registered or unregistered. */
 	virtual const FPlacementCategoryInfo* GetRegisteredPlacementCategory(FName UniqueHandle) const = 0;
+
+	/** Adds the items of the category, in order of registration; nothing for an unknown one. */
+	virtual void GetItemsForCategory(FName CategoryName, TArray<TSharedPtr<FPlaceableItem>>& OutItems) const = 0;
 };

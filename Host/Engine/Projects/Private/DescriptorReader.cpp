@@ -13,41 +13,38 @@
 
 namespace DescriptorReader
 {
-	namespace
+	FString ToFString(const std::string& Utf8)
 	{
-		FString ToFString(const std::string& Utf8)
-		{
-			return FString(UTF8_TO_TCHAR(Utf8.c_str()));
-		}
+		return FString(UTF8_TO_TCHAR(Utf8.c_str()));
+	}
 
-		/** Null for a member that is not there. */
-		const nlohmann::json* FindMember(const nlohmann::json& Object, const char* Member)
-		{
-			const auto Found = Object.find(Member);
-			return Found != Object.end() ? &*Found : nullptr;
-		}
+	/** Null for a member that is not there. */
+	const nlohmann::json* FindMember(const nlohmann::json& Object, const char* Member)
+	{
+		const auto Found = Object.find(Member);
+		return Found != Object.end() ? &*Found : nullptr;
+	}
 
-		bool IsName(const FString& Text)
-		{
-			return !Text.IsEmpty() && Text.Len() < NAME_SIZE;
-		}
+	bool IsName(const FString& Text)
+	{
+		return !Text.IsEmpty() && Text.Len() < NAME_SIZE;
+	}
 
-		bool Parse(const FString& File, const std::string& Text, nlohmann::json& OutRoot)
+	bool Parse(const FString& File, const std::string& Text, nlohmann::json& OutRoot)
+	{
+		OutRoot = nlohmann::json::parse(Text, nullptr, false);
+		if (OutRoot.is_discarded())
 		{
-			OutRoot = nlohmann::json::parse(Text, nullptr, false);
-			if (OutRoot.is_discarded())
-			{
-				const FHostJsonFault Fault = HostJsonFault::Find(Text);
-				HostProblems::Report(File, Fault.Line, FString(TEXT("not valid JSON: ")) + Fault.Message, TEXT("Correct the JSON of this file."));
-				return false;
-			}
-			if (!OutRoot.is_object())
-			{
-				HostProblems::Report(File, 1, TEXT("the file must hold one JSON object in braces"), TEXT("Compare it with another descriptor."));
-				return false;
-			}
-			return true;
+			const FHostJsonFault Fault = HostJsonFault::Find(Text);
+			HostProblems::Report(File, Fault.Line, FString(TEXT("not valid JSON: ")) + Fault.Message, TEXT("Correct the JSON of this file."));
+			return false;
 		}
+		if (!OutRoot.is_object())
+		{
+			HostProblems::Report(File, 1, TEXT("the file must hold one JSON object in braces"), TEXT("Compare it with another descriptor."));
+			return false;
+		}
+		return true;
 	}
 }
 

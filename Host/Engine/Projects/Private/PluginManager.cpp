@@ -10,96 +10,93 @@
 
 namespace PluginManager
 {
-	namespace
+	class FPlugin final : public IPlugin
 	{
-		class FPlugin final : public IPlugin
+	public:
+		FPlugin(const FString& InDescriptorFile, FPluginDescriptor&& InDescriptor)
+			: Name(FPaths::GetBaseFilename(InDescriptorFile))
+			, DescriptorFile(InDescriptorFile)
+			, Descriptor(MoveTemp(InDescriptor))
 		{
-		public:
-			FPlugin(const FString& InDescriptorFile, FPluginDescriptor&& InDescriptor)
-				: Name(FPaths::GetBaseFilename(InDescriptorFile))
-				, DescriptorFile(InDescriptorFile)
-				, Descriptor(MoveTemp(InDescriptor))
-			{
-			}
-
-			//~ Begin IPlugin
-			const FString& GetName() const override { return Name; }
-			const FString& GetFriendlyName() const override { return Descriptor.FriendlyName.IsEmpty() ? Name : Descriptor.FriendlyName; }
-			const FString& GetDescriptorFileName() const override { return DescriptorFile; }
-			FString GetBaseDir() const override { return FPaths::GetPath(DescriptorFile); }
-			FString GetContentDir() const override { return GetBaseDir() + TEXT("/Content"); }
-			FString GetMountedAssetPath() const override { return TEXT("/") + Name + TEXT("/"); }
-			bool IsEnabled() const override { return true; } // Host: what is in a plugin folder is there to be used
-			bool CanContainContent() const override { return Descriptor.bCanContainContent; }
-			const FPluginDescriptor& GetDescriptor() const override { return Descriptor; }
-			//~ End IPlugin
-
-		private:
-			FString Name;
-			FString DescriptorFile;
-			FPluginDescriptor Descriptor;
-		};
-
-		class FPluginManager final : public IPluginManager
-		{
-		public:
-			void Add(const TSharedRef<IPlugin>& Plugin)
-			{
-				if (!FindPlugin(Plugin->GetName()).IsValid())
-				{
-					Plugins.Add(Plugin);
-					Plugins.Sort([](const TSharedRef<IPlugin>& A, const TSharedRef<IPlugin>& B) { return A->GetName() < B->GetName(); });
-				}
-			}
-
-			//~ Begin IPluginManager
-			TSharedPtr<IPlugin> FindPlugin(const FStringView Name) override
-			{
-				const TSharedRef<IPlugin>* Found = Plugins.FindByPredicate([Name](const TSharedRef<IPlugin>& Plugin) { return FStringView(Plugin->GetName()) == Name; });
-				return Found != nullptr ? Found->ToSharedPtr() : nullptr;
-			}
-
-			TArray<TSharedRef<IPlugin>> GetEnabledPlugins() override { return Plugins; }
-
-			TArray<TSharedRef<IPlugin>> GetEnabledPluginsWithContent() const override
-			{
-				return Plugins.FilterByPredicate([](const TSharedRef<IPlugin>& Plugin) { return Plugin->CanContainContent(); });
-			}
-			//~ End IPluginManager
-
-		private:
-			TArray<TSharedRef<IPlugin>> Plugins; // by name
-		};
-
-		THostState<FPluginManager> Manager;
-
-		bool ReadDescriptor(const FString& File, FPluginDescriptor& OutDescriptor)
-		{
-			const std::unique_ptr<FDescriptorReader> Reader = FDescriptorReader::Open(File);
-			if (Reader == nullptr)
-			{
-				return false;
-			}
-			Reader->Read("Version", OutDescriptor.Version);
-			Reader->Read("VersionName", OutDescriptor.VersionName);
-			Reader->Read("FriendlyName", OutDescriptor.FriendlyName);
-			Reader->Read("Description", OutDescriptor.Description);
-			Reader->Read("Category", OutDescriptor.Category);
-			Reader->Read("CreatedBy", OutDescriptor.CreatedBy);
-			Reader->Read("DocsURL", OutDescriptor.DocsURL);
-			Reader->Read("SupportURL", OutDescriptor.SupportURL);
-			Reader->Read("CanContainContent", OutDescriptor.bCanContainContent);
-			Reader->ReadModules(OutDescriptor.Modules);
-			Reader->ReadPlugins(OutDescriptor.Plugins);
-			return Reader->IsSound();
 		}
 
-		/** Empty when the folder is no plugin. */
-		FString FindDescriptor(const FString& Folder)
+		//~ Begin IPlugin
+		const FString& GetName() const override { return Name; }
+		const FString& GetFriendlyName() const override { return Descriptor.FriendlyName.IsEmpty() ? Name : Descriptor.FriendlyName; }
+		const FString& GetDescriptorFileName() const override { return DescriptorFile; }
+		FString GetBaseDir() const override { return FPaths::GetPath(DescriptorFile); }
+		FString GetContentDir() const override { return GetBaseDir() + TEXT("/Content"); }
+		FString GetMountedAssetPath() const override { return TEXT("/") + Name + TEXT("/"); }
+		bool IsEnabled() const override { return true; } // Host: what is in a plugin folder is there to be used
+		bool CanContainContent() const override { return Descriptor.bCanContainContent; }
+		const FPluginDescriptor& GetDescriptor() const override { return Descriptor; }
+		//~ End IPlugin
+
+	private:
+		FString Name;
+		FString DescriptorFile;
+		FPluginDescriptor Descriptor;
+	};
+
+	class FPluginManager final : public IPluginManager
+	{
+	public:
+		void Add(const TSharedRef<IPlugin>& Plugin)
 		{
-			const TArray<FString> Found = HostFiles::FindFilesIn(Folder, TEXT(".uplugin"));
-			return Found.IsEmpty() ? FString() : Found[0];
+			if (!FindPlugin(Plugin->GetName()).IsValid())
+			{
+				Plugins.Add(Plugin);
+				Plugins.Sort([](const TSharedRef<IPlugin>& A, const TSharedRef<IPlugin>& B) { return A->GetName() < B->GetName(); });
+			}
 		}
+
+		//~ Begin IPluginManager
+		TSharedPtr<IPlugin> FindPlugin(const FStringView Name) override
+		{
+			const TSharedRef<IPlugin>* Found = Plugins.FindByPredicate([Name](const TSharedRef<IPlugin>& Plugin) { return FStringView(Plugin->GetName()) == Name; });
+			return Found != nullptr ? Found->ToSharedPtr() : nullptr;
+		}
+
+		TArray<TSharedRef<IPlugin>> GetEnabledPlugins() override { return Plugins; }
+
+		TArray<TSharedRef<IPlugin>> GetEnabledPluginsWithContent() const override
+		{
+			return Plugins.FilterByPredicate([](const TSharedRef<IPlugin>& Plugin) { return Plugin->CanContainContent(); });
+		}
+		//~ End IPluginManager
+
+	private:
+		TArray<TSharedRef<IPlugin>> Plugins; // by name
+	};
+
+	THostState<FPluginManager> Manager;
+
+	bool ReadDescriptor(const FString& File, FPluginDescriptor& OutDescriptor)
+	{
+		const std::unique_ptr<FDescriptorReader> Reader = FDescriptorReader::Open(File);
+		if (Reader == nullptr)
+		{
+			return false;
+		}
+		Reader->Read("Version", OutDescriptor.Version);
+		Reader->Read("VersionName", OutDescriptor.VersionName);
+		Reader->Read("FriendlyName", OutDescriptor.FriendlyName);
+		Reader->Read("Description", OutDescriptor.Description);
+		Reader->Read("Category", OutDescriptor.Category);
+		Reader->Read("CreatedBy", OutDescriptor.CreatedBy);
+		Reader->Read("DocsURL", OutDescriptor.DocsURL);
+		Reader->Read("SupportURL", OutDescriptor.SupportURL);
+		Reader->Read("CanContainContent", OutDescriptor.bCanContainContent);
+		Reader->ReadModules(OutDescriptor.Modules);
+		Reader->ReadPlugins(OutDescriptor.Plugins);
+		return Reader->IsSound();
+	}
+
+	/** Empty when the folder is no plugin. */
+	FString FindDescriptor(const FString& Folder)
+	{
+		const TArray<FString> Found = HostFiles::FindFilesIn(Folder, TEXT(".uplugin"));
+		return Found.IsEmpty() ? FString() : Found[0];
 	}
 }
 

@@ -12,6 +12,7 @@ class FDetailsSearch;
 class FDetailsSections;
 class FPropertyNode;
 class IPropertyHandle;
+class SDetailsRow;
 class SHostPartList;
 class SWidget;
 class UObject;
@@ -52,6 +53,9 @@ public:
 
 	/** Names of the rows, those below others included, with the path of the property in parentheses where they differ. */
 	TArray<FString> GetRowTitles();
+
+	/** The headings of categories, in order, with all rows below them. */
+	const TArray<TSharedRef<SDetailsRow>>& GetCategories() const;
 
 	/** Makes all rows anew, as with new customizations. Handles of the panel lose their values. */
 	void Rebuild();

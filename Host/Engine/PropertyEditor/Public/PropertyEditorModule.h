@@ -8,6 +8,8 @@
 #include "Templates/SharedPointer.h"
 
 class IPropertyHandle;
+class IPropertyRowGenerator;
+struct FPropertyRowGeneratorArgs;
 
 namespace FPropertyAccess
 {
@@ -73,6 +75,9 @@ public:
 
 	/** To be called after a module has changed its registrations: panels that are open show them before it returns. */
 	void NotifyCustomizationModuleChanged();
+
+	/** The rows that a details panel would have, for whoever wants to lay them out or look at them. */
+	virtual TSharedRef<IPropertyRowGenerator> CreatePropertyRowGenerator(const FPropertyRowGeneratorArgs& InArgs);
 
 	/**
 	 * @param ClassName   without its prefix

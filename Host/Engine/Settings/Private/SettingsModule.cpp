@@ -8,7 +8,7 @@
 #include "Modules/ModuleManager.h"
 #include "SettingsPage.h"
 #include "UObject/Class.h"
-#include "UObject/PropertyEvents.h"
+#include "UObject/UnrealType.h"
 #include "UObject/UObjectGlobals.h"
 #include "UObject/UObjectHash.h"
 
@@ -18,13 +18,13 @@ IMPLEMENT_MODULE(FSettingsModule, Settings)
 
 namespace SettingsModule
 {
-	static HostSettings::FPageAddress AddressOf(const UDeveloperSettings& Settings)
+	HostSettings::FPageAddress AddressOf(const UDeveloperSettings& Settings)
 	{
 		return {Settings.GetContainerName(), Settings.GetCategoryName(), Settings.GetSectionName()};
 	}
 
 	/** The default objects of all classes that have a page, by address. */
-	static TArray<UDeveloperSettings*> GetAll()
+	TArray<UDeveloperSettings*> GetAll()
 	{
 		TArray<UClass*> Classes;
 		GetDerivedClasses(UDeveloperSettings::StaticClass(), Classes);
@@ -40,7 +40,7 @@ namespace SettingsModule
 		return Result;
 	}
 
-	static UDeveloperSettings* Find(const HostSettings::FPageAddress& Address)
+	UDeveloperSettings* Find(const HostSettings::FPageAddress& Address)
 	{
 		for (UDeveloperSettings* Settings : GetAll())
 		{
@@ -53,7 +53,7 @@ namespace SettingsModule
 	}
 
 	/** Null while it is not loaded. */
-	static FSettingsModule* Get()
+	FSettingsModule* Get()
 	{
 		return static_cast<FSettingsModule*>(FModuleManager::GetModulePtr<ISettingsModule>("Settings"));
 	}

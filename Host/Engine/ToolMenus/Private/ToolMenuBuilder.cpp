@@ -8,7 +8,7 @@ namespace ToolMenuBuilder
 {
 	/** Where something goes among Items, or DefaultIndex when it asked for nothing or for a neighbour that is not there. */
 	template<typename ItemType>
-	static int32 PlaceOf(const FToolMenuInsert& Position, const TArray<ItemType>& Items, int32 DefaultIndex)
+	int32 PlaceOf(const FToolMenuInsert& Position, const TArray<ItemType>& Items, int32 DefaultIndex)
 	{
 		if (Position.Position == EToolMenuInsertType::First)
 		{
@@ -22,7 +22,7 @@ namespace ToolMenuBuilder
 		return Position.Position == EToolMenuInsertType::Before ? Neighbour : Neighbour + 1;
 	}
 
-	static FText TextOf(const TAttribute<FText>& Attribute)
+	FText TextOf(const TAttribute<FText>& Attribute)
 	{
 		return Attribute.Get(FText::GetEmpty());
 	}

@@ -95,7 +95,7 @@ FToolMenuEntry FToolMenuEntry::InitComboButton(const FName InName, const FToolUI
 {
 	FToolMenuEntry Entry = InitMenuEntry(InName, InLabelOverride, InToolTipOverride, InIconOverride, InAction, EUserInterfaceActionType::Button, InTutorialHighlightName);
 	Entry.Type = EMultiBlockType::ToolBarComboButton;
-	Entry.MenuContent = InMenuContentGenerator;
+	Entry.ToolBarData.ComboButtonContextMenuGenerator = InMenuContentGenerator;
 	Entry.bOpensMenu = true;
 	return Entry;
 }
@@ -104,7 +104,7 @@ FToolMenuEntry FToolMenuEntry::InitSubMenu(const FName InName, const TAttribute<
 	bool, const TAttribute<FSlateIcon>& InIcon, const bool bInShouldCloseWindowAfterMenuSelection)
 {
 	FToolMenuEntry Entry = InitMenuEntry(InName, InLabel, InToolTip, InIcon, FToolUIActionChoice());
-	Entry.MenuContent = InMakeMenu;
+	Entry.SubMenuContent = InMakeMenu;
 	Entry.bOpensMenu = true;
 	Entry.bShouldCloseWindowAfterMenuSelection = bInShouldCloseWindowAfterMenuSelection;
 	return Entry;

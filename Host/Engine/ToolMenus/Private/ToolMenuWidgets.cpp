@@ -9,7 +9,7 @@
 
 namespace ToolMenuWidgets
 {
-	static bool IsToolBar(const UToolMenu& Menu)
+	bool IsToolBar(const UToolMenu& Menu)
 	{
 		switch (Menu.MenuType)
 		{
@@ -25,7 +25,7 @@ namespace ToolMenuWidgets
 	}
 
 	/** A menu has room for labels; a toolbar shows icons, and labels only beside those that are styled so. An icon-less button needs its label. */
-	static bool ShowsLabel(const UToolMenu& Menu, const FToolMenuEntry& Entry)
+	bool ShowsLabel(const UToolMenu& Menu, const FToolMenuEntry& Entry)
 	{
 		return !IsToolBar(Menu) || Entry.StyleNameOverride == "CalloutToolbar" || !Entry.Icon.Get(FSlateIcon()).IsSet();
 	}
@@ -33,7 +33,7 @@ namespace ToolMenuWidgets
 
 TSharedRef<SWidget> FToolMenuBuilder::MakeOpenedMenu(const FToolMenuEntry& Entry, const FToolMenuContext& Context)
 {
-	const FNewToolMenuChoice& Content = Entry.MenuContent;
+	const FNewToolMenuChoice& Content = Entry.Type == EMultiBlockType::ToolBarComboButton ? Entry.ToolBarData.ComboButtonContextMenuGenerator : Entry.SubMenuContent;
 	if (Content.OnGetContent.IsBound())
 	{
 		return Content.OnGetContent.Execute();

@@ -17,7 +17,7 @@ namespace ToolMenus
 		bool bReady = false;
 	};
 
-	static FState& GetState()
+	FState& GetState()
 	{
 		static THostState<FState> State;
 		return State.Get();

@@ -11,6 +11,13 @@
 #include "ToolMenuMisc.h"
 #include "ToolMenuOwner.h"
 
+/** What only entries of toolbars have. */
+struct FToolMenuEntryToolBarData
+{
+	/** The menu below a combo button. */
+	FNewToolMenuChoice ComboButtonContextMenuGenerator;
+};
+
 /** One line of a menu or one button of a toolbar. Change it before it is added, or through the reference that adding returns. */
 struct TOOLMENUS_API FToolMenuEntry
 {
@@ -77,6 +84,8 @@ struct TOOLMENUS_API FToolMenuEntry
 	TSharedPtr<const FUICommandInfo> Command;
 	TSharedPtr<const FUICommandList> CommandList;
 
+	FToolMenuEntryToolBarData ToolBarData;
+
 private:
 	friend class FToolMenuBuilder;
 	friend struct FToolMenuSection;
@@ -87,7 +96,7 @@ private:
 
 	FToolUIActionChoice Action;
 	FNewToolMenuSectionDelegate Construct;
-	FNewToolMenuChoice MenuContent;
+	FNewToolMenuChoice SubMenuContent;
 	TSharedPtr<SWidget> CustomWidget;
 	bool bOpensMenu = false;
 };

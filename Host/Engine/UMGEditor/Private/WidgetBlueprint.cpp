@@ -11,12 +11,12 @@
 
 namespace WidgetBlueprint
 {
-	static void Report(const HostPackages::FDocument& Document, const FString& Pointer, const FString& Message, const FString& Remedy)
+	void Report(const HostPackages::FDocument& Document, const FString& Pointer, const FString& Message, const FString& Remedy)
 	{
 		HostProblems::Report(Document.File, 0, Pointer + TEXT(": ") + Message, Remedy);
 	}
 
-	static UObject* Read(const HostPackages::FDocument& Document, UPackage* Package, UClass* AssetClass, HostWidgetBlueprints::FCheckParent CheckParent)
+	UObject* Read(const HostPackages::FDocument& Document, UPackage* Package, UClass* AssetClass, HostWidgetBlueprints::FCheckParent CheckParent)
 	{
 		TArray<HostWidgetLayout::FProblem> Problems;
 		const TSharedPtr<const FWidgetLayout> Layout = HostWidgetLayout::Read(Document.Json, Problems);

@@ -17,4 +17,7 @@ public:
 	 * @param bWarn whether the user is to be asked first
 	 */
 	void RestartEditor(bool bWarn, const TOptional<FString>& NewCommandLine = TOptional<FString>());
+
+private:
+	FUnrealEdMisc() = default;
 };

@@ -22,6 +22,9 @@ public:
 	/** To be called by whoever made an asset, once it is complete. Null is ignored. */
 	static void AssetCreated(UObject* NewAsset);
 
+	/** To be called before an asset is given up. */
+	static void AssetDeleted(UObject* DeletedAsset);
+
 private:
 	TUniquePtr<IAssetRegistry> Registry;
 };

@@ -51,4 +51,5 @@ public:
 
 	/** Whoever makes an asset says so, through FAssetRegistryModule::AssetCreated(). */
 	virtual void AssetCreated(UObject* NewAsset) = 0;
+	virtual void AssetDeleted(UObject* DeletedAsset) = 0;
 };

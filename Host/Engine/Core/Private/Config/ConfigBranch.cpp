@@ -7,19 +7,16 @@
 
 namespace ConfigBranch
 {
-	namespace
+	FString GetUserFolder()
 	{
-		FString GetUserFolder()
-		{
-			return FPaths::GeneratedConfigDir() + HostConfig::GetPlatform() + TEXT("Editor/");
-		}
+		return FPaths::GeneratedConfigDir() + HostConfig::GetPlatform() + TEXT("Editor/");
+	}
 
-		/** A platform, after the one whose settings it shares. */
-		TArray<FString> GetPlatformChain()
-		{
-			const FString& Platform = HostConfig::GetPlatform();
-			return Platform == TEXT("Linux") ? TArray<FString>{TEXT("Unix"), Platform} : TArray<FString>{Platform};
-		}
+	/** A platform, after the one whose settings it shares. */
+	TArray<FString> GetPlatformChain()
+	{
+		const FString& Platform = HostConfig::GetPlatform();
+		return Platform == TEXT("Linux") ? TArray<FString>{TEXT("Unix"), Platform} : TArray<FString>{Platform};
 	}
 
 	FString GetFile(const FString& Name)

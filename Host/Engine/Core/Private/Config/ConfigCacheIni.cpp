@@ -19,79 +19,76 @@ FString GEditorPerProjectIni;
 
 namespace ConfigCacheIni
 {
-	namespace
+	FString Expand(const FString& Value)
 	{
-		FString Expand(const FString& Value)
+		int32 Percent = INDEX_NONE;
+		if (!Value.FindChar(TEXT('%'), Percent))
 		{
-			int32 Percent = INDEX_NONE;
-			if (!Value.FindChar(TEXT('%'), Percent))
-			{
-				return FString();
-			}
-			FString Result = Value;
-			Result.ReplaceInline(TEXT("%GAMEDIR%"), *FPaths::ProjectDir(), ESearchCase::CaseSensitive);
-			Result.ReplaceInline(TEXT("%GAME%"), *FPaths::GetBaseFilename(FPaths::GetProjectFilePath()), ESearchCase::CaseSensitive);
-			Result.ReplaceInline(TEXT("%ENGINEDIR%"), *FPaths::EngineDir(), ESearchCase::CaseSensitive);
-			Result.ReplaceInline(TEXT("%APPSETTINGSDIR%"), *FPaths::GeneratedConfigDir(), ESearchCase::CaseSensitive);
-			return Result.Equals(Value) ? FString() : Result;
+			return FString();
+		}
+		FString Result = Value;
+		Result.ReplaceInline(TEXT("%GAMEDIR%"), *FPaths::ProjectDir(), ESearchCase::CaseSensitive);
+		Result.ReplaceInline(TEXT("%GAME%"), *FPaths::GetBaseFilename(FPaths::GetProjectFilePath()), ESearchCase::CaseSensitive);
+		Result.ReplaceInline(TEXT("%ENGINEDIR%"), *FPaths::EngineDir(), ESearchCase::CaseSensitive);
+		Result.ReplaceInline(TEXT("%APPSETTINGSDIR%"), *FPaths::GeneratedConfigDir(), ESearchCase::CaseSensitive);
+		return Result.Equals(Value) ? FString() : Result;
+	}
+
+	/** A branch or a single file, and the sections of it that were asked for. */
+	class FCachedFile
+	{
+	public:
+		explicit FCachedFile(const FString& InFilename)
+			: Filename(InFilename)
+			, NumChanges(HostFiles::GetNumChanges(InFilename))
+		{
+			FString Branch;
+			bBranch = ConfigBranch::IsBranchFile(Filename, Branch);
+			Layers = IniMerge::ReadLayers(bBranch ? ConfigBranch::GetLayers(Branch) : TArray<FString>{Filename});
 		}
 
-		/** A branch or a single file, and the sections of it that were asked for. */
-		class FCachedFile
+		/** A single file that is missing is looked for again with every question. */
+		bool IsMissing() const { return !bBranch && Layers.empty(); }
+
+		/** Whether this editor wrote a single file since. What others write is not looked for, and a branch waits until it is reloaded. */
+		bool IsOutdated() const { return !bBranch && HostFiles::GetNumChanges(Filename) != NumChanges; }
+
+		bool HasSection(const FString& Section) const
 		{
-		public:
-			explicit FCachedFile(const FString& InFilename)
-				: Filename(InFilename)
-				, NumChanges(HostFiles::GetNumChanges(InFilename))
+			const std::string Name = FIniFile::FoldName(Section);
+			for (const std::unique_ptr<FIniFile>& Layer : Layers)
 			{
-				FString Branch;
-				bBranch = ConfigBranch::IsBranchFile(Filename, Branch);
-				Layers = IniMerge::ReadLayers(bBranch ? ConfigBranch::GetLayers(Branch) : TArray<FString>{Filename});
+				if (Layer->HasSection(Name))
+				{
+					return true;
+				}
 			}
+			return false;
+		}
 
-			/** A single file that is missing is looked for again with every question. */
-			bool IsMissing() const { return !bBranch && Layers.empty(); }
-
-			/** Whether this editor wrote a single file since. What others write is not looked for, and a branch waits until it is reloaded. */
-			bool IsOutdated() const { return !bBranch && HostFiles::GetNumChanges(Filename) != NumChanges; }
-
-			bool HasSection(const FString& Section) const
+		FConfigSection* FindSection(const FString& Section, bool bForce)
+		{
+			const std::string Name = FIniFile::FoldName(Section);
+			const auto Known = Sections.find(Name);
+			if (Known != Sections.end())
 			{
-				const std::string Name = FIniFile::FoldName(Section);
-				for (const std::unique_ptr<FIniFile>& Layer : Layers)
-				{
-					if (Layer->HasSection(Name))
-					{
-						return true;
-					}
-				}
-				return false;
+				return Known->second.get();
 			}
-
-			FConfigSection* FindSection(const FString& Section, bool bForce)
+			std::unique_ptr<FConfigSection> Read = bBranch ? IniMerge::Merge(Layers, Name) : IniMerge::ReadAsWritten(*Layers.front(), Name);
+			if (Read == nullptr && bForce)
 			{
-				const std::string Name = FIniFile::FoldName(Section);
-				const auto Known = Sections.find(Name);
-				if (Known != Sections.end())
-				{
-					return Known->second.get();
-				}
-				std::unique_ptr<FConfigSection> Read = bBranch ? IniMerge::Merge(Layers, Name) : IniMerge::ReadAsWritten(*Layers.front(), Name);
-				if (Read == nullptr && bForce)
-				{
-					Read = std::make_unique<FConfigSection>();
-				}
-				return Read != nullptr ? (Sections[Name] = std::move(Read)).get() : nullptr;
+				Read = std::make_unique<FConfigSection>();
 			}
+			return Read != nullptr ? (Sections[Name] = std::move(Read)).get() : nullptr;
+		}
 
-		private:
-			FString Filename;
-			uint32 NumChanges = 0;
-			bool bBranch = false;
-			IniMerge::FLayers Layers;
-			std::unordered_map<std::string, std::unique_ptr<FConfigSection>> Sections; // by folded name
-		};
-	}
+	private:
+		FString Filename;
+		uint32 NumChanges = 0;
+		bool bBranch = false;
+		IniMerge::FLayers Layers;
+		std::unordered_map<std::string, std::unique_ptr<FConfigSection>> Sections; // by folded name
+	};
 }
 
 FConfigValue::FConfigValue(const FString& InValue)

@@ -12,41 +12,38 @@
 
 namespace HostConfig
 {
-	namespace
+	/** GConfig while an editor is up. */
+	struct FBootedConfig
 	{
-		/** GConfig while an editor is up. */
-		struct FBootedConfig
+		FBootedConfig()
 		{
-			FBootedConfig()
-			{
-				GConfig = &Cache;
-				GEngineIni = GetBranchFile(TEXT("Engine"));
-				GGameIni = GetBranchFile(TEXT("Game"));
-				GEditorIni = GetBranchFile(TEXT("Editor"));
-				GEditorPerProjectIni = GetBranchFile(TEXT("EditorPerProjectUserSettings"));
-			}
+			GConfig = &Cache;
+			GEngineIni = GetBranchFile(TEXT("Engine"));
+			GGameIni = GetBranchFile(TEXT("Game"));
+			GEditorIni = GetBranchFile(TEXT("Editor"));
+			GEditorPerProjectIni = GetBranchFile(TEXT("EditorPerProjectUserSettings"));
+		}
 
-			~FBootedConfig()
-			{
-				GConfig = nullptr;
-				for (FString* Name : {&GEngineIni, &GGameIni, &GEditorIni, &GEditorPerProjectIni})
-				{
-					Name->Empty();
-				}
-			}
-
-			FConfigCacheIni Cache;
-		};
-
-		THostState<FBootedConfig> Booted;
-
-		struct FPlatform
+		~FBootedConfig()
 		{
-			FString Name = TEXT("Linux"); // the host runs nowhere else
-		};
+			GConfig = nullptr;
+			for (FString* Name : {&GEngineIni, &GGameIni, &GEditorIni, &GEditorPerProjectIni})
+			{
+				Name->Empty();
+			}
+		}
 
-		THostState<FPlatform> Platform;
-	}
+		FConfigCacheIni Cache;
+	};
+
+	THostState<FBootedConfig> Booted;
+
+	struct FPlatform
+	{
+		FString Name = TEXT("Linux"); // the host runs nowhere else
+	};
+
+	THostState<FPlatform> Platform;
 
 	const TArray<FString>& GetPlatforms()
 	{

@@ -10,70 +10,67 @@
 
 namespace IniFile
 {
-	namespace
+	/** Walks lines that end with CRLF, LF or a lone CR. */
+	class FLines
 	{
-		/** Walks lines that end with CRLF, LF or a lone CR. */
-		class FLines
+	public:
+		FLines(std::string_view InText, FIniFile::FLine First)
+			: Text(InText)
+			, Start(First.Begin)
+			, Next(First.Begin)
+			, Number(First.Number - 1)
 		{
-		public:
-			FLines(std::string_view InText, FIniFile::FLine First)
-				: Text(InText)
-				, Start(First.Begin)
-				, Next(First.Begin)
-				, Number(First.Number - 1)
-			{
-			}
-
-			bool Advance()
-			{
-				if (Next >= Text.size())
-				{
-					return false;
-				}
-				Start = Next;
-				++Number;
-				const size_t End = std::min(Text.find('\n', Start), Text.size());
-				Next = std::min(End + 1, Text.size());
-				Line = Text.substr(Start, End - Start);
-				const size_t Return = Line.find('\r');
-				if (Return != std::string_view::npos)
-				{
-					Next = Start + Return + 1 < End ? Start + Return + 1 : Next;
-					Line = Line.substr(0, Return);
-				}
-				return true;
-			}
-
-			std::string_view Get() const { return Line; }
-			FIniFile::FLine GetPlace() const { return {Number, Start}; }
-			FIniFile::FLine GetNextPlace() const { return {Number + 1, Next}; }
-
-		private:
-			std::string_view Text;
-			std::string_view Line;
-			size_t Start;
-			size_t Next;
-			int32 Number; // of the current line
-		};
-
-		/** The current line with those that continue it. @param Joined holds the result when there are any */
-		std::string_view JoinContinued(FLines& Lines, std::string& Joined)
-		{
-			if (!IniSyntax::IsContinued(Lines.Get()))
-			{
-				return Lines.Get();
-			}
-			Joined = Lines.Get();
-			bool bContinued = true;
-			while (bContinued)
-			{
-				Joined.pop_back(); // the backslash
-				bContinued = Lines.Advance();
-				Joined += bContinued ? Lines.Get() : std::string_view();
-				bContinued = bContinued && IniSyntax::IsContinued(Lines.Get());
-			}
-			return Joined;
 		}
+
+		bool Advance()
+		{
+			if (Next >= Text.size())
+			{
+				return false;
+			}
+			Start = Next;
+			++Number;
+			const size_t End = std::min(Text.find('\n', Start), Text.size());
+			Next = std::min(End + 1, Text.size());
+			Line = Text.substr(Start, End - Start);
+			const size_t Return = Line.find('\r');
+			if (Return != std::string_view::npos)
+			{
+				Next = Start + Return + 1 < End ? Start + Return + 1 : Next;
+				Line = Line.substr(0, Return);
+			}
+			return true;
+		}
+
+		std::string_view Get() const { return Line; }
+		FIniFile::FLine GetPlace() const { return {Number, Start}; }
+		FIniFile::FLine GetNextPlace() const { return {Number + 1, Next}; }
+
+	private:
+		std::string_view Text;
+		std::string_view Line;
+		size_t Start;
+		size_t Next;
+		int32 Number; // of the current line
+	};
+
+	/** The current line with those that continue it. @param Joined holds the result when there are any */
+	std::string_view JoinContinued(FLines& Lines, std::string& Joined)
+	{
+		if (!IniSyntax::IsContinued(Lines.Get()))
+		{
+			return Lines.Get();
+		}
+		Joined = Lines.Get();
+		bool bContinued = true;
+		while (bContinued)
+		{
+			Joined.pop_back(); // the backslash
+			bContinued = Lines.Advance();
+			Joined += bContinued ? Lines.Get() : std::string_view();
+			bContinued = bContinued && IniSyntax::IsContinued(Lines.Get());
+		}
+		return Joined;
 	}
 }
 

@@ -31,7 +31,7 @@ namespace UE::Core::Private
 		checkf(false, TEXT("Trying to resize a container to an invalid size of %lld"), Num);
 	}
 
-	static bool IsSmall(std::size_t AllSize, std::size_t Alignment)
+	bool IsSmall(std::size_t AllSize, std::size_t Alignment)
 	{
 		return AllSize <= SmallBlocks::MaxSize && Alignment <= SmallBlocks::Alignment;
 	}

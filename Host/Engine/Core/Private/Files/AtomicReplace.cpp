@@ -15,120 +15,126 @@
 
 namespace AtomicReplace
 {
-	namespace
+	constexpr std::string_view TemporaryPrefix = ".velmorant-";
+	constexpr std::string_view TemporarySuffix = ".tmp";
+
+	void (*BeforeRename)(const char*, const char*) = nullptr;
+
+	/** Closes on every way out; errors of close() do not matter after fsync(). */
+	struct FDescriptor
 	{
-		constexpr std::string_view TemporaryPrefix = ".velmorant-";
-		constexpr std::string_view TemporarySuffix = ".tmp";
-
-		void (*BeforeRename)(const char*, const char*) = nullptr;
-
-		/** Closes on every way out; errors of close() do not matter after fsync(). */
-		struct FDescriptor
+		int Value = -1;
+		~FDescriptor()
 		{
-			int Value = -1;
-			~FDescriptor()
+			if (Value >= 0)
 			{
-				if (Value >= 0)
-				{
-					close(Value);
-				}
-			}
-		};
-
-		/** Not derived from the target's name, which may already be as long as names can be. */
-		std::string MakeTemporaryName(const std::string& Folder)
-		{
-			static unsigned Counter = 0;
-			const std::string Unique = std::to_string(getpid()) + "-" + std::to_string(++Counter);
-			return (Folder == "/" ? Folder : Folder + "/") + std::string(TemporaryPrefix) + Unique + std::string(TemporarySuffix);
-		}
-
-		int WriteAll(int File, std::string_view Bytes)
-		{
-			while (!Bytes.empty())
-			{
-				const ssize_t Written = write(File, Bytes.data(), Bytes.size());
-				if (Written < 0 && errno != EINTR)
-				{
-					return errno;
-				}
-				Bytes.remove_prefix(Written > 0 ? static_cast<size_t>(Written) : 0);
-			}
-			return 0;
-		}
-
-		int SetOwnerAndMode(int File, const struct stat* Existing, mode_t NewMode)
-		{
-			if (Existing == nullptr)
-			{
-				return fchmod(File, NewMode) == 0 ? 0 : errno;
-			}
-			struct stat Own;
-			if (fstat(File, &Own) == 0 && (Own.st_uid != Existing->st_uid || Own.st_gid != Existing->st_gid))
-			{
-				// Only root may give files away; the group can often be kept even so. Neither is worth failing for.
-				if (fchown(File, Existing->st_uid, Existing->st_gid) != 0 && fchown(File, static_cast<uid_t>(-1), Existing->st_gid) != 0)
-				{
-					errno = 0;
-				}
-			}
-			return fchmod(File, Existing->st_mode & 07777) == 0 ? 0 : errno;
-		}
-
-		/** Locked for as long as it is open, which tells others that it is no leftover. @return 0 or an errno */
-		int CreateTemporary(const std::string& Folder, std::string& OutName, FDescriptor& OutFile)
-		{
-			for (;;)
-			{
-				const std::string Name = MakeTemporaryName(Folder);
-				FDescriptor File{open(Name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600)};
-				if (File.Value < 0 && errno != EEXIST) // a leftover of a process that had this one's number
-				{
-					return errno;
-				}
-				// Somebody who looks for leftovers may have come between the two steps. A file system without locks has no such people.
-				const bool bTaken = File.Value >= 0 && flock(File.Value, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
-				if (File.Value >= 0 && !bTaken && access(Name.c_str(), F_OK) == 0)
-				{
-					OutName = Name;
-					std::swap(OutFile.Value, File.Value);
-					return 0;
-				}
+				close(Value);
 			}
 		}
+	};
 
-		int WriteTemporary(int File, std::string_view Bytes, const struct stat* Existing, mode_t NewMode)
+	/** Not derived from the target's name, which may already be as long as names can be. */
+	std::string MakeTemporaryName(const std::string& Folder)
+	{
+		static unsigned Counter = 0;
+		const std::string Unique = std::to_string(getpid()) + "-" + std::to_string(++Counter);
+		return (Folder == "/" ? Folder : Folder + "/") + std::string(TemporaryPrefix) + Unique + std::string(TemporarySuffix);
+	}
+
+	int WriteAll(int File, std::string_view Bytes)
+	{
+		while (!Bytes.empty())
 		{
-			int Error = WriteAll(File, Bytes);
-			Error = Error != 0 ? Error : SetOwnerAndMode(File, Existing, NewMode);
-			if (Error == 0 && fsync(File) != 0)
+			const ssize_t Written = write(File, Bytes.data(), Bytes.size());
+			if (Written < 0 && errno != EINTR)
 			{
-				Error = errno;
+				return errno;
 			}
-			return Error;
+			Bytes.remove_prefix(Written > 0 ? static_cast<size_t>(Written) : 0);
 		}
+		return 0;
+	}
 
-		bool IsNumber(std::string_view Text)
+	int SetOwnerAndMode(int File, const struct stat* Existing, mode_t NewMode)
+	{
+		if (Existing == nullptr)
 		{
-			return !Text.empty() && std::all_of(Text.begin(), Text.end(), [](char Letter) { return Letter >= '0' && Letter <= '9'; });
+			return fchmod(File, NewMode) == 0 ? 0 : errno;
 		}
-
-		/** Of this user, and of a process that lives no longer: nobody holds the lock. */
-		bool IsLeftover(int Folder, const char* Name)
+		struct stat Own;
+		if (fstat(File, &Own) == 0 && (Own.st_uid != Existing->st_uid || Own.st_gid != Existing->st_gid))
 		{
-			const FDescriptor File{openat(Folder, Name, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC)};
-			struct stat Status;
-			return File.Value >= 0 && fstat(File.Value, &Status) == 0 && S_ISREG(Status.st_mode) && Status.st_uid == geteuid() && flock(File.Value, LOCK_EX | LOCK_NB) == 0;
-		}
-
-		/** Makes the rename itself last. A file system that cannot do this has done all it can. */
-		void FlushFolder(const std::string& Folder)
-		{
-			const FDescriptor Directory{open(Folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)};
-			if (Directory.Value >= 0)
+			// Only root may give files away; the group can often be kept even so. Neither is worth failing for.
+			if (fchown(File, Existing->st_uid, Existing->st_gid) != 0 && fchown(File, static_cast<uid_t>(-1), Existing->st_gid) != 0)
 			{
-				fsync(Directory.Value);
+				errno = 0;
 			}
+		}
+		return fchmod(File, Existing->st_mode & 07777) == 0 ? 0 : errno;
+	}
+
+	/** Locked for as long as it is open, which tells others that it is no leftover. @return 0 or an errno */
+	int CreateTemporary(const std::string& Folder, std::string& OutName, FDescriptor& OutFile)
+	{
+		for (;;)
+		{
+			const std::string Name = MakeTemporaryName(Folder);
+			FDescriptor File{open(Name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600)};
+			if (File.Value < 0 && errno != EEXIST) // a leftover of a process that had this one's number
+			{
+				return errno;
+			}
+			// Somebody who looks for leftovers may have come between the two steps. A file system without locks has no such people.
+			const bool bTaken = File.Value >= 0 && flock(File.Value, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+			if (File.Value >= 0 && !bTaken && access(Name.c_str(), F_OK) == 0)
+			{
+				OutName = Name;
+				std::swap(OutFile.Value, File.Value);
+				return 0;
+			}
+		}
+	}
+
+	int WriteTemporary(int File, std::string_view Bytes, const struct stat* Existing, mode_t NewMode)
+	{
+		int Error = WriteAll(File, Bytes);
+		Error = Error != 0 ? Error : SetOwnerAndMode(File, Existing, NewMode);
+		if (Error == 0 && fsync(File) != 0)
+		{
+			Error = errno;
+		}
+		return Error;
+	}
+
+	int Rename(const std::string& From, const std::string& Target)
+	{
+		if (BeforeRename != nullptr)
+		{
+			BeforeRename(From.c_str(), Target.c_str());
+		}
+		return rename(From.c_str(), Target.c_str()) == 0 ? 0 : errno;
+	}
+
+	bool IsNumber(std::string_view Text)
+	{
+		return !Text.empty() && std::all_of(Text.begin(), Text.end(), [](char Letter) { return Letter >= '0' && Letter <= '9'; });
+	}
+
+	/** Of this user, and of a process that lives no longer: nobody holds the lock. */
+	bool IsLeftover(int Folder, const char* Name)
+	{
+		const FDescriptor File{openat(Folder, Name, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC)};
+		struct stat Status;
+		return File.Value >= 0 && fstat(File.Value, &Status) == 0 && S_ISREG(Status.st_mode) && Status.st_uid == geteuid() && flock(File.Value, LOCK_EX | LOCK_NB) == 0;
+	}
+
+	/** Makes the rename itself last. A file system that cannot do this has done all it can. */
+	void FlushFolder(const std::string& Folder)
+	{
+		const FDescriptor Directory{open(Folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)};
+		if (Directory.Value >= 0)
+		{
+			fsync(Directory.Value);
 		}
 	}
 
@@ -172,14 +178,7 @@ namespace AtomicReplace
 			return Error;
 		}
 		Error = WriteTemporary(File.Value, Bytes, Existing, NewMode);
-		if (Error == 0)
-		{
-			if (BeforeRename != nullptr)
-			{
-				BeforeRename(Temporary.c_str(), Target.c_str());
-			}
-			Error = rename(Temporary.c_str(), Target.c_str()) == 0 ? 0 : errno;
-		}
+		Error = Error != 0 ? Error : Rename(Temporary, Target);
 		if (Error != 0)
 		{
 			unlink(Temporary.c_str());
@@ -187,6 +186,22 @@ namespace AtomicReplace
 		}
 		FlushFolder(Folder);
 		return 0;
+	}
+
+	int Move(const std::string& From, const std::string& Target, const struct stat* Existing)
+	{
+		int Error = 0;
+		if (Existing != nullptr)
+		{
+			const FDescriptor File{open(From.c_str(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC)};
+			Error = File.Value >= 0 ? SetOwnerAndMode(File.Value, Existing, 0) : errno;
+		}
+		Error = Error != 0 ? Error : Rename(From, Target);
+		if (Error == 0)
+		{
+			FlushFolder(NativePath::FolderOf(Target));
+		}
+		return Error;
 	}
 
 	void SetBeforeRename(void (*Hook)(const char* TemporaryFile, const char* TargetFile))

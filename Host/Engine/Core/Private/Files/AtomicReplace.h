@@ -24,5 +24,8 @@ namespace AtomicReplace
 	 */
 	int Replace(const std::string& Target, std::string_view Bytes, const struct stat* Existing, mode_t NewMode);
 
+	/** The same with a file that is complete, or a folder where none stands. */
+	int Move(const std::string& From, const std::string& Target, const struct stat* Existing);
+
 	void SetBeforeRename(void (*Hook)(const char* TemporaryFile, const char* TargetFile));
 }

@@ -12,20 +12,17 @@
 
 namespace DirectoryLock
 {
-	namespace
+	struct FHeldLock
 	{
-		struct FHeldLock
-		{
-			int File = -1;
-			int32 Count = 1;
-		};
+		int File = -1;
+		int32 Count = 1;
+	};
 
-		/** As long as the process: a lock may outlive no editor, but it belongs to none. */
-		std::map<std::string, FHeldLock>& GetHeld()
-		{
-			static std::map<std::string, FHeldLock> Held;
-			return Held;
-		}
+	/** As long as the process: a lock may outlive no editor, but it belongs to none. */
+	std::map<std::string, FHeldLock>& GetHeld()
+	{
+		static std::map<std::string, FHeldLock> Held;
+		return Held;
 	}
 
 	bool Acquire(const std::string& Folder)

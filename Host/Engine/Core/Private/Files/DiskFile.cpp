@@ -10,67 +10,64 @@
 
 namespace DiskFile
 {
-	namespace
+	int CheckReadable(const struct stat& Status)
 	{
-		int CheckReadable(const struct stat& Status)
+		if (!S_ISREG(Status.st_mode))
 		{
-			if (!S_ISREG(Status.st_mode))
-			{
-				return S_ISDIR(Status.st_mode) ? EISDIR : ENOTSUP;
-			}
-			return Status.st_size > MaxFileSize ? EFBIG : 0;
+			return S_ISDIR(Status.st_mode) ? EISDIR : ENOTSUP;
 		}
+		return Status.st_size > MaxFileSize ? EFBIG : 0;
+	}
 
-		/**
-		 * What is no file is not even opened: that alone would wake who waits at the other end of a pipe, or rewind a tape. O_NONBLOCK is
-		 * for what takes the file's place between the two looks.
-		 */
-		int OpenToRead(const std::string& Path, struct stat& OutStatus, int& OutFile)
+	/**
+	 * What is no file is not even opened: that alone would wake who waits at the other end of a pipe, or rewind a tape. O_NONBLOCK is
+	 * for what takes the file's place between the two looks.
+	 */
+	int OpenToRead(const std::string& Path, struct stat& OutStatus, int& OutFile)
+	{
+		int Error = stat(Path.c_str(), &OutStatus) == 0 ? CheckReadable(OutStatus) : errno;
+		if (Error != 0)
 		{
-			int Error = stat(Path.c_str(), &OutStatus) == 0 ? CheckReadable(OutStatus) : errno;
-			if (Error != 0)
+			return Error;
+		}
+		OutFile = open(Path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+		if (OutFile < 0)
+		{
+			return errno;
+		}
+		Error = fstat(OutFile, &OutStatus) == 0 ? CheckReadable(OutStatus) : errno;
+		if (Error != 0)
+		{
+			close(OutFile);
+		}
+		return Error;
+	}
+
+	int ReadToEnd(int File, size_t ExpectedSize, std::string& OutBytes)
+	{
+		OutBytes.resize(ExpectedSize + 1); // room for one more byte: the read that finds none tells the end
+		size_t Length = 0;
+		for (;;)
+		{
+			if (Length > static_cast<size_t>(MaxFileSize))
 			{
-				return Error;
+				return EFBIG; // it grows while it is read
 			}
-			OutFile = open(Path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
-			if (OutFile < 0)
+			if (Length == OutBytes.size())
+			{
+				OutBytes.resize(OutBytes.size() * 2);
+			}
+			const ssize_t Count = read(File, OutBytes.data() + Length, OutBytes.size() - Length);
+			if (Count == 0)
+			{
+				OutBytes.resize(Length);
+				return 0;
+			}
+			if (Count < 0 && errno != EINTR)
 			{
 				return errno;
 			}
-			Error = fstat(OutFile, &OutStatus) == 0 ? CheckReadable(OutStatus) : errno;
-			if (Error != 0)
-			{
-				close(OutFile);
-			}
-			return Error;
-		}
-
-		int ReadToEnd(int File, size_t ExpectedSize, std::string& OutBytes)
-		{
-			OutBytes.resize(ExpectedSize + 1); // room for one more byte: the read that finds none tells the end
-			size_t Length = 0;
-			for (;;)
-			{
-				if (Length > static_cast<size_t>(MaxFileSize))
-				{
-					return EFBIG; // it grows while it is read
-				}
-				if (Length == OutBytes.size())
-				{
-					OutBytes.resize(OutBytes.size() * 2);
-				}
-				const ssize_t Count = read(File, OutBytes.data() + Length, OutBytes.size() - Length);
-				if (Count == 0)
-				{
-					OutBytes.resize(Length);
-					return 0;
-				}
-				if (Count < 0 && errno != EINTR)
-				{
-					return errno;
-				}
-				Length += Count > 0 ? static_cast<size_t>(Count) : 0;
-			}
+			Length += Count > 0 ? static_cast<size_t>(Count) : 0;
 		}
 	}
 

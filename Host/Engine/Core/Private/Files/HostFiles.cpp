@@ -25,116 +25,113 @@ namespace HostFiles
 {
 	using namespace WriteRules;
 
-	namespace
+	struct FState
 	{
-		struct FState
-		{
-			std::unique_ptr<FFileOverlay> Overlay;
-			std::vector<std::string> Written; // in order of the first write
-			std::set<std::string> WrittenLookup; // the same paths
-			std::set<std::string> TidiedFolders; // leftovers are looked for once in each
-			std::unordered_map<std::string, uint32> NumChanges; // by resolved path
-		};
+		std::unique_ptr<FFileOverlay> Overlay;
+		std::vector<std::string> Written; // in order of the first write
+		std::set<std::string> WrittenLookup; // the same paths
+		std::set<std::string> TidiedFolders; // leftovers are looked for once in each
+		std::unordered_map<std::string, uint32> NumChanges; // by resolved path
+	};
 
-		THostState<FState> State;
+	THostState<FState> State;
 
-		FFileOverlay* GetOverlay()
-		{
-			return State.IsSet() ? State.Get().Overlay.get() : nullptr;
-		}
+	FFileOverlay* GetOverlay()
+	{
+		return State.IsSet() ? State.Get().Overlay.get() : nullptr;
+	}
 
-		EKind GetKindOf(const std::string& Resolved)
+	EKind GetKindOf(const std::string& Resolved)
+	{
+		if (const FFileOverlay* Overlay = GetOverlay())
 		{
-			if (const FFileOverlay* Overlay = GetOverlay())
+			if (const FFileOverlay::FEntry* Entry = Overlay->Find(Resolved))
 			{
-				if (const FFileOverlay::FEntry* Entry = Overlay->Find(Resolved))
-				{
-					return Entry->bDeleted ? EKind::Missing : EKind::File;
-				}
-				if (Overlay->HasDirectory(Resolved))
-				{
-					return EKind::Directory;
-				}
+				return Entry->bDeleted ? EKind::Missing : EKind::File;
 			}
-			const FOnDisk OnDisk(Resolved);
-			if (!OnDisk.bExists || S_ISREG(OnDisk.Status.st_mode))
+			if (Overlay->HasDirectory(Resolved))
 			{
-				return OnDisk.bExists ? EKind::File : EKind::Missing;
-			}
-			return S_ISDIR(OnDisk.Status.st_mode) ? EKind::Directory : EKind::Other;
-		}
-
-		/**
-		 * What is the user's own stays theirs alone, whoever else could read it before; other files keep their mode.
-		 *
-		 * @return null for a file that is new
-		 */
-		const struct stat* GetStatusToKeep(const std::string& Path, FOnDisk& OnDisk)
-		{
-			if (IsPrivate(Path))
-			{
-				OnDisk.Status.st_mode = (OnDisk.Status.st_mode & S_IFMT) | GetModeOfNewFile(Path);
-			}
-			return OnDisk.bExists ? &OnDisk.Status : nullptr;
-		}
-
-		/** In the locked folder of Path. */
-		bool WriteDisk(const std::string& Path, std::string_view Bytes, FOnDisk OnDisk)
-		{
-			const std::string Folder = NativePath::FolderOf(Path);
-			FState& Own = State.Get();
-			if (Own.TidiedFolders.insert(Folder).second)
-			{
-				AtomicReplace::RemoveLeftovers(Folder);
-			}
-			const int Error = AtomicReplace::Replace(Path, Bytes, GetStatusToKeep(Path, OnDisk), GetModeOfNewFile(Path));
-			if (Error != 0)
-			{
-				ReportNotWritten(Path, Describe(TEXT("the file cannot be written and is as it was"), Error), TEXT("Check free space and the permissions of its folder."));
-				return false;
-			}
-			if (Own.WrittenLookup.insert(Path).second)
-			{
-				Own.Written.push_back(Path);
-			}
-			return true;
-		}
-
-		bool CountChange(const std::string& Path)
-		{
-			++State.Get().NumChanges[Path];
-			return true;
-		}
-
-		void ReportNotRead(const std::string& Path, int Error)
-		{
-			const auto Tell = [File = NativePath::ToString(Path)](const FString& Message, const TCHAR* Remedy) { HostProblems::Report(File, 0, Message, Remedy); };
-			switch (Error)
-			{
-				case EISDIR:
-					Tell(TEXT("a folder stands where a file is to be read"), TEXT("Move the folder away."));
-					break;
-				case ENOTSUP:
-					Tell(TEXT("this is no ordinary file, and nothing is read from it"), TEXT("Put what it gives into a file and name that."));
-					break;
-				case EFBIG:
-					Tell(FString::Printf(TEXT("the file is larger than %d MB and is not read"), static_cast<int32>(DiskFile::MaxFileSize / (1024 * 1024))), TEXT("Make it smaller, or move it away."));
-					break;
-				default:
-					Tell(Describe(TEXT("the file cannot be read"), Error), TEXT("Check its permissions."));
+				return EKind::Directory;
 			}
 		}
-
-		TArray<FString> ToStrings(const std::vector<std::string>& Paths)
+		const FOnDisk OnDisk(Resolved);
+		if (!OnDisk.bExists || S_ISREG(OnDisk.Status.st_mode))
 		{
-			TArray<FString> Result;
-			Result.Reserve(static_cast<int32>(Paths.size()));
-			for (const std::string& Path : Paths)
-			{
-				Result.Add(NativePath::ToString(Path));
-			}
-			return Result;
+			return OnDisk.bExists ? EKind::File : EKind::Missing;
 		}
+		return S_ISDIR(OnDisk.Status.st_mode) ? EKind::Directory : EKind::Other;
+	}
+
+	/**
+	 * What is the user's own stays theirs alone, whoever else could read it before; other files keep their mode.
+	 *
+	 * @return null for a file that is new
+	 */
+	const struct stat* GetStatusToKeep(const std::string& Path, FOnDisk& OnDisk)
+	{
+		if (IsPrivate(Path))
+		{
+			OnDisk.Status.st_mode = (OnDisk.Status.st_mode & S_IFMT) | GetModeOfNewFile(Path);
+		}
+		return OnDisk.bExists ? &OnDisk.Status : nullptr;
+	}
+
+	/** In the locked folder of Path. */
+	bool WriteDisk(const std::string& Path, std::string_view Bytes, FOnDisk OnDisk)
+	{
+		const std::string Folder = NativePath::FolderOf(Path);
+		FState& Own = State.Get();
+		if (Own.TidiedFolders.insert(Folder).second)
+		{
+			AtomicReplace::RemoveLeftovers(Folder);
+		}
+		const int Error = AtomicReplace::Replace(Path, Bytes, GetStatusToKeep(Path, OnDisk), GetModeOfNewFile(Path));
+		if (Error != 0)
+		{
+			ReportNotWritten(Path, Describe(TEXT("the file cannot be written and is as it was"), Error), TEXT("Check free space and the permissions of its folder."));
+			return false;
+		}
+		if (Own.WrittenLookup.insert(Path).second)
+		{
+			Own.Written.push_back(Path);
+		}
+		return true;
+	}
+
+	bool CountChange(const std::string& Path)
+	{
+		++State.Get().NumChanges[Path];
+		return true;
+	}
+
+	void ReportNotRead(const std::string& Path, int Error)
+	{
+		const auto Tell = [File = NativePath::ToString(Path)](const FString& Message, const TCHAR* Remedy) { HostProblems::Report(File, 0, Message, Remedy); };
+		switch (Error)
+		{
+			case EISDIR:
+				Tell(TEXT("a folder stands where a file is to be read"), TEXT("Move the folder away."));
+				break;
+			case ENOTSUP:
+				Tell(TEXT("this is no ordinary file, and nothing is read from it"), TEXT("Put what it gives into a file and name that."));
+				break;
+			case EFBIG:
+				Tell(FString::Printf(TEXT("the file is larger than %d MB and is not read"), static_cast<int32>(DiskFile::MaxFileSize / (1024 * 1024))), TEXT("Make it smaller, or move it away."));
+				break;
+			default:
+				Tell(Describe(TEXT("the file cannot be read"), Error), TEXT("Check its permissions."));
+		}
+	}
+
+	TArray<FString> ToStrings(const std::vector<std::string>& Paths)
+	{
+		TArray<FString> Result;
+		Result.Reserve(static_cast<int32>(Paths.size()));
+		for (const std::string& Path : Paths)
+		{
+			Result.Add(NativePath::ToString(Path));
+		}
+		return Result;
 	}
 
 	EKind GetKind(const FString& Path)

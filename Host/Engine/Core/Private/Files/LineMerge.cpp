@@ -9,43 +9,40 @@
 
 namespace LineMerge
 {
-	namespace
+	/** Lines [Begin, End) of the base text give way to Lines. */
+	struct FEdit
 	{
-		/** Lines [Begin, End) of the base text give way to Lines. */
-		struct FEdit
-		{
-			size_t Begin = 0;
-			size_t End = 0;
-			std::span<const std::u16string_view> Lines;
+		size_t Begin = 0;
+		size_t End = 0;
+		std::span<const std::u16string_view> Lines;
 
-			bool IsEmpty() const { return Begin == End && Lines.empty(); }
-			bool IsInsertion() const { return Begin == End; }
-			bool operator==(const FEdit& Other) const
-			{
-				return Begin == Other.Begin && End == Other.End && std::equal(Lines.begin(), Lines.end(), Other.Lines.begin(), Other.Lines.end());
-			}
-		};
-
-		FEdit FindEdit(const FLines& Base, const FLines& Changed)
+		bool IsEmpty() const { return Begin == End && Lines.empty(); }
+		bool IsInsertion() const { return Begin == End; }
+		bool operator==(const FEdit& Other) const
 		{
-			const size_t Shorter = std::min(Base.size(), Changed.size());
-			size_t Front = 0;
-			while (Front < Shorter && Base[Front] == Changed[Front])
-			{
-				++Front;
-			}
-			size_t Back = 0;
-			while (Back < Shorter - Front && Base[Base.size() - 1 - Back] == Changed[Changed.size() - 1 - Back])
-			{
-				++Back;
-			}
-			return FEdit{Front, Base.size() - Back, std::span(Changed).subspan(Front, Changed.size() - Back - Front)};
+			return Begin == Other.Begin && End == Other.End && std::equal(Lines.begin(), Lines.end(), Other.Lines.begin(), Other.Lines.end());
 		}
+	};
 
-		void Append(std::span<const std::u16string_view> Lines, FLines& Out)
+	FEdit FindEdit(const FLines& Base, const FLines& Changed)
+	{
+		const size_t Shorter = std::min(Base.size(), Changed.size());
+		size_t Front = 0;
+		while (Front < Shorter && Base[Front] == Changed[Front])
 		{
-			Out.insert(Out.end(), Lines.begin(), Lines.end());
+			++Front;
 		}
+		size_t Back = 0;
+		while (Back < Shorter - Front && Base[Base.size() - 1 - Back] == Changed[Changed.size() - 1 - Back])
+		{
+			++Back;
+		}
+		return FEdit{Front, Base.size() - Back, std::span(Changed).subspan(Front, Changed.size() - Back - Front)};
+	}
+
+	void Append(std::span<const std::u16string_view> Lines, FLines& Out)
+	{
+		Out.insert(Out.end(), Lines.begin(), Lines.end());
 	}
 
 	bool Merge(const FLines& Base, const FLines& Mine, const FLines& Theirs, FLines& OutMerged)

@@ -9,10 +9,7 @@
 
 namespace LoadedText
 {
-	namespace
-	{
-		THostState<std::unordered_map<std::string, FRecord>> Records;
-	}
+	THostState<std::unordered_map<std::string, FRecord>> Records;
 
 	const FRecord& Find(const std::string& Path)
 	{

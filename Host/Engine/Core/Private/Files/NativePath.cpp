@@ -11,68 +11,65 @@
 
 namespace NativePath
 {
-	namespace
+	constexpr int32 MaxLinks = 40; // what the kernel itself follows
+
+	std::string WorkingDirectory()
 	{
-		constexpr int32 MaxLinks = 40; // what the kernel itself follows
+		char Buffer[PATH_MAX];
+		return getcwd(Buffer, sizeof(Buffer)) != nullptr ? std::string(Buffer) : std::string("/");
+	}
 
-		std::string WorkingDirectory()
+	std::string MakeFullNative(std::string_view Path)
+	{
+		const std::string Absolute = Path.starts_with('/') ? std::string(Path) : WorkingDirectory() + "/" + std::string(Path);
+		std::string Result;
+		Result.reserve(Absolute.size());
+		for (size_t Start = 0; Start < Absolute.size();)
 		{
-			char Buffer[PATH_MAX];
-			return getcwd(Buffer, sizeof(Buffer)) != nullptr ? std::string(Buffer) : std::string("/");
+			size_t End = Absolute.find('/', Start);
+			End = End == std::string::npos ? Absolute.size() : End;
+			const std::string_view Part(Absolute.data() + Start, End - Start);
+			if (Part == "..")
+			{
+				const size_t Last = Result.rfind('/');
+				Result.resize(Last == std::string::npos ? 0 : Last);
+			}
+			else if (!Part.empty() && Part != ".")
+			{
+				Result += '/';
+				Result += Part;
+			}
+			Start = End + 1;
 		}
+		return Result.empty() ? std::string("/") : Result;
+	}
 
-		std::string MakeFullNative(std::string_view Path)
+	bool GetRealPath(const std::string& Path, std::string& OutPath)
+	{
+		char Buffer[PATH_MAX];
+		if (realpath(Path.c_str(), Buffer) == nullptr)
 		{
-			const std::string Absolute = Path.starts_with('/') ? std::string(Path) : WorkingDirectory() + "/" + std::string(Path);
-			std::string Result;
-			Result.reserve(Absolute.size());
-			for (size_t Start = 0; Start < Absolute.size();)
-			{
-				size_t End = Absolute.find('/', Start);
-				End = End == std::string::npos ? Absolute.size() : End;
-				const std::string_view Part(Absolute.data() + Start, End - Start);
-				if (Part == "..")
-				{
-					const size_t Last = Result.rfind('/');
-					Result.resize(Last == std::string::npos ? 0 : Last);
-				}
-				else if (!Part.empty() && Part != ".")
-				{
-					Result += '/';
-					Result += Part;
-				}
-				Start = End + 1;
-			}
-			return Result.empty() ? std::string("/") : Result;
+			return false;
 		}
+		OutPath = Buffer;
+		return true;
+	}
 
-		bool GetRealPath(const std::string& Path, std::string& OutPath)
+	/** Path with its folders resolved as far as they exist; its last part is taken as it is. */
+	std::string ResolveFolder(const std::string& Path)
+	{
+		std::string Existing = FolderOf(Path);
+		std::string Real;
+		while (!GetRealPath(Existing, Real) && Existing != "/")
 		{
-			char Buffer[PATH_MAX];
-			if (realpath(Path.c_str(), Buffer) == nullptr)
-			{
-				return false;
-			}
-			OutPath = Buffer;
-			return true;
+			Existing = FolderOf(Existing);
 		}
-
-		/** Path with its folders resolved as far as they exist; its last part is taken as it is. */
-		std::string ResolveFolder(const std::string& Path)
+		if (Real.empty())
 		{
-			std::string Existing = FolderOf(Path);
-			std::string Real;
-			while (!GetRealPath(Existing, Real) && Existing != "/")
-			{
-				Existing = FolderOf(Existing);
-			}
-			if (Real.empty())
-			{
-				return Path;
-			}
-			const std::string Rest = Existing == "/" ? Path : Path.substr(Existing.size());
-			return Real == "/" ? Rest : Real + Rest;
+			return Path;
 		}
+		const std::string Rest = Existing == "/" ? Path : Path.substr(Existing.size());
+		return Real == "/" ? Rest : Real + Rest;
 	}
 
 	std::string FromString(const FString& Path)

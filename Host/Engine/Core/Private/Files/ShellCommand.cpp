@@ -9,21 +9,18 @@
 
 namespace ShellCommand
 {
-	namespace
-	{
-		constexpr int NotStarted = 127; // as shells say it
+	constexpr int NotStarted = 127; // as shells say it
 
-		/** In the new process: nothing here may allocate memory. */
-		[[noreturn]] void Become(const char* Line, const char* Argument, const char* WorkingDirectory)
+	/** In the new process: nothing here may allocate memory. */
+	[[noreturn]] void Become(const char* Line, const char* Argument, const char* WorkingDirectory)
+	{
+		const int Nothing = open("/dev/null", O_RDONLY);
+		const bool bReady = Nothing >= 0 && dup2(Nothing, STDIN_FILENO) >= 0 && dup2(STDERR_FILENO, STDOUT_FILENO) >= 0 && chdir(WorkingDirectory) == 0;
+		if (bReady)
 		{
-			const int Nothing = open("/dev/null", O_RDONLY);
-			const bool bReady = Nothing >= 0 && dup2(Nothing, STDIN_FILENO) >= 0 && dup2(STDERR_FILENO, STDOUT_FILENO) >= 0 && chdir(WorkingDirectory) == 0;
-			if (bReady)
-			{
-				execl("/bin/sh", "sh", "-c", Line, "sh", Argument, static_cast<char*>(nullptr));
-			}
-			_exit(NotStarted);
+			execl("/bin/sh", "sh", "-c", Line, "sh", Argument, static_cast<char*>(nullptr));
 		}
+		_exit(NotStarted);
 	}
 
 	int Run(const std::string& Command, const std::string& Argument, const std::string& WorkingDirectory)

@@ -7,101 +7,98 @@
 
 namespace TextCoding
 {
-	namespace
+	constexpr size_t BlockSize = 8; // bytes looked at in one go while text is plain ASCII
+	constexpr uint64_t HighBits = 0x8080808080808080ull;
+
+	bool IsAsciiBlock(const char* Bytes)
 	{
-		constexpr size_t BlockSize = 8; // bytes looked at in one go while text is plain ASCII
-		constexpr uint64_t HighBits = 0x8080808080808080ull;
+		uint64_t Block;
+		std::memcpy(&Block, Bytes, BlockSize);
+		return (Block & HighBits) == 0;
+	}
 
-		bool IsAsciiBlock(const char* Bytes)
+	bool IsContinuation(unsigned char Byte)
+	{
+		return (Byte & 0xC0) == 0x80;
+	}
+
+	/** Of the bytes that begin with First, which is no ASCII; 0 when none do. */
+	size_t GetSequenceLength(unsigned char First)
+	{
+		if (First < 0xC2 || First >= 0xF5)
 		{
-			uint64_t Block;
-			std::memcpy(&Block, Bytes, BlockSize);
-			return (Block & HighBits) == 0;
+			return 0;
 		}
+		return 2 + (First >= 0xE0 ? 1 : 0) + (First >= 0xF0 ? 1 : 0);
+	}
 
-		bool IsContinuation(unsigned char Byte)
+	/** Number of bytes of the character that starts here, and its code point; 0 when it is not well-formed. */
+	size_t DecodeOne(std::string_view Bytes, size_t At, char32_t& OutCode)
+	{
+		const auto ByteAt = [&](size_t Index) { return static_cast<unsigned char>(Bytes[Index]); };
+		const unsigned char First = ByteAt(At);
+		if (First < 0x80)
 		{
-			return (Byte & 0xC0) == 0x80;
+			OutCode = First;
+			return 1;
 		}
-
-		/** Of the bytes that begin with First, which is no ASCII; 0 when none do. */
-		size_t GetSequenceLength(unsigned char First)
+		const size_t Length = GetSequenceLength(First);
+		if (Length == 0 || At + Length > Bytes.size())
 		{
-			if (First < 0xC2 || First >= 0xF5)
+			return 0;
+		}
+		char32_t Code = First & (0xFF >> (Length + 1));
+		for (size_t Index = At + 1; Index < At + Length; ++Index)
+		{
+			if (!IsContinuation(ByteAt(Index)))
 			{
 				return 0;
 			}
-			return 2 + (First >= 0xE0 ? 1 : 0) + (First >= 0xF0 ? 1 : 0);
+			Code = (Code << 6) | (ByteAt(Index) & 0x3F);
 		}
+		const bool bOverlong = (Length == 3 && Code < 0x800) || (Length == 4 && Code < 0x10000);
+		const bool bSurrogate = Code >= 0xD800 && Code <= 0xDFFF;
+		OutCode = Code;
+		return bOverlong || bSurrogate || Code > 0x10FFFF ? 0 : Length;
+	}
 
-		/** Number of bytes of the character that starts here, and its code point; 0 when it is not well-formed. */
-		size_t DecodeOne(std::string_view Bytes, size_t At, char32_t& OutCode)
+	/** Appends the ASCII characters from At on. @return where they end */
+	size_t AppendAscii(std::u16string_view Text, size_t At, std::string& Out)
+	{
+		size_t End = At;
+		while (End < Text.size() && Text[End] < 0x80)
 		{
-			const auto ByteAt = [&](size_t Index) { return static_cast<unsigned char>(Bytes[Index]); };
-			const unsigned char First = ByteAt(At);
-			if (First < 0x80)
-			{
-				OutCode = First;
-				return 1;
-			}
-			const size_t Length = GetSequenceLength(First);
-			if (Length == 0 || At + Length > Bytes.size())
-			{
-				return 0;
-			}
-			char32_t Code = First & (0xFF >> (Length + 1));
-			for (size_t Index = At + 1; Index < At + Length; ++Index)
-			{
-				if (!IsContinuation(ByteAt(Index)))
-				{
-					return 0;
-				}
-				Code = (Code << 6) | (ByteAt(Index) & 0x3F);
-			}
-			const bool bOverlong = (Length == 3 && Code < 0x800) || (Length == 4 && Code < 0x10000);
-			const bool bSurrogate = Code >= 0xD800 && Code <= 0xDFFF;
-			OutCode = Code;
-			return bOverlong || bSurrogate || Code > 0x10FFFF ? 0 : Length;
+			++End;
 		}
+		const size_t Before = Out.size();
+		Out.resize(Before + (End - At));
+		char* Byte = Out.data() + Before;
+		for (size_t Index = At; Index < End; ++Index)
+		{
+			*Byte++ = static_cast<char>(Text[Index]);
+		}
+		return End;
+	}
 
-		/** Appends the ASCII characters from At on. @return where they end */
-		size_t AppendAscii(std::u16string_view Text, size_t At, std::string& Out)
+	void AppendCode(char32_t Code, std::string& Out)
+	{
+		const auto Append = [&Out](char32_t Byte) { Out.push_back(static_cast<char>(static_cast<unsigned char>(Byte))); };
+		if (Code < 0x800)
 		{
-			size_t End = At;
-			while (End < Text.size() && Text[End] < 0x80)
-			{
-				++End;
-			}
-			const size_t Before = Out.size();
-			Out.resize(Before + (End - At));
-			char* Byte = Out.data() + Before;
-			for (size_t Index = At; Index < End; ++Index)
-			{
-				*Byte++ = static_cast<char>(Text[Index]);
-			}
-			return End;
+			Append(0xC0 | (Code >> 6));
 		}
-
-		void AppendCode(char32_t Code, std::string& Out)
+		else if (Code < 0x10000)
 		{
-			const auto Append = [&Out](char32_t Byte) { Out.push_back(static_cast<char>(static_cast<unsigned char>(Byte))); };
-			if (Code < 0x800)
-			{
-				Append(0xC0 | (Code >> 6));
-			}
-			else if (Code < 0x10000)
-			{
-				Append(0xE0 | (Code >> 12));
-				Append(0x80 | ((Code >> 6) & 0x3F));
-			}
-			else
-			{
-				Append(0xF0 | (Code >> 18));
-				Append(0x80 | ((Code >> 12) & 0x3F));
-				Append(0x80 | ((Code >> 6) & 0x3F));
-			}
-			Append(0x80 | (Code & 0x3F));
+			Append(0xE0 | (Code >> 12));
+			Append(0x80 | ((Code >> 6) & 0x3F));
 		}
+		else
+		{
+			Append(0xF0 | (Code >> 18));
+			Append(0x80 | ((Code >> 12) & 0x3F));
+			Append(0x80 | ((Code >> 6) & 0x3F));
+		}
+		Append(0x80 | (Code & 0x3F));
 	}
 
 	size_t FindInvalidUtf8(std::string_view Bytes)

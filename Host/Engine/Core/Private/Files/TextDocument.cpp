@@ -9,101 +9,98 @@
 
 namespace TextDocument
 {
-	namespace
+	constexpr std::string_view Utf8Bom = "\xEF\xBB\xBF";
+	constexpr std::string_view Utf16LittleBom = "\xFF\xFE";
+	constexpr std::string_view Utf16BigBom = "\xFE\xFF";
+
+	/** Takes the byte-order mark, if any, off Bytes. */
+	ETextEncoding Detect(std::string_view& Bytes)
 	{
-		constexpr std::string_view Utf8Bom = "\xEF\xBB\xBF";
-		constexpr std::string_view Utf16LittleBom = "\xFF\xFE";
-		constexpr std::string_view Utf16BigBom = "\xFE\xFF";
-
-		/** Takes the byte-order mark, if any, off Bytes. */
-		ETextEncoding Detect(std::string_view& Bytes)
+		const auto Take = [&Bytes](std::string_view Mark) {
+			const bool bFound = Bytes.starts_with(Mark);
+			Bytes.remove_prefix(bFound ? Mark.size() : 0);
+			return bFound;
+		};
+		if (Take(Utf8Bom))
 		{
-			const auto Take = [&Bytes](std::string_view Mark) {
-				const bool bFound = Bytes.starts_with(Mark);
-				Bytes.remove_prefix(bFound ? Mark.size() : 0);
-				return bFound;
-			};
-			if (Take(Utf8Bom))
-			{
-				return ETextEncoding::Utf8WithBom;
-			}
-			if (Take(Utf16LittleBom))
-			{
-				return ETextEncoding::Utf16LittleEndian;
-			}
-			return Take(Utf16BigBom) ? ETextEncoding::Utf16BigEndian : ETextEncoding::Utf8;
+			return ETextEncoding::Utf8WithBom;
 		}
-
-		bool IsUtf16(ETextEncoding Encoding)
+		if (Take(Utf16LittleBom))
 		{
-			return Encoding == ETextEncoding::Utf16LittleEndian || Encoding == ETextEncoding::Utf16BigEndian;
+			return ETextEncoding::Utf16LittleEndian;
 		}
-
-		void DecodeUtf16(std::string_view Bytes, ETextEncoding Encoding, std::vector<char16_t>& Out)
-		{
-			const size_t Low = Encoding == ETextEncoding::Utf16LittleEndian ? 0 : 1;
-			Out.resize(Bytes.size() / 2);
-			for (size_t Index = 0; Index < Out.size(); ++Index)
-			{
-				const auto ByteAt = [&](size_t Offset) { return static_cast<unsigned char>(Bytes[Index * 2 + Offset]); };
-				Out[Index] = static_cast<char16_t>(ByteAt(Low) | (ByteAt(1 - Low) << 8));
-			}
-		}
-
-		void AppendUtf16(std::u16string_view Text, ETextEncoding Encoding, std::string& Out)
-		{
-			const size_t Low = Encoding == ETextEncoding::Utf16LittleEndian ? 0 : 1;
-			const size_t Before = Out.size();
-			Out.resize(Before + Text.size() * 2);
-			for (size_t Index = 0; Index < Text.size(); ++Index)
-			{
-				Out[Before + Index * 2 + Low] = static_cast<char>(static_cast<unsigned char>(Text[Index] & 0xFF));
-				Out[Before + Index * 2 + 1 - Low] = static_cast<char>(static_cast<unsigned char>(Text[Index] >> 8));
-			}
-		}
-
-		std::u16string_view ToText(ELineEnd End)
-		{
-			switch (End)
-			{
-				case ELineEnd::Lf:
-					return u"\n";
-				case ELineEnd::CrLf:
-					return u"\r\n";
-				case ELineEnd::Cr:
-					return u"\r";
-				default:
-					return u"";
-			}
-		}
-
-		std::string_view ToMark(ETextEncoding Encoding)
-		{
-			switch (Encoding)
-			{
-				case ETextEncoding::Utf8WithBom:
-					return Utf8Bom;
-				case ETextEncoding::Utf16LittleEndian:
-					return Utf16LittleBom;
-				case ETextEncoding::Utf16BigEndian:
-					return Utf16BigBom;
-				default:
-					return {};
-			}
-		}
-
-		/** One-based line in which the character stands. */
-		template<typename CharType>
-		int32 LineOf(std::basic_string_view<CharType> Text, size_t At)
-		{
-			const std::basic_string_view<CharType> Before = Text.substr(0, At);
-			return 1 + static_cast<int32>(std::count(Before.begin(), Before.end(), CharType('\n')));
-		}
-
-		constexpr const char* OddLength = "begins as UTF-16 but has an odd number of bytes";
-		constexpr const char* UnknownEncoding = "is neither UTF-8 nor UTF-16 with a byte-order mark";
-		constexpr const char* NullCharacters = "holds null characters and so is no text (UTF-16 needs a byte-order mark)";
+		return Take(Utf16BigBom) ? ETextEncoding::Utf16BigEndian : ETextEncoding::Utf8;
 	}
+
+	bool IsUtf16(ETextEncoding Encoding)
+	{
+		return Encoding == ETextEncoding::Utf16LittleEndian || Encoding == ETextEncoding::Utf16BigEndian;
+	}
+
+	void DecodeUtf16(std::string_view Bytes, ETextEncoding Encoding, std::vector<char16_t>& Out)
+	{
+		const size_t Low = Encoding == ETextEncoding::Utf16LittleEndian ? 0 : 1;
+		Out.resize(Bytes.size() / 2);
+		for (size_t Index = 0; Index < Out.size(); ++Index)
+		{
+			const auto ByteAt = [&](size_t Offset) { return static_cast<unsigned char>(Bytes[Index * 2 + Offset]); };
+			Out[Index] = static_cast<char16_t>(ByteAt(Low) | (ByteAt(1 - Low) << 8));
+		}
+	}
+
+	void AppendUtf16(std::u16string_view Text, ETextEncoding Encoding, std::string& Out)
+	{
+		const size_t Low = Encoding == ETextEncoding::Utf16LittleEndian ? 0 : 1;
+		const size_t Before = Out.size();
+		Out.resize(Before + Text.size() * 2);
+		for (size_t Index = 0; Index < Text.size(); ++Index)
+		{
+			Out[Before + Index * 2 + Low] = static_cast<char>(static_cast<unsigned char>(Text[Index] & 0xFF));
+			Out[Before + Index * 2 + 1 - Low] = static_cast<char>(static_cast<unsigned char>(Text[Index] >> 8));
+		}
+	}
+
+	std::u16string_view ToText(ELineEnd End)
+	{
+		switch (End)
+		{
+			case ELineEnd::Lf:
+				return u"\n";
+			case ELineEnd::CrLf:
+				return u"\r\n";
+			case ELineEnd::Cr:
+				return u"\r";
+			default:
+				return u"";
+		}
+	}
+
+	std::string_view ToMark(ETextEncoding Encoding)
+	{
+		switch (Encoding)
+		{
+			case ETextEncoding::Utf8WithBom:
+				return Utf8Bom;
+			case ETextEncoding::Utf16LittleEndian:
+				return Utf16LittleBom;
+			case ETextEncoding::Utf16BigEndian:
+				return Utf16BigBom;
+			default:
+				return {};
+		}
+	}
+
+	/** One-based line in which the character stands. */
+	template<typename CharType>
+	int32 LineOf(std::basic_string_view<CharType> Text, size_t At)
+	{
+		const std::basic_string_view<CharType> Before = Text.substr(0, At);
+		return 1 + static_cast<int32>(std::count(Before.begin(), Before.end(), CharType('\n')));
+	}
+
+	constexpr const char* OddLength = "begins as UTF-16 but has an odd number of bytes";
+	constexpr const char* UnknownEncoding = "is neither UTF-8 nor UTF-16 with a byte-order mark";
+	constexpr const char* NullCharacters = "holds null characters and so is no text (UTF-16 needs a byte-order mark)";
 }
 
 bool FTextDocument::Decode(std::string_view Bytes, std::string& OutFault, int32& OutFaultLine)

@@ -11,13 +11,10 @@
 
 namespace TextFile
 {
-	namespace
+	void ReportFault(const FString& Path, int32 Line, const std::string& Fault)
 	{
-		void ReportFault(const FString& Path, int32 Line, const std::string& Fault)
-		{
-			HostProblems::Report(NativePath::ToString(NativePath::MakeFull(Path)), Line, FString(TEXT("the file ")) + TextCoding::ToFString(Fault),
-				TEXT("Save it as UTF-8 or as UTF-16 with a byte-order mark; until then it is neither read nor overwritten."));
-		}
+		HostProblems::Report(NativePath::ToString(NativePath::MakeFull(Path)), Line, FString(TEXT("the file ")) + TextCoding::ToFString(Fault),
+			TEXT("Save it as UTF-8 or as UTF-16 with a byte-order mark; until then it is neither read nor overwritten."));
 	}
 
 	HostFiles::ERead Load(const FString& Path, FTextDocument& OutDocument, std::string& OutBytes)

@@ -12,12 +12,9 @@
 
 namespace WriteRules
 {
-	namespace
-	{
-		constexpr mode_t PrivateFileMode = 0600;
-		constexpr mode_t PrivateFolderMode = 0700;
-		constexpr mode_t SharedFolderMode = 0777; // less what the umask takes
-	}
+	constexpr mode_t PrivateFileMode = 0600;
+	constexpr mode_t PrivateFolderMode = 0700;
+	constexpr mode_t SharedFolderMode = 0777; // less what the umask takes
 
 	bool IsPrivate(const std::string& Path)
 	{

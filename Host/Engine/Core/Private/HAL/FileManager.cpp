@@ -2,65 +2,87 @@
 
 #include "HAL/FileManager.h"
 
+#include "Containers/StringConv.h"
 #include "Containers/UnrealString.h"
 #include "HostFiles.h"
 #include "Logging/LogMacros.h"
 #include "Misc/Paths.h"
 
+#include <filesystem>
+
 DEFINE_LOG_CATEGORY_STATIC(LogFileManager, Log, All);
 
 namespace FileManager
 {
-	namespace
+	class FHostFileManager final : public IFileManager
 	{
-		class FHostFileManager final : public IFileManager
+	public:
+		//~ Begin IFileManager
+		bool FileExists(const TCHAR* Filename) override { return HostFiles::FileExists(Filename); }
+
+		bool DirectoryExists(const TCHAR* InDirectory) override { return HostFiles::DirectoryExists(InDirectory); }
+
+		bool Delete(const TCHAR* Filename, bool RequireExists, bool EvenReadOnly, bool Quiet) override
 		{
-		public:
-			//~ Begin IFileManager
-			bool FileExists(const TCHAR* Filename) override { return HostFiles::FileExists(Filename); }
+			const bool bMissing = HostFiles::GetKind(Filename) == HostFiles::EKind::Missing;
+			const HostFiles::EReadOnly ReadOnly = EvenReadOnly ? HostFiles::EReadOnly::Override : HostFiles::EReadOnly::Refuse;
+			const bool bDeleted = !(bMissing && RequireExists) && HostFiles::Delete(Filename, ReadOnly);
+			UE_CLOG(!bDeleted && !Quiet, LogFileManager, Warning, TEXT("Could not delete %s"), Filename);
+			return bDeleted;
+		}
 
-			bool DirectoryExists(const TCHAR* InDirectory) override { return HostFiles::DirectoryExists(InDirectory); }
+		bool MakeDirectory(const TCHAR* Path, bool Tree) override
+		{
+			const FString Full = FPaths::ConvertRelativePathToFull(Path);
+			return (Tree || HostFiles::DirectoryExists(FPaths::GetPath(Full))) && HostFiles::MakeDirectory(Full);
+		}
 
-			bool Delete(const TCHAR* Filename, bool RequireExists, bool EvenReadOnly, bool Quiet) override
+		bool DeleteDirectory(const TCHAR* Path, bool RequireExists, bool Tree) override
+		{
+			if (!HostFiles::DirectoryExists(Path))
 			{
-				const bool bMissing = HostFiles::GetKind(Filename) == HostFiles::EKind::Missing;
-				const HostFiles::EReadOnly ReadOnly = EvenReadOnly ? HostFiles::EReadOnly::Override : HostFiles::EReadOnly::Refuse;
-				const bool bDeleted = !(bMissing && RequireExists) && HostFiles::Delete(Filename, ReadOnly);
-				UE_CLOG(!bDeleted && !Quiet, LogFileManager, Warning, TEXT("Could not delete %s"), Filename);
-				return bDeleted;
+				return !RequireExists;
 			}
-
-			bool MakeDirectory(const TCHAR* Path, bool Tree) override
+			bool bEmpty = true;
+			if (Tree)
 			{
-				const FString Full = FPaths::ConvertRelativePathToFull(Path);
-				return (Tree || HostFiles::DirectoryExists(FPaths::GetPath(Full))) && HostFiles::MakeDirectory(Full);
-			}
-
-			uint32 Copy(const TCHAR* Dest, const TCHAR* Src, bool Replace, bool EvenIfReadOnly) override
-			{
-				std::string Bytes;
-				const bool bMayWrite = Replace || HostFiles::GetKind(Dest) == HostFiles::EKind::Missing;
-				const HostFiles::EReadOnly ReadOnly = EvenIfReadOnly ? HostFiles::EReadOnly::Override : HostFiles::EReadOnly::Refuse;
-				const bool bCopied = bMayWrite && HostFiles::Read(Src, Bytes) == HostFiles::ERead::Done && HostFiles::Write(Dest, Bytes, ReadOnly);
-				UE_CLOG(!bCopied, LogFileManager, Warning, TEXT("Could not copy %s to %s"), Src, Dest);
-				return bCopied ? COPY_OK : COPY_Fail;
-			}
-
-			void FindFiles(TArray<FString>& FoundFiles, const TCHAR* Directory, const TCHAR* FileExtension) override
-			{
-				FString Suffix = FileExtension != nullptr ? FileExtension : TEXT("");
-				if (!Suffix.IsEmpty() && !Suffix.StartsWith(TEXT(".")))
+				for (const FString& File : HostFiles::FindFilesIn(Path, FString()))
 				{
-					Suffix = TEXT(".") + Suffix;
+					bEmpty &= HostFiles::Delete(File);
 				}
-				for (const FString& File : HostFiles::FindFilesIn(Directory, Suffix))
+				for (const FString& Folder : HostFiles::FindDirectories(Path))
 				{
-					FoundFiles.Add(FPaths::GetCleanFilename(File));
+					bEmpty &= DeleteDirectory(*Folder, false, true);
 				}
 			}
-			//~ End IFileManager
-		};
-	}
+			std::error_code Fault; // not empty, or somebody else's
+			return bEmpty && !HostFiles::HasOverlay() && std::filesystem::remove(std::filesystem::path(TCHAR_TO_UTF8(Path)), Fault);
+		}
+
+		uint32 Copy(const TCHAR* Dest, const TCHAR* Src, bool Replace, bool EvenIfReadOnly) override
+		{
+			std::string Bytes;
+			const bool bMayWrite = Replace || HostFiles::GetKind(Dest) == HostFiles::EKind::Missing;
+			const HostFiles::EReadOnly ReadOnly = EvenIfReadOnly ? HostFiles::EReadOnly::Override : HostFiles::EReadOnly::Refuse;
+			const bool bCopied = bMayWrite && HostFiles::Read(Src, Bytes) == HostFiles::ERead::Done && HostFiles::Write(Dest, Bytes, ReadOnly);
+			UE_CLOG(!bCopied, LogFileManager, Warning, TEXT("Could not copy %s to %s"), Src, Dest);
+			return bCopied ? COPY_OK : COPY_Fail;
+		}
+
+		void FindFiles(TArray<FString>& FoundFiles, const TCHAR* Directory, const TCHAR* FileExtension) override
+		{
+			FString Suffix = FileExtension != nullptr ? FileExtension : TEXT("");
+			if (!Suffix.IsEmpty() && !Suffix.StartsWith(TEXT(".")))
+			{
+				Suffix = TEXT(".") + Suffix;
+			}
+			for (const FString& File : HostFiles::FindFilesIn(Directory, Suffix))
+			{
+				FoundFiles.Add(FPaths::GetCleanFilename(File));
+			}
+		}
+		//~ End IFileManager
+	};
 }
 
 IFileManager& IFileManager::Get()

@@ -2,16 +2,16 @@
 
 #include "HAL/PlatformProcess.h"
 
+#include "Containers/StringConv.h"
 #include "HostPaths.h"
 #include "HostProcess.h"
 #include "HostState.h"
 
+#include <filesystem>
+
 namespace HostProcess
 {
-	namespace
-	{
-		THostState<TArray<FString>> OpenedUrls;
-	}
+	THostState<TArray<FString>> OpenedUrls;
 
 	const TArray<FString>& GetOpenedUrls()
 	{
@@ -37,4 +37,26 @@ void FPlatformProcess::LaunchURL(const TCHAR* URL, const TCHAR* Parms, FString* 
 const TCHAR* FPlatformProcess::UserSettingsDir()
 {
 	return *HostPaths::GetUserSettingsDir();
+}
+
+namespace PlatformProcess
+{
+	struct FTempDir
+	{
+		FTempDir()
+		{
+			std::error_code Fault; // a system without such a folder
+			const std::filesystem::path Folder = std::filesystem::temp_directory_path(Fault);
+			Path = FString(UTF8_TO_TCHAR(Fault ? "/tmp" : Folder.c_str())) + TEXT("/");
+		}
+
+		FString Path;
+	};
+
+	THostState<FTempDir> TempDir;
+}
+
+const TCHAR* FPlatformProcess::UserTempDir()
+{
+	return *PlatformProcess::TempDir->Path;
 }

@@ -38,7 +38,7 @@ namespace SmallBlocks
 	// Without constructor and destructor: strings are made before main, and go after it.
 	constinit FBin Bins[MaxSize / Alignment] = {};
 
-	static FBin& GetBin(std::size_t Size)
+	FBin& GetBin(std::size_t Size)
 	{
 		return Bins[(Size - 1) / Alignment];
 	}

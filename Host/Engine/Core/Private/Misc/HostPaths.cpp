@@ -7,50 +7,70 @@
 #include "Misc/Paths.h"
 
 #include <cstdlib>
+#include <filesystem>
 #include <pwd.h>
 #include <string>
 #include <unistd.h>
 
 namespace HostPaths
 {
-	namespace
+	struct FState
 	{
-		struct FState
-		{
-			FString ProjectFile;
-			FString ProjectDir;
-			FString EngineDir;
-			FString UserSettingsDir;
-			FString UserStateDir;
-			TArray<FString> PluginDirs;
-		};
+		FString ProjectFile;
+		FString ProjectDir;
+		FString EngineDir;
+		FString UserSettingsDir;
+		FString UserStateDir;
+		TArray<FString> PluginDirs;
+	};
 
-		THostState<FState> State;
+	THostState<FState> State;
 
-		FString MakeFolder(const FString& Directory)
+	FString MakeFolder(const FString& Directory)
+	{
+		const FString Full = FPaths::ConvertRelativePathToFull(Directory);
+		return Full.EndsWith(TEXT("/")) ? Full : Full + TEXT("/");
+	}
+
+	std::string GetHome()
+	{
+		const char* Home = std::getenv("HOME");
+		if (Home != nullptr && *Home != '\0')
 		{
-			const FString Full = FPaths::ConvertRelativePathToFull(Directory);
-			return Full.EndsWith(TEXT("/")) ? Full : Full + TEXT("/");
+			return Home;
 		}
+		const passwd* User = getpwuid(getuid()); // services and containers come without HOME
+		return User != nullptr && User->pw_dir != nullptr ? std::string(User->pw_dir) : std::string("/");
+	}
 
-		std::string GetHome()
+	/** The program's own folder below the one that a variable names, or else below a folder of the user's home. */
+	FString MakeUserDir(const char* Variable, const char* FolderInHome)
+	{
+		const char* Configured = std::getenv(Variable);
+		const bool bUsable = Configured != nullptr && *Configured == '/'; // relative ones are to be ignored
+		return MakeFolder(NativePath::ToString((bUsable ? std::string(Configured) : GetHome() + FolderInHome) + "/velmorant"));
+	}
+
+	FString FindProgramData(const TCHAR* Path)
+	{
+		std::error_code Ignored;
+		const std::filesystem::path Program = std::filesystem::read_symlink("/proc/self/exe", Ignored);
+		const std::filesystem::path Data = Program.parent_path().parent_path() / "share/velmorant" / NativePath::FromString(Path);
+		return NativePath::ToString(NativePath::Resolve(NativePath::ToString(Data.string())));
+	}
+
+	FString FindMissingProgramData()
+	{
+		for (const TCHAR* Needed : {TEXT("Engine/Config/BaseEngine.ini"), TEXT("Plugins")})
 		{
-			const char* Home = std::getenv("HOME");
-			if (Home != nullptr && *Home != '\0')
+			const FString Full = FindProgramData(Needed);
+			std::error_code Ignored;
+			if (!std::filesystem::exists(NativePath::FromString(Full), Ignored))
 			{
-				return Home;
+				return Full;
 			}
-			const passwd* User = getpwuid(getuid()); // services and containers come without HOME
-			return User != nullptr && User->pw_dir != nullptr ? std::string(User->pw_dir) : std::string("/");
 		}
-
-		/** The program's own folder below the one that a variable names, or else below a folder of the user's home. */
-		FString MakeUserDir(const char* Variable, const char* FolderInHome)
-		{
-			const char* Configured = std::getenv(Variable);
-			const bool bUsable = Configured != nullptr && *Configured == '/'; // relative ones are to be ignored
-			return MakeFolder(NativePath::ToString((bUsable ? std::string(Configured) : GetHome() + FolderInHome) + "/velmorant"));
-		}
+		return FString();
 	}
 
 	void SetProjectFile(const FString& File)
@@ -84,7 +104,7 @@ namespace HostPaths
 		FString& EngineDir = State.Get().EngineDir;
 		if (EngineDir.IsEmpty())
 		{
-			EngineDir = MakeFolder(FString(VELMORANT_ENGINE_DIR));
+			EngineDir = MakeFolder(FindProgramData(TEXT("Engine")));
 		}
 		return EngineDir;
 	}

@@ -7,24 +7,21 @@
 
 namespace HostProblems
 {
-	namespace
+	struct FProblems
 	{
-		struct FProblems
-		{
-			TArray<FHostProblem> All;
-			TMap<FString, TArray<int32>> PlacesByText; // file and message; those that may be the same, for letter case and lines do not count here
-		};
+		TArray<FHostProblem> All;
+		TMap<FString, TArray<int32>> PlacesByText; // file and message; those that may be the same, for letter case and lines do not count here
+	};
 
-		THostState<FProblems> Problems;
+	THostState<FProblems> Problems;
 
-		struct FNotWritten
-		{
-			TArray<FHostProblem> All;
-			TFunction<void(const FHostProblem&)> Listener;
-		};
+	struct FNotWritten
+	{
+		TArray<FHostProblem> All;
+		TFunction<void(const FHostProblem&)> Listener;
+	};
 
-		THostState<FNotWritten> NotWritten;
-	}
+	THostState<FNotWritten> NotWritten;
 
 	void Report(const FString& File, int32 Line, const FString& Message, const FString& Remedy)
 	{

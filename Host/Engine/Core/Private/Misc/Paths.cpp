@@ -9,38 +9,35 @@
 
 namespace Paths
 {
-	namespace
+	/** For functions that hand out references. */
+	struct FKeptPaths
 	{
-		/** For functions that hand out references. */
-		struct FKeptPaths
-		{
-			FString SourceConfigDir;
-		};
+		FString SourceConfigDir;
+	};
 
-		THostState<FKeptPaths> KeptPaths;
+	THostState<FKeptPaths> KeptPaths;
 
-		bool IsSeparator(TCHAR Character)
+	bool IsSeparator(TCHAR Character)
+	{
+		return Character == TEXT('/') || Character == TEXT('\\');
+	}
+
+	/** INDEX_NONE when there is none. */
+	int32 FindLastSeparator(const FString& Path)
+	{
+		int32 Index = Path.Len() - 1;
+		while (Index >= 0 && !IsSeparator(Path[Index]))
 		{
-			return Character == TEXT('/') || Character == TEXT('\\');
+			--Index;
 		}
+		return Index;
+	}
 
-		/** INDEX_NONE when there is none. */
-		int32 FindLastSeparator(const FString& Path)
-		{
-			int32 Index = Path.Len() - 1;
-			while (Index >= 0 && !IsSeparator(Path[Index]))
-			{
-				--Index;
-			}
-			return Index;
-		}
-
-		/** Position of the dot before the extension, or INDEX_NONE; dots of folders do not count. */
-		int32 FindExtension(const FString& Path)
-		{
-			int32 Dot = INDEX_NONE;
-			return Path.FindLastChar(TEXT('.'), Dot) && Dot > FindLastSeparator(Path) ? Dot : INDEX_NONE;
-		}
+	/** Position of the dot before the extension, or INDEX_NONE; dots of folders do not count. */
+	int32 FindExtension(const FString& Path)
+	{
+		int32 Dot = INDEX_NONE;
+		return Path.FindLastChar(TEXT('.'), Dot) && Dot > FindLastSeparator(Path) ? Dot : INDEX_NONE;
 	}
 }
 

@@ -14,38 +14,35 @@ DEFINE_LOG_CATEGORY_STATIC(LogModuleManager, Log, All);
 
 namespace ModuleManager
 {
-	namespace
+	struct FLinkedModule
 	{
-		struct FLinkedModule
-		{
-			const ANSICHAR* Name; // a literal: names are not made before main
-			FModuleManager::FInitializeStaticallyLinkedModule Initializer;
-		};
+		const ANSICHAR* Name; // a literal: names are not made before main
+		FModuleManager::FInitializeStaticallyLinkedModule Initializer;
+	};
 
-		/** All modules of the program; filled before main, used by every editor. */
-		std::vector<FLinkedModule>& GetLinkedModules()
-		{
-			static std::vector<FLinkedModule> Linked;
-			return Linked;
-		}
+	/** All modules of the program; filled before main, used by every editor. */
+	std::vector<FLinkedModule>& GetLinkedModules()
+	{
+		static std::vector<FLinkedModule> Linked;
+		return Linked;
+	}
 
-		TFunction<void(FName)>& GetLoadListener()
-		{
-			static TFunction<void(FName)> Listener;
-			return Listener;
-		}
+	TFunction<void(FName)>& GetLoadListener()
+	{
+		static TFunction<void(FName)> Listener;
+		return Listener;
+	}
 
-		const FLinkedModule* FindLinkedModule(FName Name)
+	const FLinkedModule* FindLinkedModule(FName Name)
+	{
+		for (const FLinkedModule& Module : GetLinkedModules())
 		{
-			for (const FLinkedModule& Module : GetLinkedModules())
+			if (Name == FName(Module.Name))
 			{
-				if (Name == FName(Module.Name))
-				{
-					return &Module;
-				}
+				return &Module;
 			}
-			return nullptr;
 		}
+		return nullptr;
 	}
 }
 
@@ -182,10 +179,7 @@ public:
 
 namespace HostModules
 {
-	namespace
-	{
-		THostState<FModuleManager> Manager;
-	}
+	THostState<FModuleManager> Manager;
 
 	TArray<FName> GetLoaded()
 	{

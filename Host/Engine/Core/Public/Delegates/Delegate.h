@@ -3,7 +3,7 @@
 #pragma once
 
 #include "Delegates/DelegateCombinations.h"
-#include "Delegates/DelegateSignatureImpl.h"
+#include "Delegates/DelegateSignatureImpl.inl"
 #include "Delegates/IDelegateInstance.h"
 
 DECLARE_DELEGATE(FSimpleDelegate);

@@ -45,6 +45,12 @@ public:
 	virtual bool MakeDirectory(const TCHAR* Path, bool Tree = false) = 0;
 
 	/**
+	 * @param RequireExists a missing folder is a failure; otherwise there is nothing to do then
+	 * @param Tree          with all that is in it; otherwise a folder that is not empty stays
+	 */
+	virtual bool DeleteDirectory(const TCHAR* Path, bool RequireExists = false, bool Tree = false) = 0;
+
+	/**
 	 * Makes Dest hold what Src holds, creating missing folders.
 	 * @param Replace otherwise an existing Dest is a failure
 	 * @return COPY_OK or COPY_Fail; the old Dest is whole after a failure

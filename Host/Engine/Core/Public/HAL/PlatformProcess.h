@@ -13,4 +13,7 @@ struct FPlatformProcess
 
 	/** The user's own configuration folder, with a trailing slash. Good until the editor goes down. */
 	static const TCHAR* UserSettingsDir();
+
+	/** The folder for files that nobody needs for long, with a trailing slash. Good until the editor goes down. */
+	static const TCHAR* UserTempDir();
 };

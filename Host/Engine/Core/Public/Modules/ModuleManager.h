@@ -9,6 +9,9 @@
 #include "Templates/UniquePtr.h"
 #include "UObject/NameTypes.h"
 
+template<typename T>
+class THostState;
+
 enum class ELoadModuleFlags : uint32
 {
 	None = 0,
@@ -29,8 +32,6 @@ public:
 	/** The manager of the running editor. */
 	static FModuleManager& Get();
 
-	FModuleManager();
-	~FModuleManager();
 	FModuleManager(const FModuleManager&) = delete;
 	FModuleManager& operator=(const FModuleManager&) = delete;
 
@@ -84,10 +85,14 @@ public:
 	static void RegisterStaticallyLinkedModule(const ANSICHAR* InModuleName, FInitializeStaticallyLinkedModule InInitializer);
 
 private:
+	FModuleManager();
+	~FModuleManager();
+
 	class FModules;
 	TUniquePtr<FModules> Modules;
 
 	friend class FHostModuleAccess;
+	friend class THostState<FModuleManager>;
 };
 
 /** Registers a module at load time; IMPLEMENT_MODULE makes one. */

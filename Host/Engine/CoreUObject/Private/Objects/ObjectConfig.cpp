@@ -15,19 +15,19 @@ namespace ObjectConfig
 {
 	using FLines = TArray<TPair<FString, FString>>;
 
-	static bool IsConfig(const FProperty* Property)
+	bool IsConfig(const FProperty* Property)
 	{
 		return Property->HasAnyPropertyFlags(CPF_Config);
 	}
 
 	/** Global values belong to the class that declares them, others to the class of the object. */
-	static const UClass* GetSectionClass(const FProperty* Property, const UClass* Class)
+	const UClass* GetSectionClass(const FProperty* Property, const UClass* Class)
 	{
 		return Property->HasAnyPropertyFlags(CPF_GlobalConfig) ? Property->GetOwnerClass() : Class;
 	}
 
 	/** Values of an array, or the one value, as the lines of a config file say them. */
-	static TArray<FString> ExportValues(const FProperty* Property, const UObject* Object)
+	TArray<FString> ExportValues(const FProperty* Property, const UObject* Object)
 	{
 		TArray<FString> Values;
 		const void* Value = Property->ContainerPtrToValuePtr(Object);
@@ -47,7 +47,7 @@ namespace ObjectConfig
 	}
 
 	/** Element is the property, or what its array holds. */
-	static void ReportUnreadable(const FProperty* Property, const FProperty* Element, const UClass* SectionClass, const FString& Value)
+	void ReportUnreadable(const FProperty* Property, const FProperty* Element, const UClass* SectionClass, const FString& Value)
 	{
 		constexpr int32 MaxShown = 100; // characters
 		const FString Section = SectionClass->GetPathName();
@@ -62,7 +62,7 @@ namespace ObjectConfig
 		UE_LOG(LogConfigObject, Warning, TEXT("%s"), *HostProblems::ToString(FHostProblem{Place.File, Place.Line, Message, Remedy}));
 	}
 
-	static void ImportArray(const FArrayProperty* Array, UObject* Object, const TArray<FString>& Values, const UClass* SectionClass)
+	void ImportArray(const FArrayProperty* Array, UObject* Object, const TArray<FString>& Values, const UClass* SectionClass)
 	{
 		FScriptArrayHelper Helper(Array, Array->ContainerPtrToValuePtr(Object));
 		Helper.EmptyValues();
@@ -77,7 +77,7 @@ namespace ObjectConfig
 		}
 	}
 
-	static void ReadProperty(const FProperty* Property, UObject* Object, const UClass* SectionClass, const FString& File)
+	void ReadProperty(const FProperty* Property, UObject* Object, const UClass* SectionClass, const FString& File)
 	{
 		const FString Section = SectionClass->GetPathName();
 		if (const FArrayProperty* Array = CastField<FArrayProperty>(Property))
@@ -97,7 +97,7 @@ namespace ObjectConfig
 	}
 
 	/** The same from every class in the chain, so that a section of a super class also speaks for those below. */
-	static void ReadChain(const FProperty* Property, UObject* Object, const UClass* Class, const TCHAR* Filename)
+	void ReadChain(const FProperty* Property, UObject* Object, const UClass* Class, const TCHAR* Filename)
 	{
 		const UClass* Owner = Property->GetOwnerClass();
 		if (Class != Owner && !Property->HasAnyPropertyFlags(CPF_GlobalConfig))
@@ -109,7 +109,7 @@ namespace ObjectConfig
 	}
 
 	/** What Key is in one file, read alone, on top of Values. */
-	static void ApplyLayer(const FString& File, const FString& Section, const FString& Key, TArray<FString>& Values)
+	void ApplyLayer(const FString& File, const FString& Section, const FString& Key, TArray<FString>& Values)
 	{
 		FConfigCacheIni Layer; // one of its own: GConfig's copies of single files do not see what others write
 		TArray<FString> Entries;
@@ -152,7 +152,7 @@ namespace ObjectConfig
 	};
 
 	/** What the layers below the one that is to be written say. */
-	static TArray<FString> ReadBelow(ELayer Layer, const FString& Config, const FString& Section, const FString& Key)
+	TArray<FString> ReadBelow(ELayer Layer, const FString& Config, const FString& Section, const FString& Key)
 	{
 		const FString Written = Layer == ELayer::Default ? HostConfig::GetDefaultFile(Config) : HostConfig::GetBranchFile(Config);
 		TArray<FString> Values;
@@ -167,7 +167,7 @@ namespace ObjectConfig
 		return Values;
 	}
 
-	static bool Equal(const TArray<FString>& A, const TArray<FString>& B)
+	bool Equal(const TArray<FString>& A, const TArray<FString>& B)
 	{
 		bool bEqual = A.Num() == B.Num();
 		for (int32 Index = 0; bEqual && Index < A.Num(); ++Index)
@@ -178,7 +178,7 @@ namespace ObjectConfig
 	}
 
 	/** The project's default file: all values, arrays element by element, and the base's elements that are gone. */
-	static void AddDefaultLines(const FProperty* Property, const TArray<FString>& Values, const TArray<FString>& Base, FLines& Lines)
+	void AddDefaultLines(const FProperty* Property, const TArray<FString>& Values, const TArray<FString>& Base, FLines& Lines)
 	{
 		const FString Name = Property->GetName();
 		if (!Property->IsA<FArrayProperty>())
@@ -200,7 +200,7 @@ namespace ObjectConfig
 	}
 
 	/** The user's file: only what differs from the layers below; arrays as a whole. */
-	static void AddUserLines(const FProperty* Property, const TArray<FString>& Values, const TArray<FString>& Below, FLines& Lines)
+	void AddUserLines(const FProperty* Property, const TArray<FString>& Values, const TArray<FString>& Below, FLines& Lines)
 	{
 		const FString Name = Property->GetName();
 		if (!Property->IsA<FArrayProperty>())
@@ -233,7 +233,7 @@ namespace ObjectConfig
 	};
 
 	/** One section: that of SectionClass, which owns its values or is the object's class. */
-	static bool WriteSection(const FRequest& Request, const UClass* SectionClass)
+	bool WriteSection(const FRequest& Request, const UClass* SectionClass)
 	{
 		const UClass* Class = Request.Object->GetClass();
 		const FString Config = SectionClass->ClassConfigName.ToString();
@@ -266,7 +266,7 @@ namespace ObjectConfig
 	}
 
 	/** Writes the sections of all classes that own config values of the object. */
-	static bool Write(const FRequest& Request)
+	bool Write(const FRequest& Request)
 	{
 		const UClass* Class = Request.Object->GetClass();
 		TArray<const UClass*> SectionClasses;
@@ -285,7 +285,7 @@ namespace ObjectConfig
 		return bWritten;
 	}
 
-	static void CopyToDefaultObject(const UObject* Object)
+	void CopyToDefaultObject(const UObject* Object)
 	{
 		UObject* Default = Object->GetClass()->GetDefaultObject();
 		for (const FProperty* Property : Object->GetClass()->GetAllProperties())

@@ -50,7 +50,7 @@ namespace ObjectConstruction
 		UObject* To;
 	};
 
-	static void CopyReferences(const FProperty* Property, UObject* To, const UObject* From, FReferenceMapper& Mapper)
+	void CopyReferences(const FProperty* Property, UObject* To, const UObject* From, FReferenceMapper& Mapper)
 	{
 		if (const FObjectProperty* ObjectProperty = CastField<FObjectProperty>(Property))
 		{
@@ -70,7 +70,7 @@ namespace ObjectConstruction
 	}
 
 	/** The object of the wanted name, whose place the new one takes; null when there is none. */
-	static UObject* FindForRebuild(const FStaticConstructObjectParameters& Params)
+	UObject* FindForRebuild(const FStaticConstructObjectParameters& Params)
 	{
 		UObject* Existing = Params.Name.IsNone() ? nullptr : FObjectNameTable::Get().Find(nullptr, Params.Outer, Params.Name);
 		checkf(!Existing || Existing->GetClass() == Params.Class, TEXT("Cannot make a %s named %s: %s is there already, and of another class."),
@@ -80,7 +80,7 @@ namespace ObjectConstruction
 	}
 
 	/** The object whose values a new one starts with. */
-	static UObject* ChooseArchetype(const FStaticConstructObjectParameters& Params, FName Name)
+	UObject* ChooseArchetype(const FStaticConstructObjectParameters& Params, FName Name)
 	{
 		if (Params.Template)
 		{

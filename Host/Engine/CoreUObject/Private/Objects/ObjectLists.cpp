@@ -10,7 +10,7 @@
 namespace ObjectLists
 {
 	/** Slots are reused, so their order is not that of creation. */
-	static void SortByAge(TArray<UObject*>& Objects)
+	void SortByAge(TArray<UObject*>& Objects)
 	{
 		const FObjectTable& Table = FObjectTable::Get();
 		const auto Serial = [&Table](const UObject& Object) { return Table.GetItem(static_cast<int32>(Object.GetUniqueID())).SerialNumber; };
@@ -25,7 +25,7 @@ namespace ObjectLists
 		}
 	}
 
-	static void Collect(const UObject* Outer, bool bNested, TArray<UObject*>& Results)
+	void Collect(const UObject* Outer, bool bNested, TArray<UObject*>& Results)
 	{
 		FObjectNameTable::Get().ForEachInner(Outer, [bNested, &Results](UObject* Inner) {
 			Results.Add(Inner);

@@ -15,7 +15,7 @@ DEFINE_LOG_CATEGORY_STATIC(LogUObjectGlobals, Log, All);
 namespace ObjectSearch
 {
 	/** Where the first part of a path ends: at a dot or colon behind the last slash. */
-	static int32 FindPartEnd(const FString& Path, int32 Start)
+	int32 FindPartEnd(const FString& Path, int32 Start)
 	{
 		int32 Index = Start;
 		for (; Index < Path.Len() && Path[Index] != TEXT('.') && Path[Index] != TEXT(':'); ++Index)
@@ -25,7 +25,7 @@ namespace ObjectSearch
 	}
 
 	/** Follows "A.B:C" from Outer; null Outer starts with a package. Class counts for the last part only. */
-	static UObject* Follow(UClass* Class, UObject* Outer, const FString& Path, bool bExactClass)
+	UObject* Follow(UClass* Class, UObject* Outer, const FString& Path, bool bExactClass)
 	{
 		FObjectNameTable& Names = FObjectNameTable::Get();
 		int32 Start = 0;
@@ -50,7 +50,7 @@ namespace ObjectSearch
 		}
 	}
 
-	static bool IsPackagePath(const FString& Path)
+	bool IsPackagePath(const FString& Path)
 	{
 		return Path.StartsWith(TEXT("/"));
 	}

@@ -12,7 +12,7 @@
 namespace PropertyReader
 {
 	/** Whether a part of "/Package.Object:Inner" is longer than a name can be. */
-	static bool HasLongName(const FString& Path)
+	bool HasLongName(const FString& Path)
 	{
 		int32 Length = 0;
 		for (const TCHAR Character : Path)

@@ -9,7 +9,7 @@ namespace ContainerProperties
 {
 	/** "(a,b)"; ReadElement reads one and gives what follows. An empty text is an empty container. */
 	template<typename ReadElementType>
-	static const TCHAR* ImportList(const TCHAR* Buffer, ReadElementType&& ReadElement)
+	const TCHAR* ImportList(const TCHAR* Buffer, ReadElementType&& ReadElement)
 	{
 		Buffer = PropertyText::SkipBlanks(Buffer);
 		if (*Buffer == 0 || *Buffer == TEXT(',') || *Buffer == TEXT(')'))

@@ -11,19 +11,19 @@
 namespace ObjectProperties
 {
 	// Members are T* or wrap one: read and written as bytes, so that the compiler need not know which.
-	static UObject* LoadPointer(const void* Value)
+	UObject* LoadPointer(const void* Value)
 	{
 		UObject* Object = nullptr;
 		std::memcpy(&Object, Value, sizeof(Object));
 		return Object;
 	}
 
-	static void StorePointer(void* Value, UObject* Object)
+	void StorePointer(void* Value, UObject* Object)
 	{
 		std::memcpy(Value, &Object, sizeof(Object));
 	}
 
-	static void AppendMaybeQuoted(FString& ValueStr, const FString& Text, int32 PortFlags)
+	void AppendMaybeQuoted(FString& ValueStr, const FString& Text, int32 PortFlags)
 	{
 		if (PortFlags & PPF_Delimited)
 		{
@@ -36,12 +36,12 @@ namespace ObjectProperties
 	}
 
 	/** "/Script/Module.Class'/Path/A.A'" */
-	static FString ExportPath(const UObject* Object)
+	FString ExportPath(const UObject* Object)
 	{
 		return Object->GetClass()->GetPathName() + TEXT("'") + Object->GetPathName() + TEXT("'");
 	}
 
-	static UObject* FindOrLoad(UClass* Class, const FString& Text, UObject* Owner)
+	UObject* FindOrLoad(UClass* Class, const FString& Text, UObject* Owner)
 	{
 		const FString Path = PropertyText::StripClass(Text);
 		if (UObject* Inner = Owner && !Path.StartsWith(TEXT("/")) ? StaticFindObject(Class, Owner, *Path) : nullptr)

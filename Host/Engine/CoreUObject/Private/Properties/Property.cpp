@@ -8,14 +8,14 @@
 namespace PropertyValues
 {
 	/** An enum value as its short name; the bare number when it has none. */
-	static void ExportEnum(FString& ValueStr, const UEnum* Enum, int64 Value)
+	void ExportEnum(FString& ValueStr, const UEnum* Enum, int64 Value)
 	{
 		const FString Name = Enum->GetAuthoredNameStringByValue(Value);
 		ValueStr += Name.IsEmpty() ? LexToString(Value) : Name;
 	}
 
 	/** A short or full name, or a number. */
-	static const TCHAR* ImportEnum(const TCHAR* Buffer, const UEnum* Enum, int64& OutValue)
+	const TCHAR* ImportEnum(const TCHAR* Buffer, const UEnum* Enum, int64& OutValue)
 	{
 		FString Word;
 		const TCHAR* Rest = PropertyText::ReadWord(Buffer, Word);

@@ -1,14 +1,14 @@
 // Copyright Velmorant. All Rights Reserved.
 
-#include "Properties/PropertyText.h"
+#include "HostReflection/GeneratedCode.h"
 #include "HostScratchValue.h"
-#include "UObject/GeneratedCode.h"
+#include "Properties/PropertyText.h"
 #include "UObject/UnrealType.h"
 
 namespace StructText
 {
 	/** Skips a value that no property wants: up to the next comma or bracket outside quotes and brackets. */
-	static const TCHAR* SkipValue(const TCHAR* Buffer)
+	const TCHAR* SkipValue(const TCHAR* Buffer)
 	{
 		int32 Depth = 0;
 		bool bInQuotes = false;
@@ -46,7 +46,7 @@ namespace StructText
 	}
 
 	/** "Name=Value". */
-	static const TCHAR* ImportField(const TCHAR* Buffer, const UScriptStruct* Struct, void* Value, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText)
+	const TCHAR* ImportField(const TCHAR* Buffer, const UScriptStruct* Struct, void* Value, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText)
 	{
 		const TCHAR* Start = Buffer;
 		while (*Buffer && *Buffer != TEXT('=') && *Buffer != TEXT(',') && *Buffer != TEXT(')'))

@@ -22,7 +22,7 @@ namespace UE::Reflection
 	namespace BaseStructures
 	{
 		template<typename T>
-		static const FStructOps& ComparedOps()
+		const FStructOps& ComparedOps()
 		{
 			static constexpr FStructOps Ops = {
 				[](void* Memory) { ::new (Memory) T(); },
@@ -34,7 +34,7 @@ namespace UE::Reflection
 
 		/** For types whose default constructor leaves the values open: reflection always starts with zeros. */
 		template<typename T>
-		static const FStructOps& ZeroedOps()
+		const FStructOps& ZeroedOps()
 		{
 			static constexpr FStructOps Ops = {
 				[](void* Memory) { ::new (Memory) T(ForceInit); },
@@ -45,13 +45,13 @@ namespace UE::Reflection
 		}
 
 		template<typename T>
-		static constexpr FPropertyRecord Member(const char* Name, std::size_t Offset)
+		constexpr FPropertyRecord Member(const char* Name, std::size_t Offset)
 		{
 			return {Name, CPF_Edit | CPF_BlueprintVisible | CPF_NativeAccessSpecifierPublic, static_cast<uint32>(Offset), &MakeProperty<T>, nullptr, 0};
 		}
 
 		template<typename T>
-		static constexpr FStructRecord Record(const char* CppName, const FStructOps& (*Ops)(), const FPropertyRecord* Properties, int32 NumProperties)
+		constexpr FStructRecord Record(const char* CppName, const FStructOps& (*Ops)(), const FPropertyRecord* Properties, int32 NumProperties)
 		{
 			return {CppName, CppName + 1, "/Script/CoreUObject", STRUCT_Native, sizeof(T), alignof(T), nullptr, Ops, Properties, NumProperties, nullptr, 0, nullptr};
 		}
@@ -112,7 +112,7 @@ namespace UE::Reflection
 	{
 		/** Values that are one piece of text; quoted inside other values where commas or blanks could end them. */
 		template<typename T, FString (*ToText)(const T&), bool (*FromText)(const FString&, T&), bool bQuoted>
-		static const FStructTextOps& TextOps()
+		const FStructTextOps& TextOps()
 		{
 			static constexpr FStructTextOps Ops = {
 				[](FString& Out, const void* Value, int32 PortFlags) {
@@ -134,45 +134,45 @@ namespace UE::Reflection
 			return Ops;
 		}
 
-		static FString GuidToText(const FGuid& Guid)
+		FString GuidToText(const FGuid& Guid)
 		{
 			return Guid.ToString();
 		}
-		static FString DateToText(const FDateTime& Date)
+		FString DateToText(const FDateTime& Date)
 		{
 			return Date.ToString();
 		}
-		static bool DateFromText(const FString& Text, FDateTime& Date)
+		bool DateFromText(const FString& Text, FDateTime& Date)
 		{
 			// "2024.05.31-18.30.00" is ISO 8601 with other separators.
 			const FString Iso = Text.Left(10).Replace(TEXT("."), TEXT("-")) + TEXT("T") + Text.RightChop(11).Replace(TEXT("."), TEXT(":"));
 			return FDateTime::ParseIso8601(*Iso, Date);
 		}
-		static FString TimespanToText(const FTimespan& Span)
+		FString TimespanToText(const FTimespan& Span)
 		{
 			return LexToString(Span.GetTicks());
 		}
-		static bool TimespanFromText(const FString& Text, FTimespan& Span)
+		bool TimespanFromText(const FString& Text, FTimespan& Span)
 		{
 			int64 Ticks = 0;
 			const bool bNumber = PropertyText::ParseInteger(Text, Ticks);
 			Span = FTimespan(Ticks);
 			return bNumber;
 		}
-		static FString AssetPathToText(const FTopLevelAssetPath& Path)
+		FString AssetPathToText(const FTopLevelAssetPath& Path)
 		{
 			return Path.ToString();
 		}
-		static bool AssetPathFromText(const FString& Text, FTopLevelAssetPath& Path)
+		bool AssetPathFromText(const FString& Text, FTopLevelAssetPath& Path)
 		{
 			Path.Reset();
 			return Text.IsEmpty() || Text == TEXT("None") || Path.TrySetPath(PropertyText::StripClass(Text));
 		}
-		static FString SoftPathToText(const FSoftObjectPath& Path)
+		FString SoftPathToText(const FSoftObjectPath& Path)
 		{
 			return Path.ToString();
 		}
-		static bool SoftPathFromText(const FString& Text, FSoftObjectPath& Path)
+		bool SoftPathFromText(const FString& Text, FSoftObjectPath& Path)
 		{
 			Path.SetPath(PropertyText::StripClass(Text));
 			return true;
@@ -195,7 +195,7 @@ namespace UE::Reflection
 		FTypeBuilder::SetTextOps(GetStruct(GSoftClassPathRecord), TextOps<FSoftObjectPath, &SoftPathToText, &SoftPathFromText, true>());
 	}
 
-	static UScriptStruct* GetBaseStructure(FStructRecord& Record)
+	UScriptStruct* GetBaseStructure(FStructRecord& Record)
 	{
 		if (!Record.Struct)
 		{

@@ -1,19 +1,19 @@
 // Copyright Velmorant. All Rights Reserved.
 
 #include "Containers/StringConv.h"
+#include "HostReflection/GeneratedCode.h"
 #include "Reflection/DisplayNames.h"
 #include "UObject/Class.h"
-#include "UObject/GeneratedCode.h"
 
 namespace EnumNames
 {
-	static FString WithoutScope(const FString& Name)
+	FString WithoutScope(const FString& Name)
 	{
 		const int32 Scope = Name.Find(TEXT("::"), ESearchCase::CaseSensitive, ESearchDir::FromEnd);
 		return Scope == INDEX_NONE ? Name : Name.RightChop(Scope + 2);
 	}
 
-	static const FString* FindMetaData(const UE::Reflection::FEnumRecord* Record, int32 Index, const TCHAR* Key, FString& OutValue)
+	const FString* FindMetaData(const UE::Reflection::FEnumRecord* Record, int32 Index, const TCHAR* Key, FString& OutValue)
 	{
 		if (!Record || Index < 0 || Index >= Record->NumEnumerators)
 		{
@@ -32,7 +32,7 @@ namespace EnumNames
 	}
 
 	/** What all short names have in common, up to its last underscore, which is left out: "ECC". Empty when there is nothing. */
-	static FString CommonPrefix(const TArray<TPair<FName, int64>>& Names)
+	FString CommonPrefix(const TArray<TPair<FName, int64>>& Names)
 	{
 		if (Names.IsEmpty())
 		{

@@ -3,10 +3,10 @@
 #include "UObject/Field.h"
 
 #include "Containers/StringConv.h"
+#include "HostReflection/GeneratedCode.h"
 #include "Misc/CString.h"
 #include "Reflection/DisplayNames.h"
 #include "UObject/Class.h"
-#include "UObject/GeneratedCode.h"
 
 namespace UE::Reflection
 {
@@ -57,18 +57,18 @@ namespace Field
 {
 	static const FString Empty;
 
-	static bool ToBool(const FString* Value)
+	bool ToBool(const FString* Value)
 	{
 		return Value && !Value->Equals(TEXT("false"), ESearchCase::IgnoreCase);
 	}
 
-	static FText DisplayName(const UE::Reflection::FMetaDataMap& MetaData, const FString& Name, bool bIsBool)
+	FText DisplayName(const UE::Reflection::FMetaDataMap& MetaData, const FString& Name, bool bIsBool)
 	{
 		const FString* Given = MetaData.Find(FName("DisplayName"));
 		return FText::FromString(Given && !Given->IsEmpty() ? *Given : UE::Reflection::NameToDisplayString(Name, bIsBool));
 	}
 
-	static FText ToolTip(const UE::Reflection::FMetaDataMap& MetaData, bool bShort, const FText& Fallback)
+	FText ToolTip(const UE::Reflection::FMetaDataMap& MetaData, bool bShort, const FText& Fallback)
 	{
 		const FString* Short = bShort ? MetaData.Find(FName("ShortTooltip")) : nullptr;
 		const FString* Given = Short ? Short : MetaData.Find(FName("ToolTip"));

@@ -11,13 +11,13 @@ namespace UE::Reflection
 	namespace RootTypes
 	{
 		template<typename T>
-		static void ConstructRoot(void* Memory, const FObjectInitializer& Initializer)
+		void ConstructRoot(void* Memory, const FObjectInitializer& Initializer)
 		{
 			::new (Memory) T(Initializer);
 		}
 
 		template<typename T>
-		static constexpr FClassRecord MakeRecord(const char* CppName, uint32 Flags)
+		constexpr FClassRecord MakeRecord(const char* CppName, uint32 Flags)
 		{
 			FClassRecord Record{};
 			Record.CppName = CppName;

@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include "UObject/GeneratedCode.h"
+#include "HostReflection/GeneratedCode.h"
 
 namespace UE::Reflection
 {

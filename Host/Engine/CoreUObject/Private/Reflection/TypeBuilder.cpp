@@ -16,7 +16,7 @@ namespace UE::Reflection
 	namespace TypeBuilder
 	{
 		template<typename RecordType>
-		static void BuildRegistered(void (*BuildOne)(RecordType&))
+		void BuildRegistered(void (*BuildOne)(RecordType&))
 		{
 			TArray<RecordType*> Records;
 			for (const TRegistrar<RecordType>* Registrar = TRegistrar<RecordType>::First; Registrar; Registrar = Registrar->Next)

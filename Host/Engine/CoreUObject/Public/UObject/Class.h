@@ -5,6 +5,8 @@
 
 #include "Containers/Array.h"
 #include "Containers/Map.h"
+#include "HostReflection/Records.h"
+#include "HostReflection/RootClass.h"
 #include "Math/MathFwd.h"
 #include "Templates/Function.h"
 #include "UObject/Field.h"
@@ -17,23 +19,6 @@ class FProperty;
 class UClass;
 class UFunction;
 struct FFrame;
-
-namespace UE::Reflection
-{
-	struct FClassRecord;
-	struct FEnumRecord;
-	struct FFunctionRecord;
-	struct FPropertyRecord;
-	struct FStructOps;
-	struct FStructRecord;
-
-	/** Text form of a struct type that does not read and write itself field by field. */
-	struct FStructTextOps
-	{
-		void (*Export)(FString& Out, const void* Value, int32 PortFlags);
-		const TCHAR* (*Import)(const TCHAR* Buffer, void* Value, int32 PortFlags); // null result: no value of this type
-	};
-}
 
 namespace EIncludeSuperFlag
 {

@@ -6,36 +6,12 @@
 #include "Containers/Map.h"
 #include "Containers/UnrealString.h"
 #include "CoreTypes.h"
+#include "HostReflection/MetaDataMap.h"
 #include "Internationalization/Text.h"
 #include "UObject/NameTypes.h"
 
 class UClass;
 class UStruct;
-
-namespace UE::Reflection
-{
-	struct FMetaDataRecord;
-	struct FTypeBuilder;
-
-	/** Key-value metadata of one reflected thing: generated records until someone asks, a map from then on. Keys ignore case. */
-	class FMetaDataMap
-	{
-	public:
-		void SetRecords(const FMetaDataRecord* InRecords, int32 InNum);
-
-		const FString* Find(FName Key) const;
-		void Set(FName Key, const FString& Value) const;
-		void Remove(FName Key) const;
-		const TMap<FName, FString>& GetAll() const;
-
-	private:
-		void Unpack() const;
-
-		mutable const FMetaDataRecord* Records = nullptr;
-		mutable int32 NumRecords = 0; // 0 once unpacked
-		mutable TMap<FName, FString> Values;
-	};
-}
 
 /** One bit per property class, so that CastField() is one test. */
 enum EClassCastFlags : uint64

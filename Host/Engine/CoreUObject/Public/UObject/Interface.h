@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "HostReflection/RootClass.h"
 #include "UObject/Object.h"
 
 /** Base of the U… halves of interfaces. They are never instantiated; the I… halves are what classes implement. */

@@ -3,10 +3,12 @@
 #pragma once
 
 #include "Containers/UnrealString.h"
+#include "HostReflection/RootClass.h"
 #include "UObject/NameTypes.h"
 #include "UObject/ObjectMacros.h"
 #include "UObject/UObjectGlobals.h"
 
+#include <cstddef>
 #include <type_traits>
 
 class FConfigCacheIni;
@@ -32,6 +34,7 @@ public:
 	UObject();
 	explicit UObject(const FObjectInitializer& ObjectInitializer);
 	virtual ~UObject();
+	static void* operator new(std::size_t) = delete;
 
 	UClass* GetClass() const { return ClassPrivate; }
 	UObject* GetOuter() const { return OuterPrivate; }

@@ -142,25 +142,3 @@ enum EPackageFlags : uint32
 /** A function that unpacks the parameters of a reflected call and makes the native one. */
 #define DECLARE_FUNCTION(func) static void func(UObject* Context, FFrame& Stack, RESULT_DECL)
 #define DEFINE_FUNCTION(func) void func(UObject* Context, FFrame& Stack, RESULT_DECL)
-
-/** Host: the body of the few classes that the object system itself is made of; their records are written by hand. */
-#define HOST_ROOT_CLASS_BODY(TClass, TSuper) \
-public: \
-	using Super = TSuper; \
-	using ThisClass = TClass; \
-	static UClass* StaticClass(); \
-	static const TCHAR* StaticPackage() \
-	{ \
-		return TEXT("/Script/CoreUObject"); \
-	} \
-	static constexpr const char* ReflectedFunctionNames[] = {nullptr}; \
-	TClass(const TClass&) = delete; \
-	TClass& operator=(const TClass&) = delete; \
-	friend struct Z_Statics_##TClass; \
-	friend struct UE::Reflection::FTypeBuilder;
-
-namespace UE::Reflection
-{
-	/** Fills types from their generated records. */
-	struct FTypeBuilder;
-}

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "HostReflection/RootClass.h"
 #include "UObject/Object.h"
 
 /** The outermost object: what is stored as one file, or the types of one native module ("/Script/Module"). */

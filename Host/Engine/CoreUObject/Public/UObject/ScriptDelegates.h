@@ -5,11 +5,11 @@
 
 #include "Containers/Array.h"
 #include "Delegates/DelegateInstancesImpl.h"
+#include "HostReflection/ParameterBlock.h"
+#include "HostReflection/ReflectedHandler.h"
 #include "Misc/AssertionMacros.h"
 #include "UObject/NameTypes.h"
 #include "UObject/ObjectPtr.h"
-#include "UObject/ParameterBlock.h"
-#include "UObject/ReflectedHandler.h"
 #include "UObject/WeakObjectPtr.h"
 
 #include <type_traits>
@@ -231,4 +231,4 @@ private:
 #define RemoveDynamic(UserObject, FuncName) __Internal_RemoveDynamic(UserObject, FuncName, UE::Reflection::HandlerName<decltype(FuncName)>(#FuncName))
 #define IsAlreadyBound(UserObject, FuncName) __Internal_IsAlreadyBound(UserObject, FuncName, UE::Reflection::HandlerName<decltype(FuncName)>(#FuncName))
 
-#include "UObject/ScriptDelegateMacros.h"
+#include "HostReflection/ScriptDelegateMacros.h"

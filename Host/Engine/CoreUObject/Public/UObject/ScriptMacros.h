@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "HostReflection/Records.h"
 #include "Templates/SubclassOf.h"
 #include "UObject/Class.h"
 #include "UObject/Object.h"
@@ -15,9 +16,3 @@
 #include "UObject/SoftObjectPtr.h"
 #include "UObject/Stack.h"
 #include "UObject/WeakObjectPtrTemplates.h"
-
-namespace UE::Reflection
-{
-	template<typename T>
-	UClass* ClassOf();
-}

@@ -3,8 +3,8 @@
 
 #pragma once
 
+#include "HostReflection/Property.h"
 #include "UObject/Class.h"
-#include "UObject/Property.h"
 #include "UObject/PropertyPortFlags.h"
 #include "UObject/ScriptDelegates.h"
 #include "UObject/ScriptInterface.h"
@@ -287,8 +287,8 @@ public:
 	DECLARE_PROPERTY_TEXT()
 };
 
+#include "HostReflection/FieldIterator.h"
+#include "HostReflection/PropertyContainers.h"
+#include "HostReflection/PropertyEvents.h"
 #include "UObject/EnumProperty.h"
-#include "UObject/FieldIterator.h"
-#include "UObject/PropertyContainers.h"
-#include "UObject/PropertyEvents.h"
 #include "UObject/TextProperty.h"

@@ -10,76 +10,73 @@
 
 namespace DetailsRowBuilder
 {
-	namespace
+	/** A row on its way: what stands in it, what lies below it, who made it. */
+	struct FDraft
 	{
-		/** A row on its way: what stands in it, what lies below it, who made it. */
-		struct FDraft
-		{
-			TSharedRef<FDetailWidgetRow> Content = MakeShared<FDetailWidgetRow>();
-			TArray<TSharedRef<SDetailsRow>> Rows;
-			TSharedPtr<IPropertyTypeCustomization> Customization;
-			TSharedPtr<FPropertyNode> Container;
-		};
+		TSharedRef<FDetailWidgetRow> Content = MakeShared<FDetailWidgetRow>();
+		TArray<TSharedRef<SDetailsRow>> Rows;
+		TSharedPtr<IPropertyTypeCustomization> Customization;
+		TSharedPtr<FPropertyNode> Container;
+	};
 
-		void FillByCustomization(const TSharedRef<FPropertyNode>& Node, const TSharedRef<IPropertyHandle>& Handle, FDraft& Draft)
+	void FillByCustomization(const TSharedRef<FPropertyNode>& Node, const TSharedRef<IPropertyHandle>& Handle, FDraft& Draft)
+	{
+		IPropertyTypeCustomizationUtils Utils;
+		FDetailsChildren Children(Node);
+		Draft.Customization->CustomizeHeader(Handle, *Draft.Content, Utils);
+		Draft.Customization->CustomizeChildren(Handle, Children, Utils);
+		Draft.Rows = Children.MakeRows();
+	}
+
+	void FillByDefault(const FDetailsPropertyRow& Wanted, FDraft& Draft)
+	{
+		const TSharedRef<FPropertyNode>& Node = Wanted.Node;
+		// clang-format off
+		(*Draft.Content)
+		.NameContent()
+		[
+			PropertyWidgets::MakeName(Node, Wanted.Name, FText::GetEmpty())
+		]
+		.ValueContent()
+		[
+			PropertyWidgets::MakeValue(Node)
+		]
+		.ExtensionContent()
+		[
+			PropertyWidgets::MakeExtension(Node, EPropertyButtons::Show)
+		];
+		// clang-format on
+		if (Node->GetKind().IsContainer())
 		{
-			IPropertyTypeCustomizationUtils Utils;
-			FDetailsChildren Children(Node);
-			Draft.Customization->CustomizeHeader(Handle, *Draft.Content, Utils);
-			Draft.Customization->CustomizeChildren(Handle, Children, Utils);
-			Draft.Rows = Children.MakeRows();
+			Draft.Container = Node;
 		}
-
-		void FillByDefault(const FDetailsPropertyRow& Wanted, FDraft& Draft)
+		else if (!Node->GetKind().IsShownWhole(*Node->GetProperty()))
 		{
-			const TSharedRef<FPropertyNode>& Node = Wanted.Node;
-			// clang-format off
-			(*Draft.Content)
-			.NameContent()
-			[
-				PropertyWidgets::MakeName(Node, Wanted.Name, FText::GetEmpty())
-			]
-			.ValueContent()
-			[
-				PropertyWidgets::MakeValue(Node)
-			]
-			.ExtensionContent()
-			[
-				PropertyWidgets::MakeExtension(Node, EPropertyButtons::Show)
-			];
-			// clang-format on
-			if (Node->GetKind().IsContainer())
+			for (const TSharedRef<FPropertyNode>& Child : Node->GetChildren())
 			{
-				Draft.Container = Node;
-			}
-			else if (!Node->GetKind().IsShownWhole(*Node->GetProperty()))
-			{
-				for (const TSharedRef<FPropertyNode>& Child : Node->GetChildren())
-				{
-					Draft.Rows.Append(MakeRows(Child));
-				}
+				Draft.Rows.Append(MakeRows(Child));
 			}
 		}
+	}
 
-		TSharedRef<SDetailsRow> MakeRow(const FDetailsPropertyRow& Wanted, const FDraft& Draft)
+	TSharedRef<SDetailsRow> MakeRow(const FDetailsPropertyRow& Wanted, const FDraft& Draft)
+	{
+		const TSharedRef<FPropertyNode>& Node = Wanted.Node;
+		// clang-format off
+		const TSharedRef<SDetailsRow> Row =
+			SNew(SDetailsRow, *Draft.Content)
+			.Tag(FName(*Node->GetPath().Left(NAME_SIZE - 1)))
+			.Visibility(Wanted.VisibilityAttribute)
+			.IsEnabled(Wanted.EnabledAttribute)
+			.SearchWords(Node->GetPlace().GetName() + TEXT(" ") + Node->GetPlace().GetDisplayName().ToString())
+			.Customization(Draft.Customization)
+			.Container(Draft.Container);
+		// clang-format on
+		for (const TSharedRef<SDetailsRow>& Each : Draft.Rows)
 		{
-			const TSharedRef<FPropertyNode>& Node = Wanted.Node;
-			// clang-format off
-			const TSharedRef<SDetailsRow> Row =
-				SNew(SDetailsRow, *Draft.Content)
-				.Tag(FName(*Node->GetPath().Left(NAME_SIZE - 1)))
-				.Visibility(Wanted.VisibilityAttribute)
-				.IsEnabled(Wanted.EnabledAttribute)
-				.SearchWords(Node->GetPlace().GetName() + TEXT(" ") + Node->GetPlace().GetDisplayName().ToString())
-				.Customization(Draft.Customization)
-				.Container(Draft.Container);
-			// clang-format on
-			for (const TSharedRef<SDetailsRow>& Each : Draft.Rows)
-			{
-				Row->AddRow(Each);
-			}
-			return Row;
+			Row->AddRow(Each);
 		}
+		return Row;
 	}
 
 	TArray<TSharedRef<SDetailsRow>> MakeRows(const TSharedRef<FPropertyNode>& Node, ECustomizeType Customize)

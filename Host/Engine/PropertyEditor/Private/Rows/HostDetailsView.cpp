@@ -66,6 +66,11 @@ TArray<FString> FHostDetailsView::GetRowTitles()
 	return Categories->GetRowTitles();
 }
 
+const TArray<TSharedRef<SDetailsRow>>& FHostDetailsView::GetCategories() const
+{
+	return Categories->GetAll();
+}
+
 TSharedPtr<IPropertyHandle> FHostDetailsView::FindHandle(const FString& Path) const
 {
 	return FPropertyHandle::Make(PropertyPath::Find(Root, Path));

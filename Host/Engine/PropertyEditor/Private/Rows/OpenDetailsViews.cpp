@@ -7,7 +7,7 @@
 namespace OpenDetailsViews
 {
 	/** A plain list: each view enters and leaves it by itself, so there is nothing to reset with an editor. */
-	static TArray<FHostDetailsView*>& GetAll()
+	TArray<FHostDetailsView*>& GetAll()
 	{
 		static TArray<FHostDetailsView*> Views;
 		return Views;

@@ -18,7 +18,7 @@ namespace DetailsRow
 		Last,
 	};
 
-	static bool Takes(const FString& Role, EHostInput Kind, EEagerness Eagerness)
+	bool Takes(const FString& Role, EHostInput Kind, EEagerness Eagerness)
 	{
 		if (Eagerness == EEagerness::Last)
 		{
@@ -35,7 +35,7 @@ namespace DetailsRow
 	}
 
 	/** The first widget below that takes the input; null when none that can be reached does. */
-	static TSharedPtr<SWidget> FindTaker(const TSharedRef<SWidget>& Widget, EHostInput Kind, EEagerness Eagerness)
+	TSharedPtr<SWidget> FindTaker(const TSharedRef<SWidget>& Widget, EHostInput Kind, EEagerness Eagerness)
 	{
 		const FHostWidgetDescription Description = FHostWidgetAccess::Describe(*Widget);
 		if (!Description.bVisible)
@@ -57,7 +57,7 @@ namespace DetailsRow
 	}
 
 	/** Whether all that shows are texts. */
-	static bool IsOnlyText(const TSharedRef<SWidget>& Widget)
+	bool IsOnlyText(const TSharedRef<SWidget>& Widget)
 	{
 		const FHostWidgetDescription Description = FHostWidgetAccess::Describe(*Widget);
 		if (!Description.bTransparent)

@@ -41,6 +41,10 @@ public:
 	void KeepCustomization(const TSharedRef<IPropertyTypeCustomization>& InCustomization) { Customizations.Add(InCustomization); }
 
 	bool IsHeading() const { return !Heading.IsEmpty(); }
+	/** Both columns; the name is SNullWidget::NullWidget where one widget stands over both. */
+	const TSharedRef<SWidget>& GetNameWidget() const { return NameWidget; }
+	const TSharedRef<SWidget>& GetValueWidget() const { return ValueWidget; }
+
 	/** The name column as text, or the heading. */
 	FString GetTitle() const;
 

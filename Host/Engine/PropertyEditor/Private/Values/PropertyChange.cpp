@@ -11,7 +11,7 @@
 namespace PropertyChange
 {
 	/** The listeners of the property, then those of what lies below it: those values are new, too. */
-	static void TellBelow(const TSharedRef<FPropertyNode>& Node)
+	void TellBelow(const TSharedRef<FPropertyNode>& Node)
 	{
 		Node->OnValueChanged.Broadcast();
 		const TArray<TSharedRef<FPropertyNode>> Below = Node->GetChildren(); // a copy: listeners may change the value again

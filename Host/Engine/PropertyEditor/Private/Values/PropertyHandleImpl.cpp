@@ -60,7 +60,7 @@ namespace PropertyHandle
 #undef FITS_STRUCT
 
 	template<typename T>
-	static FPropertyAccess::Result Read(const FPropertyNode& Node, T& OutValue)
+	FPropertyAccess::Result Read(const FPropertyNode& Node, T& OutValue)
 	{
 		TArray<void*> Values;
 		const FPropertyAccess::Result Result = PropertyValue::FindOne(Node, Values);
@@ -76,7 +76,7 @@ namespace PropertyHandle
 	}
 
 	template<typename T>
-	static FPropertyAccess::Result Write(FPropertyNode& Node, const T& Value, EPropertyValueSetFlags::Type Flags)
+	FPropertyAccess::Result Write(FPropertyNode& Node, const T& Value, EPropertyValueSetFlags::Type Flags)
 	{
 		FPropertyChange Change(Node);
 		if (Change.Num() == 0 || !TFits<T>::Test(Node.GetKind().GetStorage(*Node.GetProperty())))

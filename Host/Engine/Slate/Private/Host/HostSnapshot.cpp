@@ -7,13 +7,13 @@ namespace HostSnapshotText
 	static const TCHAR* const Bullets = TEXT("\u2022\u2022\u2022\u2022\u2022\u2022");
 
 	/** What the value of a widget reads as; a secret shows that it is there, not how long it is. */
-	static FString ReadableValue(const FHostWidgetDescription& Description)
+	FString ReadableValue(const FHostWidgetDescription& Description)
 	{
 		const FString Value = Description.Value.Get(FString());
 		return Description.bPassword && !Value.IsEmpty() ? FString(Bullets) : Value;
 	}
 
-	static FString Escape(const FString& Text)
+	FString Escape(const FString& Text)
 	{
 		FString Result;
 		for (const TCHAR Character : Text)
@@ -31,7 +31,7 @@ namespace HostSnapshotText
 		return Result;
 	}
 
-	static const TCHAR* GetCheckWord(ECheckBoxState State)
+	const TCHAR* GetCheckWord(ECheckBoxState State)
 	{
 		switch (State)
 		{
@@ -41,7 +41,7 @@ namespace HostSnapshotText
 		}
 	}
 
-	static TArray<FString> FactsOf(const FHostWidgetDescription& Description)
+	TArray<FString> FactsOf(const FHostWidgetDescription& Description)
 	{
 		TArray<FString> Facts;
 		if (!Description.bVisible)
@@ -80,7 +80,7 @@ namespace HostSnapshotText
 		return Facts;
 	}
 
-	static FString LineOf(const FHostWidgetDescription& Description)
+	FString LineOf(const FHostWidgetDescription& Description)
 	{
 		FString Line = Description.Role;
 		if (!Description.Name.IsNone())
@@ -103,7 +103,7 @@ namespace HostSnapshotText
 		return Line;
 	}
 
-	static void Append(SWidget& Widget, int32 Depth, FString& InOutText)
+	void Append(SWidget& Widget, int32 Depth, FString& InOutText)
 	{
 		const FHostWidgetDescription Description = FHostWidgetAccess::Describe(Widget);
 		if (!Description.bTransparent)
@@ -135,7 +135,7 @@ namespace HostSnapshotFind
 		bool bPartOfOther = false; // inside a sealed widget: only its name can mean it
 	};
 
-	static void Collect(const TSharedRef<SWidget>& Widget, const FSeen* Parent, TArray<FSeen>& OutSeen)
+	void Collect(const TSharedRef<SWidget>& Widget, const FSeen* Parent, TArray<FSeen>& OutSeen)
 	{
 		FSeen Seen{Widget, FHostWidgetAccess::Describe(*Widget)};
 		if (Parent)
@@ -152,7 +152,7 @@ namespace HostSnapshotFind
 	}
 
 	/** 0: not meant; the higher, the better the text fits. */
-	static int32 Fit(const FSeen& Seen, const FString& Text)
+	int32 Fit(const FSeen& Seen, const FString& Text)
 	{
 		const FHostWidgetDescription& Description = Seen.Description;
 		if (!Description.Name.IsNone() && Description.Name.ToString().Equals(Text, ESearchCase::IgnoreCase))
@@ -179,7 +179,7 @@ namespace HostSnapshotFind
 		return Description.ToolTip.Equals(Text) && !Text.IsEmpty() ? 1 : 0;
 	}
 
-	static TOptional<FSeen> FindOne(const TArray<FSeen>& All, const FString& Text, FString& OutReason)
+	TOptional<FSeen> FindOne(const TArray<FSeen>& All, const FString& Text, FString& OutReason)
 	{
 		const FSeen* Best = nullptr;
 		int32 BestFit = 0;
@@ -208,7 +208,7 @@ namespace HostSnapshotFind
 		return {};
 	}
 
-	static TOptional<FSeen> FindSeen(const TSharedRef<SWidget>& Root, const FString& Text, FString& OutReason)
+	TOptional<FSeen> FindSeen(const TSharedRef<SWidget>& Root, const FString& Text, FString& OutReason)
 	{
 		TArray<FSeen> All;
 		Collect(Root, nullptr, All);
@@ -238,7 +238,7 @@ namespace HostSnapshotFind
 		return Found;
 	}
 
-	static FHostInputResult GiveIfReachable(const FSeen& Seen, const FHostInput& Input)
+	FHostInputResult GiveIfReachable(const FSeen& Seen, const FHostInput& Input)
 	{
 		if (!Seen.Description.bVisible)
 		{
@@ -247,7 +247,7 @@ namespace HostSnapshotFind
 		return Seen.Description.bEnabled ? FHostWidgetAccess::Give(Seen.Widget, Input) : FHostInputResult::Refused(TEXT("is disabled"));
 	}
 
-	static FHostInputResult Give(const TSharedRef<SWidget>& Root, const FString& Widget, const FHostInput& Input)
+	FHostInputResult Give(const TSharedRef<SWidget>& Root, const FString& Widget, const FHostInput& Input)
 	{
 		FString Reason;
 		const TOptional<FSeen> Seen = FindSeen(Root, Widget, Reason);

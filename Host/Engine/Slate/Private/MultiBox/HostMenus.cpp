@@ -6,10 +6,12 @@
 #include "HostWidget.h"
 #include "Styling/StyleDefaults.h"
 #include "Widgets/Input/SComboButton.h"
+#include "Widgets/SNullWidget.h"
+#include "Widgets/Text/STextBlock.h"
 
 namespace HostMenus
 {
-	static TArray<TWeakPtr<SComboButton>>& GetOpened()
+	TArray<TWeakPtr<SComboButton>>& GetOpened()
 	{
 		static THostState<TArray<TWeakPtr<SComboButton>>> State;
 		return State.Get();
@@ -62,9 +64,36 @@ void SHostMenu::DescribeToHost(FHostWidgetDescription& OutDescription) const
 	OutDescription.Role = Role;
 }
 
+/** The text of a section's heading; the section itself says it. */
+class SHostMenuHeading : public SCompoundWidget
+{
+public:
+	SLATE_BEGIN_ARGS(SHostMenuHeading)
+		{
+		}
+		SLATE_ATTRIBUTE(FText, Text)
+	SLATE_END_ARGS()
+
+	void Construct(const FArguments& InArgs)
+	{
+		ChildSlot[SNew(STextBlock).Text(InArgs._Text)];
+	}
+
+protected:
+	virtual void DescribeToHost(FHostWidgetDescription& OutDescription) const override
+	{
+		OutDescription.bTransparent = true;
+		OutDescription.bSealed = true;
+	}
+};
+
 void SHostMenuSection::Construct(const FArguments& InArgs)
 {
 	Heading = InArgs._Heading;
+	if (Heading.IsSet())
+	{
+		AddPart(SNew(SHostMenuHeading).Text(Heading));
+	}
 }
 
 void SHostMenuSection::DescribeToHost(FHostWidgetDescription& OutDescription) const
@@ -84,7 +113,8 @@ void SHostMenuEntry::Construct(const FArguments& InArgs)
 	CheckState = InArgs._CheckState;
 	bClosesMenus = InArgs._ClosesMenus;
 	OnChosen = InArgs._OnChosen;
-	ChildSlot[InArgs._Content.Widget];
+	const bool bOwnContent = InArgs._Content.Widget != SNullWidget::NullWidget;
+	ChildSlot[bOwnContent ? InArgs._Content.Widget : SNew(STextBlock).Text(Label)];
 }
 
 bool SHostMenuEntry::HasState() const

@@ -13,7 +13,7 @@ namespace NotificationItem
 {
 	using EState = SNotificationItem::ECompletionState;
 
-	static EVisibility VisibilityIn(const FNotificationButtonInfo& Info, EState State)
+	EVisibility VisibilityIn(const FNotificationButtonInfo& Info, EState State)
 	{
 		switch (State)
 		{
@@ -24,7 +24,7 @@ namespace NotificationItem
 		}
 	}
 
-	static FHostNotificationButton DescribeButton(const FNotificationButtonInfo& Info)
+	FHostNotificationButton DescribeButton(const FNotificationButtonInfo& Info)
 	{
 		FHostNotificationButton Button;
 		Button.Label = Info.Text.Get(FText::GetEmpty());
@@ -42,7 +42,7 @@ namespace NotificationItem
 		return Button;
 	}
 
-	static void FillRecord(const FNotificationInfo& Info, FHostNotification& OutRecord)
+	void FillRecord(const FNotificationInfo& Info, FHostNotification& OutRecord)
 	{
 		OutRecord.Text = Info.Text.Get(FText::GetEmpty());
 		OutRecord.SubText = Info.SubText.Get(FText::GetEmpty());

@@ -14,21 +14,20 @@ namespace NotificationManager
 	/** The notifications of one editor. */
 	struct FState
 	{
-		FSlateNotificationManager Manager;
 		TArray<TSharedRef<FHostNotification>> History;
 		TArray<TSharedRef<SNotificationItemWidget>> Standing; // oldest first
 		TArray<TUniquePtr<FNotificationInfo>> Queued;
 		bool bTicking = false;
 	};
 
-	static FState& GetState()
+	FState& GetState()
 	{
 		static THostState<FState> State;
 		return State.Get();
 	}
 
 	/** Items whose time is over are dropped; whoever still holds one can go on calling it. */
-	static void UpdateStanding()
+	void UpdateStanding()
 	{
 		FState& State = GetState();
 		for (const TSharedRef<SNotificationItemWidget>& Item : State.Standing)
@@ -38,21 +37,21 @@ namespace NotificationManager
 		State.Standing.RemoveAll([](const TSharedRef<SNotificationItemWidget>& Item) { return Item->GetRecord()->IsGone(); });
 	}
 
-	static bool Tick(float)
+	bool Tick(float)
 	{
 		FState& State = GetState();
 		TArray<TUniquePtr<FNotificationInfo>> Queued = MoveTemp(State.Queued);
 		State.Queued.Empty();
 		for (const TUniquePtr<FNotificationInfo>& Info : Queued)
 		{
-			State.Manager.AddNotification(*Info);
+			FSlateNotificationManager::Get().AddNotification(*Info);
 		}
 		UpdateStanding();
 		State.bTicking = State.Standing.Num() > 0 || State.Queued.Num() > 0;
 		return State.bTicking;
 	}
 
-	static void EnsureTicking()
+	void EnsureTicking()
 	{
 		FState& State = GetState();
 		if (!State.bTicking)
@@ -62,7 +61,7 @@ namespace NotificationManager
 		}
 	}
 
-	static TSharedPtr<SNotificationItemWidget> FindStanding(const FHostNotification& Notification)
+	TSharedPtr<SNotificationItemWidget> FindStanding(const FHostNotification& Notification)
 	{
 		UpdateStanding();
 		for (const TSharedRef<SNotificationItemWidget>& Item : GetState().Standing)
@@ -78,7 +77,8 @@ namespace NotificationManager
 
 FSlateNotificationManager& FSlateNotificationManager::Get()
 {
-	return NotificationManager::GetState().Manager;
+	static THostState<FSlateNotificationManager> Manager;
+	return Manager.Get();
 }
 
 TSharedPtr<SNotificationItem> FSlateNotificationManager::AddNotification(const FNotificationInfo& Info)

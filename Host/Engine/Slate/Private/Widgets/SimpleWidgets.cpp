@@ -9,7 +9,7 @@
 namespace SlateText
 {
 	/** A face that is not the plain one, with its size; a colour that is not the plain white. */
-	static EHorizontalAlignment AlignmentOf(ETextJustify::Type Justification)
+	EHorizontalAlignment AlignmentOf(ETextJustify::Type Justification)
 	{
 		switch (Justification)
 		{
@@ -19,12 +19,12 @@ namespace SlateText
 		}
 	}
 
-	static TOptional<float> SizeIf(const FOptionalSize& Size)
+	TOptional<float> SizeIf(const FOptionalSize& Size)
 	{
 		return Size.IsSet() ? TOptional<float>(Size.Get()) : TOptional<float>();
 	}
 
-	static void NoteLook(const FSlateFontInfo& Font, const FSlateColor& Color, TArray<FString>& OutNotes)
+	void NoteLook(const FSlateFontInfo& Font, const FSlateColor& Color, TArray<FString>& OutNotes)
 	{
 		if (!Font.TypefaceFontName.IsNone() && Font.TypefaceFontName != FName(TEXT("Regular")))
 		{

@@ -5,19 +5,19 @@
 namespace SlateStyle
 {
 	/** "Key" and ".Specifier" make one key. */
-	static FName Join(const FName PropertyName, const ANSICHAR* Specifier)
+	FName Join(const FName PropertyName, const ANSICHAR* Specifier)
 	{
 		return Specifier ? FName(*(PropertyName.ToString() + FString(Specifier))) : PropertyName;
 	}
 
 	template<typename ValueType>
-	static const ValueType* Find(const TMap<FName, ValueType>& Values, const FName PropertyName, const ANSICHAR* Specifier)
+	const ValueType* Find(const TMap<FName, ValueType>& Values, const FName PropertyName, const ANSICHAR* Specifier)
 	{
 		return Values.Find(Join(PropertyName, Specifier));
 	}
 
 	/** Slate's join: one '/' unless the root ends in a separator or the path begins with one; an empty root adds none. */
-	static FString JoinPath(const FString& Root, const FString& RelativePath)
+	FString JoinPath(const FString& Root, const FString& RelativePath)
 	{
 		if (Root.IsEmpty() || Root.EndsWith(TEXT("/")) || RelativePath.StartsWith(TEXT("/")))
 		{

@@ -13,13 +13,13 @@ namespace SlateStyleRegistry
 		TArray<const ISlateStyle*> Styles; // in order of registration
 	};
 
-	static FRegistry& Get()
+	FRegistry& Get()
 	{
 		static THostState<FRegistry> State;
 		return State.Get();
 	}
 
-	static int32 IndexOf(const FName& StyleName)
+	int32 IndexOf(const FName& StyleName)
 	{
 		return Get().Styles.IndexOfByPredicate([&StyleName](const ISlateStyle* Style) { return Style->GetStyleSetName() == StyleName; });
 	}

@@ -7,34 +7,31 @@
 
 namespace HostSecrets
 {
-	namespace
+	constexpr int32 MinLengthWithinWords = 4;
+	const TCHAR* const Bullets = TEXT("\u2022\u2022\u2022\u2022\u2022\u2022\u2022\u2022");
+
+	TArray<FString> Secrets; // longest first: one may be part of another
+
+	bool IsInWord(const FString& Text, int32 Index)
 	{
-		constexpr int32 MinLengthWithinWords = 4;
-		const TCHAR* const Bullets = TEXT("\u2022\u2022\u2022\u2022\u2022\u2022\u2022\u2022");
+		return Text.IsValidIndex(Index) && (FChar::IsAlnum(Text[Index]) || Text[Index] == TEXT('_'));
+	}
 
-		TArray<FString> Secrets; // longest first: one may be part of another
-
-		bool IsInWord(const FString& Text, int32 Index)
+	FString HideOne(const FString& Text, const FString& Secret)
+	{
+		FString Result;
+		int32 Begin = 0;
+		int32 Found = Text.Find(Secret, ESearchCase::CaseSensitive);
+		while (Found != INDEX_NONE)
 		{
-			return Text.IsValidIndex(Index) && (FChar::IsAlnum(Text[Index]) || Text[Index] == TEXT('_'));
+			const int32 End = Found + Secret.Len();
+			const bool bAlone = !IsInWord(Text, Found - 1) && !IsInWord(Text, End);
+			const bool bHidden = bAlone || Secret.Len() >= MinLengthWithinWords;
+			Result += Text.Mid(Begin, Found - Begin) + (bHidden ? FString(Bullets) : Secret);
+			Begin = End;
+			Found = Text.Find(Secret, ESearchCase::CaseSensitive, ESearchDir::FromStart, Begin);
 		}
-
-		FString HideOne(const FString& Text, const FString& Secret)
-		{
-			FString Result;
-			int32 Begin = 0;
-			int32 Found = Text.Find(Secret, ESearchCase::CaseSensitive);
-			while (Found != INDEX_NONE)
-			{
-				const int32 End = Found + Secret.Len();
-				const bool bAlone = !IsInWord(Text, Found - 1) && !IsInWord(Text, End);
-				const bool bHidden = bAlone || Secret.Len() >= MinLengthWithinWords;
-				Result += Text.Mid(Begin, Found - Begin) + (bHidden ? FString(Bullets) : Secret);
-				Begin = End;
-				Found = Text.Find(Secret, ESearchCase::CaseSensitive, ESearchDir::FromStart, Begin);
-			}
-			return Result + Text.RightChop(Begin);
-		}
+		return Result + Text.RightChop(Begin);
 	}
 
 	void Note(const FString& Secret)

@@ -8,7 +8,7 @@
 namespace SlateBoxPanel
 {
 	template<typename SlotArgumentsType, typename SlotType>
-	static void AddAll(const TArray<SlotArgumentsType>& Slots, TPanelChildren<SlotType>& Children)
+	void AddAll(const TArray<SlotArgumentsType>& Slots, TPanelChildren<SlotType>& Children)
 	{
 		for (const SlotArgumentsType& Slot : Slots)
 		{

@@ -25,7 +25,7 @@ namespace SlateWidget
 	};
 
 	/** Visits the texts that show in a widget and below it, in order, until the visitor returns false. @return whether it never did */
-	static bool VisitTexts(SWidget& Widget, TFunctionRef<bool(const FString&)> Visit, TFunctionRef<bool(const FHostWidgetDescription&)> IsPassedOver)
+	bool VisitTexts(SWidget& Widget, TFunctionRef<bool(const FString&)> Visit, TFunctionRef<bool(const FHostWidgetDescription&)> IsPassedOver)
 	{
 		const FHostWidgetDescription Description = FHostWidgetAccess::Describe(Widget);
 		if (!Description.bVisible || Description.bPassword || Description.Role == TEXT("swatch")) // a colour is no text

@@ -172,7 +172,7 @@ UWidget* UWidgetTree::ConstructWidgetOfClass(UClass* WidgetClass, FName WidgetNa
 
 namespace UMGWidgetTree
 {
-	static void Visit(UWidget* Widget, TFunctionRef<void(UWidget*)> Predicate)
+	void Visit(UWidget* Widget, TFunctionRef<void(UWidget*)> Predicate)
 	{
 		if (!Widget)
 		{

@@ -25,7 +25,7 @@ namespace UMGBoxes
 
 	/** The Slate box of a panel that is shown gets the panel's children anew. A slot that says nothing is as high or wide as its child. */
 	template<typename BoxType>
-	static void FillBox(BoxType& Box, const UPanelWidget& Panel)
+	void FillBox(BoxType& Box, const UPanelWidget& Panel)
 	{
 		using FSlateSlot = typename BoxType::FSlot;
 		using FBoxSlot = std::conditional_t<std::is_same_v<BoxType, SHorizontalBox>, UHorizontalBoxSlot, UVerticalBoxSlot>;
@@ -43,7 +43,7 @@ namespace UMGBoxes
 	}
 
 	template<typename BoxType>
-	static TSharedRef<SWidget> MakeBox(const UPanelWidget& Panel)
+	TSharedRef<SWidget> MakeBox(const UPanelWidget& Panel)
 	{
 		const TSharedRef<BoxType> Box = SNew(BoxType);
 		FillBox(*Box, Panel);
@@ -51,7 +51,7 @@ namespace UMGBoxes
 	}
 
 	template<typename BoxType>
-	static void Refresh(const TWeakPtr<SWidget>& Widget, const UPanelWidget& Panel)
+	void Refresh(const TWeakPtr<SWidget>& Widget, const UPanelWidget& Panel)
 	{
 		if (const TSharedPtr<SWidget> Box = Widget.Pin())
 		{
@@ -59,7 +59,7 @@ namespace UMGBoxes
 		}
 	}
 
-	static FOptionalSize SizeIf(bool bSet, float Value)
+	FOptionalSize SizeIf(bool bSet, float Value)
 	{
 		return bSet ? FOptionalSize(Value) : FOptionalSize();
 	}

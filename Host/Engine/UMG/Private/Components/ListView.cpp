@@ -12,7 +12,7 @@
 namespace UMGListView
 {
 	/** What an item reads as when nobody said how to show it. */
-	static FText ReadableName(const UObject& Item)
+	FText ReadableName(const UObject& Item)
 	{
 		const FProperty* Property = Item.GetClass()->FindPropertyByName(FName(TEXT("DisplayName")));
 		if (const FStrProperty* String = CastField<FStrProperty>(Property))

@@ -14,7 +14,7 @@
 
 namespace WidgetLayoutClass
 {
-	static UClass* FindByPath(const FString& Path, FString& OutReason)
+	UClass* FindByPath(const FString& Path, FString& OutReason)
 	{
 		if (Path.StartsWith(TEXT("/Script/")))
 		{
@@ -37,7 +37,7 @@ namespace WidgetLayoutClass
 		return Blueprint->GeneratedClass;
 	}
 
-	static void SetUp(UWidget& Widget, const FLayoutWidget& Recipe, const FLayoutScope& Scope)
+	void SetUp(UWidget& Widget, const FLayoutWidget& Recipe, const FLayoutScope& Scope)
 	{
 		for (const FLayoutAssignment& Assignment : Recipe.Properties)
 		{
@@ -50,7 +50,7 @@ namespace WidgetLayoutClass
 	}
 
 	/** A widget with all below it; properties wait until every name can be found. */
-	static UWidget* Make(const FLayoutWidget& Recipe, UWidgetTree& Tree)
+	UWidget* Make(const FLayoutWidget& Recipe, UWidgetTree& Tree)
 	{
 		UWidget* Widget = Tree.ConstructWidget<UWidget>(Recipe.Class, Recipe.Name);
 		Widget->bIsVariable = !Recipe.Name.IsNone();
@@ -64,7 +64,7 @@ namespace WidgetLayoutClass
 		return Widget;
 	}
 
-	static void SetUpAll(UWidget& Widget, const FLayoutWidget& Recipe, const FLayoutScope& Scope)
+	void SetUpAll(UWidget& Widget, const FLayoutWidget& Recipe, const FLayoutScope& Scope)
 	{
 		SetUp(Widget, Recipe, Scope);
 		for (int32 Index = 0; Index < Recipe.Children.Num(); ++Index)
@@ -73,7 +73,7 @@ namespace WidgetLayoutClass
 		}
 	}
 
-	static void BindMembers(UUserWidget& Panel)
+	void BindMembers(UUserWidget& Panel)
 	{
 		for (TFieldIterator<FObjectProperty> It(Panel.GetClass()); It; ++It)
 		{
@@ -88,7 +88,7 @@ namespace WidgetLayoutClass
 	}
 
 	/** Has the panel listen, or no longer listen, to one of its widgets or objects. */
-	static void Listen(UUserWidget& Panel, const FLayoutCall& Call, bool bListen)
+	void Listen(UUserWidget& Panel, const FLayoutCall& Call, bool bListen)
 	{
 		UObject* Source = FLayoutScope{&Panel}.FindTarget(Call.Source);
 		const FMulticastDelegateProperty* Event = Source ? FindFProperty<FMulticastDelegateProperty>(Source->GetClass(), Call.Event) : nullptr;
@@ -109,7 +109,7 @@ namespace WidgetLayoutClass
 	}
 
 	/** Widgets live with their panel; objects go on without it, and are listened to only while it shows. */
-	static void ListenToAll(UUserWidget& Panel, const FWidgetLayout& Layout, bool bToObjects, bool bListen)
+	void ListenToAll(UUserWidget& Panel, const FWidgetLayout& Layout, bool bToObjects, bool bListen)
 	{
 		for (const FLayoutCall& Call : Layout.Calls)
 		{
@@ -120,7 +120,7 @@ namespace WidgetLayoutClass
 		}
 	}
 
-	static const UClass* FindIn(const FLayoutWidget& Widget, FName Name)
+	const UClass* FindIn(const FLayoutWidget& Widget, FName Name)
 	{
 		if (Widget.Name == Name)
 		{
@@ -137,7 +137,7 @@ namespace WidgetLayoutClass
 	}
 
 	/** The class of the panel (None), of a widget, or of an object. */
-	static const UClass* FindSourceClass(const FWidgetLayout& Layout, FName Source)
+	const UClass* FindSourceClass(const FWidgetLayout& Layout, FName Source)
 	{
 		if (Source.IsNone())
 		{
@@ -148,7 +148,7 @@ namespace WidgetLayoutClass
 	}
 
 	/** A script that does the actions on whichever panel the event was raised. */
-	static UFunction::FScriptBody ScriptOf(const TSharedRef<const FWidgetLayout>& Layout, const TArray<FLayoutAction>& Actions)
+	UFunction::FScriptBody ScriptOf(const TSharedRef<const FWidgetLayout>& Layout, const TArray<FLayoutAction>& Actions)
 	{
 		return [Layout, &Actions](UObject* Context, FFrame& Stack, void*) // Actions is part of Layout
 		{

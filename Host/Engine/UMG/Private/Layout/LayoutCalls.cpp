@@ -6,7 +6,7 @@
 
 namespace LayoutCalls
 {
-	static void PassOn(const UFunction& From, const uint8* Locals, UFunction& To, FLayoutParameterBlock& OutBlock)
+	void PassOn(const UFunction& From, const uint8* Locals, UFunction& To, FLayoutParameterBlock& OutBlock)
 	{
 		const TArray<const FProperty*> Given = LayoutTypes::ParametersOf(From);
 		const TArray<const FProperty*> Wanted = LayoutTypes::ParametersOf(To);

@@ -19,7 +19,7 @@ namespace LayoutValues
 
 	/** With the digits that tell the number from its neighbours, and no more. */
 	template<typename NumberType>
-	static FString ToShortText(NumberType Number)
+	FString ToShortText(NumberType Number)
 	{
 		char Digits[512]; // enough for any number without exponent
 		const std::to_chars_result End = std::to_chars(Digits, Digits + sizeof(Digits) - 1, Number, std::chars_format::fixed);
@@ -55,7 +55,7 @@ namespace LayoutValues
 		return Result;
 	}
 
-	static bool SetEnum(const UEnum& Enum, const FNumericProperty& Number, void* Dest, const FString& Text, FString& OutReason)
+	bool SetEnum(const UEnum& Enum, const FNumericProperty& Number, void* Dest, const FString& Text, FString& OutReason)
 	{
 		const int64 Value = Enum.GetValueByNameString(Text);
 		if (Enum.GetIndexByNameString(Text) == INDEX_NONE)
@@ -72,7 +72,7 @@ namespace LayoutValues
 		return true;
 	}
 
-	static bool IsNumber(const FString& Text, bool bWhole)
+	bool IsNumber(const FString& Text, bool bWhole)
 	{
 		int32 NumDigits = 0;
 		int32 NumPoints = 0;
@@ -91,7 +91,7 @@ namespace LayoutValues
 	}
 
 	/** Whether the property has this number, which is one. */
-	static bool IsInRange(const FNumericProperty& Property, const FString& Text)
+	bool IsInRange(const FNumericProperty& Property, const FString& Text)
 	{
 		const double Number = FCString::Atod(*Text);
 		if (Property.IsFloatingPoint())
@@ -103,7 +103,7 @@ namespace LayoutValues
 		return Number < End && Number >= (bUnsigned ? 0.0 : -End);
 	}
 
-	static bool SetObject(const FObjectPropertyBase& Property, void* Dest, const FString& Text, FWidgetFinder FindWidget, FString& OutReason)
+	bool SetObject(const FObjectPropertyBase& Property, void* Dest, const FString& Text, FWidgetFinder FindWidget, FString& OutReason)
 	{
 		UObject* Object = nullptr;
 		const bool bNull = Text.IsEmpty() || Text == TEXT("None");
@@ -200,7 +200,7 @@ namespace LayoutValues
 	}
 
 	/** A constant is tried out on a value that nobody uses. */
-	static bool CheckConstant(const FString& Text, const FLayoutTypes& Types, const FProperty& Property, FString& OutReason)
+	bool CheckConstant(const FString& Text, const FLayoutTypes& Types, const FProperty& Property, FString& OutReason)
 	{
 		TArray<uint8> Scratch;
 		Scratch.SetNum(Property.GetElementSize() + static_cast<int32>(alignof(std::max_align_t)));
@@ -217,7 +217,7 @@ namespace LayoutValues
 		return bFits;
 	}
 
-	static bool CheckPieces(const FLayoutValue& Value, const FLayoutTypes& Types, FString& OutReason)
+	bool CheckPieces(const FLayoutValue& Value, const FLayoutTypes& Types, FString& OutReason)
 	{
 		for (const FLayoutPiece& Piece : Value.Pieces)
 		{

@@ -9,7 +9,7 @@
 namespace LayoutFunctions
 {
 	/** From one text to a widget, as the generator of a combo box. */
-	static bool MakesWidgetOfText(const UFunction& Function)
+	bool MakesWidgetOfText(const UFunction& Function)
 	{
 		const FObjectProperty* Result = CastField<FObjectProperty>(Function.GetReturnProperty());
 		const TArray<const FProperty*> Parameters = LayoutTypes::ParametersOf(Function);

@@ -13,12 +13,12 @@ namespace LayoutReader
 {
 	using FJson = FLayoutReader::FJson;
 
-	static FString ToString(const std::string& Utf8)
+	FString ToString(const std::string& Utf8)
 	{
 		return FString(UTF8_TO_TCHAR(Utf8.c_str()));
 	}
 
-	static const FJson* Find(const FJson& Object, const char* Key)
+	const FJson* Find(const FJson& Object, const char* Key)
 	{
 		const auto Found = Object.find(Key);
 		return Found != Object.end() ? &*Found : nullptr;
@@ -27,14 +27,14 @@ namespace LayoutReader
 	static constexpr int32 MaxShownPointer = 120; // characters; its last part is the name that is too long
 
 	/** Members whose texts are names, or paths made of names. */
-	static bool IsWhereNamesStand(const FString& Key)
+	bool IsWhereNamesStand(const FString& Key)
 	{
 		static const TSet<FString> Keys = {TEXT("Class"), TEXT("ParentClass"), TEXT("Name"), TEXT("Set"), TEXT("Call"), TEXT("ResultOf"), TEXT("Member")};
 		return Keys.Contains(Key);
 	}
 
 	/** "Widget.Event" or "Event" of the panel, which is None. */
-	static void SplitTarget(const FString& Text, FName& OutWidget, FName& OutMember)
+	void SplitTarget(const FString& Text, FName& OutWidget, FName& OutMember)
 	{
 		FString Widget;
 		FString Member;

@@ -9,13 +9,13 @@ namespace LayoutReaderWidgets
 {
 	using FJson = FLayoutReader::FJson;
 
-	static const FJson* Find(const FJson& Object, const char* Key)
+	const FJson* Find(const FJson& Object, const char* Key)
 	{
 		const auto Found = Object.find(Key);
 		return Found != Object.end() ? &*Found : nullptr;
 	}
 
-	static bool IsBound(const FProperty& Property, bool& bOutOptional)
+	bool IsBound(const FProperty& Property, bool& bOutOptional)
 	{
 		bOutOptional = Property.HasMetaData(TEXT("BindWidgetOptional")) || Property.GetBoolMetaData(FName(TEXT("OptionalWidget")));
 		return bOutOptional || Property.HasMetaData(TEXT("BindWidget"));

@@ -51,7 +51,7 @@ namespace LayoutRunner
 	}
 
 	/** Then goes on by what the function returned; not at all when it could not be called. */
-	static void Call(const FLayoutAction& Action, const FLayoutScope& Scope)
+	void Call(const FLayoutAction& Action, const FLayoutScope& Scope)
 	{
 		const TSharedPtr<FLayoutParameterBlock> Block = LayoutCalls::Make(Action.Function, Scope);
 		const FBoolProperty* Result = Block.IsValid() ? CastField<FBoolProperty>(Block->GetResultProperty()) : nullptr;
@@ -61,7 +61,7 @@ namespace LayoutRunner
 		}
 	}
 
-	static void CallParent(const FLayoutScope& Scope)
+	void CallParent(const FLayoutScope& Scope)
 	{
 		UClass* ScriptClass = Cast<UClass>(Scope.Event->GetOuter());
 		UClass* ParentClass = ScriptClass ? ScriptClass->GetSuperClass() : nullptr;

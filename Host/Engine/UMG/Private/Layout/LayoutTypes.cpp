@@ -14,7 +14,7 @@ UClass* FLayoutTypes::FindTarget(FName Name) const
 namespace LayoutTypes
 {
 	/** One that Blueprints can call comes before one that they cannot. */
-	static UFunction* FindGetter(const UClass& Class, const FString& Name, bool& bOutHidden)
+	UFunction* FindGetter(const UClass& Class, const FString& Name, bool& bOutHidden)
 	{
 		for (const TCHAR* Prefix : {TEXT("Get"), TEXT(""), TEXT("Is"), TEXT("Has")})
 		{
@@ -31,7 +31,7 @@ namespace LayoutTypes
 		return nullptr;
 	}
 
-	static const UStruct* StructOf(const FProperty& Property)
+	const UStruct* StructOf(const FProperty& Property)
 	{
 		if (const FStructProperty* Struct = CastField<FStructProperty>(&Property))
 		{
@@ -101,7 +101,7 @@ namespace LayoutTypes
 	}
 
 	/** What the first part of a path stands for. */
-	static TOptional<FLayoutType> RootOf(const FString& Part, const FLayoutTypes& Types, FString& OutReason)
+	TOptional<FLayoutType> RootOf(const FString& Part, const FLayoutTypes& Types, FString& OutReason)
 	{
 		if (const FProperty* Parameter = Types.Event ? Types.Event->FindPropertyByName(FName(*Part)) : nullptr)
 		{
@@ -120,7 +120,7 @@ namespace LayoutTypes
 	}
 
 	/** From a type on by the members of a path; the first part is where the type comes from. */
-	static TOptional<FLayoutType> FollowMembers(TOptional<FLayoutType> Type, const FLayoutPath& Path, FString& OutReason)
+	TOptional<FLayoutType> FollowMembers(TOptional<FLayoutType> Type, const FLayoutPath& Path, FString& OutReason)
 	{
 		for (int32 Index = 1; Type.IsSet() && Index < Path.Parts.Num(); ++Index)
 		{

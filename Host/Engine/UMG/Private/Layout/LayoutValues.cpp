@@ -33,7 +33,7 @@ namespace LayoutValues
 		TArray<TSharedPtr<FLayoutParameterBlock>> Blocks;
 	};
 
-	static void TakeProperty(FDatum& Datum, const FProperty& Property, const void* Value)
+	void TakeProperty(FDatum& Datum, const FProperty& Property, const void* Value)
 	{
 		Datum.Property = &Property;
 		Datum.Value = Value;
@@ -41,7 +41,7 @@ namespace LayoutValues
 		Datum.Object = Object ? Object->GetObjectPropertyValue(Value) : nullptr;
 	}
 
-	static bool TakeRoot(FDatum& Datum, const FString& Part, const FLayoutScope& Scope)
+	bool TakeRoot(FDatum& Datum, const FString& Part, const FLayoutScope& Scope)
 	{
 		if (const FProperty* Parameter = Scope.Event ? Scope.Event->FindPropertyByName(FName(*Part)) : nullptr)
 		{
@@ -52,7 +52,7 @@ namespace LayoutValues
 		return Datum.Object != nullptr;
 	}
 
-	static bool TakeMember(FDatum& Datum, const FString& Part)
+	bool TakeMember(FDatum& Datum, const FString& Part)
 	{
 		if (UObject* Owner = Datum.Object)
 		{
@@ -84,7 +84,7 @@ namespace LayoutValues
 		return Member != nullptr;
 	}
 
-	static bool TakeMembers(FDatum& Datum, const TArray<FString>& Parts, int32 First)
+	bool TakeMembers(FDatum& Datum, const TArray<FString>& Parts, int32 First)
 	{
 		for (int32 Index = First; Index < Parts.Num(); ++Index)
 		{
@@ -97,13 +97,13 @@ namespace LayoutValues
 	}
 
 	/** False when something on the way is null just now. */
-	static bool Follow(const FLayoutPath& Path, const FLayoutScope& Scope, FDatum& OutDatum)
+	bool Follow(const FLayoutPath& Path, const FLayoutScope& Scope, FDatum& OutDatum)
 	{
 		return TakeRoot(OutDatum, Path.Parts[0], Scope) && TakeMembers(OutDatum, Path.Parts, 1);
 	}
 
 	/** The same for what a function returns. */
-	static bool FollowResult(const FLayoutValue& Value, const FLayoutScope& Scope, FDatum& OutDatum)
+	bool FollowResult(const FLayoutValue& Value, const FLayoutScope& Scope, FDatum& OutDatum)
 	{
 		const TSharedPtr<FLayoutParameterBlock> Block = LayoutCalls::Make(*Value.Call, Scope);
 		if (!Block.IsValid())
@@ -115,12 +115,12 @@ namespace LayoutValues
 		return TakeMembers(OutDatum, Value.Members, 0);
 	}
 
-	static FString ReadDatum(const FDatum& Datum)
+	FString ReadDatum(const FDatum& Datum)
 	{
 		return Datum.Property ? ToText(*Datum.Property, Datum.Value) : Datum.Object->GetName();
 	}
 
-	static FString ReadPath(const FLayoutPath& Path, const FLayoutScope& Scope)
+	FString ReadPath(const FLayoutPath& Path, const FLayoutScope& Scope)
 	{
 		FDatum Datum;
 		const FString Text = Follow(Path, Scope, Datum) ? ReadDatum(Datum) : FString();
@@ -160,7 +160,7 @@ namespace LayoutValues
 		return Condition.Is.IsValid() ? Text.Equals(EvaluateText(*Condition.Is, Scope), ESearchCase::IgnoreCase) : IsTrue(Text);
 	}
 
-	static bool EvaluateList(const FLayoutValue& Value, const FLayoutScope& Scope, const FArrayProperty& Array, void* Dest)
+	bool EvaluateList(const FLayoutValue& Value, const FLayoutScope& Scope, const FArrayProperty& Array, void* Dest)
 	{
 		FScriptArrayHelper Helper(&Array, Dest);
 		Helper.Resize(Value.Elements.Num());
@@ -173,7 +173,7 @@ namespace LayoutValues
 	}
 
 	/** An array of objects into an array of any of their classes. */
-	static bool PassObjects(const FDatum& Datum, const FProperty& Property, void* Dest)
+	bool PassObjects(const FDatum& Datum, const FProperty& Property, void* Dest)
 	{
 		const FArrayProperty* From = Datum.Property ? CastField<FArrayProperty>(Datum.Property) : nullptr;
 		const FArrayProperty* To = CastField<FArrayProperty>(&Property);
@@ -194,7 +194,7 @@ namespace LayoutValues
 	}
 
 	/** Passes a value on with its type. False when the types differ: its text may still do. */
-	static bool Pass(const FDatum& Datum, const FProperty& Property, void* Dest)
+	bool Pass(const FDatum& Datum, const FProperty& Property, void* Dest)
 	{
 		const FObjectPropertyBase* Object = CastField<FObjectPropertyBase>(&Property);
 		if (Object && (!Datum.Object || Datum.Object->IsA(Object->PropertyClass)))

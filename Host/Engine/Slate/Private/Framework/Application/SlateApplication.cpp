@@ -17,7 +17,7 @@ namespace SlateApplication
 		int32 NumTextureReloads = 0;
 	};
 
-	static FState& GetState()
+	FState& GetState()
 	{
 		static THostState<FState> State;
 		return State.Get();
@@ -30,11 +30,17 @@ namespace SlateApplication
 	};
 
 	/** Never null: where nothing can be drawn, the renderer does nothing. */
-	static TUniquePtr<FSlateRenderer> MakeRenderer()
+	TUniquePtr<FSlateRenderer> MakeRenderer()
 	{
 		return FApp::CanEverRender() ? TUniquePtr<FSlateRenderer>(new FCountingRenderer) : MakeUnique<FSlateRenderer>();
 	}
 }
+
+class FHostSlateAccess
+{
+public:
+	static TUniquePtr<FSlateApplication> Make() { return TUniquePtr<FSlateApplication>(new FSlateApplication()); }
+};
 
 FSlateApplication::FSlateApplication()
 	: Renderer(SlateApplication::MakeRenderer())
@@ -63,7 +69,7 @@ void HostSlate::Start()
 {
 	if (!FSlateApplication::IsInitialized())
 	{
-		SlateApplication::GetState().Application = MakeUnique<FSlateApplication>();
+		SlateApplication::GetState().Application = FHostSlateAccess::Make();
 	}
 }
 

@@ -24,7 +24,7 @@ void FUICommandInfo::MakeCommandInfo(const TSharedRef<FBindingContext>& InContex
 	const FText& InCommandLabel, const FText& InCommandDesc, const FSlateIcon& InIcon, const EUserInterfaceActionType InUserInterfaceType,
 	const FInputChord& InDefaultChord, const FInputChord& InAlternateDefaultChord)
 {
-	const TSharedRef<FUICommandInfo> Command = MakeShared<FUICommandInfo>();
+	const TSharedRef<FUICommandInfo> Command = MakeShareable(new FUICommandInfo());
 	Command->BindingContext = InContext->GetContextName();
 	Command->CommandName = InCommandName;
 	Command->Label = InCommandLabel;
@@ -109,7 +109,7 @@ void FInputBindingManager::AddCommand(const TSharedRef<FUICommandInfo>& InComman
 
 namespace UIAction
 {
-	static FGetActionCheckState ToCheckState(const FIsActionChecked& IsChecked)
+	FGetActionCheckState ToCheckState(const FIsActionChecked& IsChecked)
 	{
 		if (!IsChecked.IsBound())
 		{

@@ -8,7 +8,7 @@
 
 namespace SlateButton
 {
-	static TSharedRef<SWidget> MakeContent(const SButton::FArguments& InArgs)
+	TSharedRef<SWidget> MakeContent(const SButton::FArguments& InArgs)
 	{
 		if (InArgs._Content.Widget != SNullWidget::NullWidget || !InArgs._Text.IsSet())
 		{

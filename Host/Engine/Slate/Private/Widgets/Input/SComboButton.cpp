@@ -9,7 +9,7 @@
 namespace ComboButton
 {
 	/** The face is one line of text: its swatches are told beside it. */
-	static void NoteColors(SWidget& Face, TArray<FString>& OutNotes)
+	void NoteColors(SWidget& Face, TArray<FString>& OutNotes)
 	{
 		const FHostWidgetDescription Description = FHostWidgetAccess::Describe(Face);
 		if (Description.Role == TEXT("swatch"))

@@ -147,7 +147,8 @@ FHostInputResult STableViewBase::MoveSelection(int32 NumItems)
 		++Selected;
 	}
 	const bool bNone = Selected == CountItems();
-	const int32 Target = bNone ? FirstItemInView : FMath::Clamp(Selected + NumItems, 0, CountItems() - 1);
+	const int32 Beside = NumItems > 0 ? FirstItemInView - 1 : FirstItemInView + 1; // one step selects the first that is seen
+	const int32 Target = FMath::Clamp((bNone ? Beside : Selected) + NumItems, 0, CountItems() - 1);
 	if (Target < FirstItemInView || Target >= FirstItemInView + NumRowsInView)
 	{
 		FirstItemInView = Target;

@@ -11,7 +11,6 @@ class FSlateRenderer;
 class SLATE_API FSlateApplication
 {
 public:
-	FSlateApplication();
 	virtual ~FSlateApplication();
 
 	static bool IsInitialized();
@@ -24,6 +23,11 @@ public:
 	/** Closes every menu that is open. */
 	void DismissAllMenus();
 
+protected:
+	FSlateApplication();
+
 private:
+	friend class FHostSlateAccess;
+
 	TUniquePtr<FSlateRenderer> Renderer;
 };

@@ -5,6 +5,9 @@
 #include "CoreMinimal.h"
 #include "Framework/Commands/UICommandInfo.h"
 
+template<typename T>
+class THostState;
+
 /** All command contexts of the running editor with their commands. */
 class SLATE_API FInputBindingManager
 {
@@ -25,6 +28,10 @@ public:
 	void AddCommand(const TSharedRef<FUICommandInfo>& InCommand);
 
 private:
+	friend class THostState<FInputBindingManager>;
+
+	FInputBindingManager() = default;
+
 	struct FContextEntry
 	{
 		TSharedPtr<FBindingContext> Context;

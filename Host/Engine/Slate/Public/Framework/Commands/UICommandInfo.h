@@ -63,6 +63,8 @@ public:
 	FText GetInputText() const { return DefaultChord.GetInputText(); }
 
 private:
+	FUICommandInfo() = default;
+
 	FName BindingContext;
 	FName CommandName;
 	FText Label;

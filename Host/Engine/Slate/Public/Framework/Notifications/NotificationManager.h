@@ -7,6 +7,9 @@
 class SNotificationItem;
 struct FNotificationInfo;
 
+template<typename T>
+class THostState;
+
 /** Shows notifications in the corner of the editor. */
 class SLATE_API FSlateNotificationManager
 {
@@ -27,5 +30,9 @@ public:
 	bool AreNotificationsAllowed() const;
 
 private:
+	friend class THostState<FSlateNotificationManager>;
+
+	FSlateNotificationManager() = default;
+
 	bool bAllowNotifications = true;
 };

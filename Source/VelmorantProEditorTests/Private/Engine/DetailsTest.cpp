@@ -1,0 +1,246 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "CoreMinimal.h"
+#include "DetailWidgetRow.h"
+#include "Editor.h"
+#include "IDetailChildrenBuilder.h"
+#include "IDetailTreeNode.h"
+#include "IPropertyTypeCustomization.h"
+#include "Misc/ScopeExit.h"
+#include "Modules/ModuleManager.h"
+#include "PropertyEditorModule.h"
+#include "PropertyHandle.h"
+#include "Support/Beliefs.h"
+#include "Support/DetailRows.h"
+#include "Support/EditorState.h"
+#include "Support/TestFlags.h"
+#include "Support/TestListener.h"
+#include "Widgets/Text/STextBlock.h"
+
+#if WITH_DEV_AUTOMATION_TESTS
+
+namespace DetailsTest
+{
+	/** Counts what is asked of it, and puts a row of its own below. */
+	class FCustomization final : public IPropertyTypeCustomization
+	{
+	public:
+		virtual void CustomizeHeader(TSharedRef<IPropertyHandle> PropertyHandle, FDetailWidgetRow& HeaderRow, IPropertyTypeCustomizationUtils&) override
+		{
+			++NumHeaders;
+			HeaderRow.NameContent()[PropertyHandle->CreatePropertyNameWidget()];
+		}
+
+		virtual void CustomizeChildren(TSharedRef<IPropertyHandle> PropertyHandle, IDetailChildrenBuilder& ChildBuilder, IPropertyTypeCustomizationUtils&) override
+		{
+			++NumChildren;
+			ChildBuilder.AddProperty(PropertyHandle->GetChildHandle("Kind").ToSharedRef());
+			ChildBuilder.AddCustomRow(INVTEXT("Velmorant filter")).NameContent()[SNew(STextBlock).Text(INVTEXT("Velmorant row"))];
+		}
+
+		static inline int32 NumHeaders = 0;
+		static inline int32 NumChildren = 0;
+	};
+
+	/** Registered for the length of a scope. */
+	class FRegistration
+	{
+	public:
+		FRegistration()
+		{
+			FCustomization::NumHeaders = 0;
+			FCustomization::NumChildren = 0;
+			GetModule().RegisterCustomPropertyTypeLayout("VelmorantTestChoice", FOnGetPropertyTypeCustomizationInstance::CreateLambda([] { return MakeShared<FCustomization>(); }));
+		}
+		~FRegistration() { GetModule().UnregisterCustomPropertyTypeLayout("VelmorantTestChoice"); }
+
+	private:
+		static FPropertyEditorModule& GetModule() { return FModuleManager::LoadModuleChecked<FPropertyEditorModule>("PropertyEditor"); }
+	};
+
+	UVelmorantTestListener* MakeObject(const TCHAR* Name)
+	{
+		UVelmorantTestListener* Object = NewObject<UVelmorantTestListener>(GetTransientPackage(), NAME_None, RF_Transactional);
+		Object->Choice.Name = Name;
+		return Object;
+	}
+
+	TSharedPtr<IPropertyHandle> FindHandle(const FVelmorantDetailRows& Rows, const TCHAR* Member)
+	{
+		const TSharedPtr<IDetailTreeNode> Row = Rows.Find("Choice");
+		return Row.IsValid() ? Row->CreatePropertyHandle()->GetChildHandle(Member) : nullptr;
+	}
+}
+
+IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantCustomizationTest, "Velmorant.Engine.Details.Customization", VelmorantTests::Flags)
+
+bool FVelmorantCustomizationTest::RunTest(const FString&)
+{
+	const DetailsTest::FRegistration Registration;
+	const FVelmorantDetailRows Rows({DetailsTest::MakeObject(TEXT("Oak")), DetailsTest::MakeObject(TEXT("Ash"))});
+	TestEqual(TEXT("several objects have one customization of their struct, named without its F"), DetailsTest::FCustomization::NumHeaders, 1);
+	const TSharedPtr<IDetailTreeNode> Row = Rows.Find("Choice");
+	if (!TestValid(TEXT("the struct has a row"), Row))
+	{
+		return false;
+	}
+	TestEqualSensitive(TEXT("with the rows that the customization adds, in its order"), *FString::Join(FVelmorantDetailRows::CollectNames(Row.ToSharedRef()), TEXT(", ")), TEXT("Kind, Velmorant row"));
+	TestEqual(TEXT("asked for once"), DetailsTest::FCustomization::NumChildren, 1);
+	return true;
+}
+
+IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantSeveralObjectsTest, "Velmorant.Engine.Details.SeveralObjects", VelmorantTests::Flags)
+
+bool FVelmorantSeveralObjectsTest::RunTest(const FString&)
+{
+	const FVelmorantEditorState State;
+	UVelmorantTestListener* First = DetailsTest::MakeObject(TEXT("Oak"));
+	UVelmorantTestListener* Second = DetailsTest::MakeObject(TEXT("Ash"));
+	const FVelmorantDetailRows Rows({First, Second});
+	const TSharedPtr<IPropertyHandle> Name = DetailsTest::FindHandle(Rows, TEXT("Name"));
+	if (!TestValid(TEXT("members have handles"), Name))
+	{
+		return false;
+	}
+	FName Value;
+	TestTrue(TEXT("objects that differ have several values, which is no failure"), Name->GetValue(Value) == FPropertyAccess::MultipleValues);
+	TestTrue(TEXT("a value can be written to all"), Name->SetValue(FName(TEXT("Birch"))) == FPropertyAccess::Success);
+	TestTrue(TEXT("and all have it"), First->Choice.Name == FName(TEXT("Birch")) && Second->Choice.Name == FName(TEXT("Birch")));
+	TestTrue(TEXT("then it can be read"), Name->GetValue(Value) == FPropertyAccess::Success && Value == FName(TEXT("Birch")));
+	TestTrue(TEXT("each object is told"), First->NumChanges > 0 && Second->NumChanges > 0);
+	TestEqual(TEXT("both changes are one step"), State.CountNewSteps(), 1);
+	GEditor->UndoTransaction();
+	TestTrue(TEXT("undone, each has its own again"), First->Choice.Name == FName(TEXT("Oak")) && Second->Choice.Name == FName(TEXT("Ash")));
+
+	First->Choice.Name = Second->Choice.Name;
+	First->NumChanges = 0;
+	const int32 NumSteps = State.CountNewSteps();
+	Name->SetValue(Second->Choice.Name);
+	VelmorantTests::RecordBelief(*this, TEXT("writing a value that all objects have tells them"), First->NumChanges > 0);
+	VelmorantTests::RecordBelief(*this, TEXT("steps of writing a value that all objects have"), State.CountNewSteps() - NumSteps);
+	return true;
+}
+
+IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantHandleTypesTest, "Velmorant.Engine.Details.ValueTypes", VelmorantTests::Flags)
+
+bool FVelmorantHandleTypesTest::RunTest(const FString&)
+{
+	const FVelmorantEditorState State;
+	UVelmorantTestListener* Object = DetailsTest::MakeObject(TEXT("Oak"));
+	Object->Choice.Kind = EVelmorantTestKind::Special;
+	Object->Choice.Tint = FLinearColor(0.25f, 0.5f, 0.75f, 1.0f);
+	const FVelmorantDetailRows Rows({Object});
+	const TSharedPtr<IPropertyHandle> Kind = DetailsTest::FindHandle(Rows, TEXT("Kind"));
+	const TSharedPtr<IPropertyHandle> Tint = DetailsTest::FindHandle(Rows, TEXT("Tint"));
+	if (!TestValid(TEXT("an enum has a handle"), Kind) || !TestValid(TEXT("a colour, too"), Tint))
+	{
+		return false;
+	}
+	uint8 Byte = 0;
+	int32 Number = 0;
+	TestTrue(TEXT("an enum is read as a byte"), Kind->GetValue(Byte) == FPropertyAccess::Success && Byte == 1);
+	TestTrue(TEXT("and as no other number"), Kind->GetValue(Number) == FPropertyAccess::Fail);
+	FString Text;
+	FLinearColor Color;
+	TestTrue(TEXT("a struct is read as text"), Tint->GetValueAsFormattedString(Text) == FPropertyAccess::Success);
+	TestTrue(TEXT("which a colour understands"), Color.InitFromString(Text) && Color.Equals(Object->Choice.Tint));
+	VelmorantTests::RecordBelief(*this, TEXT("a colour as formatted text"), Text);
+	TestInvalid(TEXT("there is no member of another name"), DetailsTest::FindHandle(Rows, TEXT("Nowhere")));
+	return true;
+}
+
+IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantHandleEventsTest, "Velmorant.Engine.Details.ValueEvents", VelmorantTests::Flags)
+
+bool FVelmorantHandleEventsTest::RunTest(const FString&)
+{
+	const FVelmorantEditorState State;
+	UVelmorantTestListener* Object = DetailsTest::MakeObject(TEXT("Oak"));
+	const FVelmorantDetailRows Rows({Object});
+	const TSharedPtr<IDetailTreeNode> Row = Rows.Find("Choice");
+	const TSharedPtr<IPropertyHandle> Struct = Row.IsValid() ? Row->CreatePropertyHandle() : nullptr;
+	const TSharedPtr<IPropertyHandle> Name = DetailsTest::FindHandle(Rows, TEXT("Name"));
+	if (!TestValid(TEXT("the struct has a handle"), Struct) || !TestValid(TEXT("its member, too"), Name))
+	{
+		return false;
+	}
+	int32 NumOfName = 0;
+	int32 NumOfStruct = 0;
+	Name->SetOnPropertyValueChanged(FSimpleDelegate::CreateLambda([&NumOfName] { ++NumOfName; }));
+	Struct->SetOnChildPropertyValueChanged(FSimpleDelegate::CreateLambda([&NumOfStruct] { ++NumOfStruct; }));
+	Name->SetValue(FName(TEXT("Ash")));
+	TestEqual(TEXT("a member's listener hears before the write returns"), NumOfName, 1);
+	TestEqual(TEXT("so does who listens to all members of the struct"), NumOfStruct, 1);
+	Object->Choice.Name = TEXT("Raw");
+	TestEqual(TEXT("a raw write is not heard"), NumOfName, 1);
+	FName Value;
+	TestTrue(TEXT("but read"), Name->GetValue(Value) == FPropertyAccess::Success && Value == FName(TEXT("Raw")));
+	return true;
+}
+
+IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantHandleWritesTest, "Velmorant.Engine.Details.Writes", VelmorantTests::Flags)
+
+bool FVelmorantHandleWritesTest::RunTest(const FString&)
+{
+	const FVelmorantEditorState State;
+	UVelmorantTestListener* Object = DetailsTest::MakeObject(TEXT("Oak"));
+	const FVelmorantDetailRows Rows({Object});
+	const TSharedPtr<IDetailTreeNode> Row = Rows.Find("Amount");
+	const TSharedPtr<IPropertyHandle> Amount = Row.IsValid() ? Row->CreatePropertyHandle() : nullptr;
+	if (!TestValid(TEXT("a number has a handle"), Amount))
+	{
+		return false;
+	}
+	TestTrue(TEXT("text that is a number is taken"), Amount->SetValueFromFormattedString(TEXT("7")) == FPropertyAccess::Success && Object->Amount == 7);
+	Amount->SetValueFromFormattedString(TEXT("tower"));
+	VelmorantTests::RecordBelief(*this, TEXT("a number after text that is none"), Object->Amount);
+	Object->Amount = 7;
+	Amount->SetValueFromFormattedString(TEXT("99999999999"));
+	VelmorantTests::RecordBelief(*this, TEXT("a number after one too large for its type"), Object->Amount == 7 ? TEXT("unchanged") : TEXT("changed"));
+
+	const int32 NumSteps = State.CountNewSteps();
+	for (int32 Value = 10; Value < 13; ++Value)
+	{
+		Amount->SetValue(Value, EPropertyValueSetFlags::InteractiveChange);
+	}
+	VelmorantTests::RecordBelief(*this, TEXT("steps of three interactive changes"), State.CountNewSteps() - NumSteps);
+	Amount->SetValue(13);
+	VelmorantTests::RecordBelief(*this, TEXT("steps of three interactive changes and the one that ends them"), State.CountNewSteps() - NumSteps);
+	return true;
+}
+
+IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantWholeStructTest, "Velmorant.Engine.Details.WholeStructs", VelmorantTests::Flags)
+
+bool FVelmorantWholeStructTest::RunTest(const FString&)
+{
+	const FVelmorantEditorState State;
+	UVelmorantTestListener* Object = DetailsTest::MakeObject(TEXT("Oak"));
+	const FVelmorantDetailRows Rows({Object});
+	const TSharedPtr<IDetailTreeNode> Row = Rows.Find("Choice");
+	const TSharedPtr<IPropertyHandle> Struct = Row.IsValid() ? Row->CreatePropertyHandle() : nullptr;
+	const TSharedPtr<IPropertyHandle> Name = DetailsTest::FindHandle(Rows, TEXT("Name"));
+	if (!TestValid(TEXT("the struct has a handle"), Struct) || !TestValid(TEXT("its member, too"), Name))
+	{
+		return false;
+	}
+	int32 NumHeard = 0;
+	Name->SetOnPropertyValueChanged(FSimpleDelegate::CreateLambda([&NumHeard] { ++NumHeard; }));
+	TestTrue(TEXT("a struct takes text with some of its members"), Struct->SetValueFromFormattedString(TEXT("(Name=\"Ash\")")) == FPropertyAccess::Success);
+	TestTrue(TEXT("those change"), Object->Choice.Name == FName(TEXT("Ash")));
+	VelmorantTests::RecordBelief(*this, TEXT("a member's listener hears of a write to the whole struct"), NumHeard > 0);
+	return true;
+}
+
+IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantSectionsTest, "Velmorant.Engine.Details.Sections", VelmorantTests::Flags)
+
+bool FVelmorantSectionsTest::RunTest(const FString&)
+{
+	FPropertyEditorModule& Module = FModuleManager::LoadModuleChecked<FPropertyEditorModule>("PropertyEditor");
+	const TSharedRef<FPropertySection> Section = Module.FindOrCreateSection("VelmorantTestListener", "VelmorantTests", INVTEXT("Tests"));
+	Section->AddCategory("Test");
+	TestTrue(TEXT("a category that was added is there"), Section->HasAddedCategory("Test"));
+	TestTrue(TEXT("a section is made once"), Module.FindOrCreateSection("VelmorantTestListener", "VelmorantTests", INVTEXT("Other")) == Section);
+	TestEqualSensitive(TEXT("and keeps its first name"), *Section->GetDisplayName().ToString(), TEXT("Tests"));
+	return true;
+}
+
+#endif

@@ -1,0 +1,16 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include "CoreMinimal.h"
+
+class SWidget;
+
+namespace VelmorantTests
+{
+	/** The texts that stand in a widget and those below it, in order; collapsed ones included, empty ones left out. */
+	TArray<FString> CollectTexts(const TSharedRef<SWidget>& Widget);
+
+	/** How many widgets of a class there are, "SComboBox" for one; the template's arguments do not count. */
+	int32 CountWidgets(const TSharedRef<SWidget>& Widget, const TCHAR* Class);
+}

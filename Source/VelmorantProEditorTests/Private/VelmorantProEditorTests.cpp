@@ -1,0 +1,5 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "Modules/ModuleManager.h"
+
+IMPLEMENT_MODULE(FDefaultModuleImpl, VelmorantProEditorTests)

@@ -1,0 +1,42 @@
+// Copyright Velmorant. All Rights Reserved.
+
+using UnrealBuildTool;
+
+public class VelmorantProEditorTests : ModuleRules
+{
+	public VelmorantProEditorTests(ReadOnlyTargetRules Target) : base(Target)
+	{
+		PCHUsage = PCHUsageMode.UseExplicitOrSharedPCHs;
+
+		// Nobody includes headers of this module: all could stand in either list.
+		PublicDependencyModuleNames.AddRange(new[]
+		{
+			"Core",
+			"CoreUObject",
+			"Engine"
+		});
+
+		PrivateDependencyModuleNames.AddRange(new[]
+		{
+			"VelmorantProEditor",
+			"VelmorantPro",
+			"VelmorantProUI",
+			"VelmorantSDK",
+			"Slate",
+			"SlateCore",
+			"UMG",
+			"InputCore",
+			"Projects",
+			"ToolMenus",
+			"UnrealEd",
+			"EditorSubsystem",
+			"EditorFramework",
+			"AssetDefinition",
+			"AssetTools",
+			"AssetRegistry",
+			"PropertyEditor",
+			"PlacementMode",
+			"VariantManagerContent"
+		});
+	}
+}
