@@ -12,7 +12,8 @@ file(GLOB DesktopTestSources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/Tests/Desktop
 velmorant_program(DesktopTests
 	SOURCES ${DesktopTestSources}
 	MODULES
-		Core CoreUObject Projects SlateCore Slate Engine UMG UnrealEd PropertyEditor VelmorantPro VelmorantProEditor Runtime CommandLine Toolkit
+		Core CoreUObject Projects SlateCore Slate Engine UMG UnrealEd AssetTools VariantManagerContent PropertyEditor ContentBrowser
+		VelmorantSDK VelmorantPro VelmorantProEditor Runtime CommandLine Toolkit
 	LIBRARIES GTest::gmock Qt6::Widgets Qt6::Svg Qt6::Test HeaderToolCore
 	PCH DesktopTestPCH)
 target_sources(DesktopTests PRIVATE $<TARGET_OBJECTS:DesktopParts>)

@@ -101,5 +101,5 @@ TEST_F(FailedWrites, OfReadOnlyFilesUnderVersionControlAreAskedAbout)
 	}
 	const FProgramResult Wrong = RunScript("answer Weather \"Check Out\"\n");
 	EXPECT_EQ(Wrong.ExitStatus, 3);
-	EXPECT_NE(Wrong.Errors.find("SaveAsset, ReplaceAsset, ReadOnlyFile and Message"), std::string::npos) << Wrong.Errors;
+	EXPECT_NE(Wrong.Errors.find("SaveAsset, ReplaceAsset, DeleteAssets, ReadOnlyFile and Message"), std::string::npos) << Wrong.Errors;
 }

@@ -2,6 +2,7 @@
 
 #include "Window/DockViews.h"
 
+#include "Docks/ContentBrowserDock.h"
 #include "Docks/DetailsDock.h"
 #include "Docks/NotificationHistoryDock.h"
 #include "Docks/OutlinerDock.h"
@@ -9,6 +10,7 @@
 #include "Docks/PlacementDock.h"
 #include "Docks/PlanDock.h"
 #include "Docks/ProjectSetupDock.h"
+#include "Docks/VariantManagerDock.h"
 #include "Docks/WelcomeDock.h"
 
 namespace DockViews
@@ -27,6 +29,8 @@ namespace DockViews
 			{"Placement", "Placement", Qt::RightDockWidgetArea, true, &MakeOne<FPlacementDock>, 1},
 			{"Welcome", "Welcome", Qt::TopDockWidgetArea, false, &MakeOne<FWelcomeDock>},
 			{"Details", "Details", Qt::RightDockWidgetArea, true, &MakeOne<FDetailsDock>},
+			{"ContentBrowser", "Content Browser", Qt::BottomDockWidgetArea, true, &MakeOne<FContentBrowserDock>},
+			{"VariantManager", "Variant Manager", Qt::RightDockWidgetArea, true, &MakeOne<FVariantManagerDock>},
 			{"Notifications", "Notifications", Qt::BottomDockWidgetArea, true, &MakeOne<FNotificationHistoryDock>},
 			{"OutputLog", "Output log", Qt::BottomDockWidgetArea, true, &MakeOne<FOutputLogDock>},
 			{"ProjectSetup", "Project settings", Qt::TopDockWidgetArea, false, &MakeOne<FProjectSetupDock>},

@@ -10,6 +10,7 @@
 #include "Window/DockViews.h"
 #include "Window/EditorMenus.h"
 #include "Window/QuestionDialog.h"
+#include "Window/SaveAssetDialog.h"
 #include "Window/StatusLine.h"
 
 #include <algorithm>
@@ -23,7 +24,16 @@ namespace MainWindow
 	static const int ArrangementVersion = 1;
 	static const QSize FirstSize(1440, 900);
 	static const int SideWidth = 420;
-	static const int BottomHeight = 220;
+	static const int BottomHeight = 300;
+
+	static std::unique_ptr<FQuestionDialog> MakeDialog(const FHostQuestion& Question, QWidget* Parent)
+	{
+		if (Question.Kind == FName("SaveAsset"))
+		{
+			return std::make_unique<FSaveAssetDialog>(Question, Parent);
+		}
+		return std::make_unique<FQuestionDialog>(Question, Parent);
+	}
 }
 
 FMainWindow::FMainWindow(FDesktopEditor& InEditor)
@@ -279,9 +289,9 @@ void FMainWindow::Inspect(const TArray<UObject*>& Objects)
 TOptional<FHostAnswer> FMainWindow::Ask(const FHostQuestion& Question)
 {
 	const FDesktopEditor::FStandstill Standstill(Editor);
-	FQuestionDialog Dialog(Question, this);
-	Dialog.exec();
-	return Dialog.GetAnswer();
+	const std::unique_ptr<FQuestionDialog> Dialog = MainWindow::MakeDialog(Question, this);
+	Dialog->exec();
+	return Dialog->GetAnswer();
 }
 
 void FMainWindow::closeEvent(QCloseEvent* Event)

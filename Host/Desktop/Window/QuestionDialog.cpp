@@ -8,6 +8,8 @@ FQuestionDialog::FQuestionDialog(const FHostQuestion& InQuestion, QWidget* Paren
 	: QDialog(Parent)
 	, Question(InQuestion)
 {
+	const FString Cancel = TEXT("Cancel");
+	Choice = Question.Choices.Contains(Cancel) ? Cancel : FString(); // until a person chooses
 	setObjectName(QtText::From(Question.Kind));
 	setWindowTitle(QtText::From(Question.Title));
 	setMinimumWidth(420);
@@ -30,17 +32,18 @@ FQuestionDialog::FQuestionDialog(const FHostQuestion& InQuestion, QWidget* Paren
 	}
 	Layout->addLayout(Form);
 
-	QDialogButtonBox* const Buttons = new QDialogButtonBox(this);
+	QDialogButtonBox* const Row = new QDialogButtonBox(this);
 	for (const FString& Each : Question.Choices)
 	{
-		QPushButton* const Button = Buttons->addButton(QtText::From(Each), QDialogButtonBox::ActionRole);
+		QPushButton* const Button = Row->addButton(QtText::From(Each), QDialogButtonBox::ActionRole);
 		Button->setDefault(Each.Equals(Question.DefaultChoice));
+		Buttons.Add(Each, Button);
 		connect(Button, &QPushButton::clicked, this, [this, Each] {
 			Choice = Each;
 			accept();
 		});
 	}
-	Layout->addWidget(Buttons);
+	Layout->addWidget(Row);
 }
 
 FHostAnswer FQuestionDialog::GetAnswer() const
@@ -52,4 +55,12 @@ FHostAnswer FQuestionDialog::GetAnswer() const
 		Answer.Fields.Add(Field.Key, QtText::ToEditor(Field.Value->text()));
 	}
 	return Answer;
+}
+
+void FQuestionDialog::SetChoiceEnabled(const FString& InChoice, bool bEnabled)
+{
+	if (QPushButton* const* const Button = Buttons.Find(InChoice))
+	{
+		(*Button)->setEnabled(bEnabled);
+	}
 }

@@ -253,6 +253,10 @@ TEST_F(AssetTools, FindsTypeActionsByClass)
 
 	EXPECT_EQ(Tools.GetAssetTypeActionsForClass(UTestSpecialAsset::StaticClass()).Pin(), Actions);
 	EXPECT_FALSE(Tools.GetAssetTypeActionsForClass(UTestAsset::StaticClass()).IsValid()) << "not those of a class below";
+	EXPECT_EQ(Utf8(HostAssetTools::FindKind(UTestSpecialAsset::StaticClass()).DisplayName), "Special") << "nearer than the definition of its parent";
+	EXPECT_EQ(HostAssetTools::FindKind(UTestSpecialAsset::StaticClass()).Color, FLinearColor(FColor::Cyan));
+	EXPECT_EQ(Utf8(HostAssetTools::FindKind(UTestLayoutAsset::StaticClass()).DisplayName), "Test Asset");
+	EXPECT_EQ(Utf8(HostAssetTools::FindKind(UTestPart::StaticClass()).DisplayName), "Test Part") << "nobody presents it";
 }
 
 TEST_F(AssetTools, MenuOfNewAssetsShowsWhatDefinitionsSay)
@@ -271,5 +275,10 @@ TEST_F(AssetTools, MenuOfNewAssetsShowsWhatDefinitionsSay)
 	UObject* Asset = HostAssetTools::CreateFromMenu(*Item);
 	ASSERT_NE(Asset, nullptr);
 	EXPECT_TRUE(Asset->IsA<UTestAsset>());
-	EXPECT_EQ(Utf8(Asset->GetName()), "FromMenu");
+	EXPECT_EQ(Utf8(Asset->GetPathName()), "/Game/FromMenu.FromMenu");
+
+	AssetToolsTest::Answer("SaveAsset", TEXT("Save"));
+	Asset = HostAssetTools::CreateFromMenu(*Item, TEXT("/Game/Sub"));
+	ASSERT_NE(Asset, nullptr);
+	EXPECT_EQ(Utf8(Asset->GetPackage()->GetName()), std::string("/Game/Sub/") + Utf8(Asset->GetName())) << "the folder that was proposed";
 }

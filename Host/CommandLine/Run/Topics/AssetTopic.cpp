@@ -3,7 +3,9 @@
 
 #include "AssetRegistry/AssetRegistryModule.h"
 #include "HostContentBrowser.h"
+#include "IAssetTools.h"
 #include "LevelVariantSets.h"
+#include "ObjectTools.h"
 #include "Run/ScriptContext.h"
 #include "Run/ScriptObjects.h"
 #include "Run/ScriptProperties.h"
@@ -18,21 +20,58 @@ namespace AssetTopic
 		return FModuleManager::LoadModuleChecked<FAssetRegistryModule>("AssetRegistry").Get();
 	}
 
+	/** False, with the reason, when one of them is not there. */
+	bool FindAll(const FScriptArguments& Arguments, TArray<FAssetData>& OutAssets, FString& OutReason)
+	{
+		for (int32 Index = 0; Index < Arguments.Num(); ++Index)
+		{
+			UObject* Asset = ScriptObjects::FindAsset(Arguments[Index], OutReason);
+			if (Asset == nullptr)
+			{
+				return false;
+			}
+			OutAssets.Add(FAssetData(Asset));
+		}
+		return true;
+	}
+
 	FStepResult Select(FScriptContext&, const FScriptArguments& Arguments)
 	{
 		TArray<FAssetData> Selection;
-		for (int32 Index = 0; Index < Arguments.Num(); ++Index)
+		FString Reason;
+		if (!FindAll(Arguments, Selection, Reason))
 		{
-			FString Reason;
-			UObject* Asset = ScriptObjects::FindAsset(Arguments[Index], Reason);
-			if (Asset == nullptr)
-			{
-				return FStepResult::Error(Reason);
-			}
-			Selection.Add(FAssetData(Asset));
+			return FStepResult::Error(Reason);
 		}
 		HostContentBrowser::SetSelection(Selection);
 		return FStepResult::Done();
+	}
+
+	FStepResult Rename(FScriptContext&, const FScriptArguments& Arguments)
+	{
+		FString Reason;
+		UObject* Asset = ScriptObjects::FindAsset(Arguments[0], Reason);
+		if (Asset == nullptr)
+		{
+			return FStepResult::Error(Reason);
+		}
+		FString Folder;
+		FString Name = Arguments[1];
+		Arguments[1].Split(TEXT("/"), &Folder, &Name, ESearchCase::CaseSensitive, ESearchDir::FromEnd);
+		const bool bRenamed = IAssetTools::Get().RenameAssets({FAssetRenameData(Asset, Folder, Name)});
+		return bRenamed ? FStepResult::Done() : FStepResult::Error(FString::Printf(TEXT("%s cannot be renamed to %s; the log says why"), *Arguments[0], *Arguments[1]));
+	}
+
+	FStepResult Delete(FScriptContext&, const FScriptArguments& Arguments)
+	{
+		TArray<FAssetData> Assets;
+		FString Reason;
+		if (!FindAll(Arguments, Assets, Reason))
+		{
+			return FStepResult::Error(Reason);
+		}
+		const int32 NumDeleted = ObjectTools::DeleteAssets(Assets);
+		return NumDeleted == Assets.Num() ? FStepResult::Done() : FStepResult::Error(FString::Printf(TEXT("%d of %d were deleted"), NumDeleted, Assets.Num()));
 	}
 
 	FStepResult Action(FScriptContext&, const FScriptArguments& Arguments)
@@ -169,6 +208,8 @@ namespace AssetTopic
 	const FScriptCommand Commands[] = {
 		{{TEXT("select"), TEXT("ASSET [ASSET ...]"), 1, FScriptSyntax::Any, TEXT("")}, &Select},
 		{{TEXT("action"), TEXT("LABEL-OR-NAME"), 1, 1, TEXT("")}, &Action},
+		{{TEXT("rename asset"), TEXT("ASSET PATH"), 2, 2, TEXT("")}, &Rename},
+		{{TEXT("delete assets"), TEXT("ASSET [ASSET ...]"), 1, FScriptSyntax::Any, TEXT("")}, &Delete},
 		{{TEXT("print menu"), TEXT(""), 0, 0, TEXT("")}, &PrintMenu},
 		{{TEXT("print assets"), TEXT("[FOLDER]"), 0, 1, TEXT("")}, &PrintAssets},
 		{{TEXT("print variants"), TEXT("ASSET"), 1, 1, TEXT("")}, &PrintVariants},

@@ -10,14 +10,14 @@ namespace QuestionTopic
 {
 	bool IsKind(const FString& Kind)
 	{
-		return Kind.Equals(TEXT("SaveAsset")) || Kind.Equals(TEXT("ReplaceAsset")) || Kind.Equals(TEXT("ReadOnlyFile")) || Kind.Equals(TEXT("Message"));
+		return Kind.Equals(TEXT("SaveAsset")) || Kind.Equals(TEXT("ReplaceAsset")) || Kind.Equals(TEXT("DeleteAssets")) || Kind.Equals(TEXT("ReadOnlyFile")) || Kind.Equals(TEXT("Message"));
 	}
 
 	FStepResult Answer(FScriptContext& Context, const FScriptArguments& Arguments)
 	{
 		if (!IsKind(Arguments[0]))
 		{
-			return FStepResult::Error(TEXT("questions are of the kinds SaveAsset, ReplaceAsset, ReadOnlyFile and Message"));
+			return FStepResult::Error(TEXT("questions are of the kinds SaveAsset, ReplaceAsset, DeleteAssets, ReadOnlyFile and Message"));
 		}
 		FHostAnswer Prepared;
 		Prepared.Choice = Arguments[1];

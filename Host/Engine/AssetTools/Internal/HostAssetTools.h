@@ -38,8 +38,21 @@ namespace HostAssetTools
 	/** All kinds of asset that a user can make: one per factory and category, ordered by category, sub-category and name. */
 	TArray<FNewAssetItem> GetNewAssetMenu();
 
-	/** Makes an asset as a pick from that menu does: with a new factory of the item's class, asking for name and folder. */
-	UObject* CreateFromMenu(const FNewAssetItem& Item);
+	/**
+	 * Makes an asset as a pick from that menu does: with a new factory of the item's class, asking for name and folder.
+	 * @param Folder what is proposed, "/Game/Dir"
+	 */
+	UObject* CreateFromMenu(const FNewAssetItem& Item, const FString& Folder = TEXT("/Game"));
+
+	/** How assets of a class are shown. */
+	struct FAssetKind
+	{
+		FText DisplayName;
+		FLinearColor Color;
+	};
+
+	/** As the definition of the nearest class says, else its type actions; without any, the class's own name in grey. */
+	FAssetKind FindKind(const UClass* AssetClass);
 
 	/** Who shows a new asset to the user; the content browser sets this when it starts up. Holds until the editor goes down. */
 	void SetAssetShower(TFunction<void(const TArray<UObject*>&)> InShower);

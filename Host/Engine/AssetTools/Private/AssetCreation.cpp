@@ -12,7 +12,6 @@
 #include "UObject/Class.h"
 #include "UObject/Package.h"
 #include "UObject/UObjectGlobals.h"
-#include "UObject/UObjectHash.h"
 
 #define LOCTEXT_NAMESPACE "AssetTools"
 
@@ -85,20 +84,6 @@ namespace AssetCreation
 		return bReplace;
 	}
 
-	/** Takes the old asset, with what belongs to it, out of its package; who still points at it keeps a dead object until the next collection. */
-	void Displace(UPackage* Package)
-	{
-		TArray<UObject*> Inners;
-		GetObjectsWithOuter(Package, Inners, false);
-		for (UObject* Inner : Inners)
-		{
-			const FName FreeName = MakeUniqueObjectName(GetTransientPackage(), Inner->GetClass(), Inner->GetFName());
-			Inner->Rename(*FreeName.ToString(), GetTransientPackage(), REN_DontCreateRedirectors | REN_NonTransactional);
-			Inner->ClearFlags(RF_Public | RF_Standalone);
-			Inner->MarkAsGarbage();
-		}
-	}
-
 	UObject* MakeObject(const FAssetRequest& Request, UPackage* Package)
 	{
 		const EObjectFlags Flags = RF_Public | RF_Standalone | RF_Transactional;
@@ -127,7 +112,7 @@ UObject* AssetCreation::Create(const FAssetRequest& Request)
 		}
 		if (UPackage* OldPackage = FindPackage(nullptr, *PackageName))
 		{
-			Displace(OldPackage);
+			HostPackages::Displace(OldPackage);
 		}
 	}
 

@@ -4,6 +4,7 @@
 
 #include "AssetCreation.h"
 #include "AssetNames.h"
+#include "AssetRenaming.h"
 #include "AssetShower.h"
 #include "Factories/Factory.h"
 #include "IAssetTypeActions.h"
@@ -46,6 +47,11 @@ UObject* FAssetToolsImpl::CreateAsset(const FString& AssetName, const FString& P
 
 UObject* FAssetToolsImpl::CreateAssetWithDialog(UClass* AssetClass, UFactory* Factory, FName CallingContext)
 {
+	return CreateInFolder(AssetClass, Factory, TEXT("/Game"), CallingContext);
+}
+
+UObject* FAssetToolsImpl::CreateInFolder(UClass* AssetClass, UFactory* Factory, const FString& Folder, FName CallingContext)
+{
 	if (AssetClass == nullptr && Factory != nullptr)
 	{
 		AssetClass = Factory->GetSupportedClass();
@@ -57,8 +63,8 @@ UObject* FAssetToolsImpl::CreateAssetWithDialog(UClass* AssetClass, UFactory* Fa
 	}
 	FString PackageName;
 	FString AssetName;
-	CreateUniqueAssetName(FString(TEXT("/Game")) / BaseName, FString(), PackageName, AssetName);
-	return CreateAssetWithDialog(AssetName, TEXT("/Game"), AssetClass, Factory, CallingContext, true);
+	CreateUniqueAssetName(Folder / BaseName, FString(), PackageName, AssetName);
+	return CreateAssetWithDialog(AssetName, Folder, AssetClass, Factory, CallingContext, true);
 }
 
 UObject* FAssetToolsImpl::CreateAssetWithDialog(const FString& AssetName, const FString& PackagePath, UClass* AssetClass, UFactory* Factory,
@@ -93,4 +99,14 @@ void FAssetToolsImpl::CreateUniqueAssetName(const FString& InBasePackageName, co
 	}
 	OutPackageName = Folder / Candidate;
 	OutAssetName = Candidate;
+}
+
+bool FAssetToolsImpl::RenameAssets(const TArray<FAssetRenameData>& AssetsAndNames)
+{
+	bool bAllRenamed = true;
+	for (const FAssetRenameData& Request : AssetsAndNames)
+	{
+		bAllRenamed &= AssetRenaming::Rename(Request);
+	}
+	return bAllRenamed;
 }

@@ -20,7 +20,11 @@ public:
 	virtual UObject* CreateAssetWithDialog(const FString& AssetName, const FString& PackagePath, UClass* AssetClass, UFactory* Factory,
 		FName CallingContext, const bool bCallConfigureProperties) override;
 	virtual void CreateUniqueAssetName(const FString& InBasePackageName, const FString& InSuffix, FString& OutPackageName, FString& OutAssetName) const override;
+	virtual bool RenameAssets(const TArray<FAssetRenameData>& AssetsAndNames) override;
 	//~ End IAssetTools
+
+	/** The short form of CreateAssetWithDialog(), with another folder to begin with. */
+	UObject* CreateInFolder(UClass* AssetClass, UFactory* Factory, const FString& Folder, FName CallingContext = NAME_None);
 
 	const FAssetCategories& GetCategories() const { return Categories; }
 

@@ -13,9 +13,9 @@
 
 namespace NewAssetMenu
 {
-	const FAssetToolsImpl& GetTools()
+	FAssetToolsImpl& GetTools()
 	{
-		return static_cast<const FAssetToolsImpl&>(IAssetTools::Get());
+		return static_cast<FAssetToolsImpl&>(IAssetTools::Get());
 	}
 
 	TArray<UFactory*> GetFactories()
@@ -34,6 +34,13 @@ namespace NewAssetMenu
 		return Factories;
 	}
 
+	/** Those of exactly this class; null when its parents at most have some. */
+	TSharedPtr<IAssetTypeActions> FindOwnActions(const UClass* Class)
+	{
+		const TSharedPtr<IAssetTypeActions> Actions = GetTools().GetAssetTypeActionsForClass(Class).Pin();
+		return Actions.IsValid() && Actions->GetSupportedClass() == Class ? Actions : TSharedPtr<IAssetTypeActions>();
+	}
+
 	/** A definition of the class wins over type actions, these over what the factory says of itself. */
 	void AddItems(UFactory* Factory, TArray<HostAssetTools::FNewAssetItem>& Items)
 	{
@@ -47,8 +54,8 @@ namespace NewAssetMenu
 			}
 			return;
 		}
-		const TSharedPtr<IAssetTypeActions> Actions = GetTools().GetAssetTypeActionsForClass(AssetClass).Pin();
-		const bool bOwnActions = Actions.IsValid() && Actions->GetSupportedClass() == AssetClass;
+		const TSharedPtr<IAssetTypeActions> Actions = FindOwnActions(AssetClass);
+		const bool bOwnActions = Actions.IsValid();
 		const uint32 Mask = bOwnActions ? Actions->GetCategories() : uint32(EAssetTypeCategories::Misc);
 		for (const FText& Category : GetTools().GetCategories().GetDisplayNames(Mask))
 		{
@@ -84,8 +91,24 @@ TArray<HostAssetTools::FNewAssetItem> HostAssetTools::GetNewAssetMenu()
 	return Items;
 }
 
-UObject* HostAssetTools::CreateFromMenu(const FNewAssetItem& Item)
+UObject* HostAssetTools::CreateFromMenu(const FNewAssetItem& Item, const FString& Folder)
 {
 	UFactory* Factory = NewObject<UFactory>(GetTransientPackage(), Item.DefaultFactory->GetClass());
-	return IAssetTools::Get().CreateAssetWithDialog(Item.AssetClass, Factory);
+	return NewAssetMenu::GetTools().CreateInFolder(Item.AssetClass, Factory, Folder);
+}
+
+HostAssetTools::FAssetKind HostAssetTools::FindKind(const UClass* AssetClass)
+{
+	for (const UClass* Class = AssetClass; Class != nullptr; Class = Class->GetSuperClass())
+	{
+		if (const UAssetDefinition* Definition = HostAssetDefinitions::FindExact(Class))
+		{
+			return {Definition->GetAssetDisplayName(), Definition->GetAssetColor()};
+		}
+		if (const TSharedPtr<IAssetTypeActions> Actions = NewAssetMenu::FindOwnActions(Class))
+		{
+			return {Actions->GetName(), FLinearColor(Actions->GetTypeColor())};
+		}
+	}
+	return {AssetClass->GetDisplayNameText(), FLinearColor::Gray};
 }

@@ -5,11 +5,27 @@
 #include "AssetTypeCategories.h"
 #include "CoreMinimal.h"
 #include "Templates/SharedPointer.h"
+#include "UObject/WeakObjectPtrTemplates.h"
 
 class IAssetTypeActions;
 class UClass;
 class UFactory;
 class UObject;
+
+/** Another name or folder for an asset. */
+struct FAssetRenameData
+{
+	TWeakObjectPtr<UObject> Asset;
+	FString NewPackagePath; // the folder, "/Game/Dir"
+	FString NewName;
+
+	FAssetRenameData(const TWeakObjectPtr<UObject>& InAsset, const FString& InNewPackagePath, const FString& InNewName)
+		: Asset(InAsset)
+		, NewPackagePath(InNewPackagePath)
+		, NewName(InNewName)
+	{
+	}
+};
 
 /** Makes assets and knows how kinds of assets are presented. */
 class IAssetTools
@@ -63,4 +79,10 @@ public:
 	 * made "_". When that is taken, a number follows: 1, 2 …; a candidate that ends in digits counts these up, keeping leading zeros.
 	 */
 	virtual void CreateUniqueAssetName(const FString& InBasePackageName, const FString& InSuffix, FString& OutPackageName, FString& OutAssetName) const = 0;
+
+	/**
+	 * Renames or moves assets. What refers to them follows, and is saved; the renamed are saved where they had a file.
+	 * @return whether all have their new names; why one has not stands in the log, or among the problems with files
+	 */
+	virtual bool RenameAssets(const TArray<FAssetRenameData>& AssetsAndNames) = 0;
 };

@@ -32,6 +32,9 @@ namespace HostContentBrowser
 	/** The context menu of the selected assets, top to bottom. Dynamic entries are built for this call. Empty without a selection. */
 	TArray<FHostMenuEntry> GetContextMenu();
 
+	/** The same menu as a widget tree, to look at and to click in; null when there is none. */
+	TSharedPtr<SWidget> OpenContextMenu();
+
 	/** Picks an entry of that menu by its label, else by its name. Refused, with the reason, when it is not there or does not run. */
 	FHostInputResult RunContextMenuEntry(const FString& LabelOrName);
 }

@@ -50,6 +50,12 @@ TArray<FHostMenuEntry> HostContentBrowser::GetContextMenu()
 	return Menu.IsNone() ? TArray<FHostMenuEntry>() : HostToolMenus::List(Menu, MakeContext());
 }
 
+TSharedPtr<SWidget> HostContentBrowser::OpenContextMenu()
+{
+	const FName Menu = FindMenu();
+	return Menu.IsNone() ? TSharedPtr<SWidget>() : TSharedPtr<SWidget>(HostToolMenus::Open(Menu, MakeContext()));
+}
+
 FHostInputResult HostContentBrowser::RunContextMenuEntry(const FString& LabelOrName)
 {
 	if (GetSelection().IsEmpty())

@@ -13,7 +13,7 @@
 /** Something the editor wants to know before it goes on. */
 struct FHostQuestion
 {
-	FName Kind; // "Message", "SaveAsset", "ReplaceAsset", "ReadOnlyFile": what the choices and fields mean
+	FName Kind; // "Message", "SaveAsset", "ReplaceAsset", "DeleteAssets", "ReadOnlyFile": what the choices and fields mean
 	FText Title;
 	FText Message;
 	TArray<FString> Choices; // as on the buttons, first one first

@@ -67,7 +67,7 @@ namespace HostPackages
 	/** All text assets below the mounted folders, ordered by package name, ignoring case. Reads the head of every file. */
 	TArray<FStoredAsset> Scan();
 
-	/** Grows when what Scan() finds may have changed through this storage: on mounts and saves. Never 0. */
+	/** Grows when what Scan() finds may have changed through this storage: on mounts, saves and deletions. Never 0. */
 	uint64 GetStorageVersion();
 
 	//~ Loading
@@ -104,6 +104,28 @@ namespace HostPackages
 
 	/** Dirty packages that hold an asset, ordered by name: what would be lost if the editor went down now. */
 	TArray<UPackage*> GetDirtyPackages();
+
+	//~ Names and ends
+
+	/**
+	 * Packages that hold a reference to this one or to something in it, soft ones included: as they are in memory, else in their files.
+	 * Ordered by name. Reads all files.
+	 */
+	TArray<FString> FindReferencers(const FString& PackageName);
+
+	/**
+	 * Gives a package, and the asset in it, another name, which has to be free. Who refers to it refers to it by the new name from then on.
+	 * What has a file is written again, with everything else that has changed in it; then the old file goes.
+	 * @return false with the reason reported. Nothing has changed then, unless the file of somebody who refers to it could not be
+	 *         written: the old file stays for that one.
+	 */
+	bool Rename(const FString& PackageName, const FString& NewPackageName);
+
+	/** Takes the package's file away, and everything out of the package. @return false when the file could not be deleted: nothing has changed */
+	bool Delete(const FString& PackageName);
+
+	/** Takes everything out of a package; who still points at it keeps a dead object until the next collection. The file stays. */
+	void Displace(UPackage* Package);
 
 	//~ Classes with a format of their own
 

@@ -40,6 +40,9 @@ public:
 	/** A package was written to this file. */
 	void NoteWritten(const FString& File);
 
+	/** Files were deleted. */
+	void NoteRemoved() { ++Version; }
+
 	/** Packages whose files are being read: their objects may be found before their values are in. */
 	TSet<FName> Loading;
 

@@ -1,0 +1,12 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#pragma once
+
+#include "QtHeaders.h"
+
+/** The window's own pictures, drawn from Resources/Icons. */
+namespace Icons
+{
+	/** @param Name of the file, without its extension; it must be there */
+	QIcon Find(const char* Name);
+}
