@@ -106,6 +106,14 @@ bool FAssetRegistryImpl::GetAssets(const FARFilter& Filter, TArray<FAssetData>& 
 	return true;
 }
 
+bool FAssetRegistryImpl::GetAssetsByClass(FTopLevelAssetPath ClassPathName, TArray<FAssetData>& OutAssetData, bool bSearchSubClasses) const
+{
+	FARFilter Filter;
+	Filter.ClassPaths.Add(ClassPathName);
+	Filter.bRecursiveClasses = bSearchSubClasses;
+	return GetAssets(Filter, OutAssetData, true);
+}
+
 bool FAssetRegistryImpl::GetAssetsByPath(FName PackagePath, TArray<FAssetData>& OutAssetData, bool bRecursive, bool bIncludeOnlyOnDiskAssets) const
 {
 	FARFilter Filter;
@@ -113,6 +121,12 @@ bool FAssetRegistryImpl::GetAssetsByPath(FName PackagePath, TArray<FAssetData>& 
 	Filter.bRecursivePaths = bRecursive;
 	Filter.bIncludeOnlyOnDiskAssets = bIncludeOnlyOnDiskAssets;
 	return GetAssets(Filter, OutAssetData, true);
+}
+
+bool FAssetRegistryImpl::GetAllAssets(TArray<FAssetData>& OutAssetData, bool bIncludeOnlyOnDiskAssets) const
+{
+	OutAssetData.Append(Collect(bIncludeOnlyOnDiskAssets));
+	return true;
 }
 
 FAssetData FAssetRegistryImpl::GetAssetByObjectPath(const FSoftObjectPath& ObjectPath, bool bIncludeOnlyOnDiskAssets) const
@@ -123,6 +137,12 @@ FAssetData FAssetRegistryImpl::GetAssetByObjectPath(const FSoftObjectPath& Objec
 	TArray<FAssetData> Found;
 	GetAssets(Filter, Found, true);
 	return Found.IsEmpty() ? FAssetData() : Found[0];
+}
+
+void FAssetRegistryImpl::SearchAllAssets(bool)
+{
+	SearchedVersion = 0;
+	GetOnDisk();
 }
 
 void FAssetRegistryImpl::AssetCreated(UObject* NewAsset)

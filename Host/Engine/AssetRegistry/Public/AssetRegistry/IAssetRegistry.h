@@ -28,10 +28,15 @@ public:
 	 */
 	virtual bool GetAssets(const FARFilter& Filter, TArray<FAssetData>& OutAssetData, bool bSkipARFilteredAssets = true) const = 0;
 
+	virtual bool GetAssetsByClass(FTopLevelAssetPath ClassPathName, TArray<FAssetData>& OutAssetData, bool bSearchSubClasses = false) const = 0;
 	virtual bool GetAssetsByPath(FName PackagePath, TArray<FAssetData>& OutAssetData, bool bRecursive = false, bool bIncludeOnlyOnDiskAssets = false) const = 0;
+	virtual bool GetAllAssets(TArray<FAssetData>& OutAssetData, bool bIncludeOnlyOnDiskAssets = false) const = 0;
 
 	/** An invalid FAssetData when there is no such asset. */
 	virtual FAssetData GetAssetByObjectPath(const FSoftObjectPath& ObjectPath, bool bIncludeOnlyOnDiskAssets = false) const = 0;
+
+	/** Reads the mounted folders again, now. */
+	virtual void SearchAllAssets(bool bSynchronousSearch) = 0;
 
 	/** Whoever makes an asset says so, through FAssetRegistryModule::AssetCreated(). */
 	virtual void AssetCreated(UObject* NewAsset) = 0;

@@ -80,3 +80,8 @@ FString FAssetData::GetObjectPathString() const
 {
 	return PackageName.IsNone() || AssetName.IsNone() ? FString() : PackageName.ToString() + TEXT(".") + AssetName.ToString();
 }
+
+FString FAssetData::GetExportTextName() const
+{
+	return AssetClassPath.ToString() + TEXT("'") + GetObjectPathString() + TEXT("'");
+}

@@ -48,6 +48,9 @@ struct COREUOBJECT_API FAssetData
 	/** "/Game/Dir/Asset.Asset" */
 	FString GetObjectPathString() const;
 
+	/** "/Script/Module.Class'/Game/Dir/Asset.Asset'" */
+	FString GetExportTextName() const;
+
 	friend uint32 GetTypeHash(const FAssetData& AssetData)
 	{
 		return HashCombine(GetTypeHash(AssetData.PackageName), GetTypeHash(AssetData.AssetName));

@@ -40,6 +40,7 @@ struct FSoftObjectPath
 
 	/** Empty for null. */
 	FString ToString() const;
+	FString GetLongPackageName() const { return AssetPath.IsNull() ? FString() : AssetPath.GetPackageName().ToString(); }
 
 	bool IsNull() const { return AssetPath.IsNull(); }
 	void Reset();
