@@ -70,7 +70,6 @@ public:
 	EObjectFlags GetFlags() const { return ObjectFlags; }
 	bool HasAnyFlags(EObjectFlags FlagsToCheck) const { return (ObjectFlags & FlagsToCheck) != 0 || FlagsToCheck == RF_AllFlags; }
 	bool HasAllFlags(EObjectFlags FlagsToCheck) const { return (ObjectFlags & FlagsToCheck) == FlagsToCheck || FlagsToCheck == RF_AllFlags; }
-	bool HasAllFlags(EObjectFlags FlagsToCheck) const { return (ObjectFlags & FlagsToCheck) == FlagsToCheck || FlagsToCheck == RF_AllFlags; }
 	void SetFlags(EObjectFlags NewFlags) { ObjectFlags = static_cast<EObjectFlags>(ObjectFlags | NewFlags); }
 	void ClearFlags(EObjectFlags NewFlags) { ObjectFlags = static_cast<EObjectFlags>(ObjectFlags & ~NewFlags); }
 	/** Unique among living objects; used again after death. */

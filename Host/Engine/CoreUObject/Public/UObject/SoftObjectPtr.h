@@ -28,7 +28,6 @@ struct FSoftObjectPtr
 	UObject* LoadSynchronous() const;
 
 	FString ToString() const { return ObjectID.ToString(); }
-	FString GetLongPackageName() const { return ObjectID.GetLongPackageName(); }
 	bool IsNull() const { return ObjectID.IsNull(); }
 
 	bool operator==(const FSoftObjectPtr& Other) const { return ObjectID == Other.ObjectID; }
@@ -86,7 +85,6 @@ struct TSoftObjectPtr
 	T* LoadSynchronous() const { return Cast<T>(SoftObjectPtr.LoadSynchronous()); }
 
 	FString ToString() const { return SoftObjectPtr.ToString(); }
-	FString GetLongPackageName() const { return SoftObjectPtr.GetLongPackageName(); }
 	bool IsNull() const { return SoftObjectPtr.IsNull(); }
 
 	friend uint32 GetTypeHash(const TSoftObjectPtr& Ptr) { return GetTypeHash(Ptr.SoftObjectPtr); }
