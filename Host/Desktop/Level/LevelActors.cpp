@@ -12,6 +12,7 @@
 
 namespace LevelActors
 {
+	static const int32 MostWithoutRest = 2000; // actors; a busy machine must not make small levels lag behind
 	static const int RestPerLook = 20; // so many times as long as a look takes, the next one waits
 
 	static FText ToTitle(const QString& Text)
@@ -178,7 +179,8 @@ bool FLevelWatch::HasChanged()
 	const bool bChanged = !bLooked || Stamp != LastStamp;
 	LastStamp = Stamp;
 	bLooked = true;
-	CostOfLook = Clock.nsecsElapsed();
+	const bool bLarge = LevelActors::GetAll().Num() > LevelActors::MostWithoutRest;
+	CostOfLook = bLarge ? Clock.nsecsElapsed() : 0;
 	SinceLook.start();
 	return bChanged;
 }
