@@ -58,6 +58,9 @@ protected:
 	void Press(QKeySequence Keys)
 	{
 		const QKeyCombination Key = Keys[0];
+		// Menus and dialogs took the focus; a person clicks into the list.
+		QApplication::setActiveWindow(GetList().window());
+		GetList().setFocus();
 		QTest::keyClick(&GetList(), Key.key(), Key.keyboardModifiers());
 		Let(0.0);
 	}
@@ -119,7 +122,7 @@ protected:
 
 	bool HasFile(const char* Name) const { return Folder.Exists(std::string("HarborTower/Content/") + Name + ".uasset.json"); }
 
-	static UVelmorantConfiguratorDataAsset& LoadConfigurator(const TCHAR* Package)
+	UVelmorantConfiguratorDataAsset& LoadConfigurator(const TCHAR* Package)
 	{
 		return *CastChecked<UVelmorantConfiguratorDataAsset>(HostPackages::LoadAsset(Package));
 	}

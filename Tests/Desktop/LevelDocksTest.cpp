@@ -15,7 +15,7 @@
 
 namespace LevelDocksTest
 {
-	static AActor* FindActor(const char* Label)
+	AActor* FindActor(const char* Label)
 	{
 		const FString Wanted = QtText::ToEditor(QString::fromUtf8(Label));
 		for (AActor* const Actor : LevelActors::GetAll())
@@ -28,7 +28,7 @@ namespace LevelDocksTest
 		return nullptr;
 	}
 
-	static QStringList GetSelectedLabels()
+	QStringList GetSelectedLabels()
 	{
 		QStringList Labels;
 		for (const AActor* const Actor : LevelActors::GetSelected())
@@ -39,7 +39,7 @@ namespace LevelDocksTest
 		return Labels;
 	}
 
-	static int CountVolumes()
+	int CountVolumes()
 	{
 		int Count = 0;
 		for (TActorIterator<AUnitVolumeActor> Each(LevelActors::GetWorld()); Each; ++Each)
@@ -49,13 +49,13 @@ namespace LevelDocksTest
 		return Count;
 	}
 
-	static QTreeWidgetItem* FindRow(const QTreeWidget& Tree, const QString& Text)
+	QTreeWidgetItem* FindRow(const QTreeWidget& Tree, const QString& Text)
 	{
 		const QList<QTreeWidgetItem*> Found = Tree.findItems(Text, Qt::MatchExactly | Qt::MatchRecursive);
 		return Found.isEmpty() ? nullptr : Found.first();
 	}
 
-	static QStringList GetSelectedRows(const QTreeWidget& Tree)
+	QStringList GetSelectedRows(const QTreeWidget& Tree)
 	{
 		QStringList Rows;
 		for (const QTreeWidgetItem* const Item : Tree.selectedItems())
@@ -78,7 +78,7 @@ namespace LevelDocksTest
 		throw std::runtime_error("the plan does not show " + Label.toStdString());
 	}
 
-	static void Drop(FPlanView& View, const QString& Key, QPointF Point)
+	void Drop(FPlanView& View, const QString& Key, QPointF Point)
 	{
 		QMimeData Data;
 		Data.setData(QLatin1String(LevelPlacement::MimeType), Key.toUtf8());

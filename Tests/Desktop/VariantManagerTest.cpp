@@ -32,7 +32,7 @@ protected:
 		Show();
 	}
 
-	static FVelmorantConfigGroup MakeGroup(const TCHAR* Name, const TArray<FString>& Products)
+	FVelmorantConfigGroup MakeGroup(const TCHAR* Name, const TArray<FString>& Products)
 	{
 		FVelmorantConfigGroup Group;
 		Group.Name = Name;
@@ -74,7 +74,7 @@ protected:
 		return Lines;
 	}
 
-	static QString Describe(const QTreeWidgetItem& Item)
+	QString Describe(const QTreeWidgetItem& Item)
 	{
 		return Item.text(1).isEmpty() ? Item.text(0) : Item.text(0) + QLatin1Char('=') + Item.text(1);
 	}

@@ -21,12 +21,12 @@ namespace ContentBrowserDock
 	static const int SearchWidth = 260;
 
 	/** The project's own folder is called as designers know it. */
-	static QString GetFolderName(const QString& Folder)
+	QString GetFolderName(const QString& Folder)
 	{
 		return Folder == ProjectRoot ? QObject::tr("Content") : Folder.mid(Folder.lastIndexOf(QLatin1Char('/')) + 1);
 	}
 
-	static QString GetParent(const QString& Folder)
+	QString GetParent(const QString& Folder)
 	{
 		return Folder.left(Folder.lastIndexOf(QLatin1Char('/')));
 	}

@@ -132,7 +132,7 @@ TEST_F(FAutomation, NamesFileAndLine)
 	const HostAutomation::FResult Result = Run([](FAutomationTestBase& Sample) { return Sample.TestTrue(TEXT("no"), false); });
 	ASSERT_EQ(Result.Info.GetEntries().Num(), 1);
 	EXPECT_TRUE(Result.Info.GetEntries()[0].Filename.EndsWith(TEXT("Core/AutomationTest.cpp")));
-	EXPECT_EQ(Result.Info.GetEntries()[0].LineNumber, __LINE__ - 4);
+	EXPECT_EQ(Result.Info.GetEntries()[0].LineNumber, __LINE__ - 3);
 }
 
 TEST_F(FAutomation, LatentCommandsRunInTurnAndTheirChecksCount)
