@@ -57,7 +57,7 @@ namespace PlacementDock
 		return QIcon(Blank);
 	}
 
-	static const FSlateBrush* FindIcon(const FPlaceableItem& Item)
+	const FSlateBrush* FindIcon(const FPlaceableItem& Item)
 	{
 		const FName Own = Item.ClassIconBrushOverride;
 		if (!Own.IsNone())

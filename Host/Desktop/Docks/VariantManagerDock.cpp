@@ -38,7 +38,7 @@ namespace VariantManagerDock
 		const char* Why;
 	};
 
-	static const FStateLook& GetLook(EVariantState State)
+	const FStateLook& GetLook(EVariantState State)
 	{
 		static const FStateLook Looks[] = {
 			{EVariantState::Unknown, nullptr, "", "There is no configurator to compare with"},

@@ -142,3 +142,8 @@ void FContentCatalog::CollectFolders()
 	Folders = QStringList(All.begin(), All.end());
 	Folders.sort(Qt::CaseInsensitive);
 }
+
+bool FContentCatalog::Holds(const QString& Package) const
+{
+	return std::any_of(Items.begin(), Items.end(), [&Package](const FContentItem& Item) { return Item.Package == Package; });
+}
