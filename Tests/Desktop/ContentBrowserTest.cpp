@@ -10,7 +10,7 @@
 #include "UnrealEdMisc.h"
 #include "VelmorantConfiguratorDataAsset.h"
 
-class FContentBrowserTest : public FDesktopTest
+class ContentBrowserDock : public FDesktopTest
 {
 protected:
 	QListView& GetList() { return Find<QListView>("ContentItems"); }
@@ -58,6 +58,9 @@ protected:
 	void Press(QKeySequence Keys)
 	{
 		const QKeyCombination Key = Keys[0];
+		// Menus and dialogs took the focus; a person clicks into the list.
+		QApplication::setActiveWindow(GetList().window());
+		GetList().setFocus();
 		QTest::keyClick(&GetList(), Key.key(), Key.keyboardModifiers());
 		Let(0.0);
 	}
@@ -119,13 +122,13 @@ protected:
 
 	bool HasFile(const char* Name) const { return Folder.Exists(std::string("HarborTower/Content/") + Name + ".uasset.json"); }
 
-	static UVelmorantConfiguratorDataAsset& LoadConfigurator(const TCHAR* Package)
+	UVelmorantConfiguratorDataAsset& LoadConfigurator(const TCHAR* Package)
 	{
 		return *CastChecked<UVelmorantConfiguratorDataAsset>(HostPackages::LoadAsset(Package));
 	}
 };
 
-TEST_F(FContentBrowserTest, AnAssetFromTheMenuIsMarkedUntilItIsSavedAndGoneOtherwise)
+TEST_F(ContentBrowserDock, AnAssetFromTheMenuIsMarkedUntilItIsSavedAndGoneOtherwise)
 {
 	Open();
 	Add(QStringLiteral("ConfiguratorDataAssetFactory"), QStringLiteral("Kept"));
@@ -148,7 +151,7 @@ TEST_F(FContentBrowserTest, AnAssetFromTheMenuIsMarkedUntilItIsSavedAndGoneOther
 	EXPECT_FALSE(IsUnsaved(QStringLiteral("Kept")));
 }
 
-TEST_F(FContentBrowserTest, TheSaveDialogSaysWhatIsWrongWithAName)
+TEST_F(ContentBrowserDock, TheSaveDialogSaysWhatIsWrongWithAName)
 {
 	Open();
 	Add(QStringLiteral("ConfiguratorDataAssetFactory"), QStringLiteral("Taken"));
@@ -183,7 +186,7 @@ TEST_F(FContentBrowserTest, TheSaveDialogSaysWhatIsWrongWithAName)
 	EXPECT_FALSE(GetNames().contains(QStringLiteral("NewVelmorantConfiguratorDataAsset")));
 }
 
-TEST_F(FContentBrowserTest, ARenamedAssetKeepsWhatRefersToItAndARefusalSaysWhy)
+TEST_F(ContentBrowserDock, ARenamedAssetKeepsWhatRefersToItAndARefusalSaysWhy)
 {
 	Open();
 	Add(QStringLiteral("ConfiguratorDataAssetFactory"), QStringLiteral("Garden"));
@@ -208,7 +211,7 @@ TEST_F(FContentBrowserTest, ARenamedAssetKeepsWhatRefersToItAndARefusalSaysWhy)
 	EXPECT_EQ(QtText::From(LoadConfigurator(TEXT("/Game/Garden")).LevelVariantSets.ToString()), QStringLiteral("/Game/Variants.Variants"));
 }
 
-TEST_F(FContentBrowserTest, DeletingAsksAndNamesWhatStillRefersToTheAsset)
+TEST_F(ContentBrowserDock, DeletingAsksAndNamesWhatStillRefersToTheAsset)
 {
 	Open();
 	Add(QStringLiteral("ConfiguratorDataAssetFactory"), QStringLiteral("Garden"));
@@ -234,7 +237,7 @@ TEST_F(FContentBrowserTest, DeletingAsksAndNamesWhatStillRefersToTheAsset)
 	EXPECT_TRUE(HostContentBrowser::GetSelection().IsEmpty()) << "nobody acts on what is gone";
 }
 
-TEST_F(FContentBrowserTest, SearchGoesBelowTheFolderAndAnEmptyListSaysWhy)
+TEST_F(ContentBrowserDock, SearchGoesBelowTheFolderAndAnEmptyListSaysWhy)
 {
 	Open();
 	const QStringList Whole = GetNames();
@@ -258,7 +261,7 @@ TEST_F(FContentBrowserTest, SearchGoesBelowTheFolderAndAnEmptyListSaysWhy)
 	EXPECT_EQ(GetList().currentIndex().data().toString(), QStringLiteral("Maps"));
 }
 
-TEST_F(FContentBrowserTest, FollowsWhatOthersSelect)
+TEST_F(ContentBrowserDock, FollowsWhatOthersSelect)
 {
 	Open();
 	HostContentBrowser::SetSelection({FAssetData(HostPackages::LoadAsset(TEXT("/Game/Maps/HarborTower")))});

@@ -3,9 +3,9 @@
 
 #include "DesktopFixture.h"
 
-using FDemoWayTest = FDesktopTest;
+using WayOfTheDemo = FDesktopTest;
 
-TEST_F(FDemoWayTest, LeadsFromTheMissingProfileToTheChosenProject)
+TEST_F(WayOfTheDemo, LeadsFromTheMissingProfileToTheChosenProject)
 {
 	Open();
 
@@ -60,7 +60,7 @@ TEST_F(FDemoWayTest, LeadsFromTheMissingProfileToTheChosenProject)
 	EXPECT_FALSE(TextsIn(List).contains(QStringLiteral("Torre Alba")));
 }
 
-TEST_F(FDemoWayTest, KeepsWhatAPersonTypesWhileFramesPass)
+TEST_F(WayOfTheDemo, KeepsWhatAPersonTypesWhileFramesPass)
 {
 	Open();
 	Click("VelmorantMenu");

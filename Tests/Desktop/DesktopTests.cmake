@@ -23,3 +23,10 @@ target_include_directories(DesktopTests PRIVATE ${CMAKE_SOURCE_DIR}/Tests/Suppor
 add_dependencies(DesktopTests velmorant velmorant-editor)
 add_test(NAME DesktopTests COMMAND DesktopTests --gtest_brief=1)
 set_tests_properties(DesktopTests PROPERTIES ENVIRONMENT QT_QPA_PLATFORM=offscreen)
+
+# Once on a real X server, whose focus is not that of the platform that draws nowhere.
+find_program(XVFB_RUN xvfb-run)
+if(XVFB_RUN)
+	add_test(NAME DesktopTestsOnX COMMAND ${XVFB_RUN} --auto-servernum $<TARGET_FILE:DesktopTests> --gtest_brief=1 --gtest_filter=WayOfTheDemo.*:QuestionDialogs.*)
+	set_tests_properties(DesktopTestsOnX PROPERTIES ENVIRONMENT QT_QPA_PLATFORM=xcb)
+endif()

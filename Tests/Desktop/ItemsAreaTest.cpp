@@ -35,10 +35,10 @@ namespace ItemsAreaTest
 		FBrushes Brushes;
 	};
 
-	class FLongList : public testing::Test
+	class LongList : public testing::Test
 	{
 	protected:
-		FLongList()
+		LongList()
 		{
 			Theme::Apply(Theme::EKind::Dark);
 			for (int32 Index = 0; Index < NumItems; ++Index)
@@ -99,9 +99,9 @@ namespace ItemsAreaTest
 	};
 }
 
-using ItemsAreaTest::FLongList;
+using ItemsAreaTest::LongList;
 
-TEST_F(FLongList, MakesRowsForWhatIsSeenAlone)
+TEST_F(LongList, MakesRowsForWhatIsSeenAlone)
 {
 	const QStringList Seen = GetSeen();
 	ASSERT_FALSE(Seen.isEmpty());
@@ -114,7 +114,7 @@ TEST_F(FLongList, MakesRowsForWhatIsSeenAlone)
 	EXPECT_LT(NumRowsMade, 200);
 }
 
-TEST_F(FLongList, FollowsTheKeyboardAndTheEditor)
+TEST_F(LongList, FollowsTheKeyboardAndTheEditor)
 {
 	QTest::keyClick(&GetArea(), Qt::Key_End);
 	Frame();
@@ -131,7 +131,7 @@ TEST_F(FLongList, FollowsTheKeyboardAndTheEditor)
 	EXPECT_TRUE(GetSeen().contains(QStringLiteral("Unit 000500"))) << "the editor may scroll as well";
 }
 
-TEST_F(FLongList, SelectsTheRowThatIsClicked)
+TEST_F(LongList, SelectsTheRowThatIsClicked)
 {
 	for (QWidget* const Each : Root->findChildren<QWidget*>())
 	{

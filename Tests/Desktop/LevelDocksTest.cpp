@@ -15,7 +15,7 @@
 
 namespace LevelDocksTest
 {
-	static AActor* FindActor(const char* Label)
+	AActor* FindActor(const char* Label)
 	{
 		const FString Wanted = QtText::ToEditor(QString::fromUtf8(Label));
 		for (AActor* const Actor : LevelActors::GetAll())
@@ -28,7 +28,7 @@ namespace LevelDocksTest
 		return nullptr;
 	}
 
-	static QStringList GetSelectedLabels()
+	QStringList GetSelectedLabels()
 	{
 		QStringList Labels;
 		for (const AActor* const Actor : LevelActors::GetSelected())
@@ -39,7 +39,7 @@ namespace LevelDocksTest
 		return Labels;
 	}
 
-	static int CountVolumes()
+	int CountVolumes()
 	{
 		int Count = 0;
 		for (TActorIterator<AUnitVolumeActor> Each(LevelActors::GetWorld()); Each; ++Each)
@@ -49,13 +49,13 @@ namespace LevelDocksTest
 		return Count;
 	}
 
-	static QTreeWidgetItem* FindRow(const QTreeWidget& Tree, const QString& Text)
+	QTreeWidgetItem* FindRow(const QTreeWidget& Tree, const QString& Text)
 	{
 		const QList<QTreeWidgetItem*> Found = Tree.findItems(Text, Qt::MatchExactly | Qt::MatchRecursive);
 		return Found.isEmpty() ? nullptr : Found.first();
 	}
 
-	static QStringList GetSelectedRows(const QTreeWidget& Tree)
+	QStringList GetSelectedRows(const QTreeWidget& Tree)
 	{
 		QStringList Rows;
 		for (const QTreeWidgetItem* const Item : Tree.selectedItems())
@@ -66,7 +66,7 @@ namespace LevelDocksTest
 		return Rows;
 	}
 
-	static const FPlanShape& FindShape(const FPlanView& View, const QString& Label)
+	const FPlanShape& FindShape(const FPlanView& View, const QString& Label)
 	{
 		for (const FPlanShape& Shape : View.GetPlan().GetShapes())
 		{
@@ -78,7 +78,7 @@ namespace LevelDocksTest
 		throw std::runtime_error("the plan does not show " + Label.toStdString());
 	}
 
-	static void Drop(FPlanView& View, const QString& Key, QPointF Point)
+	void Drop(FPlanView& View, const QString& Key, QPointF Point)
 	{
 		QMimeData Data;
 		Data.setData(QLatin1String(LevelPlacement::MimeType), Key.toUtf8());
@@ -91,9 +91,9 @@ namespace LevelDocksTest
 }
 
 using namespace LevelDocksTest;
-using FLevelDocksTest = FDesktopTest;
+using LevelDocks = FDesktopTest;
 
-TEST_F(FLevelDocksTest, ShareTheSelectionWithTheEditor)
+TEST_F(LevelDocks, ShareTheSelectionWithTheEditor)
 {
 	Open();
 	QTreeWidget& Outliner = Find<QTreeWidget>("Outliner");
@@ -135,7 +135,7 @@ TEST_F(FLevelDocksTest, ShareTheSelectionWithTheEditor)
 	EXPECT_EQ(GetSelectedRows(Outliner), QStringList());
 }
 
-TEST_F(FLevelDocksTest, PlaceWhatIsDroppedIntoThePlan)
+TEST_F(LevelDocks, PlaceWhatIsDroppedIntoThePlan)
 {
 	Open();
 	FPlanView& Plan = static_cast<FPlanView&>(Find("PlanView"));
@@ -172,7 +172,7 @@ TEST_F(FLevelDocksTest, PlaceWhatIsDroppedIntoThePlan)
 	EXPECT_TRUE(GetWindow().statusBar()->currentMessage().startsWith(QStringLiteral("Not placed: "))) << GetWindow().statusBar()->currentMessage().toStdString();
 }
 
-TEST_F(FLevelDocksTest, ShowWhichVolumesAreAssignedAndDuplicated)
+TEST_F(LevelDocks, ShowWhichVolumesAreAssignedAndDuplicated)
 {
 	Open();
 	FPlanView& Plan = static_cast<FPlanView&>(Find("PlanView"));
@@ -200,7 +200,7 @@ TEST_F(FLevelDocksTest, ShowWhichVolumesAreAssignedAndDuplicated)
 	}
 }
 
-TEST_F(FLevelDocksTest, StandOnFloorsToScale)
+TEST_F(LevelDocks, StandOnFloorsToScale)
 {
 	Open();
 	FPlanView& Plan = static_cast<FPlanView&>(Find("PlanView"));
@@ -231,7 +231,7 @@ TEST_F(FLevelDocksTest, StandOnFloorsToScale)
 	EXPECT_EQ(GetSelectedLabels(), QStringList({QStringLiteral("Torre Alba 1º A")}));
 }
 
-TEST_F(FLevelDocksTest, FollowTheCameraAndKeepWhatIsUnderTheWheel)
+TEST_F(LevelDocks, FollowTheCameraAndKeepWhatIsUnderTheWheel)
 {
 	Open();
 	FPlanView& Plan = static_cast<FPlanView&>(Find("PlanView"));
@@ -249,7 +249,7 @@ TEST_F(FLevelDocksTest, FollowTheCameraAndKeepWhatIsUnderTheWheel)
 	EXPECT_TRUE(Plan.rect().contains(Plan.ToView(QPointF(0.0, 0.0)).toPoint()));
 }
 
-TEST_F(FLevelDocksTest, SearchRenameAndDelete)
+TEST_F(LevelDocks, SearchRenameAndDelete)
 {
 	Open();
 	QTreeWidget& Outliner = Find<QTreeWidget>("Outliner");
@@ -288,7 +288,7 @@ TEST_F(FLevelDocksTest, SearchRenameAndDelete)
 	EXPECT_NE(FindRow(Outliner, QStringLiteral("Show flat")), nullptr);
 }
 
-TEST_F(FLevelDocksTest, TellTheFloorsOfTheMinimap)
+TEST_F(LevelDocks, TellTheFloorsOfTheMinimap)
 {
 	Open();
 	QListWidget& Floors = Find<QListWidget>("MinimapFloors");
@@ -304,7 +304,7 @@ TEST_F(FLevelDocksTest, TellTheFloorsOfTheMinimap)
 	EXPECT_TRUE(Find<QLabel>("MinimapText").text().startsWith(QStringLiteral("No floor is active")));
 }
 
-TEST_F(FLevelDocksTest, WelcomeIsDismissedAndOpenedAgain)
+TEST_F(LevelDocks, WelcomeIsDismissedAndOpenedAgain)
 {
 	Open();
 	QAction* const Again = GetWindow().findChild<QAction*>(QStringLiteral("HelpWelcome"));
@@ -318,7 +318,7 @@ TEST_F(FLevelDocksTest, WelcomeIsDismissedAndOpenedAgain)
 	EXPECT_NE(FindShown("WelcomeClose"), nullptr);
 }
 
-TEST_F(FLevelDocksTest, TellTheCollisionSetUpAsTheCheckDoes)
+TEST_F(LevelDocks, TellTheCollisionSetUpAsTheCheckDoes)
 {
 	Open();
 	for (QDockWidget* const Dock : GetWindow().findChildren<QDockWidget*>(QStringLiteral("ProjectSetup")))

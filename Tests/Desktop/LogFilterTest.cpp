@@ -7,12 +7,12 @@
 
 namespace LogFilterTest
 {
-	static FHostLogLine Line(const TCHAR* Category, ELogVerbosity::Type Verbosity, const TCHAR* Text)
+	FHostLogLine Line(const TCHAR* Category, ELogVerbosity::Type Verbosity, const TCHAR* Text)
 	{
 		return FHostLogLine{FName(Category), Verbosity, Text};
 	}
 
-	static std::vector<std::string> TextsOf(const FLogFilter& Filter)
+	std::vector<std::string> TextsOf(const FLogFilter& Filter)
 	{
 		std::vector<std::string> Texts;
 		for (const FHostLogLine& Each : Filter.GetLines())

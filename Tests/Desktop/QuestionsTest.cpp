@@ -37,9 +37,9 @@ namespace QuestionsTest
 	}
 }
 
-using FQuestionsTest = FDesktopTest;
+using QuestionDialogs = FDesktopTest;
 
-TEST_F(FQuestionsTest, TakeChoiceAndFieldsFromTheDialog)
+TEST_F(QuestionDialogs, TakeChoiceAndFieldsFromTheDialog)
 {
 	using namespace QuestionsTest;
 	struct FCase
@@ -70,7 +70,7 @@ TEST_F(FQuestionsTest, TakeChoiceAndFieldsFromTheDialog)
 	}
 }
 
-TEST_F(FQuestionsTest, LetTimeStandWhileOneIsOpen)
+TEST_F(QuestionDialogs, LetTimeStandWhileOneIsOpen)
 {
 	using namespace QuestionsTest;
 	Open();

@@ -13,7 +13,7 @@
 #include "VelmorantConfiguratorDataAsset.h"
 #include "VelmorantEditorUtilitiesLibrary.h"
 
-class FVariantManagerTest : public FDesktopTest
+class VariantManagerDock : public FDesktopTest
 {
 protected:
 	/** A configurator with one room and two groups, and the level variant sets that the toolkit makes of it. */
@@ -32,7 +32,7 @@ protected:
 		Show();
 	}
 
-	static FVelmorantConfigGroup MakeGroup(const TCHAR* Name, const TArray<FString>& Products)
+	FVelmorantConfigGroup MakeGroup(const TCHAR* Name, const TArray<FString>& Products)
 	{
 		FVelmorantConfigGroup Group;
 		Group.Name = Name;
@@ -74,7 +74,7 @@ protected:
 		return Lines;
 	}
 
-	static QString Describe(const QTreeWidgetItem& Item)
+	QString Describe(const QTreeWidgetItem& Item)
 	{
 		return Item.text(1).isEmpty() ? Item.text(0) : Item.text(0) + QLatin1Char('=') + Item.text(1);
 	}
@@ -83,7 +83,7 @@ protected:
 	ULevelVariantSets* Sets = nullptr;
 };
 
-TEST_F(FVariantManagerTest, MarksWhatTheConfiguratorHasAndTheSetsHaveNotAndTheOtherWayRound)
+TEST_F(VariantManagerDock, MarksWhatTheConfiguratorHasAndTheSetsHaveNotAndTheOtherWayRound)
 {
 	Open();
 	Make();
@@ -113,7 +113,7 @@ TEST_F(FVariantManagerTest, MarksWhatTheConfiguratorHasAndTheSetsHaveNotAndTheOt
 	EXPECT_EQ(Read(), (QStringList{Floor + QStringLiteral(": Stone=stale"), Front + QStringLiteral("=stale: White=stale")}));
 }
 
-TEST_F(FVariantManagerTest, ANamesakeBehindAnotherIsNeverFound)
+TEST_F(VariantManagerDock, ANamesakeBehindAnotherIsNeverFound)
 {
 	Open();
 	Make();
@@ -126,7 +126,7 @@ TEST_F(FVariantManagerTest, ANamesakeBehindAnotherIsNeverFound)
 	EXPECT_TRUE(Lines[2].contains(QStringLiteral("=stale"))) << Lines[2].toStdString();
 }
 
-TEST_F(FVariantManagerTest, SaysWhyThereIsNothingAndTakesNoSidesWithoutAConfigurator)
+TEST_F(VariantManagerDock, SaysWhyThereIsNothingAndTakesNoSidesWithoutAConfigurator)
 {
 	Open();
 	Show();

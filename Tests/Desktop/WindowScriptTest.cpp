@@ -19,7 +19,7 @@ namespace WindowScriptTest
 	};
 
 	/** Runs a program with a copy of the sample and a home of its own. */
-	FRun Run(const char* Program, const FTemporaryFolder& Folder, const QStringList& Arguments)
+	FRun RunProgram(const char* Program, const FTemporaryFolder& Folder, const QStringList& Arguments)
 	{
 		QProcess Process;
 		QProcessEnvironment Environment = QProcessEnvironment::systemEnvironment();
@@ -54,10 +54,10 @@ TEST(WindowScript, ReadsWordForWordWhatItReadsWithoutAWindow)
 		SCOPED_TRACE(Script);
 		const QString File = QStringLiteral(VELMORANT_SOURCE_DIR "/Samples/%1.velscript").arg(QLatin1String(Script));
 		const FTemporaryFolder Without;
-		const FRun Expected = Run("velmorant", Without, {QStringLiteral("run"), CopySample(Without), File});
+		const FRun Expected = RunProgram("velmorant", Without, {QStringLiteral("run"), CopySample(Without), File});
 		ASSERT_EQ(Expected.Status, 0) << Expected.Errors.toStdString();
 		const FTemporaryFolder With;
-		const FRun Found = Run("velmorant-editor", With, {CopySample(With), QStringLiteral("--script"), File});
+		const FRun Found = RunProgram("velmorant-editor", With, {CopySample(With), QStringLiteral("--script"), File});
 		EXPECT_EQ(Found.Status, 0) << Found.Errors.toStdString();
 		EXPECT_EQ(Found.Output.toStdString(), Expected.Output.toStdString());
 	}
@@ -70,10 +70,10 @@ TEST(WindowScript, EndsAsItDoesWithoutAWindow)
 	const QString Project = CopySample(Folder);
 	Folder.Write("Fails.velscript", "expect actors UnitVolumeActor 3\n");
 	const QString Script = QString::fromStdString(Folder.GetNative("Fails.velscript").string());
-	EXPECT_EQ(Run("velmorant-editor", Folder, {Project, QStringLiteral("--script"), Script}).Status, 1) << "an expectation that does not hold";
-	EXPECT_EQ(Run("velmorant-editor", Folder, {Project, QStringLiteral("--script"), Script + QStringLiteral("x")}).Status, 3) << "no such script";
-	EXPECT_EQ(Run("velmorant-editor", Folder, {QStringLiteral("--theme"), QStringLiteral("blue"), Project}).Status, 2) << "no such theme";
-	const FRun Missing = Run("velmorant-editor", Folder, {Project, QStringLiteral("--service"), QStringLiteral("nowhere.json")});
+	EXPECT_EQ(RunProgram("velmorant-editor", Folder, {Project, QStringLiteral("--script"), Script}).Status, 1) << "an expectation that does not hold";
+	EXPECT_EQ(RunProgram("velmorant-editor", Folder, {Project, QStringLiteral("--script"), Script + QStringLiteral("x")}).Status, 3) << "no such script";
+	EXPECT_EQ(RunProgram("velmorant-editor", Folder, {QStringLiteral("--theme"), QStringLiteral("blue"), Project}).Status, 2) << "no such theme";
+	const FRun Missing = RunProgram("velmorant-editor", Folder, {Project, QStringLiteral("--service"), QStringLiteral("nowhere.json")});
 	EXPECT_EQ(Missing.Status, 3);
 	EXPECT_TRUE(Missing.Errors.contains("nowhere.json")) << Missing.Errors.toStdString();
 }
@@ -86,7 +86,7 @@ TEST(WindowScript, LeavesAPictureOfEachPart)
 	Folder.Write("Parts.velscript", "heading \"The first part\"\nwait 1\nheading \"And more\"\nwait 1\n");
 	const QString Script = QString::fromStdString(Folder.GetNative("Parts.velscript").string());
 	const QString Pictures = QString::fromStdString(Folder.GetNative("Pictures").string());
-	const FRun Drawn = Run("velmorant-editor", Folder, {Project, QStringLiteral("--script"), Script, QStringLiteral("--screenshot"), Pictures});
+	const FRun Drawn = RunProgram("velmorant-editor", Folder, {Project, QStringLiteral("--script"), Script, QStringLiteral("--screenshot"), Pictures});
 	ASSERT_EQ(Drawn.Status, 0) << Drawn.Errors.toStdString();
 	for (const char* Name : {"/01-the-first-part.png", "/02-and-more.png"})
 	{

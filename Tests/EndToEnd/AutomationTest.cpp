@@ -9,7 +9,7 @@ using testing::HasSubstr;
 using testing::Not;
 
 /** The command that runs the suite, its reports, and the comparison with those of an engine. */
-class FAutomationCommand : public FProjectOnDisk
+class AutomationRuns : public FProjectOnDisk
 {
 protected:
 	FProgramResult Run(std::vector<std::string> Arguments) const
@@ -34,11 +34,11 @@ protected:
 		return Run({GetProject(), Filter, "--compare", Folder.GetNative("Engine").string()});
 	}
 
-	static inline const std::string Filter = "Engine.Delegates+Engine.Assertions";
+	static inline const std::string Filter = "Engine.Delegates+Engine.Ensure";
 	static inline const std::string OfOrder = "Belief: order of a native broadcast = 321";
 };
 
-TEST_F(FAutomationCommand, RunsTheSuiteAndLeavesTheProjectAsItWas)
+TEST_F(AutomationRuns, RunsTheSuiteAndLeavesTheProjectAsItWas)
 {
 	CopySample();
 	const FFolderState Before = LookAtFolder(Folder.GetNative("Project"));
@@ -53,7 +53,7 @@ TEST_F(FAutomationCommand, RunsTheSuiteAndLeavesTheProjectAsItWas)
 	}
 }
 
-TEST_F(FAutomationCommand, ExportsWhatItRan)
+TEST_F(AutomationRuns, ExportsWhatItRan)
 {
 	const std::string Report = ExportWith();
 	EXPECT_TRUE(Report.starts_with("\xEF\xBB\xBF{")) << Report.substr(0, 20);
@@ -67,7 +67,7 @@ TEST_F(FAutomationCommand, ExportsWhatItRan)
 	EXPECT_THAT(List.Output, HasSubstr("Velmorant.Engine.Delegates.Broadcast\n"));
 }
 
-TEST_F(FAutomationCommand, ComparesAnEnginesRunWithItsOwn)
+TEST_F(AutomationRuns, ComparesAnEnginesRunWithItsOwn)
 {
 	struct FCase
 	{
@@ -98,7 +98,7 @@ TEST_F(FAutomationCommand, ComparesAnEnginesRunWithItsOwn)
 	}
 }
 
-TEST_F(FAutomationCommand, RefusesReportsThatAreNone)
+TEST_F(AutomationRuns, RefusesReportsThatAreNone)
 {
 	const std::string Whole = ExportWith();
 	struct FCase
@@ -127,7 +127,7 @@ TEST_F(FAutomationCommand, RefusesReportsThatAreNone)
 	EXPECT_THAT(Missing.Errors, HasSubstr("There is no such report"));
 }
 
-TEST_F(FAutomationCommand, RefusesWhatItCannotRun)
+TEST_F(AutomationRuns, RefusesWhatItCannotRun)
 {
 	MakeProject();
 	EXPECT_EQ(Run({}).ExitStatus, 2);

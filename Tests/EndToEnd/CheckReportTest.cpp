@@ -217,8 +217,8 @@ TEST_F(CheckReports, DifferencesAreThoseThatPatchReads)
 		{"two lines taken out, far apart", "x\n" + Ten + "y\n", Ten, Names + "@@ -1,4 +1,3 @@\n-x\n 1\n 2\n 3\n@@ -9,4 +8,3 @@\n 8\n 9\n 10\n-y\n"},
 		{"six lines between are one piece", "1\n2\n3\n4\n5\n6\n", "x\n1\n2\n3\n4\n5\n6\ny\n", Names + "@@ -1,6 +1,8 @@\n+x\n 1\n 2\n 3\n 4\n 5\n 6\n+y\n"},
 		{"seven are two", "1\n2\n3\n4\n5\n6\n7\n", "x\n1\n2\n3\n4\n5\n6\n7\ny\n", Names + "@@ -1,3 +1,4 @@\n+x\n 1\n 2\n 3\n@@ -5,3 +6,4 @@\n 5\n 6\n 7\n+y\n"},
-		{"changes of both kinds are one", "a\nb\nc\nd\ne\n", "a\nx\nc\ny\nz\ne\n", Names + "@@ -1,5 +1,6 @@\n a\n-b\n-c\n-d\n+x\n+c\n+y\n+z\n e\n"},
-		{"as many lines before and after", "a\nb\n", "b\na\n", Names + "@@ -1,2 +1,2 @@\n-a\n-b\n+b\n+a\n"},
+		{"changes of both kinds are one", "a\nb\nc\nd\ne\n", "a\nx\nc\ny\nz\ne\n", Names + "@@ -1,5 +1,6 @@\n a\n-b\n+x\n c\n-d\n+y\n+z\n e\n"},
+		{"as many lines before and after", "a\nb\n", "b\na\n", Names + "@@ -1,2 +1,2 @@\n-a\n b\n+a\n"},
 		{"a second copy of a line", "a\nb\n", "a\nb\na\nb\n", Names + "@@ -1,2 +1,4 @@\n a\n b\n+a\n+b\n"},
 		{"a last line without end", "a", "a\n", Names + "@@ -1 +1 @@\n-a\n\\ No newline at end of file\n+a\n"},
 	};

@@ -106,7 +106,7 @@ TEST(EditorTexts, WhatIsFormattedHasTheKeysThatTranslationsKnow)
 {
 	// Once formatted, a text no longer tells its key.
 	std::vector<std::string> Keys;
-	for (const std::filesystem::path& File : SourceText::FindSources(SourceText::Root / "Source"))
+	for (const std::filesystem::path& File : SourceText::FindSources(SourceText::Root / "Source/VelmorantProEditor"))
 	{
 		const std::string Text = SourceText::Read(File);
 		const std::vector<std::string> Namespace = SourceText::FindAll(Text, std::regex("#define LOCTEXT_NAMESPACE \"(\\w+)\""));

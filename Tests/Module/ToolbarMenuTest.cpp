@@ -23,6 +23,8 @@
 #include "WidgetSearch.h"
 #include "Widgets/Text/STextBlock.h"
 
+using testing::AllOf;
+using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::Not;
@@ -160,7 +162,7 @@ TEST_F(ToolbarMenu, TellsWhoIsSignedInAtEachOpening)
 	WriteServiceWith(R"("tokenSeconds": 60)");
 	StartEditor();
 	EXPECT_THAT(ReadMenu(), HasSubstr("text UserName \"Developer not registered\""));
-	EXPECT_THAT(KeysOfTexts(), ElementsAre("DeveloperNotRegistered", "DeveloperLogin"));
+	EXPECT_THAT(KeysOfTexts(), AllOf(Contains("DeveloperNotRegistered"), Contains("DeveloperLogin")));
 
 	SignIn();
 	const std::string SignedIn = ReadMenu();
@@ -168,7 +170,7 @@ TEST_F(ToolbarMenu, TellsWhoIsSignedInAtEachOpening)
 	EXPECT_THAT(SignedIn, HasSubstr("button [Developer Panel]"));
 	EXPECT_THAT(SignedIn, Not(HasSubstr("Login")));
 	EXPECT_THAT(SignedIn, Not(HasSubstr("sesame-77")));
-	EXPECT_THAT(KeysOfTexts(), ElementsAre("", "", "DeveloperPanel_Label"));
+	EXPECT_THAT(KeysOfTexts(), AllOf(Contains("DeveloperPanel_Label"), Not(Contains("DeveloperNotRegistered")), Not(Contains("DeveloperLogin"))));
 
 	Wait(61.0);
 	EXPECT_THAT(ReadMenu(), HasSubstr("text UserName \"Developer not registered\"")) << "the token has expired";

@@ -63,7 +63,6 @@ TEST(SourceDialect, SeesEachBreachAndNothingElse)
 TEST(SourceDialect, IsSpokenEverywhere)
 {
 	std::vector<std::string> Visited;
-	std::vector<std::string> Breaches;
 	for (const char* Folder : {"Source", "Companions", "Host", "Tests", "Benchmarks"})
 	{
 		for (const std::filesystem::path& File : SourceText::FindSources(SourceText::Root / Folder))
@@ -72,10 +71,9 @@ TEST(SourceDialect, IsSpokenEverywhere)
 			Visited.push_back(Path);
 			for (const std::string& Breach : SourceDialect::FindBreaches(Path, SourceText::Read(File)))
 			{
-				Breaches.push_back(Path + ":" + Breach);
+				ADD_FAILURE() << Path << ":" << Breach;
 			}
 		}
 	}
 	EXPECT_THAT(Visited, Contains("Tests/Sources/SourceDialectTest.cpp"));
-	EXPECT_THAT(Breaches, IsEmpty());
 }

@@ -9,7 +9,7 @@
 
 namespace CollisionSetup
 {
-	static QString Describe(ECollisionResponse Response)
+	QString Describe(ECollisionResponse Response)
 	{
 		switch (Response)
 		{
@@ -19,7 +19,7 @@ namespace CollisionSetup
 		}
 	}
 
-	static QString DescribeResponses(const FCollisionResponseTemplate& Profile)
+	QString DescribeResponses(const FCollisionResponseTemplate& Profile)
 	{
 		QStringList Responses;
 		for (const FResponseChannel& Each : Profile.CustomResponses)

@@ -21,12 +21,12 @@ namespace ContentBrowserDock
 	static const int SearchWidth = 260;
 
 	/** The project's own folder is called as designers know it. */
-	static QString GetFolderName(const QString& Folder)
+	QString GetFolderName(const QString& Folder)
 	{
 		return Folder == ProjectRoot ? QObject::tr("Content") : Folder.mid(Folder.lastIndexOf(QLatin1Char('/')) + 1);
 	}
 
-	static QString GetParent(const QString& Folder)
+	QString GetParent(const QString& Folder)
 	{
 		return Folder.left(Folder.lastIndexOf(QLatin1Char('/')));
 	}
@@ -246,6 +246,7 @@ void FContentBrowserDock::Refresh()
 	SaveAll->setEnabled(!Unsaved.IsEmpty());
 	if (Catalog.Refresh(Unsaved))
 	{
+		DropGoneFromSelection();
 		FitTree();
 		ShowList();
 	}
@@ -353,6 +354,17 @@ QString FContentBrowserDock::DescribeEmptiness() const
 		return tr("Below %1 there is no asset of the kinds that are chosen.").arg(Query.Folder);
 	}
 	return tr("There are no assets in %1 yet.\n“Add” makes one here.").arg(Query.Folder);
+}
+
+/** What was deleted is selected no longer. */
+void FContentBrowserDock::DropGoneFromSelection()
+{
+	TArray<FAssetData> Kept = HostContentBrowser::GetSelection();
+	const int32 NumGone = Kept.RemoveAll([this](const FAssetData& Asset) { return !Catalog.Holds(QtText::From(Asset.PackageName)); });
+	if (NumGone > 0)
+	{
+		Services.GetEditor().Do([&Kept] { HostContentBrowser::SetSelection(Kept); });
+	}
 }
 
 /** Others select as well: the module shows new assets, scripts choose them. */

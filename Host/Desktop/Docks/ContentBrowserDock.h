@@ -39,6 +39,7 @@ private:
 	void FitTree();
 	void MarkFolder();
 	void ShowList();
+	void DropGoneFromSelection();
 	void FollowSelection();
 	void FitFoot();
 	void FitActions();

@@ -37,7 +37,7 @@ namespace PlacementDock
 	};
 
 	/** Where the camera looks. */
-	static FVector FindPlace()
+	FVector FindPlace()
 	{
 		for (const HostEditor::FViewport& Viewport : HostEditor::GetViewports())
 		{
@@ -50,14 +50,14 @@ namespace PlacementDock
 	}
 
 	/** In place of an icon, so that names stand below each other. */
-	static QIcon MakeBlank()
+	QIcon MakeBlank()
 	{
 		QPixmap Blank(IconSize, IconSize);
 		Blank.fill(Qt::transparent);
 		return QIcon(Blank);
 	}
 
-	static const FSlateBrush* FindIcon(const FPlaceableItem& Item)
+	const FSlateBrush* FindIcon(const FPlaceableItem& Item)
 	{
 		const FName Own = Item.ClassIconBrushOverride;
 		if (!Own.IsNone())

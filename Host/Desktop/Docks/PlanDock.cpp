@@ -15,7 +15,7 @@ namespace PlanDock
 	static const int MinimapWidth = 190;
 	static const int RefusalMilliseconds = 8000;
 
-	static QString DescribeMissing(FMinimapState::EMissing Missing)
+	QString DescribeMissing(FMinimapState::EMissing Missing)
 	{
 		switch (Missing)
 		{
@@ -26,12 +26,12 @@ namespace PlanDock
 		}
 	}
 
-	static QString Pair(const FVector2D& Value)
+	QString Pair(const FVector2D& Value)
 	{
 		return QStringLiteral("%1, %2").arg(Value.X).arg(Value.Y);
 	}
 
-	static QString DescribeTransform(const FMinimapState& State)
+	QString DescribeTransform(const FMinimapState& State)
 	{
 		if (State.Active < 0)
 		{

@@ -18,7 +18,7 @@ namespace PlanPainter
 	static const QSize Swatch(18, 12);
 
 	/** One, two or five times a power of ten centimetres. */
-	static double FindRoundLength(double Wanted)
+	double FindRoundLength(double Wanted)
 	{
 		const double Power = std::pow(10.0, std::floor(std::log10(Wanted)));
 		for (const double Step : {1.0, 2.0, 5.0})
@@ -31,12 +31,12 @@ namespace PlanPainter
 		return Power * 10.0;
 	}
 
-	static QString DescribeLength(double Centimetres)
+	QString DescribeLength(double Centimetres)
 	{
 		return Centimetres >= 100.0 ? QStringLiteral("%1 m").arg(Centimetres / 100.0) : QStringLiteral("%1 cm").arg(Centimetres);
 	}
 
-	static QColor WithAlpha(QColor Color, int Alpha)
+	QColor WithAlpha(QColor Color, int Alpha)
 	{
 		Color.setAlpha(Alpha);
 		return Color;

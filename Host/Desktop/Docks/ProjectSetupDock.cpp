@@ -16,14 +16,14 @@ namespace ProjectSetupDock
 {
 	static const int AddressRole = Qt::UserRole; // three names; unset for the rows above pages
 
-	static void SetColor(QLabel& Label, const QColor& Color)
+	void SetColor(QLabel& Label, const QColor& Color)
 	{
 		QPalette Colors = Label.palette();
 		Colors.setColor(QPalette::WindowText, Color);
 		Label.setPalette(Colors);
 	}
 
-	static QLabel* MakeHeading(const QString& Text, QWidget* Parent)
+	QLabel* MakeHeading(const QString& Text, QWidget* Parent)
 	{
 		QLabel* const Title = new QLabel(Text, Parent);
 		QFont Font = Title->font();

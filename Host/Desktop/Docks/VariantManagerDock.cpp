@@ -38,7 +38,7 @@ namespace VariantManagerDock
 		const char* Why;
 	};
 
-	static const FStateLook& GetLook(EVariantState State)
+	const FStateLook& GetLook(EVariantState State)
 	{
 		static const FStateLook Looks[] = {
 			{EVariantState::Unknown, nullptr, "", "There is no configurator to compare with"},
@@ -50,7 +50,7 @@ namespace VariantManagerDock
 		return Looks[static_cast<std::size_t>(State)];
 	}
 
-	static QStringList FindNames(UClass& Class)
+	QStringList FindNames(UClass& Class)
 	{
 		TArray<FAssetData> Found;
 		FAssetRegistryModule::GetRegistry().GetAssetsByClass(Class.GetClassPathName(), Found, true);
@@ -63,22 +63,22 @@ namespace VariantManagerDock
 	}
 
 	template<typename AssetType>
-	static AssetType* Load(const QString& Package)
+	AssetType* Load(const QString& Package)
 	{
 		return Package.isEmpty() ? nullptr : Cast<AssetType>(HostPackages::LoadAsset(QtText::ToEditor(Package)));
 	}
 
-	static bool RefersTo(const UVelmorantConfiguratorDataAsset* Configurator, const QString& Sets)
+	bool RefersTo(const UVelmorantConfiguratorDataAsset* Configurator, const QString& Sets)
 	{
 		return Configurator != nullptr && QtText::From(Configurator->LevelVariantSets.GetLongPackageName()) == Sets;
 	}
 
-	static QString GetShortName(const QString& Package)
+	QString GetShortName(const QString& Package)
 	{
 		return Package.mid(Package.lastIndexOf(QLatin1Char('/')) + 1);
 	}
 
-	static void Dress(QTreeWidgetItem& Item, const FVariantRow& Row)
+	void Dress(QTreeWidgetItem& Item, const FVariantRow& Row)
 	{
 		const FStateLook& Look = GetLook(Row.State);
 		Item.setText(NameColumn, Row.Name);

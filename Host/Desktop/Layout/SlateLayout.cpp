@@ -7,6 +7,16 @@
 
 namespace SlateLayout
 {
+	/** How much of the room that is left over lies before the widget. */
+	int GetSpareBefore(int Spare, bool bCentred, bool bAtEnd)
+	{
+		if (bAtEnd)
+		{
+			return Spare;
+		}
+		return bCentred ? Spare / 2 : 0;
+	}
+
 	int ToPixels(float Units)
 	{
 		return static_cast<int>(std::lround(Units));
@@ -365,13 +375,13 @@ void FSlateLayout::PutInto(const FPlace& Place, const QRect& Rect) const
 	{
 		Size.setWidth(std::min(Size.width(), Wanted.width()));
 		const int Spare = Room.width() - Size.width();
-		Corner.rx() += Slot.HorizontalAlignment == HAlign_Right ? Spare : (Slot.HorizontalAlignment == HAlign_Center ? Spare / 2 : 0);
+		Corner.rx() += SlateLayout::GetSpareBefore(Spare, Slot.HorizontalAlignment == HAlign_Center, Slot.HorizontalAlignment == HAlign_Right);
 	}
 	if (Slot.VerticalAlignment != VAlign_Fill)
 	{
 		Size.setHeight(std::min(Size.height(), Wanted.height()));
 		const int Spare = Room.height() - Size.height();
-		Corner.ry() += Slot.VerticalAlignment == VAlign_Bottom ? Spare : (Slot.VerticalAlignment == VAlign_Center ? Spare / 2 : 0);
+		Corner.ry() += SlateLayout::GetSpareBefore(Spare, Slot.VerticalAlignment == VAlign_Center, Slot.VerticalAlignment == VAlign_Bottom);
 	}
 	Place.Item->setGeometry(QRect(Corner, Size));
 }

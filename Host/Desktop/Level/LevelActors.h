@@ -39,8 +39,8 @@ namespace LevelActors
 }
 
 /**
- * Notices that something changed that can be seen of the level's actors, selection included. Looks at every actor: the longer that
- * takes, the more rarely it is done, so that large levels do not slow the window down.
+ * Notices that something changed that can be seen of the level's actors, selection included. Looks at every actor: in large
+ * levels, the longer that takes, the more rarely it is done, so that they do not slow the window down.
  */
 class FLevelWatch
 {

@@ -8,7 +8,7 @@
 
 namespace LevelPlacement
 {
-	static TSharedPtr<FPlaceableItem> Find(const QString& Key)
+	TSharedPtr<FPlaceableItem> Find(const QString& Key)
 	{
 		for (const FName Category : HostPlacement::GetCategories())
 		{

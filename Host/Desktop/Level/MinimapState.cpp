@@ -11,7 +11,7 @@
 
 namespace MinimapState
 {
-	static AMinimapLevelController* FindController()
+	AMinimapLevelController* FindController()
 	{
 		UWorld* const World = LevelActors::GetWorld();
 		if (World == nullptr)
@@ -22,7 +22,7 @@ namespace MinimapState
 		return First ? *First : nullptr;
 	}
 
-	static FMinimapState::EMissing FindMissing(const AMinimapLevelController* Controller)
+	FMinimapState::EMissing FindMissing(const AMinimapLevelController* Controller)
 	{
 		if (Controller == nullptr)
 		{

@@ -13,19 +13,19 @@ namespace VolumePlan
 {
 	static const double LeastFloorHeight = 50.0; // centimetres
 
-	static EVolumeState GetStateOf(const FUnitVolumeUniqueIdentifier& Identifier)
+	EVolumeState GetStateOf(const FUnitVolumeUniqueIdentifier& Identifier)
 	{
 		const bool bUntouched = Identifier.UnitID == FUnitVolumeUniqueIdentifier().UnitID && !Identifier.HasValidKeycode();
 		return bUntouched ? EVolumeState::Unassigned : EVolumeState::Assigned;
 	}
 
-	static QStringList Describe(const FUnitVolumeUniqueIdentifier& Identifier)
+	QStringList Describe(const FUnitVolumeUniqueIdentifier& Identifier)
 	{
 		const QString Number = QString::number(Identifier.UnitID);
 		return Identifier.HasValidKeycode() ? QStringList({QtText::From(Identifier.Keycode), Number}) : QStringList({Number});
 	}
 
-	static FPlanShape MakeShape(AActor& Actor)
+	FPlanShape MakeShape(AActor& Actor)
 	{
 		FPlanShape Shape;
 		const FVector Location = Actor.GetActorLocation();

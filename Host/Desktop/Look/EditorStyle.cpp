@@ -229,7 +229,7 @@ int FEditorStyle::styleHint(StyleHint Hint, const QStyleOption* Option, const QW
 namespace EditorStyle
 {
 	/** Not the lists of combos, nor text by lines. */
-	static bool IsPickedFrom(const QWidget* Widget)
+	bool IsPickedFrom(const QWidget* Widget)
 	{
 		return qobject_cast<const QTreeView*>(Widget) != nullptr || qobject_cast<const QListWidget*>(Widget) != nullptr;
 	}

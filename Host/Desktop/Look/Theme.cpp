@@ -20,7 +20,7 @@ namespace Theme
 		FColors Colors;
 	};
 
-	static const FScheme& GetScheme(EKind Kind)
+	const FScheme& GetScheme(EKind Kind)
 	{
 		static const FScheme Dark{
 			QColor(0x20, 0x22, 0x25), QColor(0x18, 0x1a, 0x1c), QColor(0x35, 0x38, 0x3d), QColor(0xd8, 0xda, 0xdd), QColor(0x6f, 0x74, 0x7a),

@@ -236,7 +236,9 @@ void FItemsView::Refresh(FSeenWidget& Seen)
 	Layout->SetTile(Tile);
 	if (AskedOf >= 0 && Look.FirstItem != KnownFirst)
 	{
-		GetArea().ScrollTo(Look.FirstItem); // something else scrolled it
+		// Something else scrolled it: downwards to show the last row of those that it has, upwards the first.
+		const int Last = std::min(Look.FirstItem + AskedCount, Look.NumItems) - 1;
+		GetArea().ScrollTo(Look.FirstItem > KnownFirst ? std::max(Last, 0) : Look.FirstItem);
 	}
 	AskForRows(Seen);
 	Rows.Fit(FHostWidgetAccess::PartsOf(Seen.GetWidget()));

@@ -62,7 +62,7 @@ namespace PropertyRowView
 	}
 
 	/** What stands behind a value stands in its line, also when it is a list of things. */
-	static TArray<FHostWidgetPart> SideBySide(const FHostWidgetPart& Extension)
+	TArray<FHostWidgetPart> SideBySide(const FHostWidgetPart& Extension)
 	{
 		const bool bList = FHostWidgetAccess::Describe(*Extension.Widget).Role == TEXT("panel");
 		TArray<FHostWidgetPart> Parts = bList ? FHostWidgetAccess::PartsOf(Extension.Widget) : TArray<FHostWidgetPart>{Extension};

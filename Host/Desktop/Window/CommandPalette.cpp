@@ -207,7 +207,7 @@ bool FCommandPalette::eventFilter(QObject* Watched, QEvent* Event)
 	if (Event->type() == QEvent::KeyPress)
 	{
 		const int Key = static_cast<QKeyEvent*>(Event)->key();
-		const int Step = Key == Qt::Key_Down ? 1 : (Key == Qt::Key_Up ? -1 : 0);
+		const int Step = (Key == Qt::Key_Down ? 1 : 0) - (Key == Qt::Key_Up ? 1 : 0);
 		if (Step != 0 && !Shown.empty())
 		{
 			List->setCurrentRow(std::clamp(List->currentRow() + Step, 0, static_cast<int>(Shown.size()) - 1));

@@ -26,7 +26,7 @@ namespace MainWindow
 	static const int SideWidth = 420;
 	static const int BottomHeight = 300;
 
-	static std::unique_ptr<FQuestionDialog> MakeDialog(const FHostQuestion& Question, QWidget* Parent)
+	std::unique_ptr<FQuestionDialog> MakeDialog(const FHostQuestion& Question, QWidget* Parent)
 	{
 		if (Question.Kind == FName("SaveAsset"))
 		{

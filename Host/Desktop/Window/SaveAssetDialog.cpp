@@ -14,7 +14,7 @@ namespace SaveAssetDialog
 	static const int FoldersHeight = 180;
 	static const int FoldersAt = 1; // below the message
 
-	static bool IsTaken(const FString& Package)
+	bool IsTaken(const FString& Package)
 	{
 		return HostPackages::GetStored(Package) != HostPackages::EStored::Nothing || HostPackages::FindMainAsset(FindPackage(nullptr, *Package)) != nullptr;
 	}

@@ -18,105 +18,102 @@
 
 namespace AutomationCommand
 {
-	namespace
+	const double SecondsPerFrame = 1.0 / 60.0;
+
+	/** As an engine runs tests on a build server. */
+	FEditorHostOptions MakeOptions(const FString& Project, bool bRepair)
 	{
-		const double SecondsPerFrame = 1.0 / 60.0;
-
-		/** As an engine runs tests on a build server. */
-		FEditorHostOptions MakeOptions(const FString& Project, bool bRepair)
+		FEditorArguments Editor;
+		Editor.bUnattended = true;
+		Editor.bNullRhi = true;
+		FEditorHostOptions Options = EditorArguments::MakeOptions(Project, Editor);
+		Options.CommandLine += bRepair ? TEXT(" -VelmorantTestRepair") : TEXT("");
+		if (Project.IsEmpty()) // an empty project of nobody, in memory only
 		{
-			FEditorArguments Editor;
-			Editor.bUnattended = true;
-			Editor.bNullRhi = true;
-			FEditorHostOptions Options = EditorArguments::MakeOptions(Project, Editor);
-			Options.CommandLine += bRepair ? TEXT(" -VelmorantTestRepair") : TEXT("");
-			if (Project.IsEmpty()) // an empty project of nobody, in memory only
-			{
-				const std::string Folder = (std::filesystem::temp_directory_path() / ("velmorant-automation-" + std::to_string(getpid()))).string();
-				Options.Project = UTF8_TO_TCHAR(Folder.c_str());
-				Options.UserSettingsDir = FPaths::Combine(Options.Project, TEXT("UserConfig"));
-				Options.bWriteOverlay = true;
-			}
-			return Options;
+			const std::string Folder = (std::filesystem::temp_directory_path() / ("velmorant-automation-" + std::to_string(getpid()))).string();
+			Options.Project = UTF8_TO_TCHAR(Folder.c_str());
+			Options.UserSettingsDir = FPaths::Combine(Options.Project, TEXT("UserConfig"));
+			Options.bWriteOverlay = true;
 		}
+		return Options;
+	}
 
-		FAutomationReport RunTests(const FString& Project, const FAutomationArguments& Arguments, void (*Print)(const FReportedTest&))
+	FAutomationReport RunTests(const FString& Project, const FAutomationArguments& Arguments, void (*Print)(const FReportedTest&))
+	{
+		FEditorHost Editor(MakeOptions(Project, Arguments.bRepair));
+		FAutomationReport Report;
+		bool bAlive = true;
+		for (const FAutomationTestInfo& Test : HostAutomation::Find(Arguments.Filter))
 		{
-			FEditorHost Editor(MakeOptions(Project, Arguments.bRepair));
-			FAutomationReport Report;
-			bool bAlive = true;
-			for (const FAutomationTestInfo& Test : HostAutomation::Find(Arguments.Filter))
-			{
-				const HostAutomation::FResult Result = bAlive ? HostAutomation::Run(
-																	Test, [&Editor] { Editor.Tick(SecondsPerFrame); }, bAlive)
-															  : HostAutomation::FResult(Test);
-				Report.Tests.Add(AutomationReport::Make(Result));
-				Print(Report.Tests.Last());
-			}
+			const HostAutomation::FResult Result = bAlive ? HostAutomation::Run(
+																Test, [&Editor] { Editor.Tick(SecondsPerFrame); }, bAlive)
+														  : HostAutomation::FResult(Test);
+			Report.Tests.Add(AutomationReport::Make(Result));
+			Print(Report.Tests.Last());
+		}
+		Console::PrintProblems(HostProblems::GetAll());
+		return Report;
+	}
+
+	EExitStatus List(const FString& Filter)
+	{
+		for (const FAutomationTestInfo& Test : HostAutomation::Find(Filter))
+		{
+			Console::Print(Test.GetFullTestPath());
+		}
+		return EExitStatus::Done;
+	}
+
+	EExitStatus TellAndExport(const FAutomationReport& Report, const FString& Folder)
+	{
+		AutomationText::PrintTotals(Report);
+		if (!Folder.IsEmpty() && !AutomationReport::Write(Report, Folder))
+		{
 			Console::PrintProblems(HostProblems::GetAll());
-			return Report;
+			return EExitStatus::Trouble;
 		}
+		return Report.CountPassed() == Report.Tests.Num() ? EExitStatus::Done : EExitStatus::Failed;
+	}
 
-		EExitStatus List(const FString& Filter)
+	/** Whether the report is one of this suite's, and whole. */
+	bool CheckReport(const FAutomationReport& Report, const FString& File)
+	{
+		if (!Report.Tests.ContainsByPredicate([](const FReportedTest& Test) { return AutomationText::IsOfSuite(Test.Path); }))
 		{
-			for (const FAutomationTestInfo& Test : HostAutomation::Find(Filter))
-			{
-				Console::Print(Test.GetFullTestPath());
-			}
-			return EExitStatus::Done;
+			HostProblems::Report(File, 0, TEXT("The report holds no test of the toolkit"), TEXT("Run \"Automation RunTests Velmorant\" in the engine, with the module VelmorantProEditorTests listed in the plugin"));
 		}
-
-		EExitStatus TellAndExport(const FAutomationReport& Report, const FString& Folder)
+		else if (Report.CountUnfinished() > 0)
 		{
-			AutomationText::PrintTotals(Report);
-			if (!Folder.IsEmpty() && !AutomationReport::Write(Report, Folder))
-			{
-				Console::PrintProblems(HostProblems::GetAll());
-				return EExitStatus::Trouble;
-			}
-			return Report.CountPassed() == Report.Tests.Num() ? EExitStatus::Done : EExitStatus::Failed;
+			HostProblems::Report(File, 0, FString::Printf(TEXT("The report is incomplete: %d tests did not finish"), Report.CountUnfinished()), TEXT("Find out in the engine's log what ended the run, and export again"));
 		}
+		return HostProblems::GetAll().IsEmpty();
+	}
 
-		/** Whether the report is one of this suite's, and whole. */
-		bool CheckReport(const FAutomationReport& Report, const FString& File)
+	EExitStatus Compare(const FAutomationArguments& Arguments, const FString& Project)
+	{
+		const TOptional<FAutomationReport> InEngine = AutomationReport::Read(Arguments.Compare);
+		if (!InEngine.IsSet())
 		{
-			if (!Report.Tests.ContainsByPredicate([](const FReportedTest& Test) { return AutomationText::IsOfSuite(Test.Path); }))
-			{
-				HostProblems::Report(File, 0, TEXT("The report holds no test of the toolkit"), TEXT("Run \"Automation RunTests Velmorant\" in the engine, with the module VelmorantProEditorTests listed in the plugin"));
-			}
-			else if (Report.CountUnfinished() > 0)
-			{
-				HostProblems::Report(File, 0, FString::Printf(TEXT("The report is incomplete: %d tests did not finish"), Report.CountUnfinished()), TEXT("Find out in the engine's log what ended the run, and export again"));
-			}
-			return HostProblems::GetAll().IsEmpty();
-		}
-
-		EExitStatus Compare(const FAutomationArguments& Arguments, const FString& Project)
-		{
-			const TOptional<FAutomationReport> InEngine = AutomationReport::Read(Arguments.Compare);
-			if (!InEngine.IsSet())
-			{
-				Refusal::PrintProblems(EExitStatus::Trouble, false);
-				return EExitStatus::Trouble;
-			}
-			const bool bWhole = CheckReport(*InEngine, Arguments.Compare);
 			Refusal::PrintProblems(EExitStatus::Trouble, false);
-			HostProblems::Clear();
-			const FAutomationReport Here = RunTests(Project, Arguments, [](const FReportedTest&) {});
-			const FAutomationComparison Comparison = AutomationComparison::Make(*InEngine, Here);
-			AutomationComparison::Print(Comparison, *InEngine);
-			if (!bWhole)
-			{
-				return EExitStatus::Trouble;
-			}
-			return Comparison.Agrees() ? EExitStatus::Done : EExitStatus::Failed;
+			return EExitStatus::Trouble;
 		}
-
-		EExitStatus Refuse(const FString& Reason)
+		const bool bWhole = CheckReport(*InEngine, Arguments.Compare);
+		Refusal::PrintProblems(EExitStatus::Trouble, false);
+		HostProblems::Clear();
+		const FAutomationReport Here = RunTests(Project, Arguments, [](const FReportedTest&) {});
+		const FAutomationComparison Comparison = AutomationComparison::Make(*InEngine, Here);
+		AutomationComparison::Print(Comparison, *InEngine);
+		if (!bWhole)
 		{
-			Refusal::Print(EExitStatus::Usage, {Reason}, false);
-			return EExitStatus::Usage;
+			return EExitStatus::Trouble;
 		}
+		return Comparison.Agrees() ? EExitStatus::Done : EExitStatus::Failed;
+	}
+
+	EExitStatus Refuse(const FString& Reason)
+	{
+		Refusal::Print(EExitStatus::Usage, {Reason}, false);
+		return EExitStatus::Usage;
 	}
 }
 

@@ -32,7 +32,7 @@ bool FSampleOfGamesTest::RunTest(const FString&)
 	return true;
 }
 
-class FAutomation : public testing::Test
+class Automation : public testing::Test
 {
 protected:
 	virtual void TearDown() override
@@ -68,13 +68,13 @@ protected:
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-TEST_F(FAutomation, OffersWhatCanRunInAnEditor)
+TEST_F(Automation, OffersWhatCanRunInAnEditor)
 {
 	EXPECT_TRUE(HostAutomation::Find(TEXT("OfGames")).IsEmpty());
 	EXPECT_EQ(HostAutomation::Find(TEXT("nowhere+SAMPLE.BODY")).Num(), 1) << "any of the parts, in any case";
 }
 
-TEST_F(FAutomation, JudgesByChecksLogAndResult)
+TEST_F(Automation, JudgesByChecksLogAndResult)
 {
 	struct FCase
 	{
@@ -106,36 +106,36 @@ TEST_F(FAutomation, JudgesByChecksLogAndResult)
 	}
 }
 
-TEST_F(FAutomation, AnEnsureFailsTheTest)
+TEST_F(Automation, AnEnsureFailsTheTest)
 {
 	const HostAutomation::FResult Result = Run([](FAutomationTestBase&) { return !ensureAlways(1 > 2); });
 	EXPECT_EQ(Result.State, HostAutomation::EState::Fail);
 	EXPECT_THAT(Say(Result), ElementsAre(HasSubstr("Ensure condition failed: 1 > 2")));
-	EXPECT_TRUE(bAlive);
+	EXPECT_TRUE(bAlive) << "an ensure goes on";
 }
 
-TEST_F(FAutomation, AFailedCheckFailsTheTestAndEndsTheRun)
+TEST_F(Automation, AFailedCheckFailsTheTestAndEndsTheRun)
 {
 	const HostAutomation::FResult Result = Run([](FAutomationTestBase&) {
 		check(1 > 2);
 		return true;
 	});
 	EXPECT_EQ(Result.State, HostAutomation::EState::Fail);
-	EXPECT_FALSE(bAlive);
+	EXPECT_FALSE(bAlive) << "a failed check ends the editor";
 	EXPECT_THAT(Say(Result).back(), HasSubstr("Assertion failed: 1 > 2"));
-	Run([](FAutomationTestBase&) { return true; }); // the framework itself goes on
-	EXPECT_TRUE(bAlive);
+	Run([](FAutomationTestBase&) { return true; });
+	EXPECT_TRUE(bAlive) << "the framework itself goes on";
 }
 
-TEST_F(FAutomation, NamesFileAndLine)
+TEST_F(Automation, NamesFileAndLine)
 {
 	const HostAutomation::FResult Result = Run([](FAutomationTestBase& Sample) { return Sample.TestTrue(TEXT("no"), false); });
 	ASSERT_EQ(Result.Info.GetEntries().Num(), 1);
 	EXPECT_TRUE(Result.Info.GetEntries()[0].Filename.EndsWith(TEXT("Core/AutomationTest.cpp")));
-	EXPECT_EQ(Result.Info.GetEntries()[0].LineNumber, __LINE__ - 4);
+	EXPECT_EQ(Result.Info.GetEntries()[0].LineNumber, __LINE__ - 3);
 }
 
-TEST_F(FAutomation, LatentCommandsRunInTurnAndTheirChecksCount)
+TEST_F(Automation, LatentCommandsRunInTurnAndTheirChecksCount)
 {
 	TArray<FString> Order;
 	const HostAutomation::FResult Result = Run([&Order](FAutomationTestBase& Sample) {
@@ -153,7 +153,7 @@ TEST_F(FAutomation, LatentCommandsRunInTurnAndTheirChecksCount)
 	EXPECT_EQ(Result.State, HostAutomation::EState::Fail);
 }
 
-TEST_F(FAutomation, ACommandThatNeverEndsFailsTheTest)
+TEST_F(Automation, ACommandThatNeverEndsFailsTheTest)
 {
 	const HostAutomation::FResult Result = Run([](FAutomationTestBase&) {
 		ADD_LATENT_AUTOMATION_COMMAND(FFunctionLatentCommand([] { return false; }));

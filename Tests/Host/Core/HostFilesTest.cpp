@@ -196,8 +196,9 @@ namespace FilesOnDisk
 		EXPECT_FALSE(HostStaging::Move(Folder.Get("Stage/File"), Folder.Get("sub/File")));
 		EXPECT_FALSE(HostStaging::Move(Folder.Get("Stage/Folder"), Folder.Get("not/there/yet"))) << "a folder replaces none";
 		EXPECT_FALSE(HostStaging::Move(Folder.Get("Nothing"), Folder.Get("sub/Other")));
-		EXPECT_NE(GetProblems().find("the file is read-only and was left as it is"), std::string::npos);
-		EXPECT_NE(GetProblems().find("sub/Other: what was prepared for this place cannot be put there: No such file or directory"), std::string::npos);
+		const std::string Problems = GetProblems();
+		EXPECT_NE(Problems.find("the file is read-only and was left as it is"), std::string::npos) << Problems;
+		EXPECT_NE(Problems.find("what was prepared for this place cannot be put there: No such file or directory"), std::string::npos) << Problems;
 		EXPECT_EQ(Folder.Read("sub/File"), "new");
 	}
 

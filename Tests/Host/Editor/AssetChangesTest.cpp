@@ -13,11 +13,11 @@
 
 #include <filesystem>
 
-class FAssetChanges : public FAssetTestEditor
+class AssetChanges : public FAssetTestEditor
 {
 protected:
-	FAssetChanges() { HostEditor::Create(); }
-	virtual ~FAssetChanges() override { HostEditor::Destroy(); }
+	AssetChanges() { HostEditor::Create(); }
+	virtual ~AssetChanges() override { HostEditor::Destroy(); }
 
 	void RestartAll()
 	{
@@ -55,7 +55,7 @@ protected:
 	}
 };
 
-TEST_F(FAssetChanges, WhatRefersToARenamedAssetFollowsItInMemoryAndOnDisk)
+TEST_F(AssetChanges, WhatRefersToARenamedAssetFollowsItInMemoryAndOnDisk)
 {
 	for (const bool bLoaded : {true, false})
 	{
@@ -87,7 +87,7 @@ TEST_F(FAssetChanges, WhatRefersToARenamedAssetFollowsItInMemoryAndOnDisk)
 	}
 }
 
-TEST_F(FAssetChanges, ARefusedRenameChangesNothing)
+TEST_F(AssetChanges, ARefusedRenameChangesNothing)
 {
 	MakePair();
 	MakeAsset(TEXT("/Game/D/OnlyInMemory"));
@@ -115,7 +115,7 @@ TEST_F(FAssetChanges, ARefusedRenameChangesNothing)
 	EXPECT_EQ(ReadContent("D/User.uasset.json"), User);
 }
 
-TEST_F(FAssetChanges, AnAssetWithoutAFileIsRenamedInMemoryAlone)
+TEST_F(AssetChanges, AnAssetWithoutAFileIsRenamedInMemoryAlone)
 {
 	UTestAsset* const Fresh = MakeAsset(TEXT("/Game/D/Fresh"));
 	Fresh->GetPackage()->MarkPackageDirty();
@@ -129,7 +129,7 @@ TEST_F(FAssetChanges, AnAssetWithoutAFileIsRenamedInMemoryAlone)
 	EXPECT_NE(MakeAsset(TEXT("/Game/D/Fresh")), Fresh) << "the name is free again";
 }
 
-TEST_F(FAssetChanges, DeletionNamesWhatStillRefersAndAsksFirst)
+TEST_F(AssetChanges, DeletionNamesWhatStillRefersAndAsksFirst)
 {
 	MakePair();
 	RestartAll();
@@ -167,7 +167,7 @@ TEST_F(FAssetChanges, DeletionNamesWhatStillRefersAndAsksFirst)
 	EXPECT_TRUE(HostPackages::GetDirtyPackages().IsEmpty());
 }
 
-TEST_F(FAssetChanges, AFileThatCannotBeDeletedKeepsItsAsset)
+TEST_F(AssetChanges, AFileThatCannotBeDeletedKeepsItsAsset)
 {
 	MakePair();
 	std::filesystem::permissions(Project.GetNative("Content/D/Used.uasset.json"), std::filesystem::perms::owner_read);

@@ -56,7 +56,7 @@ namespace ContentActions
 		const int32 NumProblems;
 	};
 
-	static QString NameAll(const TArray<FAssetData>& Assets)
+	QString NameAll(const TArray<FAssetData>& Assets)
 	{
 		return Assets.Num() == 1 ? QtText::From(Assets[0].AssetName) : QObject::tr("%1 assets").arg(Assets.Num());
 	}

@@ -16,13 +16,13 @@
 
 namespace ContentCatalog
 {
-	static uint64 Mix(uint64 Seed, uint64 Value)
+	uint64 Mix(uint64 Seed, uint64 Value)
 	{
 		return (Seed ^ Value) * 0x9e3779b97f4a7c15ull + (Seed >> 29);
 	}
 
 	/** Another number when an asset came, went, was changed, saved or renamed. Looks at packages in memory only: it is asked once a frame. */
-	static uint64 Fingerprint(const TArray<FString>& Unsaved)
+	uint64 Fingerprint(const TArray<FString>& Unsaved)
 	{
 		const TArray<FString> Roots = HostPackages::GetMountedRoots();
 		uint64 Result = HostPackages::GetStorageVersion();
@@ -43,7 +43,7 @@ namespace ContentCatalog
 	}
 
 	/** That of the nearest class that has one. */
-	static FSlateBrush FindThumbnail(const UClass* Class)
+	FSlateBrush FindThumbnail(const UClass* Class)
 	{
 		for (; Class != nullptr; Class = Class->GetSuperClass())
 		{
@@ -141,4 +141,9 @@ void FContentCatalog::CollectFolders()
 	}
 	Folders = QStringList(All.begin(), All.end());
 	Folders.sort(Qt::CaseInsensitive);
+}
+
+bool FContentCatalog::Holds(const QString& Package) const
+{
+	return std::any_of(Items.begin(), Items.end(), [&Package](const FContentItem& Item) { return Item.Package == Package; });
 }

@@ -45,6 +45,8 @@ public:
 	/** By name within each folder. */
 	const std::vector<FContentItem>& GetItems() const { return Items; }
 
+	bool Holds(const QString& Package) const;
+
 	/** Those that hold something at any depth, and the roots; owners before what is in them. */
 	const QStringList& GetFolders() const { return Folders; }
 

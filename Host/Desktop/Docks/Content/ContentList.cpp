@@ -7,12 +7,12 @@
 
 namespace ContentList
 {
-	static bool IsBelow(const QString& Path, const QString& Folder)
+	bool IsBelow(const QString& Path, const QString& Folder)
 	{
 		return Path.startsWith(Folder) && (Path.size() == Folder.size() || Path.at(Folder.size()) == QLatin1Char('/'));
 	}
 
-	static QString GetName(const QString& Path)
+	QString GetName(const QString& Path)
 	{
 		return Path.mid(Path.lastIndexOf(QLatin1Char('/')) + 1);
 	}

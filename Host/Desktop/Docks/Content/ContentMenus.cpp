@@ -32,7 +32,7 @@ namespace ContentMenus
 	};
 
 	/** The colour of the class. */
-	static QIcon MakeSwatch(const QColor& Color)
+	QIcon MakeSwatch(const QColor& Color)
 	{
 		QPixmap Picture(SwatchSize, SwatchSize);
 		Picture.fill(Qt::transparent);

@@ -20,24 +20,24 @@ namespace ContentTile
 	static const int KindLetters = 2; // where there is no thumbnail
 	static const double CornerRadius = 4.0;
 
-	static QRect GetCard(const QRect& Tile)
+	QRect GetCard(const QRect& Tile)
 	{
 		return Tile.adjusted(Margin, Margin, -Margin, -Margin);
 	}
 
-	static QRect GetPicture(const QRect& Tile)
+	QRect GetPicture(const QRect& Tile)
 	{
 		const QRect Card = GetCard(Tile);
 		return QRect(Card.left(), Card.top(), Card.width(), PictureHeight);
 	}
 
-	static QRect GetTexts(const QRect& Tile)
+	QRect GetTexts(const QRect& Tile)
 	{
 		return GetCard(Tile).adjusted(5, PictureHeight + ColorHeight + 3, -5, -3);
 	}
 
 	/** "LV" for "Level Variant Sets": the first letters of its words. */
-	static QString Abbreviate(const QString& Kind)
+	QString Abbreviate(const QString& Kind)
 	{
 		QString Letters;
 		for (const QString& Word : Kind.split(QLatin1Char(' '), Qt::SkipEmptyParts))

@@ -32,7 +32,7 @@ namespace VariantComparison
 		TMap<FString, int32> SetsByName;
 	};
 
-	static FExpected& FindOrAdd(TArray<FExpected>& All, TMap<FString, int32>& ByName, const FString& Name, const QString& Origin)
+	FExpected& FindOrAdd(TArray<FExpected>& All, TMap<FString, int32>& ByName, const FString& Name, const QString& Origin)
 	{
 		if (const int32* const Known = ByName.Find(Name))
 		{
@@ -45,7 +45,7 @@ namespace VariantComparison
 		return All[All.Add(Fresh)];
 	}
 
-	static void Expect(FExpectations& Expectations, const FVelmorantConfigUnit& Unit, bool bInAsset)
+	void Expect(FExpectations& Expectations, const FVelmorantConfigUnit& Unit, bool bInAsset)
 	{
 		for (const FVelmorantConfigRoom& Room : Unit.Rooms)
 		{
@@ -62,7 +62,7 @@ namespace VariantComparison
 		}
 	}
 
-	static FVariantRow DescribeAbsent(const FExpected& Expected)
+	FVariantRow DescribeAbsent(const FExpected& Expected)
 	{
 		FVariantRow Row;
 		Row.Name = QtText::From(Expected.Name);
@@ -75,7 +75,7 @@ namespace VariantComparison
 		return Row;
 	}
 
-	static FVariantRow DescribePresent(const FString& Name, const FExpected* Expected, bool bFound, bool bKnown)
+	FVariantRow DescribePresent(const FString& Name, const FExpected* Expected, bool bFound, bool bKnown)
 	{
 		FVariantRow Row;
 		Row.Name = QtText::From(Name);
@@ -87,7 +87,7 @@ namespace VariantComparison
 		return Row;
 	}
 
-	static FVariantRow DescribeSet(UVariantSet& Set, const FExpected* Expected, bool bFound, bool bKnown)
+	FVariantRow DescribeSet(UVariantSet& Set, const FExpected* Expected, bool bFound, bool bKnown)
 	{
 		FVariantRow Row = DescribePresent(Set.GetDisplayText().ToString(), Expected, bFound, bKnown);
 		for (UVariant* const Variant : Set.GetVariants())
@@ -109,7 +109,7 @@ namespace VariantComparison
 		return Row;
 	}
 
-	static uint32 HashUnit(const FVelmorantConfigUnit* Unit)
+	uint32 HashUnit(const FVelmorantConfigUnit* Unit)
 	{
 		if (Unit == nullptr)
 		{

@@ -16,7 +16,7 @@ namespace EnsureTest
 	}
 }
 
-IMPLEMENT_CUSTOM_SIMPLE_AUTOMATION_TEST(FVelmorantEnsureTest, FVelmorantQuietTest, "Velmorant.Engine.Assertions.Ensure", VelmorantTests::Flags)
+IMPLEMENT_CUSTOM_SIMPLE_AUTOMATION_TEST(FVelmorantEnsureTest, FVelmorantQuietTest, "Velmorant.Engine.Ensure.OncePerPlace", VelmorantTests::Flags)
 
 bool FVelmorantEnsureTest::RunTest(const FString&)
 {

@@ -14,7 +14,7 @@
 namespace UMGBoxes
 {
 	template<typename SlateSlotType, typename SlotType>
-	static void ApplySlot(SlateSlotType& Slate, const SlotType& Slot)
+	void ApplySlot(SlateSlotType& Slate, const SlotType& Slot)
 	{
 		Slate.SetPadding(Slot.Padding);
 		Slate.SetHorizontalAlignment(Slot.HorizontalAlignment);
