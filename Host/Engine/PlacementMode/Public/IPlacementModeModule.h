@@ -15,6 +15,11 @@
 /** A category of things that a level designer can place. */
 struct PLACEMENTMODE_API FPlacementCategoryInfo
 {
+	FPlacementCategoryInfo(FText InDisplayName, FName InHandle, FString InTag = FString(), int32 InSortOrder = 0, bool bInSortable = true)
+		: FPlacementCategoryInfo(InDisplayName, FSlateIcon(), InHandle, InTag, InSortOrder, bInSortable)
+	{
+	}
+
 	FPlacementCategoryInfo(FText InDisplayName, FSlateIcon InDisplayIcon, FName InHandle, FString InTag = FString(), int32 InSortOrder = 0, bool bInSortable = true)
 		: DisplayName(InDisplayName)
 		, DisplayIcon(InDisplayIcon)

@@ -211,6 +211,11 @@ FGCObject::~FGCObject()
 	FGarbageCollector::Get().RemoveReferencer(this);
 }
 
+void CollectGarbage(EObjectFlags KeepFlags, bool)
+{
+	FGarbageCollector::Get().Collect(KeepFlags);
+}
+
 namespace UE::CoreUObject::Private
 {
 	FStrongReference::FStrongReference(const UObject* Object)

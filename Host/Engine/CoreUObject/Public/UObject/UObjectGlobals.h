@@ -184,6 +184,9 @@ UPackage* CreatePackage(const TCHAR* PackageName);
 /** Finds the package or loads it with all its objects. Null when it exists nowhere. */
 UPackage* LoadPackage(UPackage* InOuter, const TCHAR* LongPackageName, uint32 LoadFlags = LOAD_None);
 
+/** Destroys what neither the root set nor a kept object reaches; KeepFlags keep objects on their own. */
+void CollectGarbage(EObjectFlags KeepFlags, bool bPerformFullPurge = true);
+
 /** Non-null and not garbage. */
 bool IsValid(const UObject* Test);
 
