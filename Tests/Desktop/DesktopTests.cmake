@@ -28,5 +28,7 @@ set_tests_properties(DesktopTests PROPERTIES ENVIRONMENT QT_QPA_PLATFORM=offscre
 find_program(XVFB_RUN xvfb-run)
 if(XVFB_RUN)
 	add_test(NAME DesktopTestsOnX COMMAND ${XVFB_RUN} --auto-servernum $<TARGET_FILE:DesktopTests> --gtest_brief=1 --gtest_filter=WayOfTheDemo.*:QuestionDialogs.*)
-	set_tests_properties(DesktopTestsOnX PROPERTIES ENVIRONMENT QT_QPA_PLATFORM=xcb)
+	set_tests_properties(
+		DesktopTestsOnX PROPERTIES
+		ENVIRONMENT "QT_QPA_PLATFORM=xcb;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/Tests/Desktop/LeaksOfLibraries.txt")
 endif()

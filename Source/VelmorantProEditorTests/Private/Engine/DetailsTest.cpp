@@ -65,10 +65,17 @@ namespace DetailsTest
 		return Object;
 	}
 
+	/** Of a property that has a row; null without one. */
+	TSharedPtr<IPropertyHandle> FindRowHandle(const FVelmorantDetailRows& Rows, const char* Property)
+	{
+		const TSharedPtr<IDetailTreeNode> Row = Rows.Find(Property);
+		return Row.IsValid() ? Row->CreatePropertyHandle() : nullptr;
+	}
+
 	TSharedPtr<IPropertyHandle> FindHandle(const FVelmorantDetailRows& Rows, const TCHAR* Member)
 	{
-		const TSharedPtr<IDetailTreeNode> Row = Rows.Find("Choice");
-		return Row.IsValid() ? Row->CreatePropertyHandle()->GetChildHandle(Member) : nullptr;
+		const TSharedPtr<IPropertyHandle> Choice = FindRowHandle(Rows, "Choice");
+		return Choice.IsValid() ? Choice->GetChildHandle(Member) : nullptr;
 	}
 }
 
@@ -156,8 +163,7 @@ bool FVelmorantHandleEventsTest::RunTest(const FString&)
 	const FVelmorantEditorState State;
 	UVelmorantTestListener* Object = DetailsTest::MakeObject(TEXT("Oak"));
 	const FVelmorantDetailRows Rows({Object});
-	const TSharedPtr<IDetailTreeNode> Row = Rows.Find("Choice");
-	const TSharedPtr<IPropertyHandle> Struct = Row.IsValid() ? Row->CreatePropertyHandle() : nullptr;
+	const TSharedPtr<IPropertyHandle> Struct = DetailsTest::FindRowHandle(Rows, "Choice");
 	const TSharedPtr<IPropertyHandle> Name = DetailsTest::FindHandle(Rows, TEXT("Name"));
 	if (!TestValid(TEXT("the struct has a handle"), Struct) || !TestValid(TEXT("its member, too"), Name))
 	{
@@ -184,8 +190,7 @@ bool FVelmorantHandleWritesTest::RunTest(const FString&)
 	const FVelmorantEditorState State;
 	UVelmorantTestListener* Object = DetailsTest::MakeObject(TEXT("Oak"));
 	const FVelmorantDetailRows Rows({Object});
-	const TSharedPtr<IDetailTreeNode> Row = Rows.Find("Amount");
-	const TSharedPtr<IPropertyHandle> Amount = Row.IsValid() ? Row->CreatePropertyHandle() : nullptr;
+	const TSharedPtr<IPropertyHandle> Amount = DetailsTest::FindRowHandle(Rows, "Amount");
 	if (!TestValid(TEXT("a number has a handle"), Amount))
 	{
 		return false;
@@ -215,8 +220,7 @@ bool FVelmorantWholeStructTest::RunTest(const FString&)
 	const FVelmorantEditorState State;
 	UVelmorantTestListener* Object = DetailsTest::MakeObject(TEXT("Oak"));
 	const FVelmorantDetailRows Rows({Object});
-	const TSharedPtr<IDetailTreeNode> Row = Rows.Find("Choice");
-	const TSharedPtr<IPropertyHandle> Struct = Row.IsValid() ? Row->CreatePropertyHandle() : nullptr;
+	const TSharedPtr<IPropertyHandle> Struct = DetailsTest::FindRowHandle(Rows, "Choice");
 	const TSharedPtr<IPropertyHandle> Name = DetailsTest::FindHandle(Rows, TEXT("Name"));
 	if (!TestValid(TEXT("the struct has a handle"), Struct) || !TestValid(TEXT("its member, too"), Name))
 	{

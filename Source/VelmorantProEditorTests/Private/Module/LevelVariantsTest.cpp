@@ -44,6 +44,15 @@ namespace VelmorantLevelVariantsTest
 		return Cast<ULevelVariantSets>(Data.LevelVariantSets.ResolveObject());
 	}
 
+	/** By the module's own operation; null with the test failed when there are none then. */
+	ULevelVariantSets* MakeSets(FAutomationTestBase& Test, UVelmorantConfiguratorDataAsset* Data)
+	{
+		UVelmorantEditorUtilitiesLibrary::CreateVariantSetFromConfigurator(Data);
+		ULevelVariantSets* Sets = GetSets(*Data);
+		Test.TestNotNull(TEXT("sets were made"), Sets);
+		return Sets;
+	}
+
 	/** "Group: variant, variant; …", the room's part of a set's name left out; other sets with their whole names. */
 	FString Describe(ULevelVariantSets& Sets)
 	{
@@ -83,9 +92,8 @@ bool FVelmorantModuleFreshSetsTest::RunTest(const FString&)
 	using namespace VelmorantLevelVariantsTest;
 	const FScene Scene(*this);
 	UVelmorantConfiguratorDataAsset* Data = MakeData(Scene.Content, TEXT("VelmorantTestTower"));
-	UVelmorantEditorUtilitiesLibrary::CreateVariantSetFromConfigurator(Data);
-	ULevelVariantSets* Sets = GetSets(*Data);
-	if (!TestNotNull(TEXT("sets were made"), Sets))
+	ULevelVariantSets* Sets = MakeSets(*this, Data);
+	if (!Sets)
 	{
 		return false;
 	}
@@ -123,9 +131,8 @@ bool FVelmorantModuleRepeatedSetsTest::RunTest(const FString&)
 	using namespace VelmorantLevelVariantsTest;
 	const FScene Scene(*this);
 	UVelmorantConfiguratorDataAsset* Data = MakeData(Scene.Content, TEXT("VelmorantTestTower"));
-	UVelmorantEditorUtilitiesLibrary::CreateVariantSetFromConfigurator(Data);
-	ULevelVariantSets* Sets = GetSets(*Data);
-	if (!TestNotNull(TEXT("sets were made"), Sets))
+	ULevelVariantSets* Sets = MakeSets(*this, Data);
+	if (!Sets)
 	{
 		return false;
 	}
@@ -162,9 +169,8 @@ bool FVelmorantModuleBlankNamesTest::RunTest(const FString&)
 	using namespace VelmorantLevelVariantsTest;
 	const FScene Scene(*this);
 	UVelmorantConfiguratorDataAsset* Data = MakeData(Scene.Content, TEXT("Velmorant Test Tower"));
-	UVelmorantEditorUtilitiesLibrary::CreateVariantSetFromConfigurator(Data);
-	const ULevelVariantSets* Sets = GetSets(*Data);
-	if (TestNotNull(TEXT("sets were made"), Sets))
+	const ULevelVariantSets* Sets = MakeSets(*this, Data);
+	if (Sets)
 	{
 		TestEqualSensitive(TEXT("blanks become underscores"), *Sets->GetName(), TEXT("LevelVariant_Velmorant_Test_Tower"));
 	}
