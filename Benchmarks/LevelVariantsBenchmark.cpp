@@ -37,7 +37,7 @@ namespace LevelVariantsBenchmark
 			: DataAsset(NewObject<UVelmorantConfiguratorDataAsset>())
 			, LevelVariantSets(NewObject<ULevelVariantSets>())
 		{
-			FillRecord(*DataAsset, static_cast<int32>(State.range(0)));
+			FillRecord(*DataAsset.Get(), static_cast<int32>(State.range(0)));
 		}
 
 		void Generate() const { UVelmorantEditorUtilitiesLibrary::FillOutLevelVariantWithConfigurator(DataAsset.Get(), LevelVariantSets.Get()); }
