@@ -71,7 +71,7 @@ namespace HeaderTool
 		EnumAsByte,
 		Struct,
 		Object, // UFoo*, TObjectPtr, TWeakObjectPtr, TSoftObjectPtr, …
-		Class, // TSubclassOf, TSoftClassPtr, UClass*
+		Class, // TSubclassOf, UClass*
 		Delegate,
 		MulticastDelegate,
 		Array,

@@ -27,7 +27,7 @@ namespace HeaderTool
 		{
 			static const std::map<std::string, ETypeKind> Kinds = {
 				{"TObjectPtr", ETypeKind::Object}, {"TWeakObjectPtr", ETypeKind::Object}, {"TSoftObjectPtr", ETypeKind::Object},
-				{"TSubclassOf", ETypeKind::Class}, {"TSoftClassPtr", ETypeKind::Class}};
+				{"TSubclassOf", ETypeKind::Class}};
 			const auto Found = Kinds.find(Name);
 			return Found != Kinds.end() ? Found->second : ETypeKind::Unresolved;
 		}

@@ -50,6 +50,10 @@ namespace HeaderTool
 		{
 			return "use TObjectPtr<UObject>, and Cast<" + First + ">() what it holds.";
 		}
+		if (Plain == "TSoftClassPtr")
+		{
+			return "use TSoftObjectPtr<UClass>.";
+		}
 		if (Plain == "TFunction" || Plain == "TFunctionRef" || Plain == "function")
 		{
 			return "use a dynamic delegate.";

@@ -29,17 +29,6 @@ namespace SurfaceCheck
 	void FExemptions::AddLine(const std::string& Line, int Number)
 	{
 		const std::string Place = Path + "(" + std::to_string(Number) + "): ";
-		const std::string Count = "still to remove: ";
-		if (Line.starts_with(Count))
-		{
-			const std::string Digits = Line.substr(Count.size());
-			if (Digits.empty() || Digits.size() > 6 || Digits.find_first_not_of("0123456789") != std::string::npos)
-			{
-				throw std::runtime_error(Place + "'" + Digits + "' is no number");
-			}
-			StillToRemove = std::stoul(Digits);
-			return;
-		}
 		const size_t Separator = Line.find(" : ");
 		if (Separator == std::string::npos || Separator + 3 >= Line.size())
 		{
@@ -65,15 +54,6 @@ namespace SurfaceCheck
 			{
 				Problems.push_back(Finding.GetText());
 			}
-		}
-		const size_t Left = Problems.size();
-		if (Left == StillToRemove)
-		{
-			Problems.clear();
-		}
-		else if (Left < StillToRemove)
-		{
-			Problems = {Path + ": only " + std::to_string(Left) + " are still to remove; say so, that the number never rises again"};
 		}
 		for (const auto& [Name, Reason] : Reasons)
 		{

@@ -10,7 +10,7 @@
 
 namespace SurfaceCheck
 {
-	/** What stays although nobody needs it, each with its reason; and how much is still to be removed. */
+	/** What stays although nobody needs it, each with its reason. */
 	class FExemptions
 	{
 	public:
@@ -18,7 +18,7 @@ namespace SurfaceCheck
 
 		/**
 		 * One a line: the name as the check prints it, " : ", the reason. Lines that start with '#' are comments.
-		 * "still to remove: NUMBER" allows exactly so many findings more. Throws std::runtime_error with path and line.
+		 * Throws std::runtime_error with path and line.
 		 */
 		FExemptions(const std::string& InPath, const std::string& Text);
 
@@ -30,6 +30,5 @@ namespace SurfaceCheck
 
 		std::string Path;
 		std::map<std::string, std::string> Reasons;
-		size_t StillToRemove = 0;
 	};
 }

@@ -231,6 +231,10 @@ namespace SurfaceCheck
 			{
 				Reached.insert(Function);
 				ReachedNames.emplace(Function.Scope, Function.Name);
+				if (Reachable::IsThunk(Function))
+				{
+					CalledByData.insert(Function.Name.substr(Reachable::ThunkPrefix.size()));
+				}
 			}
 			for (const size_t To : Node.Edges)
 			{

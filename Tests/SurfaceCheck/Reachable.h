@@ -39,6 +39,9 @@ namespace SurfaceCheck
 		/** Whether any overload with as many parameters is reached. */
 		bool IsReached(const FFunctionName& Name) const;
 
+		/** Names of what data calls through the tables that are reached; a virtual function may answer. */
+		const std::set<std::string>& GetCalledByData() const { return CalledByData; }
+
 	private:
 		struct FNode
 		{
@@ -68,5 +71,6 @@ namespace SurfaceCheck
 		const FNeeds* Needs = nullptr;
 		std::set<std::pair<std::string, std::string>> ReachedNames; // scope and name, of any number of parameters
 		std::set<FFunctionName> Reached;
+		std::set<std::string> CalledByData;
 	};
 }

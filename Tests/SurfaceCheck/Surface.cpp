@@ -116,6 +116,7 @@ namespace SurfaceCheck
 			{
 				Reachable.Walk(Needs);
 				const size_t Before = CountTaken();
+				Needs.CalledNames.insert(Reachable.GetCalledByData().begin(), Reachable.GetCalledByData().end());
 				for (const auto& [Name, Overloads] : Functions)
 				{
 					if (IsNeeded(Name, Overloads) && Taken.insert(&Overloads).second)
@@ -153,8 +154,11 @@ namespace SurfaceCheck
 					return IsCalled(Needs.CalledNames, Name.Name);
 				}
 				// The compiler may have evaluated it, or only looked at its type: then there is nothing to see in the objects.
-				return (!bBody || bConstant) && (Name.Name.starts_with("operator") || Words.contains(Name.Name));
+				return (!bBody || bConstant) && (Name.Name.starts_with("operator") || IsMentioned(Name.Name));
 			}
+
+			/** An event of an interface is raised by the function that the header tool writes for it. */
+			bool IsMentioned(const std::string& Name) const { return Words.contains(Name) || Words.contains("Execute_" + Name); }
 
 			static FFinding MakeFinding(const FFunctionName& Name, const FOverloads& Overloads)
 			{

@@ -18,6 +18,20 @@ namespace AutomationTest
 
 	/** What the sample test does this time. */
 	TFunction<bool(FAutomationTestBase&)> Body;
+
+	class FUntilTrue : public IAutomationLatentCommand
+	{
+	public:
+		explicit FUntilTrue(TFunction<bool()> InIsDone)
+			: IsDone(MoveTemp(InIsDone))
+		{
+		}
+
+		virtual bool Update() override { return IsDone(); }
+
+	private:
+		TFunction<bool()> IsDone;
+	};
 }
 
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FSampleTest, "Sample.Body", AutomationTest::Flags)
@@ -140,7 +154,7 @@ TEST_F(Automation, LatentCommandsRunInTurnAndTheirChecksCount)
 	TArray<FString> Order;
 	const HostAutomation::FResult Result = Run([&Order](FAutomationTestBase& Sample) {
 		const TSharedRef<int32> NumFrames = MakeShared<int32>(0);
-		ADD_LATENT_AUTOMATION_COMMAND(FFunctionLatentCommand([&Order, NumFrames] {
+		ADD_LATENT_AUTOMATION_COMMAND(AutomationTest::FUntilTrue([&Order, NumFrames] {
 			Order.Add(TEXT("first"));
 			return ++*NumFrames == 2;
 		}));
@@ -156,7 +170,7 @@ TEST_F(Automation, LatentCommandsRunInTurnAndTheirChecksCount)
 TEST_F(Automation, ACommandThatNeverEndsFailsTheTest)
 {
 	const HostAutomation::FResult Result = Run([](FAutomationTestBase&) {
-		ADD_LATENT_AUTOMATION_COMMAND(FFunctionLatentCommand([] { return false; }));
+		ADD_LATENT_AUTOMATION_COMMAND(AutomationTest::FUntilTrue([] { return false; }));
 		return true;
 	});
 	EXPECT_THAT(Say(Result), ElementsAre("Error: A latent command was not done after 60 seconds."));

@@ -20,7 +20,7 @@ namespace PluginManagerTest
 			"Modules": [{"Name": "VelmorantPro", "Type": "Runtime", "LoadingPhase": "PreDefault"}, {"Name": "VelmorantProEditor", "Type": "Editor"}],
 			"Plugins": [{"Name": "VariantManagerContent", "Enabled": true}]})");
 		Discover();
-		const TSharedPtr<IPlugin> Plugin = IPluginManager::Get().FindPlugin("velmorantpro");
+		const TSharedPtr<IPlugin> Plugin = IPluginManager::Get().FindPlugin(TEXT("velmorantpro"));
 		ASSERT_TRUE(Plugin.IsValid());
 		EXPECT_EQ(IPluginManager::Get().FindPlugin(TEXT("VelmorantPro")), Plugin);
 		EXPECT_EQ(ToUtf8(Plugin->GetName()), "VelmorantPro");
@@ -56,7 +56,7 @@ namespace PluginManagerTest
 		Folder.Write("Plugins/A/A.uplugin", R"({"VersionName": "project"})");
 		Folder.Write("More/A/a.uplugin", R"({"VersionName": "more"})");
 		Discover();
-		EXPECT_EQ(ToUtf8(IPluginManager::Get().FindPlugin("A")->GetDescriptor().VersionName), "project");
+		EXPECT_EQ(ToUtf8(IPluginManager::Get().FindPlugin(TEXT("A"))->GetDescriptor().VersionName), "project");
 		EXPECT_EQ(IPluginManager::Get().GetEnabledPlugins().Num(), 1);
 	}
 
@@ -93,8 +93,8 @@ namespace PluginManagerTest
 			Folder.Write("Plugins/Broken/Broken.uplugin", Case.Text);
 			Folder.Write("Plugins/Fine/Fine.uplugin", "{}");
 			Discover();
-			EXPECT_FALSE(IPluginManager::Get().FindPlugin("Broken").IsValid());
-			EXPECT_TRUE(IPluginManager::Get().FindPlugin("Fine").IsValid());
+			EXPECT_FALSE(IPluginManager::Get().FindPlugin(TEXT("Broken")).IsValid());
+			EXPECT_TRUE(IPluginManager::Get().FindPlugin(TEXT("Fine")).IsValid());
 			ASSERT_EQ(HostProblems::GetAll().Num(), 1) << GetProblems();
 			const FHostProblem& Problem = HostProblems::GetAll()[0];
 			EXPECT_EQ(ToUtf8(Problem.File), ToUtf8(Folder.Get("Plugins/Broken/Broken.uplugin")));

@@ -129,7 +129,6 @@ namespace FunctionTest
 		UObject* Wall = NewObject<UTestWall>(GetTransientPackage(), Class);
 		EXPECT_TRUE(Class->ImplementsInterface(UTestOpenable::StaticClass()));
 		EXPECT_EQ(Cast<ITestOpenable>(Wall), nullptr) << "only native implementers can be cast to";
-		EXPECT_EQ(Wall->GetInterfaceAddress(UTestOpenable::StaticClass()), Wall);
 		EXPECT_EQ(Utf8(ITestOpenable::Execute_Open(Wall, TEXT("Bo"), 0)), "Bo breaks through");
 		EXPECT_FALSE(UTestWall::StaticClass()->ImplementsInterface(UTestOpenable::StaticClass()));
 	}

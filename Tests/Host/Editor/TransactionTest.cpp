@@ -140,7 +140,6 @@ TEST_F(Transactions, UndoTakesASpawnedActorOutOfTheLevelUntilItIsRedone)
 	EXPECT_EQ(GetLabels(), (Texts{"A", "B"}));
 	ASSERT_TRUE(Spawned.IsValid());
 	EXPECT_EQ(Spawned->Storey, 3);
-	EXPECT_FALSE(Spawned->IsActorBeingDestroyed());
 	EXPECT_TRUE(Spawned->Destroy());
 }
 

@@ -58,7 +58,6 @@ TEST_F(ReflectedProperties, AreOfTheKindThatTheirTypeAsksFor)
 		{TEXT("Weak"), TEXT("WeakObjectProperty"), TEXT("TWeakObjectPtr<UFixtureFunctions>")},
 		{TEXT("Soft"), TEXT("SoftObjectProperty"), TEXT("TSoftObjectPtr<UFixtureFunctions>")},
 		{TEXT("Class"), TEXT("ClassProperty"), TEXT("TSubclassOf<UFixtureFunctions>")},
-		{TEXT("SoftClass"), TEXT("SoftClassProperty"), TEXT("TSoftClassPtr<UFixtureFunctions>")},
 		{TEXT("Numbers"), TEXT("ArrayProperty"), TEXT("TArray<int32>")},
 		{TEXT("Plains"), TEXT("ArrayProperty"), TEXT("TArray<TEnumAsByte<EFixturePlain>>")},
 		{TEXT("Names"), TEXT("SetProperty"), TEXT("TSet<FName>")},

@@ -151,6 +151,7 @@ TEST(RejectedHeaders, HavePropertiesOfUnsupportedTypes)
 		{"TEnumAsByte over enum class", Property("TEnumAsByte<EByte> A;"), "X.h(9,1): error: UPROPERTY type 'TEnumAsByte<EByte>' wraps an enum class, which does not compile; use 'EByte' itself."},
 		{"interface pointer", Property("ITalker* A;"), "X.h(9,1): error: UPROPERTY type 'ITalker*' is not supported here; use TObjectPtr<UObject>, and Cast<ITalker>() what it holds."},
 		{"script interface", Property("TScriptInterface<ITalker> A;"), "X.h(9,1): error: UPROPERTY type 'TScriptInterface<ITalker>' is not supported here; use TObjectPtr<UObject>, and Cast<ITalker>() what it holds."},
+		{"soft class", Property("TSoftClassPtr<UBase> A;"), "X.h(9,1): error: UPROPERTY type 'TSoftClassPtr<UBase>' is not supported here; use TSoftObjectPtr<UClass>."},
 		{"void", Property("void A;"), "X.h(9,1): error: UPROPERTY type 'void' is not supported here; use a reflected type, or leave the macro out."},
 	});
 }

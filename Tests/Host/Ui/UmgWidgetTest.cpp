@@ -97,7 +97,7 @@ TEST_F(UmgWidget, PanelsShowTheirChildrenInOrderAndFollowChanges)
 
 	UHorizontalBox* Other = NewObject<UHorizontalBox>();
 	Other->AddChild(First);
-	EXPECT_EQ(Box->GetChildrenCount(), 1) << "a widget is in one place";
+	EXPECT_EQ(Box->GetAllChildren().Num(), 1) << "a widget is in one place";
 	EXPECT_EQ(Utf8(HostSnapshot::Take(Widget)), "vertical\n  text \"Second\"\n");
 	Second->RemoveFromParent();
 	EXPECT_EQ(Second->GetParent(), nullptr);

@@ -73,7 +73,7 @@ TEST_F(WidgetLayoutRefusal, SaysWhatIsWrongWithAWidget)
 		{R"({"Class": "TextBlock", "Properties": {"Text": "100 { per cent"}})", "/Tree/Children/0/Properties/Text: '100 { per cent' has a brace that begins no name\n"},
 		{R"({"Class": "TextBlock", "Properties": {"Text": ["A"]}})", "/Tree/Children/0/Properties/Text: a list fits only where a list is wanted\n"},
 		{R"({"Class": "TextBlock", "Properties": {"IsEnabled": "maybe"}})", "/Tree/Children/0/Properties/IsEnabled: 'maybe' is not a truth value (true or false)\n"},
-		{R"({"Class": "SizeBox", "Properties": {"WidthOverride": "wide"}})", "/Tree/Children/0/Properties/WidthOverride: 'wide' is not a number\n"},
+		{R"({"Class": "SizeBox", "Properties": {"MinDesiredHeight": "high"}})", "/Tree/Children/0/Properties/MinDesiredHeight: 'high' is not a number\n"},
 		{R"({"Class": "TextBlock", "Properties": {"Visibility": "Gone"}})",
 			"/Tree/Children/0/Properties/Visibility: 'Gone' is none of Visible, Collapsed, Hidden, HitTestInvisible, SelfHitTestInvisible\n"},
 		{R"({"Class": "ComboBoxString", "Properties": {"OnGenerateWidgetEvent": "Dance"}})", "/Tree/Children/0/Properties/OnGenerateWidgetEvent: panel TestToolPanel has no function 'Dance'\n"},

@@ -362,7 +362,7 @@ TEST_F(WidgetLayout, ARowOfSeveralTextsIsMeantByAnyOfThem)
 {
 	WriteLayout("Entry", R"("ParentClass": "/Script/TestPanels.TestListEntry",
 		"Tree": {"Class": "HorizontalBox", "Children": [{"Class": "TextBlock", "Properties": {"Text": "Wood"}}, {"Class": "TextBlock", "Name": "Label"}, {"Class": "ListView", "Name": "Inner"}]},
-		"Events": {"OnListItemObjectSet": [{"Set": "Label.Text", "To": "{ListItemObject.DisplayName}"}, {"Call": "Inner.AddItem", "With": {"Item": "{ListItemObject}"}}]})");
+		"Events": {"OnListItemObjectSet": [{"Set": "Label.Text", "To": "{ListItemObject.DisplayName}"}, {"Call": "Inner.BP_SetListItems", "With": {"InListItems": ["{ListItemObject}"]}}]})");
 	WriteLogin(R"("Calls": {"Items.BP_OnItemClicked": [{"Call": "Note", "With": {"InText": "{Item.DisplayName}, {Items.BP_GetSelectedItem.DisplayName}"}}]})",
 		R"(, {"Class": "ListView", "Name": "Items", "Properties": {"EntryWidgetClass": "/Game/Entry"}})");
 	ASSERT_NE(Open(), nullptr);

@@ -79,44 +79,6 @@ void Blink()
 	GetLamp().Blink();
 }
 
-// As the header tool writes it: tables, of which one for each class names the one above, and registrations.
-struct FTable
-{
-	FTable& (*Super)();
-	void (*Thunks[2])(void*, int, void*);
-};
-
-struct UReflectedBase;
-
-template<typename T>
-FTable& ClassOf();
-
-struct Z_Statics_UReflectedBase
-{
-	static inline FTable Z_Record = {nullptr, {}};
-};
-
-template<>
-FTable& ClassOf<UReflectedBase>()
-{
-	return Z_Statics_UReflectedBase::Z_Record;
-}
-
-struct Z_Statics_UReflected
-{
-	static inline FTable Z_Record = {&ClassOf<UReflectedBase>, {&UReflected::execOpen, &UReflected::execUnneededClose}};
-};
-
-void UReflected::execOpen(void* Context, int, void*)
-{
-	static_cast<UReflected*>(Context)->Open();
-}
-
-void UReflected::execUnneededClose(void* Context, int, void*)
-{
-	static_cast<UReflected*>(Context)->UnneededClose();
-}
-
 void UReflected::Open()
 {
 }
@@ -124,12 +86,3 @@ void UReflected::Open()
 void UReflected::UnneededClose()
 {
 }
-
-FTable* GRegistered = nullptr;
-
-struct FRegistrar
-{
-	explicit FRegistrar(FTable& Table) { GRegistered = &Table; }
-};
-
-static FRegistrar Z_Registrar{Z_Statics_UReflected::Z_Record};

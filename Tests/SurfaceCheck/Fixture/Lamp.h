@@ -62,8 +62,16 @@ struct UReflected
 {
 	static void execOpen(void* Context, int Stack, void* Result);
 	static void execUnneededClose(void* Context, int Stack, void* Result);
-	void Open();
+	virtual void Open(); // data call it, too
 	void UnneededClose();
+};
+
+/** Events are declared only: the header tool defines them, and what raises them. */
+struct IPluggable
+{
+	void OnPlugged();
+	void OnUnneededBlackout();
+	static void Execute_OnPlugged();
 };
 
 FLamp& GetLamp();

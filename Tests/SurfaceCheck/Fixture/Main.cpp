@@ -18,6 +18,7 @@ int main()
 	(Lamp.*Later)();
 	GetSocket().Plug();
 	Blink();
+	IPluggable::Execute_OnPlugged();
 	const TBox<int> Box;
 	return Box < Box ? Box.Get() + Lamp.GetPower() : 0;
 }

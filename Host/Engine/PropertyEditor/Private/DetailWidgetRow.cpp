@@ -8,14 +8,13 @@
 FDetailWidgetRow::FDetailWidgetRow()
 	: NameWidget(*this)
 	, ValueWidget(*this)
-	, WholeRowWidget(*this)
 	, ExtensionWidget(*this)
 {
 }
 
 bool FDetailWidgetRow::HasAnyContent() const
 {
-	for (const FDetailWidgetDecl* Column : {&NameWidget, &ValueWidget, &WholeRowWidget, &ExtensionWidget})
+	for (const FDetailWidgetDecl* Column : {&NameWidget, &ValueWidget, &ExtensionWidget})
 	{
 		if (Column->Widget != SNullWidget::NullWidget)
 		{

@@ -39,7 +39,7 @@ private:
 	FDetailWidgetRow& ParentDecl;
 };
 
-/** What a customization puts into one row of a details panel: a name and a value, or one widget over the whole row. */
+/** What a customization puts into one row of a details panel: a name and a value. */
 class PROPERTYEDITOR_API FDetailWidgetRow
 {
 public:
@@ -51,14 +51,11 @@ public:
 	FDetailWidgetDecl& ValueContent() { return ValueWidget; }
 	/** Behind the value. */
 	FDetailWidgetDecl& ExtensionContent() { return ExtensionWidget; }
-	/** The whole row; name and value do not show beside it. */
-	FDetailWidgetRow& operator[](TSharedRef<SWidget> InWidget) { return WholeRowWidget[InWidget]; }
 
 	/** Whether anything was put into it. */
 	bool HasAnyContent() const;
 
 	FDetailWidgetDecl NameWidget;
 	FDetailWidgetDecl ValueWidget;
-	FDetailWidgetDecl WholeRowWidget;
 	FDetailWidgetDecl ExtensionWidget;
 };

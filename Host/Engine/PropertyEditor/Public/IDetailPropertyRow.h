@@ -23,7 +23,4 @@ public:
 
 	/** The widgets to show instead; columns that are not filled stay empty. bShowChildren: members and elements show below as ever. */
 	virtual FDetailWidgetRow& CustomWidget(bool bShowChildren = false) = 0;
-
-	/** Makes the widgets that the panel would show, for use within a custom row. */
-	virtual void GetDefaultWidgets(TSharedPtr<SWidget>& OutNameWidget, TSharedPtr<SWidget>& OutValueWidget, bool bAddWidgetDecoration = false) = 0;
 };

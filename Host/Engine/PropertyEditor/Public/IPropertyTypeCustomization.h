@@ -31,7 +31,4 @@ public:
 
 	/** Adds the rows below it. */
 	virtual void CustomizeChildren(TSharedRef<IPropertyHandle> PropertyHandle, IDetailChildrenBuilder& ChildBuilder, IPropertyTypeCustomizationUtils& CustomizationUtils) = 0;
-
-	/** Whether a map's key of this type stands in the row of its value. */
-	virtual bool ShouldInlineKey() const { return false; }
 };

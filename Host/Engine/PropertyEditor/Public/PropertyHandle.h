@@ -49,8 +49,6 @@ public:
 	virtual TSharedPtr<IPropertyHandle> GetChildHandle(FName ChildName, bool bRecurse = true) const = 0;
 	/** By place: members of structs, elements of containers; a map's elements have the key as name. Null when there is none. */
 	virtual TSharedPtr<IPropertyHandle> GetChildHandle(uint32 Index) const = 0;
-	/** Members or elements; 0 for plain values. Objects with containers of different lengths have those in common. */
-	virtual FPropertyAccess::Result GetNumChildren(uint32& OutNumChildren) const = 0;
 
 	virtual FPropertyAccess::Result GetValue(float& OutValue) const = 0;
 	virtual FPropertyAccess::Result GetValue(double& OutValue) const = 0;
@@ -104,8 +102,6 @@ public:
 	virtual FPropertyAccess::Result GetValueAsFormattedString(FString& OutValue, EPropertyPortFlags PortFlags = PPF_PropertyWindow) const = 0;
 	/** The other way round. Fails, and changes nothing, unless the whole text is a value of the property's type. */
 	virtual FPropertyAccess::Result SetValueFromFormattedString(const FString& InValue, EPropertyValueSetFlags::Type Flags = EPropertyValueSetFlags::DefaultFlags) = 0;
-	/** As people read it: enums by their display names. */
-	virtual FPropertyAccess::Result GetValueAsDisplayString(FString& OutValue, EPropertyPortFlags PortFlags = PPF_PropertyWindow) const = 0;
 
 	/** Adds a listener; those that are there stay. Not called for values that something else than a handle changed. */
 	virtual void SetOnPropertyValueChanged(const FSimpleDelegate& InOnPropertyValueChanged) = 0;
@@ -114,11 +110,7 @@ public:
 
 	/** The name as a details panel shows it. */
 	virtual TSharedRef<SWidget> CreatePropertyNameWidget(const FText& NameOverride = FText::GetEmpty(), const FText& ToolTipOverride = FText::GetEmpty()) const = 0;
-	/** What a details panel lets a person edit the value with. */
-	virtual TSharedRef<SWidget> CreatePropertyValueWidget(bool bDisplayDefaultPropertyButtons = true) const = 0;
 
-	/** Metadata DisplayName, or the name in words. Elements of containers are called by their place. */
-	virtual FText GetPropertyDisplayName() const = 0;
 	/** Null once the handle is not valid. */
 	virtual FProperty* GetProperty() const = 0;
 };

@@ -31,11 +31,6 @@ void SSearchableComboBox::Construct(const FArguments& InArgs)
 	RefreshOptions();
 }
 
-void SSearchableComboBox::ClearSelection()
-{
-	SetSelectedItem(nullptr, ESelectInfo::Direct);
-}
-
 void SSearchableComboBox::SetSelectedItem(TSharedPtr<FString> InSelectedItem, ESelectInfo::Type InSelectInfo)
 {
 	if (SelectedItem != InSelectedItem)

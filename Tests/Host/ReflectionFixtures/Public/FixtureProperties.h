@@ -100,8 +100,6 @@ public:
 	TSubclassOf<UFixtureFunctions> Class;
 	UPROPERTY()
 	UClass* AnyClass = nullptr;
-	UPROPERTY()
-	TSoftClassPtr<UFixtureFunctions> SoftClass;
 
 	UPROPERTY()
 	TArray<int32> Numbers = {1, 2, 3};

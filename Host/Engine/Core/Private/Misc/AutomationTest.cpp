@@ -78,20 +78,6 @@ void FAutomationTestBase::AddError(const FString& InError, int32, FSourceLocatio
 	Add(EAutomationEventType::Error, InError, Place);
 }
 
-bool FAutomationTestBase::AddErrorIfFalse(bool bCondition, const FString& InError, int32, FSourceLocation Place)
-{
-	if (!bCondition)
-	{
-		Add(EAutomationEventType::Error, InError, Place);
-	}
-	return bCondition;
-}
-
-void FAutomationTestBase::AddWarning(const FString& InWarning, int32, FSourceLocation Place)
-{
-	Add(EAutomationEventType::Warning, InWarning, Place);
-}
-
 void FAutomationTestBase::AddInfo(const FString& InLogItem, int32, bool)
 {
 	ExecutionInfo.AddEvent(FAutomationExecutionEntry(FAutomationEvent(EAutomationEventType::Info, InLogItem)));

@@ -74,7 +74,6 @@ class FAutomationTestExecutionInfo
 public:
 	const TArray<FAutomationExecutionEntry>& GetEntries() const { return Entries; }
 	int32 GetErrorTotal() const { return Count(EAutomationEventType::Error); }
-	int32 GetWarningTotal() const { return Count(EAutomationEventType::Warning); }
 	void AddEvent(const FAutomationExecutionEntry& Entry) { Entries.Add(Entry); }
 
 	bool bSuccessful = false;
@@ -94,20 +93,6 @@ public:
 
 	/** Once a frame. True when it is done; the next command's turn comes then. */
 	virtual bool Update() = 0;
-};
-
-class FFunctionLatentCommand : public IAutomationLatentCommand
-{
-public:
-	explicit FFunctionLatentCommand(TFunction<bool()> InLatentPredicate)
-		: LatentPredicate(MoveTemp(InLatentPredicate))
-	{
-	}
-
-	virtual bool Update() override { return LatentPredicate(); }
-
-private:
-	TFunction<bool()> LatentPredicate;
 };
 
 /** Calls once, after a delay in seconds from when its turn comes. */
@@ -154,8 +139,6 @@ public:
 	virtual int32 GetTestSourceFileLine() const = 0;
 
 	virtual void AddError(const FString& InError, int32 StackOffset = 0, FSourceLocation Place = FSourceLocation::current());
-	virtual bool AddErrorIfFalse(bool bCondition, const FString& InError, int32 StackOffset = 0, FSourceLocation Place = FSourceLocation::current());
-	virtual void AddWarning(const FString& InWarning, int32 StackOffset = 0, FSourceLocation Place = FSourceLocation::current());
 	virtual void AddInfo(const FString& InLogItem, int32 StackOffset = 0, bool bCaptureStack = false);
 	bool HasAnyErrors() const { return ExecutionInfo.GetErrorTotal() > 0; }
 
@@ -197,12 +180,6 @@ public:
 	}
 
 	template<typename ValueType>
-	bool TestNotEqual(const TCHAR* What, const ValueType& Actual, const ValueType& Expected, FSourceLocation Place = FSourceLocation::current())
-	{
-		return Check(!(Actual == Expected), What, TEXT("The two values are equal."), Place);
-	}
-
-	template<typename ValueType>
 	bool TestNotNull(const TCHAR* What, const ValueType* Pointer, FSourceLocation Place = FSourceLocation::current())
 	{
 		return Check(Pointer != nullptr, What, TEXT("The pointer is null."), Place);
@@ -231,7 +208,6 @@ protected:
 	/** Parallel arrays: how each case is shown, dots making a tree, and the parameter it is run with. */
 	virtual void GetTests(TArray<FString>& OutBeautifiedNames, TArray<FString>& OutTestCommands) const = 0;
 	virtual bool RunTest(const FString& Parameters) = 0;
-	virtual FString GetBeautifiedTestName() const = 0;
 
 private:
 	friend FAutomationLog;
@@ -264,17 +240,14 @@ private:
 class FAutomationTestInfo
 {
 public:
-	FAutomationTestInfo(const FString& InDisplayName, const FString& InFullTestPath, const FString& InTestName, const FString& InSourceFile, int32 InSourceFileLine)
-		: DisplayName(InDisplayName)
-		, FullTestPath(InFullTestPath)
+	FAutomationTestInfo(const FString&, const FString& InFullTestPath, const FString& InTestName, const FString& InSourceFile, int32 InSourceFileLine)
+		: FullTestPath(InFullTestPath)
 		, TestName(InTestName)
 		, SourceFile(InSourceFile)
 		, SourceFileLine(InSourceFileLine)
 	{
 	}
 
-	/** The last part of the path. */
-	const FString& GetDisplayName() const { return DisplayName; }
 	const FString& GetFullTestPath() const { return FullTestPath; }
 	/** What FAutomationTestFramework::StartTestByName takes. */
 	const FString& GetTestName() const { return TestName; }
@@ -282,7 +255,6 @@ public:
 	int32 GetSourceFileLine() const { return SourceFileLine; }
 
 private:
-	FString DisplayName;
 	FString FullTestPath;
 	FString TestName;
 	FString SourceFile;
@@ -360,7 +332,6 @@ namespace UE::Core::Private
 	protected: \
 		virtual void GetTests(TArray<FString>& OutBeautifiedNames, TArray<FString>& OutTestCommands) const override; \
 		virtual bool RunTest(const FString& Parameters) override; \
-		virtual FString GetBeautifiedTestName() const override { return PrettyName; } \
 	}; \
 	namespace \
 	{ \

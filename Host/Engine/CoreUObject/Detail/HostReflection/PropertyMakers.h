@@ -217,12 +217,6 @@ namespace UE::Reflection
 	};
 
 	template<typename T>
-	struct TPropertyMaker<TSoftClassPtr<T>>
-	{
-		static FProperty* Create() { return new FSoftClassProperty(ClassOf<T>()); }
-	};
-
-	template<typename T>
 	struct TPropertyMaker<TArray<T>>
 	{
 		static FProperty* Create() { return new FArrayProperty(CreateProperty<T>(), ArrayOps<T>()); }

@@ -195,11 +195,6 @@ void UObject::ProcessEvent(UFunction* Function, void* Parms)
 	Function->Invoke(this, Stack, Return ? Return->ContainerPtrToValuePtr(Parms) : nullptr);
 }
 
-bool UObject::ImplementsInterfaceClass(const UClass* InterfaceClass) const
-{
-	return GetClass()->ImplementsInterface(InterfaceClass);
-}
-
 void* UObject::GetNativeInterfaceAddress(UClass* InterfaceClass)
 {
 	for (const UClass* Class = GetClass(); Class; Class = Class->GetSuperClass())
@@ -213,15 +208,6 @@ void* UObject::GetNativeInterfaceAddress(UClass* InterfaceClass)
 		}
 	}
 	return nullptr;
-}
-
-void* UObject::GetInterfaceAddress(UClass* InterfaceClass)
-{
-	if (void* Native = GetNativeInterfaceAddress(InterfaceClass))
-	{
-		return Native;
-	}
-	return InterfaceClass && InterfaceClass->HasAnyClassFlags(CLASS_Interface) && ImplementsInterfaceClass(InterfaceClass) ? this : nullptr;
 }
 
 void UObject::AddReferencedObjects(UObject*, FReferenceCollector&)

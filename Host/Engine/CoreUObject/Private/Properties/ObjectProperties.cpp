@@ -259,11 +259,6 @@ const TCHAR* FSoftObjectProperty::ImportText_Internal(const TCHAR* Buffer, void*
 	return FObjectPropertyBase::ImportText_Internal(Buffer, Value, OwnerObject, PortFlags, ErrorText);
 }
 
-FString FSoftClassProperty::GetCPPType() const
-{
-	return FString::Printf(TEXT("TSoftClassPtr<%s%s>"), MetaClass->GetPrefixCPP(), *MetaClass->GetName());
-}
-
 //~ Dynamic delegates
 
 void FDelegateProperty::ExportText_Internal(FString& ValueStr, const void* Value, const void*, UObject*, int32, UObject*) const

@@ -43,7 +43,6 @@ enum EClassCastFlags : uint64
 	CASTCLASS_FWeakObjectProperty = 1ull << 23,
 	CASTCLASS_FSoftObjectProperty = 1ull << 24,
 	CASTCLASS_FClassProperty = 1ull << 25,
-	CASTCLASS_FSoftClassProperty = 1ull << 26,
 	CASTCLASS_FDelegateProperty = 1ull << 28,
 	CASTCLASS_FMulticastDelegateProperty = 1ull << 29,
 };

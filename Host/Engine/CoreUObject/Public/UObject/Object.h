@@ -103,8 +103,6 @@ public:
 	/** The I… part for interface class InterfaceClass; null when only a script class implements it. */
 	void* GetNativeInterfaceAddress(UClass* InterfaceClass);
 	const void* GetNativeInterfaceAddress(UClass* InterfaceClass) const { return const_cast<UObject*>(this)->GetNativeInterfaceAddress(InterfaceClass); }
-	/** The same, but the object itself when only a script class implements it. */
-	void* GetInterfaceAddress(UClass* InterfaceClass);
 
 	/** By name, case aside: the class's own functions, those of its interfaces, then the super classes'. */
 	UFunction* FindFunction(FName InName) const;
@@ -171,8 +169,6 @@ public:
 private:
 	friend class FObjectInitializer;
 	friend class FObjectNameTable;
-
-	bool ImplementsInterfaceClass(const UClass* InterfaceClass) const;
 
 	UClass* ClassPrivate;
 	UObject* OuterPrivate;

@@ -206,23 +206,6 @@ public:
 	DECLARE_PROPERTY_VALUES()
 };
 
-/** TSoftClassPtr<T>. */
-class FSoftClassProperty : public FSoftObjectProperty
-{
-	DECLARE_FIELD(FSoftClassProperty, FSoftObjectProperty)
-
-public:
-	UClass* MetaClass;
-
-	explicit FSoftClassProperty(UClass* InMetaClass)
-		: FSoftObjectProperty(UClass::StaticClass())
-		, MetaClass(InMetaClass)
-	{
-	}
-
-	FString GetCPPType() const override;
-};
-
 class FStructProperty : public FProperty
 {
 	DECLARE_FIELD(FStructProperty, FProperty)

@@ -52,8 +52,6 @@ public:
 	 */
 	bool Destroy(bool bNetForce = false, bool bShouldModifyLevel = true);
 
-	bool IsActorBeingDestroyed() const { return bActorIsBeingDestroyed; }
-
 	/** Whether the editor has it selected. */
 	bool IsSelected() const { return bSelected; }
 

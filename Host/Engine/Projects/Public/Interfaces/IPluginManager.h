@@ -39,7 +39,6 @@ public:
 
 	/** By name alone, ignoring case. Null for a plugin that was not found. */
 	virtual TSharedPtr<IPlugin> FindPlugin(const FStringView Name) = 0;
-	TSharedPtr<IPlugin> FindPlugin(const ANSICHAR* Name) { return FindPlugin(FStringView(FString(Name))); }
 
 	/** In order of their names. */
 	virtual TArray<TSharedRef<IPlugin>> GetEnabledPlugins() = 0;

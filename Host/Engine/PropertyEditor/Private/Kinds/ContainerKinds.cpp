@@ -79,10 +79,10 @@ TSharedRef<SWidget> FContainerKind::MakeValue(const TSharedRef<FPropertyNode>& N
 	return SNew(STextBlock).Text_Static(&ContainerKinds::GetElementCount, Node).Font(IPropertyTypeCustomizationUtils::GetRegularFont());
 }
 
-TSharedRef<SWidget> FArrayKind::MakeExtension(const TSharedRef<FPropertyNode>& Node, EPropertyButtons Buttons) const
+TSharedRef<SWidget> FArrayKind::MakeExtension(const TSharedRef<FPropertyNode>& Node) const
 {
 	const bool bCanHaveMore = !Node->GetProperty()->HasAnyPropertyFlags(CPF_EditFixedSize) && !Node->IsReadOnly();
-	return Buttons == EPropertyButtons::Show && bCanHaveMore ? ContainerKinds::MakeElementButtons(Node) : SNullWidget::NullWidget;
+	return bCanHaveMore ? ContainerKinds::MakeElementButtons(Node) : SNullWidget::NullWidget;
 }
 
 void FArrayKind::FitElements(const TSharedRef<FPropertyNode>& Node, const TArray<void*>& Values, TArray<TSharedRef<FPropertyNode>>& InOutElements) const

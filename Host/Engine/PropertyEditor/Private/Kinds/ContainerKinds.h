@@ -18,7 +18,7 @@ public:
 class FArrayKind final : public FContainerKind
 {
 public:
-	virtual TSharedRef<SWidget> MakeExtension(const TSharedRef<FPropertyNode>& Node, EPropertyButtons Buttons) const override;
+	virtual TSharedRef<SWidget> MakeExtension(const TSharedRef<FPropertyNode>& Node) const override;
 	virtual void FitElements(const TSharedRef<FPropertyNode>& Node, const TArray<void*>& Values, TArray<TSharedRef<FPropertyNode>>& InOutElements) const override;
 };
 

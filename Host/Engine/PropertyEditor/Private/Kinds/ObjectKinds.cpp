@@ -72,8 +72,3 @@ UObject* FSoftObjectKind::Follow(const FProperty&, const void* Value) const
 {
 	return FSoftObjectProperty::GetPropertyValue(Value).LoadSynchronous();
 }
-
-const UClass* FSoftClassKind::FindMetaClass(const FProperty& Property) const
-{
-	return CastFieldChecked<FSoftClassProperty>(&Property)->MetaClass;
-}

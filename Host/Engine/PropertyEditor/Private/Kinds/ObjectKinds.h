@@ -40,9 +40,3 @@ class FSoftObjectKind : public FObjectKind
 protected:
 	virtual UObject* Follow(const FProperty& Property, const void* Value) const override;
 };
-
-class FSoftClassKind final : public FSoftObjectKind
-{
-protected:
-	virtual const UClass* FindMetaClass(const FProperty& Property) const override;
-};

@@ -54,7 +54,7 @@ TSharedRef<SWidget> FPropertyKind::MakeValue(const TSharedRef<FPropertyNode>& No
 	return PropertyWidgets::MakeTextBox(Node);
 }
 
-TSharedRef<SWidget> FPropertyKind::MakeExtension(const TSharedRef<FPropertyNode>&, EPropertyButtons) const
+TSharedRef<SWidget> FPropertyKind::MakeExtension(const TSharedRef<FPropertyNode>&) const
 {
 	return SNullWidget::NullWidget;
 }

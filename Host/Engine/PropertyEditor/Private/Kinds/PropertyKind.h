@@ -8,12 +8,6 @@
 class FPropertyNode;
 class SWidget;
 
-enum class EPropertyButtons : uint8
-{
-	Show,
-	LeaveOut, // those that change a container's number of elements
-};
-
 /**
  * What the property editor does with the values of one kind of property: reads and writes them, turns them into texts and back, shows
  * them in widgets, and knows what lies below them. This one fits whatever is a line of text.
@@ -54,7 +48,7 @@ public:
 	/** Something to see and, unless it is read-only, to change the value with. */
 	virtual TSharedRef<SWidget> MakeValue(const TSharedRef<FPropertyNode>& Node) const;
 	/** What stands behind the value. The null widget where there is nothing. */
-	virtual TSharedRef<SWidget> MakeExtension(const TSharedRef<FPropertyNode>& Node, EPropertyButtons Buttons) const;
+	virtual TSharedRef<SWidget> MakeExtension(const TSharedRef<FPropertyNode>& Node) const;
 
 	//~ What lies below, and the type
 	/** Whether it has elements, which come and go. */

@@ -20,7 +20,6 @@ namespace PropertyKinds
 	const FTextKind Text;
 	const FClassKind Class;
 	const FHardObjectKind HardObject;
-	const FSoftClassKind SoftClass;
 	const FSoftObjectKind SoftObject;
 	const FObjectKind Object;
 	const FStructKind Struct;
@@ -44,7 +43,6 @@ namespace PropertyKinds
 		{FTextProperty::StaticClassCastFlags(), Text},
 		{FClassProperty::StaticClassCastFlags(), Class},
 		{FObjectProperty::StaticClassCastFlags(), HardObject},
-		{FSoftClassProperty::StaticClassCastFlags(), SoftClass},
 		{FSoftObjectProperty::StaticClassCastFlags(), SoftObject},
 		{FObjectPropertyBase::StaticClassCastFlags(), Object},
 		{FStructProperty::StaticClassCastFlags(), Struct},

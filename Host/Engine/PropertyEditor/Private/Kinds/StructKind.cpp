@@ -50,7 +50,7 @@ TSharedRef<SWidget> FStructKind::MakeValue(const TSharedRef<FPropertyNode>& Node
 	return IsShownWhole(*Node->GetProperty()) ? PropertyWidgets::MakeTextBox(Node) : SNullWidget::NullWidget;
 }
 
-TSharedRef<SWidget> FStructKind::MakeExtension(const TSharedRef<FPropertyNode>& Node, EPropertyButtons) const
+TSharedRef<SWidget> FStructKind::MakeExtension(const TSharedRef<FPropertyNode>& Node) const
 {
 	const UScriptStruct* Struct = StructKind::GetStruct(*Node->GetProperty());
 	if (Struct == TBaseStructure<FLinearColor>::Get() || Struct == TBaseStructure<FColor>::Get())

@@ -11,7 +11,7 @@ public:
 	virtual bool IsEndless(const FProperty& Property, const void* Value) const override;
 	virtual bool IsShownWhole(const FProperty& Property) const override;
 	virtual TSharedRef<SWidget> MakeValue(const TSharedRef<FPropertyNode>& Node) const override;
-	virtual TSharedRef<SWidget> MakeExtension(const TSharedRef<FPropertyNode>& Node, EPropertyButtons Buttons) const override;
+	virtual TSharedRef<SWidget> MakeExtension(const TSharedRef<FPropertyNode>& Node) const override;
 	virtual const UStruct* FindStruct(const FProperty& Property) const override;
 	virtual TArray<FName> GetTypeNames(const FProperty& Property) const override;
 };

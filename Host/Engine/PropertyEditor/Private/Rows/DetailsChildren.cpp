@@ -31,12 +31,6 @@ FDetailWidgetRow& FDetailsPropertyRow::CustomWidget(bool bShowChildren)
 	return *CustomContent;
 }
 
-void FDetailsPropertyRow::GetDefaultWidgets(TSharedPtr<SWidget>& OutNameWidget, TSharedPtr<SWidget>& OutValueWidget, bool)
-{
-	OutNameWidget = PropertyWidgets::MakeName(Node, Name, FText::GetEmpty());
-	OutValueWidget = PropertyWidgets::MakeWhole(Node, EPropertyButtons::Show);
-}
-
 IDetailPropertyRow& FDetailsChildren::AddProperty(TSharedRef<IPropertyHandle> PropertyHandle)
 {
 	FEntry& Entry = Entries.AddDefaulted_GetRef();

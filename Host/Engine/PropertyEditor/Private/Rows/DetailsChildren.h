@@ -22,7 +22,6 @@ public:
 	virtual IDetailPropertyRow& Visibility(TAttribute<EVisibility> InVisibility) override;
 	virtual IDetailPropertyRow& IsEnabled(TAttribute<bool> InIsEnabled) override;
 	virtual FDetailWidgetRow& CustomWidget(bool bShowChildren) override;
-	virtual void GetDefaultWidgets(TSharedPtr<SWidget>& OutNameWidget, TSharedPtr<SWidget>& OutValueWidget, bool bAddWidgetDecoration) override;
 	//~ End IDetailPropertyRow
 
 	const TSharedRef<FPropertyNode> Node;

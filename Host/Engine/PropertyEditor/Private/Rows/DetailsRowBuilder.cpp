@@ -43,7 +43,7 @@ namespace DetailsRowBuilder
 		]
 		.ExtensionContent()
 		[
-			PropertyWidgets::MakeExtension(Node, EPropertyButtons::Show)
+			PropertyWidgets::MakeExtension(Node)
 		];
 		// clang-format on
 		if (Node->GetKind().IsContainer())

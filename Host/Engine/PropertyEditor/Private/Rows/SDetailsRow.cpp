@@ -84,10 +84,9 @@ void SDetailsRow::Construct(const FArguments& InArgs, const FDetailWidgetRow& Co
 	{
 		Customizations.Add(InArgs._Customization);
 	}
-	const bool bWholeRow = Content.WholeRowWidget.Widget != SNullWidget::NullWidget;
-	NameWidget = bWholeRow ? SNullWidget::NullWidget : Content.NameWidget.Widget;
-	ValueWidget = bWholeRow ? Content.WholeRowWidget.Widget : Content.ValueWidget.Widget;
-	ExtensionWidget = bWholeRow ? SNullWidget::NullWidget : Content.ExtensionWidget.Widget;
+	NameWidget = Content.NameWidget.Widget;
+	ValueWidget = Content.ValueWidget.Widget;
+	ExtensionWidget = Content.ExtensionWidget.Widget;
 	FitElements();
 }
 

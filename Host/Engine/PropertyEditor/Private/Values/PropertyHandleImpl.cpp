@@ -123,16 +123,6 @@ TSharedPtr<IPropertyHandle> FPropertyHandle::GetChildHandle(uint32 Index) const
 	return Index < static_cast<uint32>(Children.Num()) ? Make(Children[static_cast<int32>(Index)]) : nullptr;
 }
 
-FPropertyAccess::Result FPropertyHandle::GetNumChildren(uint32& OutNumChildren) const
-{
-	if (!Node->HasValues())
-	{
-		return FPropertyAccess::Fail;
-	}
-	OutNumChildren = static_cast<uint32>(Node->GetChildren().Num());
-	return FPropertyAccess::Success;
-}
-
 FPropertyAccess::Result FPropertyHandle::GetValue(UObject*& OutValue) const
 {
 	return Node->GetKind().ReadObject(*Node, OutValue);
@@ -190,11 +180,6 @@ FPropertyAccess::Result FPropertyHandle::SetValueFromFormattedString(const FStri
 	return PropertyValue::WriteText(*Node, InValue, Flags);
 }
 
-FPropertyAccess::Result FPropertyHandle::GetValueAsDisplayString(FString& OutValue, EPropertyPortFlags PortFlags) const
-{
-	return Node->GetKind().ReadDisplayText(*Node, OutValue, PortFlags);
-}
-
 void FPropertyHandle::SetOnPropertyValueChanged(const FSimpleDelegate& InOnPropertyValueChanged)
 {
 	Node->OnValueChanged.Add(InOnPropertyValueChanged);
@@ -208,16 +193,6 @@ void FPropertyHandle::SetOnChildPropertyValueChanged(const FSimpleDelegate& InOn
 TSharedRef<SWidget> FPropertyHandle::CreatePropertyNameWidget(const FText& NameOverride, const FText& ToolTipOverride) const
 {
 	return PropertyWidgets::MakeName(Node, NameOverride, ToolTipOverride);
-}
-
-TSharedRef<SWidget> FPropertyHandle::CreatePropertyValueWidget(bool bDisplayDefaultPropertyButtons) const
-{
-	return PropertyWidgets::MakeWhole(Node, bDisplayDefaultPropertyButtons ? EPropertyButtons::Show : EPropertyButtons::LeaveOut);
-}
-
-FText FPropertyHandle::GetPropertyDisplayName() const
-{
-	return Node->HasValues() && !Node->IsRoot() ? Node->GetPlace().GetDisplayName() : FText::GetEmpty();
 }
 
 FProperty* FPropertyHandle::GetProperty() const

@@ -32,7 +32,6 @@ public:
 	virtual bool IsValidHandle() const override { return Node->HasValues(); }
 	virtual TSharedPtr<IPropertyHandle> GetChildHandle(FName ChildName, bool bRecurse) const override;
 	virtual TSharedPtr<IPropertyHandle> GetChildHandle(uint32 Index) const override;
-	virtual FPropertyAccess::Result GetNumChildren(uint32& OutNumChildren) const override;
 	FOR_EACH_PLAIN_VALUE_TYPE(DECLARE_HANDLE_VALUE)
 	virtual FPropertyAccess::Result GetValue(UObject*& OutValue) const override;
 	virtual FPropertyAccess::Result GetValue(const UObject*& OutValue) const override;
@@ -43,12 +42,9 @@ public:
 	virtual FPropertyAccess::Result SetValue(const TCHAR* InValue, EPropertyValueSetFlags::Type Flags) override;
 	virtual FPropertyAccess::Result GetValueAsFormattedString(FString& OutValue, EPropertyPortFlags PortFlags) const override;
 	virtual FPropertyAccess::Result SetValueFromFormattedString(const FString& InValue, EPropertyValueSetFlags::Type Flags) override;
-	virtual FPropertyAccess::Result GetValueAsDisplayString(FString& OutValue, EPropertyPortFlags PortFlags) const override;
 	virtual void SetOnPropertyValueChanged(const FSimpleDelegate& InOnPropertyValueChanged) override;
 	virtual void SetOnChildPropertyValueChanged(const FSimpleDelegate& InOnChildPropertyValueChanged) override;
 	virtual TSharedRef<SWidget> CreatePropertyNameWidget(const FText& NameOverride, const FText& ToolTipOverride) const override;
-	virtual TSharedRef<SWidget> CreatePropertyValueWidget(bool bDisplayDefaultPropertyButtons) const override;
-	virtual FText GetPropertyDisplayName() const override;
 	virtual FProperty* GetProperty() const override;
 	//~ End IPropertyHandle
 

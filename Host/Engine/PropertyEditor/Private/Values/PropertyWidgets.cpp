@@ -83,23 +83,9 @@ TSharedRef<SWidget> PropertyWidgets::MakeValue(const TSharedRef<FPropertyNode>& 
 	return Node->HasValues() && !Node->IsRoot() ? Node->GetKind().MakeValue(Node) : SNullWidget::NullWidget;
 }
 
-TSharedRef<SWidget> PropertyWidgets::MakeExtension(const TSharedRef<FPropertyNode>& Node, EPropertyButtons Buttons)
+TSharedRef<SWidget> PropertyWidgets::MakeExtension(const TSharedRef<FPropertyNode>& Node)
 {
-	return Node->HasValues() && !Node->IsRoot() ? Node->GetKind().MakeExtension(Node, Buttons) : SNullWidget::NullWidget;
-}
-
-TSharedRef<SWidget> PropertyWidgets::MakeWhole(const TSharedRef<FPropertyNode>& Node, EPropertyButtons Buttons)
-{
-	const TSharedRef<SWidget> Value = MakeValue(Node);
-	const TSharedRef<SWidget> Extension = MakeExtension(Node, Buttons);
-	if (Extension == SNullWidget::NullWidget)
-	{
-		return Value;
-	}
-	const TSharedRef<SHostPartList> Parts = SNew(SHostPartList);
-	Parts->AddPart(Value);
-	Parts->AddPart(Extension);
-	return Parts;
+	return Node->HasValues() && !Node->IsRoot() ? Node->GetKind().MakeExtension(Node) : SNullWidget::NullWidget;
 }
 
 #undef LOCTEXT_NAMESPACE

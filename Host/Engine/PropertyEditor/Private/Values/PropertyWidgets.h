@@ -18,10 +18,7 @@ namespace PropertyWidgets
 	TSharedRef<SWidget> MakeValue(const TSharedRef<FPropertyNode>& Node);
 
 	/** What stands behind the value: the swatch of a colour, the buttons of an array. The null widget where there is nothing. */
-	TSharedRef<SWidget> MakeExtension(const TSharedRef<FPropertyNode>& Node, EPropertyButtons Buttons);
-
-	/** Both. */
-	TSharedRef<SWidget> MakeWhole(const TSharedRef<FPropertyNode>& Node, EPropertyButtons Buttons);
+	TSharedRef<SWidget> MakeExtension(const TSharedRef<FPropertyNode>& Node);
 
 	//~ For kinds of property to make theirs of
 	/** For values that one line of text tells. */

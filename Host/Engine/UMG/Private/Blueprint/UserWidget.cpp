@@ -194,11 +194,6 @@ void UWidgetTree::ForEachWidget(TFunctionRef<void(UWidget*)> Predicate) const
 	UMGWidgetTree::Visit(RootWidget, Predicate);
 }
 
-void UWidgetTree::GetAllWidgets(TArray<UWidget*>& Widgets) const
-{
-	ForEachWidget([&Widgets](UWidget* Widget) { Widgets.Add(Widget); });
-}
-
 UWidget* UWidgetTree::FindWidget(const FName& Name) const
 {
 	UWidget* Found = nullptr;

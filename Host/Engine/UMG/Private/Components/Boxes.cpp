@@ -1,6 +1,5 @@
 // Copyright Velmorant. All Rights Reserved.
 
-#include "Components/CanvasPanel.h"
 #include "Components/HorizontalBox.h"
 #include "Components/HorizontalBoxSlot.h"
 #include "Components/SizeBox.h"
@@ -58,11 +57,6 @@ namespace UMGBoxes
 			FillBox(static_cast<BoxType&>(*Box), Panel);
 		}
 	}
-
-	FOptionalSize SizeIf(bool bSet, float Value)
-	{
-		return bSet ? FOptionalSize(Value) : FOptionalSize();
-	}
 }
 
 TSharedRef<SWidget> UVerticalBox::RebuildWidget()
@@ -95,16 +89,6 @@ UClass* UHorizontalBox::GetSlotClass() const
 	return UHorizontalBoxSlot::StaticClass();
 }
 
-TSharedRef<SWidget> UCanvasPanel::RebuildWidget()
-{
-	return UMGBoxes::MakeBox<SVerticalBox>(*this);
-}
-
-void UCanvasPanel::RefreshChildren()
-{
-	UMGBoxes::Refresh<SVerticalBox>(MyWidget, *this);
-}
-
 TSharedRef<SWidget> USizeBox::RebuildWidget()
 {
 	return SNew(SBox)[TakeContent()];
@@ -128,61 +112,13 @@ void USizeBox::SynchronizeProperties()
 	Super::SynchronizeProperties();
 	if (const TSharedPtr<SBox> Box = GetBox())
 	{
-		Box->SetWidthOverride(UMGBoxes::SizeIf(bOverride_WidthOverride, WidthOverride));
-		Box->SetHeightOverride(UMGBoxes::SizeIf(bOverride_HeightOverride, HeightOverride));
-		Box->SetMinDesiredWidth(UMGBoxes::SizeIf(bOverride_MinDesiredWidth, MinDesiredWidth));
-		Box->SetMinDesiredHeight(UMGBoxes::SizeIf(bOverride_MinDesiredHeight, MinDesiredHeight));
+		Box->SetMinDesiredHeight(bOverride_MinDesiredHeight ? FOptionalSize(MinDesiredHeight) : FOptionalSize());
 	}
-}
-
-void USizeBox::SetWidthOverride(float InWidthOverride)
-{
-	bOverride_WidthOverride = true;
-	WidthOverride = InWidthOverride;
-	SynchronizeProperties();
-}
-
-void USizeBox::ClearWidthOverride()
-{
-	bOverride_WidthOverride = false;
-	SynchronizeProperties();
-}
-
-void USizeBox::SetHeightOverride(float InHeightOverride)
-{
-	bOverride_HeightOverride = true;
-	HeightOverride = InHeightOverride;
-	SynchronizeProperties();
-}
-
-void USizeBox::ClearHeightOverride()
-{
-	bOverride_HeightOverride = false;
-	SynchronizeProperties();
-}
-
-void USizeBox::SetMinDesiredWidth(float InMinDesiredWidth)
-{
-	bOverride_MinDesiredWidth = true;
-	MinDesiredWidth = InMinDesiredWidth;
-	SynchronizeProperties();
-}
-
-void USizeBox::ClearMinDesiredWidth()
-{
-	bOverride_MinDesiredWidth = false;
-	SynchronizeProperties();
 }
 
 void USizeBox::SetMinDesiredHeight(float InMinDesiredHeight)
 {
 	bOverride_MinDesiredHeight = true;
 	MinDesiredHeight = InMinDesiredHeight;
-	SynchronizeProperties();
-}
-
-void USizeBox::ClearMinDesiredHeight()
-{
-	bOverride_MinDesiredHeight = false;
 	SynchronizeProperties();
 }

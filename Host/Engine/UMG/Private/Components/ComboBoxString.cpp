@@ -90,30 +90,9 @@ void UComboBoxString::AddOption(const FString& Option)
 	NoteOptionsChanged();
 }
 
-bool UComboBoxString::RemoveOption(const FString& Option)
-{
-	const int32 Index = FindOptionIndex(Option);
-	if (Index == INDEX_NONE)
-	{
-		return false;
-	}
-	if (Options[Index] == CurrentOptionPtr)
-	{
-		ClearSelection();
-	}
-	Options.RemoveAt(Index);
-	NoteOptionsChanged();
-	return true;
-}
-
 int32 UComboBoxString::FindOptionIndex(const FString& Option) const
 {
 	return Options.IndexOfByPredicate([&Option](const TSharedPtr<FString>& Other) { return *Other == Option; });
-}
-
-FString UComboBoxString::GetOptionAtIndex(int32 Index) const
-{
-	return Options.IsValidIndex(Index) ? *Options[Index] : FString();
 }
 
 void UComboBoxString::ClearOptions()

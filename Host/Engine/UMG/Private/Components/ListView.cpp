@@ -52,8 +52,7 @@ TSharedRef<SWidget> UListView::RebuildWidget()
 		.ListItemsSource(&ListItems)
 		.SelectionMode(ESelectionMode::Single)
 		.OnGenerateRow_UObject(this, &UListView::HandleGenerateRow)
-		.OnMouseButtonClick_UObject(this, &UListView::HandleItemClicked)
-		.OnSelectionChanged_UObject(this, &UListView::HandleSelectionChanged);
+		.OnMouseButtonClick_UObject(this, &UListView::HandleItemClicked);
 	// clang-format on
 }
 
@@ -78,34 +77,6 @@ void UListView::HandleItemClicked(UObject* Item)
 {
 	OnItemClickedEvent.Broadcast(Item);
 	BP_OnItemClicked.Broadcast(Item);
-}
-
-void UListView::HandleSelectionChanged(UObject* Item, ESelectInfo::Type)
-{
-	OnItemSelectionChangedEvent.Broadcast(Item);
-}
-
-void UListView::AddItem(UObject* Item)
-{
-	if (Item && !ListItems.Contains(Item))
-	{
-		ListItems.Add(Item);
-		OnItemsChanged();
-	}
-}
-
-void UListView::RemoveItem(UObject* Item)
-{
-	if (ListItems.Remove(Item) > 0)
-	{
-		OnItemsChanged();
-	}
-}
-
-void UListView::ClearListItems()
-{
-	ListItems.Empty();
-	OnItemsChanged();
 }
 
 void UListView::BP_SetListItems(const TArray<UObject*>& InListItems)
@@ -140,14 +111,6 @@ UObject* UListView::GetSelectedItem() const
 {
 	const TSharedPtr<SListView<UObject*>> List = GetList();
 	return List.IsValid() && List->GetNumItemsSelected() > 0 ? List->GetSelectedItems()[0] : nullptr;
-}
-
-void UListView::RegenerateAllEntries()
-{
-	if (const TSharedPtr<SListView<UObject*>> List = GetList())
-	{
-		List->RebuildList();
-	}
 }
 
 void UListView::RequestRefresh()

@@ -154,12 +154,6 @@ void UEditableTextBox::SetIsPassword(bool bInIsPassword)
 	SynchronizeProperties();
 }
 
-void UEditableTextBox::SetIsReadOnly(bool bReadOnly)
-{
-	bIsReadOnly = bReadOnly;
-	SynchronizeProperties();
-}
-
 void UEditableTextBox::SetError(FText InError)
 {
 	if (const TSharedPtr<SEditableTextBox> Widget = StaticCastSharedPtr<SEditableTextBox>(MyWidget.Pin()))

@@ -38,8 +38,6 @@ public:
 	UWidget* GetWidgetFromName(const FName& Name) const;
 	UWidget* GetRootWidget() const;
 
-	bool IsConstructed() const { return bConstructed; }
-
 	virtual void SetVisibility(ESlateVisibility InVisibility) override;
 	virtual void RemoveFromParent() override;
 	virtual void ReleaseSlateResources(bool bReleaseChildren) override;

@@ -21,7 +21,6 @@ public:
 
 	/** Parents before children, in order. The widgets inside nested user widgets are not among them. */
 	void ForEachWidget(TFunctionRef<void(UWidget*)> Predicate) const;
-	void GetAllWidgets(TArray<UWidget*>& Widgets) const;
 
 	/** Makes a widget that belongs to this tree; it shows once it is put somewhere. Null for an abstract class. */
 	template<typename WidgetT>

@@ -17,9 +17,6 @@ class UMG_API UCheckBox : public UContentWidget
 
 public:
 	UFUNCTION(BlueprintCallable, Category = "Widget")
-	bool IsPressed() const { return false; }
-
-	UFUNCTION(BlueprintCallable, Category = "Widget")
 	bool IsChecked() const { return GetCheckedState() == ECheckBoxState::Checked; }
 
 	UFUNCTION(BlueprintCallable, Category = "Widget")

@@ -25,17 +25,9 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "ComboBox")
 	void AddOption(const FString& Option);
 
-	/** @return whether there was such an option. Removing the selected one clears the selection. */
-	UFUNCTION(BlueprintCallable, Category = "ComboBox")
-	bool RemoveOption(const FString& Option);
-
 	/** The first option that equals Option, ignoring case; -1 when there is none. */
 	UFUNCTION(BlueprintCallable, Category = "ComboBox")
 	int32 FindOptionIndex(const FString& Option) const;
-
-	/** Empty for an index that is none. */
-	UFUNCTION(BlueprintCallable, Category = "ComboBox")
-	FString GetOptionAtIndex(int32 Index) const;
 
 	/** Also clears the selection, which tells the listeners with an empty string if something was selected. */
 	UFUNCTION(BlueprintCallable, Category = "ComboBox")

@@ -26,7 +26,6 @@ public:
 	/** The text never shows, and a snapshot does not tell it. */
 	UFUNCTION(BlueprintCallable, Category = "Widget")
 	void SetIsPassword(bool InbIsPassword);
-	bool GetIsPassword() const { return IsPassword; }
 
 	UFUNCTION(BlueprintCallable, Category = "Widget")
 	FText GetHintText() const { return HintText; }

@@ -24,12 +24,7 @@ public:
 	void SetText(FText InText);
 
 	UFUNCTION(BlueprintCallable, Category = "Widget")
-	void SetIsReadOnly(bool bReadOnly);
-	bool GetIsReadOnly() const { return bIsReadOnly; }
-
-	UFUNCTION(BlueprintCallable, Category = "Widget")
 	void SetIsPassword(bool bInIsPassword);
-	bool GetIsPassword() const { return IsPassword; }
 
 	UFUNCTION(BlueprintCallable, Category = "Widget")
 	void SetHintText(FText InHintText);

@@ -21,24 +21,10 @@ class UMG_API UListView : public UListViewBase
 
 public:
 	DECLARE_MULTICAST_DELEGATE_OneParam(FSimpleListItemEvent, UObject*);
-	DECLARE_MULTICAST_DELEGATE_OneParam(FOnItemSelectionChanged, UObject*);
-
-	UFUNCTION(BlueprintCallable, Category = "ListView")
-	void AddItem(UObject* Item);
-
-	UFUNCTION(BlueprintCallable, Category = "ListView")
-	void RemoveItem(UObject* Item);
-
-	UFUNCTION(BlueprintCallable, Category = "ListView")
-	void ClearListItems();
 
 	/** All items, whether they show or not. */
 	UFUNCTION(BlueprintCallable, Category = "ListView")
 	int32 GetNumItems() const { return ListItems.Num(); }
-
-	/** Null for an index that is none. */
-	UFUNCTION(BlueprintCallable, Category = "ListView")
-	UObject* GetItemAt(int32 Index) const { return ListItems.IsValidIndex(Index) ? ListItems[Index] : nullptr; }
 
 	const TArray<UObject*>& GetListItems() const { return ListItems; }
 
@@ -61,11 +47,9 @@ public:
 	void SetSelectedItem(const UObject* Item);
 	UObject* GetSelectedItem() const;
 
-	virtual void RegenerateAllEntries() override;
 	virtual void RequestRefresh() override;
 
 	virtual FSimpleListItemEvent& OnItemClicked() const { return OnItemClickedEvent; }
-	virtual FOnItemSelectionChanged& OnItemSelectionChanged() const { return OnItemSelectionChangedEvent; }
 
 protected:
 	virtual TSharedRef<SWidget> RebuildWidget() override;
@@ -73,7 +57,6 @@ protected:
 
 	TSharedRef<ITableRow> HandleGenerateRow(UObject* Item, const TSharedRef<STableViewBase>& OwnerTable);
 	void HandleItemClicked(UObject* Item);
-	void HandleSelectionChanged(UObject* Item, ESelectInfo::Type SelectInfo);
 
 private:
 	/** SetListItems() for Blueprints. */
@@ -97,5 +80,4 @@ private:
 	FSimpleListItemEventDynamic BP_OnItemClicked;
 
 	mutable FSimpleListItemEvent OnItemClickedEvent;
-	mutable FOnItemSelectionChanged OnItemSelectionChangedEvent;
 };

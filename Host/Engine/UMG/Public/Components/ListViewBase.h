@@ -16,12 +16,6 @@ class UMG_API UListViewBase : public UWidget
 	GENERATED_BODY()
 
 public:
-	TSubclassOf<UUserWidget> GetEntryWidgetClass() const { return EntryWidgetClass; }
-
-	/** Makes all entry widgets anew at the next tick. */
-	UFUNCTION(BlueprintCallable, Category = "ListViewBase")
-	virtual void RegenerateAllEntries() {}
-
 	/** Brings the entries in step with the items at the next tick. */
 	UFUNCTION(BlueprintCallable, Category = "ListViewBase")
 	virtual void RequestRefresh() {}

@@ -15,9 +15,6 @@ class UMG_API UPanelWidget : public UWidget
 	GENERATED_BODY()
 
 public:
-	UFUNCTION(BlueprintCallable, Category = "Panel")
-	int32 GetChildrenCount() const { return Slots.Num(); }
-
 	/** Null for an index that is none. */
 	UFUNCTION(BlueprintCallable, Category = "Panel")
 	UWidget* GetChildAt(int32 Index) const;
@@ -28,9 +25,6 @@ public:
 	/** INDEX_NONE for a widget that is no child. */
 	UFUNCTION(BlueprintCallable, Category = "Panel")
 	int32 GetChildIndex(const UWidget* Content) const;
-
-	UFUNCTION(BlueprintCallable, Category = "Panel")
-	bool HasChild(UWidget* Content) const { return GetChildIndex(Content) != INDEX_NONE; }
 
 	/** @return null when there is nothing to add, or no room: a content widget holds one child. */
 	UFUNCTION(BlueprintCallable, Category = "Panel")

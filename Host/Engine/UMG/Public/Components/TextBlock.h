@@ -23,16 +23,13 @@ public:
 
 	UFUNCTION(BlueprintCallable, Category = "Appearance")
 	void SetFont(FSlateFontInfo InFontInfo);
-	const FSlateFontInfo& GetFont() const { return Font; }
 
 	UFUNCTION(BlueprintCallable, Category = "Appearance")
 	void SetColorAndOpacity(FSlateColor InColorAndOpacity);
-	FSlateColor GetColorAndOpacity() const { return ColorAndOpacity; }
 
 	/** Breaks lines that the text's place is too narrow for. */
 	UFUNCTION(BlueprintCallable, Category = "Appearance")
 	void SetAutoWrapText(bool InAutoTextWrap);
-	bool GetAutoWrapText() const { return AutoWrapText; }
 
 	virtual void SynchronizeProperties() override;
 

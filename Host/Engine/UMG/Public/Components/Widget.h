@@ -32,7 +32,6 @@ public:
 
 	UFUNCTION(BlueprintCallable, Category = "Widget")
 	void SetToolTipText(const FText& InToolTipText);
-	FText GetToolTipText() const { return ToolTipText; }
 
 	UFUNCTION(BlueprintCallable, Category = "Widget")
 	ESlateVisibility GetVisibility() const { return Visibility; }

@@ -22,8 +22,6 @@ public:
 
 	void Construct(const FArguments& InArgs, UUserWidget* InWidgetObject);
 
-	UUserWidget* GetWidgetObject() const { return WidgetObject.Get(); }
-
 protected:
 	virtual void DescribeToHost(FHostWidgetDescription& OutDescription) const override;
 

@@ -30,9 +30,6 @@ public:
 	void Construct(const FArguments& InArgs);
 
 	void SetContent(const TSharedRef<SWidget>& InContent) { ChildSlot[InContent]; }
-	void SetWidthOverride(TAttribute<FOptionalSize> InValue) { WidthOverride = MoveTemp(InValue); }
-	void SetHeightOverride(TAttribute<FOptionalSize> InValue) { HeightOverride = MoveTemp(InValue); }
-	void SetMinDesiredWidth(TAttribute<FOptionalSize> InValue) { MinDesiredWidth = MoveTemp(InValue); }
 	void SetMinDesiredHeight(TAttribute<FOptionalSize> InValue) { MinDesiredHeight = MoveTemp(InValue); }
 
 protected:

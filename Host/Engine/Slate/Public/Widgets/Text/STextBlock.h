@@ -36,7 +36,6 @@ public:
 	FSlateFontInfo GetFont() const { return Font.Get(FSlateFontInfo()); }
 	void SetColorAndOpacity(TAttribute<FSlateColor> InColorAndOpacity) { ColorAndOpacity = MoveTemp(InColorAndOpacity); }
 	void SetAutoWrapText(TAttribute<bool> InAutoWrapText) { AutoWrapText = MoveTemp(InAutoWrapText); }
-	void SetJustification(TAttribute<ETextJustify::Type> InJustification) { Justification = MoveTemp(InJustification); }
 	FSlateColor GetColorAndOpacity() const { return ColorAndOpacity.Get(FSlateColor::UseForeground()); }
 
 protected:
