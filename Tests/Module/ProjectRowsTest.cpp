@@ -24,6 +24,17 @@ namespace ProjectRowsTest
 		}
 		return Texts;
 	}
+
+	/** What a list shows of the rows. */
+	TArray<TObjectPtr<UListDisplayerItemBase>> MakeItems(const TArray<FRow>& Rows)
+	{
+		TArray<TObjectPtr<UListDisplayerItemBase>> Items;
+		for (const FRow& Row : Rows)
+		{
+			Items.Add(UListDisplayerItemBase::CreateListDisplayerItemBase(Row.UnitID, Row.Keycode, Row.DisplayName, ELDIT_Unit));
+		}
+		return Items;
+	}
 }
 
 using namespace ProjectRowsTest;
@@ -57,7 +68,7 @@ TEST(ProjectRows, AreFoundByKeyCodeAndNameInOne)
 		{TEXT("s"), {0, 1}},
 		{TEXT("10"), {}}, // numbers are not searched
 	};
-	const FVelmorantTextSearch Search = ProjectRows::MakeSearch(Rows);
+	const FVelmorantTextSearch Search = ProjectRows::MakeSearch(MakeItems(Rows));
 	for (const auto& Case : Cases)
 	{
 		EXPECT_EQ(Search.Find(Case.Text), Case.Found) << ToUtf8(FString(Case.Text));
@@ -82,7 +93,7 @@ TEST(ProjectRows, AreFoundAsByComparingRowByRow)
 	{
 		Rows.Add({0, MakeText(4), MakeText(12)});
 	}
-	const FVelmorantTextSearch Search = ProjectRows::MakeSearch(Rows);
+	const FVelmorantTextSearch Search = ProjectRows::MakeSearch(MakeItems(Rows));
 
 	int32 NumFound = 0;
 	for (int32 Round = 0; Round < 300; ++Round)
