@@ -3,6 +3,7 @@
 #include "Run/Script.h"
 
 #include "Run/ScriptTopics.h"
+#include "Suggestions.h"
 
 namespace Script
 {
@@ -49,6 +50,28 @@ namespace Script
 			}
 		}
 		return Best;
+	}
+
+	template<typename EntryType>
+	TArray<FString> GetNames(TConstArrayView<EntryType> (*GetEntries)(const FScriptTopic&))
+	{
+		TArray<FString> Names;
+		for (const FScriptTopic& Topic : ScriptTopics::GetAll())
+		{
+			for (const EntryType& Entry : GetEntries(Topic))
+			{
+				Names.Add(Entry.Syntax.Name);
+			}
+		}
+		return Names;
+	}
+
+	/** The message with what may have been meant: by the first word, or by the first two, for many names have two. */
+	FString Suggest(const FString& Message, const FScriptLine& Line, int32 NameWord, const TArray<FString>& Names)
+	{
+		const FString First = Line.Words.IsValidIndex(NameWord) ? Line.Words[NameWord].Text : FString();
+		const FString Both = Line.Words.IsValidIndex(NameWord + 1) ? First + TEXT(" ") + Line.Words[NameWord + 1].Text : First;
+		return Suggestions::Append(Message, Suggestions::FindClosest(Both, Names) != nullptr ? Both : First, Names);
 	}
 
 	TConstArrayView<FScriptCommand> GetCommands(const FScriptTopic& Topic)
@@ -107,7 +130,8 @@ namespace Script
 		if (Syntax == nullptr)
 		{
 			const FString Word = Line.Words.IsValidIndex(NameWord) ? Line.Words[NameWord].Text : FString();
-			return bExpect ? FString::Printf(TEXT("nothing called \"%s\" can be expected"), *Word) : FString::Printf(TEXT("there is no command \"%s\""), *Word);
+			return bExpect ? Suggest(FString::Printf(TEXT("nothing called \"%s\" can be expected"), *Word), Line, NameWord, GetNames(&GetExpectations))
+						   : Suggest(FString::Printf(TEXT("there is no command \"%s\""), *Word), Line, NameWord, GetNames(&GetCommands));
 		}
 		Step.FirstArgument = NameWord + NumWords;
 		if (!Fits(*Syntax, Step.GetArguments()))
