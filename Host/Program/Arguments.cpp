@@ -215,7 +215,7 @@ namespace Arguments
 	{
 		for (const std::string& Word : Command.remaining())
 		{
-			const FString Unknown = ToText(Word);
+			const FString Unknown = ToText(Word.substr(0, Word.find('=')));
 			if (Unknown.StartsWith(TEXT("--")))
 			{
 				OutLines.Add(Suggestions::Append(FString::Printf(TEXT("There is no %s."), *Unknown), Unknown, GetSwitches(Command)));

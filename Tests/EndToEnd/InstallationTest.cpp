@@ -126,6 +126,9 @@ TEST_F(Installation, HasAManualPageOfAllCommands)
 
 TEST_F(Installation, IsADebianPackageToo)
 {
+#ifdef __SANITIZE_ADDRESS__
+	GTEST_SKIP() << "nobody ships the program with sanitizers, and it is large";
+#endif
 	if (!std::filesystem::exists("/usr/bin/dpkg-shlibdeps"))
 	{
 		GTEST_SKIP() << "dpkg-dev is not installed";
@@ -140,8 +143,8 @@ TEST_F(Installation, IsADebianPackageToo)
 		EXPECT_TRUE(std::filesystem::exists(Root / File)) << File;
 	}
 	FProgramRun::Program = (Root / "usr/bin/velmorant").string();
-	EXPECT_EQ(Check({"--repair"}).ExitStatus, 0);
 	EXPECT_EQ(RunScript("Demo.velscript").ExitStatus, 0);
+	EXPECT_EQ(Check().ExitStatus, 0);
 }
 
 TEST_F(Installation, SaysWhatIsMissingInPlaceOfAVerdict)

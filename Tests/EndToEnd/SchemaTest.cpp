@@ -114,7 +114,7 @@ TEST_F(Schema, OfAssetsRefusesNothingThatIsRead)
 	const std::string Class = R"("Class": "/Script/VelmorantPro.MinimapConfigAsset")";
 	const std::string Package = "{" + Class + R"(, "Format": 1, "Objects": [)";
 	const std::string Main = R"({"Name": "A", )" + Class;
-	const std::string Part = R"({"Name": "P", "Class": "/Script/VelmorantPro.UnitVolumeAction")";
+	const std::string Part = R"({"Name": "P", "Class": "/Script/VelmorantPro.VelmorantViewConfig")";
 	const std::string Table = R"({"Class": "/Script/Engine.DataTable", "RowStruct": "/Script/VelmorantProUI.FontIconRow")";
 	const FSchemaCase Cases[] = {
 		{"an asset", Package + Main + "}]}", EJudge::Nobody},
@@ -130,8 +130,8 @@ TEST_F(Schema, OfAssetsRefusesNothingThatIsRead)
 		{"an unknown member of an object", Package + Main + R"(, "Note": ""}]})", EJudge::Both},
 		{"an object without a name", Package + "{" + Class + "}]}", EJudge::Both},
 		{"an object with another's name", Package + R"({"Name": "B", )" + Class + "}]}", EJudge::Reader},
-		{"a name with a dot", Package + Main + "}, " + R"({"Name": "P.Q", "Class": "/Script/VelmorantPro.UnitVolumeAction", "Outer": "A"}]})", EJudge::Both},
-		{"a name that means none", Package + Main + "}, " + R"({"Name": "none", "Class": "/Script/VelmorantPro.UnitVolumeAction", "Outer": "A"}]})", EJudge::Both},
+		{"a name with a dot", Package + Main + "}, " + R"({"Name": "P.Q", "Class": "/Script/VelmorantPro.VelmorantViewConfig", "Outer": "A"}]})", EJudge::Both},
+		{"a name that means none", Package + Main + "}, " + R"({"Name": "none", "Class": "/Script/VelmorantPro.VelmorantViewConfig", "Outer": "A"}]})", EJudge::Both},
 		{"an owner that is not there", Package + Main + "}, " + Part + R"(, "Outer": "B"}]})", EJudge::Reader},
 		{"flags that there are not", Package + Main + R"(, "Flags": "Private"}]})", EJudge::Both},
 		{"no flags", Package + Main + "}, " + Part + R"(, "Outer": "A", "Flags": "None"}]})", EJudge::Nobody},

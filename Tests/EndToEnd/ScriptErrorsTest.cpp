@@ -63,7 +63,7 @@ TEST_F(ScriptErrors, StepsThatCannotBeDoneEndTheScriptWithThree)
 		{"a mistyped thing to place", "place \"Sun Sky Velmorrant\"", "Did you mean \"Sun Sky Velmorant\"? There are: "},
 		{"an asset of a class that nobody makes", "make asset Actor /Game/A", "the editor makes no assets of the class Actor; it makes data assets and: "},
 		{"an asset without a folder", "make asset MinimapConfigAsset A", "the log says why"},
-		{"an actor of no class", "place actor MinimapConfigAsset", "MinimapConfigAsset is no class of actors"},
+		{"an actor of no class", "place actor MinimapConfigAsset", "Nothing makes actors of /Script/VelmorantPro.MinimapConfigAsset"},
 		{"no actor to move", "move actor Nobody \"X=1 Y=2 Z=3\"", "there is no class Nobody, and no actor of that label"},
 		{"no place to move to", "move actor Nobody home", "Nobody"},
 		{"no actor to delete", "delete actors Nobody", "Nobody"},

@@ -6,7 +6,7 @@
 class TerminalUse : public FProjectOnDisk
 {
 protected:
-	TerminalUse() { MakeProject(); }
+	TerminalUse() { CopySample(); }
 
 	static inline const std::string Colored = "\x1b[3";
 
@@ -65,7 +65,6 @@ TEST_F(TerminalUse, PipesGetTextAsItIsUnlessAsked)
 
 TEST_F(TerminalUse, WhatTakesLongSaysSoAndTakesItAwayAgain)
 {
-	WriteIni("; read-only\n");
 	std::filesystem::permissions(Folder.GetNative(IniFile), std::filesystem::perms(0444));
 	Folder.Write("Project/Config/DefaultEditor.ini", "[Velmorant.VersionControl]\nCheckOutCommand=sleep 1.6; chmod u+w\n");
 	Folder.Write("test.velscript", "answer ReadOnlyFile \"Check Out\"\npress \"Add to Project Config\"\nheading Done\n");
