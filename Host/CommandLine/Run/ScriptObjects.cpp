@@ -12,7 +12,7 @@
 #include "Run/ScriptWidgets.h"
 #include "Suggestions.h"
 #include "UObject/Class.h"
-#include "UObject/UObjectIterator.h"
+#include "UObject/UObjectHash.h"
 
 namespace ScriptObjects
 {
@@ -139,8 +139,10 @@ namespace ScriptObjects
 
 	TArray<FString> GetClassNames()
 	{
+		TArray<UClass*> Classes;
+		GetDerivedClasses(UObject::StaticClass(), Classes);
 		TArray<FString> Names;
-		for (const UClass* Class : TObjectRange<UClass>())
+		for (const UClass* Class : Classes)
 		{
 			Names.Add(Class->GetName());
 		}
