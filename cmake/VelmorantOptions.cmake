@@ -3,6 +3,7 @@
 
 option(VELMORANT_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
 option(VELMORANT_COVERAGE "Build with coverage instrumentation" OFF)
+option(VELMORANT_FUZZ "Build the fuzz targets, and what they need, with clang's sanitizers and coverage feedback" OFF)
 option(VELMORANT_SURFACE "Build objects that the check of the engine surface can read (Tests/SurfaceCheck)" OFF)
 option(VELMORANT_DEV "Allow folders that do not exist yet (while the tree is being built up)" OFF)
 option(VELMORANT_PCH "Use precompiled headers" ON)
@@ -49,6 +50,12 @@ target_compile_definitions(VelmorantBuild INTERFACE
 if(VELMORANT_SANITIZE)
 	target_compile_options(VelmorantBuild INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
 	add_link_options(-fsanitize=address,undefined)
+endif()
+if(VELMORANT_FUZZ)
+	# Functions are called through reflection by another type than their own, and objects live in memory of no type yet.
+	set(FuzzFlags -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize=function,vptr)
+	target_compile_options(VelmorantBuild INTERFACE ${FuzzFlags} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+	add_link_options(${FuzzFlags})
 endif()
 if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
 	set(VELMORANT_SURFACE OFF) # others may save calls in ways that the check does not know

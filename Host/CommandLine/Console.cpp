@@ -4,6 +4,7 @@
 
 #include "Containers/StringConv.h"
 #include "HostProblems.h"
+#include "ProgressLine.h"
 
 #include <cerrno>
 #include <csignal>
@@ -17,9 +18,16 @@ namespace Console
 {
 	int LossReason = 0; // errno of the first write to the standard output that failed
 
-	bool Write(std::FILE* File, std::string_view Line)
+	bool Put(std::FILE* File, std::string_view Text)
 	{
-		return std::fwrite(Line.data(), 1, Line.size(), File) == Line.size() && std::fputc('\n', File) != EOF;
+		return std::fwrite(Text.data(), 1, Text.size(), File) == Text.size();
+	}
+
+	bool Write(std::FILE* File, std::string_view Line, ETextStyle Style)
+	{
+		const FProgressLine::FPause Pause;
+		const int Output = fileno(File);
+		return Put(File, TerminalStyle::Begin(Output, Style)) && Put(File, Line) && Put(File, TerminalStyle::End(Output, Style)) && Put(File, "\n");
 	}
 
 	void NoteLoss(bool bWritten)
@@ -53,25 +61,36 @@ namespace Console
 	{
 		if (!Flush())
 		{
-			Write(stderr, std::string("velmorant: the output could not be written: ") + std::strerror(LossReason) + ". What was done is done; free space, or read all of the output, and look again.");
+			Write(stderr, std::string("velmorant: the output could not be written: ") + std::strerror(LossReason) + ". What was done is done; free space, or read all of the output, and look again.", ETextStyle::Bad);
 		}
 		return LossReason == 0;
 	}
 
-	void Print(const FString& Line)
+	void Print(const FString& Line, ETextStyle Style)
 	{
-		PrintUtf8(TCHAR_TO_UTF8(*Line));
+		PrintUtf8(TCHAR_TO_UTF8(*Line), Style);
 	}
 
-	void PrintUtf8(std::string_view Line)
+	void PrintUtf8(std::string_view Line, ETextStyle Style)
 	{
-		NoteLoss(Write(stdout, Line));
+		NoteLoss(Write(stdout, Line, Style));
 	}
 
-	void PrintError(const FString& Line)
+	void PrintError(const FString& Line, ETextStyle Style)
 	{
 		Flush(); // both may go to the same file
-		Write(stderr, TCHAR_TO_UTF8(*Line));
+		Write(stderr, TCHAR_TO_UTF8(*Line), Style);
+	}
+
+	void PrintDifference(std::string_view Difference)
+	{
+		while (!Difference.empty())
+		{
+			const size_t End = Difference.find('\n');
+			const std::string_view Line = Difference.substr(0, End);
+			PrintUtf8(Line, TerminalStyle::OfDifferenceLine(Line));
+			Difference.remove_prefix(End == std::string_view::npos ? Difference.size() : End + 1);
+		}
 	}
 
 	void PrintProblems(const TArray<FHostProblem>& Problems)

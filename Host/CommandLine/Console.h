@@ -4,6 +4,7 @@
 
 #include "Containers/Array.h"
 #include "Containers/UnrealString.h"
+#include "TerminalStyle.h"
 
 #include <string_view>
 
@@ -24,9 +25,12 @@ namespace Console
 	/** Flushes for the last time and tells on the error output what was lost. False when something was. */
 	bool Finish();
 
-	void Print(const FString& Line);
-	void PrintUtf8(std::string_view Line);
-	void PrintError(const FString& Line);
+	void Print(const FString& Line, ETextStyle Style = ETextStyle::Plain);
+	void PrintUtf8(std::string_view Line, ETextStyle Style = ETextStyle::Plain);
+	void PrintError(const FString& Line, ETextStyle Style = ETextStyle::Bad);
+
+	/** A unified difference; nothing for an empty one. */
+	void PrintDifference(std::string_view Difference);
 
 	/** One line each on the error output. */
 	void PrintProblems(const TArray<FHostProblem>& Problems);

@@ -2,6 +2,8 @@
 
 #include "TerminalQuestion.h"
 
+#include "ProgressLine.h"
+
 #include <cerrno>
 #include <csignal>
 #include <fcntl.h>
@@ -85,6 +87,7 @@ namespace TerminalQuestion
 		{
 			return false;
 		}
+		const FProgressLine::FPause Pause;
 		bool bRead = false;
 		do
 		{

@@ -23,9 +23,13 @@ TEST_F(CommandLineUse, BadUsageEndsWithTwo)
 		const char* Message;
 	} Cases[] = {
 		{"nothing at all", {}, "subcommand"},
-		{"an unknown command", {"chek", GetProject()}, "chek"},
+		{"an unknown command", {"chek", GetProject()}, "There is no command chek. Did you mean \"check\"? There are: check, run, "},
 		{"no project named", {"check"}, "PROJECT"},
-		{"an unknown option", {"check", GetProject(), "--fix"}, "--fix"},
+		{"an unknown option", {"check", GetProject(), "--fix"}, "There is no --fix. There are: "},
+		{"a mistyped option", {"run", GetProject(), GetScript(), "--platfrom=Linux"}, "Did you mean \"--platform\"?"},
+		{"an unknown colouring", {"check", GetProject(), "--color", "red"}, "--color"},
+		{"two files out of one pipe", {"run", GetProject(), "-", "--service", "-"}, "Only one file can come from the standard input."},
+		{"completion for no shell", {"completion", "sh"}, "SHELL"},
 		{"a repair and its undoing at once", {"check", GetProject(), "--repair", "--undo"}, "--undo"},
 		{"a platform without a name", {"check", GetProject(), "--platform"}, "--platform"},
 		{"too many arguments", {"check", GetProject(), GetProject()}, ""},
@@ -82,7 +86,7 @@ TEST_F(CommandLineUse, WithJsonWhatStopsTheProgramIsAnObject)
 
 TEST_F(CommandLineUse, HelpIsNoError)
 {
-	for (const std::vector<std::string>& Arguments : {std::vector<std::string>{"--help"}, {"check", "--help"}, {"run", "--help"}, {"check", "--help", "--json"}, {"--version"}})
+	for (const std::vector<std::string>& Arguments : {std::vector<std::string>{"--help"}, {"check", "--help"}, {"run", "--help"}, {"check", "--help", "--json"}, {"install", "--help"}, {"contract", "--help"}, {"automation", "--help"}, {"completion", "--help"}, {"manual", "--help"}, {"--version"}})
 	{
 		const FProgramResult Result = FProgramRun::Run(Arguments);
 		EXPECT_EQ(Result.ExitStatus, 0);

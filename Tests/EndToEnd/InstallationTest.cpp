@@ -2,6 +2,8 @@
 
 #include "ProjectOnDisk.h"
 
+#include <array>
+#include <cstdio>
 #include <cstdlib>
 #include <gmock/gmock.h>
 
@@ -58,6 +60,91 @@ TEST_F(Installation, IsFoundThroughALink)
 	std::filesystem::create_symlink(FProgramRun::Program, Folder.GetNative("velmorant"));
 	FProgramRun::Program = Folder.GetNative("velmorant").string();
 	EXPECT_EQ(Check({"--repair"}).ExitStatus, 0);
+}
+
+/** What a shell prints; nothing where that shell is not installed. */
+static std::string AskShell(const std::string& Shell, const std::string& Script, bool& bOutThere)
+{
+	bOutThere = std::filesystem::exists("/usr/bin/" + Shell);
+	std::string Output;
+	if (!bOutThere)
+	{
+		return Output;
+	}
+	FILE* const Pipe = popen(("HOME=/nonexistent '" + Shell + "' -c '" + Script + "' 2>&1").c_str(), "r");
+	std::array<char, 4096> Buffer;
+	for (size_t Count = 0; (Count = fread(Buffer.data(), 1, Buffer.size(), Pipe)) > 0;)
+	{
+		Output.append(Buffer.data(), Count);
+	}
+	EXPECT_EQ(pclose(Pipe), 0) << Output;
+	return Output;
+}
+
+TEST_F(Installation, ShellsCompleteItsArguments)
+{
+	const std::string Share = (Moved / "share").string();
+	const std::string Bash = ". \"" + Share + "/bash-completion/completions/velmorant\"; complete() { COMP_WORDS=(velmorant \"$@\"); COMP_CWORD=$#; _velmorant; echo \"${COMPREPLY[*]}\"; }; ";
+	const std::string Fish = "source \"" + Share + "/fish/vendor_completions.d/velmorant.fish\"; complete -C ";
+	const struct
+	{
+		const char* Shell;
+		std::string Script;
+		const char* Part;
+	} Cases[] = {
+		{"bash", Bash + "complete ch", "check"},
+		{"bash", Bash + "complete check --re", "--repair"},
+		{"bash", Bash + "complete run --platform W", "Windows"},
+		{"bash", Bash + "complete completion f", "fish"},
+		{"fish", Fish + "\"velmorant inst\"", "install"},
+		{"fish", Fish + "\"velmorant check --re\"", "--repair"},
+		{"fish", Fish + "\"velmorant run --platform \"", "Windows"},
+		{"zsh", "autoload -U compinit && compinit -u -D && source \"" + Share + "/zsh/vendor-completions/_velmorant\" && echo $_comps[velmorant]", "_velmorant"},
+	};
+	for (const auto& Case : Cases)
+	{
+		bool bThere = false;
+		const std::string Output = AskShell(Case.Shell, Case.Script, bThere);
+		EXPECT_TRUE(!bThere || Output.find(Case.Part) != std::string::npos) << Case.Script << "\n"
+																			<< Output;
+	}
+}
+
+TEST_F(Installation, HasAManualPageOfAllCommands)
+{
+	const std::string Page = ReadBytes(Moved / "share/man/man1/velmorant.1");
+	for (const char* Part : {".SS check\n", ".SS automation\n", "\\-\\-repair", "expect [no] widget PANEL WIDGET", "delete actors ACTOR", "import icons FOLDER", "NO_COLOR"})
+	{
+		EXPECT_NE(Page.find(Part), std::string::npos) << Part;
+	}
+	if (std::filesystem::exists("/usr/bin/groff"))
+	{
+		const std::string Command = "groff -man -Tutf8 -ww -z '" + (Moved / "share/man/man1/velmorant.1").string() + "' 2>&1 | grep . && exit 1 || exit 0";
+		EXPECT_EQ(std::system(Command.c_str()), 0) << "the formatter warns";
+	}
+}
+
+TEST_F(Installation, IsADebianPackageToo)
+{
+#ifdef __SANITIZE_ADDRESS__
+	GTEST_SKIP() << "nobody ships the program with sanitizers, and it is large";
+#endif
+	if (!std::filesystem::exists("/usr/bin/dpkg-shlibdeps"))
+	{
+		GTEST_SKIP() << "dpkg-dev is not installed";
+	}
+	const std::filesystem::path Root = Folder.GetNative("Root");
+	const std::string Work = Folder.GetNative("Package").string();
+	const std::string Cpack = (std::filesystem::path(VELMORANT_CMAKE).parent_path() / "cpack").string();
+	const std::string Command = "cd '" VELMORANT_BINARY_DIR "/..' && '" + Cpack + "' -G DEB -B '" + Work + "' >/dev/null && dpkg-deb -x '" + Work + "'/*.deb '" + Root.string() + "'";
+	ASSERT_EQ(std::system(Command.c_str()), 0) << Command;
+	for (const char* File : {"usr/share/man/man1/velmorant.1", "usr/share/bash-completion/completions/velmorant", "usr/share/velmorant/Engine/Config/BaseEngine.ini"})
+	{
+		EXPECT_TRUE(std::filesystem::exists(Root / File)) << File;
+	}
+	FProgramRun::Program = (Root / "usr/bin/velmorant").string();
+	EXPECT_EQ(RunScript("Demo.velscript").ExitStatus, 0);
+	EXPECT_EQ(Check().ExitStatus, 0);
 }
 
 TEST_F(Installation, SaysWhatIsMissingInPlaceOfAVerdict)

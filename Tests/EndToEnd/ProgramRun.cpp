@@ -68,7 +68,7 @@ namespace ProgramRun
 
 std::string FProgramRun::Program = VELMORANT_BINARY_DIR "/velmorant";
 
-FProgramRun::FProgramRun(const std::vector<std::string>& Arguments, const FEnvironment& Environment, EOutput Output)
+FProgramRun::FProgramRun(const std::vector<std::string>& Arguments, const FEnvironment& Environment, EOutput Output, const std::string& Input)
 {
 	std::string Template = (std::filesystem::temp_directory_path() / "velmorant-run-XXXXXX").string();
 	if (mkdtemp(Template.data()) == nullptr)
@@ -76,9 +76,11 @@ FProgramRun::FProgramRun(const std::vector<std::string>& Arguments, const FEnvir
 		throw std::runtime_error("no temporary folder could be made");
 	}
 	Folder = Template;
+	std::ofstream(Folder + "/in", std::ios::binary) << Input;
 	Process = fork();
 	if (Process == 0)
 	{
+		dup2(open((Folder + "/in").c_str(), O_RDONLY | O_CLOEXEC), STDIN_FILENO);
 		ProgramRun::Redirect(Output == EOutput::FullDisk ? "/dev/full" : Folder + "/out", STDOUT_FILENO);
 		if (Output == EOutput::ClosedPipe)
 		{
@@ -111,6 +113,11 @@ FProgramResult FProgramRun::Wait()
 FProgramResult FProgramRun::Run(const std::vector<std::string>& Arguments, const FEnvironment& Environment, EOutput Output)
 {
 	return FProgramRun(Arguments, Environment, Output).Wait();
+}
+
+FProgramResult FProgramRun::RunWithInput(const std::vector<std::string>& Arguments, const FEnvironment& Environment, const std::string& Input)
+{
+	return FProgramRun(Arguments, Environment, EOutput::Kept, Input).Wait();
 }
 
 FProgramResult FProgramRun::RunOnTerminal(const std::vector<std::string>& Arguments, const FEnvironment& Environment, const std::string& Prompt, const std::string& Line)

@@ -33,12 +33,15 @@ public:
 	};
 
 	/** Starts it; both outputs go to files that are removed with this object. A program that hangs is ended after two minutes. */
-	explicit FProgramRun(const std::vector<std::string>& Arguments, const FEnvironment& Environment = {}, EOutput Output = EOutput::Kept);
+	explicit FProgramRun(const std::vector<std::string>& Arguments, const FEnvironment& Environment = {}, EOutput Output = EOutput::Kept, const std::string& Input = {});
 	~FProgramRun();
 	FProgramRun(const FProgramRun&) = delete;
 	FProgramRun& operator=(const FProgramRun&) = delete;
 
 	FProgramResult Wait();
+
+	/** Starts it, with Input on its standard input, and waits. */
+	static FProgramResult RunWithInput(const std::vector<std::string>& Arguments, const FEnvironment& Environment, const std::string& Input);
 
 	/** Starts it and waits. */
 	static FProgramResult Run(const std::vector<std::string>& Arguments, const FEnvironment& Environment = {}, EOutput Output = EOutput::Kept);

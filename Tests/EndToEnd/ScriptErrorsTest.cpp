@@ -17,8 +17,9 @@ TEST_F(ScriptErrors, MalformedLinesAreNamedBeforeAnythingRuns)
 		std::string Line;
 		std::string Message;
 	} Cases[] = {
-		{"an unknown command", "wait 0\n# note\nclik A B\n", "(3)", "there is no command \"clik\""},
-		{"an unknown expectation", "expect weather sunny\n", "(1)", "nothing called \"weather\" can be expected"},
+		{"an unknown command", "wait 0\n# note\nclik A B\n", "(3)", "there is no command \"clik\". Did you mean \"click\"? There are: open, close, click"},
+		{"two words, one mistyped", "print snapshoot A\n", "(1)", "Did you mean \"print snapshot\"?"},
+		{"an unknown expectation", "expect weather sunny\n", "(1)", "nothing called \"weather\" can be expected. There are: panel, widget"},
 		{"nothing expected", "expect no\n", "(1)", "nothing called \"\" can be expected"},
 		{"too few words", "\n\nclick Panel\n", "(3)", "this is written: click PANEL WIDGET"},
 		{"too many words", "save all\n", "(1)", "this is written: save"},
@@ -55,6 +56,17 @@ TEST_F(ScriptErrors, StepsThatCannotBeDoneEndTheScriptWithThree)
 		std::string Message;
 	} Cases[] = {
 		{"no such panel asset", "open /VelmorantPro/Nowhere", "/VelmorantPro/Nowhere"},
+		{"a mistyped panel asset", "open /VelmorantPro/EditorHelpers/DeveloperPanel/LoginPannel", "Did you mean \"/VelmorantPro/EditorHelpers/DeveloperPanel/LoginPanel\"? There are: "},
+		{"a mistyped property", "print property default:VelmorantSDKSettings ApiKei", "has no property ApiKei. Did you mean \"ApiKey\"? There are: "},
+		{"a mistyped class", "print actors UnitVolumeActr", "there is no class UnitVolumeActr. Did you mean \"UnitVolumeActor\"?"},
+		{"a mistyped function", "call VelmorantEditorUtilitiesLibrary.CopyToClipbord a b", "Did you mean \"CopyToClipboard\"? There are: "},
+		{"a mistyped thing to place", "place \"Sun Sky Velmorrant\"", "Did you mean \"Sun Sky Velmorant\"? There are: "},
+		{"an asset of a class that nobody makes", "make asset Actor /Game/A", "the editor makes no assets of the class Actor; it makes data assets and: "},
+		{"an asset without a folder", "make asset MinimapConfigAsset A", "the log says why"},
+		{"an actor of no class", "place actor MinimapConfigAsset", "Nothing makes actors of /Script/VelmorantPro.MinimapConfigAsset"},
+		{"no actor to move", "move actor Nobody \"X=1 Y=2 Z=3\"", "there is no class Nobody, and no actor of that label"},
+		{"no place to move to", "move actor Nobody home", "Nobody"},
+		{"no actor to delete", "delete actors Nobody", "Nobody"},
 		{"no such panel", "click Login SummitButton", "no panel named Login is open"},
 		{"no such button", "press \"Whatever\"", "\"Whatever\" cannot be pressed"},
 		{"no such notification", "press \"Skip\" on \"Nothing\"", "no notification \"Nothing\""},
@@ -82,6 +94,30 @@ TEST_F(ScriptErrors, StepsThatCannotBeDoneEndTheScriptWithThree)
 		EXPECT_NE(Result.Errors.find(GetScript() + "(2): error: "), std::string::npos) << Result.Errors;
 		EXPECT_NE(Result.Errors.find(Case.Message), std::string::npos) << Result.Errors;
 		EXPECT_EQ(Result.Output.find("Not reached"), std::string::npos);
+	}
+}
+
+TEST_F(ScriptErrors, OfMistypedPanelsAndWidgetsNameWhatIsOnTheScreen)
+{
+	const std::string Open = "open /VelmorantPro/EditorHelpers/DeveloperPanel/LoginPanel as Login\n";
+	const struct
+	{
+		const char* Step;
+		const char* Message;
+	} Cases[] = {
+		{"click Login SumitButton", "There is no widget \"SumitButton\". Did you mean \"SummitButton\"? There are: "},
+		{"type Login Username2 a", "Did you mean \"UserName\"?"},
+		{"print options Login \"LoginPanel/SumitButton\"", "There is no widget"},
+		{"click Logn SummitButton", "no panel named Logn is open. Did you mean \"Login\"? There are: Login"},
+		{"print property Logn Visibility", "no panel named Logn is open. Did you mean \"Login\"?"},
+		{"click Login Weather", "There is no widget \"Weather\". There are: "},
+	};
+	for (const auto& Case : Cases)
+	{
+		SCOPED_TRACE(Case.Step);
+		const FProgramResult Result = RunScript(Open + Case.Step + "\n");
+		EXPECT_EQ(Result.ExitStatus, 3);
+		EXPECT_NE(Result.Errors.find(Case.Message), std::string::npos) << Result.Errors;
 	}
 }
 

@@ -11,6 +11,7 @@
 #include "Run/ScriptFile.h"
 #include "Run/ScriptReport.h"
 #include "Run/ScriptRunner.h"
+#include "StandardInput.h"
 
 namespace RunCommand
 {
@@ -38,10 +39,24 @@ namespace RunCommand
 		return Options;
 	}
 
-	EExitStatus Run(const FRunArguments& Arguments)
+	TArray<FString*> GetFiles(FRunArguments& Arguments)
+	{
+		TArray<FString*> Files = {&Arguments.Script};
+		for (FRunInput& Input : Arguments.Inputs)
+		{
+			Files.Add(&Input.Path);
+		}
+		return Files;
+	}
+
+	EExitStatus Run(FRunArguments Arguments)
 	{
 		FString Project;
-		const TOptional<EExitStatus> End = ProjectArgument::Find(Arguments.Project, Project, Arguments.bJson);
+		TOptional<EExitStatus> End = ProjectArgument::Find(Arguments.Project, Project, Arguments.bJson);
+		if (!End.IsSet())
+		{
+			End = StandardInput::Take(GetFiles(Arguments), Arguments.bJson);
+		}
 		if (End.IsSet())
 		{
 			return End.GetValue();

@@ -32,5 +32,6 @@ namespace RunCommand
 	/** The editor that the arguments ask for. */
 	FEditorHostOptions MakeOptions(const FString& Project, const FRunArguments& Arguments);
 
-	EExitStatus Run(const FRunArguments& Arguments);
+	/** A script or input called "-" comes from the standard input. */
+	EExitStatus Run(FRunArguments Arguments);
 }

@@ -3,6 +3,7 @@
 #include "Run/Script.h"
 
 #include "Run/ScriptTopics.h"
+#include "Suggestions.h"
 
 namespace Script
 {
@@ -15,18 +16,22 @@ namespace Script
 	}
 
 	/** How many words of the line, from First on, are the name; 0 when they are not. */
-	int32 MatchName(const FScriptLine& Line, int32 First, const FString& Name)
+	int32 MatchName(const FScriptLine& Line, int32 First, FStringView Name)
 	{
-		TArray<FString> Words;
-		Name.ParseIntoArrayWS(Words);
-		for (int32 Index = 0; Index < Words.Num(); ++Index)
+		int32 NumWords = 0;
+		while (!Name.IsEmpty())
 		{
-			if (!IsWord(Line, First + Index, *Words[Index]))
+			int32 Blank = INDEX_NONE;
+			const bool bLast = !Name.FindChar(TEXT(' '), Blank);
+			const FStringView Word = bLast ? Name : Name.Left(Blank);
+			if (!Line.Words.IsValidIndex(First + NumWords) || !FStringView(Line.Words[First + NumWords].Text).Equals(Word))
 			{
 				return 0;
 			}
+			Name = bLast ? FStringView() : Name.RightChop(Blank + 1);
+			++NumWords;
 		}
-		return Words.Num();
+		return NumWords;
 	}
 
 	/** The entry with the longest matching name; null when there is none. */
@@ -49,6 +54,43 @@ namespace Script
 			}
 		}
 		return Best;
+	}
+
+	template<typename EntryType>
+	void AddNames(TConstArrayView<EntryType> Entries, TArray<FString>& OutNames)
+	{
+		for (const EntryType& Entry : Entries)
+		{
+			OutNames.Add(Entry.Syntax.Name);
+		}
+	}
+
+	/** Of all commands, or of all that can be expected. */
+	TArray<FString> GetNames(bool bExpectations)
+	{
+		TArray<FString> Names;
+		for (const FScriptTopic& Topic : ScriptTopics::GetAll())
+		{
+			if (bExpectations)
+			{
+				AddNames(Topic.Expectations, Names);
+			}
+			else
+			{
+				AddNames(Topic.Commands, Names);
+			}
+		}
+		return Names;
+	}
+
+	constexpr int32 MostExplained = 10; // wrong lines of a script; nobody reads the names again and again
+
+	/** The message with what may have been meant: by the first word, or by the first two, for many names have two. */
+	FString Suggest(const FString& Message, const FScriptLine& Line, int32 NameWord, const TArray<FString>& Names)
+	{
+		const FString First = Line.Words.IsValidIndex(NameWord) ? Line.Words[NameWord].Text : FString();
+		const FString Both = Line.Words.IsValidIndex(NameWord + 1) ? First + TEXT(" ") + Line.Words[NameWord + 1].Text : First;
+		return Suggestions::Append(Message, Suggestions::FindClosest(Both, Names) != nullptr ? Both : First, Names);
 	}
 
 	TConstArrayView<FScriptCommand> GetCommands(const FScriptTopic& Topic)
@@ -86,7 +128,7 @@ namespace Script
 	}
 
 	/** Fills in what the line says; returns what is wrong with it, or nothing. */
-	FString Resolve(FScriptStep& Step)
+	FString Resolve(FScriptStep& Step, bool bExplain)
 	{
 		const FScriptLine& Line = Step.Line;
 		const bool bExpect = IsWord(Line, 0, ExpectWord);
@@ -107,7 +149,9 @@ namespace Script
 		if (Syntax == nullptr)
 		{
 			const FString Word = Line.Words.IsValidIndex(NameWord) ? Line.Words[NameWord].Text : FString();
-			return bExpect ? FString::Printf(TEXT("nothing called \"%s\" can be expected"), *Word) : FString::Printf(TEXT("there is no command \"%s\""), *Word);
+			const FString Message = bExpect ? FString::Printf(TEXT("nothing called \"%s\" can be expected"), *Word) : FString::Printf(TEXT("there is no command \"%s\""), *Word);
+			const TArray<FString> Names = bExplain ? GetNames(bExpect) : TArray<FString>();
+			return Suggest(Message, Line, NameWord, Names);
 		}
 		Step.FirstArgument = NameWord + NumWords;
 		if (!Fits(*Syntax, Step.GetArguments()))
@@ -124,7 +168,7 @@ namespace Script
 		{
 			FScriptStep Step;
 			Step.Line = Line;
-			const FString Problem = Resolve(Step);
+			const FString Problem = Resolve(Step, OutProblems.Num() < MostExplained);
 			if (!Problem.IsEmpty())
 			{
 				OutProblems.Add(FScriptProblem{Line.Number, Problem});

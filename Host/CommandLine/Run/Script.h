@@ -15,6 +15,9 @@ struct FScriptStep
 
 	FScriptArguments GetArguments() const { return FScriptArguments(Line, FirstArgument); }
 
+	/** Of the command, or of what is expected. */
+	const TCHAR* GetName() const { return Command != nullptr ? Command->Syntax.Name : Expectation->Syntax.Name; }
+
 	/** A title for the steps that follow; needs no editor. */
 	bool IsHeading() const { return Command != nullptr && FStringView(Command->Syntax.Name) == FStringView(TEXT("heading")); }
 };

@@ -2,13 +2,17 @@
 
 #include "Run/ScriptObjects.h"
 
+#include "AssetRegistry/AssetRegistryModule.h"
 #include "Blueprint/UserWidget.h"
 #include "Editor.h"
 #include "Engine/World.h"
 #include "EngineUtils.h"
 #include "HostPackages.h"
 #include "Run/ScriptContext.h"
+#include "Run/ScriptWidgets.h"
+#include "Suggestions.h"
 #include "UObject/Class.h"
+#include "UObject/UObjectHash.h"
 
 namespace ScriptObjects
 {
@@ -30,13 +34,25 @@ namespace ScriptObjects
 		return Named;
 	}
 
-	UObject* FindActor(const FString& ClassName, FString& OutReason)
+	TArray<FString> GetActorLabels()
 	{
+		TArray<FString> Labels;
+		for (FActorIterator Actors(GetWorld(), AActor::StaticClass()); Actors; ++Actors)
+		{
+			Labels.AddUnique((*Actors)->GetActorLabel(false));
+		}
+		return Labels;
+	}
+
+	AActor* FindActor(const FString& ClassOrLabel, FString& OutReason)
+	{
+		FString ClassName = ClassOrLabel;
+		ClassName.RemoveFromStart(ActorPrefix);
 		UClass* Class = FindClass(ClassName, OutReason);
 		if (Class == nullptr)
 		{
 			AActor* Labelled = FindActorByLabel(ClassName);
-			OutReason = Labelled != nullptr ? FString() : FString::Printf(TEXT("there is no class %s, and no actor of that label"), *ClassName);
+			OutReason = Labelled != nullptr ? FString() : Suggestions::Append(FString::Printf(TEXT("there is no class %s, and no actor of that label"), *ClassName), ClassName, GetActorLabels());
 			return Labelled;
 		}
 		if (!Class->IsChildOf(AActor::StaticClass()))
@@ -58,7 +74,7 @@ namespace ScriptObjects
 		const FPanelHost::FPanel* Panel = Context.Session.GetPanels().Find(Name);
 		if (Panel == nullptr)
 		{
-			OutReason = FString::Printf(TEXT("no panel named %s is open"), *Name);
+			OutReason = Suggestions::Append(FString::Printf(TEXT("no panel named %s is open"), *Name), Name, ScriptWidgets::GetRootNames(Context));
 			return nullptr;
 		}
 		return Panel->Widget.Get();
@@ -71,9 +87,9 @@ namespace ScriptObjects
 		{
 			return FindAsset(Text, OutReason);
 		}
-		if (Rest.RemoveFromStart(ActorPrefix))
+		if (Text.StartsWith(ActorPrefix))
 		{
-			return FindActor(Rest, OutReason);
+			return FindActor(Text, OutReason);
 		}
 		if (Rest.RemoveFromStart(DefaultPrefix))
 		{
@@ -85,14 +101,52 @@ namespace ScriptObjects
 
 	UObject* FindAsset(const FString& Path, FString& OutReason)
 	{
-		FString Package = Path;
-		Path.Split(TEXT("."), &Package, nullptr);
+		const FString Package = PackageOf(Path);
 		UObject* Asset = HostPackages::IsValidPackageName(Package, &OutReason) ? HostPackages::LoadAsset(Package) : nullptr;
 		if (Asset == nullptr && OutReason.IsEmpty())
 		{
 			OutReason = FString::Printf(TEXT("there is no asset %s, or it cannot be read"), *Package);
+			if (HostPackages::GetStored(Package) == HostPackages::EStored::Nothing)
+			{
+				OutReason = Suggestions::Append(OutReason, Package, GetAssetPaths(UObject::StaticClass()), Suggestions::EList::No);
+			}
 		}
 		return Asset;
+	}
+
+	FString PackageOf(const FString& Path)
+	{
+		FString Package = Path;
+		Path.Split(TEXT("."), &Package, nullptr);
+		return Package;
+	}
+
+	TArray<FString> GetAssetPaths(const UClass* Class)
+	{
+		TArray<FAssetData> Assets;
+		FModuleManager::LoadModuleChecked<FAssetRegistryModule>("AssetRegistry").Get().GetAllAssets(Assets);
+		TArray<FString> Paths;
+		for (const FAssetData& Asset : Assets)
+		{
+			const UClass* Found = Asset.GetClass();
+			if (Class == UObject::StaticClass() || (Found != nullptr && Found->IsChildOf(Class)))
+			{
+				Paths.Add(Asset.PackageName.ToString());
+			}
+		}
+		return Paths;
+	}
+
+	TArray<FString> GetClassNames()
+	{
+		TArray<UClass*> Classes;
+		GetDerivedClasses(UObject::StaticClass(), Classes);
+		TArray<FString> Names;
+		for (const UClass* Class : Classes)
+		{
+			Names.Add(Class->GetName());
+		}
+		return Names;
 	}
 
 	UClass* FindClass(const FString& Name, FString& OutReason)
@@ -104,7 +158,7 @@ namespace ScriptObjects
 		}
 		if (Class == nullptr)
 		{
-			OutReason = FString::Printf(TEXT("there is no class %s"), *Name);
+			OutReason = Suggestions::Append(FString::Printf(TEXT("there is no class %s"), *Name), Name, GetClassNames(), Suggestions::EList::No);
 		}
 		return Class;
 	}

@@ -4,6 +4,7 @@
 
 #include "Misc/CString.h"
 #include "Run/ScriptObjects.h"
+#include "Suggestions.h"
 #include "UObject/UnrealType.h"
 
 namespace ScriptProperties
@@ -79,7 +80,7 @@ namespace ScriptProperties
 			Property = Struct->FindPropertyByName(ScriptObjects::ToName(Name));
 			if (Property == nullptr)
 			{
-				OutReason = FString::Printf(TEXT("%s has no property %s"), *Struct->GetName(), *Name);
+				OutReason = Suggestions::Append(FString::Printf(TEXT("%s has no property %s"), *Struct->GetName(), *Name), Name, GetMemberNames());
 				return false;
 			}
 			// As UMG's text fields have it.
@@ -87,6 +88,16 @@ namespace ScriptProperties
 			bSecret = Flag != nullptr && Flag->GetPropertyValue_InContainer(Container) && Property->GetFName() == FName("Text");
 			Value = Property->ContainerPtrToValuePtr(Container);
 			return true;
+		}
+
+		TArray<FString> GetMemberNames() const
+		{
+			TArray<FString> Names;
+			for (const FProperty* Member : TFieldRange<FProperty>(Struct))
+			{
+				Names.Add(Member->GetName());
+			}
+			return Names;
 		}
 
 		/** Index ends with the closing bracket. */

@@ -5,6 +5,7 @@
 #include "Console.h"
 #include "HostAssertions.h"
 #include "ProgramFault.h"
+#include "ProgressLine.h"
 #include "Run/ScriptContext.h"
 #include "Run/ScriptSecrets.h"
 
@@ -143,6 +144,7 @@ FStepResult FScriptRunner::RunStep(const FScriptStep& Step)
 FStepResult FScriptRunner::Do(const FScriptStep& Step, FStepRecord& Record)
 {
 	FScriptContext Context(Session, Step.Line.Number);
+	const FProgressLine Progress(FString::Printf(TEXT("line %d: %s"), Step.Line.Number, Step.GetName())); // its words may be secret
 	FStepResult Result = ScriptRunner::RunGuarded(Step, Context);
 	const FString AnswerTrouble = Session.GetAnswers().TakeTrouble();
 	if (Result.Outcome == EStepOutcome::Done && !AnswerTrouble.IsEmpty())

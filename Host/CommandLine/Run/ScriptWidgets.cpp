@@ -8,6 +8,7 @@
 #include "HostSnapshot.h"
 #include "Run/ScriptContext.h"
 #include "Run/ScriptObjects.h"
+#include "Suggestions.h"
 
 namespace ScriptWidgets
 {
@@ -32,7 +33,7 @@ namespace ScriptWidgets
 		{
 			return FString::Printf(TEXT("the menu of the toolbar's button %s is not open; open it with: open menu %s"), *Name, *Name);
 		}
-		return FString::Printf(TEXT("no panel named %s is open"), *Name);
+		return Suggestions::Append(FString::Printf(TEXT("no panel named %s is open"), *Name), Name, GetRootNames(Context));
 	}
 
 	bool CheckUserInterface(FString& OutReason)
@@ -64,6 +65,7 @@ namespace ScriptWidgets
 		return nullptr;
 	}
 
+	/** The rows of a details panel, as a sentence to follow another one. */
 	FString ListRows(FHostDetailsView& Details)
 	{
 		const TArray<FString> Titles = Details.GetRowTitles();
@@ -72,6 +74,48 @@ namespace ScriptWidgets
 			return TEXT(" The rows are: ") + FString::Join(Titles, TEXT(", "));
 		}
 		return Details.GetObjects().IsEmpty() ? TEXT(" The panel has no rows: its objects are gone.") : TEXT(" The panel has no rows: nothing of its objects, or of that section, can be edited.");
+	}
+
+	TArray<FString> GetRootNames(FScriptContext& Context)
+	{
+		TArray<FString> Names;
+		for (const FPanelHost::FPanel& Panel : Context.Session.GetPanels().GetAll())
+		{
+			Names.Add(Panel.Name);
+		}
+		if (const TOptional<HostSettings::FOpenPage> Page = HostSettings::GetOpenPage())
+		{
+			Names.Add(Page->Address.Section.ToString());
+		}
+		Names.Append(Context.Session.GetDetails().GetNames());
+		return Names;
+	}
+
+	FString ExplainWidget(FScriptContext& Context, const FString& Panel, const FString& Widget, const FString& Reason)
+	{
+		FString Ignored;
+		TSharedPtr<SWidget> Root = FindRoot(Context, Panel, Ignored);
+		if (!Root.IsValid() || HostSnapshot::Find(Root.ToSharedRef(), Widget, Ignored).IsValid())
+		{
+			return Reason;
+		}
+		FString Missing = Widget;
+		FString Outer;
+		FString Inner;
+		while (Missing.Split(TEXT("/"), &Outer, &Inner))
+		{
+			const TSharedPtr<SWidget> Parent = HostSnapshot::Find(Root.ToSharedRef(), Outer, Ignored);
+			Missing = Parent.IsValid() ? Inner : Outer;
+			Root = Parent.IsValid() ? Parent : Root;
+		}
+		const TArray<FString> Names = HostSnapshot::GetNames(Root.ToSharedRef());
+		if (Names.Contains(Missing))
+		{
+			return Reason; // there are several
+		}
+		FHostDetailsView* Details = Context.Session.GetDetails().Find(Panel);
+		const FString Help = Suggestions::Append(Reason, Missing, Names, Details != nullptr ? Suggestions::EList::No : Suggestions::EList::Yes);
+		return Details != nullptr ? Help + ListRows(*Details) : Help;
 	}
 
 	bool Close(FScriptContext& Context, const FString& Name, FString& OutReason)

@@ -26,8 +26,11 @@ namespace ScriptWidgets
 	 */
 	TSharedPtr<SWidget> FindRoot(FScriptContext& Context, const FString& Name, FString& OutReason);
 
-	/** The rows of a details panel, as a sentence to follow another one. */
-	FString ListRows(FHostDetailsView& Details);
+	/** The names of all that is open now and can be looked at by FindRoot(), menus aside. */
+	TArray<FString> GetRootNames(FScriptContext& Context);
+
+	/** The reason why there is no such widget, with what there is; as it was when the widget is there. */
+	FString ExplainWidget(FScriptContext& Context, const FString& Panel, const FString& Widget, const FString& Reason);
 
 	/** @return whether it was open; if not, why it cannot be closed. */
 	bool Close(FScriptContext& Context, const FString& Name, FString& OutReason);

@@ -11,18 +11,19 @@ namespace TextScriptReport
 	void PrintHeading(const FString& Heading)
 	{
 		Console::Print(FString());
-		Console::Print(Heading);
-		Console::Print(FString::ChrN(Heading.Len(), TEXT('-')));
+		Console::Print(Heading, ETextStyle::Heading);
+		Console::Print(FString::ChrN(Heading.Len(), TEXT('-')), ETextStyle::Heading);
 	}
 
 	void PrintNotification(const FStepEvents::FNotification& Notification)
 	{
+		const bool bFailed = Notification.State == TEXT("fail");
 		FString Line = FString::Printf(TEXT("%s(%s) %s"), Indent, *Notification.State, *Notification.Title);
 		for (const FString& Button : Notification.Buttons)
 		{
 			Line += TEXT("  [") + Button + TEXT("]");
 		}
-		Console::Print(Line);
+		Console::Print(Line, bFailed ? ETextStyle::Warning : ETextStyle::Plain);
 		TArray<FString> SubText;
 		Notification.SubText.ParseIntoArrayLines(SubText);
 		for (const FString& Each : SubText)
@@ -70,7 +71,7 @@ void FTextScriptReport::TellStep(const FStepRecord& Record)
 		TextScriptReport::PrintHeading(Record.Heading);
 		return;
 	}
-	Console::Print(TEXT("> ") + Record.Text);
+	Console::Print(TEXT("> ") + Record.Text, ETextStyle::Step);
 	for (const FString& Line : Record.Output)
 	{
 		Console::Print(TextScriptReport::Indent + Line);
@@ -86,11 +87,11 @@ void FTextScriptReport::TellEnd(const FRunSummary& Summary)
 {
 	for (const int32 Line : Summary.UnusedAnswers)
 	{
-		Console::PrintError(FString::Printf(TEXT("%s(%d): warning: nothing asked for this answer"), *Script, Line));
+		Console::PrintError(FString::Printf(TEXT("%s(%d): warning: nothing asked for this answer"), *Script, Line), ETextStyle::Warning);
 	}
 	for (const FString& Package : Summary.Unsaved)
 	{
-		Console::PrintError(FString::Printf(TEXT("%s: warning: not saved: %s"), *Script, *Package));
+		Console::PrintError(FString::Printf(TEXT("%s: warning: not saved: %s"), *Script, *Package), ETextStyle::Warning);
 	}
 }
 

@@ -4,21 +4,15 @@
 
 #include "Editor.h"
 #include "EngineUtils.h"
+#include "HostActors.h"
 #include "HostStyles.h"
 #include "QtText.h"
-#include "ScopedTransaction.h"
-#include "Selection.h"
 #include "UnitVolumeActor.h"
 
 namespace LevelActors
 {
 	static const int32 MostWithoutRest = 2000; // actors; a busy machine must not make small levels lag behind
 	static const int RestPerLook = 20; // so many times as long as a look takes, the next one waits
-
-	FText ToTitle(const QString& Text)
-	{
-		return FText::FromString(QtText::ToEditor(Text));
-	}
 
 	class FStamp
 	{
@@ -86,59 +80,22 @@ namespace LevelActors
 
 	TArray<AActor*> GetSelected()
 	{
-		TArray<AActor*> Actors;
-		const USelection* const Selection = GEditor != nullptr ? GEditor->GetSelectedActors() : nullptr;
-		for (int32 Index = 0; Selection != nullptr && Index < Selection->Num(); ++Index)
-		{
-			if (AActor* const Actor = Cast<AActor>(Selection->GetSelectedObject(Index)))
-			{
-				Actors.Add(Actor);
-			}
-		}
-		return Actors;
+		return HostActors::GetSelected();
 	}
 
 	void Select(const TArray<AActor*>& Actors)
 	{
-		if (GEditor == nullptr || GetSelected() == Actors)
-		{
-			return;
-		}
-		const FScopedTransaction Step(ToTitle(QObject::tr("Select actors")));
-		GEditor->SelectNone(false, true);
-		for (AActor* const Actor : Actors)
-		{
-			GEditor->SelectActor(Actor, true, false, true);
-		}
-		GEditor->NoteSelectionChange();
+		HostActors::Select(Actors);
 	}
 
 	void Rename(AActor& Actor, const QString& Label)
 	{
-		const FString Wanted = QtText::ToEditor(Label.trimmed());
-		if (Wanted.IsEmpty() || Wanted.Equals(Actor.GetActorLabel()))
-		{
-			return;
-		}
-		const FScopedTransaction Step(ToTitle(QObject::tr("Rename actor")));
-		Actor.Modify();
-		Actor.SetActorLabel(Wanted);
+		HostActors::Rename(Actor, QtText::ToEditor(Label));
 	}
 
 	void Delete(const TArray<AActor*>& Actors)
 	{
-		if (Actors.IsEmpty())
-		{
-			return;
-		}
-		const FScopedTransaction Step(ToTitle(QObject::tr("Delete actors")));
-		for (AActor* const Actor : Actors)
-		{
-			GEditor->SelectActor(Actor, false, false, true);
-			Actor->Modify();
-			Actor->Destroy();
-		}
-		GEditor->NoteSelectionChange();
+		HostActors::Delete(Actors);
 	}
 
 	void LookAt(const TArray<AActor*>& Actors)

@@ -10,7 +10,9 @@
 #include "EditorHost.h"
 #include "HostProblems.h"
 #include "Misc/Paths.h"
+#include "ProgressLine.h"
 #include "ProjectArgument.h"
+#include "StandardInput.h"
 #include "Refusal.h"
 
 #include <filesystem>
@@ -45,6 +47,7 @@ namespace AutomationCommand
 		bool bAlive = true;
 		for (const FAutomationTestInfo& Test : HostAutomation::Find(Arguments.Filter))
 		{
+			const FProgressLine Progress(Test.GetFullTestPath());
 			const HostAutomation::FResult Result = bAlive ? HostAutomation::Run(
 																Test, [&Editor] { Editor.Tick(SecondsPerFrame); }, bAlive)
 														  : HostAutomation::FResult(Test);
@@ -117,7 +120,7 @@ namespace AutomationCommand
 	}
 }
 
-EExitStatus AutomationCommand::Run(const FAutomationArguments& Arguments)
+EExitStatus AutomationCommand::Run(FAutomationArguments Arguments)
 {
 	if (HostAutomation::Find(Arguments.Filter).IsEmpty())
 	{
@@ -139,6 +142,11 @@ EExitStatus AutomationCommand::Run(const FAutomationArguments& Arguments)
 	else if (Arguments.Compare.IsEmpty())
 	{
 		return Refuse(TEXT("Name the project to run the tests in."));
+	}
+	const TOptional<EExitStatus> End = StandardInput::Take({&Arguments.Compare}, false);
+	if (End.IsSet())
+	{
+		return End.GetValue();
 	}
 	if (!Arguments.Compare.IsEmpty())
 	{

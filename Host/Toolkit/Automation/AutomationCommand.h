@@ -10,7 +10,7 @@ struct FAutomationArguments
 	FString Project; // may be empty with bList or Compare
 	FString Filter; // parts of the tests' paths, joined by '+'; empty: all
 	FString Report; // the folder to export to; empty: nowhere
-	FString Compare; // what an engine exported; empty: nothing
+	FString Compare; // what an engine exported; "-" for the standard input; empty: nothing
 	bool bList = false;
 	bool bRepair = false; // also the test that edits the project's configuration and puts it back
 };
@@ -18,5 +18,5 @@ struct FAutomationArguments
 /** The command "automation". */
 namespace AutomationCommand
 {
-	EExitStatus Run(const FAutomationArguments& Arguments);
+	EExitStatus Run(FAutomationArguments Arguments);
 }

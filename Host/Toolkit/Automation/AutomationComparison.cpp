@@ -137,5 +137,5 @@ void AutomationComparison::Print(const FAutomationComparison& Comparison, const 
 	PrintPaths(TEXT("Not known to the host:"), Comparison.NotHere);
 	PrintPaths(TEXT("Not finished in the engine:"), Comparison.UnfinishedInEngine);
 	PrintBeliefs(Comparison);
-	Console::Print(Comparison.Agrees() ? TEXT("Engine and host agree.") : TEXT("Engine and host differ."));
+	Console::Print(Comparison.Agrees() ? TEXT("Engine and host agree.") : TEXT("Engine and host differ."), Comparison.Agrees() ? ETextStyle::Good : ETextStyle::Bad);
 }

@@ -29,7 +29,7 @@ bool AutomationText::IsOfSuite(const FString& Path)
 
 void AutomationText::PrintTest(const FReportedTest& Test)
 {
-	Console::Print(FString::Printf(TEXT("%-7s %7.1f ms  %s"), *DescribeVerdict(Test), Test.Seconds * 1000.0, *Test.Path));
+	Console::Print(FString::Printf(TEXT("%-7s %7.1f ms  %s"), *DescribeVerdict(Test), Test.Seconds * 1000.0, *Test.Path), Test.Passed() ? ETextStyle::Plain : ETextStyle::Bad);
 	PrintFaults(Test, TEXT("  "));
 	if (Test.State == TEXT("Fail") && Test.Count(EAutomationEventType::Error) == 0)
 	{
@@ -43,7 +43,7 @@ void AutomationText::PrintFaults(const FReportedTest& Test, const TCHAR* Indent)
 	{
 		if (Entry.Event.Type != EAutomationEventType::Info)
 		{
-			Console::Print(Indent + DescribeFault(Entry));
+			Console::Print(Indent + DescribeFault(Entry), Entry.Event.Type == EAutomationEventType::Error ? ETextStyle::Bad : ETextStyle::Warning);
 		}
 	}
 }
@@ -54,5 +54,6 @@ void AutomationText::PrintTotals(const FAutomationReport& Report)
 	Totals += Report.CountWithWarnings() > 0 ? FString::Printf(TEXT(" (%d with warnings)"), Report.CountWithWarnings()) : FString();
 	Totals += Report.CountFailed() > 0 ? FString::Printf(TEXT(", %d failed"), Report.CountFailed()) : FString();
 	Totals += Report.CountUnfinished() > 0 ? FString::Printf(TEXT(", %d not run"), Report.CountUnfinished()) : FString();
-	Console::Print(Totals + FString::Printf(TEXT(", %.2f s"), Report.GetSeconds()));
+	const bool bAllPassed = Report.CountPassed() == Report.Tests.Num();
+	Console::Print(Totals + FString::Printf(TEXT(", %.2f s"), Report.GetSeconds()), bAllPassed ? ETextStyle::Good : ETextStyle::Bad);
 }

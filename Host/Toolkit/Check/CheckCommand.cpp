@@ -6,6 +6,8 @@
 #include "Check/CollisionCheck.h"
 #include "Check/RepairUndo.h"
 #include "Console.h"
+#include "Misc/Paths.h"
+#include "ProgressLine.h"
 #include "ProjectArgument.h"
 #include "Refusal.h"
 
@@ -14,6 +16,7 @@ namespace CheckCommand
 	/** Unset when there is no repair to take back. */
 	TOptional<FCheckReport> Do(const FCheckArguments& Arguments, const FString& Project)
 	{
+		const FProgressLine Progress(TEXT("checking ") + FPaths::GetBaseFilename(Project));
 		if (Arguments.bUndo)
 		{
 			return RepairUndo::Run(Project);

@@ -146,22 +146,22 @@ namespace CheckReport
 
 	void PrintText(const FCheckReport& Report, EChanges Changes)
 	{
-		Console::Print(Report.Project);
+		Console::Print(Report.Project, ETextStyle::Heading);
 		for (const FString& Message : Report.Messages)
 		{
 			Console::Print(TEXT("  ") + Message.Replace(TEXT("\n"), TEXT(" "))); // a line each
 		}
 		PrintFiles(TEXT("Would have written"), Report.PendingWrites, Changes);
 		PrintFiles(TEXT("Written"), Report.WrittenFiles, Changes);
-		if (Changes == EChanges::Difference && !Report.Difference.empty())
+		if (Changes == EChanges::Difference)
 		{
-			Console::PrintUtf8(std::string_view(Report.Difference).substr(0, Report.Difference.size() - 1)); // less its last line end
+			Console::PrintDifference(Report.Difference);
 		}
 		for (const FSpoiler& Spoiler : Report.SpoiledBy)
 		{
-			Console::Print(FString::Printf(TEXT("%s(%d): takes the UnitVolume %s away: %s"), *Spoiler.File, Spoiler.Line, *Spoiler.What, *Spoiler.Text));
+			Console::Print(FString::Printf(TEXT("%s(%d): takes the UnitVolume %s away: %s"), *Spoiler.File, Spoiler.Line, *Spoiler.What, *Spoiler.Text), ETextStyle::Warning);
 		}
-		Console::Print(MakeVerdict(Report));
+		Console::Print(MakeVerdict(Report), GetExitStatus(Report.Status) == EExitStatus::Done ? ETextStyle::Good : ETextStyle::Bad);
 		if (!Report.LinesToAdd.IsEmpty())
 		{
 			Console::Print(TEXT("Add to the section [/Script/Engine.CollisionProfile] of Config/DefaultEngine.ini by hand:"));

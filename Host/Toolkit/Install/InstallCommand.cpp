@@ -10,6 +10,7 @@
 #include "HostTextFiles.h"
 #include "Install/ContractText.h"
 #include "Install/ModuleInstall.h"
+#include "ProgressLine.h"
 #include "Refusal.h"
 
 namespace InstallCommand
@@ -18,7 +19,7 @@ namespace InstallCommand
 	{
 		if (!Lines.IsEmpty())
 		{
-			Console::Print(Heading);
+			Console::Print(Heading, ETextStyle::Heading);
 		}
 		for (const FString& Line : Lines)
 		{
@@ -34,13 +35,13 @@ namespace InstallCommand
 			const bool bText = !File.Text.empty();
 			const std::string& Old = bText ? File.OldText : File.OldBytes;
 			const std::string Difference = UnifiedDifference::Make(Name, File.bExists ? &Old : nullptr, bText ? &File.Text : &File.Bytes);
-			Console::PrintUtf8(std::string_view(Difference).substr(0, Difference.size() - 1)); // less its last line end
+			Console::PrintDifference(Difference);
 		}
 	}
 
 	EExitStatus Tell(const TCHAR* Verdict, EExitStatus Status)
 	{
-		Console::Print(Verdict);
+		Console::Print(Verdict, Status == EExitStatus::Done ? ETextStyle::Good : ETextStyle::Bad);
 		Console::PrintProblems(HostProblems::GetAll());
 		return Status;
 	}
@@ -85,6 +86,7 @@ EExitStatus InstallCommand::Run(const FInstallArguments& Arguments)
 		return EExitStatus::Usage;
 	}
 	const HostFiles::FLock Lock(Descriptor); // two installations would look at each other's half-finished work
+	const FProgressLine Progress(TEXT("looking at the plugin"));
 	const TOptional<FInstallPlan> Plan = ModuleInstall::Plan(Descriptor, {Arguments.bWithTests, Arguments.bForce});
 	if (!Plan.IsSet())
 	{

@@ -2,6 +2,7 @@
 // Assets: the content browser's selection and menu, properties, variant sets.
 
 #include "AssetRegistry/AssetRegistryModule.h"
+#include "HostAssetTools.h"
 #include "HostContentBrowser.h"
 #include "IAssetTools.h"
 #include "LevelVariantSets.h"
@@ -47,6 +48,27 @@ namespace AssetTopic
 		return FStepResult::Done();
 	}
 
+	/** "/Game/Folder/Asset" in its two parts. */
+	void SplitPath(const FString& Path, FString& OutFolder, FString& OutName)
+	{
+		OutName = Path;
+		Path.Split(TEXT("/"), &OutFolder, &OutName, ESearchCase::CaseSensitive, ESearchDir::FromEnd);
+	}
+
+	FStepResult Make(FScriptContext&, const FScriptArguments& Arguments)
+	{
+		FString Reason;
+		UClass* Class = ScriptObjects::FindClass(Arguments[0], Reason);
+		if (Class == nullptr)
+		{
+			return FStepResult::Error(Reason);
+		}
+		FString Folder;
+		FString Name;
+		SplitPath(Arguments[1], Folder, Name);
+		return HostAssetTools::MakeAsset(*Class, Folder, Name, Reason) != nullptr ? FStepResult::Done() : FStepResult::Error(Reason);
+	}
+
 	FStepResult Rename(FScriptContext&, const FScriptArguments& Arguments)
 	{
 		FString Reason;
@@ -56,8 +78,8 @@ namespace AssetTopic
 			return FStepResult::Error(Reason);
 		}
 		FString Folder;
-		FString Name = Arguments[1];
-		Arguments[1].Split(TEXT("/"), &Folder, &Name, ESearchCase::CaseSensitive, ESearchDir::FromEnd);
+		FString Name;
+		SplitPath(Arguments[1], Folder, Name);
 		const bool bRenamed = IAssetTools::Get().RenameAssets({FAssetRenameData(Asset, Folder, Name)});
 		return bRenamed ? FStepResult::Done() : FStepResult::Error(FString::Printf(TEXT("%s cannot be renamed to %s; the log says why"), *Arguments[0], *Arguments[1]));
 	}
@@ -208,6 +230,7 @@ namespace AssetTopic
 	const FScriptCommand Commands[] = {
 		{{TEXT("select"), TEXT("ASSET [ASSET ...]"), 1, FScriptSyntax::Any, TEXT("")}, &Select},
 		{{TEXT("action"), TEXT("LABEL-OR-NAME"), 1, 1, TEXT("")}, &Action},
+		{{TEXT("make asset"), TEXT("CLASS PATH"), 2, 2, TEXT("")}, &Make},
 		{{TEXT("rename asset"), TEXT("ASSET PATH"), 2, 2, TEXT("")}, &Rename},
 		{{TEXT("delete assets"), TEXT("ASSET [ASSET ...]"), 1, FScriptSyntax::Any, TEXT("")}, &Delete},
 		{{TEXT("print menu"), TEXT(""), 0, 0, TEXT("")}, &PrintMenu},

@@ -6,7 +6,9 @@
 #include "Run/ScriptObjects.h"
 #include "Run/ScriptProperties.h"
 #include "Run/ScriptTopics.h"
+#include "Suggestions.h"
 #include "UObject/Class.h"
+#include "UObject/UnrealType.h"
 
 namespace CallTopic
 {
@@ -27,8 +29,23 @@ namespace CallTopic
 			const UClass* Class = ScriptObjects::FindClass(Text, OutReason);
 			Object = Class != nullptr ? Class->GetDefaultObject() : nullptr;
 			OutReason = FString::Printf(TEXT("%s is neither an open panel nor a class"), *Text);
+			OutReason = Suggestions::Append(OutReason, Text, ScriptObjects::GetClassNames(), Suggestions::EList::No);
 		}
 		return Object;
+	}
+
+	/** Those that scripts may call. */
+	TArray<FString> GetFunctionNames(const UClass& Class)
+	{
+		TArray<FString> Names;
+		for (const UFunction* Function : TFieldRange<UFunction>(&Class))
+		{
+			if (Function->HasAnyFunctionFlags(FUNC_BlueprintCallable))
+			{
+				Names.Add(Function->GetName());
+			}
+		}
+		return Names;
 	}
 
 	/** "Object.Function". False with a reason. */
@@ -50,7 +67,7 @@ namespace CallTopic
 		OutTarget.Function = OutTarget.Object->GetClass()->FindFunctionByName(ScriptObjects::ToName(FunctionText));
 		if (OutTarget.Function == nullptr)
 		{
-			OutReason = FString::Printf(TEXT("%s has no function %s"), *ObjectText, *FunctionText);
+			OutReason = Suggestions::Append(FString::Printf(TEXT("%s has no function %s"), *ObjectText, *FunctionText), FunctionText, GetFunctionNames(*OutTarget.Object->GetClass()));
 			return false;
 		}
 		if (!OutTarget.Function->HasAnyFunctionFlags(FUNC_BlueprintCallable))

@@ -77,7 +77,7 @@ namespace DetailsTopic
 		const TOptional<FString> Seen = HostSnapshot::Read(View->GetWidget(), Arguments[1], Result.Found);
 		if (!Seen.IsSet())
 		{
-			Result.Found += ScriptWidgets::ListRows(*View);
+			Result.Found = ScriptWidgets::ExplainWidget(Context, Arguments[0], Arguments[1], Result.Found);
 			return Result;
 		}
 		const FString* Value = Arguments.FindOption(2, TEXT("value"));
@@ -129,6 +129,7 @@ namespace DetailsTopic
 		const TSharedPtr<SWidget> Widget = Root.IsValid() ? HostSnapshot::Find(Root.ToSharedRef(), Arguments[1], Result.Found) : nullptr;
 		if (!Widget.IsValid())
 		{
+			Result.Found = ScriptWidgets::ExplainWidget(Context, Arguments[0], Arguments[1], Result.Found);
 			return Result;
 		}
 		const TOptional<int32> Count = FindCount(*Widget);

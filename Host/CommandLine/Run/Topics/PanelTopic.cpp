@@ -4,24 +4,15 @@
 #include "Framework/Application/SlateApplication.h"
 #include "HostSnapshot.h"
 #include "Run/ScriptContext.h"
+#include "Run/ScriptObjects.h"
 #include "Run/ScriptSecrets.h"
 #include "Run/ScriptTopics.h"
 #include "Run/ScriptWidgets.h"
+#include "Suggestions.h"
+#include "WidgetBlueprint.h"
 
 namespace PanelTopic
 {
-	/** What a details panel has, when it does not have the widget of the first two arguments. */
-	FString ListRows(FScriptContext& Context, const FScriptArguments& Arguments)
-	{
-		FHostDetailsView* Details = Context.Session.GetDetails().Find(Arguments[0]);
-		FString Reason;
-		if (Details == nullptr || HostSnapshot::Find(Details->GetWidget(), Arguments[1], Reason).IsValid())
-		{
-			return FString();
-		}
-		return ScriptWidgets::ListRows(*Details);
-	}
-
 	/** Has a person do something to the widget of the first two arguments. */
 	template<typename InputType>
 	FStepResult GiveInput(FScriptContext& Context, const FScriptArguments& Arguments, InputType Input)
@@ -37,15 +28,26 @@ namespace PanelTopic
 			FSlateApplication::Get().DismissAllMenus(); // as a click beside them does
 		}
 		const FHostInputResult Result = Input(Panel.ToSharedRef(), Arguments[1]);
-		return Result.bDone ? FStepResult::Done() : FStepResult::Error(Result.Reason + ListRows(Context, Arguments));
+		return Result.bDone ? FStepResult::Done() : FStepResult::Error(ScriptWidgets::ExplainWidget(Context, Arguments[0], Arguments[1], Result.Reason));
+	}
+
+	/** The reason why a panel did not open, with those that there are unless it is one of them. */
+	FString ExplainAsset(const FString& Path, const FString& Reason)
+	{
+		const TArray<FString> Panels = ScriptObjects::GetAssetPaths(UWidgetBlueprint::StaticClass());
+		return Panels.Contains(ScriptObjects::PackageOf(Path)) ? Reason : Suggestions::Append(Reason, Path, Panels);
 	}
 
 	FStepResult Open(FScriptContext& Context, const FScriptArguments& Arguments)
 	{
 		const FString* Name = Arguments.FindOption(1, TEXT("as"));
 		FString Reason;
-		const bool bOpened = ScriptWidgets::CheckUserInterface(Reason) && Context.Session.GetPanels().Open(Arguments[0], Name != nullptr ? *Name : FString(), Reason) != nullptr;
-		return bOpened ? FStepResult::Done() : FStepResult::Error(Reason);
+		if (!ScriptWidgets::CheckUserInterface(Reason))
+		{
+			return FStepResult::Error(Reason);
+		}
+		const bool bOpened = Context.Session.GetPanels().Open(Arguments[0], Name != nullptr ? *Name : FString(), Reason) != nullptr;
+		return bOpened ? FStepResult::Done() : FStepResult::Error(ExplainAsset(Arguments[0], Reason));
 	}
 
 	FStepResult Close(FScriptContext& Context, const FScriptArguments& Arguments)
@@ -133,7 +135,7 @@ namespace PanelTopic
 		{
 			Context.Print(Option);
 		}
-		return Error.IsEmpty() ? FStepResult::Done() : FStepResult::Error(Error + ListRows(Context, Arguments));
+		return Error.IsEmpty() ? FStepResult::Done() : FStepResult::Error(ScriptWidgets::ExplainWidget(Context, Arguments[0], Arguments[1], Error));
 	}
 
 	/** A word for something that can be seen of a widget. */
@@ -209,7 +211,7 @@ namespace PanelTopic
 		const TOptional<FHostWidgetDescription> Seen = HostSnapshot::Describe(Panel.ToSharedRef(), Arguments[1], Result.Found);
 		if (!Seen.IsSet())
 		{
-			Result.Found += ListRows(Context, Arguments);
+			Result.Found = ScriptWidgets::ExplainWidget(Context, Arguments[0], Arguments[1], Result.Found);
 			return Result;
 		}
 		Result.bHolds = true;
@@ -243,6 +245,7 @@ namespace PanelTopic
 			Context.Mask(Arguments.GetWordIndex(2));
 		}
 		const TArray<FString> Options = HostSnapshot::GetOptions(Panel.ToSharedRef(), Arguments[1], Result.Error);
+		Result.Error = ScriptWidgets::ExplainWidget(Context, Arguments[0], Arguments[1], Result.Error);
 		Result.bHolds = Options.ContainsByPredicate([&Arguments](const FString& Option) { return Option.Equals(Arguments[2]); });
 		Result.Found = FString(TEXT("the options are: ")) + FString::Join(Options, TEXT(", "));
 		return Result;

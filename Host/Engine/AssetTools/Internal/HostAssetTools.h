@@ -44,6 +44,13 @@ namespace HostAssetTools
 	 */
 	UObject* CreateFromMenu(const FNewAssetItem& Item, const FString& Folder = TEXT("/Game"));
 
+	/**
+	 * Makes an asset of a class without asking where: with the factory that the menu has for it, or plainly for a data asset, which the
+	 * engine lets a person pick by class.
+	 * @return null with a reason; what the asset tools have against it stands in the log
+	 */
+	UObject* MakeAsset(UClass& AssetClass, const FString& Folder, const FString& Name, FString& OutReason);
+
 	/** How assets of a class are shown. */
 	struct FAssetKind
 	{

@@ -3,6 +3,7 @@
 #include "AssetDefinition.h"
 #include "AssetToolsImpl.h"
 #include "AssetToolsModule.h"
+#include "Engine/DataAsset.h"
 #include "Factories/Factory.h"
 #include "HostAssetDefinitions.h"
 #include "HostAssetTools.h"
@@ -32,6 +33,19 @@ namespace NewAssetMenu
 			}
 		}
 		return Factories;
+	}
+
+	/** A new factory for exactly this class; null when the menu has none. */
+	UFactory* MakeFactory(const UClass& AssetClass)
+	{
+		for (const UFactory* Factory : GetFactories())
+		{
+			if (Factory->GetSupportedClass() == &AssetClass)
+			{
+				return NewObject<UFactory>(GetTransientPackage(), Factory->GetClass());
+			}
+		}
+		return nullptr;
 	}
 
 	/** Those of exactly this class; null when its parents at most have some. */
@@ -95,6 +109,25 @@ UObject* HostAssetTools::CreateFromMenu(const FNewAssetItem& Item, const FString
 {
 	UFactory* Factory = NewObject<UFactory>(GetTransientPackage(), Item.DefaultFactory->GetClass());
 	return NewAssetMenu::GetTools().CreateInFolder(Item.AssetClass, Factory, Folder);
+}
+
+UObject* HostAssetTools::MakeAsset(UClass& AssetClass, const FString& Folder, const FString& Name, FString& OutReason)
+{
+	UFactory* Factory = NewAssetMenu::MakeFactory(AssetClass);
+	const bool bPlain = AssetClass.IsChildOf(UDataAsset::StaticClass()) && !AssetClass.HasAnyClassFlags(CLASS_Abstract);
+	if (Factory == nullptr && !bPlain)
+	{
+		OutReason = FString::Printf(TEXT("the editor makes no assets of the class %s"), *AssetClass.GetName());
+		OutReason += FString::Printf(TEXT("; it makes data assets and: %s"), *FString::JoinBy(NewAssetMenu::GetFactories(), TEXT(", "), [](const UFactory* Each) { return Each->GetSupportedClass()->GetName(); }));
+		return nullptr;
+	}
+	const bool bGoOn = Factory == nullptr || Factory->ConfigureProperties();
+	UObject* Asset = bGoOn ? NewAssetMenu::GetTools().CreateAsset(Name, Folder, &AssetClass, Factory, NAME_None) : nullptr;
+	if (Asset == nullptr)
+	{
+		OutReason = FString::Printf(TEXT("%s cannot be made in the folder \"%s\"; the log says why"), *Name, *Folder);
+	}
+	return Asset;
 }
 
 HostAssetTools::FAssetKind HostAssetTools::FindKind(const UClass* AssetClass)

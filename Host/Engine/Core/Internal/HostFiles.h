@@ -49,6 +49,9 @@ namespace HostFiles
 	/** Regular files of up to 256 MB only: a pipe or device may never end. OutBytes is empty unless the result is Done. */
 	ERead Read(const FString& Path, std::string& OutBytes);
 
+	/** From now on, until the program ends, reading Path gives these bytes, whatever the disk has: what came out of a pipe. */
+	void GiveContents(const FString& Path, std::string Bytes);
+
 	/**
 	 * Puts Bytes in the place of the file, creating missing folders. Keeps mode and, where permitted, owner of an existing file.
 	 * A file that holds these bytes already is left alone, time stamp included. A file without any write permission counts as read-only

@@ -18,7 +18,7 @@ namespace HostPlacement
 	TArray<TSharedRef<FPlaceableItem>> GetItems(FName Category);
 
 	/**
-	 * Puts an actor of the item into the open level and selects it and nothing else.
+	 * Puts an actor of the item into the open level and selects it and nothing else: one step of undo.
 	 * @return null, with the reason, when the item's asset is missing, no actor can be made of it, or no level is open
 	 */
 	AActor* Place(const FPlaceableItem& Item, const FTransform& Transform, FText& OutReason);

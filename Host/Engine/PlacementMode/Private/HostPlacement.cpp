@@ -5,6 +5,7 @@
 #include "Editor.h"
 #include "Engine/World.h"
 #include "PlacementModeModule.h"
+#include "ScopedTransaction.h"
 #include "UObject/UObjectHash.h"
 
 #define LOCTEXT_NAMESPACE "HostPlacement"
@@ -89,6 +90,7 @@ AActor* HostPlacement::Place(const FPlaceableItem& Item, const FTransform& Trans
 	{
 		return nullptr;
 	}
+	const FScopedTransaction Step(FText::Format(LOCTEXT("Place", "Place {0}"), Item.DisplayName));
 	AActor* Actor = Factory->CreateActor(Item.AssetData.GetAsset(), World->GetCurrentLevel(), Transform);
 	if (Actor == nullptr)
 	{

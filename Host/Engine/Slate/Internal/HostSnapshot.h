@@ -28,6 +28,9 @@ namespace HostSnapshot
 	/** The widget meant by the text, or null; OutReason then says why: nothing of that name, or more than one. */
 	TSharedPtr<SWidget> Find(const TSharedRef<SWidget>& Root, const FString& Widget, FString& OutReason);
 
+	/** By what the widgets that show can be meant: their names, or else their labels; in the order of the screen, each once. */
+	TArray<FString> GetNames(const TSharedRef<SWidget>& Root);
+
 	/** What a person would read in it: its value, or its label. Unset with a reason when there is no such widget; secrets read as bullets. */
 	TOptional<FString> Read(const TSharedRef<SWidget>& Root, const FString& Widget, FString& OutReason);
 

@@ -35,6 +35,7 @@ namespace HostFiles
 	};
 
 	THostState<FState> State;
+	std::unordered_map<std::string, std::string> GivenContents; // by full path
 
 	FFileOverlay* GetOverlay()
 	{
@@ -43,6 +44,10 @@ namespace HostFiles
 
 	EKind GetKindOf(const std::string& Resolved)
 	{
+		if (GivenContents.contains(Resolved))
+		{
+			return EKind::File;
+		}
 		if (const FFileOverlay* Overlay = GetOverlay())
 		{
 			if (const FFileOverlay::FEntry* Entry = Overlay->Find(Resolved))
@@ -164,6 +169,12 @@ namespace HostFiles
 				return Entry->bDeleted ? ERead::Missing : ERead::Done;
 			}
 		}
+		const auto Given = GivenContents.empty() ? GivenContents.end() : GivenContents.find(NativePath::Resolve(Path));
+		if (Given != GivenContents.end())
+		{
+			OutBytes = Given->second;
+			return ERead::Done;
+		}
 		const std::string Full = NativePath::MakeFull(Path);
 		const int Error = DiskFile::Read(Full, OutBytes);
 		if (Error == 0 || Error == ENOENT || Error == ENOTDIR)
@@ -172,6 +183,11 @@ namespace HostFiles
 		}
 		ReportNotRead(Full, Error);
 		return ERead::Failed;
+	}
+
+	void GiveContents(const FString& Path, std::string Bytes)
+	{
+		GivenContents[NativePath::Resolve(Path)] = std::move(Bytes);
 	}
 
 	bool Write(const FString& Path, std::string_view Bytes, EReadOnly ReadOnly)

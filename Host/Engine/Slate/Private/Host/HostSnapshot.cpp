@@ -278,6 +278,23 @@ TSharedPtr<SWidget> HostSnapshot::Find(const TSharedRef<SWidget>& Root, const FS
 	return Seen.IsSet() ? TSharedPtr<SWidget>(Seen.GetValue().Widget) : nullptr;
 }
 
+TArray<FString> HostSnapshot::GetNames(const TSharedRef<SWidget>& Root)
+{
+	TArray<HostSnapshotFind::FSeen> All;
+	HostSnapshotFind::Collect(Root, nullptr, All);
+	TArray<FString> Names;
+	for (const HostSnapshotFind::FSeen& Seen : All)
+	{
+		const FHostWidgetDescription& Description = Seen.Description;
+		const FString Name = Description.Name.IsNone() ? Description.Label : Description.Name.ToString();
+		if (Description.bVisible && !Description.bTransparent && !Seen.bPartOfOther && !Name.IsEmpty())
+		{
+			Names.AddUnique(Name);
+		}
+	}
+	return Names;
+}
+
 TOptional<FHostWidgetDescription> HostSnapshot::Describe(const TSharedRef<SWidget>& Root, const FString& Widget, FString& OutReason)
 {
 	const TOptional<HostSnapshotFind::FSeen> Seen = HostSnapshotFind::FindSeen(Root, Widget, OutReason);

@@ -1,0 +1,53 @@
+// Copyright Velmorant. All Rights Reserved.
+
+#include "ProjectOnDisk.h"
+
+/** The launcher alone, in a folder where nothing is that it could build. */
+class Launcher : public FProjectOnDisk
+{
+protected:
+	Launcher()
+	{
+		std::filesystem::copy(VELMORANT_SOURCE_DIR "/velmorant", Folder.GetNative("velmorant"));
+		FProgramRun::Program = Folder.GetNative("velmorant").string();
+	}
+
+	~Launcher() override { FProgramRun::Program = Built; }
+
+	const std::string Built = FProgramRun::Program;
+};
+
+TEST_F(Launcher, HelpOfACommandDoesNothingElse)
+{
+	for (const char* Command : {"demo", "test", "check", "run", "install", "contract", "editor", "automation", "fuzz", "bench", "package", "setup", "format"})
+	{
+		for (const std::vector<std::string>& Arguments : {std::vector<std::string>{Command, "--help"}, {Command, "-h"}, {Command, "--sanitize", "--help"}})
+		{
+			SCOPED_TRACE(Command);
+			const FProgramResult Result = FProgramRun::Run(Arguments);
+			EXPECT_EQ(Result.ExitStatus, 0) << Result.Errors;
+			EXPECT_NE(Result.Output.find(std::string("\n  ") + Command + " "), std::string::npos) << Result.Output;
+			EXPECT_EQ(Result.Errors, "");
+		}
+	}
+	EXPECT_EQ(Folder.Count(), 1u) << "nothing is built, nothing copied";
+}
+
+TEST_F(Launcher, SaysWhichCommandWasMeant)
+{
+	const struct
+	{
+		const char* Typed;
+		const char* Message;
+	} Cases[] = {
+		{"chek", "there is no command chek. Did you mean \"check\"? There are: automation, bench, check, "},
+		{"fomrat", "Did you mean \"format\"?"},
+		{"dance", "there is no command dance. There are: "},
+	};
+	for (const auto& Case : Cases)
+	{
+		const FProgramResult Result = FProgramRun::Run({Case.Typed, "--help"});
+		EXPECT_EQ(Result.ExitStatus, 2);
+		EXPECT_NE(Result.Errors.find(Case.Message), std::string::npos) << Result.Errors;
+	}
+}
