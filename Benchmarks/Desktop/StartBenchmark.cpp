@@ -53,7 +53,7 @@ BENCHMARK(WindowStart)->UseManualTime()->Unit(benchmark::kMillisecond)->Iteratio
 /** For comparison. */
 void BareWindowStart(benchmark::State& State)
 {
-	StartBenchmark::Run(State, {"/proc/self/exe", BareWindow::Argument});
+	StartBenchmark::Run(State, {VELMORANT_BINARY_DIR "/DesktopBenchmarks", BareWindow::Argument});
 }
 BENCHMARK(BareWindowStart)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(20);
 

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <map>
-#include <set>
 #include <string>
 #include <string_view>
 
@@ -22,18 +21,15 @@ public:
 	/** Null when the disk counts. */
 	const FEntry* Find(const std::string& Path) const;
 
-	/** Whether a folder stands at Path because something was created in it or it was created itself. */
+	/** Whether a folder stands at Path because something was created in it. */
 	bool HasDirectory(const std::string& Path) const;
 
 	void Write(const std::string& Path, std::string_view Bytes);
 	void Delete(const std::string& Path);
-	void MakeDirectory(const std::string& Path);
 
 	/** Sorted by path. */
 	const FEntries& GetEntries() const { return Entries; }
-	const std::set<std::string>& GetDirectories() const { return Directories; }
 
 private:
 	FEntries Entries;
-	std::set<std::string> Directories;
 };

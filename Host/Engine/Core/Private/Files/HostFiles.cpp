@@ -237,22 +237,6 @@ namespace HostFiles
 		return CountChange(Resolved);
 	}
 
-	bool MakeDirectory(const FString& Path)
-	{
-		const std::string Resolved = NativePath::Resolve(Path);
-		FFileOverlay* Overlay = GetOverlay();
-		if (Overlay == nullptr)
-		{
-			return MakeFolderOrReport(Resolved, Resolved);
-		}
-		const EKind Kind = GetKindOf(Resolved);
-		if (Kind == EKind::Missing)
-		{
-			Overlay->MakeDirectory(Resolved);
-		}
-		return Kind == EKind::Missing || Kind == EKind::Directory;
-	}
-
 	TArray<FString> FindFiles(const FString& Directory, const FString& Suffix)
 	{
 		return ToStrings(FolderListing::FindFiles(NativePath::MakeFull(Directory), NativePath::FromString(Suffix), FolderListing::EDepth::All, GetOverlay()));
