@@ -30,10 +30,12 @@ namespace DesktopArguments
 		std::string Theme;
 		std::string Script;
 		std::string Screenshot;
+		double Pace = 0.0;
 		App.add_option("PROJECT", Project, "A .uproject file, or the folder that holds one")->required();
 		App.add_option("--service", Service, "The data file that the toolkit's service answers from")->type_name("FILE");
 		App.add_option("--theme", Theme, "Light or dark; as the desktop is unless given")->transform(CLI::IsMember({"light", "dark"}, CLI::ignore_case))->type_name("NAME");
 		App.add_option("--script", Script, "Do in the window what the script says, and end")->type_name("FILE");
+		App.add_option("--pace", Pace, "Seconds to wait after each step of the script, to look on")->transform(CLI::Range(0.0, 60.0))->type_name("SECONDS");
 		App.add_option("--screenshot", Screenshot, "Draw the window into pictures in this folder, and end")->type_name("FOLDER");
 		bool bWelcome = false;
 		App.add_flag("--welcome", bWelcome, "Say what to try with the sample, until that is closed once");
@@ -53,7 +55,7 @@ namespace DesktopArguments
 			Refusal::Print(EExitStatus::Usage, {ToText(Errors.str()).TrimEnd()}, false);
 			return EExitStatus::Usage;
 		}
-		OutArguments = FDesktopArguments{ToText(Project), ToText(Service), ToText(Theme), ToText(Script), bWelcome, ToText(Screenshot)};
+		OutArguments = FDesktopArguments{ToText(Project), ToText(Service), ToText(Theme), ToText(Script), bWelcome, ToText(Screenshot), Pace};
 		return TOptional<EExitStatus>();
 	}
 }

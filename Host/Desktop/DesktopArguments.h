@@ -6,7 +6,7 @@
 #include "ExitStatus.h"
 #include "Misc/Optional.h"
 
-/** velmorant-editor PROJECT [--service FILE] [--theme light|dark] [--script FILE] [--screenshot FOLDER] */
+/** velmorant-editor PROJECT [--service FILE] [--theme light|dark] [--script FILE] [--pace SECONDS] [--screenshot FOLDER] */
 struct FDesktopArguments
 {
 	FString Project; // a .uproject, or a folder with one in it
@@ -15,6 +15,7 @@ struct FDesktopArguments
 	FString Script; // played in the window; empty for none
 	bool bWelcome = false; // says what to try first
 	FString Screenshot; // where pictures go; empty for none
+	double Pace = 0.0; // seconds after each step of the script
 };
 
 namespace DesktopArguments

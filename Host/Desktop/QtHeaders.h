@@ -23,6 +23,8 @@
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QElapsedTimer>
+#include <QEventLoop>
+#include <QFile>
 #include <QFont>
 #include <QFontDatabase>
 #include <QFormLayout>
@@ -74,6 +76,7 @@
 #include <QStylePainter>
 #include <QStyledItemDelegate>
 #include <QSvgRenderer>
+#include <QTabBar>
 #include <QTextDocument>
 #include <QTextLayout>
 #include <QTextOption>

@@ -237,6 +237,22 @@ TEST_F(ContentBrowserDock, DeletingAsksAndNamesWhatStillRefersToTheAsset)
 	EXPECT_TRUE(HostContentBrowser::GetSelection().IsEmpty()) << "nobody acts on what is gone";
 }
 
+TEST_F(ContentBrowserDock, DeletingNamesTheSettingsThatStillReferToTheAsset)
+{
+	Open();
+	Folder.Write("HarborTower/Config/DefaultNames.ini", "[Names]\nLonger=/Game/UI/HarborStyleSheet.HarborStyleSheet\n");
+	Open(QStringLiteral("UI"));
+	Select(QStringLiteral("HarborStyle"));
+	WhenAsked([](QDialog& Dialog) {
+		const QString Text = Dialog.findChild<QLabel*>()->text();
+		EXPECT_TRUE(Text.contains(QStringLiteral("Config/DefaultGame.ini, line "))) << Text.toStdString();
+		EXPECT_FALSE(Text.contains(QStringLiteral("DefaultNames.ini"))) << "its name only begins like that of the asset";
+		QTest::keyClick(&Dialog, Qt::Key_Escape);
+	});
+	Press(QKeySequence(QKeySequence::Delete));
+	EXPECT_TRUE(GetNames().contains(QStringLiteral("HarborStyle")));
+}
+
 TEST_F(ContentBrowserDock, SearchGoesBelowTheFolderAndAnEmptyListSaysWhy)
 {
 	Open();

@@ -37,6 +37,14 @@ TEST_F(WayOfTheDemo, LeadsFromTheMissingProfileToTheChosenProject)
 	EXPECT_TRUE(Find("SummitButton").isEnabled());
 	EXPECT_EQ(Find<QLabel>("StatusUser").text(), QStringLiteral("Signed in as lucia"));
 
+	QSet<QRgb> Colors;
+	const QImage Picture = Find("DevImage").grab().toImage();
+	for (int X = 0; X < Picture.width(); ++X)
+	{
+		Colors.insert(Picture.pixel(X, Picture.height() / 2));
+	}
+	EXPECT_GT(Colors.size(), 2) << "the developer's picture shows";
+
 	// A project, by the keyboard.
 	QWidget& Projects = Find("ProjectSelection");
 	Projects.setFocus();

@@ -3,9 +3,8 @@
 
 #include "TestHeaders.h"
 
+#include "BareViewHost.h"
 #include "HostClock.h"
-#include "HostWidget.h"
-#include "Look/Brushes.h"
 #include "Look/Theme.h"
 #include "QtText.h"
 #include "Widgets/ItemsView.h"
@@ -18,22 +17,6 @@
 namespace ItemsAreaTest
 {
 	using FItem = TSharedPtr<FString>;
-
-	/** A window around one tree, without an editor. */
-	class FBareHost : public QObject, public IViewHost
-	{
-	public:
-		virtual FHostInputResult Give(const TSharedRef<SWidget>& Widget, const FHostInput& Input) override { return FHostWidgetAccess::Give(Widget, Input); }
-		virtual void RequestFrame() override {}
-		virtual FBrushes& GetBrushes() override { return Brushes; }
-		virtual int GetLeastRows() const override { return 0; }
-		virtual QObject& GetContext() override { return *this; }
-		virtual void AddRoot(FWidgetRoot&) override {}
-		virtual void RemoveRoot(FWidgetRoot&) override {}
-
-	private:
-		FBrushes Brushes;
-	};
 
 	class LongList : public testing::Test
 	{
@@ -91,7 +74,7 @@ namespace ItemsAreaTest
 
 		static constexpr int32 NumItems = 100000;
 
-		FBareHost Host;
+		FBareViewHost Host;
 		TArray<FItem> Items;
 		TSharedPtr<SListView<FItem>> List;
 		std::unique_ptr<FWidgetRoot> Root;

@@ -5,8 +5,11 @@
 
 #include "TemporaryFolder.h"
 
+#include <QFileInfo>
 #include <QProcess>
 
+#include <algorithm>
+#include <cstdlib>
 #include <filesystem>
 
 namespace WindowScriptTest
@@ -46,20 +49,87 @@ namespace WindowScriptTest
 	}
 }
 
+namespace WindowScriptTest
+{
+	/** What a script of the sample did in the window, with its pictures: each is played once, whoever asks. */
+	struct FPlayed
+	{
+		explicit FPlayed(const char* Script)
+			: File(QStringLiteral(VELMORANT_SOURCE_DIR "/Samples/%1.velscript").arg(QLatin1String(Script)))
+			, Pictures(QString::fromStdString(Folder.GetNative("Pictures").string()))
+			, Run(RunProgram("velmorant-editor", Folder, {CopySample(Folder), QStringLiteral("--theme"), QStringLiteral("dark"), QStringLiteral("--script"), File, QStringLiteral("--screenshot"), Pictures}))
+		{
+		}
+
+		static const FPlayed& Get(const QString& Script)
+		{
+			static const FPlayed Demo("Demo");
+			static const FPlayed Tour("Tour");
+			return Script == QLatin1String("Demo") ? Demo : Tour;
+		}
+
+		FTemporaryFolder Folder;
+		QString File;
+		QString Pictures;
+		FRun Run;
+	};
+
+	/** The mean colour of each of 16 by 16 parts: what the eye sees from afar, whatever the font renderer did to the letters. */
+	QImage Blur(const QImage& Picture)
+	{
+		return Picture.convertToFormat(QImage::Format_RGB32).scaled(16, 16, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+	}
+
+	/** The largest difference of a part's red, green or blue, of 255. */
+	int Compare(const QImage& Left, const QImage& Right)
+	{
+		const QImage BlurredLeft = Blur(Left);
+		const QImage BlurredRight = Blur(Right);
+		int Most = 0;
+		for (int Y = 0; Y < 16; ++Y)
+		{
+			for (int X = 0; X < 16; ++X)
+			{
+				const QRgb One = BlurredLeft.pixel(X, Y);
+				const QRgb Other = BlurredRight.pixel(X, Y);
+				Most = std::max({Most, std::abs(qRed(One) - qRed(Other)), std::abs(qGreen(One) - qGreen(Other)), std::abs(qBlue(One) - qBlue(Other))});
+			}
+		}
+		return Most;
+	}
+}
+
 TEST(WindowScript, ReadsWordForWordWhatItReadsWithoutAWindow)
 {
 	using namespace WindowScriptTest;
 	for (const char* Script : {"Demo", "Tour"})
 	{
 		SCOPED_TRACE(Script);
-		const QString File = QStringLiteral(VELMORANT_SOURCE_DIR "/Samples/%1.velscript").arg(QLatin1String(Script));
+		const FPlayed& Found = FPlayed::Get(QLatin1String(Script));
 		const FTemporaryFolder Without;
-		const FRun Expected = RunProgram("velmorant", Without, {QStringLiteral("run"), CopySample(Without), File});
+		const FRun Expected = RunProgram("velmorant", Without, {QStringLiteral("run"), CopySample(Without), Found.File});
 		ASSERT_EQ(Expected.Status, 0) << Expected.Errors.toStdString();
-		const FTemporaryFolder With;
-		const FRun Found = RunProgram("velmorant-editor", With, {CopySample(With), QStringLiteral("--script"), File});
-		EXPECT_EQ(Found.Status, 0) << Found.Errors.toStdString();
-		EXPECT_EQ(Found.Output.toStdString(), Expected.Output.toStdString());
+		EXPECT_EQ(Found.Run.Status, 0) << Found.Run.Errors.toStdString();
+		EXPECT_EQ(Found.Run.Output.toStdString(), Expected.Output.toStdString());
+	}
+}
+
+/** Docs/Pictures/Tour-06-….png is what the sixth part of Tour.velscript looks like. */
+TEST(WindowScript, DrawsWhatTheDocumentsShow)
+{
+	using namespace WindowScriptTest;
+	static const int MostDifference = 14; // another release of the font library changes a part by less; a dock that moved by far more
+	const QFileInfoList Shown = QDir(QStringLiteral(VELMORANT_SOURCE_DIR "/Docs/Pictures")).entryInfoList({QStringLiteral("*.png")}, QDir::Files);
+	ASSERT_GE(Shown.size(), 5);
+	for (const QFileInfo& Each : Shown)
+	{
+		SCOPED_TRACE(Each.fileName().toStdString());
+		const FPlayed& Played = FPlayed::Get(Each.fileName().section(QLatin1Char('-'), 0, 0));
+		const QImage Found(Played.Pictures + QLatin1Char('/') + Each.fileName().section(QLatin1Char('-'), 1));
+		ASSERT_FALSE(Found.isNull()) << "no part of the script draws it any more";
+		const QImage Expected(Each.filePath());
+		EXPECT_EQ(Found.size(), Expected.size());
+		EXPECT_LE(Compare(Found, Expected), MostDifference) << "draw it anew: ./velmorant editor --screenshot FOLDER";
 	}
 }
 
@@ -83,7 +153,9 @@ TEST(WindowScript, LeavesAPictureOfEachPart)
 	using namespace WindowScriptTest;
 	const FTemporaryFolder Folder;
 	const QString Project = CopySample(Folder);
-	Folder.Write("Parts.velscript", "heading \"The first part\"\nwait 1\nheading \"And more\"\nwait 1\n");
+	Folder.Write("Parts.velscript",
+		"heading \"The first part\"\nopen /VelmorantPro/EditorHelpers/DeveloperPanel/VelmorantDeveloperPanel as Developer\nprint snapshot Developer\n"
+		"heading \"And more\"\nwait 1\nrestart\n");
 	const QString Script = QString::fromStdString(Folder.GetNative("Parts.velscript").string());
 	const QString Pictures = QString::fromStdString(Folder.GetNative("Pictures").string());
 	const FRun Drawn = RunProgram("velmorant-editor", Folder, {Project, QStringLiteral("--script"), Script, QStringLiteral("--screenshot"), Pictures});
@@ -93,4 +165,9 @@ TEST(WindowScript, LeavesAPictureOfEachPart)
 		const QImage Picture(Pictures + QLatin1String(Name));
 		EXPECT_EQ(Picture.size(), QSize(1440, 900)) << Name;
 	}
+	const QImage Before(Pictures + QStringLiteral("/01-the-first-part.png"));
+	const QImage Panel(Pictures + QStringLiteral("/01-the-first-part-panel-developer.png"));
+	ASSERT_FALSE(Panel.isNull()) << "the panel alone, as the script reads it";
+	EXPECT_LT(Panel.width(), Before.width() / 2);
+	EXPECT_GT(Compare(Panel, Before.copy(QRect(QPoint(Before.width() - Panel.width(), 0), Panel.size()))), 14) << "pictures of two things differ";
 }

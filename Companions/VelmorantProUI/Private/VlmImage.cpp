@@ -45,11 +45,13 @@ void UVlmImage::SetImageFromData(const FImageObjectData& Image, EImageRequestSiz
 	const TOptional<FVector2D> PictureSize = PictureHeader::ReadSize(Image.Data);
 	if (PictureSize.IsSet())
 	{
+		PictureFile = Image.Data;
 		SetBrush(FSlateImageBrush(VlmImage::MakeName(Image.Data), VlmImage::Fit(PictureSize.GetValue(), Size)));
 	}
 }
 
 void UVlmImage::ClearImage()
 {
+	PictureFile.Empty();
 	SetBrush(FSlateBrush());
 }

@@ -24,4 +24,10 @@ public:
 	/** Shows no picture any more. */
 	UFUNCTION(BlueprintCallable, Category = "Velmorant|Image")
 	void ClearImage();
+
+	/** The file that shows, as the service sent it; empty when it shows something else. Whoever draws the image decodes it. */
+	const TArray<uint8>& GetPictureFile() const { return PictureFile; }
+
+private:
+	TArray<uint8> PictureFile;
 };

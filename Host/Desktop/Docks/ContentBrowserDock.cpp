@@ -226,6 +226,7 @@ void FContentBrowserDock::MakeActions()
 	}
 	SearchAgainAction = AddAction("ContentRefresh", tr("Look for changed files"), QKeySequence(Qt::Key_F5), [this] {
 		Services.GetEditor().Do([this] { Catalog.SearchAgain(); });
+		Services.LookOutside();
 		Services.RequestFrame();
 	});
 	addAction(SearchAgainAction);
@@ -242,7 +243,7 @@ void FContentBrowserDock::Refresh()
 	{
 		return; // a name is being typed
 	}
-	const TArray<FString> Unsaved = Services.GetEditor().GetSession().GetUnsaved();
+	const TArray<FString> Unsaved = Services.GetEditor().GetUnsaved();
 	SaveAll->setEnabled(!Unsaved.IsEmpty());
 	if (Catalog.Refresh(Unsaved))
 	{

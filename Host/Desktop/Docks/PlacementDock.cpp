@@ -57,15 +57,23 @@ namespace PlacementDock
 		return QIcon(Blank);
 	}
 
-	const FSlateBrush* FindIcon(const FPlaceableItem& Item)
+	/** Without a resource when there is none. */
+	FSlateBrush FindIcon(const FPlaceableItem& Item)
 	{
 		const FName Own = Item.ClassIconBrushOverride;
+		const UClass* const Class = Cast<UClass>(Item.AssetData.FastGetAsset(false));
+		const FSlateBrush* Known = nullptr;
 		if (!Own.IsNone())
 		{
-			return HostStyles::FindBrush(Own);
+			Known = HostStyles::FindBrush(Own);
 		}
-		const UClass* const Class = Cast<UClass>(Item.AssetData.FastGetAsset(false));
-		return Class != nullptr ? LevelActors::FindClassIcon(*Class) : nullptr;
+		else if (Class != nullptr)
+		{
+			Known = LevelActors::FindClassIcon(*Class);
+		}
+		FSlateBrush Brush;
+		Brush.SetResourceName(Own); // an icon of a plugin that is not there: the window may have it
+		return Known != nullptr ? *Known : Brush;
 	}
 }
 
@@ -131,8 +139,8 @@ void FPlacementDock::Fill()
 			QTreeWidgetItem* const Row = new QTreeWidgetItem(Group, {QtText::From(Item->DisplayName)});
 			Row->setData(0, PlacementDock::KeyRole, LevelPlacement::MakeKey(Category, *Item));
 			Row->setToolTip(0, QtText::From(Item->NativeName));
-			const FSlateBrush* const Icon = PlacementDock::FindIcon(*Item);
-			Row->setIcon(0, Icon != nullptr ? Services.GetBrushes().FindIcon(*Icon) : PlacementDock::MakeBlank());
+			const QIcon Icon = Services.GetBrushes().FindIcon(PlacementDock::FindIcon(*Item));
+			Row->setIcon(0, Icon.isNull() ? PlacementDock::MakeBlank() : Icon);
 		}
 		Group->setExpanded(true);
 	}

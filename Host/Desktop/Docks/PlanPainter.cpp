@@ -170,7 +170,8 @@ void FPlanPainter::DrawInside(const FPlanShape& Shape, const QRectF& Room)
 	for (qsizetype Index = 0; Index < NumLines; ++Index)
 	{
 		Painter.setPen(Index == 0 ? Palette.color(QPalette::Text) : Theme::GetColors().Subtle);
-		Painter.drawText(Line, Qt::AlignCenter, Metrics.elidedText(Lines[Index], Qt::ElideRight, Line.width()));
+		const Qt::TextElideMode Elide = Index == 0 ? Qt::ElideLeft : Qt::ElideRight; // identifiers of neighbours differ at their ends
+		Painter.drawText(Line, Qt::AlignCenter, Metrics.elidedText(Lines[Index], Elide, Line.width()));
 		Line.translate(0.0, Metrics.height());
 	}
 }

@@ -233,7 +233,7 @@ void FVariantManagerDock::LetGo()
 void FVariantManagerDock::FindAssets()
 {
 	uint64 Now = HostPackages::GetStorageVersion();
-	for (const FString& Name : Services.GetEditor().GetSession().GetUnsaved()) // what has no file yet is among them
+	for (const FString& Name : Services.GetEditor().GetUnsaved()) // what has no file yet is among them
 	{
 		Now = Now * 31 + GetTypeHash(Name);
 	}

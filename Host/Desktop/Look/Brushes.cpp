@@ -2,6 +2,7 @@
 
 #include "Look/Brushes.h"
 
+#include "Look/Icons.h"
 #include "Look/Theme.h"
 #include "QtText.h"
 
@@ -9,6 +10,10 @@ namespace Brushes
 {
 	static const QSize IconSize(16, 16);
 
+	QImage Fit(const QImage& Whole, QSize Pixels)
+	{
+		return Whole.isNull() ? Whole : Whole.scaled(Pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+	}
 }
 
 QPixmap FBrushes::Find(const FSlateBrush& Brush, QSize Size, double Scale)
@@ -25,21 +30,29 @@ QPixmap FBrushes::Find(const FSlateBrush& Brush, QSize Size, double Scale)
 	{
 		return *Known;
 	}
-	QPixmap Picture = QPixmap::fromImage(Read(Name, Pixels));
+	const QByteArray File = Source ? Source(Name) : QByteArray();
+	QPixmap Picture = QPixmap::fromImage(File.isEmpty() ? Read(Name, Pixels) : Brushes::Fit(QImage::fromData(File), Pixels));
 	Picture.setDevicePixelRatio(Scale);
-	Pictures.insert(Key, Picture);
+	if (File.isEmpty())
+	{
+		Pictures.insert(Key, Picture);
+	}
 	return Picture;
 }
 
 QImage FBrushes::Read(const QString& Name, QSize Pixels)
 {
-	QImageReader Reader(Name);
+	const QString Own = Icons::FindFile(Name);
+	QImageReader Reader(Own.isEmpty() ? Name : Own);
 	if (!Reader.canRead())
 	{
 		return QImage();
 	}
-	const QImage Whole = Reader.read();
-	return Whole.isNull() ? Whole : Whole.scaled(Pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+	if (!Own.isEmpty())
+	{
+		Reader.setScaledSize(Reader.size().scaled(Pixels, Qt::KeepAspectRatio)); // drawn in that size, not scaled to it
+	}
+	return Brushes::Fit(Reader.read(), Pixels);
 }
 
 QIcon FBrushes::FindIcon(const FSlateBrush& Brush)

@@ -6,6 +6,8 @@
 
 #include "Styling/SlateBrush.h"
 
+#include <functional>
+
 /** The pictures of the editor's brushes, read once. */
 class FBrushes
 {
@@ -16,6 +18,10 @@ public:
 	/** The same in a size that Qt asks for. */
 	QIcon FindIcon(const FSlateBrush& Brush);
 
+	/** Asked for the file of a picture that is no file on disk; empty when it knows none of that name. What it gives is not kept. */
+	using FSource = std::function<QByteArray(const QString& Name)>;
+	void SetSource(FSource InSource) { Source = std::move(InSource); }
+
 	/** Where pictures were changed on disk, they are read again. */
 	void Forget() { Pictures.clear(); }
 
@@ -23,4 +29,5 @@ private:
 	QImage Read(const QString& Name, QSize Pixels);
 
 	QHash<QString, QPixmap> Pictures; // by name and size
+	FSource Source;
 };

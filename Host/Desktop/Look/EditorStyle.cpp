@@ -8,6 +8,10 @@
 
 namespace EditorStyle
 {
+	static const int TitleMargin = 12;
+	static const int RoomForDockButtons = 48;
+	static const int AccentHeight = 2; // of the line above the tab that shows
+
 	void DrawTick(QPainter& Painter, const QRect& Rect, const QPalette& Palette, QStyle::State State)
 	{
 		const bool bOn = State.testFlag(QStyle::State_On);
@@ -34,6 +38,19 @@ namespace EditorStyle
 		Painter.restore();
 	}
 
+	/** As a tab, because docks that share a place have tabs instead. */
+	void DrawDockTitle(QPainter& Painter, const QStyleOptionDockWidget& Dock)
+	{
+		Painter.fillRect(Dock.rect, Theme::GetColors().Header);
+		const QRect Room = Dock.rect.adjusted(TitleMargin, 0, -RoomForDockButtons, 0);
+		const QString Title = Dock.fontMetrics.elidedText(Dock.title, Qt::ElideRight, Room.width());
+		const QRect Tab(Dock.rect.left(), Dock.rect.top(), Dock.fontMetrics.horizontalAdvance(Title) + 2 * TitleMargin, Dock.rect.height());
+		Painter.fillRect(Tab, Dock.palette.color(QPalette::Window));
+		Painter.fillRect(QRect(Tab.left(), Tab.top(), Tab.width(), AccentHeight), Dock.palette.color(QPalette::Highlight));
+		Painter.setPen(Dock.palette.color(QPalette::WindowText));
+		Painter.drawText(Room, Qt::AlignVCenter | Qt::AlignLeft, Title);
+	}
+
 	/** Lines on a field of 16 by 16. */
 	QIcon MakeIcon(const std::vector<QPolygonF>& Lines)
 	{
@@ -56,10 +73,31 @@ namespace EditorStyle
 		}
 		return Icon;
 	}
+
+	/** Closes a tab. */
+	void DrawCross(QPainter& Painter, const QRect& Rect, QStyle::State State)
+	{
+		const bool bMarked = State.testFlag(QStyle::State_MouseOver);
+		Painter.save();
+		Painter.setRenderHint(QPainter::Antialiasing);
+		if (bMarked)
+		{
+			Painter.setPen(Qt::NoPen);
+			Painter.setBrush(Theme::GetColors().FieldLine);
+			Painter.drawRoundedRect(Rect, Radius, Radius);
+		}
+		Painter.setPen(QPen(Theme::GetColors().Subtle, 1.3, Qt::SolidLine, Qt::RoundCap));
+		const QPointF Middle = QRectF(Rect).center();
+		Painter.drawLine(Middle - QPointF(3.0, 3.0), Middle + QPointF(3.0, 3.0));
+		Painter.drawLine(Middle + QPointF(-3.0, 3.0), Middle + QPointF(3.0, -3.0));
+		Painter.restore();
+	}
 }
 
 FEditorStyle::FEditorStyle()
 	: QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion")))
+	, CloseIcon(EditorStyle::MakeIcon({{QPointF(4.5, 4.5), QPointF(11.5, 11.5)}, {QPointF(11.5, 4.5), QPointF(4.5, 11.5)}}))
+	, FloatIcon(EditorStyle::MakeIcon({{QPointF(3.5, 6.5), QPointF(9.5, 6.5), QPointF(9.5, 12.5), QPointF(3.5, 12.5), QPointF(3.5, 6.5)}, {QPointF(6.5, 3.5), QPointF(12.5, 3.5), QPointF(12.5, 9.5)}}))
 {
 }
 
@@ -79,6 +117,9 @@ void FEditorStyle::drawPrimitive(PrimitiveElement Element, const QStyleOption* O
 			break;
 		case PE_IndicatorCheckBox:
 			EditorStyle::DrawTick(*Painter, Option->rect, Option->palette, Option->state);
+			return;
+		case PE_IndicatorTabClose:
+			EditorStyle::DrawCross(*Painter, Option->rect, Option->state);
 			return;
 		case PE_IndicatorDockWidgetResizeHandle:
 			Painter->fillRect(Option->rect, Theme::GetColors().Line);
@@ -103,10 +144,7 @@ void FEditorStyle::drawControl(ControlElement Element, const QStyleOption* Optio
 		case CE_DockWidgetTitle:
 			if (const QStyleOptionDockWidget* const Dock = qstyleoption_cast<const QStyleOptionDockWidget*>(Option))
 			{
-				Painter->fillRect(Option->rect, Theme::GetColors().Header);
-				Painter->setPen(Option->palette.color(QPalette::WindowText));
-				const QRect Room = Option->rect.adjusted(10, 0, -48, 0);
-				Painter->drawText(Room, Qt::AlignVCenter | Qt::AlignLeft, Option->fontMetrics.elidedText(Dock->title, Qt::ElideRight, Room.width()));
+				EditorStyle::DrawDockTitle(*Painter, *Dock);
 				return;
 			}
 			break;
@@ -119,7 +157,7 @@ void FEditorStyle::drawControl(ControlElement Element, const QStyleOption* Optio
 				Painter->fillRect(QRect(Tab->rect.right(), Tab->rect.top(), 1, Tab->rect.height()), Theme::GetColors().Line);
 				if (bSelected)
 				{
-					Painter->fillRect(QRect(Tab->rect.left(), Tab->rect.top(), Tab->rect.width() - 1, 2), Option->palette.color(QPalette::Highlight));
+					Painter->fillRect(QRect(Tab->rect.left(), Tab->rect.top(), Tab->rect.width() - 1, EditorStyle::AccentHeight), Option->palette.color(QPalette::Highlight));
 				}
 				return;
 			}
@@ -186,13 +224,14 @@ QRect FEditorStyle::subControlRect(ComplexControl Control, const QStyleOptionCom
 
 QIcon FEditorStyle::standardIcon(StandardPixmap Icon, const QStyleOption* Option, const QWidget* Widget) const
 {
+	// Layouts of docks ask again and again, so both are drawn once. A style lasts as long as its theme.
 	if (Icon == SP_TitleBarCloseButton || Icon == SP_DockWidgetCloseButton)
 	{
-		return EditorStyle::MakeIcon({{QPointF(4.5, 4.5), QPointF(11.5, 11.5)}, {QPointF(11.5, 4.5), QPointF(4.5, 11.5)}});
+		return CloseIcon;
 	}
 	if (Icon == SP_TitleBarNormalButton)
 	{
-		return EditorStyle::MakeIcon({{QPointF(3.5, 6.5), QPointF(9.5, 6.5), QPointF(9.5, 12.5), QPointF(3.5, 12.5), QPointF(3.5, 6.5)}, {QPointF(6.5, 3.5), QPointF(12.5, 3.5), QPointF(12.5, 9.5)}});
+		return FloatIcon;
 	}
 	return QProxyStyle::standardIcon(Icon, Option, Widget);
 }
@@ -211,6 +250,8 @@ int FEditorStyle::pixelMetric(PixelMetric Metric, const QStyleOption* Option, co
 		case PM_IndicatorHeight: return 16;
 		case PM_TabBarTabVSpace: return 12;
 		case PM_TabBarTabHSpace: return 24;
+		case PM_TabCloseIndicatorWidth:
+		case PM_TabCloseIndicatorHeight: return 16;
 		default: return QProxyStyle::pixelMetric(Metric, Option, Widget);
 	}
 }

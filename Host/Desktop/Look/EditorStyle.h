@@ -20,6 +20,10 @@ public:
 	virtual int styleHint(StyleHint Hint, const QStyleOption* Option, const QWidget* Widget, QStyleHintReturn* ReturnData) const override;
 	virtual QSize sizeFromContents(ContentsType Type, const QStyleOption* Option, const QSize& Size, const QWidget* Widget) const override;
 	//~ End QStyle
+
+private:
+	const QIcon CloseIcon;
+	const QIcon FloatIcon;
 };
 
 /** The frames that several controls share. */

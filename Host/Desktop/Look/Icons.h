@@ -9,4 +9,7 @@ namespace Icons
 {
 	/** @param Name of the file, without its extension; it must be there */
 	QIcon Find(const char* Name);
+
+	/** Of a name that may not be there, or empty: the names of the editor's own icons, such as "Icons.Settings", are among them. */
+	QString FindFile(const QString& Name);
 }

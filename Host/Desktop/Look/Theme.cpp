@@ -5,6 +5,9 @@
 #include "Look/EditorStyle.h"
 #include "Look/Fonts.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace Theme
 {
 	struct FScheme
@@ -36,6 +39,7 @@ namespace Theme
 	}
 
 	static EKind Current = EKind::Dark;
+	static const double LeastContrast = 4.5; // of a text and what it stands on, for people to read it with ease
 
 	QPalette MakePalette(const FScheme& Scheme)
 	{
@@ -87,6 +91,35 @@ namespace Theme
 	const FColors& GetColors()
 	{
 		return GetScheme(Current).Colors;
+	}
+
+	/** As seen, from 0 to 1. */
+	double GetLuminance(const QColor& Color)
+	{
+		const FLinearColor Linear(FColor(static_cast<uint8>(Color.red()), static_cast<uint8>(Color.green()), static_cast<uint8>(Color.blue())));
+		return 0.2126 * static_cast<double>(Linear.R) + 0.7152 * static_cast<double>(Linear.G) + 0.0722 * static_cast<double>(Linear.B);
+	}
+
+	double GetContrast(const QColor& Left, const QColor& Right)
+	{
+		const double Lighter = std::max(GetLuminance(Left), GetLuminance(Right));
+		const double Darker = std::min(GetLuminance(Left), GetLuminance(Right));
+		return (Lighter + 0.05) / (Darker + 0.05);
+	}
+
+	QColor MakeReadable(const QColor& Color)
+	{
+		const FScheme& Scheme = GetScheme(Current);
+		for (double Share = 0.0; Share < 1.0; Share += 0.1)
+		{
+			const auto Mix = [Share](int Own, int Text) { return static_cast<int>(std::lround(Own * (1.0 - Share) + Text * Share)); };
+			const QColor Mixed(Mix(Color.red(), Scheme.Text.red()), Mix(Color.green(), Scheme.Text.green()), Mix(Color.blue(), Scheme.Text.blue()), Color.alpha());
+			if (GetContrast(Mixed, Scheme.Button) >= LeastContrast)
+			{
+				return Mixed;
+			}
+		}
+		return Scheme.Text;
 	}
 
 	QColor ToQt(const FLinearColor& Color)

@@ -38,6 +38,9 @@ namespace Theme
 	EKind GetKind();
 	const FColors& GetColors();
 
+	/** The colour of a text, moved towards that of the theme's own texts as far as it takes to be read on a button or a panel. */
+	QColor MakeReadable(const QColor& Color);
+
 	/** Into the screen's colour space. */
 	QColor ToQt(const FLinearColor& Color);
 }

@@ -40,6 +40,7 @@ bool FDesktopEditor::Do(const std::function<void()>& Act)
 		return false;
 	}
 	++Depth;
+	Unsaved.Reset();
 	FString Reason;
 	try
 	{
@@ -51,11 +52,21 @@ bool FDesktopEditor::Do(const std::function<void()>& Act)
 		Reason = ProgramFault::Describe(Fault);
 	}
 	--Depth;
+	Unsaved.Reset();
 	if (bBroken && OnBroken)
 	{
 		OnBroken(Reason);
 	}
 	return !bBroken;
+}
+
+const TArray<FString>& FDesktopEditor::GetUnsaved()
+{
+	if (!Unsaved.IsSet() || Depth == 0)
+	{
+		Unsaved = Session.GetUnsaved();
+	}
+	return Unsaved.GetValue();
 }
 
 void FDesktopEditor::Frame()

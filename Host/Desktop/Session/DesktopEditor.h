@@ -36,6 +36,9 @@ public:
 	/** Whether it can be asked: it runs, and is not in the middle of something. */
 	bool IsReady() const { return !bBroken && Depth == 0 && Session.IsRunning(); }
 
+	/** As FScriptSession::GetUnsaved(), looked up once for all who ask within one act, such as a frame. */
+	const TArray<FString>& GetUnsaved();
+
 	/** While the object is there, no time passes. */
 	class FStandstill
 	{
@@ -60,6 +63,7 @@ private:
 
 	FScriptSession Session;
 	QElapsedTimer Clock;
+	TOptional<TArray<FString>> Unsaved; // of the act that runs
 	int Depth = 0; // of acts within acts, and of standstills
 	bool bBroken = false;
 };

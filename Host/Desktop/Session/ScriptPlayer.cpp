@@ -44,7 +44,18 @@ namespace ScriptPlayer
 		return Picture;
 	}
 
-	/** Keeps a picture of each part of a script. */
+	bool Is(const FScriptStep& Step, const TCHAR* Command)
+	{
+		return Step.Command != nullptr && FStringView(Step.Command->Syntax.Name) == FStringView(Command);
+	}
+
+	/** A step after which nothing is left to see of what was done before. */
+	bool ClearsWindow(const FScriptStep& Step)
+	{
+		return Is(Step, TEXT("restart")) || Is(Step, TEXT("close"));
+	}
+
+	/** Keeps a picture of each part of a script, and of each panel that the script reads. */
 	class FPictures
 	{
 	public:
@@ -54,37 +65,65 @@ namespace ScriptPlayer
 		{
 		}
 
-		void Note(const FScriptStep& Step)
+		/** @param Next null after the last step */
+		void Note(const FScriptStep& Step, const FScriptStep* Next)
 		{
-			if (Step.IsHeading())
-			{
-				Keep();
-				++Number;
-				Name = MakeFileName(Step.GetArguments()[0]);
-			}
-		}
-
-		void Keep()
-		{
-			if (Folder.isEmpty() || Name.isEmpty())
+			if (Folder.isEmpty())
 			{
 				return;
 			}
-			const QString File = QStringLiteral("%1/%2-%3.png").arg(Folder).arg(Number, 2, 10, QLatin1Char('0')).arg(Name);
-			if (!QDir().mkpath(Folder) || !Draw(Window).save(File))
+			if (Step.IsHeading())
+			{
+				++Number;
+				Name = MakeFileName(Step.GetArguments()[0]);
+			}
+			if (Is(Step, TEXT("print snapshot")))
+			{
+				KeepPanel(Step.GetArguments()[0]);
+			}
+			bCleared = bCleared ? Is(Step, TEXT("save")) || Step.Command == nullptr || ClearsWindow(Step) : ClearsWindow(Step);
+			const bool bEnds = Next == nullptr || Next->IsHeading();
+			if (!bCleared && !Name.isEmpty() && (bEnds || ClearsWindow(*Next)))
+			{
+				Save(QString(), Draw(Window));
+			}
+		}
+
+	private:
+		/** As high as it would like to be, also where the window shows a part of it. */
+		void KeepPanel(const FString& Panel)
+		{
+			if (QWidget* const Content = Window.FindPanelContent(Panel))
+			{
+				Save(QStringLiteral("-panel-") + MakeFileName(Panel), Content->grab());
+			}
+		}
+
+		void Save(const QString& Ending, const QPixmap& Picture)
+		{
+			const QString File = QStringLiteral("%1/%2-%3%4.png").arg(Folder).arg(Number, 2, 10, QLatin1Char('0')).arg(Name, Ending);
+			if (!QDir().mkpath(Folder) || !Picture.save(File))
 			{
 				HostProblems::Report(QtText::ToEditor(File), 0, TEXT("the picture cannot be written"));
 			}
 		}
 
-	private:
 		QString Folder;
 		QString Name;
 		int Number = 0;
+		bool bCleared = false;
 		FMainWindow& Window;
 	};
 
-	EExitStatus Play(const FString& File, const FString& PictureFolder, FDesktopEditor& Editor, FMainWindow& Window)
+	/** Lets people look on between two steps. The editor's time stands, as without a window. */
+	void Pause(double Seconds)
+	{
+		QEventLoop Loop;
+		QTimer::singleShot(static_cast<int>(Seconds * 1000.0), &Loop, &QEventLoop::quit);
+		Loop.exec(QEventLoop::ExcludeUserInputEvents);
+	}
+
+	EExitStatus Play(const FString& File, const FString& PictureFolder, double Pace, FDesktopEditor& Editor, FMainWindow& Window)
 	{
 		const FString Text = ScriptFile::ReadText(File);
 		Refusal::PrintProblems(EExitStatus::Trouble, false);
@@ -94,18 +133,23 @@ namespace ScriptPlayer
 			return EExitStatus::Trouble;
 		}
 		Editor.GetSession().SetPerson(nullptr); // what the script does not answer takes its default, as without a window
-		Window.SetLeastRows(STableViewBase::HostRowsInView);
+		Window.SetPlaying(STableViewBase::HostRowsInView);
 		FPictures Pictures(PictureFolder, Window);
 		EExitStatus Status = EExitStatus::Trouble;
 		Editor.Do([&] {
 			const TUniquePtr<IScriptReport> Report = ScriptReport::Make(File, false);
+			int32 NumDone = 0;
 			FScriptRunner Runner(Editor.GetSession(), *Report, [&](const FScriptStep& Step) {
-				Pictures.Note(Step); // a heading ends the part before it
 				Window.ShowNow();
+				++NumDone;
+				Pictures.Note(Step, NumDone < Script.Steps.Num() ? &Script.Steps[NumDone] : nullptr);
+				if (Pace > 0.0)
+				{
+					Pause(Pace);
+				}
 			});
 			Status = Runner.Run(Script);
 		});
-		Pictures.Keep();
 		return Status;
 	}
 }

@@ -14,5 +14,12 @@ void FBoxView::Refresh(FSeenWidget& Seen)
 	const FHostWidgetLook& Look = Seen.GetLook();
 	Layout->SetDirection(Look.Arrangement == EHostArrangement::Row ? Qt::Horizontal : Qt::Vertical);
 	Layout->SetOverrides(FSizeOverrides::Of(Look));
-	Children.Fit(Seen.GetParts());
+	TArray<FHostWidgetPart> Parts = Seen.GetParts();
+	const FString& Role = Seen.GetDescription().Role;
+	const bool bWraps = Parts.Num() == 1 && Role != TEXT("vertical") && Role != TEXT("horizontal") && Role != TEXT("panel");
+	if (bWraps)
+	{
+		Parts[0].Fill = 1.0f; // what wraps one widget gives it all of its room
+	}
+	Children.Fit(Parts);
 }

@@ -9,6 +9,8 @@
 namespace EditView
 {
 	static const int LeastWidth = 48;
+	static const int HintMargin = 8;
+	static const int HintGap = 24; // between a text and its hint, with what is before the text
 
 	class FField : public QLineEdit
 	{
@@ -21,6 +23,22 @@ namespace EditView
 
 		virtual QSize sizeHint() const override { return QSize(QLineEdit::sizeHint().width(), EditorStyle::ControlHeight); }
 		virtual QSize minimumSizeHint() const override { return QSize(LeastWidth, EditorStyle::ControlHeight); }
+
+	protected:
+		/** What a field is for stands behind its text where there is room: "24" says nothing by itself. */
+		virtual void paintEvent(QPaintEvent* Event) override
+		{
+			QLineEdit::paintEvent(Event);
+			const int Left = fontMetrics().horizontalAdvance(displayText()) + HintGap;
+			const QRect Room = rect().adjusted(Left, 0, -HintMargin, 0);
+			if (text().isEmpty() || isClearButtonEnabled() || fontMetrics().horizontalAdvance(placeholderText()) > Room.width())
+			{
+				return;
+			}
+			QPainter Painter(this);
+			Painter.setPen(palette().color(QPalette::PlaceholderText));
+			Painter.drawText(Room, Qt::AlignRight | Qt::AlignVCenter, placeholderText());
+		}
 	};
 }
 

@@ -46,6 +46,21 @@ namespace ItemsView
 	};
 }
 
+namespace ItemsView
+{
+	bool IsWithinRow(const QWidget& Widget)
+	{
+		for (const QWidget* Around = &Widget; Around != nullptr; Around = Around->parentWidget())
+		{
+			if (dynamic_cast<const FRow*>(Around) != nullptr)
+			{
+				return true;
+			}
+		}
+		return false;
+	}
+}
+
 FItemsArea::FItemsArea(QWidget* Parent)
 	: QAbstractScrollArea(Parent)
 	, Canvas(new QWidget(viewport()))
@@ -151,6 +166,10 @@ void FItemsArea::FitBar()
 
 QSize FItemsArea::sizeHint() const
 {
+	if (IsNothing())
+	{
+		return QSize(200, 0);
+	}
 	const int NumRows = std::clamp(NumItems, 1, ItemsView::MostRowsWanted);
 	const int ShownRows = Tile.isValid() ? 3 : NumRows;
 	const int Wanted = NumItems > 0 && NumItems <= ItemsView::MostRowsWanted && !Tile.isValid() ? Canvas->layout()->sizeHint().height() : 0;
@@ -159,6 +178,10 @@ QSize FItemsArea::sizeHint() const
 
 QSize FItemsArea::minimumSizeHint() const
 {
+	if (IsNothing())
+	{
+		return QSize(60, 0);
+	}
 	const int NumRows = std::clamp(NumItems, 1, ItemsView::FewestRows);
 	return QSize(60, NumRows * GetRowHeight());
 }
@@ -180,7 +203,7 @@ void FItemsArea::scrollContentsBy(int, int)
 
 void FItemsArea::paintEvent(QPaintEvent*)
 {
-	if (NumItems == 0 && bEmptyMatters)
+	if (NumItems == 0 && !IsNothing())
 	{
 		QPainter Painter(viewport());
 		Painter.setPen(palette().color(QPalette::PlaceholderText));
@@ -217,6 +240,7 @@ FItemsView::FItemsView(IViewHost& InHost, QWidget& Parent)
 	, Layout(new FSlateLayout(Qt::Vertical, &GetArea().GetCanvas()))
 	, Rows(InHost, GetArea().GetCanvas(), *Layout)
 {
+	GetArea().SetWithinRow(ItemsView::IsWithinRow(Parent));
 	GetArea().OnScrolled = [this] { Host.RequestFrame(); };
 	GetArea().OnMoved = [this](int Step) { MoveSelection(Step); };
 }

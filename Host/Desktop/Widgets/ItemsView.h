@@ -21,6 +21,7 @@ public:
 
 	/** @param Tile the size of each; invalid for a list */
 	void SetItems(int InNumItems, QSize InTile);
+	int GetNumItems() const { return NumItems; }
 	/** Of one row, or of a row of tiles. Never 0. */
 	int GetRowHeight() const;
 	int GetColumns() const;
@@ -33,7 +34,9 @@ public:
 
 	std::function<void()> OnScrolled;
 	std::function<void(int Step)> OnMoved; // by the keyboard, from the row that is selected
-	bool bEmptyMatters = true; // says that there is nothing
+
+	/** Within a row of another list, which says what there is: an empty one takes no room then. */
+	void SetWithinRow(bool bInWithinRow) { bWithinRow = bInWithinRow; }
 
 	//~ Begin QWidget
 	virtual QSize sizeHint() const override;
@@ -48,11 +51,13 @@ protected:
 
 private:
 	void FitBar();
+	bool IsNothing() const { return bWithinRow && NumItems == 0; }
 
 	QWidget* Canvas;
 	QSize Tile;
 	int NumItems = 0;
 	int MeasuredHeight = 0;
+	bool bWithinRow = false;
 };
 
 /** A list or tiles. */

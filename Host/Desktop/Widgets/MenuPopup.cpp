@@ -73,10 +73,16 @@ namespace MenuPopup
 		Target.addAction(Action);
 	}
 
+	/** The section around it has said it. */
+	bool IsHeading(const FHostWidgetDescription& Description)
+	{
+		return Description.bTransparent && Description.bSealed;
+	}
+
 	void Add(QMenu& Target, const TSharedRef<SWidget>& Widget, IViewHost& Host)
 	{
 		FSeenWidget Seen(Widget);
-		if (!Seen.GetDescription().bVisible)
+		if (!Seen.GetDescription().bVisible || IsHeading(Seen.GetDescription()))
 		{
 			return;
 		}

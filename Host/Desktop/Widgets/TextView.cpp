@@ -24,7 +24,7 @@ namespace TextView
 	QColor ColorOf(const FSlateColor& Color)
 	{
 		const bool bOwn = !Color.IsColorSpecified() || Color.GetSpecifiedColor() == FLinearColor::White;
-		return bOwn ? QColor() : Theme::ToQt(Color.GetSpecifiedColor());
+		return bOwn ? QColor() : Theme::MakeReadable(Theme::ToQt(Color.GetSpecifiedColor()));
 	}
 
 	static const int LeastCharacters = 3; // that show before the ellipsis

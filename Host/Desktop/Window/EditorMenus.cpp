@@ -7,8 +7,8 @@
 #include "HostPackages.h"
 #include "QtText.h"
 #include "Session/DesktopEditor.h"
-#include "UnrealEdMisc.h"
 #include "Window/CommandPalette.h"
+#include "Window/SaveSteps.h"
 #include "Window/WindowServices.h"
 
 namespace EditorMenus
@@ -88,6 +88,9 @@ void FEditorMenus::MakeWindowMenu()
 	WindowMenu = Window.menuBar()->addMenu(tr("&Window"));
 	PanelsMenu = WindowMenu->addMenu(tr("&Panels"));
 	connect(PanelsMenu, &QMenu::aboutToShow, this, [this] { FillPanels(); });
+	QAction* const Notification = WindowMenu->addAction(tr("Go to the &notification"), this, [this] { Services.GoToNotification(); });
+	Notification->setShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+N")));
+	Notification->setObjectName(QStringLiteral("GoToNotification"));
 	WindowMenu->addSeparator();
 }
 
@@ -126,30 +129,36 @@ void FEditorMenus::OpenPanel(const QString& AssetPath)
 	});
 	if (!Reason.IsEmpty())
 	{
-		Window.statusBar()->showMessage(QtText::From(Reason), 8000);
+		Services.Tell(QtText::From(Reason));
 	}
 	Services.RequestFrame();
 }
 
 void FEditorMenus::SaveAll()
 {
-	FScriptSession::FSaved Saved;
-	FScriptSession& Session = Services.GetEditor().GetSession();
-	Services.GetEditor().Do([&Session, &Saved] { Saved = Session.Save(Session.GetUnsaved()); });
-	Services.RequestFrame();
-	if (!Saved.Homeless.IsEmpty())
+	if (!Services.GetEditor().IsReady())
 	{
-		Window.statusBar()->showMessage(tr("Not saved, because it has no file yet: %1").arg(QtText::From(FString::Join(Saved.Homeless, TEXT(", ")))), 8000);
+		return;
 	}
-	else if (Saved.Failed.IsEmpty())
+	const SaveSteps::FResult Result = SaveSteps::Save(Services.GetEditor(), Window, Services.GetEditor().GetSession().GetUnsaved());
+	Services.RequestFrame();
+	if (!Result.Reasons.isEmpty())
 	{
-		Window.statusBar()->showMessage(Saved.Saved.IsEmpty() ? tr("There is nothing to save") : tr("Saved: %1").arg(QtText::From(FString::Join(Saved.Saved, TEXT(", ")))), 5000);
+		Services.Tell(tr("Not saved: %1").arg(Result.Reasons));
+	}
+	else if (Result.NumLeft > 0)
+	{
+		Services.Tell(tr("Cancelled: %1 saved, %2 are still unsaved").arg(Result.Saved.Saved.Num()).arg(Result.NumLeft));
+	}
+	else
+	{
+		Services.Tell(Result.Saved.Saved.IsEmpty() ? tr("There is nothing to save") : tr("Saved: %1").arg(QtText::From(FString::Join(Result.Saved.Saved, TEXT(", ")))));
 	}
 }
 
 void FEditorMenus::Restart()
 {
-	Services.GetEditor().Do([] { FUnrealEdMisc::Get().RestartEditor(false); });
+	Services.Restart(tr("Restart without saving"));
 }
 
 void FEditorMenus::Refresh()

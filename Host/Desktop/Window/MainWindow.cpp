@@ -3,15 +3,21 @@
 #include "Window/MainWindow.h"
 
 #include "Docks/DetailsDock.h"
+#include "HostContentBrowser.h"
 #include "HostPaths.h"
 #include "QtText.h"
+#include "UObject/UObjectIterator.h"
+#include "UnrealEdMisc.h"
+#include "VlmImage.h"
 #include "Widgets/WidgetRoot.h"
 #include "Window/DockView.h"
 #include "Window/DockViews.h"
 #include "Window/EditorMenus.h"
+#include "Window/NoticeBar.h"
 #include "Window/QuestionDialog.h"
 #include "Window/SaveAssetDialog.h"
 #include "Window/StatusLine.h"
+#include "Window/UnsavedQuestion.h"
 
 #include <algorithm>
 #include <map>
@@ -21,10 +27,35 @@ namespace MainWindow
 {
 	static const int FrameMilliseconds = 16;
 	static const int ToolbarMilliseconds = 500; // between two looks at what plugins added to it
-	static const int ArrangementVersion = 1;
+	static const int OutsideMilliseconds = 2000; // between two looks at files that others may change
+	static const int TellingMilliseconds = 8000;
+	static const int ArrangementVersion = 2; // another one forgets how the docks were arranged
 	static const QSize FirstSize(1440, 900);
-	static const int SideWidth = 420;
+	static const int SideWidth = 430;
 	static const int BottomHeight = 300;
+
+	/** Pictures that the service sent, such as that of the developer, are in the toolkit's images alone. */
+	QByteArray FindPictureFile(const QString& Name)
+	{
+		const FName Wanted(*QtText::ToEditor(Name));
+		for (TObjectIterator<UVlmImage> It; It; ++It)
+		{
+			if (It->GetBrush().GetResourceName() == Wanted && !It->GetPictureFile().IsEmpty())
+			{
+				return QByteArray(reinterpret_cast<const char*>(It->GetPictureFile().GetData()), It->GetPictureFile().Num());
+			}
+		}
+		return QByteArray();
+	}
+
+	/** Takes the width that the tools at the sides leave, so that they keep theirs, and no height: the docks above and below share it. */
+	QWidget* MakeMiddle()
+	{
+		QWidget* const Middle = new QWidget;
+		Middle->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+		Middle->setFixedHeight(0);
+		return Middle;
+	}
 
 	std::unique_ptr<FQuestionDialog> MakeDialog(const FHostQuestion& Question, QWidget* Parent)
 	{
@@ -39,12 +70,14 @@ namespace MainWindow
 FMainWindow::FMainWindow(FDesktopEditor& InEditor)
 	: Editor(InEditor)
 	, Panels(*this, *this)
+	, Tabs(*this)
 	, Toasts(*this, *this)
 	, Status(new FStatusLine(*this, this))
 	, Menus(new FEditorMenus(*this, *this))
+	, Notice(new FNoticeBar(this))
 {
 	setObjectName(QStringLiteral("Editor"));
-	setDockOptions(AnimatedDocks | AllowNestedDocks | AllowTabbedDocks | GroupedDragging);
+	setDockOptions(AllowNestedDocks | AllowTabbedDocks | GroupedDragging);
 	setTabPosition(Qt::AllDockWidgetAreas, QTabWidget::North);
 	setDocumentMode(true);
 	setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
@@ -52,8 +85,10 @@ FMainWindow::FMainWindow(FDesktopEditor& InEditor)
 	setCorner(Qt::TopLeftCorner, Qt::LeftDockWidgetArea);
 	setCorner(Qt::TopRightCorner, Qt::RightDockWidgetArea);
 	setStatusBar(Status);
+	setCentralWidget(MainWindow::MakeMiddle());
 	MakeToolbar();
 	MakeDocks();
+	Brushes.SetSource(&MainWindow::FindPictureFile);
 	Editor.GetSession().SetPerson([this](const FHostQuestion& Question) { return Ask(Question); });
 	Editor.OnGoingDown = [this] { LetGo(); };
 	Editor.OnRestarted = [this](const TArray<FString>& Lost) { TellLost(Lost); };
@@ -89,6 +124,9 @@ void FMainWindow::MakeToolbar()
 	Bar->setMovable(false);
 	Bar->addWidget(new FWidgetRoot(
 		*this, [this] { return FindToolbar(); }, Bar));
+	addToolBarBreak();
+	addToolBar(Notice);
+	Notice->hide();
 }
 
 TSharedPtr<SWidget> FMainWindow::FindToolbar()
@@ -175,6 +213,10 @@ void FMainWindow::Frame()
 {
 	Editor.Frame();
 	Refresh();
+	if (!SinceOutside.isValid() || SinceOutside.elapsed() > MainWindow::OutsideMilliseconds)
+	{
+		LookOutside();
+	}
 }
 
 void FMainWindow::Refresh()
@@ -211,6 +253,8 @@ void FMainWindow::RefreshAll()
 	bRefreshing = true;
 	Editor.Do([this] {
 		Panels.Refresh();
+		Tabs.Refresh();
+		ShowWhatWasMade();
 		const std::vector<FWidgetRoot*> All = Roots; // a copy: views come with roots of their own
 		for (FWidgetRoot* const Root : All)
 		{
@@ -233,13 +277,79 @@ void FMainWindow::RefreshAll()
 	bRefreshing = false;
 }
 
+/** The editor showed an asset in the content browser, which somebody may have closed or put behind another tab. */
+void FMainWindow::ShowWhatWasMade()
+{
+	const int32 NumNow = HostContentBrowser::GetSyncHistory().Num();
+	if (NumNow > NumShown)
+	{
+		ShowDock(QStringLiteral("ContentBrowser"));
+	}
+	NumShown = NumNow;
+}
+
+void FMainWindow::SetPlaying(int InLeastRows)
+{
+	LeastRows = InLeastRows;
+	Toasts.SetFading(false);
+}
+
 FHostInputResult FMainWindow::Give(const TSharedRef<SWidget>& Widget, const FHostInput& Input)
 {
 	FHostInputResult Result;
 	const TSharedRef<SWidget> Held = Widget;
 	Editor.Do([&Result, &Held, &Input] { Result = FHostWidgetAccess::Give(Held, Input); });
 	RequestFrame();
+	const bool bAct = Input.Kind == EHostInput::Click || Input.Kind == EHostInput::Check || Input.Kind == EHostInput::Pick;
+	if (bAct && !Result.bDone && !Result.Reason.IsEmpty())
+	{
+		const FHostWidgetDescription Description = FHostWidgetAccess::Describe(*Held);
+		Tell(tr("Not done: %1 %2").arg(QtText::From(Description.Label.IsEmpty() ? Description.Role : Description.Label), QtText::From(Result.Reason)));
+	}
 	return Result;
+}
+
+void FMainWindow::Tell(const QString& Text)
+{
+	Status->showMessage(Text, MainWindow::TellingMilliseconds);
+}
+
+void FMainWindow::GoToNotification()
+{
+	if (!Toasts.FocusNewest())
+	{
+		Tell(tr("There is no notification to answer"));
+	}
+}
+
+void FMainWindow::Restart(const QString& Without)
+{
+	if (UnsavedQuestion::MayGoOn(Editor, *this, Without))
+	{
+		bLossAgreed = true;
+		Editor.Do([] { FUnrealEdMisc::Get().RestartEditor(false); });
+	}
+}
+
+void FMainWindow::LookOutside()
+{
+	SinceOutside.start();
+	bool bNews = false;
+	if (Editor.IsReady())
+	{
+		Editor.Do([this, &bNews] { bNews = Outside.Look(); });
+	}
+	if (!bNews)
+	{
+		return;
+	}
+	QStringList Names;
+	for (const QString& File : Outside.GetChanged())
+	{
+		Names.append(QDir(QtText::From(HostPaths::GetProjectDir())).relativeFilePath(File));
+	}
+	const QString Text = Names.size() == 1 ? tr("%1 was changed outside the editor.").arg(Names[0]) : tr("%1 files were changed outside the editor.").arg(Names.size());
+	Notice->Show(Text, Names.join(QLatin1Char('\n')), tr("Read again"), [this] { Restart(tr("Read again without saving")); });
 }
 
 void FMainWindow::RequestFrame()
@@ -296,7 +406,7 @@ TOptional<FHostAnswer> FMainWindow::Ask(const FHostQuestion& Question)
 
 void FMainWindow::closeEvent(QCloseEvent* Event)
 {
-	if (!MayClose())
+	if (!UnsavedQuestion::MayGoOn(Editor, *this, tr("Close without saving")))
 	{
 		Event->ignore();
 		return;
@@ -305,30 +415,6 @@ void FMainWindow::closeEvent(QCloseEvent* Event)
 	Timer.stop();
 	QMainWindow::closeEvent(Event);
 	QApplication::quit();
-}
-
-bool FMainWindow::MayClose()
-{
-	const TArray<FString> Unsaved = Editor.IsReady() ? Editor.GetSession().GetUnsaved() : TArray<FString>();
-	if (Unsaved.IsEmpty())
-	{
-		return true;
-	}
-	const FDesktopEditor::FStandstill Standstill(Editor);
-	QMessageBox Box(QMessageBox::Warning, tr("Unsaved changes"), tr("These have unsaved changes:\n\n%1").arg(QtText::From(FString::Join(Unsaved, TEXT("\n")))), QMessageBox::NoButton, this);
-	QPushButton* const SaveAll = Box.addButton(tr("Save all"), QMessageBox::AcceptRole);
-	QPushButton* const Discard = Box.addButton(tr("Close without saving"), QMessageBox::DestructiveRole);
-	Box.addButton(QMessageBox::Cancel);
-	Box.setDefaultButton(SaveAll);
-	Box.setObjectName(QStringLiteral("Unsaved"));
-	Box.exec();
-	if (Box.clickedButton() == SaveAll)
-	{
-		FScriptSession::FSaved Saved;
-		Editor.Do([this, &Saved, &Unsaved] { Saved = Editor.GetSession().Save(Unsaved); });
-		return Saved.Failed.IsEmpty() && Saved.Homeless.IsEmpty();
-	}
-	return Box.clickedButton() == Discard;
 }
 
 void FMainWindow::resizeEvent(QResizeEvent* Event)
@@ -351,6 +437,9 @@ void FMainWindow::showEvent(QShowEvent* Event)
 void FMainWindow::LetGo()
 {
 	Toolbar.Reset();
+	Outside.Forget();
+	Notice->hide();
+	NumShown = 0;
 	Panels.LetGo();
 	Toasts.LetGo();
 	for (const FFixedDock& Each : Docks)
@@ -361,7 +450,7 @@ void FMainWindow::LetGo()
 
 void FMainWindow::TellLost(const TArray<FString>& Lost)
 {
-	if (!Lost.IsEmpty())
+	if (!std::exchange(bLossAgreed, false) && !Lost.IsEmpty())
 	{
 		const FDesktopEditor::FStandstill Standstill(Editor);
 		QMessageBox::warning(this, tr("The editor has restarted"), tr("These had changes that were not saved, and are now as they are on disk:\n\n%1").arg(QtText::From(FString::Join(Lost, TEXT("\n")))));
@@ -386,6 +475,7 @@ void FMainWindow::RestoreArrangement()
 	const QSettings Settings(GetSettingsFile(), QSettings::IniFormat);
 	restoreGeometry(Settings.value(QStringLiteral("Window/Geometry")).toByteArray());
 	bArranged = restoreState(Settings.value(QStringLiteral("Window/Arrangement")).toByteArray(), MainWindow::ArrangementVersion);
+	Notice->hide();
 }
 
 void FMainWindow::KeepArrangement() const

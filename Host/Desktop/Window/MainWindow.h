@@ -6,6 +6,8 @@
 
 #include "Look/Brushes.h"
 #include "Session/DesktopEditor.h"
+#include "Session/OutsideChanges.h"
+#include "Window/DockTabs.h"
 #include "Window/PanelDocks.h"
 #include "Window/Toasts.h"
 #include "Window/WindowServices.h"
@@ -14,6 +16,7 @@
 
 class FDockView;
 class FEditorMenus;
+class FNoticeBar;
 class FStatusLine;
 
 /** The editor's window: menus, the toolbar, docks, notifications and the status line, brought up to date once a frame. */
@@ -33,8 +36,11 @@ public:
 	/** Lets so much time pass, whatever the clock says, and shows what came of it. */
 	void Let(double Seconds);
 
-	/** See IViewHost::GetLeastRows(). */
-	void SetLeastRows(int InLeastRows) { LeastRows = InLeastRows; }
+	/** A script plays: lists have at least the rows that they have without a window, and nothing fades, since nobody waits for it. */
+	void SetPlaying(int InLeastRows);
+
+	/** See FPanelDocks::FindContent(). */
+	QWidget* FindPanelContent(const FString& Name) { return Panels.FindContent(Name); }
 
 	/** Shows what to try first, unless that was closed once. */
 	void Welcome();
@@ -53,6 +59,10 @@ public:
 	virtual FDesktopEditor& GetEditor() override { return Editor; }
 	virtual void ShowDock(const QString& Name) override;
 	virtual void Inspect(const TArray<UObject*>& Objects) override;
+	virtual void Tell(const QString& Text) override;
+	virtual void GoToNotification() override;
+	virtual void Restart(const QString& Without) override;
+	virtual void LookOutside() override;
 	//~ End IWindowServices
 
 protected:
@@ -75,7 +85,7 @@ private:
 	void RefreshAll();
 	TSharedPtr<SWidget> FindToolbar();
 	TOptional<FHostAnswer> Ask(const FHostQuestion& Question);
-	bool MayClose();
+	void ShowWhatWasMade();
 	void LetGo();
 	void TellLost(const TArray<FString>& Lost);
 	void TellBroken(const FString& Reason);
@@ -88,14 +98,20 @@ private:
 	std::vector<FWidgetRoot*> Roots;
 	std::vector<FFixedDock> Docks;
 	FPanelDocks Panels;
+	FDockTabs Tabs;
 	FToasts Toasts;
 	FStatusLine* Status;
 	FEditorMenus* Menus;
+	FNoticeBar* Notice;
+	FOutsideChanges Outside;
+	QElapsedTimer SinceOutside;
 	QTimer Timer;
 	QElapsedTimer SinceToolbar;
 	TSharedPtr<SWidget> Toolbar; // as it was made last; let go of with the editor
 	int LeastRows = 0;
+	int32 NumShown = 0; // calls that showed assets in the content browser
 	bool bArranged = false; // as somebody left it, or once at first
+	bool bLossAgreed = false; // somebody was asked about what the restart will lose
 	bool bFrameRequested = false;
 	bool bRefreshing = false;
 };

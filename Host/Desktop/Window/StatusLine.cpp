@@ -45,7 +45,7 @@ void FStatusLine::Refresh()
 	const UVelmorantProjectRequestManager* Requests = Signed != nullptr ? Signed->GetProjectRequestManager() : nullptr;
 	const QString Name = Requests != nullptr ? QtText::From(Requests->GetSelectedProjectName()) : QString();
 	Chosen->setText(Name.isEmpty() ? tr("No project selected") : tr("Project: %1").arg(Name));
-	const TArray<FString> Names = Services.GetEditor().GetSession().GetUnsaved();
+	const TArray<FString> Names = Services.GetEditor().GetUnsaved();
 	Unsaved->setText(Names.IsEmpty() ? tr("All saved") : tr("%1 unsaved").arg(Names.Num()));
 	Unsaved->setToolTip(Names.IsEmpty() ? tr("Nothing has changes that are not saved") : QtText::From(FString::Join(Names, TEXT("\n"))));
 }

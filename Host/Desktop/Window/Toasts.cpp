@@ -103,7 +103,7 @@ public:
 		ShowImage();
 	}
 
-	void Refresh()
+	void Refresh(bool bFading)
 	{
 		Title->setText(QtText::From(Record->Text));
 		SubText->setText(QtText::From(Record->SubText));
@@ -115,8 +115,9 @@ public:
 		setAccessibleName(Title->text());
 		setAccessibleDescription(SubText->text());
 		FitButtons();
-		Opacity->setOpacity(GetShare());
-		Opacity->setEnabled(GetShare() < 1.0);
+		const double Share = bFading ? GetShare() : 1.0;
+		Opacity->setOpacity(Share);
+		Opacity->setEnabled(Share < 1.0);
 		const int Wide = Record->Width.IsSet() ? static_cast<int>(std::lround(Record->Width.GetValue())) : Toasts::Width;
 		setFixedWidth(Wide);
 		const int High = layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(Wide) : layout()->totalSizeHint().height();
@@ -166,7 +167,12 @@ private:
 			Button->setToolTip(Known != nullptr ? QtText::From(Known->ToolTip) : QString());
 			connect(Button, &QPushButton::clicked, this, [this, Label] {
 				const HostNotifications::FRecord Held = Record;
-				Services.GetEditor().Do([&Held, &Label] { HostNotifications::PressButton(*Held, Label); });
+				FHostInputResult Result;
+				Services.GetEditor().Do([&Held, &Label, &Result] { Result = HostNotifications::PressButton(*Held, Label); });
+				if (!Result.bDone)
+				{
+					Services.Tell(tr("Not done: %1 %2").arg(QtText::From(Label), QtText::From(Result.Reason)));
+				}
 				Services.RequestFrame();
 			});
 			Buttons->addWidget(Button);
@@ -217,7 +223,7 @@ void FToasts::Refresh()
 		FToast* const Toast = Known != Shown.end() ? Known->second : new FToast(Services, Record, &Window);
 		Shown.erase(Record->Id);
 		Standing[Record->Id] = Toast;
-		Toast->Refresh();
+		Toast->Refresh(bFading);
 		if (Toast->isHidden())
 		{
 			Toast->show();
@@ -236,6 +242,22 @@ void FToasts::LetGo()
 		Each.second->deleteLater();
 	}
 	Shown.clear();
+}
+
+bool FToasts::FocusNewest()
+{
+	for (auto Each = Shown.rbegin(); Each != Shown.rend(); ++Each)
+	{
+		for (QPushButton* const Button : Each->second->findChildren<QPushButton*>())
+		{
+			if (Button->isVisible())
+			{
+				Button->setFocus(Qt::ShortcutFocusReason);
+				return true;
+			}
+		}
+	}
+	return false;
 }
 
 void FToasts::Stack()

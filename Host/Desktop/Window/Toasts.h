@@ -23,10 +23,17 @@ public:
 	/** The editor goes down. */
 	void LetGo();
 
+	/** Gives the newest one's button the keyboard. @return false when none has a button */
+	bool FocusNewest();
+
+	/** Whether notifications come and go by and by. */
+	void SetFading(bool bInFading) { bFading = bInFading; }
+
 private:
 	void Stack();
 
 	IWindowServices& Services;
 	QWidget& Window;
 	std::map<int, FToast*> Shown; // by notification
+	bool bFading = true;
 };

@@ -6,11 +6,11 @@
 #include "HostAssetTools.h"
 #include "HostPackages.h"
 #include "HostStyles.h"
+#include "Look/Icons.h"
 #include "Look/Theme.h"
 #include "QtText.h"
 #include "UObject/Class.h"
 #include "UObject/Package.h"
-#include "UObject/UObjectIterator.h"
 
 #include <algorithm>
 
@@ -21,23 +21,18 @@ namespace ContentCatalog
 		return (Seed ^ Value) * 0x9e3779b97f4a7c15ull + (Seed >> 29);
 	}
 
-	/** Another number when an asset came, went, was changed, saved or renamed. Looks at packages in memory only: it is asked once a frame. */
+	/**
+	 * Another number when an asset came, went, was changed, saved or renamed. It is asked once a frame: what has a file changes with the
+	 * files, and what has none is unsaved.
+	 */
 	uint64 Fingerprint(const TArray<FString>& Unsaved)
 	{
-		const TArray<FString> Roots = HostPackages::GetMountedRoots();
 		uint64 Result = HostPackages::GetStorageVersion();
-		for (TObjectIterator<UPackage> It; It; ++It)
-		{
-			const FString Name = It->GetName();
-			if (Roots.ContainsByPredicate([&Name](const FString& Root) { return Name.StartsWith(Root); }))
-			{
-				const UObject* const Asset = HostPackages::FindMainAsset(*It);
-				Result = Mix(Mix(Result, GetTypeHash(It->GetFName())), Asset != nullptr ? Asset->GetUniqueID() + 1ull : 0ull);
-			}
-		}
 		for (const FString& Name : Unsaved)
 		{
-			Result = Mix(Result, GetTypeHash(Name));
+			const UPackage* const Package = FindPackage(nullptr, *Name);
+			const UObject* const Asset = Package != nullptr ? HostPackages::FindMainAsset(Package) : nullptr;
+			Result = Mix(Mix(Result, GetTypeHash(Name)), Asset != nullptr ? Asset->GetUniqueID() + 1ull : 0ull);
 		}
 		return Result;
 	}
@@ -50,6 +45,14 @@ namespace ContentCatalog
 			if (const FSlateBrush* const Brush = HostStyles::FindBrush(FName(*(TEXT("ClassThumbnail.") + Class->GetName()))))
 			{
 				return *Brush;
+			}
+			// The engine's own classes are drawn by the window: no plugin has pictures of them.
+			const QString Own = QStringLiteral("Class.") + QtText::From(Class->GetName());
+			if (!Icons::FindFile(Own).isEmpty())
+			{
+				FSlateBrush Brush;
+				Brush.SetResourceName(FName(*QtText::ToEditor(Own)));
+				return Brush;
 			}
 		}
 		return FSlateBrush();

@@ -4,13 +4,20 @@
 
 #include "Editor.h"
 #include "HostEditor.h"
+#include "HostFiles.h"
 #include "HostPackages.h"
+#include "HostPaths.h"
 #include "HostQuestions.h"
+#include "Misc/Paths.h"
 #include "UObject/Class.h"
 #include "UObject/Package.h"
 #include "UObject/UnrealType.h"
 #include "UObject/UObjectGlobals.h"
 #include "UObject/UObjectHash.h"
+
+#include <cctype>
+#include <sstream>
+#include <string_view>
 
 #define LOCTEXT_NAMESPACE "ObjectTools"
 
@@ -74,6 +81,44 @@ namespace ObjectTools
 		return Referencers;
 	}
 
+	/** Whether the line names the package, and not one whose name begins like it. */
+	bool Mentions(std::string_view Line, std::string_view Package)
+	{
+		for (size_t At = Line.find(Package); At != std::string_view::npos; At = Line.find(Package, At + 1))
+		{
+			const size_t End = At + Package.size();
+			const bool bGoesOn = End < Line.size() && (std::isalnum(static_cast<unsigned char>(Line[End])) || Line[End] == '_' || Line[End] == '/');
+			if (!bGoesOn)
+			{
+				return true;
+			}
+		}
+		return false;
+	}
+
+	/** Lines of the project's settings that name one of the packages: "Config/DefaultGame.ini, line 3". Nobody changes those by itself. */
+	TArray<FString> FindSettings(const TArray<FString>& Packages)
+	{
+		TArray<FString> Places;
+		const FString Folder = FPaths::Combine(HostPaths::GetProjectDir(), TEXT("Config"));
+		for (const FString& File : HostFiles::FindFilesIn(Folder, TEXT(".ini")))
+		{
+			std::string Bytes;
+			HostFiles::Read(File, Bytes);
+			std::istringstream Lines(Bytes);
+			int32 Number = 0;
+			for (std::string Line; std::getline(Lines, Line);)
+			{
+				++Number;
+				if (Packages.ContainsByPredicate([&Line](const FString& Package) { return Mentions(Line, TCHAR_TO_UTF8(*Package)); }))
+				{
+					Places.Add(FString::Printf(TEXT("Config/%s, line %d"), *FPaths::GetCleanFilename(File), Number));
+				}
+			}
+		}
+		return Places;
+	}
+
 	bool Confirm(const TArray<FString>& Packages, const TArray<FString>& Referencers)
 	{
 		FHostQuestion Question;
@@ -115,7 +160,9 @@ int32 ObjectTools::DeleteAssets(const TArray<FAssetData>& AssetsToDelete, bool b
 {
 	const TArray<FString> Packages = ChoosePackages(AssetsToDelete);
 	const TArray<FString> Referencers = FindReferencers(Packages);
-	if (Packages.IsEmpty() || (bShowConfirmation && !Confirm(Packages, Referencers)))
+	TArray<FString> Users = Referencers;
+	Users.Append(FindSettings(Packages));
+	if (Packages.IsEmpty() || (bShowConfirmation && !Confirm(Packages, Users)))
 	{
 		return 0;
 	}

@@ -3,6 +3,7 @@
 #include "Rows/DetailsSections.h"
 
 #include "HostParts.h"
+#include "HostWidgetLook.h"
 #include "PropertyEditorRegistrations.h"
 #include "Rows/DetailsCategories.h"
 #include "Values/PropertyNode.h"
@@ -12,6 +13,21 @@
 
 namespace DetailsSections
 {
+	/** Buttons side by side. */
+	class SButtonRow : public SHostPartList
+	{
+	public:
+		SLATE_BEGIN_ARGS(SButtonRow)
+			{
+			}
+		SLATE_END_ARGS()
+
+		void Construct(const FArguments&) {}
+
+	protected:
+		virtual void DescribeLookToHost(FHostWidgetLook& OutLook) const override { OutLook.Arrangement = EHostArrangement::Row; }
+	};
+
 	/** By the category's whole name, or by that of the category around it. */
 	bool HasCategory(const FPropertySection& Section, const FString& Category)
 	{
@@ -23,7 +39,7 @@ namespace DetailsSections
 
 FDetailsSections::FDetailsSections(TFunction<void(FName)> InOnPicked)
 	: OnPicked(MoveTemp(InOnPicked))
-	, Buttons(SNew(SHostPartList))
+	, Buttons(SNew(DetailsSections::SButtonRow))
 {
 }
 
