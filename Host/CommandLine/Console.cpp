@@ -3,7 +3,9 @@
 #include "Console.h"
 
 #include "Containers/StringConv.h"
+#include "HostFiles.h"
 #include "HostProblems.h"
+#include "TerminalText.h"
 
 #include <cerrno>
 #include <csignal>
@@ -11,6 +13,7 @@
 #include <cstring>
 #include <fcntl.h>
 #include <string>
+#include <string_view>
 #include <unistd.h>
 
 namespace Console
@@ -30,9 +33,27 @@ namespace Console
 		}
 	}
 
+	/** Leaves nothing half written, says why nothing more comes, and ends as the signal would have. Only what a handler may do. */
+	void EndBySignal(int Signal)
+	{
+		HostFiles::RemoveUnfinished();
+		constexpr std::string_view Message = "velmorant: ended by a signal; files that were written are whole\n";
+		(void)!write(STDERR_FILENO, Message.data(), Message.size());
+		std::signal(Signal, SIG_DFL);
+		raise(Signal);
+	}
+
 	void Prepare()
 	{
 		std::signal(SIGPIPE, SIG_IGN); // a write to a pipe that nobody reads fails instead
+		std::signal(SIGXFSZ, SIG_IGN); // so does one beyond the largest file that is allowed
+		for (const int Signal : {SIGTERM, SIGINT, SIGHUP})
+		{
+			if (std::signal(Signal, &EndBySignal) == SIG_IGN)
+			{
+				std::signal(Signal, SIG_IGN); // as with nohup
+			}
+		}
 		for (int Output = STDIN_FILENO; Output <= STDERR_FILENO; ++Output)
 		{
 			// Else a file that is opened later would get the number of an output that is closed, and what is printed with it.
@@ -65,13 +86,39 @@ namespace Console
 
 	void PrintUtf8(std::string_view Line)
 	{
-		NoteLoss(Write(stdout, Line));
+		PrintExact(TerminalText::Escape(Line));
+	}
+
+	void PrintLines(const FString& Text)
+	{
+		PrintExact(TerminalText::Escape(TCHAR_TO_UTF8(*Text), TerminalText::ELineFeeds::Keep));
+	}
+
+	void PrintExact(std::string_view Text)
+	{
+		NoteLoss(Write(stdout, Text));
+	}
+
+	void PrintDifference(std::string_view Text)
+	{
+		const bool bShown = isatty(STDOUT_FILENO) != 0;
+		PrintExact(bShown ? TerminalText::Escape(Text, TerminalText::ELineFeeds::Keep) : std::string(Text));
+	}
+
+	void PrintError(const FString& Line, TerminalText::ELineFeeds LineFeeds)
+	{
+		Flush(); // both may go to the same file
+		Write(stderr, TerminalText::Escape(TCHAR_TO_UTF8(*Line), LineFeeds));
 	}
 
 	void PrintError(const FString& Line)
 	{
-		Flush(); // both may go to the same file
-		Write(stderr, TCHAR_TO_UTF8(*Line));
+		PrintError(Line, TerminalText::ELineFeeds::Escape);
+	}
+
+	void PrintErrorLines(const FString& Text)
+	{
+		PrintError(Text, TerminalText::ELineFeeds::Keep);
 	}
 
 	void PrintProblems(const TArray<FHostProblem>& Problems)

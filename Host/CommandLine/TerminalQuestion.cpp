@@ -2,6 +2,8 @@
 
 #include "TerminalQuestion.h"
 
+#include "TerminalText.h"
+
 #include <cerrno>
 #include <csignal>
 #include <fcntl.h>
@@ -90,7 +92,7 @@ namespace TerminalQuestion
 		{
 			{
 				const FSilence Silence(Terminal);
-				Show(Terminal, Prompt);
+				Show(Terminal, TerminalText::Escape(Prompt));
 				bRead = ReadLine(Terminal, OutLine);
 				Show(Terminal, "\n"); // the one that was typed did not show
 			}

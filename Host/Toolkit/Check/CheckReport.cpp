@@ -155,7 +155,7 @@ namespace CheckReport
 		PrintFiles(TEXT("Written"), Report.WrittenFiles, Changes);
 		if (Changes == EChanges::Difference && !Report.Difference.empty())
 		{
-			Console::PrintUtf8(std::string_view(Report.Difference).substr(0, Report.Difference.size() - 1)); // less its last line end
+			Console::PrintDifference(std::string_view(Report.Difference).substr(0, Report.Difference.size() - 1)); // less its last line end
 		}
 		for (const FSpoiler& Spoiler : Report.SpoiledBy)
 		{
@@ -186,6 +186,6 @@ namespace CheckReport
 			{"linesToAdd", JsonText::Make(Report.LinesToAdd)},
 			{"reason", JsonText::Make(Report.Reason)},
 		};
-		Console::PrintUtf8(JsonText::Print(Json, 2));
+		Console::PrintExact(JsonText::Print(Json, 2));
 	}
 }
