@@ -12,6 +12,9 @@
 #include "Install/ModuleInstall.h"
 #include "Refusal.h"
 
+#include <optional>
+#include <string_view>
+
 namespace InstallCommand
 {
 	void PrintList(const TCHAR* Heading, const TArray<FString>& Lines)
@@ -32,9 +35,9 @@ namespace InstallCommand
 		{
 			const std::string Name(TCHAR_TO_UTF8(*File.Path));
 			const bool bText = !File.Text.empty();
-			const std::string& Old = bText ? File.OldText : File.OldBytes;
-			const std::string Difference = UnifiedDifference::Make(Name, File.bExists ? &Old : nullptr, bText ? &File.Text : &File.Bytes);
-			Console::PrintUtf8(std::string_view(Difference).substr(0, Difference.size() - 1)); // less its last line end
+			const std::string_view Old = bText ? File.OldText : File.OldBytes;
+			const std::string Difference = UnifiedDifference::Make(Name, File.bExists ? std::optional(Old) : std::nullopt, bText ? File.Text : File.Bytes);
+			Console::PrintDifference(std::string_view(Difference).substr(0, Difference.size() - 1)); // less its last line end
 		}
 	}
 

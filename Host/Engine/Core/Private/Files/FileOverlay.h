@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "HostFiles.h"
+
 #include <map>
 #include <set>
 #include <string>
@@ -14,7 +16,8 @@ public:
 	struct FEntry
 	{
 		bool bDeleted = false;
-		std::string Bytes;
+		HostFiles::FSharedBytes Bytes; // empty when deleted
+		HostFiles::FSharedBytes Basis; // as of HostFiles::FPendingWrite
 	};
 
 	using FEntries = std::map<std::string, FEntry, std::less<>>;
@@ -25,7 +28,8 @@ public:
 	/** Whether a folder stands at Path because something was created in it or it was created itself. */
 	bool HasDirectory(const std::string& Path) const;
 
-	void Write(const std::string& Path, std::string_view Bytes);
+	/** @param Basis counts with the first write of a file */
+	void Write(const std::string& Path, HostFiles::FSharedBytes Bytes, HostFiles::FSharedBytes Basis);
 	void Delete(const std::string& Path);
 	void MakeDirectory(const std::string& Path);
 
