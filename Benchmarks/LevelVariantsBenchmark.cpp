@@ -37,7 +37,7 @@ namespace LevelVariantsBenchmark
 			: DataAsset(NewObject<UVelmorantConfiguratorDataAsset>())
 			, LevelVariantSets(NewObject<ULevelVariantSets>())
 		{
-			FillRecord(*DataAsset, static_cast<int32>(State.range(0)));
+			FillRecord(*DataAsset.Get(), static_cast<int32>(State.range(0)));
 		}
 
 		void Generate() const { UVelmorantEditorUtilitiesLibrary::FillOutLevelVariantWithConfigurator(DataAsset.Get(), LevelVariantSets.Get()); }
@@ -73,6 +73,6 @@ void RegenerateUnchangedLevelVariantSets(benchmark::State& State)
 	{
 		Scene.Generate();
 	}
-	State.counters["sets"] = Scene.LevelVariantSets->GetNumVariantSets();
+	State.counters["sets"] = Scene.LevelVariantSets->GetVariantSets().Num();
 }
 BENCHMARK(RegenerateUnchangedLevelVariantSets)->Arg(1000)->Arg(2000)->Unit(benchmark::kMillisecond)->Repetitions(3);

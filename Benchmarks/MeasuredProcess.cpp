@@ -2,41 +2,64 @@
 
 #include "MeasuredProcess.h"
 
-#include <chrono>
-#include <fcntl.h>
+#include <cstdio>
 #include <spawn.h>
-#include <sys/resource.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 extern char** environ;
 
+namespace MeasuredProcess
+{
+	/** What a program writes to its output, read to its end. Empty when it cannot be run. */
+	std::string ReadOutput(std::vector<std::string> Arguments)
+	{
+		std::vector<char*> Pointers;
+		for (std::string& Argument : Arguments)
+		{
+			Pointers.push_back(Argument.data());
+		}
+		Pointers.push_back(nullptr);
+
+		int Pipe[2];
+		if (pipe(Pipe) != 0)
+		{
+			return {};
+		}
+		posix_spawn_file_actions_t Actions;
+		posix_spawn_file_actions_init(&Actions);
+		posix_spawn_file_actions_adddup2(&Actions, Pipe[1], 1);
+		posix_spawn_file_actions_addclose(&Actions, Pipe[0]);
+		posix_spawn_file_actions_addclose(&Actions, Pipe[1]);
+		pid_t Child = 0;
+		const bool bRuns = posix_spawn(&Child, Pointers[0], &Actions, nullptr, Pointers.data(), environ) == 0;
+		posix_spawn_file_actions_destroy(&Actions);
+		close(Pipe[1]);
+
+		std::string Output;
+		char Buffer[256];
+		for (ssize_t Size = 0; (Size = read(Pipe[0], Buffer, sizeof(Buffer))) > 0;)
+		{
+			Output.append(Buffer, static_cast<size_t>(Size));
+		}
+		close(Pipe[0]);
+		if (bRuns)
+		{
+			waitpid(Child, nullptr, 0);
+		}
+		return Output;
+	}
+}
+
 FMeasuredProcess MeasureProcess(const std::vector<std::string>& Arguments)
 {
-	std::vector<char*> Pointers;
-	for (const std::string& Argument : Arguments)
-	{
-		Pointers.push_back(const_cast<char*>(Argument.c_str()));
-	}
-	Pointers.push_back(nullptr);
-
-	posix_spawn_file_actions_t Actions;
-	posix_spawn_file_actions_init(&Actions);
-	posix_spawn_file_actions_addopen(&Actions, 0, "/dev/null", O_RDONLY, 0);
-	posix_spawn_file_actions_addopen(&Actions, 1, "/dev/null", O_WRONLY, 0);
-	posix_spawn_file_actions_addopen(&Actions, 2, "/dev/null", O_WRONLY, 0);
-
+	std::vector<std::string> Metered = {VELMORANT_BINARY_DIR "/VelmorantProcessMeter"};
+	Metered.insert(Metered.end(), Arguments.begin(), Arguments.end());
 	FMeasuredProcess Result;
-	pid_t Child = 0;
-	const auto Start = std::chrono::steady_clock::now();
-	if (posix_spawnp(&Child, Pointers[0], &Actions, nullptr, Pointers.data(), environ) == 0)
+	long PeakKibibytes = 0;
+	if (std::sscanf(MeasuredProcess::ReadOutput(Metered).c_str(), "%lf %ld %d", &Result.Seconds, &PeakKibibytes, &Result.ExitStatus) == 3)
 	{
-		int Status = 0;
-		rusage Usage = {};
-		wait4(Child, &Status, 0, &Usage);
-		Result.Seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - Start).count();
-		Result.PeakMebibytes = static_cast<double>(Usage.ru_maxrss) / 1024.0;
-		Result.ExitStatus = WIFEXITED(Status) ? WEXITSTATUS(Status) : -1;
+		Result.PeakMebibytes = static_cast<double>(PeakKibibytes) / 1024.0;
 	}
-	posix_spawn_file_actions_destroy(&Actions);
 	return Result;
 }

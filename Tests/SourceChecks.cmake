@@ -35,22 +35,25 @@ function(velmorant_headers_alone OutVar Folder)
 	set(${OutVar} ${Sources} PARENT_SCOPE)
 endfunction()
 
-velmorant_headers_alone(PrivateHeaders ${CMAKE_SOURCE_DIR}/Source/VelmorantProEditor/Private)
-add_library(ModuleSourceChecks OBJECT ${CMAKE_CURRENT_BINARY_DIR}/ModuleUnity.cpp ${PrivateHeaders})
-target_link_libraries(ModuleSourceChecks PRIVATE VelmorantBuild)
-target_compile_options(ModuleSourceChecks PRIVATE ${VELMORANT_UNMEASURED})
-target_include_directories(ModuleSourceChecks PRIVATE $<TARGET_PROPERTY:VelmorantProEditor,INCLUDE_DIRECTORIES>)
-target_compile_definitions(ModuleSourceChecks PRIVATE $<TARGET_PROPERTY:VelmorantProEditor,COMPILE_DEFINITIONS>)
-add_dependencies(ModuleSourceChecks VelmorantProEditor)
+# The sanitizers look at programs that run: these compile once, in the other builds.
+if(NOT VELMORANT_SANITIZE)
+	velmorant_headers_alone(PrivateHeaders ${CMAKE_SOURCE_DIR}/Source/VelmorantProEditor/Private)
+	add_library(ModuleSourceChecks OBJECT ${CMAKE_CURRENT_BINARY_DIR}/ModuleUnity.cpp ${PrivateHeaders})
+	target_link_libraries(ModuleSourceChecks PRIVATE VelmorantBuild)
+	target_compile_options(ModuleSourceChecks PRIVATE ${VELMORANT_UNMEASURED})
+	target_include_directories(ModuleSourceChecks PRIVATE $<TARGET_PROPERTY:VelmorantProEditor,INCLUDE_DIRECTORIES>)
+	target_compile_definitions(ModuleSourceChecks PRIVATE $<TARGET_PROPERTY:VelmorantProEditor,COMPILE_DEFINITIONS>)
+	add_dependencies(ModuleSourceChecks VelmorantProEditor)
 
-# The public ones as another module would include them: it sees the public folder and the public dependencies, no more.
-velmorant_headers_alone(PublicHeaders ${CMAKE_SOURCE_DIR}/Source/VelmorantProEditor/Public)
-add_library(ModulePublicHeaders OBJECT ${PublicHeaders})
-target_link_libraries(ModulePublicHeaders PRIVATE VelmorantBuild)
-target_compile_options(ModulePublicHeaders PRIVATE ${VELMORANT_UNMEASURED})
-target_include_directories(ModulePublicHeaders PRIVATE $<TARGET_PROPERTY:VelmorantProEditor,INTERFACE_INCLUDE_DIRECTORIES>)
-target_compile_definitions(ModulePublicHeaders PRIVATE $<TARGET_PROPERTY:VelmorantProEditor,INTERFACE_COMPILE_DEFINITIONS>)
-add_dependencies(ModulePublicHeaders VelmorantProEditor)
+	# The public ones as another module would include them: it sees the public folder and the public dependencies, no more.
+	velmorant_headers_alone(PublicHeaders ${CMAKE_SOURCE_DIR}/Source/VelmorantProEditor/Public)
+	add_library(ModulePublicHeaders OBJECT ${PublicHeaders})
+	target_link_libraries(ModulePublicHeaders PRIVATE VelmorantBuild)
+	target_compile_options(ModulePublicHeaders PRIVATE ${VELMORANT_UNMEASURED})
+	target_include_directories(ModulePublicHeaders PRIVATE $<TARGET_PROPERTY:VelmorantProEditor,INTERFACE_INCLUDE_DIRECTORIES>)
+	target_compile_definitions(ModulePublicHeaders PRIVATE $<TARGET_PROPERTY:VelmorantProEditor,INTERFACE_COMPILE_DEFINITIONS>)
+	add_dependencies(ModulePublicHeaders VelmorantProEditor)
+endif()
 
 # Code that must not compile. Each file states behind "// compiler: " a part of what the compiler must say of it. What most of them
 # include is compiled once, in advance; the less that is, the faster each is read.

@@ -150,6 +150,7 @@ function(velmorant_module Name)
 	velmorant_collect(VisibleToUsers VISIBLE ${Arg_DEPENDS})
 	velmorant_collect(Visible VISIBLE ${Named})
 	set_property(GLOBAL PROPERTY VELMORANT_DEPENDENCIES_${Name} ${Dependencies})
+	set_property(GLOBAL APPEND PROPERTY VELMORANT_MODULES ${Name})
 	set_property(GLOBAL PROPERTY VELMORANT_VISIBLE_${Name} ${VisibleToUsers})
 
 	string(TOUPPER ${Name} Upper)

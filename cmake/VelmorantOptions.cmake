@@ -3,6 +3,7 @@
 
 option(VELMORANT_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
 option(VELMORANT_COVERAGE "Build with coverage instrumentation" OFF)
+option(VELMORANT_SURFACE "Build objects that the check of the engine surface can read (Tests/SurfaceCheck)" OFF)
 option(VELMORANT_DEV "Allow folders that do not exist yet (while the tree is being built up)" OFF)
 option(VELMORANT_PCH "Use precompiled headers" ON)
 
@@ -48,6 +49,13 @@ target_compile_definitions(VelmorantBuild INTERFACE
 if(VELMORANT_SANITIZE)
 	target_compile_options(VelmorantBuild INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
 	add_link_options(-fsanitize=address,undefined)
+endif()
+if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+	set(VELMORANT_SURFACE OFF) # others may save calls in ways that the check does not know
+endif()
+if(VELMORANT_SURFACE)
+	# A section for each function and variable, and no call that the compiler saves itself.
+	target_compile_options(VelmorantBuild INTERFACE -ffunction-sections -fdata-sections -fno-inline -fno-ipa-pure-const -fno-ipa-modref -fno-ipa-reference)
 endif()
 if(VELMORANT_COVERAGE)
 	target_compile_options(VelmorantBuild INTERFACE --coverage)

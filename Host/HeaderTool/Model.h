@@ -72,7 +72,6 @@ namespace HeaderTool
 		Struct,
 		Object, // UFoo*, TObjectPtr, TWeakObjectPtr, TSoftObjectPtr, …
 		Class, // TSubclassOf, TSoftClassPtr, UClass*
-		Interface,
 		Delegate,
 		MulticastDelegate,
 		Array,

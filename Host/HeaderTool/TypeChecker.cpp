@@ -22,12 +22,12 @@ namespace HeaderTool
 			return Names.count(Name) > 0;
 		}
 
-		/** Templates over a class: what they are, and whether the argument is the interface's I class. */
+		/** Templates over a class: what they are. */
 		ETypeKind ObjectTemplateKind(const std::string& Name)
 		{
 			static const std::map<std::string, ETypeKind> Kinds = {
 				{"TObjectPtr", ETypeKind::Object}, {"TWeakObjectPtr", ETypeKind::Object}, {"TSoftObjectPtr", ETypeKind::Object},
-				{"TSubclassOf", ETypeKind::Class}, {"TSoftClassPtr", ETypeKind::Class}, {"TScriptInterface", ETypeKind::Interface}};
+				{"TSubclassOf", ETypeKind::Class}, {"TSoftClassPtr", ETypeKind::Class}};
 			const auto Found = Kinds.find(Name);
 			return Found != Kinds.end() ? Found->second : ETypeKind::Unresolved;
 		}
@@ -165,18 +165,6 @@ namespace HeaderTool
 					return;
 				}
 				FTypeUse& Argument = Type.Arguments.front();
-				if (Type.Kind == ETypeKind::Interface)
-				{
-					const FClass* Interface = Types.FindInterface(Argument.Name);
-					if (!Interface)
-					{
-						Report(Type, "names '" + Argument.Name + "', which is no reflected interface; name the I class of a UINTERFACE.");
-						return;
-					}
-					Type.ValueHeader = Interface->Header;
-					ReferTo(Type, Interface, Interface->CppName);
-					return;
-				}
 				Argument.Kind = ETypeKind::Object;
 				if (!Types.FindClass(Argument.Name) && !FTypeTable::IsRootClass(Argument.Name))
 				{
@@ -297,7 +285,7 @@ namespace HeaderTool
 				}
 				else if (const FClass* Interface = Types.FindInterface(Type.Name))
 				{
-					Unsupported(Type, "use TScriptInterface<" + Interface->NativeInterfaceName() + ">.");
+					Unsupported(Type, "use TObjectPtr<UObject>, and Cast<" + Interface->NativeInterfaceName() + ">() what it holds.");
 				}
 				else if (Type.Name.size() > 1 && (Type.Name[0] == 'U' || Type.Name[0] == 'A') && Type.Pointers > 0)
 				{

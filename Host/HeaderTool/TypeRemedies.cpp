@@ -46,6 +46,10 @@ namespace HeaderTool
 		{
 			return "shared pointers are not reflected; leave the macro out, or use TObjectPtr to a UObject.";
 		}
+		if (Plain == "TScriptInterface")
+		{
+			return "use TObjectPtr<UObject>, and Cast<" + First + ">() what it holds.";
+		}
 		if (Plain == "TFunction" || Plain == "TFunctionRef" || Plain == "function")
 		{
 			return "use a dynamic delegate.";

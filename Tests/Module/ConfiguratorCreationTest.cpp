@@ -35,7 +35,7 @@ namespace ConfiguratorCreationTest
 	{
 		const FHostQuestion& Question = HostQuestions::GetAsked().Last().Question;
 		EXPECT_EQ(ToUtf8(Question.Kind), "SaveAsset");
-		return ToUtf8(Question.Fields[TEXT("Path")]) + "/" + ToUtf8(Question.Fields[TEXT("Name")]);
+		return ToUtf8(Question.Fields.FindRef(TEXT("Path"))) + "/" + ToUtf8(Question.Fields.FindRef(TEXT("Name")));
 	}
 }
 

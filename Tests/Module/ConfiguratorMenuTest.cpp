@@ -94,7 +94,7 @@ TEST_F(ConfiguratorMenu, CanBeTranslated)
 	StartWithConfigurators(OneRoomConfigurator);
 	UContentBrowserAssetContextMenuContext* Selection = NewObject<UContentBrowserAssetContextMenuContext>();
 	Selection->SelectedAssets.Emplace(CreateAsset(TEXT("Tower")));
-	const FName MenuName = UE::ContentBrowser::ExtendToolMenu_AssetContextMenu(UVelmorantConfiguratorDataAsset::StaticClass())->GetMenuName();
+	const FName MenuName = UE::ContentBrowser::ExtendToolMenu_AssetContextMenu(UVelmorantConfiguratorDataAsset::StaticClass())->MenuName;
 
 	std::vector<std::string> Keys;
 	for (const FToolMenuSection& MenuSection : UToolMenus::Get()->GenerateMenu(MenuName, FToolMenuContext(Selection))->Sections)

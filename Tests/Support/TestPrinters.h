@@ -43,7 +43,7 @@ inline void PrintTo(const FText& Text, std::ostream* Stream)
 
 inline void PrintTo(const FColor& Color, std::ostream* Stream)
 {
-	*Stream << TCHAR_TO_UTF8(*Color.ToString());
+	*Stream << TCHAR_TO_UTF8(*Color.ToHex());
 }
 
 inline void PrintTo(const FLinearColor& Color, std::ostream* Stream)
@@ -58,12 +58,12 @@ inline void PrintTo(const FVector& Vector, std::ostream* Stream)
 
 inline void PrintTo(const FVector2D& Vector, std::ostream* Stream)
 {
-	*Stream << TCHAR_TO_UTF8(*Vector.ToString());
+	*Stream << "X=" << Vector.X << " Y=" << Vector.Y;
 }
 
 inline void PrintTo(const FRotator& Rotator, std::ostream* Stream)
 {
-	*Stream << TCHAR_TO_UTF8(*Rotator.ToString());
+	*Stream << "P=" << Rotator.Pitch << " Y=" << Rotator.Yaw << " R=" << Rotator.Roll;
 }
 
 template<typename T>

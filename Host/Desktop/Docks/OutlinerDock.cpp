@@ -204,7 +204,7 @@ void FOutlinerDock::Rename(QTreeWidgetItem& Item)
 		Act([Actor = FindActor(Item), Label = Item.text(0)] {
 			if (Actor.IsValid())
 			{
-				LevelActors::Rename(*Actor, Label);
+				LevelActors::Rename(*Actor.Get(), Label);
 			}
 		});
 		ShownRows.clear(); // what was typed may not be what it became

@@ -93,9 +93,10 @@ namespace ConfigTest
 		EXPECT_EQ(GetSection(File, TEXT("S")), std::vector<std::string>{"A=2"});
 		EXPECT_TRUE(GConfig->DoesSectionExist(TEXT("t"), File));
 		Folder.Write("Config/DefaultEngine.ini", "A=0\n[S]\nA=3\n");
-		GConfig->LoadFile(File);
+		GConfig->UnloadFile(File);
+		EXPECT_EQ(GetSection(File, TEXT("S")), std::vector<std::string>{"A=3"});
 		Folder.Write("Config/DefaultEngine.ini", "[S]\nA=4\n");
-		EXPECT_EQ(GetSection(File, TEXT("S")), std::vector<std::string>{"A=3"}) << "it was read at once";
+		EXPECT_EQ(GetSection(File, TEXT("S")), std::vector<std::string>{"A=3"}) << "it was read before";
 		EXPECT_EQ(GetSection(File, TEXT("")), std::vector<std::string>{"no such section"});
 		Folder.Write("Engine.ini", "[S]\n+A=1\n-A=1\n");
 		EXPECT_EQ(GetSection(Folder.Get("Engine.ini"), TEXT("S")), (std::vector<std::string>{"+A=1", "-A=1"})) << "a branch's name alone makes none";

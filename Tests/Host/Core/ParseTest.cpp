@@ -32,9 +32,6 @@ TEST(Parse, ReadsValuesBehindTheirKeys)
 	float Delay = 0.f;
 	EXPECT_TRUE(FParse::Value(TEXT("-Delay=0.5"), TEXT("Delay="), Delay));
 	EXPECT_EQ(Delay, 0.5f);
-	bool bOn = true;
-	EXPECT_TRUE(FParse::Bool(TEXT("On=False"), TEXT("On="), bOn));
-	EXPECT_FALSE(bOn) << "\"False\" was read";
 }
 
 TEST(Parse, SwitchesAreWholeWordsBehindADash)
@@ -45,25 +42,4 @@ TEST(Parse, SwitchesAreWholeWordsBehindADash)
 	EXPECT_FALSE(FParse::Param(TEXT("log"), TEXT("log")));
 	EXPECT_FALSE(FParse::Param(TEXT("x-log"), TEXT("log")));
 	EXPECT_TRUE(FParse::Param(TEXT("-logs -log"), TEXT("log")));
-}
-
-TEST(Parse, TokensKeepQuotedBlanks)
-{
-	const TCHAR* Stream = TEXT("  open \"My Project\" \"a \\\"b\\\"\" ");
-	TArray<FString> Tokens;
-	FString Token;
-	while (FParse::Token(Stream, Token, true))
-	{
-		Tokens.Add(Token);
-	}
-	EXPECT_EQ(Tokens, (TArray<FString>{TEXT("open"), TEXT("My Project"), TEXT("a \"b\"")}));
-}
-
-TEST(Parse, CommandLineGrowsByAppending)
-{
-	FCommandLine::Set(TEXT("Project.uproject"));
-	FCommandLine::Append(TEXT(" -unattended"));
-	EXPECT_TRUE(FParse::Param(FCommandLine::Get(), TEXT("unattended")));
-	EXPECT_TRUE(FString(FCommandLine::Get()).StartsWith(TEXT("Project.uproject ")));
-	FCommandLine::Set(TEXT(""));
 }

@@ -167,7 +167,7 @@ namespace GarbageCollectionTest
 		TArray<UTestSkirting*> Seen;
 		for (TObjectIterator<UTestSkirting> It; It; ++It)
 		{
-			if (!It->IsTemplate())
+			if (It->GetOuter() == GetTransientPackage())
 			{
 				Seen.Add(*It);
 			}

@@ -149,13 +149,4 @@ namespace ObjectConfigTest
 		Restart();
 		EXPECT_EQ(GetDefault<UTestSettings>()->Floors, 12) << "the platform's file says something else";
 	}
-
-	TEST_F(ObjectConfig, OnePropertyCanBeWrittenAlone)
-	{
-		UTestSettings* Settings = GetMutableDefault<UTestSettings>();
-		Settings->Floors = 8;
-		Settings->Owner = TEXT("Bo");
-		Settings->UpdateSinglePropertyInConfigFile(UTestSettings::StaticClass()->FindPropertyByName(TEXT("Floors")), Settings->GetDefaultConfigFilename());
-		EXPECT_EQ(Folder.Read(DefaultFile), "[/Script/TestObjects.TestSettings]\nFloors=8\n");
-	}
 }

@@ -72,7 +72,6 @@ namespace ObjectNamesTest
 		EXPECT_EQ(FindObject<UClass>(nullptr, TEXT("/Script/TestObjects.TestWall")), UTestWall::StaticClass());
 		EXPECT_EQ(FindFirstObject<UScriptStruct>(TEXT("TestFinish")), FTestFinish::StaticStruct());
 		EXPECT_EQ(UClass::TryFindTypeSlow<UEnum>(TEXT("ETestGloss")), StaticEnum<ETestGloss>());
-		EXPECT_EQ(FindObject<UClass>(FTopLevelAssetPath(TEXT("/Script/CoreUObject"), TEXT("Object"))), UObject::StaticClass());
 	}
 
 	TEST_F(ObjectNames, UnnamedObjectsAreNumberedByClassAndOuter)

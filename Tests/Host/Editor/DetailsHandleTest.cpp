@@ -53,7 +53,7 @@ TEST_F(DetailsHandle, ReadsAndWritesEachTypeAsItself)
 
 	uint8 Finish = 0;
 	FName IconName;
-	FVector Location;
+	FVector Location(0.0);
 	EXPECT_EQ(View.FindHandle(TEXT("Finish"))->GetValue(Finish), FPropertyAccess::Success);
 	EXPECT_EQ(View.FindHandle(TEXT("Sign.Icon.IconName"))->GetValue(IconName), FPropertyAccess::Success);
 	EXPECT_EQ(View.FindHandle(TEXT("Location"))->GetValue(Location), FPropertyAccess::Success);

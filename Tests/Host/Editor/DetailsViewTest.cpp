@@ -75,7 +75,7 @@ TEST_F(DetailsView, RowsTakeWhatAPersonDoes)
 	EXPECT_EQ(First->Sign.Icon.IconName, FName(TEXT("anchor")));
 	EXPECT_FALSE(First->bVisible);
 	EXPECT_EQ(First->Finish, ETestFinish::Glossy);
-	EXPECT_EQ(First->Size.GetValue(), TS_Large);
+	EXPECT_EQ(First->Size, TS_Large);
 	FString Reason;
 	EXPECT_EQ(HostSnapshot::GetOptions(Panel, TEXT("Surface"), Reason), (TArray<FString>{TEXT("Matt"), TEXT("High Gloss")}));
 }

@@ -62,9 +62,9 @@ UWorld& FLevelTestEditor::GetWorld() const
 std::vector<std::string> FLevelTestEditor::GetLabels() const
 {
 	std::vector<std::string> Labels;
-	for (const AActor* Actor : TActorRange<AActor>(&GetWorld()))
+	for (TActorIterator<AActor> It(&GetWorld()); It; ++It)
 	{
-		Labels.push_back(Utf8(Actor->GetActorLabel()));
+		Labels.push_back(Utf8((*It)->GetActorLabel()));
 	}
 	return Labels;
 }

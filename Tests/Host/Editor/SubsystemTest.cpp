@@ -27,11 +27,11 @@ protected:
 	}
 };
 
-TEST_F(Subsystems, StartDependenciesFirstAndStopThemLast)
+TEST_F(Subsystems, StopInTheReverseOrderOfTheirStart)
 {
 	FTestSubsystemDiary::Get().Reset();
 	Restart();
-	EXPECT_EQ(GetDiary(), (std::vector<std::string>{"Dependent down", "Needed down", "Needed up", "Dependent up"}));
+	EXPECT_EQ(GetDiary(), (std::vector<std::string>{"Needed down", "First down", "First up", "Needed up"}));
 }
 
 TEST_F(Subsystems, OneOfEachWantedClassIsThereAndOutlivesCollections)

@@ -61,7 +61,6 @@ protected:
 			UVariant* const* First = Set.GetVariants().FindByPredicate([&Text](UVariant* Other) { return Other->GetDisplayText().ToString() == Text; });
 			ASSERT_NE(First, nullptr);
 			EXPECT_EQ(Set.GetVariantByName(Text), *First) << Utf8(Text);
-			EXPECT_EQ(Set.GetVariant(Set.GetVariantIndex(Variant)), Variant) << Utf8(Text);
 		}
 	}
 
@@ -72,13 +71,13 @@ TEST_F(VariantSets, LookUpsFollowEveryChangeOfText)
 {
 	UVariantSet* Set = MakeAbc();
 	ASSERT_NE(Set->GetVariantByName(TEXT("B")), nullptr); // makes the index
-	UVariant* B = Set->GetVariant(1);
+	UVariant* B = Set->GetVariants()[1];
 	B->SetDisplayText(FText::FromString(TEXT("Z")));
 	EXPECT_EQ(Set->GetVariantByName(TEXT("B")), nullptr);
 	EXPECT_EQ(Set->GetVariantByName(TEXT("z")), B);
 
-	UVariant* C = Set->GetVariant(2);
-	UVariant* A = Set->GetVariant(0);
+	UVariant* C = Set->GetVariants()[2];
+	UVariant* A = Set->GetVariants()[0];
 	C->SetDisplayText(FText::FromString(TEXT("Same")));
 	A->SetDisplayText(FText::FromString(TEXT("same")));
 	EXPECT_EQ(Set->GetVariantByName(TEXT("SAME")), A) << "the first in the list, not the first that got the text";
@@ -90,14 +89,13 @@ TEST_F(VariantSets, LookUpsFollowEveryChangeOfMembership)
 {
 	UVariantSet* Set = MakeAbc();
 	ASSERT_NE(Set->GetVariantByName(TEXT("B")), nullptr);
-	UVariant* A = Set->GetVariant(0);
+	UVariant* A = Set->GetVariants()[0];
 	Set->AddVariants({MakeVariant(TEXT("First")), MakeVariant(TEXT("Second"))}, 0);
 	EXPECT_EQ(TextsOf(*Set), "First;Second;A;B;C;");
 	ExpectLookUpsAgree(*Set);
 	Set->RemoveVariants({A});
 	EXPECT_EQ(TextsOf(*Set), "First;Second;B;C;");
 	EXPECT_EQ(Set->GetVariantByName(TEXT("A")), nullptr);
-	EXPECT_EQ(Set->GetVariantIndex(A), INDEX_NONE);
 	EXPECT_EQ(A->GetParent(), nullptr);
 	ExpectLookUpsAgree(*Set);
 }
@@ -130,9 +128,9 @@ TEST_F(VariantSets, PutsNewcomersWhereTheIndexSays)
 TEST_F(VariantSets, MovesWhatIsAlreadyAMember)
 {
 	UVariantSet* Set = MakeAbc();
-	Set->AddVariants({Set->GetVariant(0)});
+	Set->AddVariants({Set->GetVariants()[0]});
 	EXPECT_EQ(TextsOf(*Set), "B;C;A;");
-	Set->AddVariants({Set->GetVariant(2), Set->GetVariant(2)}, 1);
+	Set->AddVariants({Set->GetVariants()[2], Set->GetVariants()[2]}, 1);
 	EXPECT_EQ(TextsOf(*Set), "B;A;C;") << "given twice, it still stands there once, under its own text";
 	ExpectLookUpsAgree(*Set);
 }
@@ -155,12 +153,10 @@ TEST_F(VariantSets, GivesANewcomerAUniqueTextWhenItsOwnIsTaken)
 	Set->AddVariants({MakeVariant(TEXT("a")), MakeVariant(TEXT("New")), MakeVariant(TEXT("new")), MakeVariant(TEXT("A"))});
 	EXPECT_EQ(TextsOf(*Set), "A;B;C;a 1;New;new 1;A 2;");
 	ExpectLookUpsAgree(*Set);
-	EXPECT_EQ(Utf8(Set->GetUniqueVariantName(TEXT("Free"))), "Free");
-	EXPECT_EQ(Utf8(Set->GetUniqueVariantName(TEXT("a"))), "a 3");
 	Set->GetVariantByName(TEXT("A 2"))->SetDisplayText(FText::FromString(TEXT("Other")));
-	EXPECT_EQ(Utf8(Set->GetUniqueVariantName(TEXT("a"))), "a 2") << "a number that a change of text made free";
 	Set->RemoveVariants({Set->GetVariantByName(TEXT("a 1"))});
-	EXPECT_EQ(Utf8(Set->GetUniqueVariantName(TEXT("A"))), "A 1") << "a number that a removal made free";
+	Set->AddVariants({MakeVariant(TEXT("A")), MakeVariant(TEXT("a"))});
+	EXPECT_EQ(TextsOf(*Set), "A;B;C;New;new 1;Other;A 1;a 2;") << "numbers that a removal and a change of text made free";
 }
 
 TEST_F(VariantSets, ObjectNamesThatClashDoNotStandInTheWay)
@@ -169,7 +165,7 @@ TEST_F(VariantSets, ObjectNamesThatClashDoNotStandInTheWay)
 	UVariant* Mine = NewObject<UVariant>(Set, TEXT("Oak"));
 	UVariant* Other = NewObject<UVariant>(GetTransientPackage(), TEXT("Oak"));
 	Set->AddVariants({Mine, Other});
-	EXPECT_EQ(Set->GetNumVariants(), 2);
+	EXPECT_EQ(Set->GetVariants().Num(), 2);
 	EXPECT_EQ(Other->GetOuter(), Set);
 	EXPECT_NE(Mine->GetFName(), Other->GetFName());
 }
@@ -183,13 +179,13 @@ TEST_F(VariantSets, SaveAndLoadKeepOrderTextsAndLookUps)
 	Restart();
 	ULevelVariantSets* Loaded = Cast<ULevelVariantSets>(HostPackages::LoadAsset(TEXT("/Game/Sets")));
 	ASSERT_NE(Loaded, nullptr);
-	ASSERT_EQ(Loaded->GetNumVariantSets(), 2);
+	ASSERT_EQ(Loaded->GetVariantSets().Num(), 2);
 	UVariantSet* LoadedKitchen = Loaded->GetVariantSetByName(TEXT("küche - front"));
 	ASSERT_NE(LoadedKitchen, nullptr);
 	EXPECT_EQ(LoadedKitchen->GetParent(), Loaded);
 	EXPECT_EQ(TextsOf(*LoadedKitchen), "A;B;C;");
 	ExpectLookUpsAgree(*LoadedKitchen);
-	EXPECT_EQ(Loaded->GetVariantSetIndex(Loaded->GetVariantSetByName(TEXT("Bath"))), 1);
+	EXPECT_EQ(Loaded->GetVariantSet(1), Loaded->GetVariantSetByName(TEXT("Bath")));
 }
 
 TEST_F(VariantSets, ActorLoadsItsAssetOnlyWhenAsked)
@@ -223,7 +219,7 @@ TEST_F(VariantSets, UndoTakesThemApartAgainAndLookUpsFollow)
 	ASSERT_NE(First->GetVariantByName(TEXT("Oak")), nullptr); // makes the index
 	{
 		const FScopedTransaction Transaction(FText::FromString(TEXT("Change")));
-		First->GetVariant(0)->SetDisplayText(FText::FromString(TEXT("Ash")));
+		First->GetVariants()[0]->SetDisplayText(FText::FromString(TEXT("Ash")));
 		First->SetDisplayText(FText::FromString(TEXT("Renamed")));
 		Asset->AddVariantSets({Make(TEXT("Second"), TEXT("Stone"))}, 0);
 	}
@@ -232,12 +228,12 @@ TEST_F(VariantSets, UndoTakesThemApartAgainAndLookUpsFollow)
 	{
 		SCOPED_TRACE(bAgain);
 		ASSERT_TRUE(GEditor->UndoTransaction());
-		EXPECT_EQ(Asset->GetNumVariantSets(), 1);
+		EXPECT_EQ(Asset->GetVariantSets().Num(), 1);
 		EXPECT_EQ(Asset->GetVariantSetByName(TEXT("First")), First);
 		EXPECT_EQ(Asset->GetVariantSetByName(TEXT("Renamed")), nullptr);
 		EXPECT_EQ(Asset->GetVariantSetByName(TEXT("Second")), nullptr);
 		EXPECT_EQ(Second->GetParent(), nullptr);
-		EXPECT_EQ(First->GetVariantByName(TEXT("Oak")), First->GetVariant(0));
+		EXPECT_EQ(First->GetVariantByName(TEXT("Oak")), First->GetVariants()[0]);
 		ExpectLookUpsAgree(*First);
 
 		ASSERT_TRUE(GEditor->RedoTransaction());
@@ -245,7 +241,7 @@ TEST_F(VariantSets, UndoTakesThemApartAgainAndLookUpsFollow)
 		EXPECT_EQ(Asset->GetVariantSetByName(TEXT("Renamed")), First);
 		EXPECT_EQ(Second->GetParent(), Asset);
 		EXPECT_EQ(TextsOf(*Second), "Stone;");
-		EXPECT_EQ(First->GetVariantByName(TEXT("Ash")), First->GetVariant(0));
+		EXPECT_EQ(First->GetVariantByName(TEXT("Ash")), First->GetVariants()[0]);
 		EXPECT_EQ(First->GetVariantByName(TEXT("Oak")), nullptr);
 	}
 }

@@ -120,7 +120,7 @@ TEST_F(ReflectedFunctions, AreBoundToDynamicDelegates)
 	EXPECT_EQ(Object->GetJournal(), FString(TEXT("written")));
 	EXPECT_EQ(FCall(Object, TEXT("GetJournal")).Run().Get(), FString(TEXT("written")));
 
-	Object->OnSomething.AddDynamic(Object, &UFixtureFunctions::Press);
+	Object->OnSomething.AddUniqueDynamic(Object, &UFixtureFunctions::Press);
 	Object->OnSomething.Broadcast();
 	EXPECT_EQ(Object->NumPresses, 1);
 }
@@ -157,12 +157,13 @@ TEST_F(ReflectedFunctions, TakeFlagsAndMetadataFromMarkup)
 	EXPECT_EQ(Add->GetMetaData(TEXT("ToolTip")), FString(TEXT("Adds up.")));
 	EXPECT_TRUE(Class->FindFunctionByName(TEXT("Press"))->HasMetaData(TEXT("CallInEditor")));
 
+	const auto HasAll = [](const FProperty* Property, uint64 Flags) { return (Property->PropertyFlags & Flags) == Flags; };
 	const UFunction* Split = Class->FindFunctionByName(TEXT("Split"));
-	EXPECT_TRUE(Split->FindPropertyByName(TEXT("Text"))->HasAllPropertyFlags(CPF_Parm | CPF_ConstParm | CPF_ReferenceParm));
-	EXPECT_TRUE(Split->FindPropertyByName(TEXT("OutLeft"))->HasAllPropertyFlags(CPF_Parm | CPF_OutParm));
+	EXPECT_TRUE(HasAll(Split->FindPropertyByName(TEXT("Text")), CPF_Parm | CPF_ConstParm | CPF_ReferenceParm));
+	EXPECT_TRUE(HasAll(Split->FindPropertyByName(TEXT("OutLeft")), CPF_Parm | CPF_OutParm));
 	EXPECT_FALSE(Split->FindPropertyByName(TEXT("OutLeft"))->HasAnyPropertyFlags(CPF_ReferenceParm | CPF_ConstParm));
-	EXPECT_TRUE(Split->GetReturnProperty()->HasAllPropertyFlags(CPF_Parm | CPF_ReturnParm));
-	EXPECT_TRUE(Class->FindFunctionByName(TEXT("Grow"))->FindPropertyByName(TEXT("Point"))->HasAllPropertyFlags(CPF_OutParm | CPF_ReferenceParm));
+	EXPECT_TRUE(HasAll(Split->GetReturnProperty(), CPF_Parm | CPF_ReturnParm));
+	EXPECT_TRUE(HasAll(Class->FindFunctionByName(TEXT("Grow"))->FindPropertyByName(TEXT("Point")), CPF_OutParm | CPF_ReferenceParm));
 }
 
 TEST_F(ReflectedFunctions, OfEventsFallBackToTheirNativeBodies)

@@ -149,8 +149,8 @@ TEST(RejectedHeaders, HavePropertiesOfUnsupportedTypes)
 		{"native enum", Property("ENobody A;"), "X.h(9,1): error: UPROPERTY type 'ENobody' is not a reflected enum; put UENUM() before it, in a header that includes its .generated.h."},
 		{"plain enum as member", Property("EPlain A;"), "X.h(9,1): error: UPROPERTY type 'EPlain' is a plain enum, whose size is not fixed; use TEnumAsByte<EPlain> or make it an 'enum class … : uint8'."},
 		{"TEnumAsByte over enum class", Property("TEnumAsByte<EByte> A;"), "X.h(9,1): error: UPROPERTY type 'TEnumAsByte<EByte>' wraps an enum class, which does not compile; use 'EByte' itself."},
-		{"interface pointer", Property("ITalker* A;"), "X.h(9,1): error: UPROPERTY type 'ITalker*' is not supported here; use TScriptInterface<ITalker>."},
-		{"interface of no interface", Property("TScriptInterface<UBase> A;"), "X.h(9,1): error: UPROPERTY type 'TScriptInterface<UBase>' names 'UBase', which is no reflected interface; name the I class of a UINTERFACE."},
+		{"interface pointer", Property("ITalker* A;"), "X.h(9,1): error: UPROPERTY type 'ITalker*' is not supported here; use TObjectPtr<UObject>, and Cast<ITalker>() what it holds."},
+		{"script interface", Property("TScriptInterface<ITalker> A;"), "X.h(9,1): error: UPROPERTY type 'TScriptInterface<ITalker>' is not supported here; use TObjectPtr<UObject>, and Cast<ITalker>() what it holds."},
 		{"void", Property("void A;"), "X.h(9,1): error: UPROPERTY type 'void' is not supported here; use a reflected type, or leave the macro out."},
 	});
 }

@@ -78,7 +78,7 @@ TEST_F(ComboBox, AnOpenBoxShowsNewOptionsOnlyWhenRefreshed)
 
 TEST_F(ComboBox, ShowsTheWidgetsThatAGeneratorMakes)
 {
-	Combo()->OnGenerateWidgetEvent.BindDynamic(Listener.Get(), &UTestComboListener::MakeOption);
+	Combo()->OnGenerateWidgetEvent.BindUFunction(Listener.Get(), TEXT("MakeOption"));
 	const TSharedRef<SWidget> Widget = Combo()->TakeWidget();
 	FString Reason;
 	EXPECT_EQ(HostSnapshot::GetOptions(Widget, Combo()->GetName(), Reason), (TArray<FString>{TEXT("* No Selection"), TEXT("* Harbor"), TEXT("* Hill"), TEXT("* Harbor")}));

@@ -44,7 +44,6 @@ TEST_F(EditorTabs, OpensOneTabForEachBlueprintAndBringsItToTheFront)
 	EXPECT_EQ(Tabs()->SpawnAndRegisterTab(Blueprint(TEXT("Tool"))), Tool);
 	EXPECT_EQ(HostTabs::GetOpen().Num(), 2);
 	EXPECT_EQ(HostTabs::Find(TEXT("")).Panel, Tool);
-	EXPECT_EQ(Tabs()->FindUtilityWidgetFromBlueprint(Blueprint(TEXT("Tool"))), Tool);
 	EXPECT_EQ(Tool->GetWorld(), GEditor->GetEditorWorldContext().World());
 }
 

@@ -107,7 +107,9 @@ TEST_F(MenuBuilder, WithoutACommandListNoCommandCanRun)
 TEST_F(MenuBuilder, TogglesShowTheirState)
 {
 	bool bGrid = false;
-	Commands->MapAction(FMenuCommands::Get().Grid, FExecuteAction::CreateLambda([&bGrid] { bGrid = !bGrid; }), FCanExecuteAction(), FIsActionChecked::CreateLambda([&bGrid] { return bGrid; }));
+	FUIAction Toggle(FExecuteAction::CreateLambda([&bGrid] { bGrid = !bGrid; }));
+	Toggle.GetActionCheckState = FGetActionCheckState::CreateLambda([&bGrid] { return bGrid ? ECheckBoxState::Checked : ECheckBoxState::Unchecked; });
+	Commands->MapAction(FMenuCommands::Get().Grid, Toggle);
 	FMenuBuilder Builder(true, Commands);
 	Builder.AddMenuEntry(FMenuCommands::Get().Grid, NAME_None, TAttribute<FText>(), FText::GetEmpty(), Icon(TEXT("Icons.Info")));
 	const TSharedRef<SWidget> Menu = Builder.MakeWidget();

@@ -94,26 +94,15 @@ TEST_F(Notification, ExpiringStartsAnewEvenWhileItFades)
 	const TSharedRef<SNotificationItem> Item = Show(MakeInfo(1.0f, 2.0f));
 	Wait(2.0);
 	EXPECT_EQ(Phase(Newest()), "fading");
-	Item->SetExpireDuration(5.0f);
 	Item->ExpireAndFadeout();
 	EXPECT_EQ(Phase(Newest()), "standing");
-	Wait(4.9);
+	Wait(0.9);
 	EXPECT_EQ(Phase(Newest()), "standing");
 	Wait(0.2);
 	EXPECT_EQ(Phase(Newest()), "fading");
 	Wait(100.0);
 	Item->ExpireAndFadeout();
 	EXPECT_EQ(Phase(Newest()), "gone") << "what has gone does not come back";
-}
-
-TEST_F(Notification, FadeoutDoesNotWaitForTheExpireTime)
-{
-	const TSharedRef<SNotificationItem> Item = Show(MakeInfo(60.0f, 1.0f));
-	Item->Fadeout();
-	EXPECT_EQ(Phase(Newest()), "fading");
-	Wait(1.1);
-	EXPECT_EQ(Phase(Newest()), "gone");
-	EXPECT_TRUE(HostNotifications::GetStanding().IsEmpty());
 }
 
 TEST_F(Notification, ShowsAButtonOnlyInItsState)
@@ -147,25 +136,18 @@ TEST_F(Notification, ShowsAButtonOnlyInItsState)
 TEST_F(Notification, PressesOnlyWhatAPersonCouldPress)
 {
 	int32 NumPressed = 0;
-	bool bEnabled = false;
 	const FSimpleDelegate Count = FSimpleDelegate::CreateLambda([&NumPressed] { ++NumPressed; });
 	FNotificationInfo Info = MakeInfo(5.0f, 1.0f);
 	Info.ButtonDetails.Add(FNotificationButtonInfo(FText::FromString(TEXT("Go")), FText::GetEmpty(), Count, SNotificationItem::CS_Pending));
-	Info.ButtonDetails.Add(FNotificationButtonInfo(FText::FromString(TEXT("Later")), FText::GetEmpty(), Count,
-		FNotificationButtonInfo::FVisibilityDelegate(),
-		FNotificationButtonInfo::FIsEnabledDelegate::CreateLambda([&bEnabled](SNotificationItem::ECompletionState) { return bEnabled; })));
 	const TSharedRef<SNotificationItem> Item = Show(Info);
 
 	EXPECT_EQ(Refusal(HostNotifications::PressButton(TEXT("Stop"))), "is on no notification that shows");
 	EXPECT_EQ(Refusal(HostNotifications::PressButton(TEXT("Go"))), "does not show in the notification's present state");
-	EXPECT_EQ(Refusal(HostNotifications::PressButton(TEXT("Later"))), "is disabled");
 	EXPECT_EQ(NumPressed, 0);
 
-	bEnabled = true;
 	Item->SetCompletionState(SNotificationItem::CS_Pending);
 	EXPECT_EQ(Refusal(HostNotifications::PressButton(TEXT("Go"))), "");
-	EXPECT_EQ(Refusal(HostNotifications::PressButton(TEXT("Later"))), "");
-	EXPECT_EQ(NumPressed, 2);
+	EXPECT_EQ(NumPressed, 1);
 
 	Wait(5.5);
 	EXPECT_EQ(Phase(Newest()), "fading");
@@ -175,8 +157,8 @@ TEST_F(Notification, PressesOnlyWhatAPersonCouldPress)
 	Item->SetCompletionState(SNotificationItem::CS_Pending);
 	Wait(2.0);
 	EXPECT_EQ(Refusal(HostNotifications::PressButton(TEXT("Go"))), "is on no notification that shows");
-	EXPECT_EQ(NumPressed, 3);
-	EXPECT_EQ(Newest().PressedButtons, (TArray<FString>{TEXT("Go"), TEXT("Later"), TEXT("Go")}));
+	EXPECT_EQ(NumPressed, 2);
+	EXPECT_EQ(Newest().PressedButtons, (TArray<FString>{TEXT("Go"), TEXT("Go")}));
 }
 
 TEST_F(Notification, PressesTheNewestOfTwoEqualButtons)
@@ -195,10 +177,10 @@ TEST_F(Notification, PressesTheNewestOfTwoEqualButtons)
 
 TEST_F(Notification, AButtonMayTakeItsOwnNotificationAway)
 {
-	FNotificationInfo Info = MakeInfo(60.0f, 0.0f);
+	FNotificationInfo Info = MakeInfo(0.0f, 0.0f);
 	TSharedPtr<SNotificationItem> Item;
 	Info.ButtonDetails.Add(FNotificationButtonInfo(FText::FromString(TEXT("Close")), FText::GetEmpty(), FSimpleDelegate::CreateLambda([&Item] {
-		Item->Fadeout();
+		Item->ExpireAndFadeout();
 		HostNotifications::GetStanding();
 		Item.Reset();
 	}),
@@ -230,15 +212,6 @@ TEST_F(Notification, HistoryBelongsToOneEditor)
 	EXPECT_TRUE(HostNotifications::GetHistory().IsEmpty());
 	Show(MakeInfo(60.0f, 1.0f));
 	EXPECT_EQ(Newest().Id, 1);
-}
-
-TEST_F(Notification, QueuedOnesShowAtTheNextTick)
-{
-	FSlateNotificationManager::Get().QueueNotification(new FNotificationInfo(FText::FromString(TEXT("Queued"))));
-	EXPECT_TRUE(HostNotifications::GetHistory().IsEmpty());
-	Wait();
-	ASSERT_EQ(HostNotifications::GetHistory().Num(), 1);
-	EXPECT_EQ(Newest().Text.ToString(), TEXT("Queued"));
 }
 
 TEST_F(Notification, ReadsAsItLooks)

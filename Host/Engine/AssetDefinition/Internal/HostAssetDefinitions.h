@@ -13,9 +13,6 @@ namespace HostAssetDefinitions
 	/** The default objects of all asset definition classes that are not abstract, ordered by class path. */
 	TArray<const UAssetDefinition*> GetAll();
 
-	/** The definition of the class itself, else of its nearest parent that has one; null without any. */
-	const UAssetDefinition* FindForClass(const UClass* AssetClass);
-
 	/** The definition of exactly this class; null without one. */
 	const UAssetDefinition* FindExact(const UClass* AssetClass);
 }

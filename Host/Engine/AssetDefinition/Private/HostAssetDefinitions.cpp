@@ -31,15 +31,3 @@ const UAssetDefinition* HostAssetDefinitions::FindExact(const UClass* AssetClass
 	}
 	return nullptr;
 }
-
-const UAssetDefinition* HostAssetDefinitions::FindForClass(const UClass* AssetClass)
-{
-	for (const UClass* Class = AssetClass; Class != nullptr; Class = Class->GetSuperClass())
-	{
-		if (const UAssetDefinition* Definition = FindExact(Class))
-		{
-			return Definition;
-		}
-	}
-	return nullptr;
-}

@@ -123,14 +123,6 @@ bool FAssetRegistryImpl::GetAssetsByPath(FName PackagePath, TArray<FAssetData>& 
 	return GetAssets(Filter, OutAssetData, true);
 }
 
-bool FAssetRegistryImpl::GetAssetsByPackageName(FName PackageName, TArray<FAssetData>& OutAssetData, bool bIncludeOnlyOnDiskAssets) const
-{
-	FARFilter Filter;
-	Filter.PackageNames.Add(PackageName);
-	Filter.bIncludeOnlyOnDiskAssets = bIncludeOnlyOnDiskAssets;
-	return GetAssets(Filter, OutAssetData, true);
-}
-
 bool FAssetRegistryImpl::GetAllAssets(TArray<FAssetData>& OutAssetData, bool bIncludeOnlyOnDiskAssets) const
 {
 	OutAssetData.Append(Collect(bIncludeOnlyOnDiskAssets));
@@ -160,7 +152,6 @@ void FAssetRegistryImpl::AssetCreated(UObject* NewAsset)
 		return;
 	}
 	Created.Add(NewAsset);
-	AssetAdded.Broadcast(FAssetData(NewAsset));
 }
 
 void FAssetRegistryImpl::AssetDeleted(UObject* DeletedAsset)

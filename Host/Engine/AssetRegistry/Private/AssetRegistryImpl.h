@@ -15,12 +15,9 @@ public:
 	virtual bool GetAssets(const FARFilter& Filter, TArray<FAssetData>& OutAssetData, bool bSkipARFilteredAssets) const override;
 	virtual bool GetAssetsByClass(FTopLevelAssetPath ClassPathName, TArray<FAssetData>& OutAssetData, bool bSearchSubClasses) const override;
 	virtual bool GetAssetsByPath(FName PackagePath, TArray<FAssetData>& OutAssetData, bool bRecursive, bool bIncludeOnlyOnDiskAssets) const override;
-	virtual bool GetAssetsByPackageName(FName PackageName, TArray<FAssetData>& OutAssetData, bool bIncludeOnlyOnDiskAssets) const override;
 	virtual bool GetAllAssets(TArray<FAssetData>& OutAssetData, bool bIncludeOnlyOnDiskAssets) const override;
 	virtual FAssetData GetAssetByObjectPath(const FSoftObjectPath& ObjectPath, bool bIncludeOnlyOnDiskAssets) const override;
-	virtual bool IsLoadingAssets() const override { return false; }
 	virtual void SearchAllAssets(bool bSynchronousSearch) override;
-	virtual FAssetAddedEvent& OnAssetAdded() override { return AssetAdded; }
 	virtual void AssetCreated(UObject* NewAsset) override;
 	virtual void AssetDeleted(UObject* DeletedAsset) override;
 	//~ End IAssetRegistry
@@ -36,6 +33,4 @@ private:
 
 	/** In order of creation, dead ones included until the next query: what gives results in memory their order. */
 	mutable TArray<TWeakObjectPtr<UObject>> Created;
-
-	FAssetAddedEvent AssetAdded;
 };

@@ -31,12 +31,6 @@ void FAssetRegistryModule::AssetDeleted(UObject* DeletedAsset)
 	GetRegistry().AssetDeleted(DeletedAsset);
 }
 
-IAssetRegistry* IAssetRegistry::Get()
-{
-	const FAssetRegistryModule* Module = FModuleManager::GetModulePtr<FAssetRegistryModule>(FName("AssetRegistry"));
-	return Module != nullptr ? &Module->Get() : nullptr;
-}
-
 IAssetRegistry& IAssetRegistry::GetChecked()
 {
 	return FAssetRegistryModule::GetRegistry();

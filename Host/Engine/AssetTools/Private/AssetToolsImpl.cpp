@@ -25,11 +25,6 @@ void FAssetToolsImpl::RegisterAssetTypeActions(const TSharedRef<IAssetTypeAction
 	TypeActions.Add(NewActions);
 }
 
-void FAssetToolsImpl::UnregisterAssetTypeActions(const TSharedRef<IAssetTypeActions>& ActionsToRemove)
-{
-	TypeActions.Remove(ActionsToRemove);
-}
-
 TWeakPtr<IAssetTypeActions> FAssetToolsImpl::GetAssetTypeActionsForClass(const UClass* Class) const
 {
 	for (const UClass* Candidate = Class; Candidate != nullptr; Candidate = Candidate->GetSuperClass())
@@ -43,14 +38,6 @@ TWeakPtr<IAssetTypeActions> FAssetToolsImpl::GetAssetTypeActionsForClass(const U
 		}
 	}
 	return nullptr;
-}
-
-void FAssetToolsImpl::GetAssetTypeActionsList(TArray<TWeakPtr<IAssetTypeActions>>& OutAssetTypeActionsList) const
-{
-	for (const TSharedRef<IAssetTypeActions>& Actions : TypeActions)
-	{
-		OutAssetTypeActionsList.Add(Actions);
-	}
 }
 
 UObject* FAssetToolsImpl::CreateAsset(const FString& AssetName, const FString& PackagePath, UClass* AssetClass, UFactory* Factory, FName CallingContext)

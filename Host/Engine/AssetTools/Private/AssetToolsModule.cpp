@@ -23,11 +23,6 @@ FAssetToolsModule& FAssetToolsModule::GetModule()
 	return FModuleManager::LoadModuleChecked<FAssetToolsModule>(FName("AssetTools"));
 }
 
-bool FAssetToolsModule::IsModuleLoaded()
-{
-	return FModuleManager::Get().IsModuleLoaded(FName("AssetTools"));
-}
-
 IAssetTools& IAssetTools::Get()
 {
 	return FAssetToolsModule::GetModule().Get();

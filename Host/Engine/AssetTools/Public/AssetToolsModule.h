@@ -20,7 +20,6 @@ public:
 	virtual IAssetTools& Get() const;
 
 	static FAssetToolsModule& GetModule();
-	static bool IsModuleLoaded();
 
 	//~ Begin IModuleInterface
 	virtual void StartupModule() override;

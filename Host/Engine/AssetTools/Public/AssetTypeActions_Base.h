@@ -10,7 +10,5 @@ class FAssetTypeActions_Base : public IAssetTypeActions
 {
 public:
 	//~ Begin IAssetTypeActions
-	virtual bool CanFilter() override { return true; }
-	virtual bool ShouldForceWorldCentric() override { return false; }
 	//~ End IAssetTypeActions
 };

@@ -20,7 +20,4 @@ public:
 
 	/** EAssetTypeCategories bits. */
 	virtual uint32 GetCategories() = 0;
-
-	virtual bool CanFilter() = 0;
-	virtual bool ShouldForceWorldCentric() = 0;
 };

@@ -106,11 +106,6 @@ void UEditorUtilitySubsystem::Close(FOpenTab Tab)
 	Tab.Content.Reset();
 }
 
-UEditorUtilityWidget* UEditorUtilitySubsystem::FindUtilityWidgetFromBlueprint(UEditorUtilityWidgetBlueprint* InBlueprint)
-{
-	return InBlueprint ? InBlueprint->GetCreatedWidget() : nullptr;
-}
-
 void UEditorUtilitySubsystem::Deinitialize()
 {
 	while (OpenTabs.Num() > 0)

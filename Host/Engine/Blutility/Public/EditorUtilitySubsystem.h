@@ -29,9 +29,6 @@ public:
 	/** @return whether there was such a tab. */
 	bool CloseTabByID(FName NewTabID);
 
-	/** The panel in the blueprint's open tab; null while it is closed. */
-	UEditorUtilityWidget* FindUtilityWidgetFromBlueprint(UEditorUtilityWidgetBlueprint* InBlueprint);
-
 	//~ Begin USubsystem
 	virtual void Deinitialize() override;
 	//~ End USubsystem

@@ -27,11 +27,3 @@ TArray<UObject*> UContentBrowserAssetContextMenuContext::LoadSelectedObjectsIf(c
 	}
 	return Objects;
 }
-
-TArray<FAssetData> UContentBrowserAssetContextMenuContext::GetSelectedAssetsOfType(const UClass* AssetClass, EIncludeSubclasses IncludeSubclasses) const
-{
-	return SelectedAssets.FilterByPredicate([AssetClass, IncludeSubclasses](const FAssetData& Asset) {
-		const UClass* Class = Asset.GetClass();
-		return Class != nullptr && (Class == AssetClass || (IncludeSubclasses == EIncludeSubclasses::Yes && Class->IsChildOf(AssetClass)));
-	});
-}

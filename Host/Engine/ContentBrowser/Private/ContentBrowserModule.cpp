@@ -37,7 +37,6 @@ namespace ContentBrowserModule
 			SyncBrowserToAssets(Assets, bAllowLockedBrowsers, bFocusContentBrowser, InstanceName, bNewSpawnBrowser);
 		}
 
-		virtual void GetSelectedAssets(TArray<FAssetData>& SelectedAssets) override { SelectedAssets = FContentBrowserState::Get().Selection; }
 		//~ End IContentBrowserSingleton
 	};
 

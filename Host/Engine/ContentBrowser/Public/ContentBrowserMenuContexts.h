@@ -49,32 +49,6 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "Tool Menus")
 	TArray<UObject*> LoadSelectedObjects(TSet<FName> LoadTags) const;
 
-	/** Loads nothing: an asset whose class is not in memory is of no type. */
-	TArray<FAssetData> GetSelectedAssetsOfType(const UClass* AssetClass, EIncludeSubclasses IncludeSubclasses = EIncludeSubclasses::Yes) const;
-
-	/** The first selected asset of the type that loads; null without one. */
-	template<typename ExpectedAssetType>
-	ExpectedAssetType* LoadFirstSelectedObject() const
-	{
-		const TArray<ExpectedAssetType*> Objects = LoadSelectedObjects<ExpectedAssetType>();
-		return Objects.IsEmpty() ? nullptr : Objects[0];
-	}
-
-	/** The selected asset when exactly one is selected and it is of the type; null otherwise. */
-	template<typename ExpectedAssetType, typename MenuOrSectionType>
-	static ExpectedAssetType* LoadSingleSelectedAsset(const MenuOrSectionType& MenuOrSection)
-	{
-		const UContentBrowserAssetContextMenuContext* Context = FindContextWithAssets(MenuOrSection);
-		return Context != nullptr && Context->SelectedAssets.Num() == 1 ? Context->template LoadFirstSelectedObject<ExpectedAssetType>() : nullptr;
-	}
-
-	template<typename MenuOrSectionType>
-	static int32 GetNumAssetsSelected(const MenuOrSectionType& MenuOrSection)
-	{
-		const UContentBrowserAssetContextMenuContext* Context = FindContextWithAssets(MenuOrSection);
-		return Context != nullptr ? Context->SelectedAssets.Num() : 0;
-	}
-
 private:
 	CONTENTBROWSER_API TArray<UObject*> LoadSelectedObjectsIf(const UClass* AssetClass, const TSet<FName>& LoadTags) const;
 };

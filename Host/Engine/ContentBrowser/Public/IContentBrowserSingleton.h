@@ -27,7 +27,4 @@ public:
 		const FName& InstanceName = FName(), bool bNewSpawnBrowser = false) = 0;
 	virtual void SyncBrowserToAssets(const TArray<UObject*>& AssetList, bool bAllowLockedBrowsers = false, bool bFocusContentBrowser = true,
 		const FName& InstanceName = FName(), bool bNewSpawnBrowser = false) = 0;
-
-	/** What is selected in the browser last used, in the order of selection. */
-	virtual void GetSelectedAssets(TArray<FAssetData>& SelectedAssets) = 0;
 };

@@ -89,9 +89,6 @@ namespace HostFiles
 	/** True when the file is gone afterwards, also when it never was there. */
 	bool Delete(const FString& Path, EReadOnly ReadOnly = EReadOnly::Refuse);
 
-	/** Creates the folder and those above it. True when it stands afterwards. */
-	bool MakeDirectory(const FString& Path);
-
 	/**
 	 * Full paths of the files below Directory whose names end with Suffix (case counts; empty takes all), in all folders beneath, sorted by
 	 * their bytes. Leftovers of interrupted writes are not files of the project and not listed. A missing folder holds nothing.

@@ -32,7 +32,7 @@ namespace HostPaths
 	/** The first that is not there of what no editor can do without; empty if all is. */
 	FString FindMissingProgramData();
 
-	/** The folder that holds Config/Base….ini; by default the program's own. */
+	/** The folder that holds Config/Base….ini: the program's own. */
 	void SetEngineDir(const FString& Directory);
 	const FString& GetEngineDir();
 

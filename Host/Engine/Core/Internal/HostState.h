@@ -45,7 +45,6 @@ public:
 	}
 
 	T* operator->() { return &Get(); }
-	T& operator*() { return Get(); }
 
 	/** Whether it has been made; asking does not make it. */
 	bool IsSet() const { return Value != nullptr; }

@@ -33,11 +33,5 @@ extern bool GIsTransacting;
 /** Host: always true, in a commandlet as well. */
 extern bool GIsEditor;
 
-/** Host: everything runs on one thread. */
-inline bool IsInGameThread()
-{
-	return true;
-}
-
 /** Whether the editor runs a command and ends, without a user interface: it was started with -run=NAME. */
 bool IsRunningCommandlet();

@@ -44,7 +44,6 @@ public:
 
 	iterator find(std::string_view Name) { return begin() + static_cast<difference_type>(IndexOf(Name)); }
 	const_iterator find(std::string_view Name) const { return begin() + static_cast<difference_type>(IndexOf(Name)); }
-	size_type count(std::string_view Name) const { return IndexOf(Name) < size() ? 1 : 0; }
 
 	/** What is there already stays. */
 	template<class KeyType>

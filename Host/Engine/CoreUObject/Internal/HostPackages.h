@@ -150,13 +150,4 @@ namespace HostPackages
 	void RegisterReader(const FTopLevelAssetPath& ClassPath, FReader Reader, FWriter Writer = nullptr);
 
 	//~ Properties alone, for such readers and writers
-
-	/** The JSON object of those properties of Object that differ from Defaults, which is of Object's class or a parent of it. */
-	FString WriteProperties(const UObject* Object, const UObject* Defaults);
-
-	/**
-	 * Sets properties from a JSON object as WriteProperties() makes it. All or nothing: on a problem, which is reported for File,
-	 * Object stays as it was.
-	 */
-	bool ReadProperties(UObject* Object, const FString& Json, const FString& File);
 }

@@ -35,11 +35,6 @@ void AActor::SetActorScale3D(FVector NewScale3D)
 	ActorScale = NewScale3D;
 }
 
-void AActor::SetOwner(AActor* NewOwner)
-{
-	Owner = NewOwner;
-}
-
 ULevel* AActor::GetLevel() const
 {
 	return Cast<ULevel>(GetOuter());

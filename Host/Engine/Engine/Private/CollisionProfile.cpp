@@ -155,8 +155,3 @@ const FCollisionResponseTemplate* UCollisionProfile::GetProfileByIndex(int32 Ind
 {
 	return LoadedProfiles.IsValidIndex(Index) ? &LoadedProfiles[Index] : nullptr;
 }
-
-FName UCollisionProfile::ReturnChannelNameFromContainerIndex(int32 ContainerIndex) const
-{
-	return ChannelNames.IsValidIndex(ContainerIndex) ? ChannelNames[ContainerIndex] : FName();
-}

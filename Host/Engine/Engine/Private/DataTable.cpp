@@ -44,15 +44,6 @@ void UDataTable::AddRow(FName RowName, const FTableRowBase& RowData)
 	RowStruct->CopyScriptStruct(MakeRow(RowName), &RowData);
 }
 
-void UDataTable::RemoveRow(FName RowName)
-{
-	if (uint8* Row = RowMap.FindRef(RowName))
-	{
-		RowMap.Remove(RowName);
-		FreeRow(Row);
-	}
-}
-
 void UDataTable::EmptyTable()
 {
 	for (const TPair<FName, uint8*>& Row : RowMap)

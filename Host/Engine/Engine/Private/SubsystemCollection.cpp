@@ -34,11 +34,6 @@ void FSubsystemCollectionBase::Deinitialize()
 	Outer = nullptr;
 }
 
-USubsystem* FSubsystemCollectionBase::InitializeDependency(TSubclassOf<USubsystem> SubsystemClass)
-{
-	return SubsystemClass != nullptr && SubsystemClass->IsChildOf(BaseType) ? Make(SubsystemClass) : nullptr;
-}
-
 USubsystem* FSubsystemCollectionBase::Make(UClass* SubsystemClass)
 {
 	for (USubsystem* Existing : Subsystems)

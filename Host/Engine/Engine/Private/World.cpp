@@ -53,16 +53,6 @@ UWorld* UWorld::GetWorld() const
 	return const_cast<UWorld*>(this);
 }
 
-bool UWorld::SetCurrentLevel(ULevel* InLevel)
-{
-	if (InLevel == CurrentLevel || !Levels.Contains(InLevel))
-	{
-		return false;
-	}
-	CurrentLevel = InLevel;
-	return true;
-}
-
 bool UWorld::DestroyActor(AActor* Actor, bool, bool bShouldModifyLevel)
 {
 	ULevel* Level = Actor != nullptr ? Actor->GetLevel() : nullptr;

@@ -41,11 +41,6 @@ AActor* UWorld::SpawnActor(UClass* InClass, FVector const* Location, FRotator co
 	return Actor;
 }
 
-AActor* UWorld::SpawnActorAbsolute(UClass* Class, FTransform const& AbsoluteTransform, const FActorSpawnParameters& SpawnParameters)
-{
-	return SpawnActor(Class, &AbsoluteTransform, SpawnParameters);
-}
-
 AActor* UWorld::SpawnActor(UClass* Class, FTransform const* UserTransformPtr, const FActorSpawnParameters& SpawnParameters)
 {
 	ULevel* Level = SpawnParameters.OverrideLevel != nullptr ? SpawnParameters.OverrideLevel : CurrentLevel.Get();
@@ -56,7 +51,6 @@ AActor* UWorld::SpawnActor(UClass* Class, FTransform const* UserTransformPtr, co
 	}
 	Level->Modify();
 	AActor* Actor = NewObject<AActor>(Level, Class, Name, SpawnParameters.ObjectFlags, SpawnParameters.Template);
-	Actor->Owner = SpawnParameters.Owner;
 	Actor->bSelected = false;
 	Actor->ActorLabel.Empty(); // a template's label is the template's
 	if (UserTransformPtr != nullptr)
@@ -67,7 +61,6 @@ AActor* UWorld::SpawnActor(UClass* Class, FTransform const* UserTransformPtr, co
 	}
 	WorldSpawn::RecordSpawning(*Actor);
 	Level->Actors.Add(Actor);
-	OnActorSpawned.Broadcast(Actor);
 	return Actor->bActorIsBeingDestroyed ? nullptr : Actor;
 }
 

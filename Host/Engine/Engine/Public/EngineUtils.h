@@ -37,7 +37,6 @@ protected:
 	FActorIteratorBase() = default;
 
 	AActor* GetCurrent() const { return Current; }
-	bool IsAtSamePlace(const FActorIteratorBase& Other) const { return Current == Other.Current; }
 
 private:
 	bool IsSuitable(const AActor* Actor) const;
@@ -67,7 +66,6 @@ public:
 
 	ActorType* operator*() const { return CastChecked<ActorType>(this->GetCurrent()); }
 	ActorType* operator->() const { return **this; }
-	bool operator==(const TActorIterator& Other) const { return this->IsAtSamePlace(Other); }
 };
 
 /** Walks actors of every class, or of one that is known only when the program runs. */
@@ -87,22 +85,4 @@ public:
 
 	AActor* operator*() const { return this->GetCurrent(); }
 	AActor* operator->() const { return this->GetCurrent(); }
-};
-
-/** For range-based loops: for (AFoo* Foo : TActorRange<AFoo>(World)). */
-template<typename ActorType>
-class TActorRange
-{
-public:
-	explicit TActorRange(const UWorld* InWorld, TSubclassOf<ActorType> InClass = ActorType::StaticClass(),
-		EActorIteratorFlags InFlags = EActorIteratorFlags::OnlyActiveLevels | EActorIteratorFlags::SkipPendingKill)
-		: First(InWorld, InClass, InFlags)
-	{
-	}
-
-	TActorIterator<ActorType> begin() const { return First; }
-	TActorIterator<ActorType> end() const { return TActorIterator<ActorType>(); }
-
-private:
-	TActorIterator<ActorType> First;
 };

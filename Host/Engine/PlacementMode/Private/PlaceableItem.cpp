@@ -4,13 +4,6 @@
 
 #include "UObject/Class.h"
 
-FPlaceableItem::FPlaceableItem(UClass& InActorFactoryClass, TOptional<int32> InSortOrder)
-	: Factory(Cast<UActorFactory>(InActorFactoryClass.GetDefaultObject()))
-	, SortOrder(InSortOrder)
-{
-	SetNamesFromAsset();
-}
-
 FPlaceableItem::FPlaceableItem(UActorFactory* InFactory, const FAssetData& InAssetData, TOptional<int32> InSortOrder)
 	: Factory(InFactory)
 	, AssetData(InAssetData)

@@ -42,14 +42,6 @@ TOptional<FPlacementModeID> FPlacementModeModule::RegisterPlaceableItem(FName Ca
 	return ID;
 }
 
-void FPlacementModeModule::UnregisterPlaceableItem(FPlacementModeID ID)
-{
-	if (FCategory* Category = FindCategory(ID.Category))
-	{
-		Category->Items.RemoveAll([&ID](const FItem& Item) { return Item.ID.UniqueID == ID.UniqueID; });
-	}
-}
-
 const FPlacementCategoryInfo* FPlacementModeModule::GetRegisteredPlacementCategory(FName UniqueHandle) const
 {
 	const FCategory* Category = FindCategory(UniqueHandle);

@@ -25,7 +25,6 @@ public:
 	virtual bool RegisterPlacementCategory(const FPlacementCategoryInfo& Info) override;
 	virtual void UnregisterPlacementCategory(FName Handle) override;
 	virtual TOptional<FPlacementModeID> RegisterPlaceableItem(FName CategoryName, const TSharedRef<FPlaceableItem>& Item) override;
-	virtual void UnregisterPlaceableItem(FPlacementModeID ID) override;
 	virtual const FPlacementCategoryInfo* GetRegisteredPlacementCategory(FName UniqueHandle) const override;
 	virtual void GetItemsForCategory(FName CategoryName, TArray<TSharedPtr<FPlaceableItem>>& OutItems) const override;
 	//~ End IPlacementModeModule

@@ -44,9 +44,6 @@ struct PLACEMENTMODE_API FPlaceableItem
 {
 	FPlaceableItem() = default;
 
-	/** Whatever the factory makes from nothing. */
-	explicit FPlaceableItem(UClass& InActorFactoryClass, TOptional<int32> InSortOrder = TOptional<int32>());
-
 	/** @param InFactory null leaves the choice to the editor */
 	FPlaceableItem(UActorFactory* InFactory, const FAssetData& InAssetData, TOptional<int32> InSortOrder = TOptional<int32>());
 
@@ -80,7 +77,6 @@ class PLACEMENTMODE_API IPlacementModeModule : public IModuleInterface
 {
 public:
 	static IPlacementModeModule& Get() { return FModuleManager::LoadModuleChecked<IPlacementModeModule>("PlacementMode"); }
-	static bool IsAvailable() { return FModuleManager::Get().IsModuleLoaded("PlacementMode"); }
 
 	/** @return false when the handle is in use; the category that has it stays */
 	virtual bool RegisterPlacementCategory(const FPlacementCategoryInfo& Info) = 0;
@@ -90,9 +86,6 @@ public:
 
 	/** @return unset when there is no such category */
 	virtual TOptional<FPlacementModeID> RegisterPlaceableItem(FName CategoryName, const TSharedRef<FPlaceableItem>& Item) = 0;
-
-	/** An unknown ID is ignored. */
-	virtual void UnregisterPlaceableItem(FPlacementModeID ID) = 0;
 
 	/** Null when there is none. Good until a category is registered or unregistered. */
 	virtual const FPlacementCategoryInfo* GetRegisteredPlacementCategory(FName UniqueHandle) const = 0;

@@ -22,8 +22,6 @@ namespace PluginManager
 
 		//~ Begin IPlugin
 		const FString& GetName() const override { return Name; }
-		const FString& GetFriendlyName() const override { return Descriptor.FriendlyName.IsEmpty() ? Name : Descriptor.FriendlyName; }
-		const FString& GetDescriptorFileName() const override { return DescriptorFile; }
 		FString GetBaseDir() const override { return FPaths::GetPath(DescriptorFile); }
 		FString GetContentDir() const override { return GetBaseDir() + TEXT("/Content"); }
 		FString GetMountedAssetPath() const override { return TEXT("/") + Name + TEXT("/"); }

@@ -24,9 +24,6 @@ namespace HostSettings
 		FString ToString() const { return Container.ToString() + TEXT("/") + Category.ToString() + TEXT("/") + Section.ToString(); }
 	};
 
-	/** What was asked for, in order of the calls, pages that do not exist included. */
-	TArray<FPageAddress> GetShownPages();
-
 	/** The pages that there are: those of all settings classes, by address. */
 	TArray<FPageAddress> GetAllPages();
 

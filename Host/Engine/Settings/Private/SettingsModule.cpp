@@ -73,7 +73,6 @@ void FSettingsModule::ShutdownModule()
 void FSettingsModule::ShowViewer(const FName& ContainerName, const FName& CategoryName, const FName& SectionName)
 {
 	const HostSettings::FPageAddress Address{ContainerName, CategoryName, SectionName};
-	ShownPages.Add(Address);
 	if (UDeveloperSettings* Settings = SettingsModule::Find(Address))
 	{
 		const TSharedRef<FHostDetailsView> Details = MakeShared<FHostDetailsView>(TArray<UObject*>{Settings});
@@ -101,12 +100,6 @@ void FSettingsModule::SaveChange(UObject* Object, FPropertyChangedEvent& Event)
 		return;
 	}
 	Object->SaveConfig();
-}
-
-TArray<HostSettings::FPageAddress> HostSettings::GetShownPages()
-{
-	const FSettingsModule* Module = SettingsModule::Get();
-	return Module != nullptr ? Module->ShownPages : TArray<FPageAddress>();
 }
 
 TArray<HostSettings::FPageAddress> HostSettings::GetAllPages()

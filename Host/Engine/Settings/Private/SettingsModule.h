@@ -21,7 +21,6 @@ public:
 	virtual void ShowViewer(const FName& ContainerName, const FName& CategoryName, const FName& SectionName) override;
 	//~ End ISettingsModule
 
-	TArray<HostSettings::FPageAddress> ShownPages;
 	TOptional<HostSettings::FOpenPage> OpenPage;
 
 private:

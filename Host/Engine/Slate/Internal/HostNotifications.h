@@ -70,9 +70,6 @@ namespace HostNotifications
 	/** Those that still show, fading ones included. */
 	TArray<FRecord> GetStanding();
 
-	/** The notification itself; null once it is gone. */
-	TSharedPtr<SNotificationItem> GetItem(const FHostNotification& Notification);
-
 	/** Labels of the buttons that show just now. */
 	TArray<FString> GetVisibleButtons(const FHostNotification& Notification);
 

@@ -4,14 +4,6 @@
 
 #include "ToolMenuContext.h"
 
-FToolUIActionChoice::FToolUIActionChoice(const TSharedPtr<const FUICommandInfo>& InCommand, const FUICommandList& InCommandList)
-{
-	if (const FUIAction* Mapped = InCommandList.GetActionForCommand(InCommand))
-	{
-		Action = *Mapped;
-	}
-}
-
 const FUIAction* FToolMenuContext::GetActionForCommand(const TSharedPtr<const FUICommandInfo>& Command) const
 {
 	for (const TSharedPtr<FUICommandList>& List : CommandLists)
@@ -37,58 +29,6 @@ FToolMenuEntry FToolMenuEntry::InitMenuEntry(const FName InName, const TAttribut
 	return Entry;
 }
 
-FToolMenuEntry FToolMenuEntry::InitMenuEntry(const FName InName, const FToolUIActionChoice& InAction, const TSharedRef<SWidget>& Widget)
-{
-	FToolMenuEntry Entry(FToolMenuOwner(), InName, EMultiBlockType::MenuEntry);
-	Entry.Action = InAction;
-	Entry.CustomWidget = Widget;
-	return Entry;
-}
-
-FToolMenuEntry FToolMenuEntry::MakeForCommand(EMultiBlockType InType, const FName InName, const TSharedPtr<const FUICommandInfo>& InCommand,
-	const TAttribute<FText>& InLabelOverride, const TAttribute<FText>& InToolTipOverride, const TAttribute<FSlateIcon>& InIconOverride, const FName InTutorialHighlightName)
-{
-	check(InCommand.IsValid());
-	FToolMenuEntry Entry(FToolMenuOwner(), InName, InType);
-	Entry.Command = InCommand;
-	Entry.Label = InLabelOverride.IsSet() ? InLabelOverride : TAttribute<FText>(InCommand->GetLabel());
-	Entry.ToolTip = InToolTipOverride.IsSet() ? InToolTipOverride : TAttribute<FText>(InCommand->GetDescription());
-	Entry.Icon = InIconOverride.IsSet() ? InIconOverride : TAttribute<FSlateIcon>(InCommand->GetIcon());
-	Entry.UserInterfaceActionType = InCommand->GetUserInterfaceType();
-	Entry.TutorialHighlightName = InTutorialHighlightName;
-	return Entry;
-}
-
-FToolMenuEntry FToolMenuEntry::InitMenuEntry(const TSharedPtr<const FUICommandInfo>& InCommand, const TAttribute<FText>& InLabelOverride,
-	const TAttribute<FText>& InToolTipOverride, const TAttribute<FSlateIcon>& InIconOverride, const FName InTutorialHighlightName, const TOptional<FName> InNameOverride)
-{
-	const FName EntryName = InNameOverride.IsSet() ? InNameOverride.GetValue() : InCommand->GetCommandName();
-	return MakeForCommand(EMultiBlockType::MenuEntry, EntryName, InCommand, InLabelOverride, InToolTipOverride, InIconOverride, InTutorialHighlightName);
-}
-
-FToolMenuEntry FToolMenuEntry::InitMenuEntry(const FName InNameOverride, const TSharedPtr<const FUICommandInfo>& InCommand, const TAttribute<FText>& InLabelOverride,
-	const TAttribute<FText>& InToolTipOverride, const TAttribute<FSlateIcon>& InIconOverride, const FName InTutorialHighlightName)
-{
-	return MakeForCommand(EMultiBlockType::MenuEntry, InNameOverride, InCommand, InLabelOverride, InToolTipOverride, InIconOverride, InTutorialHighlightName);
-}
-
-FToolMenuEntry FToolMenuEntry::InitMenuEntryWithCommandList(const TSharedPtr<const FUICommandInfo>& InCommand, const TSharedPtr<const FUICommandList>& InCommandList,
-	const TAttribute<FText>& InLabelOverride, const TAttribute<FText>& InToolTipOverride, const TAttribute<FSlateIcon>& InIconOverride,
-	const FName InTutorialHighlightName, const TOptional<FName> InNameOverride)
-{
-	FToolMenuEntry Entry = InitMenuEntry(InCommand, InLabelOverride, InToolTipOverride, InIconOverride, InTutorialHighlightName, InNameOverride);
-	Entry.SetCommandList(InCommandList);
-	return Entry;
-}
-
-FToolMenuEntry FToolMenuEntry::InitToolBarButton(const FName InName, const FToolUIActionChoice& InAction, const TAttribute<FText>& InLabel,
-	const TAttribute<FText>& InToolTip, const TAttribute<FSlateIcon>& InIcon, const EUserInterfaceActionType InUserInterfaceActionType, FName InTutorialHighlightName)
-{
-	FToolMenuEntry Entry = InitMenuEntry(InName, InLabel, InToolTip, InIcon, InAction, InUserInterfaceActionType, InTutorialHighlightName);
-	Entry.Type = EMultiBlockType::ToolBarButton;
-	return Entry;
-}
-
 FToolMenuEntry FToolMenuEntry::InitComboButton(const FName InName, const FToolUIActionChoice& InAction, const FNewToolMenuChoice& InMenuContentGenerator,
 	const TAttribute<FText>& InLabelOverride, const TAttribute<FText>& InToolTipOverride, const TAttribute<FSlateIcon>& InIconOverride,
 	bool, FName InTutorialHighlightName)
@@ -100,34 +40,10 @@ FToolMenuEntry FToolMenuEntry::InitComboButton(const FName InName, const FToolUI
 	return Entry;
 }
 
-FToolMenuEntry FToolMenuEntry::InitSubMenu(const FName InName, const TAttribute<FText>& InLabel, const TAttribute<FText>& InToolTip, const FNewToolMenuChoice& InMakeMenu,
-	bool, const TAttribute<FSlateIcon>& InIcon, const bool bInShouldCloseWindowAfterMenuSelection)
-{
-	FToolMenuEntry Entry = InitMenuEntry(InName, InLabel, InToolTip, InIcon, FToolUIActionChoice());
-	Entry.SubMenuContent = InMakeMenu;
-	Entry.bOpensMenu = true;
-	Entry.bShouldCloseWindowAfterMenuSelection = bInShouldCloseWindowAfterMenuSelection;
-	return Entry;
-}
-
 FToolMenuEntry FToolMenuEntry::InitDynamicEntry(const FName InName, const FNewToolMenuSectionDelegate& InConstruct)
 {
 	FToolMenuEntry Entry(FToolMenuOwner(), InName, EMultiBlockType::None);
 	Entry.Construct = InConstruct;
-	return Entry;
-}
-
-FToolMenuEntry FToolMenuEntry::InitSeparator(const FName InName)
-{
-	return FToolMenuEntry(FToolMenuOwner(), InName, EMultiBlockType::Separator);
-}
-
-FToolMenuEntry FToolMenuEntry::InitWidget(const FName InName, const TSharedRef<SWidget>& Widget, const FText& InLabel, bool, bool, bool, const FText& InToolTipText)
-{
-	FToolMenuEntry Entry(FToolMenuOwner(), InName, EMultiBlockType::Widget);
-	Entry.Label = InLabel;
-	Entry.ToolTip = InToolTipText;
-	Entry.CustomWidget = Widget;
 	return Entry;
 }
 

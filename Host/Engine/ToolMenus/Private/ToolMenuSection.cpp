@@ -16,30 +16,10 @@ FToolMenuEntry& FToolMenuSection::AddEntry(const FToolMenuEntry& Args)
 	return Entry;
 }
 
-FToolMenuEntry& FToolMenuSection::AddMenuEntry(const TSharedPtr<const FUICommandInfo>& InCommand, const TAttribute<FText>& InLabelOverride,
-	const TAttribute<FText>& InToolTipOverride, const TAttribute<FSlateIcon>& InIconOverride, const FName InTutorialHighlightName, const TOptional<FName> InNameOverride)
-{
-	return AddEntry(FToolMenuEntry::InitMenuEntry(InCommand, InLabelOverride, InToolTipOverride, InIconOverride, InTutorialHighlightName, InNameOverride));
-}
-
-FToolMenuEntry& FToolMenuSection::AddMenuEntry(const FName InNameOverride, const TSharedPtr<const FUICommandInfo>& InCommand, const TAttribute<FText>& InLabelOverride,
-	const TAttribute<FText>& InToolTipOverride, const TAttribute<FSlateIcon>& InIconOverride, const FName InTutorialHighlightName)
-{
-	return AddEntry(FToolMenuEntry::InitMenuEntry(InNameOverride, InCommand, InLabelOverride, InToolTipOverride, InIconOverride, InTutorialHighlightName));
-}
-
 FToolMenuEntry& FToolMenuSection::AddMenuEntry(const FName InName, const TAttribute<FText>& InLabel, const TAttribute<FText>& InToolTip,
 	const TAttribute<FSlateIcon>& InIcon, const FToolUIActionChoice& InAction, const EUserInterfaceActionType UserInterfaceActionType, const FName InTutorialHighlightName)
 {
 	return AddEntry(FToolMenuEntry::InitMenuEntry(InName, InLabel, InToolTip, InIcon, InAction, UserInterfaceActionType, InTutorialHighlightName));
-}
-
-FToolMenuEntry& FToolMenuSection::AddMenuEntryWithCommandList(const TSharedPtr<const FUICommandInfo>& InCommand, const TSharedPtr<const FUICommandList>& InCommandList,
-	const TAttribute<FText>& InLabelOverride, const TAttribute<FText>& InToolTipOverride, const TAttribute<FSlateIcon>& InIconOverride,
-	const FName InTutorialHighlightName, const TOptional<FName> InNameOverride)
-{
-	return AddEntry(FToolMenuEntry::InitMenuEntryWithCommandList(
-		InCommand, InCommandList, InLabelOverride, InToolTipOverride, InIconOverride, InTutorialHighlightName, InNameOverride));
 }
 
 FToolMenuEntry& FToolMenuSection::AddDynamicEntry(const FName InName, const FNewToolMenuSectionDelegate& InConstruct)
@@ -47,30 +27,9 @@ FToolMenuEntry& FToolMenuSection::AddDynamicEntry(const FName InName, const FNew
 	return AddEntry(FToolMenuEntry::InitDynamicEntry(InName, InConstruct));
 }
 
-FToolMenuEntry& FToolMenuSection::AddSubMenu(const FName InName, const TAttribute<FText>& InLabel, const TAttribute<FText>& InToolTip, const FNewToolMenuChoice& InMakeMenu,
-	bool bInOpenSubMenuOnClick, const TAttribute<FSlateIcon>& InIcon, const bool bShouldCloseWindowAfterMenuSelection)
-{
-	return AddEntry(FToolMenuEntry::InitSubMenu(InName, InLabel, InToolTip, InMakeMenu, bInOpenSubMenuOnClick, InIcon, bShouldCloseWindowAfterMenuSelection));
-}
-
-FToolMenuEntry& FToolMenuSection::AddSeparator(const FName InName)
-{
-	return AddEntry(FToolMenuEntry::InitSeparator(InName));
-}
-
 FToolMenuEntry* FToolMenuSection::FindEntry(const FName InName)
 {
 	return Blocks.FindByPredicate([InName](const FToolMenuEntry& Entry) { return Entry.Name == InName; });
-}
-
-FToolMenuSection& UToolMenu::AddSection(const FName SectionName, const TAttribute<FText>& InLabel, const FToolMenuInsert InPosition)
-{
-	FToolMenuSection& Section = FindOrAddSection(SectionName, InLabel, InPosition);
-	if (InLabel.IsSet())
-	{
-		Section.Label = InLabel;
-	}
-	return Section;
 }
 
 FToolMenuSection& UToolMenu::FindOrAddSection(const FName SectionName)
@@ -98,12 +57,12 @@ FToolMenuSection* UToolMenu::FindSection(const FName SectionName)
 	return Sections.FindByPredicate([SectionName](const FToolMenuSection& Section) { return Section.Name == SectionName; });
 }
 
-void UToolMenu::RemoveSection(const FName SectionName)
+FToolMenuSection& UToolMenu::AddSection(const FName SectionName, const TAttribute<FText>& InLabel, const FToolMenuInsert InPosition)
 {
-	Sections.RemoveAll([SectionName](const FToolMenuSection& Section) { return Section.Name == SectionName; });
-}
-
-void UToolMenu::AddMenuEntry(const FName SectionName, const FToolMenuEntry& Args)
-{
-	FindOrAddSection(SectionName).AddEntry(Args);
+	FToolMenuSection& Section = FindOrAddSection(SectionName, InLabel, InPosition);
+	if (InLabel.IsSet())
+	{
+		Section.Label = InLabel;
+	}
+	return Section;
 }

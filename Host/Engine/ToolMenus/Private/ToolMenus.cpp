@@ -59,16 +59,6 @@ FDelegateHandle UToolMenus::RegisterStartupCallback(const FSimpleMulticastDelega
 	return FDelegateHandle();
 }
 
-void UToolMenus::UnRegisterStartupCallback(FDelegateHandle InHandle)
-{
-	ToolMenus::GetState().StartupCallbacks.Remove(InHandle);
-}
-
-void UToolMenus::UnRegisterStartupCallback(const void* UserPointer)
-{
-	ToolMenus::GetState().StartupCallbacks.RemoveAll(UserPointer);
-}
-
 void UToolMenus::UnregisterOwner(FToolMenuOwner Owner)
 {
 	UToolMenus* Self = TryGet();

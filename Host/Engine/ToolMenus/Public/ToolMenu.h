@@ -23,17 +23,6 @@ public:
 	/** The label is only given to a section that is new. */
 	FToolMenuSection& FindOrAddSection(const FName SectionName, const TAttribute<FText>& InLabel, const FToolMenuInsert InPosition = FToolMenuInsert());
 	FToolMenuSection* FindSection(const FName SectionName);
-	void RemoveSection(const FName SectionName);
-
-	void AddMenuEntry(const FName SectionName, const FToolMenuEntry& Args);
-
-	FName GetMenuName() const { return MenuName; }
-
-	template<typename ContextType>
-	ContextType* FindContext() const
-	{
-		return Context.FindContext<ContextType>();
-	}
 
 	UPROPERTY()
 	FName MenuName;

@@ -20,11 +20,6 @@ struct TOOLMENUS_API FToolMenuContext
 
 	FToolMenuContext() = default;
 	FToolMenuContext(UObject* InContext) { AddObject(InContext); }
-	FToolMenuContext(TSharedPtr<FUICommandList> InCommandList, TSharedPtr<FExtender> = nullptr, UObject* InContext = nullptr)
-	{
-		AppendCommandList(InCommandList);
-		AddObject(InContext);
-	}
 
 	/** The first context object of that class; null when there is none. */
 	template<typename ContextType>
@@ -45,14 +40,6 @@ struct TOOLMENUS_API FToolMenuContext
 		if (InObject)
 		{
 			ContextObjects.AddUnique(InObject);
-		}
-	}
-
-	void AppendCommandList(const TSharedPtr<FUICommandList>& InCommandList)
-	{
-		if (InCommandList.IsValid())
-		{
-			CommandLists.Add(InCommandList);
 		}
 	}
 

@@ -30,11 +30,6 @@ struct FToolUIAction
 		: ExecuteAction(InExecuteAction)
 	{
 	}
-	FToolUIAction(const FToolMenuExecuteAction& InExecuteAction, const FToolMenuCanExecuteAction& InCanExecuteAction)
-		: ExecuteAction(InExecuteAction)
-		, CanExecuteAction(InCanExecuteAction)
-	{
-	}
 
 	FToolMenuExecuteAction ExecuteAction;
 	FToolMenuCanExecuteAction CanExecuteAction;
@@ -62,7 +57,6 @@ struct TOOLMENUS_API FToolUIActionChoice
 		: ToolAction(FToolUIAction(InExecuteAction))
 	{
 	}
-	FToolUIActionChoice(const TSharedPtr<const FUICommandInfo>& InCommand, const FUICommandList& InCommandList);
 
 	const FUIAction* GetUIAction() const { return Action.IsSet() ? &Action.GetValue() : nullptr; }
 	const FToolUIAction* GetToolUIAction() const { return ToolAction.IsSet() ? &ToolAction.GetValue() : nullptr; }

@@ -28,7 +28,6 @@ struct FToolMenuOwner
 	bool IsSet() const { return Pointer != nullptr || Name != NAME_None; }
 
 	bool operator==(const FToolMenuOwner& Other) const { return Pointer == Other.Pointer && Name == Other.Name; }
-	bool operator!=(const FToolMenuOwner& Other) const { return !(*this == Other); }
 
 private:
 	const void* Pointer = nullptr;

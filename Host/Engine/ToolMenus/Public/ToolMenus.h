@@ -29,9 +29,6 @@ public:
 
 	/** Runs the delegate once the menus are ready, at once if they are. Never runs it when there is no user interface. */
 	static FDelegateHandle RegisterStartupCallback(const FSimpleMulticastDelegate::FDelegate& InDelegate);
-	static void UnRegisterStartupCallback(FDelegateHandle InHandle);
-	static void UnRegisterStartupCallback(const void* UserPointer);
-
 	/** Removes all sections and entries that the owner added. */
 	static void UnregisterOwner(FToolMenuOwner Owner);
 
@@ -44,9 +41,6 @@ public:
 	/** Null when nobody registered or extended a menu of that name. */
 	UToolMenu* FindMenu(const FName Name);
 	bool IsMenuRegistered(const FName Name) const;
-
-	/** Shown menus are made when they open, so there is nothing to bring up to date. */
-	void RefreshAllWidgets() {}
 
 	/** The menu as it would be shown for a context: parents first, dynamic entries made, positions observed. A new object each time. */
 	UToolMenu* GenerateMenu(const FName Name, const FToolMenuContext& InMenuContext);
@@ -80,8 +74,6 @@ public:
 
 	FToolMenuOwnerScoped(const FToolMenuOwnerScoped&) = delete;
 	FToolMenuOwnerScoped& operator=(const FToolMenuOwnerScoped&) = delete;
-
-	FToolMenuOwner GetOwner() const { return Owner; }
 
 private:
 	FToolMenuOwner Owner;

@@ -66,11 +66,6 @@ void SSearchableComboBox::FilterOptions()
 	}
 }
 
-void SSearchableComboBox::SetOptionsSource(const TArray<TSharedPtr<FString>>* InOptionsSource)
-{
-	OptionsSource = InOptionsSource;
-}
-
 void SSearchableComboBox::SetIsOpen(bool bInIsOpen)
 {
 	if (bInIsOpen && !IsOpen())

@@ -51,9 +51,6 @@ public:
 	/** Reads the options again, through the current search: nothing else does, whatever becomes of the array. The selection stays. */
 	void RefreshOptions();
 
-	/** Takes another array; to be followed by RefreshOptions(). */
-	void SetOptionsSource(const TArray<TSharedPtr<FString>>* InOptionsSource);
-
 	virtual void SetIsOpen(bool bInIsOpen) override;
 
 protected:

@@ -50,8 +50,6 @@ namespace HostEditor
 	/** Broadcasts FEditorDelegates::OnEditorInitialized. Only the first call of a boot does anything. */
 	void FinishInitialization(double Seconds);
 
-	bool IsInitialized();
-
 	//~ Restart
 
 	/** One call of FUnrealEdMisc::RestartEditor(). */

@@ -47,8 +47,3 @@ void HostEditor::FinishInitialization(double Seconds)
 		FEditorDelegates::OnEditorInitialized.Broadcast(Seconds);
 	}
 }
-
-bool HostEditor::IsInitialized()
-{
-	return HostEditorPrivate::Initialized.Get();
-}

@@ -42,8 +42,3 @@ UBlueprint* FKismetEditorUtilities::CreateBlueprint(UClass* ParentClass, UObject
 	UE_CLOG(!CallingContext.IsNone(), LogBlueprint, Log, TEXT("%s was made in the context '%s'."), *Blueprint->GetName(), *CallingContext.ToString()); // the engine's analytics get it
 	return Blueprint;
 }
-
-UBlueprint* FKismetEditorUtilities::CreateBlueprint(UClass* ParentClass, UObject* Outer, const FName NewBPName, EBlueprintType BlueprintType, FName CallingContext)
-{
-	return CreateBlueprint(ParentClass, Outer, NewBPName, BlueprintType, UBlueprint::StaticClass(), UBlueprintGeneratedClass::StaticClass(), CallingContext);
-}

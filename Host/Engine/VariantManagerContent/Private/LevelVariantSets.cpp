@@ -26,16 +26,6 @@ void ULevelVariantSets::RemoveVariantSets(const TArray<UVariantSet*> InVariantSe
 	List->Remove(InVariantSets);
 }
 
-int32 ULevelVariantSets::GetVariantSetIndex(UVariantSet* VariantSet)
-{
-	return List->FindElement(VariantSet);
-}
-
-FString ULevelVariantSets::GetUniqueVariantSetName(const FString& Prefix)
-{
-	return List->MakeUniqueText(Prefix);
-}
-
 UVariantSet* ULevelVariantSets::GetVariantSet(int32 VariantSetIndex)
 {
 	return VariantSets.IsValidIndex(VariantSetIndex) ? VariantSets[VariantSetIndex] : nullptr;

@@ -92,8 +92,6 @@ public:
 
 	int32 FindElement(const ElementType* Element) { return GetNames().FindElement(Element); }
 
-	FString MakeUniqueText(const FString& Prefix) { return GetNames().MakeUniqueText(Prefix); }
-
 	/** The display text of one child, or of somebody who only has this owner as outer, is another now. */
 	void NoteTextChanged(const ElementType& Element)
 	{

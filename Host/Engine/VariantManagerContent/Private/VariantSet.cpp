@@ -37,11 +37,6 @@ void UVariantSet::TellParent()
 	}
 }
 
-FString UVariantSet::GetUniqueVariantName(const FString& InPrefix)
-{
-	return List->MakeUniqueText(InPrefix);
-}
-
 void UVariantSet::AddVariants(const TArray<UVariant*>& NewVariants, int32 Index)
 {
 	List->Add(NewVariants, Index);
@@ -55,11 +50,6 @@ void UVariantSet::RemoveVariants(const TArray<UVariant*>& InVariants)
 int32 UVariantSet::GetVariantIndex(UVariant* Variant)
 {
 	return List->FindElement(Variant);
-}
-
-UVariant* UVariantSet::GetVariant(int32 VariantIndex)
-{
-	return Variants.IsValidIndex(VariantIndex) ? Variants[VariantIndex] : nullptr;
 }
 
 UVariant* UVariantSet::GetVariantByName(FString VariantName)

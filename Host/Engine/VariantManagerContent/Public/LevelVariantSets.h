@@ -33,12 +33,6 @@ public:
 
 	const TArray<UVariantSet*>& GetVariantSets() const { return VariantSets; }
 
-	/** -1 when it is not in this asset. */
-	int32 GetVariantSetIndex(UVariantSet* VariantSet);
-
-	/** Prefix itself when no set has it as its text, otherwise with a blank and the lowest free number behind it. */
-	FString GetUniqueVariantSetName(const FString& Prefix);
-
 	UFUNCTION(BlueprintPure, Category = "LevelVariantSets")
 	int32 GetNumVariantSets() { return VariantSets.Num(); }
 

@@ -32,9 +32,6 @@ public:
 	UFUNCTION(BlueprintPure, Category = "VariantSet")
 	FText GetDisplayText() const { return DisplayText; }
 
-	/** InPrefix itself when no variant has it as its text, otherwise with a blank and the lowest free number behind it. */
-	FString GetUniqueVariantName(const FString& InPrefix);
-
 	/**
 	 * Takes the variants over: each gets this set as its outer and leaves the set it was in. One that is here already is moved.
 	 * A newcomer whose text is taken here gets a unique one.
@@ -52,10 +49,6 @@ public:
 
 	UFUNCTION(BlueprintPure, Category = "VariantSet")
 	int32 GetNumVariants() { return Variants.Num(); }
-
-	/** Null when there is no such index. */
-	UFUNCTION(BlueprintPure, Category = "VariantSet")
-	UVariant* GetVariant(int32 VariantIndex);
 
 	/** The first variant whose display text is this, case aside; null when there is none. Takes the same time whatever their number. */
 	UFUNCTION(BlueprintPure, Category = "VariantSet")

@@ -177,8 +177,12 @@ void UVlmEWListDisplayer::ReceivedSearchTextChange(const FText& Text)
 	}
 	else
 	{
+		if (!Search.IsValid())
+		{
+			Search = MakeShared<FVelmorantTextSearch>(ProjectRows::MakeSearch(CurrentElemetsList));
+		}
 		TArray<UListDisplayerItemBase*> Matches;
-		for (const int32 Row : Search.IsValid() ? Search->Find(Text.ToString()) : TArray<int32>())
+		for (const int32 Row : Search->Find(Text.ToString()))
 		{
 			Matches.Add(CurrentElemetsList[Row]);
 		}
@@ -215,14 +219,12 @@ void UVlmEWListDisplayer::ShowRows(EListDisplayItemType Type)
 {
 	// The search text is not applied again on purpose: a rebuilt list shows all its rows.
 	const TArray<ProjectRows::FRow> Rows = ProjectRows::OfProject(VelmorantSelectedProject::Find(), Type);
-	TArray<TObjectPtr<UListDisplayerItemBase>> Items;
-	Items.Reserve(Rows.Num());
+	CurrentElemetsList.Reset(Rows.Num());
 	for (const ProjectRows::FRow& Row : Rows)
 	{
-		Items.Add(UListDisplayerItemBase::CreateListDisplayerItemBase(Row.UnitID, Row.Keycode, Row.DisplayName, Type));
+		CurrentElemetsList.Add(UListDisplayerItemBase::CreateListDisplayerItemBase(Row.UnitID, Row.Keycode, Row.DisplayName, Type));
 	}
-	CurrentElemetsList = Items;
-	Search = MakeShared<FVelmorantTextSearch>(ProjectRows::MakeSearch(Rows));
+	Search.Reset();
 	ItemList->SetListItems(CurrentElemetsList);
 	OnSelectionTypeChange(Type);
 }

@@ -82,12 +82,15 @@ TArray<ProjectRows::FRow> ProjectRows::OfProject(const UProjectWrapper* Project,
 	}
 }
 
-FVelmorantTextSearch ProjectRows::MakeSearch(const TArray<FRow>& Rows)
+FVelmorantTextSearch ProjectRows::MakeSearch(TConstArrayView<TObjectPtr<UListDisplayerItemBase>> Items)
 {
 	FVelmorantTextSearch Search;
-	Search.SetRows(Rows.Num(), [&Rows](int32 Row, FString& InOutText) {
-		InOutText += Rows[Row].Keycode;
-		InOutText += Rows[Row].DisplayName;
+	Search.SetRows(Items.Num(), [&Items](int32 Row, FString& InOutText) {
+		if (const UListDisplayerItemBase* Item = Items[Row])
+		{
+			InOutText += Item->Keycode;
+			InOutText += Item->DisplayName;
+		}
 	});
 	return Search;
 }

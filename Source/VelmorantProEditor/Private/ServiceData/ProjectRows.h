@@ -34,6 +34,6 @@ namespace ProjectRows
 	/** The rows of a level: unit groups, the target unit group's units, or configurators. None without project or target. */
 	TArray<FRow> OfProject(const UProjectWrapper* Project, EListDisplayItemType Level);
 
-	/** Rows are found by their key code and name, read as one word. */
-	FVelmorantTextSearch MakeSearch(const TArray<FRow>& Rows);
+	/** Items are found by their key code and name, read as one word. Of those that are missing nothing is found. */
+	FVelmorantTextSearch MakeSearch(TConstArrayView<TObjectPtr<UListDisplayerItemBase>> Items);
 }

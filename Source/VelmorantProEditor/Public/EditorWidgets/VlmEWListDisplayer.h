@@ -134,5 +134,5 @@ private:
 	UVelmorantProjectRequestManager* GetRequestManager() const;
 
 	int32 CurrentSelectionLevel = UnitGroupLevel;
-	TSharedPtr<FVelmorantTextSearch> Search; // always of CurrentElemetsList; null until there is one
+	TSharedPtr<FVelmorantTextSearch> Search; // of CurrentElemetsList; null until somebody searches in it
 };

@@ -43,5 +43,8 @@ EFixtureDoor UFixtureFunctions::Next(EFixtureDoor Door, EFixtureSpaced::Type Wid
 
 void UFixtureFunctions::Answer(const FFixtureAnswer& Receiver, FText InText)
 {
-	Receiver.ExecuteIfBound(InText.ToString());
+	if (Receiver.IsBound())
+	{
+		Receiver.Execute(InText.ToString());
+	}
 }

@@ -14,7 +14,6 @@
 #include "FixtureProperties.generated.h"
 
 class UFixtureFunctions;
-class IFixtureGreeter;
 
 DECLARE_DYNAMIC_DELEGATE_RetVal_OneParam(int32, FFixtureCount, const FString&, Text);
 
@@ -103,8 +102,6 @@ public:
 	UClass* AnyClass = nullptr;
 	UPROPERTY()
 	TSoftClassPtr<UFixtureFunctions> SoftClass;
-	UPROPERTY()
-	TScriptInterface<IFixtureGreeter> Greeter;
 
 	UPROPERTY()
 	TArray<int32> Numbers = {1, 2, 3};

@@ -8,15 +8,14 @@ TArray<FString>& FTestSubsystemDiary::Get()
 	return Diary;
 }
 
-void UTestADependentSubsystem::Initialize(FSubsystemCollectionBase& Collection)
+void UTestFirstSubsystem::Initialize(FSubsystemCollectionBase&)
 {
-	const bool bFound = Collection.InitializeDependency<UTestNeededSubsystem>() != nullptr;
-	FTestSubsystemDiary::Get().Add(bFound ? TEXT("Dependent up") : TEXT("Dependent up alone"));
+	FTestSubsystemDiary::Get().Add(TEXT("First up"));
 }
 
-void UTestADependentSubsystem::Deinitialize()
+void UTestFirstSubsystem::Deinitialize()
 {
-	FTestSubsystemDiary::Get().Add(TEXT("Dependent down"));
+	FTestSubsystemDiary::Get().Add(TEXT("First down"));
 }
 
 void UTestNeededSubsystem::Initialize(FSubsystemCollectionBase&)

@@ -74,9 +74,8 @@ struct TESTACTORS_API FTestSubsystemDiary
 	static TArray<FString>& Get();
 };
 
-/** Comes first in the alphabet but needs the other one. */
 UCLASS()
-class TESTACTORS_API UTestADependentSubsystem : public UEngineSubsystem
+class TESTACTORS_API UTestFirstSubsystem : public UEngineSubsystem
 {
 	GENERATED_BODY()
 

@@ -70,9 +70,6 @@ public:
 	UPROPERTY(BlueprintAssignable)
 	FTestOnOpened OnOpened;
 
-	UPROPERTY()
-	TScriptInterface<ITestOpenable> Next;
-
 	TArray<FString> Log;
 	TFunction<void()> WhenMoved;
 };

@@ -25,8 +25,6 @@ struct ASSETDEFINITION_API FAssetCategoryPath
 	FName GetSubCategory() const { return HasSubCategory() ? CategoryPath[1].Key : FName(); }
 	FText GetSubCategoryText() const { return HasSubCategory() ? CategoryPath[1].Value : FText::GetEmpty(); }
 
-	FAssetCategoryPath operator/(const FText& SubCategory) const { return FAssetCategoryPath(*this, SubCategory); }
-
 private:
 	void Append(const FText& Category);
 

@@ -19,8 +19,6 @@ class IAssetRegistry
 public:
 	virtual ~IAssetRegistry() = default;
 
-	/** Null while the module is not loaded. */
-	static IAssetRegistry* Get();
 	static IAssetRegistry& GetChecked();
 
 	/**
@@ -32,22 +30,13 @@ public:
 
 	virtual bool GetAssetsByClass(FTopLevelAssetPath ClassPathName, TArray<FAssetData>& OutAssetData, bool bSearchSubClasses = false) const = 0;
 	virtual bool GetAssetsByPath(FName PackagePath, TArray<FAssetData>& OutAssetData, bool bRecursive = false, bool bIncludeOnlyOnDiskAssets = false) const = 0;
-	virtual bool GetAssetsByPackageName(FName PackageName, TArray<FAssetData>& OutAssetData, bool bIncludeOnlyOnDiskAssets = false) const = 0;
 	virtual bool GetAllAssets(TArray<FAssetData>& OutAssetData, bool bIncludeOnlyOnDiskAssets = false) const = 0;
 
 	/** An invalid FAssetData when there is no such asset. */
 	virtual FAssetData GetAssetByObjectPath(const FSoftObjectPath& ObjectPath, bool bIncludeOnlyOnDiskAssets = false) const = 0;
 
-	/** Whether a search still runs. Searches here end before the call that needs them returns. */
-	virtual bool IsLoadingAssets() const = 0;
-
 	/** Reads the mounted folders again, now. */
 	virtual void SearchAllAssets(bool bSynchronousSearch) = 0;
-
-	DECLARE_MULTICAST_DELEGATE_OneParam(FAssetAddedEvent, const FAssetData&);
-
-	/** Raised for every asset made in this editor; not for those a search finds. */
-	virtual FAssetAddedEvent& OnAssetAdded() = 0;
 
 	/** Whoever makes an asset says so, through FAssetRegistryModule::AssetCreated(). */
 	virtual void AssetCreated(UObject* NewAsset) = 0;

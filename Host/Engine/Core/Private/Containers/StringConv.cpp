@@ -104,12 +104,6 @@ TStringConversion<FromType, ToType>::TStringConversion(const FromType* Source)
 }
 
 template<typename FromType, typename ToType>
-TStringConversion<FromType, ToType>::TStringConversion(const FromType* Source, int32 SourceLen)
-{
-	Convert(Source, SourceLen);
-}
-
-template<typename FromType, typename ToType>
 TStringConversion<FromType, ToType>::~TStringConversion()
 {
 	if (Buffer != Inline)

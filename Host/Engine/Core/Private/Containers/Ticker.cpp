@@ -24,11 +24,6 @@ FTSTicker::FDelegateHandle FTSTicker::AddTicker(const FTickerDelegate& InDelegat
 	return Element;
 }
 
-FTSTicker::FDelegateHandle FTSTicker::AddTicker(const TCHAR* /*InName*/, float InDelay, TFunction<bool(float)> Function)
-{
-	return AddTicker(FTickerDelegate::CreateLambda(MoveTemp(Function)), InDelay);
-}
-
 void FTSTicker::RemoveTicker(FDelegateHandle Handle)
 {
 	if (const TSharedPtr<FElement> Element = Handle.Pin())

@@ -150,43 +150,6 @@ int32 FString::Compare(const FString& Other, ESearchCase::Type SearchCase) const
 	return UE::String::Private::Compare(**this, Len(), *Other, Other.Len(), SearchCase);
 }
 
-bool FString::MatchesWildcard(FStringView Wildcard, ESearchCase::Type SearchCase) const
-{
-	const FStringView Text(*this);
-	int32 TextAt = 0;
-	int32 WildcardAt = 0;
-	int32 StarAt = INDEX_NONE; // the last '*', and how much of the text it has taken
-	int32 StarTaken = 0;
-	while (TextAt < Text.Len())
-	{
-		const bool bStar = WildcardAt < Wildcard.Len() && Wildcard[WildcardAt] == '*';
-		if (bStar)
-		{
-			StarAt = WildcardAt++;
-			StarTaken = TextAt;
-		}
-		else if (WildcardAt < Wildcard.Len() && (Wildcard[WildcardAt] == '?' || Text.Mid(TextAt, 1).Equals(Wildcard.Mid(WildcardAt, 1), SearchCase)))
-		{
-			++TextAt;
-			++WildcardAt;
-		}
-		else if (StarAt != INDEX_NONE)
-		{
-			WildcardAt = StarAt + 1;
-			TextAt = ++StarTaken;
-		}
-		else
-		{
-			return false;
-		}
-	}
-	while (WildcardAt < Wildcard.Len() && Wildcard[WildcardAt] == '*')
-	{
-		++WildcardAt;
-	}
-	return WildcardAt == Wildcard.Len();
-}
-
 bool FString::Split(const FString& Separator, FString* LeftS, FString* RightS, ESearchCase::Type SearchCase, ESearchDir::Type SearchDir) const
 {
 	const int32 Index = Find(Separator, SearchCase, SearchDir);
@@ -217,25 +180,6 @@ void FString::LeftInline(int32 Count, EAllowShrinking AllowShrinking)
 void FString::RightChopInline(int32 Count, EAllowShrinking AllowShrinking)
 {
 	RemoveAt(0, FMath::Clamp(Count, 0, Len()), AllowShrinking);
-}
-
-void FString::MidInline(int32 Start, int32 Count, EAllowShrinking AllowShrinking)
-{
-	RightChopInline(Start, AllowShrinking);
-	LeftInline(Count, AllowShrinking);
-}
-
-FString FString::TrimQuotes(bool* bQuotesRemoved) const
-{
-	FStringView Result(*this);
-	const bool bStart = Result.StartsWith(TEXT('"'));
-	const bool bEnd = Result.Len() > 1 && Result.EndsWith(TEXT('"'));
-	Result = Result.RightChop(bStart ? 1 : 0).LeftChop(bEnd ? 1 : 0);
-	if (bQuotesRemoved)
-	{
-		*bQuotesRemoved = bStart || bEnd;
-	}
-	return FString(Result);
 }
 
 int32 FString::ParseIntoArray(TArray<FString>& Out, const TCHAR* Delimiter, bool InCullEmpty) const
@@ -390,18 +334,6 @@ int32 FString::ReplaceInline(const TCHAR* From, const TCHAR* To, ESearchCase::Ty
 	return NumReplaced;
 }
 
-FString& FString::ReplaceCharInline(TCHAR Search, TCHAR Replacement, ESearchCase::Type SearchCase)
-{
-	for (TCHAR& Char : *this)
-	{
-		if (Char == Search || (SearchCase == ESearchCase::IgnoreCase && FChar::ToLower(Char) == FChar::ToLower(Search)))
-		{
-			Char = Replacement;
-		}
-	}
-	return *this;
-}
-
 namespace UnrealString
 {
 	// The character behind the backslash, and what it stands for.
@@ -445,27 +377,6 @@ FString FString::ReplaceEscapedCharWithChar() const
 		}
 		Index += Meaning ? 1 : 0; // anything else behind a backslash stays as it stands
 		Result.AppendChar(Meaning ? Meaning : Char);
-	}
-	return Result;
-}
-
-FString FString::LeftPad(int32 TotalLen) const
-{
-	return ChrN(TotalLen - Len(), ' ') + *this;
-}
-
-FString FString::RightPad(int32 TotalLen) const
-{
-	return *this + ChrN(TotalLen - Len(), ' ');
-}
-
-FString FString::Reverse() const
-{
-	FString Result;
-	Result.Reserve(Len());
-	for (int32 Index = Len() - 1; Index >= 0; --Index)
-	{
-		Result.AppendChar((*this)[Index]);
 	}
 	return Result;
 }

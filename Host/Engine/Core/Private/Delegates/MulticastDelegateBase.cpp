@@ -52,7 +52,7 @@ private:
 
 FMulticastDelegateBase::FMulticastDelegateBase(const FMulticastDelegateBase& Other)
 {
-	CopyFrom(Other);
+	*this = Other;
 }
 
 FMulticastDelegateBase::FMulticastDelegateBase(FMulticastDelegateBase&& Other) noexcept
@@ -70,7 +70,13 @@ FMulticastDelegateBase& FMulticastDelegateBase::operator=(const FMulticastDelega
 	if (this != &Other)
 	{
 		Clear();
-		CopyFrom(Other);
+		for (int32 Index = 0; Index < Other.Invocations.Num(); ++Index)
+		{
+			if (const IDelegateInstance* const Instance = Other.Invocations[Index])
+			{
+				Invocations.Add(Instance->CreateCopy());
+			}
+		}
 	}
 	return *this;
 }
@@ -85,17 +91,6 @@ FMulticastDelegateBase& FMulticastDelegateBase::operator=(FMulticastDelegateBase
 	return *this;
 }
 
-void FMulticastDelegateBase::CopyFrom(const FMulticastDelegateBase& Other)
-{
-	for (int32 Index = 0; Index < Other.Invocations.Num(); ++Index)
-	{
-		if (const IDelegateInstance* const Instance = Other.Invocations[Index])
-		{
-			Invocations.Add(Instance->CreateCopy());
-		}
-	}
-}
-
 void FMulticastDelegateBase::Clear()
 {
 	const TArray<IDelegateInstance*> Removed = MulticastDelegateBase::TakeOut(Invocations, [](const IDelegateInstance&) { return true; });
@@ -106,11 +101,6 @@ void FMulticastDelegateBase::Clear()
 bool FMulticastDelegateBase::IsBound() const
 {
 	return Invocations.ContainsByPredicate([](const IDelegateInstance* Instance) { return Instance && Instance->IsSafeToExecute(); });
-}
-
-bool FMulticastDelegateBase::IsBoundToObject(const void* InUserObject) const
-{
-	return Invocations.ContainsByPredicate([InUserObject](const IDelegateInstance* Instance) { return Instance && Instance->HasSameObject(InUserObject); });
 }
 
 bool FMulticastDelegateBase::Remove(FDelegateHandle Handle)

@@ -14,13 +14,7 @@ const FFileOverlay::FEntry* FFileOverlay::Find(const std::string& Path) const
 bool FFileOverlay::HasDirectory(const std::string& Path) const
 {
 	const std::string Prefix = Path + "/";
-	const auto IsBelow = [&Prefix](const std::string& Other) { return Other.starts_with(Prefix); };
-	const auto Directory = Directories.lower_bound(Prefix);
-	if (Directories.contains(Path) || (Directory != Directories.end() && IsBelow(*Directory)))
-	{
-		return true;
-	}
-	for (auto Entry = Entries.lower_bound(Prefix); Entry != Entries.end() && IsBelow(Entry->first); ++Entry)
+	for (auto Entry = Entries.lower_bound(Prefix); Entry != Entries.end() && Entry->first.starts_with(Prefix); ++Entry)
 	{
 		if (!Entry->second.bDeleted)
 		{
@@ -47,9 +41,4 @@ void FFileOverlay::Delete(const std::string& Path)
 	FEntry& Entry = Entries[Path];
 	Entry.bDeleted = true;
 	Entry.Bytes = std::make_shared<const std::string>();
-}
-
-void FFileOverlay::MakeDirectory(const std::string& Path)
-{
-	Directories.insert(Path);
 }

@@ -5,7 +5,6 @@
 #include "HostFiles.h"
 
 #include <map>
-#include <set>
 #include <string>
 #include <string_view>
 
@@ -25,19 +24,16 @@ public:
 	/** Null when the disk counts. */
 	const FEntry* Find(const std::string& Path) const;
 
-	/** Whether a folder stands at Path because something was created in it or it was created itself. */
+	/** Whether a folder stands at Path because something was created in it. */
 	bool HasDirectory(const std::string& Path) const;
 
 	/** @param Basis counts with the first write of a file */
 	void Write(const std::string& Path, HostFiles::FSharedBytes Bytes, HostFiles::FSharedBytes Basis);
 	void Delete(const std::string& Path);
-	void MakeDirectory(const std::string& Path);
 
 	/** Sorted by path. */
 	const FEntries& GetEntries() const { return Entries; }
-	const std::set<std::string>& GetDirectories() const { return Directories; }
 
 private:
 	FEntries Entries;
-	std::set<std::string> Directories;
 };

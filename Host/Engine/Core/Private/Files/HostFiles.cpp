@@ -370,22 +370,6 @@ namespace HostFiles
 		return true;
 	}
 
-	bool MakeDirectory(const FString& Path)
-	{
-		const std::string Resolved = NativePath::Resolve(Path);
-		FFileOverlay* Overlay = GetOverlay();
-		if (Overlay == nullptr)
-		{
-			return CheckLimits(Resolved) && MakeFolderOrReport(Resolved, Resolved);
-		}
-		const EKind Kind = GetKindOf(Resolved);
-		if (Kind == EKind::Missing)
-		{
-			Overlay->MakeDirectory(Resolved);
-		}
-		return Kind == EKind::Missing || Kind == EKind::Directory;
-	}
-
 	TArray<FString> FindFiles(const FString& Directory, const FString& Suffix)
 	{
 		return ToNames(FolderListing::FindFiles(NativePath::MakeFull(Directory), NativePath::FromString(Suffix), FolderListing::EDepth::All, GetOverlay()), !Suffix.IsEmpty());

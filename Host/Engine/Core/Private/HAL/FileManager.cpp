@@ -20,8 +20,6 @@ namespace FileManager
 		//~ Begin IFileManager
 		bool FileExists(const TCHAR* Filename) override { return HostFiles::FileExists(Filename); }
 
-		bool DirectoryExists(const TCHAR* InDirectory) override { return HostFiles::DirectoryExists(InDirectory); }
-
 		bool Delete(const TCHAR* Filename, bool RequireExists, bool EvenReadOnly, bool Quiet) override
 		{
 			const bool bMissing = HostFiles::GetKind(Filename) == HostFiles::EKind::Missing;
@@ -29,12 +27,6 @@ namespace FileManager
 			const bool bDeleted = !(bMissing && RequireExists) && HostFiles::Delete(Filename, ReadOnly);
 			UE_CLOG(!bDeleted && !Quiet, LogFileManager, Warning, TEXT("Could not delete %s"), Filename);
 			return bDeleted;
-		}
-
-		bool MakeDirectory(const TCHAR* Path, bool Tree) override
-		{
-			const FString Full = FPaths::ConvertRelativePathToFull(Path);
-			return (Tree || HostFiles::DirectoryExists(FPaths::GetPath(Full))) && HostFiles::MakeDirectory(Full);
 		}
 
 		bool DeleteDirectory(const TCHAR* Path, bool RequireExists, bool Tree) override

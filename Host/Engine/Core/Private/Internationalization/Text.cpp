@@ -173,11 +173,6 @@ const FString& FText::ToString() const
 	return Data.IsValid() ? Data->Display : TextPrivate::EmptyString();
 }
 
-bool FText::IsEmptyOrWhitespace() const
-{
-	return FStringView(ToString()).TrimStart().IsEmpty();
-}
-
 int32 FText::CompareTo(const FText& Other, ETextComparisonLevel::Type Level) const
 {
 	// Letters first, then case: "apple" and "Apple" stand side by side, before "Banana".
@@ -197,12 +192,6 @@ bool FText::IdenticalTo(const FText& Other) const
 	}
 	const FTextId Id = FTextInspector::GetTextId(*this);
 	return !Id.IsEmpty() && Id == FTextInspector::GetTextId(Other) && ToString().Equals(Other.ToString());
-}
-
-FText FText::TrimPrecedingAndTrailing(const FText& Text)
-{
-	FString Trimmed = Text.ToString().TrimStartAndEnd();
-	return Trimmed.Len() == Text.ToString().Len() ? Text : MakeGenerated(MoveTemp(Trimmed));
 }
 
 bool FText::HasFlag(ETextFlag::Type Flag) const

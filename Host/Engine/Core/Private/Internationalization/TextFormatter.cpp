@@ -113,20 +113,6 @@ FString FFormatArgumentValue::ToFormattedString() const
 	return TextValue.ToString();
 }
 
-void FTextFormat::GetFormatArgumentNames(TArray<FString>& OutArgumentNames) const
-{
-	TextFormatter::FReader Reader{FStringView(GetSourceString())};
-	FStringView Name;
-	FStringView Literal;
-	while (Reader.Next(Name, Literal))
-	{
-		if (!Name.IsEmpty())
-		{
-			OutArgumentNames.AddUnique(FString(Name));
-		}
-	}
-}
-
 FText FText::Format(FTextFormat Fmt, const FFormatNamedArguments& InArguments)
 {
 	return MakeGenerated(TextFormatter::Format(Fmt.GetSourceString(), [&InArguments](FStringView Name) { return InArguments.Find(FString(Name)); }));

@@ -43,11 +43,6 @@ FLinearColor::FLinearColor(const FColor& Color)
 {
 }
 
-FLinearColor FLinearColor::FromSRGBColor(const FColor& Color)
-{
-	return FLinearColor(Color);
-}
-
 FColor FLinearColor::ToFColor(bool bSRGB) const
 {
 	if (!bSRGB)
@@ -56,11 +51,6 @@ FColor FLinearColor::ToFColor(bool bSRGB) const
 	}
 	const auto Channel = [](float Value) { return Color::Quantize(Color::ToSRGB(FMath::Clamp(Value, 0.f, 1.f))); };
 	return FColor(Channel(R), Channel(G), Channel(B), Color::Quantize(A));
-}
-
-FColor FLinearColor::ToFColorSRGB() const
-{
-	return ToFColor(true);
 }
 
 FColor FLinearColor::QuantizeRound() const
@@ -84,39 +74,7 @@ FString FColor::ToHex() const
 	return FString::Printf(TEXT("%02X%02X%02X%02X"), R, G, B, A);
 }
 
-FColor FColor::FromHex(const FString& HexString)
-{
-	FString Digits = HexString.RightChop(HexString.StartsWith(TEXT("#")) ? 1 : 0);
-	if (Digits.Len() == 3)
-	{
-		Digits = FString::Printf(TEXT("%c%c%c%c%c%c"), Digits[0], Digits[0], Digits[1], Digits[1], Digits[2], Digits[2]);
-	}
-	if (Digits.Len() == 6)
-	{
-		Digits += TEXT("FF");
-	}
-	for (const TCHAR Digit : Digits)
-	{
-		if (!FChar::IsHexDigit(Digit))
-		{
-			return FColor(ForceInit);
-		}
-	}
-	if (Digits.Len() != 8)
-	{
-		return FColor(ForceInit);
-	}
-	const uint32 Packed = static_cast<uint32>(FCString::Strtoui64(*Digits, nullptr, 16));
-	return FColor(static_cast<uint8>(Packed >> 24), static_cast<uint8>(Packed >> 16), static_cast<uint8>(Packed >> 8), static_cast<uint8>(Packed));
-}
-
 FString FColor::ToString() const
 {
 	return FString::Printf(TEXT("(R=%d,G=%d,B=%d,A=%d)"), R, G, B, A);
-}
-
-bool FColor::InitFromString(const FString& InSourceString)
-{
-	*this = FColor(0, 0, 0, 255);
-	return Color::ReadChannels(InSourceString, R, G, B, A);
 }

@@ -10,14 +10,6 @@
 namespace UE::Math
 {
 	template<typename T>
-	TVector<T> TRotator<T>::Vector() const
-	{
-		const T PitchRadians = FMath::DegreesToRadians(Pitch);
-		const T YawRadians = FMath::DegreesToRadians(Yaw);
-		return TVector<T>(std::cos(PitchRadians) * std::cos(YawRadians), std::cos(PitchRadians) * std::sin(YawRadians), std::sin(PitchRadians));
-	}
-
-	template<typename T>
 	TQuat<T> TRotator<T>::Quaternion() const
 	{
 		// Left-handed, Z up: yaw about +Z, then pitch about -Y, then roll about -X.
@@ -28,19 +20,6 @@ namespace UE::Math
 		const TQuat<T> PitchTurn(0, -std::sin(HalfPitch), 0, std::cos(HalfPitch));
 		const TQuat<T> RollTurn(-std::sin(HalfRoll), 0, 0, std::cos(HalfRoll));
 		return YawTurn * PitchTurn * RollTurn;
-	}
-
-	template<typename T>
-	FString TRotator<T>::ToString() const
-	{
-		return FString::Printf(TEXT("P=%f Y=%f R=%f"), Pitch, Yaw, Roll);
-	}
-
-	template<typename T>
-	bool TRotator<T>::InitFromString(const FString& InSourceString)
-	{
-		*this = TRotator(T(0));
-		return FParse::Value(*InSourceString, TEXT("P="), Pitch) && FParse::Value(*InSourceString, TEXT("Y="), Yaw) && FParse::Value(*InSourceString, TEXT("R="), Roll);
 	}
 
 	template<typename T>
@@ -79,14 +58,8 @@ namespace UE::Math
 		return Result;
 	}
 
-	template TVector<float> TRotator<float>::Vector() const;
 	template TQuat<float> TRotator<float>::Quaternion() const;
-	template FString TRotator<float>::ToString() const;
-	template bool TRotator<float>::InitFromString(const FString&);
-	template TVector<double> TRotator<double>::Vector() const;
 	template TQuat<double> TRotator<double>::Quaternion() const;
-	template FString TRotator<double>::ToString() const;
-	template bool TRotator<double>::InitFromString(const FString&);
 	template TQuat<float> TQuat<float>::operator*(const TQuat&) const;
 	template TVector<float> TQuat<float>::RotateVector(const TVector<float>&) const;
 	template TRotator<float> TQuat<float>::Rotator() const;

@@ -20,25 +20,8 @@ namespace UE::Math
 		return FParse::Value(*InSourceString, TEXT("X="), X) && FParse::Value(*InSourceString, TEXT("Y="), Y) && FParse::Value(*InSourceString, TEXT("Z="), Z);
 	}
 
-	template<typename T>
-	FString TVector2<T>::ToString() const
-	{
-		return FString::Printf(TEXT("X=%3.3f Y=%3.3f"), X, Y);
-	}
-
-	template<typename T>
-	bool TVector2<T>::InitFromString(const FString& InSourceString)
-	{
-		*this = TVector2(T(0));
-		return FParse::Value(*InSourceString, TEXT("X="), X) && FParse::Value(*InSourceString, TEXT("Y="), Y);
-	}
-
 	template FString TVector<float>::ToString() const;
 	template FString TVector<double>::ToString() const;
 	template bool TVector<float>::InitFromString(const FString&);
 	template bool TVector<double>::InitFromString(const FString&);
-	template FString TVector2<float>::ToString() const;
-	template FString TVector2<double>::ToString() const;
-	template bool TVector2<float>::InitFromString(const FString&);
-	template bool TVector2<double>::InitFromString(const FString&);
 }

@@ -29,12 +29,6 @@ namespace CStringPrivate
 
 		const char* Get() const { return Text; }
 
-		/** Where a number that ended at End in the copy ends in the original; its very beginning when nothing was read. */
-		TCHAR* EndIn(const TCHAR* Original, const char* End) const
-		{
-			return const_cast<TCHAR*>(End == Text ? Original : Original + Skipped + (End - Text));
-		}
-
 	private:
 		static constexpr int32 MaxLen = 400; // the longest finite double has 309 digits before the point
 
@@ -78,11 +72,6 @@ int32 FCString::Strlen(const TCHAR* String)
 	return static_cast<int32>(End - String);
 }
 
-int32 FCString::Strcmp(const TCHAR* A, const TCHAR* B)
-{
-	return CStringPrivate::CompareFolded(A, B, SIZE_MAX, CStringPrivate::Same);
-}
-
 int32 FCString::Stricmp(const TCHAR* A, const TCHAR* B)
 {
 	return CStringPrivate::CompareFolded(A, B, SIZE_MAX, FChar::ToLower);
@@ -96,33 +85,6 @@ int32 FCString::Strncmp(const TCHAR* A, const TCHAR* B, SIZE_T Count)
 int32 FCString::Strnicmp(const TCHAR* A, const TCHAR* B, SIZE_T Count)
 {
 	return CStringPrivate::CompareFolded(A, B, Count, FChar::ToLower);
-}
-
-TCHAR* FCString::Strncpy(TCHAR* Dest, const TCHAR* Source, int32 DestSize)
-{
-	int32 Index = 0;
-	for (; Index < DestSize - 1 && Source[Index]; ++Index)
-	{
-		Dest[Index] = Source[Index];
-	}
-	Dest[Index] = 0;
-	return Dest;
-}
-
-const TCHAR* FCString::Strstr(const TCHAR* String, const TCHAR* Find)
-{
-	const SIZE_T Len = Strlen(Find);
-	for (;; ++String)
-	{
-		if (Strncmp(String, Find, Len) == 0)
-		{
-			return String;
-		}
-		if (!*String)
-		{
-			return nullptr;
-		}
-	}
 }
 
 const TCHAR* FCString::Stristr(const TCHAR* String, const TCHAR* Find)
@@ -156,18 +118,6 @@ const TCHAR* FCString::Strchr(const TCHAR* String, TCHAR Char)
 	}
 }
 
-const TCHAR* FCString::Strrchr(const TCHAR* String, TCHAR Char)
-{
-	for (const TCHAR* At = String + Strlen(String); At >= String; --At)
-	{
-		if (*At == Char)
-		{
-			return At;
-		}
-	}
-	return nullptr;
-}
-
 int32 FCString::Atoi(const TCHAR* String)
 {
 	return static_cast<int32>(Atoi64(String));
@@ -186,40 +136,6 @@ float FCString::Atof(const TCHAR* String)
 double FCString::Atod(const TCHAR* String)
 {
 	return std::strtod(CStringPrivate::FNumberText(String).Get(), nullptr);
-}
-
-int32 FCString::Strtoi(const TCHAR* Start, TCHAR** End, int32 Base)
-{
-	return static_cast<int32>(Strtoi64(Start, End, Base));
-}
-
-int64 FCString::Strtoi64(const TCHAR* Start, TCHAR** End, int32 Base)
-{
-	const CStringPrivate::FNumberText Number(Start);
-	char* NumberEnd = nullptr;
-	const int64 Result = std::strtoll(Number.Get(), &NumberEnd, Base);
-	if (End)
-	{
-		*End = Number.EndIn(Start, NumberEnd);
-	}
-	return Result;
-}
-
-uint64 FCString::Strtoui64(const TCHAR* Start, TCHAR** End, int32 Base)
-{
-	const CStringPrivate::FNumberText Number(Start);
-	char* NumberEnd = nullptr;
-	const uint64 Result = std::strtoull(Number.Get(), &NumberEnd, Base);
-	if (End)
-	{
-		*End = Number.EndIn(Start, NumberEnd);
-	}
-	return Result;
-}
-
-bool FCString::ToBool(const TCHAR* String)
-{
-	return Stricmp(String, TEXT("True")) == 0 || Stricmp(String, TEXT("Yes")) == 0 || Stricmp(String, TEXT("On")) == 0 || Atoi(String) != 0;
 }
 
 bool FCString::IsNumeric(const TCHAR* String)
@@ -251,14 +167,4 @@ bool FCString::IsNumeric(const TCHAR* String)
 int32 FCStringAnsi::Strlen(const ANSICHAR* String)
 {
 	return static_cast<int32>(std::strlen(String));
-}
-
-int32 FCStringAnsi::Strcmp(const ANSICHAR* A, const ANSICHAR* B)
-{
-	return std::strcmp(A, B);
-}
-
-int32 FCStringAnsi::Stricmp(const ANSICHAR* A, const ANSICHAR* B)
-{
-	return strcasecmp(A, B);
 }

@@ -90,19 +90,9 @@ bool FChar::IsLower(TCHAR Char)
 	return iswlower_l(static_cast<wint_t>(Char), CharTables::CharClasses()) != 0;
 }
 
-bool FChar::IsAlpha(TCHAR Char)
-{
-	return iswalpha_l(static_cast<wint_t>(Char), CharTables::CharClasses()) != 0;
-}
-
 bool FChar::IsAlnum(TCHAR Char)
 {
 	return iswalnum_l(static_cast<wint_t>(Char), CharTables::CharClasses()) != 0;
-}
-
-bool FChar::IsPunct(TCHAR Char)
-{
-	return iswpunct_l(static_cast<wint_t>(Char), CharTables::CharClasses()) != 0;
 }
 
 bool FChar::IsWhitespaceWide(TCHAR Char)

@@ -29,8 +29,3 @@ bool FCommandLine::Set(const TCHAR* NewCommandLine)
 	CommandLine::Text() = FString(NewCommandLine);
 	return true;
 }
-
-void FCommandLine::Append(const TCHAR* AppendString)
-{
-	CommandLine::Text() = FString(Get()) + AppendString;
-}

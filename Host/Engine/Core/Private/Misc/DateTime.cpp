@@ -75,11 +75,6 @@ FDateTime FDateTime::FromUnixTimestamp(int64 UnixTime)
 	return FDateTime(DateTime::UnixEpochDays * ETimespan::TicksPerDay + UnixTime * ETimespan::TicksPerSecond);
 }
 
-int64 FDateTime::ToUnixTimestamp() const
-{
-	return (Ticks - DateTime::UnixEpochDays * ETimespan::TicksPerDay) / ETimespan::TicksPerSecond;
-}
-
 bool FDateTime::IsLeapYear(int32 Year)
 {
 	return Year % 4 == 0 && (Year % 100 != 0 || Year % 400 == 0);
@@ -115,39 +110,11 @@ void FDateTime::GetDate(int32& OutYear, int32& OutMonth, int32& OutDay) const
 	OutDay = Rest + 1;
 }
 
-int32 FDateTime::GetYear() const
-{
-	int32 Year, Month, Day;
-	GetDate(Year, Month, Day);
-	return Year;
-}
-
-int32 FDateTime::GetMonth() const
-{
-	int32 Year, Month, Day;
-	GetDate(Year, Month, Day);
-	return Month;
-}
-
-int32 FDateTime::GetDay() const
-{
-	int32 Year, Month, Day;
-	GetDate(Year, Month, Day);
-	return Day;
-}
-
 FString FDateTime::ToString() const
 {
 	int32 Year, Month, Day;
 	GetDate(Year, Month, Day);
 	return FString::Printf(TEXT("%04d.%02d.%02d-%02d.%02d.%02d"), Year, Month, Day, GetHour(), GetMinute(), GetSecond());
-}
-
-FString FDateTime::ToIso8601() const
-{
-	int32 Year, Month, Day;
-	GetDate(Year, Month, Day);
-	return FString::Printf(TEXT("%04d-%02d-%02dT%02d:%02d:%02d.%03dZ"), Year, Month, Day, GetHour(), GetMinute(), GetSecond(), GetMillisecond());
 }
 
 bool FDateTime::ParseIso8601(const TCHAR* DateTimeString, FDateTime& OutDateTime)
@@ -182,17 +149,4 @@ bool FDateTime::ParseIso8601(const TCHAR* DateTimeString, FDateTime& OutDateTime
 	}
 	OutDateTime = FDateTime(Year, Month, Day, Hour, Minute, Second, Millisecond);
 	return true;
-}
-
-FString FTimespan::ToString() const
-{
-	const int64 Positive = Ticks < 0 ? -Ticks : Ticks;
-	const FTimespan Magnitude(Positive);
-	const int32 Milliseconds = static_cast<int32>(Positive / ETimespan::TicksPerMillisecond % 1000);
-	FString Result(Ticks < 0 ? TEXT("-") : TEXT("+"));
-	if (Magnitude.GetDays() > 0)
-	{
-		Result.Appendf(TEXT("%d."), Magnitude.GetDays());
-	}
-	return Result.Appendf(TEXT("%02d:%02d:%02d.%03d"), Magnitude.GetHours(), Magnitude.GetMinutes(), Magnitude.GetSeconds(), Milliseconds);
 }

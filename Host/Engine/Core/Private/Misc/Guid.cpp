@@ -4,11 +4,6 @@
 
 #include <random>
 
-FGuid::FGuid(const FString& InGuidStr)
-{
-	Parse(InGuidStr, *this);
-}
-
 FGuid FGuid::NewGuid()
 {
 	std::random_device Random;

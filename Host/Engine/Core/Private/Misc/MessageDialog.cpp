@@ -142,9 +142,4 @@ EAppReturnType::Type FMessageDialog::Open(EAppMsgCategory MessageCategory, EAppM
 	return MessageDialog::Ask(MessageCategory, MessageDialog::ButtonsOf(MessageType), DefaultValue, Message, Title);
 }
 
-void FMessageDialog::Debugf(const FText& Message)
-{
-	Open(EAppMsgType::Ok, Message);
-}
-
 #undef LOCTEXT_NAMESPACE

@@ -9,13 +9,6 @@
 
 FOutputDeviceRedirector* GLog = FOutputDeviceRedirector::Get();
 
-void FOutputDevice::LogFormatted(const FName& Category, ELogVerbosity::Type Verbosity, const TCHAR* Format, const UE::Core::FFormatArgument* Args)
-{
-	FString Text;
-	UE::String::Private::AppendFormatted(Text, Format, Args);
-	Serialize(*Text, Verbosity, Category);
-}
-
 FString FOutputDeviceHelper::FormatLogLine(ELogVerbosity::Type Verbosity, const FName& Category, const TCHAR* Message)
 {
 	FString Line;
@@ -47,11 +40,6 @@ void FOutputDeviceRedirector::AddOutputDevice(FOutputDevice* OutputDevice)
 void FOutputDeviceRedirector::RemoveOutputDevice(FOutputDevice* OutputDevice)
 {
 	OutputDevices.Remove(OutputDevice);
-}
-
-bool FOutputDeviceRedirector::IsRedirectingTo(FOutputDevice* OutputDevice) const
-{
-	return OutputDevices.Contains(OutputDevice);
 }
 
 void FOutputDeviceRedirector::Serialize(const TCHAR* V, ELogVerbosity::Type Verbosity, const FName& Category)

@@ -98,17 +98,6 @@ bool FParse::Value(const TCHAR* Stream, const TCHAR* Match, double& Value)
 	return Parse::ReadNumber(Stream, Match, Value, FCString::Atod);
 }
 
-bool FParse::Bool(const TCHAR* Stream, const TCHAR* Match, bool& OnOff)
-{
-	FString Text;
-	if (!Value(Stream, Match, Text))
-	{
-		return false;
-	}
-	OnOff = Text.ToBool();
-	return true;
-}
-
 bool FParse::Param(const TCHAR* Stream, const TCHAR* Param)
 {
 	const int32 Len = FCString::Strlen(Param);
@@ -126,74 +115,4 @@ bool FParse::Param(const TCHAR* Stream, const TCHAR* Param)
 		}
 	}
 	return false;
-}
-
-void FParse::Next(const TCHAR** Stream)
-{
-	while (FChar::IsWhitespace(**Stream))
-	{
-		++*Stream;
-	}
-}
-
-bool FParse::Token(const TCHAR*& Str, FString& Arg, bool UseEscape)
-{
-	Next(&Str);
-	Arg.Reset();
-	const bool bAny = *Str != 0;
-	bool bQuoted = false;
-	for (; *Str && (bQuoted || !FChar::IsWhitespace(*Str)); ++Str)
-	{
-		if (UseEscape && bQuoted && *Str == '\\' && (Str[1] == '"' || Str[1] == '\\'))
-		{
-			Arg.AppendChar(*++Str);
-		}
-		else if (*Str == '"')
-		{
-			bQuoted = !bQuoted;
-		}
-		else
-		{
-			Arg.AppendChar(*Str);
-		}
-	}
-	return bAny;
-}
-
-bool FParse::Command(const TCHAR** Stream, const TCHAR* Match)
-{
-	const TCHAR* At = *Stream;
-	Next(&At);
-	const int32 Len = FCString::Strlen(Match);
-	if (FCString::Strnicmp(At, Match, Len) != 0 || FChar::IsAlnum(At[Len]))
-	{
-		return false;
-	}
-	At += Len;
-	Next(&At);
-	*Stream = At;
-	return true;
-}
-
-bool FParse::QuotedString(const TCHAR* Stream, FString& Value, int32* OutNumCharsRead)
-{
-	if (*Stream != '"')
-	{
-		return false;
-	}
-	const TCHAR* At = Stream + 1;
-	while (*At && *At != '"')
-	{
-		At += (*At == '\\' && At[1]) ? 2 : 1;
-	}
-	if (!*At)
-	{
-		return false;
-	}
-	Value = FString::ConstructFromPtrSize(Stream + 1, static_cast<int32>(At - Stream - 1)).ReplaceEscapedCharWithChar();
-	if (OutNumCharsRead)
-	{
-		*OutNumCharsRead = static_cast<int32>(At + 1 - Stream);
-	}
-	return true;
 }

@@ -137,19 +137,9 @@ FString FPaths::ConvertRelativePathToFull(const FString& InPath)
 	return bFolder && Result.Len() > 1 ? Result + TEXT("/") : Result;
 }
 
-void FPaths::NormalizeFilename(FString& InPath)
-{
-	InPath.ReplaceCharInline(TEXT('\\'), TEXT('/'));
-}
-
 bool FPaths::FileExists(const FString& InPath)
 {
 	return HostFiles::FileExists(InPath);
-}
-
-bool FPaths::DirectoryExists(const FString& InPath)
-{
-	return HostFiles::DirectoryExists(InPath);
 }
 
 FString FPaths::CombineParts(const FStringView* Parts, int32 Num)

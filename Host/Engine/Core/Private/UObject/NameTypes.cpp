@@ -98,12 +98,6 @@ FString FName::ToString() const
 	return Result;
 }
 
-void FName::ToString(FString& Out) const
-{
-	Out.Reset();
-	AppendString(Out);
-}
-
 void FName::AppendString(FString& Out) const
 {
 	Out += FNamePool::Get().GetText(DisplayIndex);
@@ -119,31 +113,11 @@ FString FName::GetPlainNameString() const
 	return FString(FNamePool::Get().GetText(DisplayIndex));
 }
 
-uint32 FName::GetStringLength() const
-{
-	return static_cast<uint32>(ToString().Len());
-}
-
-int32 FName::Compare(const FName& Other) const
-{
-	if (ComparisonIndex == Other.ComparisonIndex)
-	{
-		const int32 Order = Number < Other.Number ? -1 : 1;
-		return Number == Other.Number ? 0 : Order;
-	}
-	return FNamePool::Get().GetText(ComparisonIndex).Compare(FNamePool::Get().GetText(Other.ComparisonIndex), ESearchCase::IgnoreCase);
-}
-
 bool FName::EqualsText(FStringView Text) const
 {
 	// An unknown text is no name at all, unless it is one that stands for None.
 	const FName Other(Text, FNAME_Find);
 	return *this == Other && (!Other.IsNone() || Text.IsEmpty() || Text.Equals(FStringView(TEXT("None")), ESearchCase::IgnoreCase));
-}
-
-bool FNameEntryId::LexicalLess(FNameEntryId Rhs) const
-{
-	return FNamePool::Get().GetText(*this).Compare(FNamePool::Get().GetText(Rhs), ESearchCase::IgnoreCase) < 0;
 }
 
 bool FName::IsValidXName(FStringView Name, FStringView InvalidChars, FText* OutReason)
@@ -176,9 +150,4 @@ bool FName::IsValidXName(FStringView Name, FStringView InvalidChars, FText* OutR
 bool FName::IsValidXName(FStringView InvalidChars, FText* OutReason) const
 {
 	return IsValidXName(FStringView(ToString()), InvalidChars, OutReason);
-}
-
-bool FName::IsValidObjectName(FText& OutReason) const
-{
-	return IsValidXName(FStringView(INVALID_OBJECTNAME_CHARACTERS), &OutReason);
 }

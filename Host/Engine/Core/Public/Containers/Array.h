@@ -54,44 +54,6 @@ namespace UE::Core::Private
 	};
 }
 
-/** Walks a container by index; RemoveCurrent() keeps its place, so the next ++ comes to the element that followed. */
-template<typename ContainerType, typename ElementType>
-class TIndexedContainerIterator
-{
-public:
-	explicit TIndexedContainerIterator(ContainerType& InContainer, int32 StartIndex = 0)
-		: Container(&InContainer)
-		, Index(StartIndex)
-	{
-	}
-
-	TIndexedContainerIterator& operator++()
-	{
-		++Index;
-		return *this;
-	}
-
-	TIndexedContainerIterator& operator--()
-	{
-		--Index;
-		return *this;
-	}
-
-	ElementType& operator*() const { return (*Container)[Index]; }
-	ElementType* operator->() const { return &(*Container)[Index]; }
-	explicit operator bool() const { return Container->IsValidIndex(Index); }
-	int32 GetIndex() const { return Index; }
-	void Reset() { Index = 0; }
-
-	/** Removes the element and keeps the order of the rest. */
-	void RemoveCurrent() { Container->RemoveAt(Index--); }
-	void RemoveCurrentSwap() { Container->RemoveAtSwap(Index--); }
-
-private:
-	ContainerType* Container;
-	int32 Index;
-};
-
 /**
  * A growable array. Access is range-checked; elements are moved, not copied, when it grows.
  * Growth is by half, so adding is constant on average. References to elements are good until the next change of length.
@@ -102,8 +64,6 @@ class TArray
 public:
 	using ElementType = InElementType;
 	using SizeType = int32;
-	using TIterator = TIndexedContainerIterator<TArray, ElementType>;
-	using TConstIterator = TIndexedContainerIterator<const TArray, const ElementType>;
 	using RangedForIteratorType = UE::Core::Private::TCheckedPointerIterator<ElementType>;
 	using RangedForConstIteratorType = UE::Core::Private::TCheckedPointerIterator<const ElementType>;
 
@@ -176,14 +136,12 @@ public:
 	// Reading
 
 	SizeType Num() const { return ArrayNum; }
-	SizeType Max() const { return ArrayMax; }
 	SizeType GetSlack() const { return ArrayMax - ArrayNum; }
 	bool IsEmpty() const { return ArrayNum == 0; }
 	bool IsValidIndex(SizeType Index) const { return Index >= 0 && Index < ArrayNum; }
 	void RangeCheck(SizeType Index) const { UE::Core::Private::CheckArrayIndex(Index, ArrayNum); }
 	ElementType* GetData() { return Data; }
 	const ElementType* GetData() const { return Data; }
-	static constexpr uint32 GetTypeSize() { return sizeof(ElementType); }
 
 	ElementType& operator[](SizeType Index)
 	{
@@ -199,8 +157,6 @@ public:
 
 	ElementType& Last(SizeType IndexFromTheEnd = 0) { return (*this)[ArrayNum - IndexFromTheEnd - 1]; }
 	const ElementType& Last(SizeType IndexFromTheEnd = 0) const { return (*this)[ArrayNum - IndexFromTheEnd - 1]; }
-	ElementType& Top() { return Last(); }
-	const ElementType& Top() const { return Last(); }
 
 	bool operator==(const TArray& Other) const
 	{
@@ -221,30 +177,6 @@ public:
 	// Searching: the first match counts, INDEX_NONE or null when there is none
 
 	SizeType Find(const ElementType& Item) const { return IndexOfByKey(Item); }
-
-	bool Find(const ElementType& Item, SizeType& OutIndex) const
-	{
-		OutIndex = Find(Item);
-		return OutIndex != INDEX_NONE;
-	}
-
-	SizeType FindLast(const ElementType& Item) const
-	{
-		return FindLastByPredicate([&Item](const ElementType& Element) { return Element == Item; });
-	}
-
-	template<typename PredicateType>
-	SizeType FindLastByPredicate(PredicateType Predicate) const
-	{
-		for (SizeType Index = ArrayNum - 1; Index >= 0; --Index)
-		{
-			if (Predicate(Data[Index]))
-			{
-				return Index;
-			}
-		}
-		return INDEX_NONE;
-	}
 
 	template<typename KeyType>
 	SizeType IndexOfByKey(const KeyType& Key) const
@@ -272,16 +204,17 @@ public:
 		return INDEX_NONE;
 	}
 
-	template<typename KeyType>
-	ElementType* FindByKey(const KeyType& Key)
+	template<typename PredicateType>
+	SizeType FindLastByPredicate(PredicateType Predicate) const
 	{
-		return PointerTo(IndexOfByKey(Key));
-	}
-
-	template<typename KeyType>
-	const ElementType* FindByKey(const KeyType& Key) const
-	{
-		return PointerTo(IndexOfByKey(Key));
+		for (SizeType Index = ArrayNum - 1; Index >= 0; --Index)
+		{
+			if (Predicate(static_cast<const ElementType&>(Data[Index])))
+			{
+				return Index;
+			}
+		}
+		return INDEX_NONE;
 	}
 
 	template<typename PredicateType>
@@ -335,9 +268,6 @@ public:
 		CheckAddress(&Item);
 		return Emplace(MoveTemp(Item));
 	}
-
-	void Push(const ElementType& Item) { Add(Item); }
-	void Push(ElementType&& Item) { Add(MoveTemp(Item)); }
 
 	ElementType& Add_GetRef(const ElementType& Item)
 	{
@@ -440,24 +370,6 @@ public:
 		}
 	}
 
-	TArray& operator+=(const TArray& Other)
-	{
-		Append(Other);
-		return *this;
-	}
-
-	TArray& operator+=(TArray&& Other)
-	{
-		Append(MoveTemp(Other));
-		return *this;
-	}
-
-	TArray& operator+=(std::initializer_list<ElementType> List)
-	{
-		Append(List);
-		return *this;
-	}
-
 	/** Before the element at Index; Index may be Num(). */
 	SizeType Insert(const ElementType& Item, SizeType Index)
 	{
@@ -471,49 +383,12 @@ public:
 		return EmplaceAt(Index, MoveTemp(Item));
 	}
 
-	SizeType Insert(const TArray& Items, SizeType Index) { return Insert(Items.Data, Items.ArrayNum, Index); }
-	SizeType Insert(std::initializer_list<ElementType> List, SizeType Index) { return Insert(List.begin(), static_cast<SizeType>(List.size()), Index); }
-
-	SizeType Insert(const ElementType* Ptr, SizeType Count, SizeType Index)
-	{
-		CheckAddress(Ptr);
-		InsertUninitialized(Index, Count);
-		for (SizeType Offset = 0; Offset < Count; ++Offset)
-		{
-			new (Data + Index + Offset) ElementType(Ptr[Offset]);
-		}
-		return Index;
-	}
-
-	ElementType& Insert_GetRef(const ElementType& Item, SizeType Index)
-	{
-		const SizeType Inserted = Insert(Item, Index); // first: it may move Data
-		return Data[Inserted];
-	}
-	ElementType& Insert_GetRef(ElementType&& Item, SizeType Index)
-	{
-		const SizeType Inserted = Insert(MoveTemp(Item), Index); // first: it may move Data
-		return Data[Inserted];
-	}
-
 	template<typename... ArgTypes>
 	SizeType EmplaceAt(SizeType Index, ArgTypes&&... Args)
 	{
 		InsertUninitialized(Index, 1);
 		new (Data + Index) ElementType(Forward<ArgTypes>(Args)...);
 		return Index;
-	}
-
-	void InsertDefaulted(SizeType Index, SizeType Count = 1)
-	{
-		InsertUninitialized(Index, Count);
-		DefaultConstructRange(Index, Count);
-	}
-
-	ElementType& InsertDefaulted_GetRef(SizeType Index)
-	{
-		InsertDefaulted(Index);
-		return Data[Index];
 	}
 
 	// Removing: the rest keeps its order, except with ...Swap, which moves elements from the end into the gap
@@ -526,21 +401,6 @@ public:
 		ArrayNum -= Count;
 		ShrinkIf(AllowShrinking);
 	}
-
-	void RemoveAt(SizeType Index, EAllowShrinking AllowShrinking) { RemoveAt(Index, 1, AllowShrinking); }
-
-	void RemoveAtSwap(SizeType Index, SizeType Count = 1, EAllowShrinking AllowShrinking = EAllowShrinking::Default)
-	{
-		UE::Core::Private::CheckArrayRange(Index, Count, ArrayNum);
-		DestroyRange(Index, Count);
-		const SizeType NumAfterGap = ArrayNum - Index - Count;
-		const SizeType NumToMove = Count < NumAfterGap ? Count : NumAfterGap;
-		RelocateRange(Data + Index, Data + ArrayNum - NumToMove, NumToMove);
-		ArrayNum -= Count;
-		ShrinkIf(AllowShrinking);
-	}
-
-	void RemoveAtSwap(SizeType Index, EAllowShrinking AllowShrinking) { RemoveAtSwap(Index, 1, AllowShrinking); }
 
 	/** Removes every element equal to Item; returns how many. */
 	SizeType Remove(const ElementType& Item)
@@ -558,23 +418,6 @@ public:
 		}
 		RemoveAt(Index);
 		return 1;
-	}
-
-	SizeType RemoveSingleSwap(const ElementType& Item)
-	{
-		const SizeType Index = Find(Item);
-		if (Index == INDEX_NONE)
-		{
-			return 0;
-		}
-		RemoveAtSwap(Index);
-		return 1;
-	}
-
-	SizeType RemoveSwap(const ElementType& Item)
-	{
-		CheckAddress(&Item);
-		return RemoveAllSwap([&Item](const ElementType& Element) { return Element == Item; });
 	}
 
 	template<typename PredicateType>
@@ -597,26 +440,6 @@ public:
 		}
 		ArrayNum = Write;
 		return OldNum - Write;
-	}
-
-	template<typename PredicateType>
-	SizeType RemoveAllSwap(const PredicateType& Predicate, EAllowShrinking AllowShrinking = EAllowShrinking::Default)
-	{
-		const SizeType OldNum = ArrayNum;
-		for (SizeType Index = 0; Index < ArrayNum;)
-		{
-			if (Predicate(Data[Index]))
-			{
-				RemoveAtSwap(Index, 1, EAllowShrinking::No);
-			}
-			else
-			{
-				++Index;
-			}
-		}
-		const SizeType NumRemoved = OldNum - ArrayNum;
-		ShrinkIf(AllowShrinking);
-		return NumRemoved;
 	}
 
 	/** Takes the last element out; there must be one. */
@@ -653,14 +476,6 @@ public:
 		}
 	}
 
-	void Shrink()
-	{
-		if (ArrayMax != ArrayNum)
-		{
-			Reallocate(ArrayNum);
-		}
-	}
-
 	/** New elements are default constructed. */
 	void SetNum(SizeType NewNum, EAllowShrinking AllowShrinking = EAllowShrinking::Default)
 	{
@@ -679,18 +494,6 @@ public:
 		if (NewNum > ArrayNum)
 		{
 			AddZeroed(NewNum - ArrayNum);
-		}
-		else
-		{
-			RemoveAt(NewNum, ArrayNum - NewNum, AllowShrinking);
-		}
-	}
-
-	void SetNumUninitialized(SizeType NewNum, EAllowShrinking AllowShrinking = EAllowShrinking::Default)
-	{
-		if (NewNum > ArrayNum)
-		{
-			AddUninitialized(NewNum - ArrayNum);
 		}
 		else
 		{
@@ -719,7 +522,7 @@ public:
 		}
 	}
 
-	/** By operator<, not stable. Elements that are pointers are compared by what they point to; so in all four. */
+	/** By operator<, not stable. Elements that are pointers are compared by what they point to; so in all three. */
 	void Sort() { Sort(TLess<>()); }
 
 	template<typename PredicateType>
@@ -728,8 +531,6 @@ public:
 		AlgoImpl::Sort(Data, ArrayNum, TDereferenceWrapper<ElementType, PredicateType>(Predicate));
 	}
 
-	void StableSort() { StableSort(TLess<>()); }
-
 	template<typename PredicateType>
 	void StableSort(const PredicateType& Predicate)
 	{
@@ -737,9 +538,6 @@ public:
 	}
 
 	// Iteration
-
-	TIterator CreateIterator() { return TIterator(*this); }
-	TConstIterator CreateConstIterator() const { return TConstIterator(*this); }
 
 	RangedForIteratorType begin() { return {ArrayNum, Data, ArrayNum}; }
 	RangedForIteratorType end() { return {ArrayNum, Data + ArrayNum, ArrayNum}; }

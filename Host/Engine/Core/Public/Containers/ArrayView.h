@@ -67,8 +67,6 @@ public:
 	}
 
 	SizeType Num() const { return ArrayNum; }
-	bool IsEmpty() const { return ArrayNum == 0; }
-	bool IsValidIndex(SizeType Index) const { return Index >= 0 && Index < ArrayNum; }
 	ElementType* GetData() const { return Data; }
 
 	ElementType& operator[](SizeType Index) const
@@ -77,56 +75,7 @@ public:
 		return Data[Index];
 	}
 
-	ElementType& Last(SizeType IndexFromTheEnd = 0) const { return (*this)[ArrayNum - IndexFromTheEnd - 1]; }
-
-	TArrayView Left(SizeType Count) const { return TArrayView(Data, ClampCount(Count)); }
 	TArrayView RightChop(SizeType Count) const { return TArrayView(Data + ClampCount(Count), ArrayNum - ClampCount(Count)); }
-
-	TArrayView Slice(SizeType Index, SizeType InNum) const
-	{
-		UE::Core::Private::CheckArrayRange(Index, InNum, ArrayNum);
-		return TArrayView(Data + Index, InNum);
-	}
-
-	/** Index of the first element equal to Item, INDEX_NONE when there is none. */
-	template<typename ComparisonType>
-	SizeType Find(const ComparisonType& Item) const
-	{
-		return IndexOfByPredicate([&Item](const ElementType& Element) { return Element == Item; });
-	}
-
-	template<typename ComparisonType>
-	bool Contains(const ComparisonType& Item) const
-	{
-		return Find(Item) != INDEX_NONE;
-	}
-
-	template<typename PredicateType>
-	SizeType IndexOfByPredicate(PredicateType Predicate) const
-	{
-		for (SizeType Index = 0; Index < ArrayNum; ++Index)
-		{
-			if (Predicate(static_cast<const ElementType&>(Data[Index])))
-			{
-				return Index;
-			}
-		}
-		return INDEX_NONE;
-	}
-
-	/** The first element that fits, null when there is none. */
-	template<typename PredicateType>
-	ElementType* FindByPredicate(PredicateType Predicate) const
-	{
-		const SizeType Index = IndexOfByPredicate(MoveTemp(Predicate));
-		return Index == INDEX_NONE ? nullptr : Data + Index;
-	}
-
-	template<typename PredicateType>
-	bool ContainsByPredicate(PredicateType Predicate) const
-	{
-		return IndexOfByPredicate(MoveTemp(Predicate)) != INDEX_NONE;
-	}
 
 	ElementType* begin() const { return Data; }
 	ElementType* end() const { return Data + ArrayNum; }
@@ -141,21 +90,3 @@ private:
 	ElementType* Data = nullptr;
 	SizeType ArrayNum = 0;
 };
-
-template<typename ElementType>
-TArrayView<ElementType> MakeArrayView(ElementType* Pointer, int32 Size)
-{
-	return TArrayView<ElementType>(Pointer, Size);
-}
-
-template<typename ContainerType>
-auto MakeArrayView(ContainerType&& Container)
-{
-	return TArrayView<std::remove_pointer_t<decltype(::GetData(Container))>>(Container);
-}
-
-template<typename ContainerType>
-auto MakeConstArrayView(ContainerType&& Container)
-{
-	return TArrayView<const std::remove_pointer_t<decltype(::GetData(Container))>>(Container);
-}

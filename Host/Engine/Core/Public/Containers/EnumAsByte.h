@@ -31,8 +31,6 @@ public:
 	}
 
 	operator TEnum() const { return static_cast<TEnum>(Value); }
-	TEnum GetValue() const { return static_cast<TEnum>(Value); }
-	uint8 GetIntValue() const { return Value; }
 
 	bool operator==(TEnum Other) const { return static_cast<TEnum>(Value) == Other; }
 	bool operator==(TEnumAsByte Other) const { return Value == Other.Value; }

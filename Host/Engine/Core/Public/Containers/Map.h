@@ -23,33 +23,7 @@ public:
 	using ValueType = InValueType;
 	using ElementType = TPair<InKeyType, InValueType>;
 
-	/** Walks the pairs and can remove them on the way. */
-	class TIterator : public TSet<ElementType, KeyFuncs>::TIterator
-	{
-	public:
-		explicit TIterator(TMapBase& Map)
-			: TSet<ElementType, KeyFuncs>::TIterator(Map.Pairs)
-		{
-		}
-
-		KeyType& Key() const { return (**this).Key; }
-		ValueType& Value() const { return (**this).Value; }
-	};
-
-	class TConstIterator : public TSet<ElementType, KeyFuncs>::TConstIterator
-	{
-	public:
-		explicit TConstIterator(const TMapBase& Map)
-			: TSet<ElementType, KeyFuncs>::TConstIterator(Map.Pairs)
-		{
-		}
-
-		const KeyType& Key() const { return (**this).Key; }
-		const ValueType& Value() const { return (**this).Value; }
-	};
-
 	int32 Num() const { return Pairs.Num(); }
-	bool IsEmpty() const { return Pairs.IsEmpty(); }
 	void Empty(int32 Slack = 0) { Pairs.Empty(Slack); }
 	void Reset() { Pairs.Reset(); }
 	void Reserve(int32 Number) { Pairs.Reserve(Number); }
@@ -70,12 +44,6 @@ public:
 		return Pairs[Pairs.Emplace(ElementType(Forward<ArgKeyType>(Key), Forward<ArgValueType>(Value)))].Value;
 	}
 
-	template<typename ArgKeyType>
-	ValueType& Emplace(ArgKeyType&& Key)
-	{
-		return Emplace(Forward<ArgKeyType>(Key), ValueType());
-	}
-
 	bool Contains(const KeyType& Key) const { return Pairs.Contains(Key); }
 
 	/** Null when there is none; the value added last when a multi map has several. */
@@ -93,13 +61,6 @@ public:
 		const ValueType* const Value = Find(Key);
 		return Value ? *Value : ValueType();
 	}
-
-	ValueType FindRef(const KeyType& Key, ValueType DefaultValue) const
-	{
-		const ValueType* const Value = Find(Key);
-		return Value ? *Value : DefaultValue;
-	}
-
 	ValueType& FindChecked(const KeyType& Key)
 	{
 		ValueType* const Value = Find(Key);
@@ -127,19 +88,6 @@ public:
 	{
 		ValueType* const Value = Find(Key);
 		return Value ? *Value : Emplace(Key, Forward<ArgValueType>(NewValue));
-	}
-
-	/** The first key with this value, in iteration order; null when there is none. */
-	const KeyType* FindKey(const ValueType& Value) const
-	{
-		for (const ElementType& Pair : Pairs)
-		{
-			if (Pair.Value == Value)
-			{
-				return &Pair.Key;
-			}
-		}
-		return nullptr;
 	}
 
 	/** Removes every pair with this key; returns how many. */
@@ -175,53 +123,7 @@ public:
 		return OutKeys.Num();
 	}
 
-	/** The keys of all pairs, in iteration order. */
-	void GenerateKeyArray(TArray<KeyType>& OutArray) const
-	{
-		OutArray.Empty(Num());
-		for (const ElementType& Pair : Pairs)
-		{
-			OutArray.Add(Pair.Key);
-		}
-	}
-
-	void GenerateValueArray(TArray<ValueType>& OutArray) const
-	{
-		OutArray.Empty(Num());
-		for (const ElementType& Pair : Pairs)
-		{
-			OutArray.Add(Pair.Value);
-		}
-	}
-
 	// Sorting changes the iteration order; keys and values that are pointers are compared by what they point to.
-
-	template<typename PredicateType>
-	void KeySort(const PredicateType& Predicate)
-	{
-		Pairs.Sort(ByKey(Predicate));
-	}
-
-	template<typename PredicateType>
-	void KeyStableSort(const PredicateType& Predicate)
-	{
-		Pairs.StableSort(ByKey(Predicate));
-	}
-
-	template<typename PredicateType>
-	void ValueSort(const PredicateType& Predicate)
-	{
-		Pairs.Sort(ByValue(Predicate));
-	}
-
-	template<typename PredicateType>
-	void ValueStableSort(const PredicateType& Predicate)
-	{
-		Pairs.StableSort(ByValue(Predicate));
-	}
-
-	TIterator CreateIterator() { return TIterator(*this); }
-	TConstIterator CreateConstIterator() const { return TConstIterator(*this); }
 
 	auto begin() { return Pairs.begin(); }
 	auto end() { return Pairs.end(); }
@@ -229,18 +131,6 @@ public:
 	auto end() const { return Pairs.end(); }
 
 protected:
-	template<typename PredicateType>
-	static auto ByKey(const PredicateType& Predicate)
-	{
-		return [Compare = TDereferenceWrapper<KeyType, PredicateType>(Predicate)](const ElementType& A, const ElementType& B) { return Compare(A.Key, B.Key); };
-	}
-
-	template<typename PredicateType>
-	static auto ByValue(const PredicateType& Predicate)
-	{
-		return [Compare = TDereferenceWrapper<ValueType, PredicateType>(Predicate)](const ElementType& A, const ElementType& B) { return Compare(A.Value, B.Value); };
-	}
-
 	TSet<ElementType, KeyFuncs> Pairs;
 };
 
@@ -298,60 +188,6 @@ public:
 			this->Add(Pair.Key, Pair.Value);
 		}
 	}
-
-	/** Moves the value out; returns whether the key was there. */
-	bool RemoveAndCopyValue(const KeyType& Key, ValueType& OutRemovedValue)
-	{
-		const FSetElementId Id = this->Pairs.FindId(Key);
-		if (!Id.IsValidId())
-		{
-			return false;
-		}
-		OutRemovedValue = MoveTemp(this->Pairs[Id].Value);
-		this->Pairs.Remove(Id);
-		return true;
-	}
-
-	ValueType FindAndRemoveChecked(const KeyType& Key)
-	{
-		const FSetElementId Id = this->Pairs.FindId(Key);
-		check(Id.IsValidId());
-		ValueType Result = MoveTemp(this->Pairs[Id].Value);
-		this->Pairs.Remove(Id);
-		return Result;
-	}
-
-	template<typename PredicateType>
-	TMap FilterByPredicate(PredicateType Predicate) const
-	{
-		TMap Result;
-		for (const ElementType& Pair : *this)
-		{
-			if (Predicate(Pair))
-			{
-				Result.Add(Pair.Key, Pair.Value);
-			}
-		}
-		return Result;
-	}
-
-	/** Whether both hold the same keys with the same values, in whatever order. */
-	bool OrderIndependentCompareEqual(const TMap& Other) const
-	{
-		if (this->Num() != Other.Num())
-		{
-			return false;
-		}
-		for (const ElementType& Pair : *this)
-		{
-			const ValueType* const Value = Other.Find(Pair.Key);
-			if (!Value || !(*Value == Pair.Value))
-			{
-				return false;
-			}
-		}
-		return true;
-	}
 };
 
 /** Any number of values per key. */
@@ -367,14 +203,6 @@ public:
 
 	TMultiMap() = default;
 
-	TMultiMap(std::initializer_list<ElementType> List)
-	{
-		for (const ElementType& Pair : List)
-		{
-			this->Add(Pair.Key, Pair.Value);
-		}
-	}
-
 	/** Appends the values of Key to OutValues: the one added last first, or in the order of adding. */
 	void MultiFind(const KeyType& Key, TArray<ValueType>& OutValues, bool bMaintainOrder = false) const
 	{
@@ -387,71 +215,5 @@ public:
 		{
 			OutValues.Swap(First, Last);
 		}
-	}
-
-	/** Number of values of Key. */
-	int32 Num(const KeyType& Key) const
-	{
-		int32 Result = 0;
-		this->Pairs.VisitMatches(Key, [&Result](FSetElementId) {
-			++Result;
-			return true;
-		});
-		return Result;
-	}
-
-	/** The value of an equal pair, null when there is none. */
-	const ValueType* FindPair(const KeyType& Key, const ValueType& Value) const
-	{
-		const FSetElementId Id = FindPairId(Key, Value);
-		return Id.IsValidId() ? &this->Pairs[Id].Value : nullptr;
-	}
-
-	ValueType& AddUnique(const KeyType& Key, const ValueType& Value)
-	{
-		const FSetElementId Id = FindPairId(Key, Value);
-		return Id.IsValidId() ? this->Pairs[Id].Value : this->Add(Key, Value);
-	}
-
-	/** Removes every pair with this key and value; returns how many. */
-	int32 Remove(const KeyType& Key, const ValueType& Value)
-	{
-		int32 NumRemoved = 0;
-		while (RemoveSingle(Key, Value) > 0)
-		{
-			++NumRemoved;
-		}
-		return NumRemoved;
-	}
-
-	/** Removes the pair added last of those with this key and value. */
-	int32 RemoveSingle(const KeyType& Key, const ValueType& Value)
-	{
-		const FSetElementId Id = FindPairId(Key, Value);
-		if (!Id.IsValidId())
-		{
-			return 0;
-		}
-		this->Pairs.Remove(Id);
-		return 1;
-	}
-
-	void Append(const TMultiMap& Other)
-	{
-		for (const ElementType& Pair : Other)
-		{
-			this->Add(Pair.Key, Pair.Value);
-		}
-	}
-
-private:
-	FSetElementId FindPairId(const KeyType& Key, const ValueType& Value) const
-	{
-		FSetElementId Found;
-		this->Pairs.VisitMatches(Key, [this, &Found, &Value](FSetElementId Id) {
-			Found = this->Pairs[Id].Value == Value ? Id : FSetElementId();
-			return !Found.IsValidId();
-		});
-		return Found;
 	}
 };

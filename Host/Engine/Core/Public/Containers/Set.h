@@ -38,7 +38,6 @@ public:
 		return Id;
 	}
 
-	bool IsValidId() const { return Index != INDEX_NONE; }
 	int32 AsInteger() const { return Index; }
 	bool operator==(const FSetElementId& Other) const = default;
 
@@ -101,35 +100,6 @@ class TSet
 		}
 	};
 
-	template<typename SetType, typename ItElementType>
-	class TBaseIterator
-	{
-	public:
-		explicit TBaseIterator(SetType& InSet, int32 StartIndex = 0)
-			: Set(&InSet)
-			, Index(InSet.NextUsed(StartIndex))
-		{
-		}
-
-		TBaseIterator& operator++()
-		{
-			Index = Set->NextUsed(Index + 1);
-			return *this;
-		}
-
-		ItElementType& operator*() const { return Set->Slots[Index].Element; }
-		ItElementType* operator->() const { return &Set->Slots[Index].Element; }
-		explicit operator bool() const { return Index < Set->Slots.Num(); }
-		FSetElementId GetId() const { return FSetElementId::FromInteger(Index); }
-
-		/** Only to be followed by ++: there is no current element any more. */
-		void RemoveCurrent() { Set->RemoveSlot(Index); }
-
-	private:
-		SetType* Set;
-		int32 Index;
-	};
-
 	/** For range-for: reports when the set grew or shrank while it is being walked. */
 	template<typename SetType, typename ItElementType>
 	class TRangedForIterator
@@ -169,8 +139,6 @@ public:
 	using ElementType = InElementType;
 	using KeyFuncsType = KeyFuncs;
 	using KeyType = typename KeyFuncs::KeyType;
-	using TIterator = TBaseIterator<TSet, ElementType>;
-	using TConstIterator = TBaseIterator<const TSet, const ElementType>;
 
 	TSet() = default;
 	TSet(const TSet&) = default;
@@ -221,9 +189,6 @@ public:
 	bool IsEmpty() const { return NumUsed == 0; }
 	bool IsValidId(FSetElementId Id) const { return Slots.IsValidIndex(Id.AsInteger()) && Slots[Id.AsInteger()].bUsed; }
 
-	/** One more than the highest slot in use; the ids of all elements are below. */
-	int32 GetMaxIndex() const { return Slots.Num(); }
-
 	ElementType& operator[](FSetElementId Id)
 	{
 		check(IsValidId(Id));
@@ -259,17 +224,6 @@ public:
 		return FSetElementId::FromInteger(AddSlot(MoveTemp(New), Hash));
 	}
 
-	/** Unlike Add, leaves an equal element as it is. */
-	ElementType& FindOrAdd(const ElementType& Element, bool* bIsAlreadyInSetPtr = nullptr)
-	{
-		const int32 Existing = FindSlot(KeyFuncs::GetSetKey(Element));
-		if (bIsAlreadyInSetPtr)
-		{
-			*bIsAlreadyInSetPtr = Existing != INDEX_NONE;
-		}
-		return Existing != INDEX_NONE ? Slots[Existing].Element : (*this)[Add(Element)];
-	}
-
 	template<typename ContainerType>
 	void Append(const ContainerType& Elements)
 	{
@@ -289,7 +243,6 @@ public:
 	}
 
 	bool Contains(const KeyType& Key) const { return FindSlot(Key) != INDEX_NONE; }
-	FSetElementId FindId(const KeyType& Key) const { return FSetElementId::FromInteger(FindSlot(Key)); }
 
 	/** Null when there is none. */
 	ElementType* Find(const KeyType& Key)
@@ -373,26 +326,6 @@ public:
 		}
 		return Result;
 	}
-
-	/** Sorts the slots, and closes the gaps of removed elements. Not stable. */
-	template<typename PredicateType>
-	void Sort(const PredicateType& Predicate)
-	{
-		TArray<ElementType> Elements = TakeElements();
-		Elements.Sort(Predicate);
-		TakeBack(Elements);
-	}
-
-	template<typename PredicateType>
-	void StableSort(const PredicateType& Predicate)
-	{
-		TArray<ElementType> Elements = TakeElements();
-		Elements.StableSort(Predicate);
-		TakeBack(Elements);
-	}
-
-	TIterator CreateIterator() { return TIterator(*this); }
-	TConstIterator CreateConstIterator() const { return TConstIterator(*this); }
 
 	auto begin() { return TRangedForIterator<TSet, ElementType>(*this, 0); }
 	auto end() { return TRangedForIterator<TSet, ElementType>(*this, Slots.Num()); }
@@ -491,27 +424,6 @@ private:
 		for (int32 Index = NextUsed(0); Index < Slots.Num(); Index = NextUsed(Index + 1))
 		{
 			LinkToBucket(Index);
-		}
-	}
-
-	TArray<ElementType> TakeElements()
-	{
-		TArray<ElementType> Elements;
-		Elements.Reserve(NumUsed);
-		for (ElementType& Element : *this)
-		{
-			Elements.Add(MoveTemp(Element));
-		}
-		Reset();
-		return Elements;
-	}
-
-	void TakeBack(TArray<ElementType>& Elements)
-	{
-		for (ElementType& Element : Elements)
-		{
-			const uint32 Hash = KeyFuncs::GetKeyHash(KeyFuncs::GetSetKey(Element));
-			AddSlot(MoveTemp(Element), Hash);
 		}
 	}
 

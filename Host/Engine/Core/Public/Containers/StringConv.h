@@ -13,7 +13,6 @@ class TStringConversion
 {
 public:
 	explicit TStringConversion(const FromType* Source);
-	TStringConversion(const FromType* Source, int32 SourceLen);
 	~TStringConversion();
 	TStringConversion(const TStringConversion&) = delete;
 	TStringConversion& operator=(const TStringConversion&) = delete;
@@ -21,7 +20,6 @@ public:
 	const ToType* Get() const { return Buffer; }
 	/** In units of ToType, without the terminator. */
 	int32 Length() const { return Len; }
-	operator const ToType*() const { return Buffer; }
 
 private:
 	void Convert(const FromType* Source, int32 SourceLen);

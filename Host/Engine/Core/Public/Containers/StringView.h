@@ -90,10 +90,8 @@ public:
 	constexpr TStringView Mid(int32 Position, int32 Count = MAX_int32) const { return RightChop(Position).Left(Count); }
 	constexpr void LeftInline(int32 Count) { *this = Left(Count); }
 	constexpr void LeftChopInline(int32 Count) { *this = LeftChop(Count); }
-	constexpr void RightInline(int32 Count) { *this = Right(Count); }
 	constexpr void RightChopInline(int32 Count) { *this = RightChop(Count); }
 	constexpr void RemovePrefix(int32 Count) { *this = RightChop(Count); }
-	constexpr void RemoveSuffix(int32 Count) { *this = LeftChop(Count); }
 
 	TStringView TrimStart() const
 	{
@@ -118,10 +116,6 @@ public:
 	bool Equals(TStringView Other, ESearchCase::Type SearchCase = ESearchCase::CaseSensitive) const
 	{
 		return UE::String::Private::Equals(Data, Size, Other.Data, Other.Size, SearchCase);
-	}
-	int32 Compare(TStringView Other, ESearchCase::Type SearchCase = ESearchCase::CaseSensitive) const
-	{
-		return UE::String::Private::Compare(Data, Size, Other.Data, Other.Size, SearchCase);
 	}
 	bool StartsWith(TStringView Prefix, ESearchCase::Type SearchCase = ESearchCase::IgnoreCase) const
 	{

@@ -33,9 +33,6 @@ public:
 	 */
 	CORE_API FDelegateHandle AddTicker(const FTickerDelegate& InDelegate, float InDelay = 0.0f);
 
-	/** InName is for people who look for a slow ticker. */
-	CORE_API FDelegateHandle AddTicker(const TCHAR* InName, float InDelay, TFunction<bool(float)> Function);
-
 	/** Also from inside a tick; what has been removed is not called any more. A handle that is gone does no harm. */
 	CORE_API static void RemoveTicker(FDelegateHandle Handle);
 

@@ -56,10 +56,6 @@ public:
 		return Data.GetData()[Index];
 	}
 
-	/** With the terminator; of an empty string, an empty array. */
-	TArray<TCHAR>& GetCharArray() { return Data; }
-	const TArray<TCHAR>& GetCharArray() const { return Data; }
-
 	// Ranges leave the terminator out.
 	TCHAR* begin() { return Data.GetData(); }
 	TCHAR* end() { return Data.GetData() + Len(); }
@@ -69,14 +65,12 @@ public:
 	void Empty(int32 Slack = 0) { Data.Empty(Slack ? Slack + 1 : 0); }
 	void Reset(int32 NewReservedSize = 0) { Data.Reset(NewReservedSize ? NewReservedSize + 1 : 0); }
 	void Reserve(int32 CharacterCount) { Data.Reserve(CharacterCount + 1); }
-	void Shrink() { Data.Shrink(); }
 
 	//~ Adding and removing
 
 	FString& Append(const TCHAR* Text, int32 Count);
 	FString& Append(FStringView Text) { return Append(Text.GetData(), Text.Len()); }
 	FString& AppendChar(TCHAR Char) { return Append(&Char, 1); }
-	void AppendChars(const TCHAR* Text, int32 Count) { Append(Text, Count); }
 	void AppendInt(int32 Number);
 
 	FString& operator+=(const FString& Text) { return Append(*Text, Text.Len()); }
@@ -111,17 +105,11 @@ public:
 	friend bool operator==(const FString& A, const FString& B) { return A.Equals(B, ESearchCase::IgnoreCase); }
 	friend bool operator==(const FString& A, const TCHAR* B) { return FStringView(A).Equals(FStringView(B), ESearchCase::IgnoreCase); }
 	friend bool operator<(const FString& A, const FString& B) { return A.Compare(B, ESearchCase::IgnoreCase) < 0; }
-	friend bool operator<=(const FString& A, const FString& B) { return A.Compare(B, ESearchCase::IgnoreCase) <= 0; }
-	friend bool operator>(const FString& A, const FString& B) { return A.Compare(B, ESearchCase::IgnoreCase) > 0; }
-	friend bool operator>=(const FString& A, const FString& B) { return A.Compare(B, ESearchCase::IgnoreCase) >= 0; }
 
 	friend uint32 GetTypeHash(const FString& String) { return UE::String::Private::HashIgnoringCase(*String, String.Len()); }
 
-	/** '*' stands for any characters, '?' for one; the whole string must match. */
-	bool MatchesWildcard(FStringView Wildcard, ESearchCase::Type SearchCase = ESearchCase::IgnoreCase) const;
 	/** Digits with at most one point and a sign in front. */
 	bool IsNumeric() const { return !IsEmpty() && FCString::IsNumeric(**this); }
-	bool ToBool() const { return FCString::ToBool(**this); }
 
 	//~ Searching: an empty text is found at once
 
@@ -169,18 +157,10 @@ public:
 	FString Mid(int32 Start, int32 Count = MAX_int32) const { return FString(FStringView(*this).Mid(Start, Count)); }
 	void LeftInline(int32 Count, EAllowShrinking AllowShrinking = EAllowShrinking::Default);
 	void LeftChopInline(int32 Count, EAllowShrinking AllowShrinking = EAllowShrinking::Default) { LeftInline(Len() - Count, AllowShrinking); }
-	void RightInline(int32 Count, EAllowShrinking AllowShrinking = EAllowShrinking::Default) { RightChopInline(Len() - Count, AllowShrinking); }
 	void RightChopInline(int32 Count, EAllowShrinking AllowShrinking = EAllowShrinking::Default);
-	void MidInline(int32 Start, int32 Count = MAX_int32, EAllowShrinking AllowShrinking = EAllowShrinking::Default);
 
-	FString TrimStart() const { return FString(FStringView(*this).TrimStart()); }
 	FString TrimEnd() const { return FString(FStringView(*this).TrimEnd()); }
 	FString TrimStartAndEnd() const { return FString(FStringView(*this).TrimStartAndEnd()); }
-	void TrimStartInline() { *this = TrimStart(); }
-	void TrimEndInline() { *this = TrimEnd(); }
-	void TrimStartAndEndInline() { *this = TrimStartAndEnd(); }
-	/** Takes one pair of double quotes away, each end for itself. */
-	FString TrimQuotes(bool* bQuotesRemoved = nullptr) const;
 
 	/** The parts between the delimiters; Out is emptied first. @return how many there are. */
 	int32 ParseIntoArray(TArray<FString>& Out, const TCHAR* Delimiter, bool InCullEmpty = true) const;
@@ -202,14 +182,9 @@ public:
 	FString Replace(const TCHAR* From, const TCHAR* To, ESearchCase::Type SearchCase = ESearchCase::IgnoreCase) const;
 	/** @return how many places were replaced. */
 	int32 ReplaceInline(const TCHAR* From, const TCHAR* To, ESearchCase::Type SearchCase = ESearchCase::IgnoreCase);
-	FString& ReplaceCharInline(TCHAR Search, TCHAR Replacement, ESearchCase::Type SearchCase = ESearchCase::IgnoreCase);
 	/** Line breaks, tabs, quotes and backslashes as \n \r \t \" \' \\, and back. */
 	FString ReplaceCharWithEscapedChar() const;
 	FString ReplaceEscapedCharWithChar() const;
-
-	FString LeftPad(int32 TotalLen) const;
-	FString RightPad(int32 TotalLen) const;
-	FString Reverse() const;
 
 	//~ Making strings
 
@@ -219,13 +194,6 @@ public:
 	{
 		const UE::Core::FFormatArgument Arguments[] = {Args..., UE::Core::FFormatArgument()};
 		return PrintfImpl(Format.Format, Arguments);
-	}
-
-	template<typename... Types>
-	FString& Appendf(UE::Core::TCheckedFormatString<TCHAR, Types...> Format, Types... Args)
-	{
-		const UE::Core::FFormatArgument Arguments[] = {Args..., UE::Core::FFormatArgument()};
-		return *this += PrintfImpl(Format.Format, Arguments);
 	}
 
 	static FString FromInt(int32 Number);
@@ -340,53 +308,4 @@ inline FString LexToString(uint32 Value)
 inline FString LexToString(float Value)
 {
 	return LexToString(static_cast<double>(Value));
-}
-
-inline void LexFromString(FString& OutValue, const TCHAR* Text)
-{
-	OutValue = Text;
-}
-inline void LexFromString(bool& OutValue, const TCHAR* Text)
-{
-	OutValue = FCString::ToBool(Text);
-}
-inline void LexFromString(int8& OutValue, const TCHAR* Text)
-{
-	OutValue = static_cast<int8>(FCString::Atoi(Text));
-}
-inline void LexFromString(int16& OutValue, const TCHAR* Text)
-{
-	OutValue = static_cast<int16>(FCString::Atoi(Text));
-}
-inline void LexFromString(int32& OutValue, const TCHAR* Text)
-{
-	OutValue = FCString::Atoi(Text);
-}
-inline void LexFromString(int64& OutValue, const TCHAR* Text)
-{
-	OutValue = FCString::Atoi64(Text);
-}
-inline void LexFromString(uint8& OutValue, const TCHAR* Text)
-{
-	OutValue = static_cast<uint8>(FCString::Atoi(Text));
-}
-inline void LexFromString(uint16& OutValue, const TCHAR* Text)
-{
-	OutValue = static_cast<uint16>(FCString::Atoi(Text));
-}
-inline void LexFromString(uint32& OutValue, const TCHAR* Text)
-{
-	OutValue = static_cast<uint32>(FCString::Atoi64(Text));
-}
-inline void LexFromString(uint64& OutValue, const TCHAR* Text)
-{
-	OutValue = FCString::Strtoui64(Text, nullptr, 0);
-}
-inline void LexFromString(float& OutValue, const TCHAR* Text)
-{
-	OutValue = FCString::Atof(Text);
-}
-inline void LexFromString(double& OutValue, const TCHAR* Text)
-{
-	OutValue = FCString::Atod(Text);
 }

@@ -11,8 +11,6 @@ public:
 	/** Bound, and what it is bound to still lives. */
 	bool IsBound() const { return Instance && Instance->IsSafeToExecute(); }
 
-	bool IsBoundToObject(const void* InUserObject) const { return Instance && Instance->HasSameObject(InUserObject); }
-	FDelegateHandle GetHandle() const { return Instance ? Instance->GetHandle() : FDelegateHandle(); }
 	CORE_API void Unbind();
 
 protected:

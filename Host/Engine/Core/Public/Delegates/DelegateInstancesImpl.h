@@ -112,14 +112,6 @@ namespace UE::Delegates::Private
 		}
 	};
 
-	/**
-	 * Calls a reflected function by name, with the parameters and then the payload. Core knows no reflection: the object
-	 * system completes this in UObject/ScriptDelegates.h with a constructor from FName and
-	 * `RetType operator()(UserClass* UserObject, ParamTypes... Params)`.
-	 */
-	template<typename FuncType>
-	class TScriptFunctionCall;
-
 	/** Owner, call and payload make a binding. */
 	template<typename FuncType, typename OwnerType, typename CallType, typename... VarTypes>
 	class TDelegateInstance;

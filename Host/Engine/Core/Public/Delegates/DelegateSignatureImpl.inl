@@ -6,67 +6,11 @@
 #include "Delegates/DelegateBase.h"
 #include "Delegates/MulticastDelegateBase.h"
 
-/** The exact type of a method that DelegateType can be bound to with a payload of VarTypes. */
-#define UE_PRIVATE_DELEGATE_METHOD(DelegateType, bConst) typename DelegateType::template TMethod<bConst, UserClass, VarTypes...>
-
-/** Declares Prefix##Lambda, Prefix##Raw, Prefix##SP ...: each makes a DelegateType, with the function of the same ending, and hands it to Sink. */
-#define UE_PRIVATE_DELEGATE_BINDERS(ResultType, Prefix, DelegateType, Sink) \
-	template<typename FunctorType, typename... VarTypes> \
-	ResultType Prefix##Lambda(FunctorType&& InFunctor, VarTypes&&... Vars) \
-	{ \
-		return Sink(DelegateType::CreateLambda(Forward<FunctorType>(InFunctor), Forward<VarTypes>(Vars)...)); \
-	} \
-	template<typename UserClass, typename FunctorType, typename... VarTypes> \
-	ResultType Prefix##WeakLambda(UserClass* InUserObject, FunctorType&& InFunctor, VarTypes&&... Vars) \
-	{ \
-		return Sink(DelegateType::CreateWeakLambda(InUserObject, Forward<FunctorType>(InFunctor), Forward<VarTypes>(Vars)...)); \
-	} \
-	template<typename OwnerType, typename FunctorType, typename... VarTypes> \
-	ResultType Prefix##SPLambda(const OwnerType& InOwner, FunctorType&& InFunctor, VarTypes&&... Vars) \
-	{ \
-		return Sink(DelegateType::CreateSPLambda(InOwner, Forward<FunctorType>(InFunctor), Forward<VarTypes>(Vars)...)); \
-	} \
-	template<typename... VarTypes> \
-	ResultType Prefix##Static(typename DelegateType::template TStaticFunction<VarTypes...> InFunc, VarTypes&&... Vars) \
-	{ \
-		return Sink(DelegateType::CreateStatic(InFunc, Forward<VarTypes>(Vars)...)); \
-	} \
-	UE_PRIVATE_DELEGATE_METHOD_BINDERS(ResultType, Prefix, DelegateType, Sink, Raw) \
-	UE_PRIVATE_DELEGATE_METHOD_BINDERS(ResultType, Prefix, DelegateType, Sink, SP) \
-	UE_PRIVATE_DELEGATE_METHOD_BINDERS(ResultType, Prefix, DelegateType, Sink, UObject) \
-	template<typename UserClass, ESPMode Mode, typename... VarTypes> \
-	ResultType Prefix##SP(const TSharedRef<UserClass, Mode>& InUserObject, UE_PRIVATE_DELEGATE_METHOD(DelegateType, false) InFunc, VarTypes&&... Vars) \
-	{ \
-		return Sink(DelegateType::CreateSP(InUserObject, InFunc, Forward<VarTypes>(Vars)...)); \
-	} \
-	template<typename UserClass, ESPMode Mode, typename... VarTypes> \
-	ResultType Prefix##SP(const TSharedRef<UserClass, Mode>& InUserObject, UE_PRIVATE_DELEGATE_METHOD(DelegateType, true) InFunc, VarTypes&&... Vars) \
-	{ \
-		return Sink(DelegateType::CreateSP(InUserObject, InFunc, Forward<VarTypes>(Vars)...)); \
-	} \
-	template<typename UserClass, typename NameType, typename... VarTypes> \
-	ResultType Prefix##UFunction(UserClass* InUserObject, const NameType& InFunctionName, VarTypes&&... Vars) \
-	{ \
-		return Sink(DelegateType::CreateUFunction(InUserObject, InFunctionName, Forward<VarTypes>(Vars)...)); \
-	}
-
-#define UE_PRIVATE_DELEGATE_METHOD_BINDERS(ResultType, Prefix, DelegateType, Sink, Kind) \
-	template<typename UserClass, typename... VarTypes> \
-	ResultType Prefix##Kind(UserClass* InUserObject, UE_PRIVATE_DELEGATE_METHOD(DelegateType, false) InFunc, VarTypes&&... Vars) \
-	{ \
-		return Sink(DelegateType::Create##Kind(InUserObject, InFunc, Forward<VarTypes>(Vars)...)); \
-	} \
-	template<typename UserClass, typename... VarTypes> \
-	ResultType Prefix##Kind(const UserClass* InUserObject, UE_PRIVATE_DELEGATE_METHOD(DelegateType, true) InFunc, VarTypes&&... Vars) \
-	{ \
-		return Sink(DelegateType::Create##Kind(InUserObject, InFunc, Forward<VarTypes>(Vars)...)); \
-	}
-
 /**
  * A callable of one signature bound to a method, function or lambda, or to nothing.
  *
  * Methods and static functions must have exactly the delegate's parameter types, followed by those of the payload (by value).
- * Lambdas only need to be callable. Weak kinds (SP, UObject, WeakLambda, SPLambda) count as unbound once their object is gone.
+ * Lambdas only need to be callable. Weak kinds (SP, UObject, WeakLambda) count as unbound once their object is gone.
  */
 template<typename FuncType>
 class TDelegate;
@@ -106,18 +50,6 @@ public:
 	[[nodiscard]] static TDelegate CreateWeakLambda(UserClass* InUserObject, FunctorType&& InFunctor, VarTypes&&... Vars)
 	{
 		return MakeFunctor(UE::Delegates::Private::TObjectOwner<UserClass>{InUserObject}, Forward<FunctorType>(InFunctor), Forward<VarTypes>(Vars)...);
-	}
-
-	template<typename UserClass, ESPMode Mode, typename FunctorType, typename... VarTypes>
-	[[nodiscard]] static TDelegate CreateSPLambda(const TSharedRef<UserClass, Mode>& InUserObject, FunctorType&& InFunctor, VarTypes&&... Vars)
-	{
-		return MakeFunctor(UE::Delegates::Private::TSharedOwner<UserClass, Mode>{InUserObject}, Forward<FunctorType>(InFunctor), Forward<VarTypes>(Vars)...);
-	}
-
-	template<typename UserClass, typename FunctorType, typename... VarTypes>
-	[[nodiscard]] static TDelegate CreateSPLambda(UserClass* InUserObject, FunctorType&& InFunctor, VarTypes&&... Vars)
-	{
-		return CreateSPLambda(SharedFrom(InUserObject), Forward<FunctorType>(InFunctor), Forward<VarTypes>(Vars)...);
 	}
 
 	template<typename... VarTypes>
@@ -178,18 +110,6 @@ public:
 		return MakeMethod(UE::Delegates::Private::TObjectOwner<UserClass>{const_cast<UserClass*>(InUserObject)}, InFunc, Forward<VarTypes>(Vars)...);
 	}
 
-	/** Calls a reflected function by name; needs UObject/ScriptDelegates.h. */
-	template<typename UserClass, typename NameType, typename... VarTypes>
-	[[nodiscard]] static TDelegate CreateUFunction(UserClass* InUserObject, const NameType& InFunctionName, VarTypes&&... Vars)
-	{
-		using FCall = UE::Delegates::Private::TScriptFunctionCall<InRetValType(ParamTypes..., std::decay_t<VarTypes>...)>;
-		return Make(UE::Delegates::Private::TObjectOwner<UserClass>{InUserObject}, FCall(InFunctionName), Forward<VarTypes>(Vars)...);
-	}
-
-	// BindRaw, BindSP, ... replace what was bound
-
-	UE_PRIVATE_DELEGATE_BINDERS(void, Bind, TDelegate, Rebind)
-
 	/** There must be a binding, and what it is bound to must live. */
 	RetValType Execute(ParamTypes... Params) const
 	{
@@ -217,8 +137,6 @@ private:
 		: FDelegateBase(InInstance)
 	{
 	}
-
-	void Rebind(TDelegate&& Other) { *this = MoveTemp(Other); }
 
 	template<typename OwnerType, typename CallType, typename... VarTypes>
 	static TDelegate Make(const OwnerType& Owner, CallType&& Call, VarTypes&&... Vars)
@@ -266,7 +184,35 @@ public:
 	FDelegateHandle Add(FDelegate&& InNewDelegate) { return this->AddDelegate(MoveTemp(InNewDelegate)); }
 	FDelegateHandle Add(const FDelegate& InNewDelegate) { return this->AddDelegate(InNewDelegate); }
 
-	UE_PRIVATE_DELEGATE_BINDERS(FDelegateHandle, Add, FDelegate, Add)
+	template<typename FunctorType, typename... VarTypes>
+	FDelegateHandle AddLambda(FunctorType&& InFunctor, VarTypes&&... Vars)
+	{
+		return Add(FDelegate::CreateLambda(Forward<FunctorType>(InFunctor), Forward<VarTypes>(Vars)...));
+	}
+
+	template<typename UserClass, typename FunctorType, typename... VarTypes>
+	FDelegateHandle AddWeakLambda(UserClass* InUserObject, FunctorType&& InFunctor, VarTypes&&... Vars)
+	{
+		return Add(FDelegate::CreateWeakLambda(InUserObject, Forward<FunctorType>(InFunctor), Forward<VarTypes>(Vars)...));
+	}
+
+	template<typename UserClass, typename... VarTypes>
+	FDelegateHandle AddRaw(UserClass* InUserObject, typename FDelegate::template TMethod<false, UserClass, VarTypes...> InFunc, VarTypes&&... Vars)
+	{
+		return Add(FDelegate::CreateRaw(InUserObject, InFunc, Forward<VarTypes>(Vars)...));
+	}
+
+	template<typename UserClass, typename... VarTypes>
+	FDelegateHandle AddSP(UserClass* InUserObject, typename FDelegate::template TMethod<false, UserClass, VarTypes...> InFunc, VarTypes&&... Vars)
+	{
+		return Add(FDelegate::CreateSP(InUserObject, InFunc, Forward<VarTypes>(Vars)...));
+	}
+
+	template<typename UserClass, typename... VarTypes>
+	FDelegateHandle AddUObject(UserClass* InUserObject, typename FDelegate::template TMethod<false, UserClass, VarTypes...> InFunc, VarTypes&&... Vars)
+	{
+		return Add(FDelegate::CreateUObject(InUserObject, InFunc, Forward<VarTypes>(Vars)...));
+	}
 
 	void Broadcast(ParamTypes... Params) const
 	{

@@ -20,9 +20,6 @@ public:
 	{
 	}
 
-	bool IsValid() const { return Id != 0; }
-	void Reset() { Id = 0; }
-
 	bool operator==(const FDelegateHandle& Other) const = default;
 	[[nodiscard]] friend uint32 GetTypeHash(const FDelegateHandle& Handle) { return GetTypeHash(Handle.Id); }
 

@@ -20,8 +20,6 @@ public:
 	/** Whether any binding could be called. */
 	CORE_API bool IsBound() const;
 
-	CORE_API bool IsBoundToObject(const void* InUserObject) const;
-
 	/** Returns whether the handle was in the list. */
 	CORE_API bool Remove(FDelegateHandle Handle);
 
@@ -48,7 +46,6 @@ protected:
 private:
 	class FBroadcastScope;
 
-	void CopyFrom(const FMulticastDelegateBase& Other);
 	void Compact() const;
 
 	mutable TArray<IDelegateInstance*> Invocations; // owned; null where a binding was removed during a broadcast

@@ -98,32 +98,17 @@ public:
 	/** With the arguments in order: texts and numbers. A string or a name has to be made a text first. */
 	template<typename... ArgTypes>
 	requires(std::is_constructible_v<FFormatArgumentValue, ArgTypes>&&...) static FText Format(FTextFormat Fmt, ArgTypes&&... Args);
-	template<typename... ArgTypes>
-	requires(std::is_constructible_v<FFormatArgumentValue, ArgTypes>&&...) static FText FormatOrdered(FTextFormat Fmt, ArgTypes&&... Args);
-	/** With names and values in turn. */
-	template<typename... ArgTypes>
-	static FText FormatNamed(FTextFormat Fmt, ArgTypes&&... Args);
 
 	const FString& ToString() const;
-	/** The source string as the developer wrote it. */
-	FString BuildSourceString() const { return ToString(); }
 
 	bool IsEmpty() const { return ToString().IsEmpty(); }
-	bool IsEmptyOrWhitespace() const;
 	bool IsCultureInvariant() const { return HasFlag(ETextFlag::CultureInvariant); }
-	bool IsInitializedFromString() const { return HasFlag(ETextFlag::InitializedFromString); }
-	/** Generated from others: not to be saved as a text to translate. */
-	bool IsTransient() const { return HasFlag(ETextFlag::Transient); }
 
 	/** Compares what is displayed. */
 	int32 CompareTo(const FText& Other, ETextComparisonLevel::Type Level = ETextComparisonLevel::Default) const;
-	int32 CompareToCaseIgnored(const FText& Other) const { return CompareTo(Other, ETextComparisonLevel::Secondary); }
 	bool EqualTo(const FText& Other, ETextComparisonLevel::Type Level = ETextComparisonLevel::Default) const { return CompareTo(Other, Level) == 0; }
-	bool EqualToCaseIgnored(const FText& Other) const { return EqualTo(Other, ETextComparisonLevel::Secondary); }
 	/** Whether both are copies of one text, or the same localizable text. */
 	bool IdenticalTo(const FText& Other) const;
-
-	static FText TrimPrecedingAndTrailing(const FText& Text);
 
 private:
 	friend class FTextInspector;
@@ -145,7 +130,6 @@ public:
 	static TOptional<FString> GetKey(const FText& Text);
 	static FTextId GetTextId(const FText& Text);
 	static const FString* GetSourceString(const FText& Text);
-	static const FString& GetDisplayString(const FText& Text) { return Text.ToString(); }
 };
 
 /** Texts as assets and configuration files write them: NSLOCTEXT("Namespace", "Key", "Source"), INVTEXT("Text"), or just the text. */

@@ -58,8 +58,6 @@ public:
 	{
 	}
 
-	EFormatArgumentType::Type GetType() const { return Type; }
-	const FText& GetTextValue() const { return TextValue; }
 	/** As it is displayed; numbers have digit groups. */
 	FString ToFormattedString() const;
 
@@ -79,13 +77,8 @@ public:
 		: Source(InText)
 	{
 	}
-	static FTextFormat FromString(const FString& InString) { return FTextFormat(FText::FromString(InString)); }
-	static FTextFormat FromString(FString&& InString) { return FTextFormat(FText::FromString(MoveTemp(InString))); }
 
-	const FText& GetSourceText() const { return Source; }
 	const FString& GetSourceString() const { return Source.ToString(); }
-	/** The names between braces, each once, in the order in which they appear. */
-	void GetFormatArgumentNames(TArray<FString>& OutArgumentNames) const;
 
 private:
 	FText Source;
@@ -98,35 +91,5 @@ requires(std::is_constructible_v<FFormatArgumentValue, ArgTypes>&&...)
 	FFormatOrderedArguments Arguments;
 	Arguments.Reserve(sizeof...(Args));
 	(Arguments.Emplace(Forward<ArgTypes>(Args)), ...);
-	return Format(MoveTemp(Fmt), Arguments);
-}
-
-template<typename... ArgTypes>
-requires(std::is_constructible_v<FFormatArgumentValue, ArgTypes>&&...)
-	FText FText::FormatOrdered(FTextFormat Fmt, ArgTypes&&... Args)
-{
-	return Format(MoveTemp(Fmt), Forward<ArgTypes>(Args)...);
-}
-
-namespace UE::Text::Private
-{
-	inline void AddNamedArguments(FFormatNamedArguments&)
-	{
-	}
-
-	template<typename NameType, typename ValueType, typename... Rest>
-	void AddNamedArguments(FFormatNamedArguments& Out, NameType&& Name, ValueType&& Value, Rest&&... Others)
-	{
-		Out.Add(FString(Forward<NameType>(Name)), FFormatArgumentValue(Forward<ValueType>(Value)));
-		AddNamedArguments(Out, Forward<Rest>(Others)...);
-	}
-}
-
-template<typename... ArgTypes>
-FText FText::FormatNamed(FTextFormat Fmt, ArgTypes&&... Args)
-{
-	static_assert(sizeof...(Args) % 2 == 0, "Names and values come in pairs.");
-	FFormatNamedArguments Arguments;
-	UE::Text::Private::AddNamedArguments(Arguments, Forward<ArgTypes>(Args)...);
 	return Format(MoveTemp(Fmt), Arguments);
 }

@@ -27,7 +27,6 @@ public:
 	{
 	}
 
-	const TCHAR* GetChars() const { return *Text; }
 	const FString& ToString() const { return Text; }
 	bool IsEmpty() const { return Text.IsEmpty(); }
 
@@ -49,8 +48,6 @@ public:
 	{
 	}
 
-	const FTextKey& GetNamespace() const { return Namespace; }
-	const FTextKey& GetKey() const { return Key; }
 	bool IsEmpty() const { return Namespace.IsEmpty() && Key.IsEmpty(); }
 
 	friend bool operator==(const FTextId& A, const FTextId& B) { return A.Namespace == B.Namespace && A.Key == B.Key; }

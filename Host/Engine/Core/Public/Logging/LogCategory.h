@@ -14,10 +14,8 @@ public:
 
 	const FName& GetCategoryName() const { return CategoryName; }
 	bool IsSuppressed(ELogVerbosity::Type Level) const { return Level > Verbosity; }
-	ELogVerbosity::Type GetVerbosity() const { return Verbosity; }
 	/** Never beyond what has been compiled in. */
 	void SetVerbosity(ELogVerbosity::Type NewVerbosity);
-	ELogVerbosity::Type GetCompileTimeVerbosity() const { return CompileTimeVerbosity; }
 
 private:
 	ELogVerbosity::Type Verbosity;

@@ -39,11 +39,9 @@ struct FLinearColor
 	}
 	/** From sRGB to linear light; opacity is scaled only. */
 	FLinearColor(const FColor& Color);
-	static FLinearColor FromSRGBColor(const FColor& Color);
 
 	/** Clamped to [0, 1] and rounded; with bSRGB the channels, not the opacity, go back to sRGB. */
 	FColor ToFColor(bool bSRGB) const;
-	FColor ToFColorSRGB() const;
 	/** Without any curve. */
 	FColor QuantizeRound() const;
 
@@ -117,20 +115,13 @@ struct FColor
 
 	friend constexpr bool operator==(const FColor& C, const FColor& D) { return C.R == D.R && C.G == D.G && C.B == D.B && C.A == D.A; }
 
-	constexpr FColor WithAlpha(uint8 Alpha) const { return FColor(R, G, B, Alpha); }
-	/** Channels scaled to [0, 1], without any curve. */
-	constexpr FLinearColor ReinterpretAsLinear() const { return FLinearColor(R / 255.f, G / 255.f, B / 255.f, A / 255.f); }
 	constexpr uint32 ToPackedARGB() const { return (uint32(A) << 24) | (uint32(R) << 16) | (uint32(G) << 8) | uint32(B); }
 
 	/** "RRGGBBAA" */
 	FString ToHex() const;
-	/** "RGB", "RRGGBB" or "RRGGBBAA", with or without '#'; anything else gives black without opacity. */
-	static FColor FromHex(const FString& HexString);
 
 	/** "(R=255,G=128,B=0,A=255)" */
 	FString ToString() const;
-	/** Starts from opaque black. @return whether R, G and B were there; A is optional. */
-	bool InitFromString(const FString& InSourceString);
 
 	friend uint32 GetTypeHash(const FColor& C) { return C.ToPackedARGB(); }
 };

@@ -30,15 +30,10 @@ namespace UE::Math
 			, W(InW)
 		{
 		}
-		explicit TQuat(const TRotator<T>& Rotator)
-			: TQuat(Rotator.Quaternion())
-		{
-		}
 
 		/** First Q, then this. */
 		TQuat operator*(const TQuat& Q) const;
 		TVector<T> RotateVector(const TVector<T>& V) const;
-		constexpr TQuat Inverse() const { return TQuat(-X, -Y, -Z, W); }
 		TRotator<T> Rotator() const;
 
 		friend constexpr bool operator==(const TQuat& A, const TQuat& B) { return A.X == B.X && A.Y == B.Y && A.Z == B.Z && A.W == B.W; }

@@ -43,16 +43,10 @@ namespace UE::Math
 		}
 
 		constexpr TVector<T> GetLocation() const { return Translation; }
-		constexpr TVector<T> GetTranslation() const { return Translation; }
-		constexpr TQuat<T> GetRotation() const { return Rotation; }
 		constexpr TVector<T> GetScale3D() const { return Scale3D; }
 		TRotator<T> Rotator() const { return Rotation.Rotator(); }
 		void SetLocation(const TVector<T>& NewLocation) { Translation = NewLocation; }
-		void SetTranslation(const TVector<T>& NewTranslation) { Translation = NewTranslation; }
 		void SetRotation(const TQuat<T>& NewRotation) { Rotation = NewRotation; }
-		void SetScale3D(const TVector<T>& NewScale3D) { Scale3D = NewScale3D; }
-
-		TVector<T> TransformPosition(const TVector<T>& V) const { return Rotation.RotateVector(Scale3D * V) + Translation; }
 
 		/** Exact equality has no operator: rotations are rarely exact. */
 		constexpr bool Equals(const TTransform& Other, T Tolerance = UE_KINDA_SMALL_NUMBER) const

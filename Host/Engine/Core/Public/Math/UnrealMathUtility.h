@@ -44,43 +44,16 @@ struct FMath
 		}
 		return High < X ? High : X;
 	}
-	template<typename T>
-	static constexpr T Square(const T A)
-	{
-		return A * A;
-	}
-	template<typename T, typename U>
-	static constexpr T Lerp(const T& A, const T& B, const U& Alpha)
-	{
-		return static_cast<T>(A + Alpha * (B - A));
-	}
 
 	static constexpr bool IsNearlyEqual(float A, float B, float ErrorTolerance = UE_SMALL_NUMBER) { return Abs(A - B) <= ErrorTolerance; }
 	static constexpr bool IsNearlyEqual(double A, double B, double ErrorTolerance = UE_DOUBLE_SMALL_NUMBER) { return Abs(A - B) <= ErrorTolerance; }
-	static constexpr bool IsNearlyZero(float Value, float ErrorTolerance = UE_SMALL_NUMBER) { return Abs(Value) <= ErrorTolerance; }
-	static constexpr bool IsNearlyZero(double Value, double ErrorTolerance = UE_DOUBLE_SMALL_NUMBER) { return Abs(Value) <= ErrorTolerance; }
 
 	/** Halves go up: -0.5 becomes 0. */
 	static int32 RoundToInt(float Value) { return FloorToInt(Value + 0.5f); }
 	static int64 RoundToInt(double Value) { return FloorToInt(Value + 0.5); }
-	static int32 RoundToInt32(double Value) { return static_cast<int32>(RoundToInt(Value)); }
 	static int32 FloorToInt(float Value) { return static_cast<int32>(std::floor(Value)); }
 	static int64 FloorToInt(double Value) { return static_cast<int64>(std::floor(Value)); }
-	static int32 FloorToInt32(double Value) { return static_cast<int32>(FloorToInt(Value)); }
-	static int32 CeilToInt(float Value) { return static_cast<int32>(std::ceil(Value)); }
-	static int64 CeilToInt(double Value) { return static_cast<int64>(std::ceil(Value)); }
-	static int32 TruncToInt(float Value) { return static_cast<int32>(Value); }
 
-	template<typename T>
-	static constexpr T DivideAndRoundUp(T Dividend, T Divisor)
-	{
-		return (Dividend + Divisor - 1) / Divisor;
-	}
-
-	static float Sqrt(float Value) { return std::sqrt(Value); }
-	static double Sqrt(double Value) { return std::sqrt(Value); }
-	static float Pow(float A, float B) { return std::pow(A, B); }
-	static double Pow(double A, double B) { return std::pow(A, B); }
 	template<typename T>
 	static constexpr T DegreesToRadians(T Degrees)
 	{
@@ -91,6 +64,4 @@ struct FMath
 	{
 		return static_cast<T>(Radians * (180.0 / UE_DOUBLE_PI));
 	}
-	static float Fmod(float X, float Y) { return std::fmod(X, Y); }
-	static double Fmod(double X, double Y) { return std::fmod(X, Y); }
 };

@@ -71,31 +71,16 @@ namespace UE::Math
 		{
 			return FMath::Abs(X - V.X) <= Tolerance && FMath::Abs(Y - V.Y) <= Tolerance && FMath::Abs(Z - V.Z) <= Tolerance;
 		}
-		constexpr bool IsZero() const { return X == T(0) && Y == T(0) && Z == T(0); }
-		constexpr bool IsNearlyZero(T Tolerance = UE_KINDA_SMALL_NUMBER) const { return Equals(TVector(T(0)), Tolerance); }
 
-		constexpr T SizeSquared() const { return X * X + Y * Y + Z * Z; }
-		T Size() const { return FMath::Sqrt(SizeSquared()); }
-		T Length() const { return Size(); }
-		static T Dist(const TVector& A, const TVector& B) { return (A - B).Size(); }
-		static constexpr T DotProduct(const TVector& A, const TVector& B) { return A.X * B.X + A.Y * B.Y + A.Z * B.Z; }
 		static constexpr TVector CrossProduct(const TVector& A, const TVector& B)
 		{
 			return TVector(A.Y * B.Z - A.Z * B.Y, A.Z * B.X - A.X * B.Z, A.X * B.Y - A.Y * B.X);
-		}
-		/** Zero when too short to have a direction. */
-		TVector GetSafeNormal(T Tolerance = UE_SMALL_NUMBER) const
-		{
-			const T Squared = SizeSquared();
-			return Squared < Tolerance ? TVector(T(0)) : *this / FMath::Sqrt(Squared);
 		}
 
 		/** "X=1.000 Y=2.000 Z=3.000" */
 		FString ToString() const;
 		/** @return whether all three were there. */
 		bool InitFromString(const FString& InSourceString);
-
-		friend uint32 GetTypeHash(const TVector& V) { return HashCombine(HashCombine(::GetTypeHash(V.X), ::GetTypeHash(V.Y)), ::GetTypeHash(V.Z)); }
 	};
 
 	template<typename T>

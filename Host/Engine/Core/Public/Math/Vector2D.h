@@ -70,29 +70,10 @@ namespace UE::Math
 		{
 			return FMath::Abs(X - V.X) <= Tolerance && FMath::Abs(Y - V.Y) <= Tolerance;
 		}
-		constexpr bool IsZero() const { return X == T(0) && Y == T(0); }
-		constexpr bool IsNearlyZero(T Tolerance = UE_KINDA_SMALL_NUMBER) const { return Equals(TVector2(T(0)), Tolerance); }
-
-		constexpr T SizeSquared() const { return X * X + Y * Y; }
-		T Size() const { return FMath::Sqrt(SizeSquared()); }
-		T Length() const { return Size(); }
-		FIntPoint IntPoint() const { return FIntPoint(FMath::RoundToInt32(X), FMath::RoundToInt32(Y)); }
-
-		/** "X=1.000 Y=2.000" */
-		FString ToString() const;
-		/** @return whether both were there. */
-		bool InitFromString(const FString& InSourceString);
-
-		friend uint32 GetTypeHash(const TVector2& V) { return HashCombine(::GetTypeHash(V.X), ::GetTypeHash(V.Y)); }
 	};
 
 	template<typename T>
 	inline constexpr TVector2<T> TVector2<T>::ZeroVector(0, 0);
 	template<typename T>
 	inline constexpr TVector2<T> TVector2<T>::UnitVector(1, 1);
-
-	extern template FString TVector2<float>::ToString() const;
-	extern template FString TVector2<double>::ToString() const;
-	extern template bool TVector2<float>::InitFromString(const FString&);
-	extern template bool TVector2<double>::InitFromString(const FString&);
 }

@@ -66,18 +66,6 @@ public:
 		return TAttribute(FromGetter, FGetter::CreateLambda(Forward<FunctorType>(InFunctor), Forward<VarTypes>(Vars)...));
 	}
 
-	template<typename UserClass, typename FunctorType, typename... VarTypes>
-	[[nodiscard]] static TAttribute CreateWeakLambda(UserClass* InUserObject, FunctorType&& InFunctor, VarTypes&&... Vars)
-	{
-		return TAttribute(FromGetter, FGetter::CreateWeakLambda(InUserObject, Forward<FunctorType>(InFunctor), Forward<VarTypes>(Vars)...));
-	}
-
-	template<typename OwnerType, typename FunctorType, typename... VarTypes>
-	[[nodiscard]] static TAttribute CreateSPLambda(const OwnerType& InOwner, FunctorType&& InFunctor, VarTypes&&... Vars)
-	{
-		return TAttribute(FromGetter, FGetter::CreateSPLambda(InOwner, Forward<FunctorType>(InFunctor), Forward<VarTypes>(Vars)...));
-	}
-
 	template<typename... VarTypes>
 	[[nodiscard]] static TAttribute CreateStatic(typename FGetter::template TStaticFunction<VarTypes...> InFunc, VarTypes&&... Vars)
 	{
@@ -85,12 +73,6 @@ public:
 	}
 
 	// Getters are const methods.
-
-	template<typename UserClass, typename... VarTypes>
-	[[nodiscard]] static TAttribute CreateRaw(const UserClass* InUserObject, typename FGetter::template TMethod<true, UserClass, VarTypes...> InMethod, VarTypes&&... Vars)
-	{
-		return TAttribute(FromGetter, FGetter::CreateRaw(InUserObject, InMethod, Forward<VarTypes>(Vars)...));
-	}
 
 	template<typename UserClass, typename... VarTypes>
 	[[nodiscard]] static TAttribute CreateSP(const UserClass* InUserObject, typename FGetter::template TMethod<true, UserClass, VarTypes...> InMethod, VarTypes&&... Vars)
@@ -108,22 +90,6 @@ public:
 	[[nodiscard]] static TAttribute CreateUObject(const UserClass* InUserObject, typename FGetter::template TMethod<true, UserClass, VarTypes...> InMethod, VarTypes&&... Vars)
 	{
 		return TAttribute(FromGetter, FGetter::CreateUObject(InUserObject, InMethod, Forward<VarTypes>(Vars)...));
-	}
-
-	/** Replaces value or getter by a value. */
-	template<typename OtherType>
-	void Set(OtherType&& InNewValue)
-	{
-		Getter.Unbind();
-		Value = Forward<OtherType>(InNewValue);
-		bIsSet = true;
-	}
-
-	/** Replaces value or getter by a getter. */
-	void Bind(const FGetter& InGetter)
-	{
-		bIsSet = true;
-		Getter = InGetter;
 	}
 
 	/** Whether a value or a getter was given. */
@@ -144,8 +110,6 @@ public:
 
 	/** DefaultValue when nothing is set; it must then outlive the use of the result. */
 	const ObjectType& Get(const ObjectType& DefaultValue) const { return bIsSet ? Get() : DefaultValue; }
-
-	const FGetter& GetBinding() const { return Getter; }
 
 private:
 	enum EFromGetter

@@ -15,15 +15,10 @@ struct FChar
 
 	static bool IsUpper(TCHAR Char);
 	static bool IsLower(TCHAR Char);
-	static bool IsAlpha(TCHAR Char);
 	static bool IsAlnum(TCHAR Char);
-	static bool IsPunct(TCHAR Char);
 	static bool IsDigit(TCHAR Char) { return Char >= '0' && Char <= '9'; }
 	static bool IsHexDigit(TCHAR Char) { return IsDigit(Char) || (Char >= 'a' && Char <= 'f') || (Char >= 'A' && Char <= 'F'); }
 	static bool IsWhitespace(TCHAR Char) { return Char < 0x80 ? (Char == ' ' || (Char >= 0x09 && Char <= 0x0d)) : IsWhitespaceWide(Char); }
-	static bool IsLinebreak(TCHAR Char) { return (Char >= 0x0a && Char <= 0x0d) || Char == 0x85 || Char == 0x2028 || Char == 0x2029; }
-	static bool IsUnderscore(TCHAR Char) { return Char == '_'; }
-	static bool IsIdentifier(TCHAR Char) { return IsAlnum(Char) || IsUnderscore(Char); }
 
 	/** The value of a decimal digit; of nothing else. */
 	static int32 ConvertCharDigitToInt(TCHAR Char) { return static_cast<int32>(Char) - '0'; }

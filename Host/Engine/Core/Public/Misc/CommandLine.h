@@ -11,6 +11,4 @@ struct FCommandLine
 	/** Empty until set. Good until the next Set or Append. */
 	static const TCHAR* Get();
 	static bool Set(const TCHAR* NewCommandLine);
-	/** Adds the text as it is: a blank has to be part of it. */
-	static void Append(const TCHAR* AppendString);
 };

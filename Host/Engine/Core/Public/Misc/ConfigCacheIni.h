@@ -19,12 +19,6 @@ struct FConfigValue
 	/** With macros such as %GAMEDIR% replaced. */
 	const FString& GetValue() const { return ExpandedValue.IsEmpty() ? SavedValue : ExpandedValue; }
 
-	/** As it stands in the file, without the quotes around it. */
-	const FString& GetSavedValue() const { return SavedValue; }
-
-	/** Case counts. */
-	bool operator==(const FConfigValue& Other) const { return GetValue().Equals(Other.GetValue()); }
-
 private:
 	FString SavedValue;
 	FString ExpandedValue; // empty when there is nothing to expand

@@ -24,10 +24,7 @@ struct FDateTime
 	static FDateTime UtcNow();
 	/** Host: the local time zone is UTC, so that files and tests are the same everywhere. */
 	static FDateTime Now() { return UtcNow(); }
-	static constexpr FDateTime MinValue() { return FDateTime(); }
-	static FDateTime MaxValue() { return FDateTime(9999, 12, 31, 23, 59, 59, 999); }
 	static FDateTime FromUnixTimestamp(int64 UnixTime);
-	int64 ToUnixTimestamp() const;
 
 	static bool IsLeapYear(int32 Year);
 	static int32 DaysInMonth(int32 Year, int32 Month);
@@ -35,13 +32,9 @@ struct FDateTime
 
 	constexpr int64 GetTicks() const { return Ticks; }
 	void GetDate(int32& OutYear, int32& OutMonth, int32& OutDay) const;
-	int32 GetYear() const;
-	int32 GetMonth() const;
-	int32 GetDay() const;
 	constexpr int32 GetHour() const { return static_cast<int32>(Ticks / ETimespan::TicksPerHour % 24); }
 	constexpr int32 GetMinute() const { return static_cast<int32>(Ticks / ETimespan::TicksPerMinute % 60); }
 	constexpr int32 GetSecond() const { return static_cast<int32>(Ticks / ETimespan::TicksPerSecond % 60); }
-	constexpr int32 GetMillisecond() const { return static_cast<int32>(Ticks / ETimespan::TicksPerMillisecond % 1000); }
 
 	constexpr FDateTime operator+(const FTimespan& Timespan) const { return FDateTime(Ticks + Timespan.GetTicks()); }
 	constexpr FDateTime operator-(const FTimespan& Timespan) const { return FDateTime(Ticks - Timespan.GetTicks()); }
@@ -54,9 +47,7 @@ struct FDateTime
 
 	/** "2024.05.31-23.59.59" */
 	FString ToString() const;
-	/** "2024-05-31T23:59:59.000Z" */
-	FString ToIso8601() const;
-	/** Reads what ToIso8601 writes, with or without milliseconds and 'Z', or a date alone. */
+	/** Reads "2024-05-31T23:59:59.000Z", with or without milliseconds and 'Z', or a date alone. */
 	static bool ParseIso8601(const TCHAR* DateTimeString, FDateTime& OutDateTime);
 
 private:

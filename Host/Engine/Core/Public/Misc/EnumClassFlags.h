@@ -42,25 +42,7 @@
 	}
 
 template<typename Enum>
-constexpr bool EnumHasAllFlags(Enum Flags, Enum Contains)
-{
-	return (static_cast<std::underlying_type_t<Enum>>(Flags) & static_cast<std::underlying_type_t<Enum>>(Contains)) == static_cast<std::underlying_type_t<Enum>>(Contains);
-}
-
-template<typename Enum>
 constexpr bool EnumHasAnyFlags(Enum Flags, Enum Contains)
 {
 	return (static_cast<std::underlying_type_t<Enum>>(Flags) & static_cast<std::underlying_type_t<Enum>>(Contains)) != 0;
-}
-
-template<typename Enum>
-constexpr void EnumAddFlags(Enum& Flags, Enum FlagsToAdd)
-{
-	Flags = static_cast<Enum>(static_cast<std::underlying_type_t<Enum>>(Flags) | static_cast<std::underlying_type_t<Enum>>(FlagsToAdd));
-}
-
-template<typename Enum>
-constexpr void EnumRemoveFlags(Enum& Flags, Enum FlagsToRemove)
-{
-	Flags = static_cast<Enum>(static_cast<std::underlying_type_t<Enum>>(Flags) & ~static_cast<std::underlying_type_t<Enum>>(FlagsToRemove));
 }

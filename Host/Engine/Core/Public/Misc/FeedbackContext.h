@@ -5,13 +5,9 @@
 #include "CoreGlobals.h"
 #include "CoreTypes.h"
 
-class FText;
-
-/** Where long operations report to; GWarn is one, and never null. The host shows no progress, steps go to the log. */
+/** Where long operations report to; GWarn is one, and never null. Nothing here reports, so there is nothing to show. */
 class CORE_API FFeedbackContext
 {
 public:
 	virtual ~FFeedbackContext() = default;
-
-	virtual void StatusUpdate(int32 Numerator, int32 Denominator, const FText& StatusText);
 };

@@ -31,8 +31,6 @@ struct FGuid
 		, D(InD)
 	{
 	}
-	/** Any form that ToString writes; anything else gives the invalid one. */
-	explicit FGuid(const FString& InGuidStr);
 
 	static FGuid NewGuid();
 	static bool Parse(const FString& GuidString, FGuid& OutGuid);

@@ -15,7 +15,6 @@ public:
 	/** The device must be removed before it goes away. Adding it again does nothing. */
 	void AddOutputDevice(FOutputDevice* OutputDevice);
 	void RemoveOutputDevice(FOutputDevice* OutputDevice);
-	bool IsRedirectingTo(FOutputDevice* OutputDevice) const;
 
 	//~ Begin FOutputDevice
 	virtual void Serialize(const TCHAR* V, ELogVerbosity::Type Verbosity, const FName& Category) override;

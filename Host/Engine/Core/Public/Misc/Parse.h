@@ -19,17 +19,7 @@ struct FParse
 	static bool Value(const TCHAR* Stream, const TCHAR* Match, uint32& Value);
 	static bool Value(const TCHAR* Stream, const TCHAR* Match, float& Value);
 	static bool Value(const TCHAR* Stream, const TCHAR* Match, double& Value);
-	static bool Bool(const TCHAR* Stream, const TCHAR* Match, bool& OnOff);
 
 	/** Whether "-Param" or "/Param" stands in the stream as a word of its own. */
 	static bool Param(const TCHAR* Stream, const TCHAR* Param);
-
-	/** Moves past the next word; quoted words may hold blanks. With UseEscape \" is a quote inside one. */
-	static bool Token(const TCHAR*& Str, FString& Arg, bool UseEscape);
-	/** Moves past Match and the blanks before it when Str goes on with that word. */
-	static bool Command(const TCHAR** Stream, const TCHAR* Match);
-	static void Next(const TCHAR** Stream);
-
-	/** A text in double quotes with \" \\ \n … taken for what they stand for. @return false when Stream does not begin with a quote or never closes it. */
-	static bool QuotedString(const TCHAR* Stream, FString& Value, int32* OutNumCharsRead = nullptr);
 };

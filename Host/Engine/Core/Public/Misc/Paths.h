@@ -57,11 +57,7 @@ public:
 	/** Full path without "." and ".." parts; symbolic links stay. */
 	static FString ConvertRelativePathToFull(const FString& InPath);
 
-	/** Turns back-slashes into slashes. */
-	static void NormalizeFilename(FString& InPath);
-
 	static bool FileExists(const FString& InPath);
-	static bool DirectoryExists(const FString& InPath);
 
 private:
 	static FString CombineParts(const FStringView* Parts, int32 Num);

@@ -32,24 +32,11 @@ struct FTimespan
 	{
 	}
 
-	static constexpr FTimespan Zero() { return FTimespan(); }
-	static constexpr FTimespan FromDays(double Days) { return FromSeconds(Days * 86400.0); }
-	static constexpr FTimespan FromHours(double Hours) { return FromSeconds(Hours * 3600.0); }
-	static constexpr FTimespan FromMinutes(double Minutes) { return FromSeconds(Minutes * 60.0); }
 	static constexpr FTimespan FromSeconds(double Seconds) { return FTimespan(static_cast<int64>(Seconds * ETimespan::TicksPerSecond + (Seconds < 0.0 ? -0.5 : 0.5))); }
-	static constexpr FTimespan FromMilliseconds(double Milliseconds) { return FromSeconds(Milliseconds / 1000.0); }
 
 	constexpr int64 GetTicks() const { return Ticks; }
-	constexpr double GetTotalDays() const { return GetTotalSeconds() / 86400.0; }
-	constexpr double GetTotalHours() const { return GetTotalSeconds() / 3600.0; }
-	constexpr double GetTotalMinutes() const { return GetTotalSeconds() / 60.0; }
 	constexpr double GetTotalSeconds() const { return static_cast<double>(Ticks) / ETimespan::TicksPerSecond; }
-	constexpr double GetTotalMilliseconds() const { return GetTotalSeconds() * 1000.0; }
-	constexpr int32 GetDays() const { return static_cast<int32>(Ticks / ETimespan::TicksPerDay); }
-	constexpr int32 GetHours() const { return static_cast<int32>(Ticks / ETimespan::TicksPerHour % 24); }
-	constexpr int32 GetMinutes() const { return static_cast<int32>(Ticks / ETimespan::TicksPerMinute % 60); }
 	constexpr int32 GetSeconds() const { return static_cast<int32>(Ticks / ETimespan::TicksPerSecond % 60); }
-	constexpr bool IsZero() const { return Ticks == 0; }
 
 	constexpr FTimespan operator+(const FTimespan& Other) const { return FTimespan(Ticks + Other.Ticks); }
 	constexpr FTimespan operator-(const FTimespan& Other) const { return FTimespan(Ticks - Other.Ticks); }
@@ -60,9 +47,6 @@ struct FTimespan
 
 	friend constexpr auto operator<=>(const FTimespan&, const FTimespan&) = default;
 	friend uint32 GetTypeHash(const FTimespan& Timespan) { return ::GetTypeHash(Timespan.Ticks); }
-
-	/** "+01:02:03.456", with days in front when there are any: "-2.01:02:03.456". */
-	FString ToString() const;
 
 private:
 	int64 Ticks = 0;

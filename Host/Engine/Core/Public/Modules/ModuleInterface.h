@@ -14,14 +14,6 @@ public:
 	/** Before the module goes, while other modules can still be loaded. Not called for modules without automatic shut-down. */
 	virtual void ShutdownModule() {}
 
-	/** Before a module is unloaded in order to be loaded again, and after that. */
-	virtual void PreUnloadCallback() {}
-	virtual void PostLoadCallback() {}
-
-	virtual bool SupportsDynamicReloading() { return true; }
-
 	/** Whether ShutdownModule() is called when the editor goes down. */
 	virtual bool SupportsAutomaticShutdown() { return true; }
-
-	virtual bool IsGameModule() const { return false; }
 };

@@ -63,19 +63,6 @@ public:
 	}
 
 	template<typename TModuleInterface>
-	static TModuleInterface* LoadModulePtr(const FName InModuleName)
-	{
-		return static_cast<TModuleInterface*>(Get().LoadModule(InModuleName));
-	}
-
-	template<typename TModuleInterface>
-	static TModuleInterface& GetModuleChecked(const FName InModuleName)
-	{
-		checkf(Get().IsModuleLoaded(InModuleName), TEXT("Tried to get module interface for unloaded module: '%s'"), *InModuleName.ToString());
-		return static_cast<TModuleInterface&>(*Get().GetModule(InModuleName));
-	}
-
-	template<typename TModuleInterface>
 	static TModuleInterface* GetModulePtr(const FName InModuleName)
 	{
 		return static_cast<TModuleInterface*>(Get().GetModule(InModuleName));

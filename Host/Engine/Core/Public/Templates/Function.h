@@ -151,7 +151,6 @@ namespace UE::Core::Private::Function
 		}
 
 		explicit operator bool() const { return Call != nullptr; }
-		bool IsSet() const { return Call != nullptr; }
 
 		void Reset()
 		{
@@ -161,8 +160,6 @@ namespace UE::Core::Private::Function
 				Operations->Destroy(Storage);
 			}
 		}
-
-		friend bool operator==(const TFunctionBase& Func, std::nullptr_t) { return !Func.IsSet(); }
 
 	protected:
 		TFunctionBase() = default;

@@ -101,16 +101,10 @@ public:
 	}
 
 	TSharedPtr<ObjectType, Mode> ToSharedPtr() const { return TSharedPtr<ObjectType, Mode>(*this); }
-	TWeakPtr<ObjectType, Mode> ToWeakPtr() const { return TWeakPtr<ObjectType, Mode>(*this); }
 
 	ObjectType& Get() const { return *Object; }
 	ObjectType& operator*() const { return *Object; }
 	ObjectType* operator->() const { return Object; }
-
-	int32 GetSharedReferenceCount() const { return Referencer.GetSharedReferenceCount(); }
-
-	/** Whether this is the only owner; weak pointers do not count. */
-	bool IsUnique() const { return Referencer.IsUnique(); }
 
 	[[nodiscard]] friend uint32 GetTypeHash(const TSharedRef& InSharedRef) { return PointerHash(InSharedRef.Object); }
 
@@ -286,11 +280,7 @@ public:
 		return TSharedRef<ObjectType, Mode>(*this);
 	}
 
-	TWeakPtr<ObjectType, Mode> ToWeakPtr() const { return TWeakPtr<ObjectType, Mode>(*this); }
-
 	void Reset() { *this = TSharedPtr(); }
-
-	int32 GetSharedReferenceCount() const { return Referencer.GetSharedReferenceCount(); }
 
 	/** Whether this is the only owner; weak pointers do not count. */
 	bool IsUnique() const { return Referencer.IsUnique(); }
@@ -347,13 +337,6 @@ public:
 	requires(std::is_convertible_v<OtherType*, ObjectType*>)
 		TWeakPtr(const TWeakPtr<OtherType, Mode>& InWeakPtr)
 		: Object(InWeakPtr.Object)
-		, Referencer(InWeakPtr.Referencer)
-	{
-	}
-
-	template<class OtherType>
-	TWeakPtr(const TWeakPtr<OtherType, Mode>& InWeakPtr, SharedPointerInternals::FStaticCastTag)
-		: Object(static_cast<ObjectType*>(InWeakPtr.Object))
 		, Referencer(InWeakPtr.Referencer)
 	{
 	}
@@ -449,12 +432,6 @@ public:
 		return SharedThis.ToSharedRef();
 	}
 
-	/** Null while nobody owns the object. */
-	TWeakPtr<ObjectType, Mode> AsWeak() { return WeakThis; }
-	TWeakPtr<const ObjectType, Mode> AsWeak() const { return WeakThis; }
-
-	bool DoesSharedInstanceExist() const { return WeakThis.IsValid(); }
-
 	/** For the shared pointer that takes the object over. */
 	template<class SharedType>
 	void UpdateWeakReferenceInternal(const TSharedRef<SharedType, Mode>* InSharedRef, ObjectType* InObject) const
@@ -479,13 +456,6 @@ protected:
 	TSharedFromThis(const TSharedFromThis&) {} // a copy is another object, with owners of its own
 	TSharedFromThis& operator=(const TSharedFromThis&) { return *this; }
 	~TSharedFromThis() = default;
-
-	/** AsShared() with the type of ThisPtr, which is always `this`. */
-	template<class OtherType>
-	static TSharedRef<OtherType, Mode> SharedThis(OtherType* ThisPtr)
-	{
-		return TSharedRef<OtherType, Mode>(ThisPtr->AsShared(), SharedPointerInternals::FStaticCastTag());
-	}
 
 private:
 	mutable TWeakPtr<ObjectType, Mode> WeakThis;
@@ -524,12 +494,6 @@ template<class ObjectType>
 	return {InObject, nullptr};
 }
 
-template<class ObjectType, typename DeleterType>
-[[nodiscard]] SharedPointerInternals::TRawPtrProxy<ObjectType> MakeShareable(ObjectType* InObject, DeleterType&& InDeleter)
-{
-	return {InObject, SharedPointerInternals::NewController(InObject, Forward<DeleterType>(InDeleter))};
-}
-
 // Casting; the caller knows that the object has the type
 
 template<class CastToType, class CastFromType, ESPMode Mode>
@@ -542,22 +506,4 @@ template<class CastToType, class CastFromType, ESPMode Mode>
 [[nodiscard]] TSharedPtr<CastToType, Mode> StaticCastSharedPtr(const TSharedPtr<CastFromType, Mode>& InSharedPtr)
 {
 	return TSharedPtr<CastToType, Mode>(InSharedPtr, SharedPointerInternals::FStaticCastTag());
-}
-
-template<class CastToType, class CastFromType, ESPMode Mode>
-[[nodiscard]] TWeakPtr<CastToType, Mode> StaticCastWeakPtr(const TWeakPtr<CastFromType, Mode>& InWeakPtr)
-{
-	return TWeakPtr<CastToType, Mode>(InWeakPtr, SharedPointerInternals::FStaticCastTag());
-}
-
-template<class CastToType, class CastFromType, ESPMode Mode>
-[[nodiscard]] TSharedRef<CastToType, Mode> ConstCastSharedRef(const TSharedRef<CastFromType, Mode>& InSharedRef)
-{
-	return TSharedRef<CastToType, Mode>(InSharedRef, const_cast<CastToType*>(&InSharedRef.Get()));
-}
-
-template<class CastToType, class CastFromType, ESPMode Mode>
-[[nodiscard]] TSharedPtr<CastToType, Mode> ConstCastSharedPtr(const TSharedPtr<CastFromType, Mode>& InSharedPtr)
-{
-	return TSharedPtr<CastToType, Mode>(InSharedPtr, const_cast<CastToType*>(InSharedPtr.Get()));
 }

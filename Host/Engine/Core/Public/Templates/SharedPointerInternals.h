@@ -94,12 +94,6 @@ namespace SharedPointerInternals
 		return new TReferenceControllerWithDeleter<ObjectType, TDefaultDeleter<ObjectType>>(Object, TDefaultDeleter<ObjectType>());
 	}
 
-	template<typename ObjectType, typename DeleterType>
-	FReferenceController* NewController(ObjectType* Object, DeleterType&& Deleter)
-	{
-		return new TReferenceControllerWithDeleter<ObjectType, std::decay_t<DeleterType>>(Object, Forward<DeleterType>(Deleter));
-	}
-
 	/** One counted reference to a controller, or none. */
 	template<bool bShared>
 	class TReferencer

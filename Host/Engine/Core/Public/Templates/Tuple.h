@@ -99,18 +99,6 @@ public:
 	{
 	}
 
-	template<uint32 Index>
-	auto& Get()
-	{
-		return FStorage::template Element<Index>(Storage);
-	}
-
-	template<uint32 Index>
-	const auto& Get() const
-	{
-		return FStorage::template Element<Index>(Storage);
-	}
-
 	template<typename FuncType, typename... ArgTypes>
 	decltype(auto) ApplyAfter(FuncType&& Func, ArgTypes&&... Args) const
 	{
@@ -122,8 +110,6 @@ public:
 	{
 		return Storage.ApplyAfter(::Forward<FuncType>(Func), ::Forward<ArgTypes>(Args)...);
 	}
-
-	bool operator==(const TTuple& Other) const { return Storage == Other.Storage; }
 
 	[[nodiscard]] friend uint32 GetTypeHash(const TTuple& Tuple) { return Tuple.Storage.Hash(); }
 
@@ -166,26 +152,6 @@ public:
 	{
 	}
 
-	template<uint32 Index>
-	auto& Get()
-	{
-		static_assert(Index < 2, "A pair has two elements");
-		if constexpr (Index == 0)
-		{
-			return Key;
-		}
-		else
-		{
-			return Value;
-		}
-	}
-
-	template<uint32 Index>
-	const auto& Get() const
-	{
-		return const_cast<TTuple*>(this)->template Get<Index>();
-	}
-
 	template<typename FuncType, typename... ArgTypes>
 	decltype(auto) ApplyAfter(FuncType&& Func, ArgTypes&&... Args) const
 	{
@@ -198,22 +164,8 @@ public:
 		return Func(::Forward<ArgTypes>(Args)..., Key, Value);
 	}
 
-	bool operator==(const TTuple& Other) const { return Key == Other.Key && Value == Other.Value; }
-
-	/** By key, then by value. */
-	bool operator<(const TTuple& Other) const
-	{
-		return Key < Other.Key || (!(Other.Key < Key) && Value < Other.Value);
-	}
-
 	[[nodiscard]] friend uint32 GetTypeHash(const TTuple& Pair) { return HashCombine(GetTypeHash(Pair.Key), GetTypeHash(Pair.Value)); }
 };
 
 template<typename KeyType, typename ValueType>
 using TPair = TTuple<KeyType, ValueType>;
-
-template<typename... Types>
-TTuple<std::decay_t<Types>...> MakeTuple(Types&&... Args)
-{
-	return TTuple<std::decay_t<Types>...>(::Forward<Types>(Args)...);
-}

@@ -13,11 +13,6 @@
 	return A ^ (B + 0x9e3779b9u + (A << 6) + (A >> 2));
 }
 
-[[nodiscard]] constexpr uint32 HashCombineFast(uint32 A, uint32 B)
-{
-	return HashCombine(A, B);
-}
-
 namespace UE::Core::Private
 {
 	constexpr uint32 HashInteger(uint64 Value)
@@ -30,11 +25,6 @@ namespace UE::Core::Private
 {
 	// The low bits say nothing: they are the alignment.
 	return UE::Core::Private::HashInteger(reinterpret_cast<UPTRINT>(Key) >> 4);
-}
-
-[[nodiscard]] inline uint32 PointerHash(const void* Key, uint32 Hash)
-{
-	return HashCombine(PointerHash(Key), Hash);
 }
 
 template<typename T>

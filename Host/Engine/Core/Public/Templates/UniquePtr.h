@@ -41,12 +41,6 @@ public:
 	{
 	}
 
-	TUniquePtr(T* InPtr, Deleter&& InDeleter)
-		: Deleter(MoveTemp(InDeleter))
-		, Ptr(InPtr)
-	{
-	}
-
 	TUniquePtr(TUniquePtr&& Other) noexcept
 		: Deleter(MoveTemp(Other.GetDeleter()))
 		, Ptr(Other.Release())

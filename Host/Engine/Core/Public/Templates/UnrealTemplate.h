@@ -36,13 +36,6 @@ constexpr T&& Forward(std::remove_reference_t<T>&& Object) noexcept
 	return static_cast<T&&>(Object);
 }
 
-/** An explicit copy, for handing a copy of an lvalue to a function that takes an rvalue. */
-template<typename T>
-T CopyTemp(const T& Object)
-{
-	return Object;
-}
-
 template<typename T>
 constexpr void Swap(T& A, T& B)
 {
@@ -88,8 +81,6 @@ public:
 	{
 		Reference = OldValue;
 	}
-
-	const AssignedType& GetOriginalValue() const { return OldValue; }
 
 private:
 	RefType& Reference;

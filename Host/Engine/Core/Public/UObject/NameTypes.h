@@ -57,8 +57,6 @@ struct FNameEntryId
 	constexpr explicit operator bool() const { return Value != 0; }
 	constexpr uint32 ToUnstableInt() const { return Value; }
 
-	/** Alphabetical, ignoring case; the same in every run. */
-	bool LexicalLess(FNameEntryId Rhs) const;
 	/** Any order that holds within the process. */
 	constexpr bool FastLess(FNameEntryId Rhs) const { return Value < Rhs.Value; }
 
@@ -111,29 +109,20 @@ public:
 	constexpr bool IsNone() const { return ComparisonIndex.IsNone() && Number == NAME_NO_NUMBER_INTERNAL; }
 	/** Whether this refers into the name table. True for every name made through a constructor, NAME_None included. */
 	bool IsValid() const;
-	bool IsValidIndexFast() const { return IsValid(); }
 
-	constexpr FNameEntryId GetComparisonIndex() const { return ComparisonIndex; }
-	constexpr FNameEntryId GetDisplayIndex() const { return DisplayIndex; }
 	constexpr int32 GetNumber() const { return static_cast<int32>(Number); }
 	constexpr void SetNumber(int32 NewNumber) { Number = static_cast<uint32>(NewNumber); }
 
 	FString ToString() const;
-	void ToString(FString& Out) const;
 	void AppendString(FString& Out) const;
 	/** Without the number. */
 	FString GetPlainNameString() const;
-	/** Number of characters that ToString gives. */
-	uint32 GetStringLength() const;
 
 	constexpr bool IsEqual(const FName& Rhs, ENameCase CompareMethod = ENameCase::IgnoreCase, bool bCompareNumber = true) const
 	{
 		const bool bTextEqual = CompareMethod == ENameCase::IgnoreCase ? ComparisonIndex == Rhs.ComparisonIndex : DisplayIndex == Rhs.DisplayIndex;
 		return bTextEqual && (!bCompareNumber || Number == Rhs.Number);
 	}
-	/** Alphabetical ignoring case, then by number; 0 if equal. */
-	int32 Compare(const FName& Other) const;
-	bool LexicalLess(const FName& Other) const { return Compare(Other) < 0; }
 	constexpr bool FastLess(const FName& Other) const
 	{
 		return ComparisonIndex == Other.ComparisonIndex ? Number < Other.Number : ComparisonIndex.FastLess(Other.ComparisonIndex);
@@ -149,7 +138,6 @@ public:
 	/** Whether Name has none of InvalidChars and some text; if not, OutReason tells a person why. */
 	static bool IsValidXName(FStringView Name, FStringView InvalidChars, FText* OutReason = nullptr);
 	bool IsValidXName(FStringView InvalidChars = FStringView(INVALID_NAME_CHARACTERS), FText* OutReason = nullptr) const;
-	bool IsValidObjectName(FText& OutReason) const;
 
 private:
 	bool EqualsText(FStringView Text) const;
@@ -157,13 +145,6 @@ private:
 	FNameEntryId ComparisonIndex; // the text, whatever its case
 	uint32 Number = NAME_NO_NUMBER_INTERNAL;
 	FNameEntryId DisplayIndex; // the text in the case of this instance
-};
-
-/** Sorts names alphabetically. */
-struct FNameLexicalLess
-{
-	bool operator()(const FName& A, const FName& B) const { return A.LexicalLess(B); }
-	bool operator()(FNameEntryId A, FNameEntryId B) const { return A.LexicalLess(B); }
 };
 
 /** Sorts names in any order that holds within the process. */
@@ -176,9 +157,4 @@ struct FNameFastLess
 inline FString LexToString(const FName& Name)
 {
 	return Name.ToString();
-}
-
-inline void LexFromString(FName& OutName, const TCHAR* Text)
-{
-	OutName = FName(Text);
 }

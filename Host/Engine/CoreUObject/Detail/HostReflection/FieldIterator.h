@@ -54,7 +54,6 @@ public:
 	}
 	FieldType* operator*() const { return static_cast<FieldType*>(Fields()[Index]); }
 	FieldType* operator->() const { return **this; }
-	const UStruct* GetStruct() const { return Struct; }
 	bool operator==(const TFieldIterator& Other) const { return Struct == Other.Struct && (!Struct || Index == Other.Index); }
 
 private:

@@ -16,9 +16,6 @@ namespace UE::Reflection
 		void SetRecords(const FMetaDataRecord* InRecords, int32 InNum);
 
 		const FString* Find(FName Key) const;
-		void Set(FName Key, const FString& Value) const;
-		void Remove(FName Key) const;
-		const TMap<FName, FString>& GetAll() const;
 
 	private:
 		void Unpack() const;

@@ -47,10 +47,6 @@ public:
 	virtual FString GetCPPType() const = 0;
 
 	bool HasAnyPropertyFlags(uint64 FlagsToCheck) const { return (PropertyFlags & FlagsToCheck) != 0; }
-	bool HasAllPropertyFlags(uint64 FlagsToCheck) const { return (PropertyFlags & FlagsToCheck) == FlagsToCheck; }
-	EPropertyFlags GetPropertyFlags() const { return PropertyFlags; }
-	void SetPropertyFlags(EPropertyFlags NewFlags) { PropertyFlags = static_cast<EPropertyFlags>(PropertyFlags | NewFlags); }
-	void ClearPropertyFlags(EPropertyFlags NewFlags) { PropertyFlags = static_cast<EPropertyFlags>(PropertyFlags & ~NewFlags); }
 
 	template<typename ValueType = void>
 	ValueType* ContainerPtrToValuePtr(void* ContainerPtr, int32 ArrayIndex = 0) const
@@ -78,14 +74,11 @@ public:
 
 	void InitializeValue_InContainer(void* Container) const { InitializeValue(ContainerPtrToValuePtr(Container)); }
 	void DestroyValue_InContainer(void* Container) const { DestroyValue(ContainerPtrToValuePtr(Container)); }
-	void ClearValue_InContainer(void* Container) const { ClearValue(ContainerPtrToValuePtr(Container)); }
 	void CopyCompleteValue_InContainer(void* Dest, const void* Src) const { CopyCompleteValue(ContainerPtrToValuePtr(Dest), ContainerPtrToValuePtr(Src)); }
 	bool Identical_InContainer(const void* A, const void* B, int32 ArrayIndex = 0, uint32 PortFlags = 0) const
 	{
 		return Identical(ContainerPtrToValuePtr(A, ArrayIndex), B ? ContainerPtrToValuePtr(B, ArrayIndex) : nullptr, PortFlags);
 	}
-	void GetValue_InContainer(const void* Container, void* OutValue) const { CopyCompleteValue(OutValue, ContainerPtrToValuePtr(Container)); }
-	void SetValue_InContainer(void* Container, const void* Value) const { CopyCompleteValue(ContainerPtrToValuePtr(Container), Value); }
 
 	/** Appends the text form. Fields of structs equal to those in DefaultValue are left out, unless it is PropertyValue or null. */
 	void ExportTextItem_Direct(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags,
@@ -94,8 +87,6 @@ public:
 		UObject* ExportRootScope = nullptr) const;
 	/** Like ExportTextItem_Direct, but false, and nothing appended, for a value equal to Delta (unless that is Data itself). */
 	bool ExportText_Direct(FString& ValueStr, const void* Data, const void* Delta, UObject* Parent, int32 PortFlags,
-		UObject* ExportRootScope = nullptr) const;
-	bool ExportText_InContainer(int32 Index, FString& ValueStr, const void* Data, const void* Delta, UObject* Parent, int32 PortFlags,
 		UObject* ExportRootScope = nullptr) const;
 
 	/** @return what follows the value in Buffer; null, the value perhaps half changed, when the text does not fit the type. */
@@ -158,7 +149,6 @@ public:
 	static const TCppType& GetPropertyValue(const void* Value) { return *static_cast<const TCppType*>(Value); }
 	static void SetPropertyValue(void* Dest, const TCppType& Value) { *static_cast<TCppType*>(Dest) = Value; }
 	const TCppType& GetPropertyValue_InContainer(const void* Container) const { return GetPropertyValue(this->ContainerPtrToValuePtr(Container)); }
-	void SetPropertyValue_InContainer(void* Container, const TCppType& Value) const { SetPropertyValue(this->ContainerPtrToValuePtr(Container), Value); }
 
 	void InitializeValue(void* Dest) const override { ::new (Dest) TCppType(); }
 	void DestroyValue(void* Dest) const override { static_cast<TCppType*>(Dest)->~TCppType(); }

@@ -80,7 +80,6 @@ public:
 	}
 	~FSetProperty() override { delete ElementProp; }
 
-	FProperty* GetElementProperty() const { return ElementProp; }
 	const UE::Reflection::FKeyedOps& GetOps() const { return *Ops; }
 	bool ContainsObjectReference() const override { return ElementProp->ContainsObjectReference(); }
 	void CollectReferences(void* Value, FReferenceCollector& Collector) const override;
@@ -114,8 +113,6 @@ public:
 		delete ValueProp;
 	}
 
-	FProperty* GetKeyProperty() const { return KeyProp; }
-	FProperty* GetValueProperty() const { return ValueProp; }
 	const UE::Reflection::FKeyedOps& GetOps() const { return *Ops; }
 	bool ContainsObjectReference() const override { return KeyProp->ContainsObjectReference() || ValueProp->ContainsObjectReference(); }
 	void CollectReferences(void* Value, FReferenceCollector& Collector) const override;
@@ -159,20 +156,10 @@ public:
 	void RemoveValues(int32 Index, int32 Count = 1) { Property->GetOps().RemoveAt(Array, Index, Count); }
 	void EmptyValues() { Resize(0); }
 	void Resize(int32 Count);
-	void SwapValues(int32 A, int32 B);
 
 private:
 	const FArrayProperty* Property;
 	void* Array;
-};
-
-class FScriptArrayHelper_InContainer : public FScriptArrayHelper
-{
-public:
-	FScriptArrayHelper_InContainer(const FArrayProperty* InProperty, const void* InContainer)
-		: FScriptArrayHelper(InProperty, InProperty->ContainerPtrToValuePtr(InContainer))
-	{
-	}
 };
 
 /** Works on a map value. Indices run from 0 to Num() in iteration order; changing the map gives new ones. */
@@ -186,10 +173,6 @@ public:
 	bool IsValidIndex(int32 Index) const { return Pairs.IsValidIndex(Index); }
 	uint8* GetKeyPtr(int32 Index) const { return Pairs[Index].Key; }
 	uint8* GetValuePtr(int32 Index) const { return Pairs[Index].Value; }
-	uint8* FindValueFromHash(const void* KeyPtr) const { return static_cast<uint8*>(Property->GetOps().Find(Map, KeyPtr)); }
-	void AddPair(const void* KeyPtr, const void* ValuePtr);
-	void RemovePair(const void* KeyPtr);
-	void EmptyValues();
 
 private:
 	struct FPair
@@ -214,10 +197,6 @@ public:
 	int32 GetMaxIndex() const { return Elements.Num(); }
 	bool IsValidIndex(int32 Index) const { return Elements.IsValidIndex(Index); }
 	uint8* GetElementPtr(int32 Index) const { return Elements[Index]; }
-	bool Contains(const void* ElementPtr) const { return Property->GetOps().Find(Set, ElementPtr) != nullptr; }
-	void AddElement(const void* ElementPtr);
-	void RemoveElement(const void* ElementPtr);
-	void EmptyElements();
 
 private:
 	void Refresh();

@@ -32,8 +32,6 @@ struct FPropertyChangedEvent
 	}
 
 	void SetActiveMemberProperty(FProperty* InActiveMemberProperty) { MemberProperty = InActiveMemberProperty; }
-	FName GetPropertyName() const { return Property ? Property->GetFName() : FName(); }
-	FName GetMemberPropertyName() const { return MemberProperty ? MemberProperty->GetFName() : FName(); }
 
 	FProperty* Property; // what changed
 	FProperty* MemberProperty; // the member of the object in which it lies
@@ -46,9 +44,7 @@ class FEditPropertyChain
 {
 public:
 	void AddTail(FProperty* Property) { Chain.Add(Property); }
-	FProperty* GetActiveNode() const { return Chain.IsEmpty() ? nullptr : Chain.Last(); }
 	FProperty* GetActiveMemberNode() const { return Chain.IsEmpty() ? nullptr : Chain[0]; }
-	int32 Num() const { return Chain.Num(); }
 
 private:
 	TArray<FProperty*> Chain;

@@ -7,7 +7,6 @@
 #include "Containers/Map.h"
 #include "Containers/Set.h"
 #include "Templates/SubclassOf.h"
-#include "UObject/ScriptInterface.h"
 #include "UObject/SoftObjectPtr.h"
 #include "UObject/StrongObjectPtr.h"
 #include "UObject/UnrealType.h"
@@ -221,12 +220,6 @@ namespace UE::Reflection
 	struct TPropertyMaker<TSoftClassPtr<T>>
 	{
 		static FProperty* Create() { return new FSoftClassProperty(ClassOf<T>()); }
-	};
-
-	template<typename T>
-	struct TPropertyMaker<TScriptInterface<T>>
-	{
-		static FProperty* Create() { return new FInterfaceProperty(ClassOf<typename T::UClassType>()); }
 	};
 
 	template<typename T>

@@ -15,13 +15,6 @@ namespace AssetDataPaths
 		PackageName.Split(TEXT("/"), &Folder, nullptr, ESearchCase::CaseSensitive, ESearchDir::FromEnd);
 		return FName(*Folder);
 	}
-
-	FString ShortNameOf(const FString& PackageName)
-	{
-		FString ShortName = PackageName;
-		PackageName.Split(TEXT("/"), nullptr, &ShortName, ESearchCase::CaseSensitive, ESearchDir::FromEnd);
-		return ShortName;
-	}
 }
 
 FAssetData::FAssetData(FName InPackageName, FName InPackagePath, FName InAssetName, FTopLevelAssetPath InAssetClassPathName)
@@ -30,16 +23,6 @@ FAssetData::FAssetData(FName InPackageName, FName InPackagePath, FName InAssetNa
 	, AssetName(InAssetName)
 	, AssetClassPath(InAssetClassPathName)
 {
-}
-
-FAssetData::FAssetData(const FString& InLongPackageName, const FString& InObjectPath, FTopLevelAssetPath InAssetClassPathName)
-	: PackageName(*InLongPackageName)
-	, PackagePath(AssetDataPaths::FolderOf(InLongPackageName))
-	, AssetClassPath(InAssetClassPathName)
-{
-	FString ObjectName = InObjectPath;
-	InObjectPath.Split(TEXT("."), nullptr, &ObjectName, ESearchCase::CaseSensitive, ESearchDir::FromEnd);
-	AssetName = FName(*ObjectName);
 }
 
 FAssetData::FAssetData(const UObject* InAsset)
@@ -58,11 +41,6 @@ FAssetData::FAssetData(const UObject* InAsset)
 bool FAssetData::IsValid() const
 {
 	return !PackageName.IsNone() && !PackagePath.IsNone() && !AssetName.IsNone() && !AssetClassPath.IsNull();
-}
-
-bool FAssetData::IsUAsset() const
-{
-	return !AssetName.IsNone() && AssetDataPaths::ShortNameOf(PackageName.ToString()) == AssetName.ToString();
 }
 
 UObject* FAssetData::GetAsset() const
@@ -84,12 +62,6 @@ UObject* FAssetData::FastGetAsset(bool bLoad) const
 	return ::IsValid(Asset) ? Asset : nullptr;
 }
 
-UPackage* FAssetData::GetPackage() const
-{
-	const UObject* Asset = GetAsset();
-	return Asset != nullptr ? Asset->GetPackage() : nullptr;
-}
-
 UClass* FAssetData::GetClass(EResolveClass ResolveClass) const
 {
 	if (!IsValid())
@@ -104,28 +76,12 @@ UClass* FAssetData::GetClass(EResolveClass ResolveClass) const
 	return Class;
 }
 
-FSoftObjectPath FAssetData::GetSoftObjectPath() const
-{
-	return IsValid() ? FSoftObjectPath(GetObjectPathString()) : FSoftObjectPath();
-}
-
 FString FAssetData::GetObjectPathString() const
 {
 	return PackageName.IsNone() || AssetName.IsNone() ? FString() : PackageName.ToString() + TEXT(".") + AssetName.ToString();
 }
 
-FString FAssetData::GetFullName() const
-{
-	return AssetClassPath.ToString() + TEXT(" ") + GetObjectPathString();
-}
-
 FString FAssetData::GetExportTextName() const
 {
 	return AssetClassPath.ToString() + TEXT("'") + GetObjectPathString() + TEXT("'");
-}
-
-bool FAssetData::IsInstanceOf(const UClass* BaseClass, EResolveClass ResolveClass) const
-{
-	const UClass* Class = GetClass(ResolveClass);
-	return Class != nullptr && Class->IsChildOf(BaseClass);
 }

@@ -77,18 +77,6 @@ bool IsValid(const UObject* Test)
 	return !Item.bGarbage && !Item.bUnreachable;
 }
 
-bool UObject::IsTemplate(EObjectFlags TemplateTypes) const
-{
-	for (const UObject* Object = this; Object; Object = Object->GetOuter())
-	{
-		if (Object->HasAnyFlags(TemplateTypes))
-		{
-			return true;
-		}
-	}
-	return false;
-}
-
 bool UObject::IsAsset() const
 {
 	return HasAnyFlags(RF_Public) && !HasAnyFlags(RF_Transient | RF_ClassDefaultObject) && IsValid(this) && OuterPrivate && OuterPrivate->GetClass() == UPackage::StaticClass() && OuterPrivate != ::GetTransientPackage();
@@ -111,12 +99,6 @@ UObject* UObject::GetArchetype() const
 		}
 	}
 	return GetClass()->GetDefaultObject();
-}
-
-UObject* UObject::GetDefaultSubobjectByName(FName ToFind) const
-{
-	UObject* Found = FObjectNameTable::Get().Find(nullptr, this, ToFind);
-	return Found && Found->IsDefaultSubobject() ? Found : nullptr;
 }
 
 void UObject::PostInitProperties()

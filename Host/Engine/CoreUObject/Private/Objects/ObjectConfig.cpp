@@ -314,12 +314,6 @@ void UObject::LoadConfig(UClass* ConfigClass, const TCHAR* Filename, uint32, FPr
 	}
 }
 
-void UObject::ReloadConfig(UClass* ConfigClass, const TCHAR* Filename, uint32 PropagationFlags, FProperty* PropertyToLoad)
-{
-	LoadConfig(ConfigClass, Filename, PropagationFlags, PropertyToLoad);
-	PostReloadConfig(PropertyToLoad);
-}
-
 void UObject::SaveConfig(uint64 RequiredPropertyFlags, const TCHAR* Filename, FConfigCacheIni*, bool bAllowCopyToDefaultObject)
 {
 	if (!GetClass()->HasAnyClassFlags(CLASS_Config))
@@ -351,12 +345,4 @@ bool UObject::TryUpdateDefaultConfigFile(const FString& SpecificFileLocation, bo
 			SpecificFileLocation.IsEmpty() ? *GetDefaultConfigFilename() : *SpecificFileLocation);
 	}
 	return bWritten;
-}
-
-void UObject::UpdateSinglePropertyInConfigFile(const FProperty* InProperty, const FString InConfigIniName)
-{
-	if (GetClass()->HasAnyClassFlags(CLASS_Config) && InProperty && InProperty->HasAnyPropertyFlags(CPF_Config))
-	{
-		ObjectConfig::Write({this, ObjectConfig::ELayer::Default, InConfigIniName, CPF_Config, InProperty});
-	}
 }

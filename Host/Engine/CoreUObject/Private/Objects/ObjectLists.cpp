@@ -71,11 +71,6 @@ void GetObjectsWithOuter(const UObject* Outer, TArray<UObject*>& Results, bool b
 		Outer, [&Results](UObject* Object) { Results.Add(Object); }, bIncludeNestedObjects, ExclusionFlags);
 }
 
-void GetObjectsWithPackage(const UPackage* Package, TArray<UObject*>& Results, bool bIncludeNestedObjects, EObjectFlags ExclusionFlags)
-{
-	GetObjectsWithOuter(Package, Results, bIncludeNestedObjects, ExclusionFlags);
-}
-
 void GetDerivedClasses(const UClass* ClassToLookFor, TArray<UClass*>& Results, bool bRecursive)
 {
 	TArray<UObject*> Classes;

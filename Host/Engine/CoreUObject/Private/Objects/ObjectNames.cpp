@@ -47,12 +47,6 @@ FString UObject::GetFullName(const UObject* StopOuter) const
 	return GetClass()->GetName() + TEXT(" ") + GetPathName(StopOuter);
 }
 
-FString UObject::GetFullGroupName(bool bStartWithOuter) const
-{
-	const UObject* Object = bStartWithOuter ? OuterPrivate : this;
-	return Object ? Object->GetPathName(GetOutermost()) : FString();
-}
-
 UPackage* UObject::GetOutermost() const
 {
 	const UObject* Top = this;

@@ -82,14 +82,6 @@ UObject* StaticFindObjectFast(UClass* Class, UObject* InOuter, FName Name, bool 
 	return FObjectNameTable::Get().Find(Class, InOuter, Name, bExactClass);
 }
 
-UObject* StaticFindObjectChecked(UClass* Class, UObject* InOuter, const TCHAR* Name, bool bExactClass)
-{
-	UObject* Found = StaticFindObject(Class, InOuter, Name, bExactClass);
-	checkf(Found, TEXT("Failed to find object '%s %s.%s'"), Class ? *Class->GetName() : TEXT("Object"),
-		InOuter ? *InOuter->GetPathName() : TEXT("None"), Name);
-	return Found;
-}
-
 UObject* StaticFindFirstObject(UClass* Class, const TCHAR* Name, EFindFirstObjectOptions Options)
 {
 	const FName Wanted = FCString::Strlen(Name) < NAME_SIZE ? FName(Name, FNAME_Find) : FName();
@@ -142,12 +134,6 @@ UObject* StaticLoadObject(UClass* Class, UObject* InOuter, const TCHAR* Name, co
 			InOuter ? *InOuter->GetPathName() : TEXT("None"), *Path);
 	}
 	return Found;
-}
-
-UClass* StaticLoadClass(UClass* BaseClass, UObject* InOuter, const TCHAR* Name, const TCHAR* Filename, uint32 LoadFlags)
-{
-	UClass* Class = static_cast<UClass*>(StaticLoadObject(UClass::StaticClass(), InOuter, Name, Filename, LoadFlags));
-	return Class && Class->IsChildOf(BaseClass) ? Class : nullptr;
 }
 
 UPackage* FindPackage(UObject* InOuter, const TCHAR* PackageName)

@@ -11,12 +11,6 @@ void FScriptDelegate::BindUFunction(UObject* InObject, const FName& InFunctionNa
 	FunctionName = InFunctionName;
 }
 
-void FScriptDelegate::Unbind()
-{
-	Object.Reset();
-	FunctionName = FName();
-}
-
 bool FScriptDelegate::IsBound() const
 {
 	const UObject* Target = FunctionName.IsNone() ? nullptr : Object.Get();
@@ -53,13 +47,6 @@ bool FMulticastScriptDelegate::Contains(const FScriptDelegate& InDelegate) const
 	return InvocationList.Contains(InDelegate);
 }
 
-bool FMulticastScriptDelegate::Contains(const UObject* InObject, FName InFunctionName) const
-{
-	return InvocationList.ContainsByPredicate([InObject, InFunctionName](const FScriptDelegate& Binding) {
-		return Binding.FunctionName == InFunctionName && Binding.IsBoundToObject(InObject);
-	});
-}
-
 void FMulticastScriptDelegate::Add(const FScriptDelegate& InDelegate)
 {
 	if (ensureMsgf(!Contains(InDelegate), TEXT("Function '%s' is already bound to this delegate."), *InDelegate.FunctionName.ToString()))
@@ -84,24 +71,6 @@ void FMulticastScriptDelegate::Remove(const UObject* InObject, FName InFunctionN
 	InvocationList.RemoveAll([InObject, InFunctionName](const FScriptDelegate& Binding) {
 		return Binding.FunctionName == InFunctionName && Binding.IsBoundToObject(InObject);
 	});
-}
-
-void FMulticastScriptDelegate::RemoveAll(const UObject* Object)
-{
-	InvocationList.RemoveAll([Object](const FScriptDelegate& Binding) { return Binding.IsBoundToObject(Object); });
-}
-
-TArray<UObject*> FMulticastScriptDelegate::GetAllObjects() const
-{
-	TArray<UObject*> Objects;
-	for (const FScriptDelegate& Binding : InvocationList)
-	{
-		if (UObject* Object = Binding.GetUObject())
-		{
-			Objects.Add(Object);
-		}
-	}
-	return Objects;
 }
 
 void FMulticastScriptDelegate::Process(void* Parameters, int32 BlockSize) const

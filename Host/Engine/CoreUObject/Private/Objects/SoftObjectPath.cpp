@@ -9,30 +9,12 @@
 
 //~ FSoftObjectPath
 
-FSoftObjectPath::FSoftObjectPath(FTopLevelAssetPath InAssetPath, FString InSubPathString)
-	: AssetPath(InAssetPath)
-	, SubPathString(MoveTemp(InSubPathString))
-{
-}
-
-FSoftObjectPath::FSoftObjectPath(FName InPackageName, FName InAssetName, FString InSubPathString)
-	: AssetPath(InPackageName, InAssetName)
-	, SubPathString(MoveTemp(InSubPathString))
-{
-}
-
 FSoftObjectPath::FSoftObjectPath(const UObject* InObject)
 {
 	if (InObject)
 	{
 		SetPath(InObject->GetPathName());
 	}
-}
-
-FSoftObjectPath& FSoftObjectPath::operator=(const FTopLevelAssetPath& Path)
-{
-	SetPath(Path);
-	return *this;
 }
 
 FSoftObjectPath& FSoftObjectPath::operator=(const FString& Path)
@@ -51,12 +33,6 @@ FSoftObjectPath& FSoftObjectPath::operator=(std::nullptr_t)
 {
 	Reset();
 	return *this;
-}
-
-void FSoftObjectPath::SetPath(const FTopLevelAssetPath& InAssetPath, FString InSubPathString)
-{
-	AssetPath = InAssetPath;
-	SubPathString = MoveTemp(InSubPathString);
 }
 
 void FSoftObjectPath::SetPath(FStringView Path)
@@ -156,22 +132,6 @@ bool FSoftObjectPath::operator==(const FSoftObjectPath& Other) const
 }
 
 //~ FSoftClassPath
-
-FSoftClassPath::FSoftClassPath(const UClass* InClass)
-	: FSoftObjectPath(static_cast<const UObject*>(InClass))
-{
-}
-
-UClass* FSoftClassPath::ResolveClass() const
-{
-	return Cast<UClass>(ResolveObject());
-}
-
-UClass* FSoftClassPath::TryLoadClassOf(UClass* Base) const
-{
-	UClass* Class = Cast<UClass>(TryLoad());
-	return Class && Class->IsChildOf(Base) ? Class : nullptr;
-}
 
 //~ FSoftObjectPtr
 

@@ -77,9 +77,3 @@ FString FTopLevelAssetPath::ToString() const
 	}
 	return Result;
 }
-
-int32 FTopLevelAssetPath::Compare(const FTopLevelAssetPath& Other) const
-{
-	const int32 Package = PackageName.Compare(Other.PackageName);
-	return Package != 0 ? Package : AssetName.Compare(Other.AssetName);
-}

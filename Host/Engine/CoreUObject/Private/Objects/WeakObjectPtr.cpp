@@ -19,9 +19,3 @@ UObject* FWeakObjectPtr::Get(bool bEvenIfGarbage) const
 	const FObjectItem* Item = FObjectTable::Get().FindItem(Index, SerialNumber);
 	return Item && !Item->bUnreachable && (bEvenIfGarbage || !Item->bGarbage) ? Item->Object : nullptr;
 }
-
-UObject* FWeakObjectPtr::GetEvenIfUnreachable() const
-{
-	const FObjectItem* Item = FObjectTable::Get().FindItem(Index, SerialNumber);
-	return Item ? Item->Object : nullptr;
-}

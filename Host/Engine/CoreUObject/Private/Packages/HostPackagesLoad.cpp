@@ -126,30 +126,3 @@ UPackage* HostPackages::Load(const FString& PackageName)
 	const FLoadingScope Scope(StoredName);
 	return LoadText(Found.File, StoredName);
 }
-
-FString HostPackages::WriteProperties(const UObject* Object, const UObject* Defaults)
-{
-	FPropertyWriter Writer;
-	std::string Text;
-	return PackageJson::Print(Writer.WriteDifferences(Object, Defaults), Text) ? PackageJson::ToString(Text) : FString();
-}
-
-bool HostPackages::ReadProperties(UObject* Object, const FString& Json, const FString& File)
-{
-	FJson Document;
-	FJsonProblem Problem;
-	if (!PackageJson::Parse(PackageJson::FromString(Json), Document, Problem))
-	{
-		PackageJson::Report(File, Problem);
-		return false;
-	}
-	FPropertyReader Reader;
-	if (!Reader.ReadProperties(Object->GetClass(), nullptr, Document, FJsonPlace()))
-	{
-		PackageJson::Report(File, Reader.GetProblem());
-		return false;
-	}
-	Reader.ReadProperties(Object->GetClass(), Object, Document, FJsonPlace());
-	ReportUnresolved(File, FindMainAsset(Object->GetPackage()), Reader.GetUnresolved());
-	return true;
-}

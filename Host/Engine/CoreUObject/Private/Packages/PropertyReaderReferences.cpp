@@ -5,7 +5,6 @@
 #include "HostPackages.h"
 #include "UObject/Class.h"
 #include "UObject/Package.h"
-#include "UObject/ScriptInterface.h"
 #include "UObject/SoftObjectPtr.h"
 #include "UObject/UnrealType.h"
 
@@ -45,15 +44,6 @@ bool FPropertyReader::ReadReference(const FProperty* Property, void* Value, cons
 	if (const FSoftObjectProperty* Soft = CastField<FSoftObjectProperty>(Property))
 	{
 		Soft->SetPropertyValue(Value, FSoftObjectPtr(Path.IsEmpty() ? FSoftObjectPath() : FSoftObjectPath(Path)));
-		return true;
-	}
-	if (const FInterfaceProperty* Interface = CastField<FInterfaceProperty>(Property))
-	{
-		UObject* Object = Resolve(Path, nullptr, Place);
-		FScriptInterface Reference;
-		Reference.SetObject(Object);
-		Reference.SetInterface(Object != nullptr ? Object->GetInterfaceAddress(Interface->InterfaceClass) : nullptr);
-		Interface->SetPropertyValue(Value, Reference);
 		return true;
 	}
 	const FObjectPropertyBase* Reference = CastFieldChecked<FObjectPropertyBase>(Property);

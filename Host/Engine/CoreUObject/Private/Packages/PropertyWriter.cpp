@@ -6,7 +6,6 @@
 #include "PackageStructs.h"
 #include "UObject/Class.h"
 #include "UObject/Package.h"
-#include "UObject/ScriptInterface.h"
 #include "UObject/SoftObjectPtr.h"
 #include "UObject/UnrealType.h"
 
@@ -177,10 +176,6 @@ FJson FPropertyWriter::WriteValue(const FProperty* Property, const void* Value)
 	if (const FSoftObjectProperty* Soft = CastField<FSoftObjectProperty>(Property))
 	{
 		return PropertyWriter::FromText(Soft->GetPropertyValue(Value).ToString());
-	}
-	if (const FInterfaceProperty* Interface = CastField<FInterfaceProperty>(Property))
-	{
-		return WriteReference(Interface->GetPropertyValue(Value).GetObject());
 	}
 	const FObjectPropertyBase* Object = CastFieldChecked<FObjectPropertyBase>(Property);
 	return WriteReference(Object->GetObjectPropertyValue(Value));

@@ -57,14 +57,6 @@ void FScriptArrayHelper::Resize(int32 Count)
 	}
 }
 
-void FScriptArrayHelper::SwapValues(int32 A, int32 B)
-{
-	const FScratchValue Kept(Property->Inner);
-	Property->Inner->CopyCompleteValue(Kept.Get(), GetRawPtr(A));
-	Property->Inner->CopyCompleteValue(GetRawPtr(A), GetRawPtr(B));
-	Property->Inner->CopyCompleteValue(GetRawPtr(B), Kept.Get());
-}
-
 FScriptMapHelper::FScriptMapHelper(const FMapProperty* InProperty, const void* InMap)
 	: Property(InProperty)
 	, Map(const_cast<void*>(InMap))
@@ -82,24 +74,6 @@ void FScriptMapHelper::Refresh()
 		&Pairs);
 }
 
-void FScriptMapHelper::AddPair(const void* KeyPtr, const void* ValuePtr)
-{
-	Property->GetOps().Add(Map, KeyPtr, ValuePtr);
-	Refresh();
-}
-
-void FScriptMapHelper::RemovePair(const void* KeyPtr)
-{
-	Property->GetOps().Remove(Map, KeyPtr);
-	Refresh();
-}
-
-void FScriptMapHelper::EmptyValues()
-{
-	Property->GetOps().Empty(Map);
-	Refresh();
-}
-
 FScriptSetHelper::FScriptSetHelper(const FSetProperty* InProperty, const void* InSet)
 	: Property(InProperty)
 	, Set(const_cast<void*>(InSet))
@@ -115,24 +89,6 @@ void FScriptSetHelper::Refresh()
 			static_cast<TArray<uint8*>*>(Context)->Add(static_cast<uint8*>(const_cast<void*>(Element)));
 		},
 		&Elements);
-}
-
-void FScriptSetHelper::AddElement(const void* ElementPtr)
-{
-	Property->GetOps().Add(Set, ElementPtr, nullptr);
-	Refresh();
-}
-
-void FScriptSetHelper::RemoveElement(const void* ElementPtr)
-{
-	Property->GetOps().Remove(Set, ElementPtr);
-	Refresh();
-}
-
-void FScriptSetHelper::EmptyElements()
-{
-	Property->GetOps().Empty(Set);
-	Refresh();
 }
 
 //~ Arrays

@@ -36,6 +36,5 @@ IMPLEMENT_FIELD(WeakObjectProperty, CASTCLASS_FObjectPropertyBase | CASTCLASS_FP
 IMPLEMENT_FIELD(SoftObjectProperty, CASTCLASS_FObjectPropertyBase | CASTCLASS_FProperty)
 IMPLEMENT_FIELD(ClassProperty, CASTCLASS_FObjectProperty | CASTCLASS_FObjectPropertyBase | CASTCLASS_FProperty)
 IMPLEMENT_FIELD(SoftClassProperty, CASTCLASS_FSoftObjectProperty | CASTCLASS_FObjectPropertyBase | CASTCLASS_FProperty)
-IMPLEMENT_FIELD(InterfaceProperty, CASTCLASS_FProperty)
 IMPLEMENT_FIELD(DelegateProperty, CASTCLASS_FProperty)
 IMPLEMENT_FIELD(MulticastDelegateProperty, CASTCLASS_FProperty)

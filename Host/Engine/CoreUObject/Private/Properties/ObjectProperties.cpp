@@ -264,58 +264,6 @@ FString FSoftClassProperty::GetCPPType() const
 	return FString::Printf(TEXT("TSoftClassPtr<%s%s>"), MetaClass->GetPrefixCPP(), *MetaClass->GetName());
 }
 
-//~ Interfaces
-
-FString FInterfaceProperty::GetCPPType() const
-{
-	return FString::Printf(TEXT("TScriptInterface<I%s>"), *InterfaceClass->GetName());
-}
-
-void FInterfaceProperty::CollectReferences(void* Value, FReferenceCollector& Collector) const
-{
-	FScriptInterface* Interface = static_cast<FScriptInterface*>(Value);
-	UObject* const Before = Interface->GetObject();
-	Collector.AddReferencedObject(*Interface);
-	UObject* const After = Interface->GetObject();
-	if (After != Before)
-	{
-		Interface->SetInterface(After ? After->GetNativeInterfaceAddress(InterfaceClass) : nullptr);
-	}
-}
-
-void FInterfaceProperty::ExportText_Internal(FString& ValueStr, const void* Value, const void*, UObject*, int32 PortFlags, UObject*) const
-{
-	const UObject* Object = GetPropertyValue(Value).GetObject();
-	if (!Object)
-	{
-		ValueStr += TEXT("None");
-		return;
-	}
-	ObjectProperties::AppendMaybeQuoted(ValueStr, ObjectProperties::ExportPath(Object), PortFlags);
-}
-
-const TCHAR* FInterfaceProperty::ImportText_Internal(const TCHAR* Buffer, void* Value, UObject* OwnerObject, int32 PortFlags, FOutputDevice*) const
-{
-	FString Text;
-	const TCHAR* Rest = PropertyText::ReadText(PropertyText::SkipBlanks(Buffer), PortFlags, Text);
-	if (!Rest)
-	{
-		return nullptr;
-	}
-	FScriptInterface Interface;
-	if (!Text.IsEmpty() && Text != TEXT("None"))
-	{
-		UObject* Object = ObjectProperties::FindOrLoad(nullptr, Text, OwnerObject);
-		if (!Object || !Object->GetClass()->ImplementsInterface(InterfaceClass))
-		{
-			return nullptr;
-		}
-		Interface = FScriptInterface(Object, Object->GetNativeInterfaceAddress(InterfaceClass));
-	}
-	SetPropertyValue(Value, Interface);
-	return Rest;
-}
-
 //~ Dynamic delegates
 
 void FDelegateProperty::ExportText_Internal(FString& ValueStr, const void* Value, const void*, UObject*, int32, UObject*) const

@@ -56,11 +56,6 @@ bool FProperty::ExportText_Direct(FString& ValueStr, const void* Data, const voi
 	return true;
 }
 
-bool FProperty::ExportText_InContainer(int32 Index, FString& ValueStr, const void* Data, const void* Delta, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
-{
-	return ExportText_Direct(ValueStr, ContainerPtrToValuePtr(Data, Index), Delta ? ContainerPtrToValuePtr(Delta, Index) : nullptr, Parent, PortFlags, ExportRootScope);
-}
-
 const TCHAR* FProperty::ImportText_Direct(const TCHAR* Buffer, void* PropertyPtr, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
 {
 	constexpr int32 MaxDepth = 256; // of values in each other, in a type that can hold values of its own kind

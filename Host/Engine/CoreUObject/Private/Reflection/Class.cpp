@@ -124,12 +124,6 @@ FProperty* UFunction::GetReturnProperty() const
 	return !Parameters.IsEmpty() && Parameters.Last()->HasAnyPropertyFlags(CPF_ReturnParm) ? Parameters.Last() : nullptr;
 }
 
-UFunction* UFunction::GetSuperFunction() const
-{
-	const UClass* SuperClass = GetOwnerClass()->GetSuperClass();
-	return SuperClass ? SuperClass->FindFunctionByName(GetFName()) : nullptr;
-}
-
 void UFunction::Invoke(UObject* Obj, FFrame& Stack, void* const Result)
 {
 	if (Script)

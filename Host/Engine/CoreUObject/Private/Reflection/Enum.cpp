@@ -87,16 +87,6 @@ int64 UEnum::GetMaxEnumValue() const
 	return Max;
 }
 
-FName UEnum::GetNameByIndex(int32 Index) const
-{
-	return Names.IsValidIndex(Index) ? Names[Index].Key : FName();
-}
-
-FName UEnum::GetNameByValue(int64 InValue) const
-{
-	return GetNameByIndex(GetIndexByValue(InValue));
-}
-
 FString UEnum::GetNameStringByIndex(int32 Index) const
 {
 	return Names.IsValidIndex(Index) ? EnumNames::WithoutScope(Names[Index].Key.ToString()) : FString();

@@ -33,24 +33,6 @@ namespace UE::Reflection
 		}
 		return Values.Find(Key);
 	}
-
-	void FMetaDataMap::Set(FName Key, const FString& Value) const
-	{
-		Unpack();
-		Values.Add(Key, Value);
-	}
-
-	void FMetaDataMap::Remove(FName Key) const
-	{
-		Unpack();
-		Values.Remove(Key);
-	}
-
-	const TMap<FName, FString>& FMetaDataMap::GetAll() const
-	{
-		Unpack();
-		return Values;
-	}
 }
 
 namespace Field
@@ -76,11 +58,6 @@ namespace Field
 	}
 }
 
-FString FField::GetPathName() const
-{
-	return OwnerStruct ? OwnerStruct->GetPathName() + TEXT(":") + GetName() : GetName();
-}
-
 UClass* FField::GetOwnerClass() const
 {
 	if (!OwnerStruct || !OwnerStruct->IsA(UField::StaticClass()))
@@ -99,11 +76,6 @@ const FString& FField::GetMetaData(const FName& Key) const
 bool FField::GetBoolMetaData(const FName& Key) const
 {
 	return Field::ToBool(MetaData.Find(Key));
-}
-
-int32 FField::GetIntMetaData(const FName& Key) const
-{
-	return FCString::Atoi(*GetMetaData(Key));
 }
 
 FText FField::GetDisplayNameText() const
@@ -126,11 +98,6 @@ UClass* UField::GetOwnerClass() const
 	return static_cast<UClass*>(GetTypedOuter(UClass::StaticClass()));
 }
 
-UStruct* UField::GetOwnerStruct() const
-{
-	return static_cast<UStruct*>(GetTypedOuter(UStruct::StaticClass()));
-}
-
 const FString& UField::GetMetaData(const FName& Key) const
 {
 	const FString* Value = MetaData.Find(Key);
@@ -142,17 +109,7 @@ bool UField::GetBoolMetaData(const FName& Key) const
 	return Field::ToBool(MetaData.Find(Key));
 }
 
-int32 UField::GetIntMetaData(const FName& Key) const
-{
-	return FCString::Atoi(*GetMetaData(Key));
-}
-
 FText UField::GetDisplayNameText() const
 {
 	return Field::DisplayName(MetaData, GetName(), false);
-}
-
-FText UField::GetToolTipText(bool bShortTooltip) const
-{
-	return Field::ToolTip(MetaData, bShortTooltip, GetDisplayNameText());
 }

@@ -70,10 +70,6 @@ UClass* UField::StaticClass()
 {
 	return UE::Reflection::ClassOf<UField>();
 }
-UClass* UStruct::StaticClass()
-{
-	return UE::Reflection::ClassOf<UStruct>();
-}
 UClass* UScriptStruct::StaticClass()
 {
 	return UE::Reflection::ClassOf<UScriptStruct>();
@@ -93,8 +89,4 @@ UClass* UFunction::StaticClass()
 UClass* UPackage::StaticClass()
 {
 	return UE::Reflection::ClassOf<UPackage>();
-}
-UClass* UInterface::StaticClass()
-{
-	return UE::Reflection::ClassOf<UInterface>();
 }

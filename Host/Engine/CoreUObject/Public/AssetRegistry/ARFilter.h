@@ -28,30 +28,4 @@ struct FARFilter
 	{
 		return PackageNames.IsEmpty() && PackagePaths.IsEmpty() && SoftObjectPaths.IsEmpty() && ClassPaths.IsEmpty();
 	}
-
-	/** Adds the components of Other; a flag set in either is set. */
-	void Append(const FARFilter& Other)
-	{
-		PackageNames.Append(Other.PackageNames);
-		PackagePaths.Append(Other.PackagePaths);
-		SoftObjectPaths.Append(Other.SoftObjectPaths);
-		ClassPaths.Append(Other.ClassPaths);
-		for (const FTopLevelAssetPath& ClassPath : Other.RecursiveClassPathsExclusionSet)
-		{
-			RecursiveClassPathsExclusionSet.Add(ClassPath);
-		}
-		bRecursivePaths |= Other.bRecursivePaths;
-		bRecursiveClasses |= Other.bRecursiveClasses;
-		bIncludeOnlyOnDiskAssets |= Other.bIncludeOnlyOnDiskAssets;
-	}
-
-	/** Empties the components; the flags stay. */
-	void Clear()
-	{
-		PackageNames.Empty();
-		PackagePaths.Empty();
-		SoftObjectPaths.Empty();
-		ClassPaths.Empty();
-		RecursiveClassPathsExclusionSet.Empty();
-	}
 };

@@ -94,10 +94,3 @@ To* CastChecked(const TObjectPtr<From>& Src, ECastCheckedType::Type CheckType = 
 {
 	return CastChecked<To>(const_cast<std::remove_const_t<From>*>(Src.Get()), CheckType);
 }
-
-/** Null unless the object's class is To itself. */
-template<typename To, typename From>
-UE::CoreUObject::Private::TCastResult<To, From> ExactCast(From* Src)
-{
-	return Src && Src->GetClass() == To::StaticClass() ? Cast<To>(Src) : nullptr;
-}

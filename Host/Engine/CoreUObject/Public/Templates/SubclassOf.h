@@ -32,18 +32,8 @@ public:
 	}
 
 	UClass* Get() const { return Class && static_cast<UClass*>(Class)->IsChildOf(T::StaticClass()) ? static_cast<UClass*>(Class) : nullptr; }
-	UClass* operator*() const { return Get(); }
 	UClass* operator->() const { return Get(); }
 	operator UClass*() const { return Get(); }
-
-	/** Null without a class. */
-	T* GetDefaultObject() const
-	{
-		UClass* Valid = Get();
-		return Valid ? static_cast<T*>(Valid->GetDefaultObject()) : nullptr;
-	}
-
-	UObject*& GetReferenceForCollector() { return Class; }
 
 	friend uint32 GetTypeHash(const TSubclassOf& Subclass) { return Subclass.Class ? Subclass.Class->GetUniqueID() : 0; }
 

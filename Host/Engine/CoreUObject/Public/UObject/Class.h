@@ -38,25 +38,18 @@ public:
 	explicit UField(const FObjectInitializer& ObjectInitializer = FObjectInitializer::Get());
 
 	UClass* GetOwnerClass() const;
-	UStruct* GetOwnerStruct() const;
 
 	bool HasMetaData(const TCHAR* Key) const { return MetaData.Find(FName(Key)) != nullptr; }
 	bool HasMetaData(const FName& Key) const { return MetaData.Find(Key) != nullptr; }
-	const FString* FindMetaData(const TCHAR* Key) const { return MetaData.Find(FName(Key)); }
-	const FString* FindMetaData(const FName& Key) const { return MetaData.Find(Key); }
 	/** Empty when there is none. */
 	const FString& GetMetaData(const TCHAR* Key) const { return GetMetaData(FName(Key)); }
 	const FString& GetMetaData(const FName& Key) const;
 	/** True for any value but "false". */
 	bool GetBoolMetaData(const TCHAR* Key) const { return GetBoolMetaData(FName(Key)); }
 	bool GetBoolMetaData(const FName& Key) const;
-	int32 GetIntMetaData(const FName& Key) const;
-	void SetMetaData(const TCHAR* Key, const TCHAR* Value) { MetaData.Set(FName(Key), FString(Value)); }
 
 	/** Metadata DisplayName, else the name in words. */
 	FText GetDisplayNameText() const;
-	/** Metadata ToolTip, else the display name. */
-	FText GetToolTipText(bool bShortTooltip = false) const;
 
 protected:
 	UE::Reflection::FMetaDataMap MetaData;
@@ -181,20 +174,14 @@ public:
 	/** As written in C++: "EFoo" or "EFoo::Type". */
 	FString CppType;
 
-	ECppForm GetCppForm() const { return CppForm; }
 	/** Entries, the "_MAX" one included. */
 	int32 NumEnums() const { return Names.Num(); }
 	bool ContainsExistingMax() const;
 	int64 GetMaxEnumValue() const;
-	bool IsValidEnumValue(int64 InValue) const { return GetIndexByValue(InValue) != INDEX_NONE; }
 
-	/** Full names ("EFoo::A" for scoped enums); NAME_None for an unknown index or value. */
-	FName GetNameByIndex(int32 Index) const;
-	FName GetNameByValue(int64 InValue) const;
 	/** Without the scope; empty when unknown. */
 	FString GetNameStringByIndex(int32 Index) const;
 	FString GetNameStringByValue(int64 InValue) const;
-	FString GetAuthoredNameStringByIndex(int32 Index) const { return GetNameStringByIndex(Index); }
 	FString GetAuthoredNameStringByValue(int64 InValue) const { return GetNameStringByValue(InValue); }
 
 	/** Full and short names both do, case aside. INDEX_NONE when unknown. */
@@ -242,8 +229,6 @@ public:
 	bool HasAllFunctionFlags(EFunctionFlags FlagsToCheck) const { return (FunctionFlags & FlagsToCheck) == FlagsToCheck; }
 	/** Null for functions without a result. */
 	FProperty* GetReturnProperty() const;
-	/** The function of the same name that the super class would run. */
-	UFunction* GetSuperFunction() const;
 
 	/** Runs the script body, else the native one; an event that has neither does nothing. */
 	void Invoke(UObject* Obj, FFrame& Stack, void* const Result);
@@ -276,8 +261,6 @@ public:
 
 	UClass* GetSuperClass() const { return static_cast<UClass*>(SuperStruct); }
 	bool HasAnyClassFlags(EClassFlags FlagsToCheck) const { return (ClassFlags & FlagsToCheck) != 0; }
-	bool HasAllClassFlags(EClassFlags FlagsToCheck) const { return (ClassFlags & FlagsToCheck) == FlagsToCheck; }
-	EClassFlags GetClassFlags() const { return ClassFlags; }
 
 	/** Made on first use of each editor: native constructor, then config values. */
 	UObject* GetDefaultObject(bool bCreateIfNeeded = true) const
@@ -347,21 +330,9 @@ const T* GetDefault()
 }
 
 template<class T>
-const T* GetDefault(const UClass* Class)
-{
-	return static_cast<const T*>(Class->GetDefaultObject());
-}
-
-template<class T>
 T* GetMutableDefault()
 {
 	return static_cast<T*>(T::StaticClass()->GetDefaultObject());
-}
-
-template<class T>
-T* GetMutableDefault(const UClass* Class)
-{
-	return static_cast<T*>(Class->GetDefaultObject());
 }
 
 /** The struct of T; specialised for Core's value types, which cannot carry a StaticStruct() of their own. */

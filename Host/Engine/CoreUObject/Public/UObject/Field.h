@@ -44,7 +44,6 @@ enum EClassCastFlags : uint64
 	CASTCLASS_FSoftObjectProperty = 1ull << 24,
 	CASTCLASS_FClassProperty = 1ull << 25,
 	CASTCLASS_FSoftClassProperty = 1ull << 26,
-	CASTCLASS_FInterfaceProperty = 1ull << 27,
 	CASTCLASS_FDelegateProperty = 1ull << 28,
 	CASTCLASS_FMulticastDelegateProperty = 1ull << 29,
 };
@@ -60,13 +59,8 @@ public:
 	{
 	}
 
-	/** Without the prefix: "IntProperty". */
-	FString GetName() const { return Name.ToString(); }
 	FName GetFName() const { return Name; }
-	uint64 GetId() const { return Id; }
-	uint64 GetCastFlags() const { return CastFlags; }
 	bool HasAnyCastFlags(uint64 InCastFlags) const { return (CastFlags & InCastFlags) != 0; }
-	bool IsChildOf(const FFieldClass* Base) const { return (CastFlags & Base->Id) != 0; }
 
 private:
 	FName Name;
@@ -91,23 +85,17 @@ public:
 
 	FName GetFName() const { return NamePrivate; }
 	FString GetName() const { return NamePrivate.ToString(); }
-	/** The path of the owner struct, a colon, the name. */
-	FString GetPathName() const;
 	/** The struct, class or function it belongs to, also for the inner properties of containers. */
 	UStruct* GetOwnerStruct() const { return OwnerStruct; }
 	UClass* GetOwnerClass() const;
 
 	bool HasMetaData(const TCHAR* Key) const { return MetaData.Find(FName(Key)) != nullptr; }
 	bool HasMetaData(const FName& Key) const { return MetaData.Find(Key) != nullptr; }
-	const FString* FindMetaData(const TCHAR* Key) const { return MetaData.Find(FName(Key)); }
-	const FString* FindMetaData(const FName& Key) const { return MetaData.Find(Key); }
 	/** Empty when there is none. */
 	const FString& GetMetaData(const TCHAR* Key) const { return GetMetaData(FName(Key)); }
 	const FString& GetMetaData(const FName& Key) const;
 	/** True for any value but "false". */
 	bool GetBoolMetaData(const FName& Key) const;
-	int32 GetIntMetaData(const FName& Key) const;
-	void SetMetaData(const FName& Key, const FString& Value) { MetaData.Set(Key, Value); }
 
 	/** Metadata DisplayName, else the name in words. */
 	FText GetDisplayNameText() const;

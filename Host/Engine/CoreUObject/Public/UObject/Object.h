@@ -40,15 +40,12 @@ public:
 	UObject* GetOuter() const { return OuterPrivate; }
 	FName GetFName() const { return NamePrivate; }
 	FString GetName() const { return NamePrivate.ToString(); }
-	void GetName(FString& ResultString) const { ResultString = NamePrivate.ToString(); }
 
 	/** "/Game/Dir/Asset.Asset", and "…Asset.Asset:Sub.Sub" for what lies deeper. StopOuter, and what is above it, is left out. */
 	FString GetPathName(const UObject* StopOuter = nullptr) const;
 	void GetPathName(const UObject* StopOuter, FString& ResultString) const;
 	/** Class name, a blank, path. */
 	FString GetFullName(const UObject* StopOuter = nullptr) const;
-	/** Path without the package, parts joined by dots; the object itself only when asked to start with it. */
-	FString GetFullGroupName(bool bStartWithOuter) const;
 
 	/** The outermost object is always a package. */
 	UPackage* GetOutermost() const;
@@ -87,14 +84,10 @@ public:
 	void ClearGarbage();
 	bool IsUnreachable() const;
 
-	/** Whether it is, or lies in, a class default object or another template. */
-	bool IsTemplate(EObjectFlags TemplateTypes = RF_ArchetypeObject | RF_ClassDefaultObject) const;
 	/** Whether it is a public object directly in a package, and not transient. */
 	virtual bool IsAsset() const;
-	bool IsDefaultSubobject() const { return HasAnyFlags(RF_DefaultSubObject); }
 	/** What the values of a new object of this class and name are copied from. Null for UObject's own default object. */
 	UObject* GetArchetype() const;
-	UObject* GetDefaultSubobjectByName(FName ToFind) const;
 
 	template<class TReturnType>
 	TReturnType* CreateDefaultSubobject(FName SubobjectName, bool bTransient = false)
@@ -112,12 +105,6 @@ public:
 	const void* GetNativeInterfaceAddress(UClass* InterfaceClass) const { return const_cast<UObject*>(this)->GetNativeInterfaceAddress(InterfaceClass); }
 	/** The same, but the object itself when only a script class implements it. */
 	void* GetInterfaceAddress(UClass* InterfaceClass);
-	/** T is the U… class of the interface; native and script implementers count. */
-	template<typename T>
-	bool Implements() const
-	{
-		return ImplementsInterfaceClass(T::StaticClass());
-	}
 
 	/** By name, case aside: the class's own functions, those of its interfaces, then the super classes'. */
 	UFunction* FindFunction(FName InName) const;
@@ -129,7 +116,6 @@ public:
 	virtual void PostInitProperties();
 	/** After loading, once all values are in. */
 	virtual void PostLoad() {}
-	virtual void PostDuplicate(bool) {}
 	/** First step of destruction: let go of others. Other dying objects still exist. */
 	virtual void BeginDestroy();
 	/** Calls BeginDestroy() unless that has happened; false when it had. */
@@ -171,8 +157,6 @@ public:
 		bool bAllowCopyToDefaultObject = true);
 	/** Reads the config properties; those the file does not name keep their values. */
 	void LoadConfig(UClass* ConfigClass = nullptr, const TCHAR* Filename = nullptr, uint32 PropagationFlags = 0, FProperty* PropertyToLoad = nullptr);
-	void ReloadConfig(UClass* ConfigClass = nullptr, const TCHAR* Filename = nullptr, uint32 PropagationFlags = 0, FProperty* PropertyToLoad = nullptr);
-	virtual void PostReloadConfig(FProperty*) {}
 	/** "<Project>/Config/Default<Config>.ini"; empty for classes without a config file. */
 	FString GetDefaultConfigFilename() const;
 	/**
@@ -180,8 +164,6 @@ public:
 	 * @return whether the file could be written; if not, and bWarnIfFail, a warning is logged.
 	 */
 	bool TryUpdateDefaultConfigFile(const FString& SpecificFileLocation = FString(), bool bWarnIfFail = true);
-	/** Writes one property to ConfigIniName, which is a file path. */
-	void UpdateSinglePropertyInConfigFile(const FProperty* InProperty, const FString InConfigIniName);
 
 	/** Hook for references that are not reflected: hide it in a derived class, and call Super's. */
 	static void AddReferencedObjects(UObject* InThis, FReferenceCollector& Collector);

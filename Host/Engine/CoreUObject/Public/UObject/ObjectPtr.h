@@ -63,29 +63,3 @@ private:
 
 	UObject* Object = nullptr;
 };
-
-/** The same array, seen as raw pointers. */
-template<typename T>
-TArray<T*>& ObjectPtrDecay(TArray<TObjectPtr<T>>& Array)
-{
-	static_assert(sizeof(TObjectPtr<T>) == sizeof(T*));
-	return reinterpret_cast<TArray<T*>&>(Array);
-}
-
-template<typename T>
-const TArray<T*>& ObjectPtrDecay(const TArray<TObjectPtr<T>>& Array)
-{
-	return reinterpret_cast<const TArray<T*>&>(Array);
-}
-
-template<typename T>
-T* ToRawPtr(const TObjectPtr<T>& Ptr)
-{
-	return Ptr.Get();
-}
-
-template<typename T>
-T* ToRawPtr(T* Ptr)
-{
-	return Ptr;
-}

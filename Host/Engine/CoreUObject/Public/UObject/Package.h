@@ -27,13 +27,9 @@ public:
 	/** Whether all its objects are in memory. A newly made package counts once it is told so. */
 	bool IsFullyLoaded() const { return bFullyLoaded; }
 	void MarkAsFullyLoaded() { bFullyLoaded = true; }
-	void FullyLoad() {}
 
 	bool HasAnyPackageFlags(uint32 Flags) const { return (PackageFlags & Flags) != 0; }
 	void SetPackageFlags(uint32 Flags) { PackageFlags |= Flags; }
-	void ClearPackageFlags(uint32 Flags) { PackageFlags &= ~Flags; }
-	uint32 GetPackageFlags() const { return PackageFlags; }
-	bool ContainsMap() const { return HasAnyPackageFlags(PKG_ContainsMap); }
 
 	/** The asset of the package: its first public top-level object. Null for empty packages. */
 	UObject* FindAssetInPackage(EObjectFlags RequiredTopLevelFlags = RF_NoFlags) const;

@@ -9,15 +9,3 @@ class UScriptStruct;
 /** The reflected enum; generated code specialises it for each UENUM. */
 template<typename EnumType>
 UEnum* StaticEnum();
-
-template<typename ClassType>
-UClass* StaticClass()
-{
-	return ClassType::StaticClass();
-}
-
-template<typename StructType>
-UScriptStruct* StaticStruct()
-{
-	return StructType::StaticStruct();
-}

@@ -22,21 +22,12 @@ class FScriptDelegate
 public:
 	/** The function is looked up by name at each call; it need not exist yet. */
 	void BindUFunction(UObject* InObject, const FName& InFunctionName);
-	void Unbind();
-	void Clear() { Unbind(); }
 
 	/** Whether the object lives and has such a function. */
 	bool IsBound() const;
 	bool IsBoundToObject(const void* InObject) const { return InObject && Object.Get() == InObject; }
 	UObject* GetUObject() const { return Object.Get(); }
 	FName GetFunctionName() const { return FunctionName; }
-
-	/** Calls the function with a block of parameters. The delegate must be bound. */
-	template<class TObjectClass>
-	void ProcessDelegate(void* Parameters) const
-	{
-		Process(Parameters);
-	}
 
 	bool operator==(const FScriptDelegate& Other) const
 	{
@@ -61,23 +52,12 @@ class FMulticastScriptDelegate
 public:
 	bool IsBound() const;
 	bool Contains(const FScriptDelegate& InDelegate) const;
-	bool Contains(const UObject* InObject, FName InFunctionName) const;
 
 	/** Reports, and does nothing, when the binding is there already. */
 	void Add(const FScriptDelegate& InDelegate);
 	void AddUnique(const FScriptDelegate& InDelegate);
 	void Remove(const FScriptDelegate& InDelegate);
 	void Remove(const UObject* InObject, FName InFunctionName);
-	void RemoveAll(const UObject* Object);
-	void Clear() { InvocationList.Empty(); }
-	TArray<UObject*> GetAllObjects() const;
-
-	/** Calls a copy of the list: what is added meanwhile is not called, what is removed meanwhile still is if its object lives. */
-	template<class TObjectClass>
-	void ProcessMulticastDelegate(void* Parameters) const
-	{
-		Process(Parameters, INDEX_NONE);
-	}
 
 	bool operator==(const FMulticastScriptDelegate& Other) const { return InvocationList == Other.InvocationList; }
 
@@ -94,18 +74,6 @@ class TBaseDynamicDelegate : public FScriptDelegate
 {
 public:
 	TBaseDynamicDelegate() = default;
-	explicit TBaseDynamicDelegate(const FScriptDelegate& InDelegate)
-		: FScriptDelegate(InDelegate)
-	{
-	}
-
-	/** Use BindDynamic(). */
-	template<class UserClass>
-	void __Internal_BindDynamic(UserClass* InUserObject, RetValType (std::type_identity_t<UserClass>::*)(ParamTypes...), const char* InFunctionName)
-	{
-		checkf(InUserObject, TEXT("Dynamic delegates are bound to objects."));
-		BindUFunction(InUserObject, FName(InFunctionName));
-	}
 
 	/** The delegate must be bound. */
 	RetValType Execute(ParamTypes... Params) const
@@ -118,17 +86,6 @@ public:
 			Block.CopyBack(Params...);
 		}
 		return Block.GetResult();
-	}
-
-	bool ExecuteIfBound(ParamTypes... Params) const
-		requires std::is_void_v<RetValType>
-	{
-		const bool bBound = IsBound();
-		if (bBound)
-		{
-			Execute(Params...);
-		}
-		return bBound;
 	}
 };
 
@@ -157,18 +114,7 @@ public:
 	{
 		Remove(InUserObject, FName(InFunctionName));
 	}
-	template<class UserClass>
-	bool __Internal_IsAlreadyBound(UserClass* InUserObject, void (std::type_identity_t<UserClass>::*)(ParamTypes...), const char* InFunctionName) const
-	{
-		return Contains(InUserObject, FName(InFunctionName));
-	}
 
-	// The same for objects held in members.
-	template<class UserClass, class TMethod>
-	void __Internal_AddDynamic(const TObjectPtr<UserClass>& InUserObject, TMethod Method, const char* FunctionName)
-	{
-		__Internal_AddDynamic(InUserObject.Get(), Method, FunctionName);
-	}
 	template<class UserClass, class TMethod>
 	void __Internal_AddUniqueDynamic(const TObjectPtr<UserClass>& InUserObject, TMethod Method, const char* FunctionName)
 	{
@@ -178,11 +124,6 @@ public:
 	void __Internal_RemoveDynamic(const TObjectPtr<UserClass>& InUserObject, TMethod Method, const char* FunctionName)
 	{
 		__Internal_RemoveDynamic(InUserObject.Get(), Method, FunctionName);
-	}
-	template<class UserClass, class TMethod>
-	bool __Internal_IsAlreadyBound(const TObjectPtr<UserClass>& InUserObject, TMethod Method, const char* FunctionName) const
-	{
-		return __Internal_IsAlreadyBound(InUserObject.Get(), Method, FunctionName);
 	}
 
 	void Broadcast(ParamTypes... Params) const
@@ -202,33 +143,10 @@ private:
 	}
 };
 
-/** What CreateUFunction, BindUFunction and AddUFunction of native delegates do: parameters and then payload go into one block. */
-template<typename RetValType, typename... ParamTypes>
-class UE::Delegates::Private::TScriptFunctionCall<RetValType(ParamTypes...)>
-{
-public:
-	explicit TScriptFunctionCall(const FName& InFunctionName)
-		: FunctionName(InFunctionName)
-	{
-	}
-
-	RetValType operator()(UObject* InObject, ParamTypes... Params) const
-	{
-		FScriptDelegate Binding;
-		Binding.BindUFunction(InObject, FunctionName);
-		return TBaseDynamicDelegate<RetValType, ParamTypes...>(Binding).Execute(Params...);
-	}
-
-private:
-	FName FunctionName;
-};
-
 // FuncName is written as &UClass::Function: its name is taken from the source text, and the compiler refuses functions that
 // are not reflected or do not fit the delegate.
-#define BindDynamic(UserObject, FuncName) __Internal_BindDynamic(UserObject, FuncName, UE::Reflection::HandlerName<decltype(FuncName)>(#FuncName))
 #define AddDynamic(UserObject, FuncName) __Internal_AddDynamic(UserObject, FuncName, UE::Reflection::HandlerName<decltype(FuncName)>(#FuncName))
 #define AddUniqueDynamic(UserObject, FuncName) __Internal_AddUniqueDynamic(UserObject, FuncName, UE::Reflection::HandlerName<decltype(FuncName)>(#FuncName))
 #define RemoveDynamic(UserObject, FuncName) __Internal_RemoveDynamic(UserObject, FuncName, UE::Reflection::HandlerName<decltype(FuncName)>(#FuncName))
-#define IsAlreadyBound(UserObject, FuncName) __Internal_IsAlreadyBound(UserObject, FuncName, UE::Reflection::HandlerName<decltype(FuncName)>(#FuncName))
 
 #include "HostReflection/ScriptDelegateMacros.h"

@@ -12,7 +12,6 @@
 #include "UObject/ReflectedTypeAccessors.h"
 #include "UObject/Script.h"
 #include "UObject/ScriptDelegates.h"
-#include "UObject/ScriptInterface.h"
 #include "UObject/SoftObjectPtr.h"
 #include "UObject/Stack.h"
 #include "UObject/WeakObjectPtrTemplates.h"

@@ -15,8 +15,6 @@ struct FSoftObjectPath
 {
 	FSoftObjectPath() = default;
 	FSoftObjectPath(const FString& Path) { SetPath(Path); }
-	explicit FSoftObjectPath(FTopLevelAssetPath InAssetPath, FString InSubPathString = FString());
-	FSoftObjectPath(FName InPackageName, FName InAssetName, FString InSubPathString);
 	explicit FSoftObjectPath(FStringView Path) { SetPath(Path); }
 	explicit FSoftObjectPath(FAnsiStringView Path) { SetPath(Path); }
 	explicit FSoftObjectPath(const TCHAR* Path) { SetPath(Path); }
@@ -29,12 +27,10 @@ struct FSoftObjectPath
 	{
 	}
 
-	FSoftObjectPath& operator=(const FTopLevelAssetPath& Path);
 	FSoftObjectPath& operator=(const FString& Path);
 	FSoftObjectPath& operator=(const TCHAR* Path);
 	FSoftObjectPath& operator=(std::nullptr_t);
 
-	void SetPath(const FTopLevelAssetPath& InAssetPath, FString InSubPathString = FString());
 	void SetPath(FStringView Path);
 	void SetPath(FAnsiStringView Path);
 	void SetPath(FName Path);
@@ -44,19 +40,9 @@ struct FSoftObjectPath
 
 	/** Empty for null. */
 	FString ToString() const;
-	void ToString(FString& OutString) const { OutString = ToString(); }
-	FTopLevelAssetPath GetAssetPath() const { return AssetPath; }
-	FString GetAssetPathString() const { return AssetPath.ToString(); }
-	const FString& GetSubPathString() const { return SubPathString; }
 	FString GetLongPackageName() const { return AssetPath.IsNull() ? FString() : AssetPath.GetPackageName().ToString(); }
-	FName GetLongPackageFName() const { return AssetPath.GetPackageName(); }
-	FString GetAssetName() const { return AssetPath.GetAssetName().IsNone() ? FString() : AssetPath.GetAssetName().ToString(); }
-	FName GetAssetFName() const { return AssetPath.GetAssetName(); }
 
 	bool IsNull() const { return AssetPath.IsNull(); }
-	bool IsValid() const { return AssetPath.IsValid(); }
-	bool IsAsset() const { return IsValid() && SubPathString.IsEmpty(); }
-	bool IsSubobject() const { return IsValid() && !SubPathString.IsEmpty(); }
 	void Reset();
 
 	/** The object if it is in memory. */
@@ -66,7 +52,6 @@ struct FSoftObjectPath
 
 	/** Paths ignore case; so does the sub path. */
 	bool operator==(const FSoftObjectPath& Other) const;
-	bool LexicalLess(const FSoftObjectPath& Other) const { return ToString().Compare(Other.ToString(), ESearchCase::IgnoreCase) < 0; }
 	friend uint32 GetTypeHash(const FSoftObjectPath& Path) { return GetTypeHash(Path.AssetPath) ^ GetTypeHash(Path.SubPathString); }
 
 private:
@@ -82,16 +67,4 @@ struct FSoftClassPath : public FSoftObjectPath
 	using FSoftObjectPath::FSoftObjectPath;
 	using FSoftObjectPath::operator=;
 	FSoftClassPath() = default;
-	explicit FSoftClassPath(const UClass* InClass);
-
-	/** The class if it is in memory; null when the object is no class. */
-	UClass* ResolveClass() const;
-	template<typename T>
-	UClass* TryLoadClass() const
-	{
-		return TryLoadClassOf(T::StaticClass());
-	}
-
-private:
-	UClass* TryLoadClassOf(UClass* Base) const;
 };

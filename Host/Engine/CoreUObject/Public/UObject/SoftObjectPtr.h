@@ -27,17 +27,8 @@ struct FSoftObjectPtr
 	UObject* Get() const;
 	UObject* LoadSynchronous() const;
 
-	const FSoftObjectPath& ToSoftObjectPath() const { return ObjectID; }
-	const FSoftObjectPath& GetUniqueID() const { return ObjectID; }
 	FString ToString() const { return ObjectID.ToString(); }
-	FString GetLongPackageName() const { return ObjectID.GetLongPackageName(); }
-	FString GetAssetName() const { return ObjectID.GetAssetName(); }
 	bool IsNull() const { return ObjectID.IsNull(); }
-	/** Whether the object is in memory. */
-	bool IsValid() const { return Get() != nullptr; }
-	/** Not null, but not in memory. */
-	bool IsPending() const { return !IsNull() && Get() == nullptr; }
-	void Reset() { *this = FSoftObjectPtr(); }
 
 	bool operator==(const FSoftObjectPtr& Other) const { return ObjectID == Other.ObjectID; }
 	friend uint32 GetTypeHash(const FSoftObjectPtr& Ptr) { return GetTypeHash(Ptr.ObjectID); }
@@ -92,21 +83,10 @@ struct TSoftObjectPtr
 
 	T* Get() const { return Cast<T>(SoftObjectPtr.Get()); }
 	T* LoadSynchronous() const { return Cast<T>(SoftObjectPtr.LoadSynchronous()); }
-	T* operator->() const { return Get(); }
-	T& operator*() const { return *Get(); }
 
-	const FSoftObjectPath& ToSoftObjectPath() const { return SoftObjectPtr.ToSoftObjectPath(); }
-	const FSoftObjectPath& GetUniqueID() const { return SoftObjectPtr.GetUniqueID(); }
 	FString ToString() const { return SoftObjectPtr.ToString(); }
-	FString GetLongPackageName() const { return SoftObjectPtr.GetLongPackageName(); }
-	FString GetAssetName() const { return SoftObjectPtr.GetAssetName(); }
 	bool IsNull() const { return SoftObjectPtr.IsNull(); }
-	bool IsValid() const { return Get() != nullptr; }
-	bool IsPending() const { return SoftObjectPtr.IsPending(); }
-	explicit operator bool() const { return IsValid(); }
-	void Reset() { SoftObjectPtr.Reset(); }
 
-	bool operator==(const TSoftObjectPtr& Other) const { return SoftObjectPtr == Other.SoftObjectPtr; }
 	friend uint32 GetTypeHash(const TSoftObjectPtr& Ptr) { return GetTypeHash(Ptr.SoftObjectPtr); }
 
 private:
@@ -140,20 +120,7 @@ public:
 	/** Null when the class is not loaded, or no T. */
 	UClass* Get() const { return Checked(SoftObjectPtr.Get()); }
 	UClass* LoadSynchronous() const { return Checked(SoftObjectPtr.LoadSynchronous()); }
-	UClass* operator->() const { return Get(); }
-	UClass* operator*() const { return Get(); }
 
-	const FSoftObjectPath& ToSoftObjectPath() const { return SoftObjectPtr.ToSoftObjectPath(); }
-	FString ToString() const { return SoftObjectPtr.ToString(); }
-	FString GetLongPackageName() const { return SoftObjectPtr.GetLongPackageName(); }
-	FString GetAssetName() const { return SoftObjectPtr.GetAssetName(); }
-	bool IsNull() const { return SoftObjectPtr.IsNull(); }
-	bool IsValid() const { return Get() != nullptr; }
-	bool IsPending() const { return SoftObjectPtr.IsPending(); }
-	explicit operator bool() const { return IsValid(); }
-	void Reset() { SoftObjectPtr.Reset(); }
-
-	bool operator==(const TSoftClassPtr& Other) const { return SoftObjectPtr == Other.SoftObjectPtr; }
 	friend uint32 GetTypeHash(const TSoftClassPtr& Ptr) { return GetTypeHash(Ptr.SoftObjectPtr); }
 
 private:

@@ -50,19 +50,9 @@ public:
 
 	T* Get() const { return reinterpret_cast<T*>(Reference.Get()); }
 	T* operator->() const { return Get(); }
-	T& operator*() const { return *Get(); }
 	bool IsValid() const { return Get() != nullptr; }
-	explicit operator bool() const { return IsValid(); }
 
 	void Reset(T* InNewObject = nullptr) { *this = TStrongObjectPtr(InNewObject); }
-
-	template<typename U>
-	bool operator==(const TStrongObjectPtr<U>& Other) const
-	{
-		return Get() == Other.Get();
-	}
-	bool operator==(const T* Other) const { return Get() == Other; }
-	bool operator==(std::nullptr_t) const { return !IsValid(); }
 
 	friend uint32 GetTypeHash(const TStrongObjectPtr& Ptr) { return static_cast<uint32>(reinterpret_cast<uintptr_t>(Ptr.Get()) >> 4); }
 

@@ -19,6 +19,5 @@ public:
 	static const FText& GetPropertyValue(const void* Value) { return *static_cast<const FText*>(Value); }
 	static void SetPropertyValue(void* Dest, const FText& Value) { *static_cast<FText*>(Dest) = Value; }
 	const FText& GetPropertyValue_InContainer(const void* Container) const { return GetPropertyValue(ContainerPtrToValuePtr(Container)); }
-	void SetPropertyValue_InContainer(void* Container, const FText& Value) const { SetPropertyValue(ContainerPtrToValuePtr(Container), Value); }
 	DECLARE_PROPERTY_VALUES()
 };

@@ -32,8 +32,6 @@ struct FTopLevelAssetPath
 	FName GetAssetName() const { return AssetName; }
 	/** Package, dot, asset; the package alone when there is no asset name; empty for null. */
 	FString ToString() const;
-	void ToString(FString& OutString) const { OutString = ToString(); }
-	void AppendString(FString& Builder) const { Builder += ToString(); }
 
 	bool IsNull() const { return PackageName.IsNone(); }
 	bool IsValid() const { return !PackageName.IsNone(); }
@@ -42,8 +40,6 @@ struct FTopLevelAssetPath
 		PackageName = FName();
 		AssetName = FName();
 	}
-
-	int32 Compare(const FTopLevelAssetPath& Other) const;
 
 	friend bool operator==(const FTopLevelAssetPath& A, const FTopLevelAssetPath& B)
 	{

@@ -63,11 +63,6 @@ public:
 
 	/** Fatal when no object is being constructed. */
 	static FObjectInitializer& Get();
-
-	UObject* GetArchetype() const { return ObjectArchetype; }
-	UObject* GetObj() const { return Obj; }
-	UClass* GetClass() const { return Class; }
-
 	template<class TReturnType>
 	TReturnType* CreateDefaultSubobject(UObject* SubobjectOuter, FName SubobjectName, bool bTransient = false) const
 	{
@@ -150,7 +145,6 @@ UObject* StaticFindObject(UClass* Class, UObject* InOuter, const TCHAR* Name, bo
 UObject* StaticFindObject(UClass* Class, FTopLevelAssetPath ObjectPath, bool bExactClass = false);
 /** Name is a plain name; a null outer finds packages. */
 UObject* StaticFindObjectFast(UClass* Class, UObject* InOuter, FName Name, bool bExactClass = false);
-UObject* StaticFindObjectChecked(UClass* Class, UObject* InOuter, const TCHAR* Name, bool bExactClass = false);
 
 enum class EFindFirstObjectOptions : int32
 {
@@ -164,30 +158,11 @@ UObject* StaticFindFirstObject(UClass* Class, const TCHAR* Name, EFindFirstObjec
 
 /** Finds the object, else loads its package. "/Path/Asset" stands for "/Path/Asset.Asset". Null, and a warning, when there is none. */
 UObject* StaticLoadObject(UClass* Class, UObject* InOuter, const TCHAR* Name, const TCHAR* Filename = nullptr, uint32 LoadFlags = LOAD_None);
-UClass* StaticLoadClass(UClass* BaseClass, UObject* InOuter, const TCHAR* Name, const TCHAR* Filename = nullptr, uint32 LoadFlags = LOAD_None);
 
 template<class T>
 T* FindObject(UObject* Outer, const TCHAR* Name, bool bExactClass = false)
 {
 	return static_cast<T*>(StaticFindObject(T::StaticClass(), Outer, Name, bExactClass));
-}
-
-template<class T>
-T* FindObject(FTopLevelAssetPath Path, bool bExactClass = false)
-{
-	return static_cast<T*>(StaticFindObject(T::StaticClass(), Path, bExactClass));
-}
-
-template<class T>
-T* FindObjectChecked(UObject* Outer, const TCHAR* Name, bool bExactClass = false)
-{
-	return static_cast<T*>(StaticFindObjectChecked(T::StaticClass(), Outer, Name, bExactClass));
-}
-
-template<class T>
-T* FindObjectFast(UObject* Outer, FName Name, bool bExactClass = false)
-{
-	return static_cast<T*>(StaticFindObjectFast(T::StaticClass(), Outer, Name, bExactClass));
 }
 
 template<class T>
@@ -200,12 +175,6 @@ template<class T>
 T* LoadObject(UObject* Outer, const TCHAR* Name, const TCHAR* Filename = nullptr, uint32 LoadFlags = LOAD_None)
 {
 	return static_cast<T*>(StaticLoadObject(T::StaticClass(), Outer, Name, Filename, LoadFlags));
-}
-
-template<class T>
-UClass* LoadClass(UObject* Outer, const TCHAR* Name, const TCHAR* Filename = nullptr, uint32 LoadFlags = LOAD_None)
-{
-	return StaticLoadClass(T::StaticClass(), Outer, Name, Filename, LoadFlags);
 }
 
 /** A package in memory, by long name. Null when there is none. */

@@ -20,7 +20,5 @@ void GetObjectsWithOuter(const UObject* Outer, TArray<UObject*>& Results, bool b
 	EObjectFlags ExclusionFlags = RF_NoFlags);
 void ForEachObjectWithOuter(const UObject* Outer, TFunctionRef<void(UObject*)> Operation, bool bIncludeNestedObjects = true,
 	EObjectFlags ExclusionFlags = RF_NoFlags);
-void GetObjectsWithPackage(const UPackage* Package, TArray<UObject*>& Results, bool bIncludeNestedObjects = true,
-	EObjectFlags ExclusionFlags = RF_NoFlags);
 
 void GetDerivedClasses(const UClass* ClassToLookFor, TArray<UClass*>& Results, bool bRecursive = true);

@@ -28,25 +28,3 @@ private:
 	TArray<UObject*> Objects;
 	int32 Index = 0;
 };
-
-/** The same for a range-based for. */
-template<typename T>
-class TObjectRange
-{
-public:
-	explicit TObjectRange(EObjectFlags AdditionalExclusionFlags = RF_ClassDefaultObject, bool bIncludeDerivedClasses = true)
-	{
-		TArray<UObject*> Found;
-		GetObjectsOfClass(T::StaticClass(), Found, bIncludeDerivedClasses, AdditionalExclusionFlags);
-		for (UObject* Object : Found)
-		{
-			Objects.Add(static_cast<T*>(Object));
-		}
-	}
-
-	auto begin() const { return Objects.begin(); }
-	auto end() const { return Objects.end(); }
-
-private:
-	TArray<T*> Objects;
-};

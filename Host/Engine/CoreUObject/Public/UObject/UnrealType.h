@@ -7,7 +7,6 @@
 #include "UObject/Class.h"
 #include "UObject/PropertyPortFlags.h"
 #include "UObject/ScriptDelegates.h"
-#include "UObject/ScriptInterface.h"
 #include "UObject/SoftObjectPtr.h"
 #include "UObject/WeakObjectPtr.h"
 
@@ -224,25 +223,6 @@ public:
 	FString GetCPPType() const override;
 };
 
-/** TScriptInterface<I>. */
-class FInterfaceProperty : public TProperty<FScriptInterface, FProperty>
-{
-	DECLARE_FIELD(FInterfaceProperty, FProperty)
-
-public:
-	UClass* InterfaceClass;
-
-	explicit FInterfaceProperty(UClass* InInterfaceClass)
-		: InterfaceClass(InInterfaceClass)
-	{
-	}
-
-	FString GetCPPType() const override;
-	bool ContainsObjectReference() const override { return true; }
-	void CollectReferences(void* Value, FReferenceCollector& Collector) const override;
-	DECLARE_PROPERTY_TEXT()
-};
-
 class FStructProperty : public FProperty
 {
 	DECLARE_FIELD(FStructProperty, FProperty)
@@ -281,7 +261,6 @@ public:
 	const UE::Reflection::FDelegateSignature* Signature = nullptr;
 
 	FString GetCPPType() const override { return TEXT("FMulticastScriptDelegate"); }
-	const FMulticastScriptDelegate* GetMulticastDelegate(const void* PropertyValue) const { return static_cast<const FMulticastScriptDelegate*>(PropertyValue); }
 	void AddDelegate(FScriptDelegate ScriptDelegate, UObject* Parent) const;
 	void RemoveDelegate(const FScriptDelegate& ScriptDelegate, UObject* Parent) const;
 	DECLARE_PROPERTY_TEXT()

@@ -23,15 +23,10 @@ struct FWeakObjectPtr
 
 	UObject* Get() const { return Get(false); }
 	UObject* Get(bool bEvenIfGarbage) const;
-	/** Also while a collection is destroying it. */
-	UObject* GetEvenIfUnreachable() const;
 
 	bool IsValid(bool bEvenIfGarbage = false, bool = false) const { return Get(bEvenIfGarbage) != nullptr; }
 	/** It once pointed to an object that is gone. */
 	bool IsStale(bool bIncludingGarbage = true, bool = false) const { return SerialNumber != 0 && Get(!bIncludingGarbage) == nullptr; }
-	/** It was never set, or was reset. */
-	bool IsExplicitlyNull() const { return SerialNumber == 0; }
-	void Reset() { *this = FWeakObjectPtr(); }
 
 	bool HasSameIndexAndSerialNumber(const FWeakObjectPtr& Other) const { return Index == Other.Index && SerialNumber == Other.SerialNumber; }
 	/** Same object, or both pointing to nothing that lives. */

@@ -36,15 +36,10 @@ struct TWeakObjectPtr : private FWeakObjectPtr
 
 	T* Get() const { return reinterpret_cast<T*>(FWeakObjectPtr::Get()); }
 	T* Get(bool bEvenIfGarbage) const { return reinterpret_cast<T*>(FWeakObjectPtr::Get(bEvenIfGarbage)); }
-	T* GetEvenIfUnreachable() const { return reinterpret_cast<T*>(FWeakObjectPtr::GetEvenIfUnreachable()); }
 	T* operator->() const { return Get(); }
-	T& operator*() const { return *Get(); }
 
-	using FWeakObjectPtr::IsExplicitlyNull;
 	using FWeakObjectPtr::IsStale;
 	using FWeakObjectPtr::IsValid;
-	using FWeakObjectPtr::Reset;
-	explicit operator bool() const { return IsValid(); }
 
 	const FWeakObjectPtr& AsBase() const { return *this; }
 
@@ -63,9 +58,3 @@ struct TWeakObjectPtr : private FWeakObjectPtr
 
 	friend uint32 GetTypeHash(const TWeakObjectPtr& Ptr) { return GetTypeHash(Ptr.AsBase()); }
 };
-
-template<class T>
-TWeakObjectPtr<T> MakeWeakObjectPtr(T* Object)
-{
-	return TWeakObjectPtr<T>(Object);
-}

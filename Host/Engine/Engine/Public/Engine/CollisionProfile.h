@@ -105,9 +105,6 @@ public:
 
 	int32 GetNumOfProfiles() const { return LoadedProfiles.Num(); }
 
-	/** What the channel is called: a channel of the project by the project's name. None for what is no channel. */
-	FName ReturnChannelNameFromContainerIndex(int32 ContainerIndex) const;
-
 protected:
 	UPROPERTY(GlobalConfig)
 	TArray<FCollisionResponseTemplate> Profiles;

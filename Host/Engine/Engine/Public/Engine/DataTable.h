@@ -56,19 +56,6 @@ public:
 		return FindRow<T>(RowName, *ContextString, bWarnIfRowMissing);
 	}
 
-	/** Appends all rows to OutRowArray; none, and an error in the log, when T does not fit. */
-	template<class T>
-	void GetAllRows(const FString& ContextString, TArray<T*>& OutRowArray) const
-	{
-		if (Fits(*T::StaticStruct(), *ContextString))
-		{
-			for (const TPair<FName, uint8*>& Row : RowMap)
-			{
-				OutRowArray.Add(reinterpret_cast<T*>(Row.Value));
-			}
-		}
-	}
-
 	template<class T>
 	void ForeachRow(const FString& ContextString, TFunctionRef<void(const FName& Key, const T& Value)> Predicate) const
 	{
@@ -83,9 +70,6 @@ public:
 
 	/** Copies RowData, which must be of struct RowStruct. A row of that name is replaced in its place. */
 	virtual void AddRow(FName RowName, const FTableRowBase& RowData);
-
-	/** An unknown name is ignored. */
-	virtual void RemoveRow(FName RowName);
 
 	void EmptyTable();
 

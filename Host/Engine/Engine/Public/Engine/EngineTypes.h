@@ -106,11 +106,6 @@ struct ENGINE_API FResponseChannel
 	GENERATED_BODY()
 
 	FResponseChannel() = default;
-	FResponseChannel(FName InChannel, ECollisionResponse InResponse)
-		: Channel(InChannel)
-		, Response(InResponse)
-	{
-	}
 
 	UPROPERTY()
 	FName Channel;

@@ -23,7 +23,6 @@ struct ENGINE_API FActorSpawnParameters
 
 	FName Name; // None makes one up
 	AActor* Template = nullptr; // copied instead of the class's default object; must be of the class
-	AActor* Owner = nullptr; // what AActor::GetOwner() tells
 	ULevel* OverrideLevel = nullptr; // instead of the current level
 	ESpawnActorCollisionHandlingMethod SpawnCollisionHandlingOverride = ESpawnActorCollisionHandlingMethod::Undefined;
 	ESpawnActorNameMode NameMode = ESpawnActorNameMode::Required_Fatal;
@@ -37,8 +36,6 @@ class ENGINE_API UWorld : public UObject
 	GENERATED_BODY()
 
 public:
-	DECLARE_MULTICAST_DELEGATE_OneParam(FOnActorSpawned, AActor*);
-
 	/** The level of the map's own file. */
 	UPROPERTY()
 	TObjectPtr<ULevel> PersistentLevel;
@@ -58,9 +55,6 @@ public:
 	/** Where actors are spawned unless told otherwise. */
 	ULevel* GetCurrentLevel() const { return CurrentLevel; }
 
-	/** @return whether it is now another level than before; one that is not of this world is refused. */
-	bool SetCurrentLevel(ULevel* InLevel);
-
 	/** The persistent level first. */
 	const TArray<ULevel*>& GetLevels() const { return Levels; }
 
@@ -68,7 +62,6 @@ public:
 
 	AActor* SpawnActor(UClass* InClass, FVector const* Location = nullptr, FRotator const* Rotation = nullptr, const FActorSpawnParameters& SpawnParameters = FActorSpawnParameters());
 	AActor* SpawnActor(UClass* Class, FTransform const* UserTransformPtr, const FActorSpawnParameters& SpawnParameters = FActorSpawnParameters());
-	AActor* SpawnActorAbsolute(UClass* Class, FTransform const& AbsoluteTransform, const FActorSpawnParameters& SpawnParameters = FActorSpawnParameters());
 
 	template<class T>
 	T* SpawnActor(const FActorSpawnParameters& SpawnParameters = FActorSpawnParameters())
@@ -106,10 +99,6 @@ public:
 	/** Marks the world's objects as garbage; whoever holds one weakly sees it gone at once. */
 	void CleanupWorld();
 
-	/** The handler runs for every actor spawned from now on; loading a level spawns none. */
-	FDelegateHandle AddOnActorSpawnedHandler(const FOnActorSpawned::FDelegate& InHandler) const { return OnActorSpawned.Add(InHandler); }
-	void RemoveOnActorSpawnedHandler(FDelegateHandle InHandle) const { OnActorSpawned.Remove(InHandle); }
-
 	//~ Begin UObject
 	virtual UWorld* GetWorld() const override;
 	virtual void PostLoad() override;
@@ -125,6 +114,4 @@ private:
 
 	UPROPERTY(Transient)
 	TObjectPtr<ULevel> CurrentLevel;
-
-	mutable FOnActorSpawned OnActorSpawned;
 };

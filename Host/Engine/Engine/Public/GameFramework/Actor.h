@@ -35,9 +35,6 @@ public:
 
 	bool IsHidden() const { return bHidden; }
 
-	AActor* GetOwner() const { return Owner; }
-	void SetOwner(AActor* NewOwner);
-
 	/** The level it stands in; null for a default object. */
 	ULevel* GetLevel() const;
 
@@ -80,9 +77,6 @@ private:
 
 	UPROPERTY(EditAnywhere, Category = "Rendering")
 	bool bHidden = false;
-
-	UPROPERTY()
-	TObjectPtr<AActor> Owner;
 
 	bool bActorIsBeingDestroyed = false;
 	bool bSelected = false; // kept by USelection

@@ -17,15 +17,6 @@ public:
 	/** Takes them down in reverse order of their making. */
 	void Deinitialize();
 
-	/** For Initialize() of a subsystem that needs another. Null when that one is not made for this owner. */
-	USubsystem* InitializeDependency(TSubclassOf<USubsystem> SubsystemClass);
-
-	template<typename TSubsystemClass>
-	TSubsystemClass* InitializeDependency()
-	{
-		return Cast<TSubsystemClass>(InitializeDependency(TSubsystemClass::StaticClass()));
-	}
-
 	//~ Begin FGCObject
 	virtual void AddReferencedObjects(FReferenceCollector& Collector) override;
 	virtual FString GetReferencerName() const override;

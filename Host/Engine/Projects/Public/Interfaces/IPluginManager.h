@@ -18,10 +18,6 @@ public:
 	/** The name of its descriptor file without extension. */
 	virtual const FString& GetName() const = 0;
 
-	/** What people read: the friendly name, or the name where there is none. */
-	virtual const FString& GetFriendlyName() const = 0;
-
-	virtual const FString& GetDescriptorFileName() const = 0;
 	virtual FString GetBaseDir() const = 0;
 	virtual FString GetContentDir() const = 0;
 

@@ -29,14 +29,11 @@ namespace NotificationItem
 		FHostNotificationButton Button;
 		Button.Label = Info.Text.Get(FText::GetEmpty());
 		Button.ToolTip = Info.ToolTip.Get(FText::GetEmpty());
-		if (!Info.VisibilityCallback.IsBound())
+		for (const EState State : {SNotificationItem::CS_None, SNotificationItem::CS_Pending, SNotificationItem::CS_Success, SNotificationItem::CS_Fail})
 		{
-			for (const EState State : {SNotificationItem::CS_None, SNotificationItem::CS_Pending, SNotificationItem::CS_Success, SNotificationItem::CS_Fail})
+			if (VisibilityIn(Info, State).IsVisible())
 			{
-				if (VisibilityIn(Info, State).IsVisible())
-				{
-					Button.ShownIn.Add(State);
-				}
+				Button.ShownIn.Add(State);
 			}
 		}
 		return Button;
@@ -76,16 +73,6 @@ FNotificationButtonInfo::FNotificationButtonInfo(const TAttribute<FText>& InText
 	, VisibilityOnPending(VisibleInState == SNotificationItem::CS_Pending ? EVisibility::Visible : EVisibility::Collapsed)
 	, VisibilityOnSuccess(VisibleInState == SNotificationItem::CS_Success ? EVisibility::Visible : EVisibility::Collapsed)
 	, VisibilityOnFail(VisibleInState == SNotificationItem::CS_Fail ? EVisibility::Visible : EVisibility::Collapsed)
-{
-}
-
-FNotificationButtonInfo::FNotificationButtonInfo(const TAttribute<FText>& InText, const TAttribute<FText>& InToolTip, FSimpleDelegate InCallback,
-	FVisibilityDelegate InVisibilityCallback, FIsEnabledDelegate InIsEnabledCallback)
-	: Text(InText)
-	, ToolTip(InToolTip)
-	, Callback(MoveTemp(InCallback))
-	, VisibilityCallback(MoveTemp(InVisibilityCallback))
-	, IsEnabledCallback(MoveTemp(InIsEnabledCallback))
 {
 }
 
@@ -145,7 +132,6 @@ TSharedRef<SWidget> SNotificationItemWidget::MakeButtons()
 			.Text(ButtonInfos[Index].Text)
 			.ToolTipText(ButtonInfos[Index].ToolTip)
 			.Visibility(this, &SNotificationItemWidget::GetButtonVisibility, Index)
-			.IsEnabled(this, &SNotificationItemWidget::IsButtonEnabled, Index)
 			.OnClicked(this, &SNotificationItemWidget::HandleButtonClicked, Index)
 		];
 		// clang-format on
@@ -155,14 +141,7 @@ TSharedRef<SWidget> SNotificationItemWidget::MakeButtons()
 
 EVisibility SNotificationItemWidget::GetButtonVisibility(int32 Index) const
 {
-	const FNotificationButtonInfo& Info = ButtonInfos[Index];
-	return Info.VisibilityCallback.IsBound() ? Info.VisibilityCallback.Execute(Record->State) : NotificationItem::VisibilityIn(Info, Record->State);
-}
-
-bool SNotificationItemWidget::IsButtonEnabled(int32 Index) const
-{
-	const FNotificationButtonInfo& Info = ButtonInfos[Index];
-	return !Info.IsEnabledCallback.IsBound() || Info.IsEnabledCallback.Execute(Record->State);
+	return NotificationItem::VisibilityIn(ButtonInfos[Index], Record->State);
 }
 
 FReply SNotificationItemWidget::HandleButtonClicked(int32 Index)
@@ -186,18 +165,6 @@ void SNotificationItemWidget::SetText(const TAttribute<FText>& InText)
 	Record->Text = InText.Get(FText::GetEmpty());
 }
 
-void SNotificationItemWidget::SetSubText(const TAttribute<FText>& InSubText)
-{
-	SubText = InSubText;
-	Record->SubText = InSubText.Get(FText::GetEmpty());
-}
-
-void SNotificationItemWidget::SetHyperlink(const FSimpleDelegate& InHyperlink, const TAttribute<FText>& InHyperlinkText)
-{
-	Hyperlink = InHyperlink;
-	Record->HyperlinkText = InHyperlinkText.Get(FText::GetEmpty());
-}
-
 void SNotificationItemWidget::SetCompletionState(ECompletionState State)
 {
 	Record->State = State;
@@ -210,15 +177,6 @@ void SNotificationItemWidget::ExpireAndFadeout()
 	{
 		Record->ExpiresAt = HostClock::Now() + Record->ExpireDuration;
 		Record->FadeOutAt.Reset();
-	}
-}
-
-void SNotificationItemWidget::Fadeout()
-{
-	Update();
-	if (!Record->FadeOutAt.IsSet())
-	{
-		Record->FadeOutAt = HostClock::Now();
 	}
 }
 
@@ -274,10 +232,6 @@ FHostInputResult SNotificationItemWidget::PressButton(const FString& Label)
 		if (!GetButtonVisibility(Index).IsVisible())
 		{
 			Reason = TEXT("does not show in the notification's present state");
-		}
-		else if (!IsButtonEnabled(Index))
-		{
-			Reason = TEXT("is disabled");
 		}
 		else
 		{

@@ -20,16 +20,9 @@ public:
 
 	//~ Begin SNotificationItem
 	virtual void SetText(const TAttribute<FText>& InText) override;
-	virtual void SetSubText(const TAttribute<FText>& InSubText) override;
-	virtual void SetHyperlink(const FSimpleDelegate& InHyperlink, const TAttribute<FText>& InHyperlinkText = TAttribute<FText>()) override;
 	virtual ECompletionState GetCompletionState() const override { return Record->State; }
 	virtual void SetCompletionState(ECompletionState State) override;
-	virtual void SetExpireDuration(float ExpireDuration) override { Record->ExpireDuration = ExpireDuration; }
-	virtual void SetFadeInDuration(float FadeInDuration) override { Record->FadeInDuration = FadeInDuration; }
-	virtual void SetFadeOutDuration(float FadeOutDuration) override { Record->FadeOutDuration = FadeOutDuration; }
 	virtual void ExpireAndFadeout() override;
-	virtual void Fadeout() override;
-	virtual void Pulse(const FLinearColor&) override {}
 	//~ End SNotificationItem
 
 	/** Lets the host's clock work on it: after this, Record->IsGone() is true to the moment. */
@@ -47,7 +40,6 @@ protected:
 private:
 	TSharedRef<SWidget> MakeButtons();
 	EVisibility GetButtonVisibility(int32 Index) const;
-	bool IsButtonEnabled(int32 Index) const;
 	FReply HandleButtonClicked(int32 Index);
 	FReply HandleHyperlink();
 

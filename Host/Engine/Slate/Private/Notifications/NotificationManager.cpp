@@ -102,12 +102,6 @@ TSharedPtr<SNotificationItem> FSlateNotificationManager::AddNotification(const F
 	return Item;
 }
 
-void FSlateNotificationManager::QueueNotification(FNotificationInfo* Info)
-{
-	NotificationManager::GetState().Queued.Add(TUniquePtr<FNotificationInfo>(Info));
-	NotificationManager::EnsureTicking();
-}
-
 void FSlateNotificationManager::SetAllowNotifications(const bool bShouldAllow)
 {
 	bAllowNotifications = bShouldAllow;
@@ -138,11 +132,6 @@ TArray<HostNotifications::FRecord> HostNotifications::GetStanding()
 		Result.Add(Item->GetRecord());
 	}
 	return Result;
-}
-
-TSharedPtr<SNotificationItem> HostNotifications::GetItem(const FHostNotification& Notification)
-{
-	return NotificationManager::FindStanding(Notification);
 }
 
 TArray<FString> HostNotifications::GetVisibleButtons(const FHostNotification& Notification)

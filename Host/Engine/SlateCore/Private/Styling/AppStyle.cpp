@@ -84,22 +84,7 @@ const FSlateBrush* FAppStyle::GetBrush(FName PropertyName, const ANSICHAR* Speci
 	return Get().GetBrush(PropertyName, Specifier);
 }
 
-const FSlateBrush* FAppStyle::GetOptionalBrush(FName PropertyName, const ANSICHAR* Specifier, const FSlateBrush* const DefaultBrush)
-{
-	return Get().GetOptionalBrush(PropertyName, Specifier, DefaultBrush);
-}
-
 FSlateFontInfo FAppStyle::GetFontStyle(FName PropertyName, const ANSICHAR* Specifier)
 {
 	return Get().GetFontStyle(PropertyName, Specifier);
-}
-
-FSlateColor FAppStyle::GetSlateColor(FName PropertyName, const ANSICHAR* Specifier)
-{
-	return Get().GetSlateColor(PropertyName, Specifier);
-}
-
-FLinearColor FAppStyle::GetColor(FName PropertyName, const ANSICHAR* Specifier)
-{
-	return Get().GetColor(PropertyName, Specifier);
 }

@@ -84,38 +84,6 @@ const FSlateBrush* FSlateStyleSet::GetOptionalBrush(const FName PropertyName, co
 	return Brush ? *Brush : InDefaultBrush;
 }
 
-float FSlateStyleSet::GetFloat(const FName PropertyName, const ANSICHAR* Specifier) const
-{
-	const float* Value = SlateStyle::Find(Floats, PropertyName, Specifier);
-	return Value ? *Value : 0.0f;
-}
-
-FVector2D FSlateStyleSet::GetVector(const FName PropertyName, const ANSICHAR* Specifier) const
-{
-	const FVector2D* Value = SlateStyle::Find(Vectors, PropertyName, Specifier);
-	return Value ? *Value : FVector2D(0.0, 0.0);
-}
-
-const FLinearColor& FSlateStyleSet::GetColor(const FName PropertyName, const ANSICHAR* Specifier) const
-{
-	FSlateStyleSet* Self = const_cast<FSlateStyleSet*>(this);
-	Self->ColorScratch = GetSlateColor(PropertyName, Specifier).GetSpecifiedColor();
-	return ColorScratch;
-}
-
-const FSlateColor FSlateStyleSet::GetSlateColor(const FName PropertyName, const ANSICHAR* Specifier) const
-{
-	const FSlateColor* Value = SlateStyle::Find(Colors, PropertyName, Specifier);
-	return Value ? *Value : FSlateColor(FLinearColor::White);
-}
-
-const FMargin& FSlateStyleSet::GetMargin(const FName PropertyName, const ANSICHAR* Specifier) const
-{
-	static const FMargin None;
-	const FMargin* Value = SlateStyle::Find(Margins, PropertyName, Specifier);
-	return Value ? *Value : None;
-}
-
 FSlateFontInfo FSlateStyleSet::GetFontStyle(const FName PropertyName, const ANSICHAR* Specifier) const
 {
 	const FSlateFontInfo* Value = SlateStyle::Find(Fonts, PropertyName, Specifier);

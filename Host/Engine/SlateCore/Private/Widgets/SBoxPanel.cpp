@@ -17,12 +17,6 @@ namespace SlateBoxPanel
 	}
 }
 
-FHorizontalBoxSlot::FSlotArguments& FHorizontalBoxSlot::FSlotArguments::MaxWidth(TAttribute<float> InMaxWidth)
-{
-	GetSlot()->MaxSize = MoveTemp(InMaxWidth);
-	return *this;
-}
-
 FHorizontalBoxSlot::FSlotArguments& FHorizontalBoxSlot::FSlotArguments::Size(FSizeParam::ESizeRule Rule, TAttribute<float> Value)
 {
 	GetSlot()->SizeParam.SizeRule = Rule;

@@ -18,8 +18,6 @@ namespace SlateWidget
 			}
 		SLATE_END_ARGS()
 
-		void Construct(const FArguments&) {}
-
 	protected:
 		virtual void DescribeToHost(FHostWidgetDescription& OutDescription) const override { OutDescription.bTransparent = true; }
 	};

@@ -29,7 +29,6 @@ struct SLATECORE_API FSlateFontInfo
 	{
 		return FontObject == Other.FontObject && TypefaceFontName == Other.TypefaceFontName && Size == Other.Size;
 	}
-	bool operator!=(const FSlateFontInfo& Other) const { return !(*this == Other); }
 
 	/** Null: the style's own font. */
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "SlateStyleRules")

@@ -9,9 +9,6 @@ class SLATECORE_API FReply
 {
 public:
 	static FReply Handled() { return FReply(true); }
-	static FReply Unhandled() { return FReply(false); }
-
-	bool IsEventHandled() const { return bIsHandled; }
 
 private:
 	explicit FReply(bool bInIsHandled)

@@ -18,7 +18,6 @@ public:
 
 	const TSharedRef<SWidget>& GetWidget() const { return Widget; }
 	void AttachWidget(const TSharedRef<SWidget>& InWidget) { Widget = InWidget; }
-	void DetachWidget() { Widget = SNullWidget::NullWidget; }
 
 	const FMargin GetPadding() const { return SlotPadding.Get(); }
 	void SetPadding(TAttribute<FMargin> InPadding) { SlotPadding = MoveTemp(InPadding); }
@@ -59,14 +58,7 @@ public:
 		return Me();
 	}
 	ArgumentsType& Padding(float Uniform) { return Padding(TAttribute<FMargin>(FMargin(Uniform))); }
-	ArgumentsType& Padding(float Horizontal, float Vertical) { return Padding(TAttribute<FMargin>(FMargin(Horizontal, Vertical))); }
-	ArgumentsType& Padding(float Left, float Top, float Right, float Bottom) { return Padding(TAttribute<FMargin>(FMargin(Left, Top, Right, Bottom))); }
 
-	ArgumentsType& HAlign(EHorizontalAlignment InAlignment)
-	{
-		NewSlot->SetHorizontalAlignment(InAlignment);
-		return Me();
-	}
 	ArgumentsType& VAlign(EVerticalAlignment InAlignment)
 	{
 		NewSlot->SetVerticalAlignment(InAlignment);

@@ -47,8 +47,6 @@ public:
 		return *this;
 	}
 	FSingleWidgetChildrenWithBasicLayoutSlot& Padding(float Uniform) { return Padding(TAttribute<FMargin>(FMargin(Uniform))); }
-	FSingleWidgetChildrenWithBasicLayoutSlot& Padding(float Horizontal, float Vertical) { return Padding(TAttribute<FMargin>(FMargin(Horizontal, Vertical))); }
-	FSingleWidgetChildrenWithBasicLayoutSlot& Padding(float Left, float Top, float Right, float Bottom) { return Padding(TAttribute<FMargin>(FMargin(Left, Top, Right, Bottom))); }
 	FSingleWidgetChildrenWithBasicLayoutSlot& HAlign(EHorizontalAlignment InAlignment)
 	{
 		SetHorizontalAlignment(InAlignment);
@@ -77,7 +75,6 @@ public:
 	{
 		Slots.Insert(Slot, Index == INDEX_NONE ? Slots.Num() : Index);
 	}
-	void RemoveAt(int32 Index) { Slots.RemoveAt(Index); }
 	void Empty() { Slots.Empty(); }
 
 private:

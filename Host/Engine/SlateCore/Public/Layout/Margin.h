@@ -36,9 +36,6 @@ struct SLATECORE_API FMargin
 	{
 	}
 
-	bool operator==(const FMargin& Other) const { return Left == Other.Left && Top == Other.Top && Right == Other.Right && Bottom == Other.Bottom; }
-	bool operator!=(const FMargin& Other) const { return !(*this == Other); }
-
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Appearance")
 	float Left = 0.0f;
 

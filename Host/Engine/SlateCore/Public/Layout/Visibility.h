@@ -25,8 +25,6 @@ public:
 	constexpr bool operator!=(const EVisibility& Other) const { return Value != Other.Value; }
 
 	constexpr bool IsVisible() const { return Value != EValue::Collapsed && Value != EValue::Hidden; }
-	constexpr bool AreChildrenHitTestVisible() const { return Value == EValue::Visible || Value == EValue::SelfHitTestInvisible; }
-	constexpr bool IsHitTestVisible() const { return Value == EValue::Visible; }
 
 private:
 	enum class EValue : uint8

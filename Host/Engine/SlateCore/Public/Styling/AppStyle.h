@@ -13,8 +13,5 @@ public:
 
 	/** Unknown names give the default brush, never null. */
 	static const FSlateBrush* GetBrush(FName PropertyName, const ANSICHAR* Specifier = nullptr);
-	static const FSlateBrush* GetOptionalBrush(FName PropertyName, const ANSICHAR* Specifier = nullptr, const FSlateBrush* const DefaultBrush = FStyleDefaults::GetNoBrush());
 	static FSlateFontInfo GetFontStyle(FName PropertyName, const ANSICHAR* Specifier = nullptr);
-	static FSlateColor GetSlateColor(FName PropertyName, const ANSICHAR* Specifier = nullptr);
-	static FLinearColor GetColor(FName PropertyName, const ANSICHAR* Specifier = nullptr);
 };

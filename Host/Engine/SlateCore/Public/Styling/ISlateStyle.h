@@ -21,18 +21,5 @@ public:
 	virtual const FSlateBrush* GetOptionalBrush(const FName PropertyName, const ANSICHAR* Specifier = nullptr, const FSlateBrush* const DefaultBrush = FStyleDefaults::GetNoBrush()) const = 0;
 	virtual const FSlateBrush* GetDefaultBrush() const = 0;
 
-	virtual float GetFloat(const FName PropertyName, const ANSICHAR* Specifier = nullptr) const = 0;
-	virtual FVector2D GetVector(const FName PropertyName, const ANSICHAR* Specifier = nullptr) const = 0;
-	virtual const FLinearColor& GetColor(const FName PropertyName, const ANSICHAR* Specifier = nullptr) const = 0;
-	virtual const FSlateColor GetSlateColor(const FName PropertyName, const ANSICHAR* Specifier = nullptr) const = 0;
-	virtual const FMargin& GetMargin(const FName PropertyName, const ANSICHAR* Specifier = nullptr) const = 0;
 	virtual FSlateFontInfo GetFontStyle(const FName PropertyName, const ANSICHAR* Specifier = nullptr) const = 0;
-
-	/** Host: every key gives the plain look of its kind, since nothing is painted. */
-	template<typename WidgetStyleType>
-	const WidgetStyleType& GetWidgetStyle(FName, const ANSICHAR* = nullptr) const
-	{
-		static const WidgetStyleType Plain;
-		return Plain;
-	}
 };

@@ -52,7 +52,6 @@ struct SLATECORE_API FSlateBrush
 	void SetResourceName(const FName InName) { ResourceName = InName; }
 
 	UE::Slate::FDeprecateVector2DResult GetImageSize() const { return ImageSize; }
-	ESlateBrushDrawType::Type GetDrawType() const { return DrawAs; }
 
 	FDeprecateSlateVector2D ImageSize{32.0f, 32.0f};
 	FMargin Margin;

@@ -38,7 +38,6 @@ struct SLATECORE_API FSlateColor
 	}
 
 	bool operator==(const FSlateColor& Other) const { return SpecifiedColor == Other.SpecifiedColor && bSpecified == Other.bSpecified; }
-	bool operator!=(const FSlateColor& Other) const { return !(*this == Other); }
 
 private:
 	UPROPERTY(EditAnywhere, Category = "Color")

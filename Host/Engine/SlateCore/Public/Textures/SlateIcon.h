@@ -16,7 +16,6 @@ struct SLATECORE_API FSlateIcon
 	bool IsSet() const { return bIsSet; }
 	const FName& GetStyleSetName() const { return StyleSetName; }
 	const FName& GetStyleName() const { return StyleName; }
-	const FName& GetSmallStyleName() const { return SmallStyleName; }
 
 	/** The brush; the empty brush when the icon is unset or its set or key unknown. Never null. */
 	const FSlateBrush* GetIcon() const;

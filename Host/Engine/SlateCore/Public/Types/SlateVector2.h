@@ -10,11 +10,6 @@ namespace UE::Slate
 	struct FDeprecateVector2DParameter
 	{
 		FDeprecateVector2DParameter() = default;
-		FDeprecateVector2DParameter(float InX, float InY)
-			: X(InX)
-			, Y(InY)
-		{
-		}
 		FDeprecateVector2DParameter(const FVector2D& Value)
 			: X(static_cast<float>(Value.X))
 			, Y(static_cast<float>(Value.Y))
@@ -52,8 +47,6 @@ namespace UE::Slate
 
 		operator FVector2D() const { return FVector2D(X, Y); }
 		operator FVector2f() const { return FVector2f(X, Y); }
-
-		bool operator==(const FDeprecateVector2DResult& Other) const { return X == Other.X && Y == Other.Y; }
 
 		float X = 0.0f;
 		float Y = 0.0f;

@@ -80,12 +80,6 @@ public: \
 		this->_##AttrName = TAttribute<AttrType>::CreateLambda(std::forward<FunctorType>(InFunctor), std::forward<PayloadTypes>(InPayload)...); \
 		return static_cast<WidgetArgsType&>(*this); \
 	} \
-	template<typename OwnerType, typename MethodType, typename... PayloadTypes> \
-	WidgetArgsType& AttrName##_Raw(OwnerType* InOwner, MethodType InMethod, PayloadTypes&&... InPayload) \
-	{ \
-		this->_##AttrName = TAttribute<AttrType>::CreateRaw(InOwner, InMethod, std::forward<PayloadTypes>(InPayload)...); \
-		return static_cast<WidgetArgsType&>(*this); \
-	} \
 	template<typename FunctionType, typename... PayloadTypes> \
 	WidgetArgsType& AttrName##_Static(FunctionType InFunction, PayloadTypes&&... InPayload) \
 	{ \
@@ -226,12 +220,6 @@ struct TSlateBaseNamedArgs : public FSlateBaseNamedArgs
 	SLATE_ATTRIBUTE_SETTERS(FText, ToolTipText)
 	SLATE_ATTRIBUTE_SETTERS(bool, IsEnabled)
 	SLATE_ATTRIBUTE_SETTERS(EVisibility, Visibility)
-
-	WidgetArgsType& RenderOpacity(float InOpacity)
-	{
-		this->_RenderOpacity = InOpacity;
-		return static_cast<WidgetArgsType&>(*this);
-	}
 
 	WidgetArgsType& Tag(FName InTag)
 	{

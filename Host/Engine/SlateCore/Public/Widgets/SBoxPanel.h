@@ -58,22 +58,7 @@ public:
 	/** Index INDEX_NONE appends. */
 	FScopedWidgetSlotArguments AddSlot(int32 Index = INDEX_NONE) { return FScopedWidgetSlotArguments(Children, Index); }
 
-	/** @return the index the widget had, or -1 when it is not in this panel. */
-	int32 RemoveSlot(const TSharedRef<SWidget>& SlotWidget)
-	{
-		for (int32 Index = 0; Index < Children.Num(); ++Index)
-		{
-			if (Children.GetChildAt(Index) == SlotWidget)
-			{
-				Children.RemoveAt(Index);
-				return Index;
-			}
-		}
-		return -1;
-	}
-
 	void ClearChildren() { Children.Empty(); }
-	int32 NumSlots() const { return Children.Num(); }
 
 	virtual FChildren* GetChildren() override { return &Children; }
 
@@ -89,8 +74,6 @@ public:
 	{
 		FSlotArguments& AutoWidth() { return Size(FSizeParam::SizeRule_Auto, 0.0f); }
 		FSlotArguments& FillWidth(TAttribute<float> InCoefficient) { return Size(FSizeParam::SizeRule_Stretch, MoveTemp(InCoefficient)); }
-		FSlotArguments& FillContentWidth(TAttribute<float> InCoefficient) { return Size(FSizeParam::SizeRule_StretchContent, MoveTemp(InCoefficient)); }
-		FSlotArguments& MaxWidth(TAttribute<float> InMaxWidth);
 
 	private:
 		FSlotArguments& Size(FSizeParam::ESizeRule Rule, TAttribute<float> Value);
@@ -104,8 +87,6 @@ public:
 	struct FSlotArguments : public TSlotArguments<FVerticalBoxSlot, FSlotArguments>
 	{
 		FSlotArguments& AutoHeight() { return Size(FSizeParam::SizeRule_Auto, 0.0f); }
-		FSlotArguments& FillHeight(TAttribute<float> InCoefficient) { return Size(FSizeParam::SizeRule_Stretch, MoveTemp(InCoefficient)); }
-		FSlotArguments& FillContentHeight(TAttribute<float> InCoefficient) { return Size(FSizeParam::SizeRule_StretchContent, MoveTemp(InCoefficient)); }
 		FSlotArguments& MaxHeight(TAttribute<float> InMaxHeight);
 
 	private:

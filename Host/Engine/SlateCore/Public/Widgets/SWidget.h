@@ -43,7 +43,6 @@ public:
 
 	void SetToolTipText(const TAttribute<FText>& InToolTipText) { ToolTipText = InToolTipText; }
 
-	void SetRenderOpacity(float InOpacity) { RenderOpacity = InOpacity; }
 	float GetRenderOpacity() const { return RenderOpacity; }
 
 	FName GetTag() const { return Tag; }

@@ -81,23 +81,10 @@ TSharedPtr<FBindingContext> FInputBindingManager::GetContextByName(const FName I
 	return Entry ? Entry->Context : nullptr;
 }
 
-void FInputBindingManager::GetKnownInputContexts(TArray<TSharedPtr<FBindingContext>>& OutInputContexts) const
-{
-	for (const FContextEntry& Entry : Contexts)
-	{
-		OutInputContexts.Add(Entry.Context);
-	}
-}
-
 void FInputBindingManager::AddContext(const TSharedRef<FBindingContext>& InContext)
 {
 	check(FindEntry(InContext->GetContextName()) == nullptr);
 	Contexts.AddDefaulted_GetRef().Context = InContext;
-}
-
-void FInputBindingManager::RemoveContextByName(const FName InContextName)
-{
-	Contexts.RemoveAll([InContextName](const FContextEntry& Entry) { return Entry.Context->GetContextName() == InContextName; });
 }
 
 void FInputBindingManager::AddCommand(const TSharedRef<FUICommandInfo>& InCommand)
@@ -105,18 +92,6 @@ void FInputBindingManager::AddCommand(const TSharedRef<FUICommandInfo>& InComman
 	FContextEntry* Entry = const_cast<FContextEntry*>(FindEntry(InCommand->GetBindingContext()));
 	checkf(Entry, TEXT("Command %s belongs to a set that is not registered."), *InCommand->GetCommandName().ToString());
 	Entry->Commands.Add(InCommand);
-}
-
-namespace UIAction
-{
-	FGetActionCheckState ToCheckState(const FIsActionChecked& IsChecked)
-	{
-		if (!IsChecked.IsBound())
-		{
-			return FGetActionCheckState();
-		}
-		return FGetActionCheckState::CreateLambda([IsChecked] { return IsChecked.Execute() ? ECheckBoxState::Checked : ECheckBoxState::Unchecked; });
-	}
 }
 
 FUIAction::FUIAction(FExecuteAction InExecuteAction, EUIActionRepeatMode InRepeatMode)
@@ -132,32 +107,6 @@ FUIAction::FUIAction(FExecuteAction InExecuteAction, FCanExecuteAction InCanExec
 {
 }
 
-FUIAction::FUIAction(FExecuteAction InExecuteAction, FCanExecuteAction InCanExecuteAction, FIsActionChecked InIsCheckedDelegate, EUIActionRepeatMode InRepeatMode)
-	: ExecuteAction(MoveTemp(InExecuteAction))
-	, CanExecuteAction(MoveTemp(InCanExecuteAction))
-	, GetActionCheckState(UIAction::ToCheckState(InIsCheckedDelegate))
-	, RepeatMode(InRepeatMode)
-{
-}
-
-FUIAction::FUIAction(FExecuteAction InExecuteAction, FCanExecuteAction InCanExecuteAction, FGetActionCheckState InGetActionCheckState, EUIActionRepeatMode InRepeatMode)
-	: ExecuteAction(MoveTemp(InExecuteAction))
-	, CanExecuteAction(MoveTemp(InCanExecuteAction))
-	, GetActionCheckState(MoveTemp(InGetActionCheckState))
-	, RepeatMode(InRepeatMode)
-{
-}
-
-FUIAction::FUIAction(FExecuteAction InExecuteAction, FCanExecuteAction InCanExecuteAction, FIsActionChecked InIsCheckedDelegate,
-	FIsActionButtonVisible InIsActionVisibleDelegate, EUIActionRepeatMode InRepeatMode)
-	: ExecuteAction(MoveTemp(InExecuteAction))
-	, CanExecuteAction(MoveTemp(InCanExecuteAction))
-	, GetActionCheckState(UIAction::ToCheckState(InIsCheckedDelegate))
-	, IsActionVisibleDelegate(MoveTemp(InIsActionVisibleDelegate))
-	, RepeatMode(InRepeatMode)
-{
-}
-
 void FUICommandList::MapAction(const TSharedPtr<const FUICommandInfo> InUICommandInfo, const FUIAction& InUIAction)
 {
 	check(InUICommandInfo.IsValid());
@@ -165,38 +114,10 @@ void FUICommandList::MapAction(const TSharedPtr<const FUICommandInfo> InUIComman
 	UICommandBindingMap.Add(InUICommandInfo, InUIAction);
 }
 
-void FUICommandList::MapAction(const TSharedPtr<const FUICommandInfo> InUICommandInfo, FExecuteAction ExecuteAction, EUIActionRepeatMode RepeatMode)
-{
-	MapAction(InUICommandInfo, FUIAction(MoveTemp(ExecuteAction), RepeatMode));
-}
-
 void FUICommandList::MapAction(const TSharedPtr<const FUICommandInfo> InUICommandInfo, FExecuteAction ExecuteAction, FCanExecuteAction CanExecuteAction,
 	EUIActionRepeatMode RepeatMode)
 {
 	MapAction(InUICommandInfo, FUIAction(MoveTemp(ExecuteAction), MoveTemp(CanExecuteAction), RepeatMode));
-}
-
-void FUICommandList::MapAction(const TSharedPtr<const FUICommandInfo> InUICommandInfo, FExecuteAction ExecuteAction, FCanExecuteAction CanExecuteAction,
-	FIsActionChecked IsCheckedDelegate, EUIActionRepeatMode RepeatMode)
-{
-	MapAction(InUICommandInfo, FUIAction(MoveTemp(ExecuteAction), MoveTemp(CanExecuteAction), MoveTemp(IsCheckedDelegate), RepeatMode));
-}
-
-void FUICommandList::MapAction(const TSharedPtr<const FUICommandInfo> InUICommandInfo, FExecuteAction ExecuteAction, FCanExecuteAction CanExecuteAction,
-	FGetActionCheckState GetActionCheckState, EUIActionRepeatMode RepeatMode)
-{
-	MapAction(InUICommandInfo, FUIAction(MoveTemp(ExecuteAction), MoveTemp(CanExecuteAction), MoveTemp(GetActionCheckState), RepeatMode));
-}
-
-void FUICommandList::MapAction(const TSharedPtr<const FUICommandInfo> InUICommandInfo, FExecuteAction ExecuteAction, FCanExecuteAction CanExecuteAction,
-	FIsActionChecked IsCheckedDelegate, FIsActionButtonVisible IsVisibleDelegate, EUIActionRepeatMode RepeatMode)
-{
-	MapAction(InUICommandInfo, FUIAction(MoveTemp(ExecuteAction), MoveTemp(CanExecuteAction), MoveTemp(IsCheckedDelegate), MoveTemp(IsVisibleDelegate), RepeatMode));
-}
-
-void FUICommandList::UnmapAction(const TSharedPtr<const FUICommandInfo> InUICommandInfo)
-{
-	UICommandBindingMap.Remove(InUICommandInfo);
 }
 
 void FUICommandList::Append(const TSharedRef<FUICommandList>& InCommandsToAppend)

@@ -37,15 +37,6 @@ public:
 	/** Only while IsRegistered(). */
 	static const CommandContextType& Get() { return *Instance.Pin(); }
 
-	static void Unregister()
-	{
-		if (IsRegistered())
-		{
-			FInputBindingManager::Get().RemoveContextByName(Get().GetContextName());
-			Instance.Reset();
-		}
-	}
-
 	virtual void RegisterCommands() = 0;
 
 protected:

@@ -20,11 +20,9 @@ public:
 	/** In order of registration. */
 	void GetCommandInfosFromContext(const FName InBindingContext, TArray<TSharedPtr<FUICommandInfo>>& OutCommandInfos) const;
 	TSharedPtr<FBindingContext> GetContextByName(const FName InContextName) const;
-	void GetKnownInputContexts(TArray<TSharedPtr<FBindingContext>>& OutInputContexts) const;
 
 	/** Keeps the context, and so its command set, until it is removed or the editor goes down. */
 	void AddContext(const TSharedRef<FBindingContext>& InContext);
-	void RemoveContextByName(const FName InContextName);
 	void AddCommand(const TSharedRef<FUICommandInfo>& InCommand);
 
 private:

@@ -20,23 +20,11 @@ namespace EModifierKey
 struct SLATE_API FInputChord
 {
 	FInputChord() = default;
-	FInputChord(const FKey InKey)
-		: Key(InKey)
-	{
-	}
-	FInputChord(const EModifierKey::Type InModifierKeys, const FKey InKey)
-		: Key(InKey)
-		, Modifiers(InModifierKeys)
-	{
-	}
 
 	bool IsValidChord() const { return Key.IsValid(); }
 
 	/** "Ctrl+Shift+S"; empty for no chord. */
 	FText GetInputText() const;
-
-	bool operator==(const FInputChord& Other) const { return Key == Other.Key && Modifiers == Other.Modifiers; }
-	bool operator!=(const FInputChord& Other) const { return !(*this == Other); }
 
 	FKey Key;
 	EModifierKey::Type Modifiers = EModifierKey::None;

@@ -23,14 +23,7 @@ struct SLATE_API FUIAction
 	FUIAction() = default;
 	FUIAction(FExecuteAction InExecuteAction, EUIActionRepeatMode InRepeatMode = EUIActionRepeatMode::RepeatDisabled);
 	FUIAction(FExecuteAction InExecuteAction, FCanExecuteAction InCanExecuteAction, EUIActionRepeatMode InRepeatMode = EUIActionRepeatMode::RepeatDisabled);
-	FUIAction(FExecuteAction InExecuteAction, FCanExecuteAction InCanExecuteAction, FIsActionChecked InIsCheckedDelegate,
-		EUIActionRepeatMode InRepeatMode = EUIActionRepeatMode::RepeatDisabled);
-	FUIAction(FExecuteAction InExecuteAction, FCanExecuteAction InCanExecuteAction, FGetActionCheckState InGetActionCheckState,
-		EUIActionRepeatMode InRepeatMode = EUIActionRepeatMode::RepeatDisabled);
-	FUIAction(FExecuteAction InExecuteAction, FCanExecuteAction InCanExecuteAction, FIsActionChecked InIsCheckedDelegate,
-		FIsActionButtonVisible InIsActionVisibleDelegate, EUIActionRepeatMode InRepeatMode = EUIActionRepeatMode::RepeatDisabled);
 
-	bool IsBound() const { return ExecuteAction.IsBound(); }
 	bool CanExecute() const { return !CanExecuteAction.IsBound() || CanExecuteAction.Execute(); }
 	bool IsVisible() const { return !IsActionVisibleDelegate.IsBound() || IsActionVisibleDelegate.Execute(); }
 	ECheckBoxState GetCheckState() const { return GetActionCheckState.IsBound() ? GetActionCheckState.Execute() : ECheckBoxState::Unchecked; }

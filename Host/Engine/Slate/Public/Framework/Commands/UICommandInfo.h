@@ -32,7 +32,6 @@ public:
 	virtual ~FBindingContext() = default;
 
 	FName GetContextName() const { return ContextName; }
-	FName GetContextParent() const { return ContextParent; }
 	const FText& GetContextDesc() const { return ContextDesc; }
 	FName GetStyleSetName() const { return StyleSetName; }
 

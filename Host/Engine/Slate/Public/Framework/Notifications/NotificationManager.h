@@ -22,9 +22,6 @@ public:
 	 */
 	TSharedPtr<SNotificationItem> AddNotification(const FNotificationInfo& Info);
 
-	/** Takes ownership of Info and shows it at the next tick. */
-	void QueueNotification(FNotificationInfo* Info);
-
 	/** Whether new notifications are shown, which they are unless somebody said otherwise. Those that stand stay. */
 	void SetAllowNotifications(const bool bShouldAllow);
 	bool AreNotificationsAllowed() const;

@@ -36,8 +36,6 @@ public:
 
 	void Construct(const FArguments& InArgs);
 
-	void SetOnClicked(FOnClicked InOnClicked) { OnClicked = MoveTemp(InOnClicked); }
-
 protected:
 	virtual void DescribeToHost(FHostWidgetDescription& OutDescription) const override;
 	virtual FHostInputResult TakeHostInput(const FHostInput& Input) override;

@@ -58,11 +58,6 @@ public:
 
 	/** Has the options read again when they show next: nothing else does, whatever becomes of the array. The selection stays. */
 	void RefreshOptions() { bRefreshPending = true; }
-	void SetItemsSource(const TArray<OptionType>* InListItemsSource)
-	{
-		OptionsSource = InListItemsSource;
-		RefreshOptions();
-	}
 
 	virtual void SetIsOpen(bool bInIsOpen) override
 	{

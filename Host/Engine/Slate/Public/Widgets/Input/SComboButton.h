@@ -30,8 +30,6 @@ public:
 	bool IsOpen() const { return bIsOpen; }
 	virtual void SetIsOpen(bool bInIsOpen);
 
-	void SetOnGetMenuContent(FOnGetContent InOnGetMenuContent) { OnGetMenuContent = MoveTemp(InOnGetMenuContent); }
-
 	/** The open menu; nothing while it is closed. What stands on the button itself is not among them. */
 	virtual FChildren* GetChildren() override { return &OpenMenu; }
 

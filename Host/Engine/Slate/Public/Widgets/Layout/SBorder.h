@@ -33,11 +33,7 @@ public:
 	void Construct(const FArguments& InArgs);
 
 	virtual void SetContent(TSharedRef<SWidget> InContent) { ChildSlot[InContent]; }
-	const TSharedRef<SWidget>& GetContent() const { return ChildSlot.GetWidget(); }
-	void SetPadding(TAttribute<FMargin> InPadding) { ChildSlot.SetPadding(MoveTemp(InPadding)); }
-	void SetBorderImage(TAttribute<const FSlateBrush*> InBorderImage) { BorderImage = MoveTemp(InBorderImage); }
 	const FSlateBrush* GetBorderImage() const { return BorderImage.Get(nullptr); }
-	void SetBorderBackgroundColor(TAttribute<FSlateColor> InColor) { BorderBackgroundColor = MoveTemp(InColor); }
 	FSlateColor GetBorderBackgroundColor() const { return BorderBackgroundColor.Get(FSlateColor(FLinearColor::White)); }
 
 protected:

@@ -30,13 +30,10 @@ public:
 	void Construct(const FArguments& InArgs);
 
 	void SetContent(const TSharedRef<SWidget>& InContent) { ChildSlot[InContent]; }
-	void SetPadding(TAttribute<FMargin> InPadding) { ChildSlot.SetPadding(MoveTemp(InPadding)); }
 	void SetWidthOverride(TAttribute<FOptionalSize> InValue) { WidthOverride = MoveTemp(InValue); }
 	void SetHeightOverride(TAttribute<FOptionalSize> InValue) { HeightOverride = MoveTemp(InValue); }
 	void SetMinDesiredWidth(TAttribute<FOptionalSize> InValue) { MinDesiredWidth = MoveTemp(InValue); }
 	void SetMinDesiredHeight(TAttribute<FOptionalSize> InValue) { MinDesiredHeight = MoveTemp(InValue); }
-	void SetMaxDesiredWidth(TAttribute<FOptionalSize> InValue) { MaxDesiredWidth = MoveTemp(InValue); }
-	void SetMaxDesiredHeight(TAttribute<FOptionalSize> InValue) { MaxDesiredHeight = MoveTemp(InValue); }
 
 protected:
 	virtual void DescribeToHost(FHostWidgetDescription& OutDescription) const override;

@@ -23,39 +23,21 @@ public:
 	};
 
 	virtual void SetText(const TAttribute<FText>& InText) = 0;
-	virtual void SetSubText(const TAttribute<FText>& InSubText) = 0;
-	virtual void SetHyperlink(const FSimpleDelegate& InHyperlink, const TAttribute<FText>& InHyperlinkText = TAttribute<FText>()) = 0;
 
 	virtual ECompletionState GetCompletionState() const = 0;
 	/** Also decides which buttons show. */
 	virtual void SetCompletionState(ECompletionState State) = 0;
 
-	/** Seconds; they count from the next ExpireAndFadeout() or Fadeout(). */
-	virtual void SetExpireDuration(float ExpireDuration) = 0;
-	virtual void SetFadeInDuration(float FadeInDuration) = 0;
-	virtual void SetFadeOutDuration(float FadeOutDuration) = 0;
-
 	/** Stays for the expire duration from now, then fades. */
 	virtual void ExpireAndFadeout() = 0;
-	/** Fades from now on. */
-	virtual void Fadeout() = 0;
-	/** Draws the eye; changes nothing. */
-	virtual void Pulse(const FLinearColor& GlowColor) = 0;
 };
 
 /** A button of a notification, and the states of the notification in which it shows. */
 struct SLATE_API FNotificationButtonInfo
 {
-	DECLARE_DELEGATE_RetVal_OneParam(EVisibility, FVisibilityDelegate, SNotificationItem::ECompletionState);
-	DECLARE_DELEGATE_RetVal_OneParam(bool, FIsEnabledDelegate, SNotificationItem::ECompletionState);
-
 	/** Shows in one state only. */
 	FNotificationButtonInfo(const TAttribute<FText>& InText, const TAttribute<FText>& InToolTip, FSimpleDelegate InCallback,
 		SNotificationItem::ECompletionState VisibleInState = SNotificationItem::CS_Pending);
-
-	/** Shows and is enabled as the delegates say; unbound ones say yes. */
-	FNotificationButtonInfo(const TAttribute<FText>& InText, const TAttribute<FText>& InToolTip, FSimpleDelegate InCallback,
-		FVisibilityDelegate InVisibilityCallback, FIsEnabledDelegate InIsEnabledCallback = FIsEnabledDelegate());
 
 	TAttribute<FText> Text;
 	TAttribute<FText> ToolTip;
@@ -65,9 +47,6 @@ struct SLATE_API FNotificationButtonInfo
 	EVisibility VisibilityOnPending = EVisibility::Visible;
 	EVisibility VisibilityOnSuccess = EVisibility::Visible;
 	EVisibility VisibilityOnFail = EVisibility::Visible;
-
-	FVisibilityDelegate VisibilityCallback;
-	FIsEnabledDelegate IsEnabledCallback;
 };
 
 /** What a notification shows and for how long. */

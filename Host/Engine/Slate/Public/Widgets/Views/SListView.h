@@ -95,11 +95,6 @@ public:
 
 	bool IsItemSelected(const ItemType& InItem) const { return SelectedItems.Contains(InItem); }
 	TArray<ItemType> GetSelectedItems() const { return SelectedItems; }
-	int32 GetSelectedItems(TArray<ItemType>& OutItems) const
-	{
-		OutItems = SelectedItems;
-		return SelectedItems.Num();
-	}
 	int32 GetNumItemsSelected() const { return SelectedItems.Num(); }
 
 	/** At the next tick. An item that is not in the list then is ignored. */

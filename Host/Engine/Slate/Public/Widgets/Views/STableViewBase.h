@@ -20,7 +20,6 @@ public:
 
 	/** Brings the rows in step with the items at the next tick; any number of requests until then make one. */
 	virtual void RequestListRefresh();
-	bool IsPendingRefresh() const { return bRefreshPending; }
 
 	/** Drops all rows, so that even those of unchanged items are made anew. */
 	virtual void RebuildList() = 0;
