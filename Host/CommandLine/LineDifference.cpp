@@ -3,8 +3,10 @@
 #include "LineDifference.h"
 
 #include "Containers/StringConv.h"
+#include "HostLines.h"
 
 #include <algorithm>
+#include <cstring>
 #include <string>
 #include <unordered_map>
 
@@ -86,17 +88,74 @@ namespace LineDifference
 	FLines Split(std::string_view Text)
 	{
 		FLines Lines;
-		size_t LineFeed = Text.find('\n'); // the next one; searching for single characters is quick, and files have megabytes
-		for (size_t Start = 0; Start < Text.size();)
+		for (FTextLines Walk(Text); Walk.Advance();)
 		{
-			LineFeed = LineFeed < Start ? Text.find('\n', Start) : LineFeed;
-			const std::string_view UpToFeed = Text.substr(Start, LineFeed - Start);
-			const std::string_view Line = UpToFeed.substr(0, UpToFeed.find('\r'));
-			Lines.push_back(Line);
-			const size_t End = Start + Line.size();
-			Start = End + (End + 1 == LineFeed ? 2 : 1); // CRLF is one end
+			Lines.push_back(Walk.Get());
 		}
 		return Lines;
+	}
+
+	constexpr size_t BlockSize = 4096; // bytes compared in one go
+
+	/** How many bytes both begin with. */
+	size_t CountCommonFront(std::string_view Old, std::string_view New)
+	{
+		const size_t Shorter = std::min(Old.size(), New.size());
+		size_t Count = 0;
+		while (Count + BlockSize <= Shorter && std::memcmp(Old.data() + Count, New.data() + Count, BlockSize) == 0)
+		{
+			Count += BlockSize;
+		}
+		while (Count < Shorter && Old[Count] == New[Count])
+		{
+			++Count;
+		}
+		return Count;
+	}
+
+	/** How many bytes both end with. */
+	size_t CountCommonBack(std::string_view Old, std::string_view New)
+	{
+		const size_t Shorter = std::min(Old.size(), New.size());
+		const auto FromEnd = [](std::string_view Text, size_t Count) { return Text.data() + (Text.size() - Count); };
+		size_t Count = 0;
+		while (Count + BlockSize <= Shorter && std::memcmp(FromEnd(Old, Count + BlockSize), FromEnd(New, Count + BlockSize), BlockSize) == 0)
+		{
+			Count += BlockSize;
+		}
+		while (Count < Shorter && *FromEnd(Old, Count + 1) == *FromEnd(New, Count + 1))
+		{
+			++Count;
+		}
+		return Count;
+	}
+
+	/** Where the line begins that the character before At ends or stands in. */
+	size_t FindLineBegin(std::string_view Text, size_t At)
+	{
+		const size_t Feed = At > 0 ? Text.rfind('\n', At - 1) : std::string_view::npos;
+		return Feed == std::string_view::npos ? 0 : Feed + 1;
+	}
+
+	std::string_view DropCommonEnds(std::string_view& Old, std::string_view& New, size_t Context)
+	{
+		size_t Front = FindLineBegin(Old, CountCommonFront(Old, New));
+		for (size_t Line = 0; Line < Context && Front > 0; ++Line)
+		{
+			Front = FindLineBegin(Old, Front - 1);
+		}
+		const std::string_view Dropped = Old.substr(0, Front);
+		Old.remove_prefix(Front);
+		New.remove_prefix(Front);
+		size_t Back = CountCommonBack(Old, New);
+		for (size_t Line = 0; Line <= Context && Back > 0; ++Line) // what is common may begin within a line: one more
+		{
+			const size_t Feed = Old.find('\n', Old.size() - Back);
+			Back = Feed == std::string_view::npos ? 0 : Old.size() - Feed - 1;
+		}
+		Old.remove_suffix(Back);
+		New.remove_suffix(Back);
+		return Dropped;
 	}
 
 	std::vector<FEdit> FindEdits(const FLines& Old, const FLines& New)

@@ -17,6 +17,13 @@ namespace LineDifference
 	/** Without their ends, which may be CRLF, LF or a lone CR. The lines point into Text. */
 	FLines Split(std::string_view Text);
 
+	/**
+	 * Takes away whole lines that both texts begin with, and that both end with: large files with small changes need not be split.
+	 * @param Context so many equal lines stay on each side
+	 * @return what went at the beginning
+	 */
+	std::string_view DropCommonEnds(std::string_view& Old, std::string_view& New, size_t Context = 0);
+
 	/** Lines [OldBegin, OldEnd) of the old text give way to lines [NewBegin, NewEnd) of the new one. */
 	struct FEdit
 	{

@@ -10,11 +10,11 @@ void Refusal::Print(EExitStatus Status, const TArray<FString>& Lines, bool bJson
 	if (bJson)
 	{
 		const FJson Json = {{"status", static_cast<int>(Status)}, {"error", JsonText::Make(FString::Join(Lines, TEXT("\n")))}};
-		Console::PrintUtf8(JsonText::Print(Json, -1));
+		Console::PrintExact(JsonText::Print(Json, -1));
 	}
 	for (const FString& Line : Lines)
 	{
-		Console::PrintError(Line);
+		Console::PrintErrorLines(Line);
 	}
 }
 

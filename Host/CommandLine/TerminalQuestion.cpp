@@ -3,6 +3,7 @@
 #include "TerminalQuestion.h"
 
 #include "ProgressLine.h"
+#include "TerminalText.h"
 
 #include <cerrno>
 #include <csignal>
@@ -93,7 +94,7 @@ namespace TerminalQuestion
 		{
 			{
 				const FSilence Silence(Terminal);
-				Show(Terminal, Prompt);
+				Show(Terminal, TerminalText::Escape(Prompt));
 				bRead = ReadLine(Terminal, OutLine);
 				Show(Terminal, "\n"); // the one that was typed did not show
 			}

@@ -49,7 +49,7 @@ namespace DesktopArguments
 			std::ostringstream Errors;
 			if (App.exit(Error, Output, Errors) == 0)
 			{
-				Console::Print(ToText(Output.str()).TrimEnd());
+				Console::PrintLines(ToText(Output.str()).TrimEnd());
 				return EExitStatus::Done;
 			}
 			Refusal::Print(EExitStatus::Usage, {ToText(Errors.str()).TrimEnd()}, false);

@@ -64,7 +64,7 @@ namespace DesktopMain
 	int Run(const FDesktopArguments& Arguments, const FEditorHostOptions& Options)
 	{
 		FDesktopEditor Editor(Options);
-		Editor.OnBroken = [](const FString& Reason) { Console::PrintError(FString(TEXT("velmorant-editor: ")) + Reason); };
+		Editor.OnBroken = [](const FString& Reason) { Console::PrintErrorLines(FString(TEXT("velmorant-editor: ")) + Reason); };
 		const bool bPlays = !Arguments.Script.IsEmpty(); // then starting is a step of its own
 		FProjectLock Lock;
 		if (!bPlays && !Lock.Take(QtText::From(FPaths::GetPath(Options.Project))) && !MayShare(Lock, QtText::From(FPaths::GetBaseFilename(Options.Project))))

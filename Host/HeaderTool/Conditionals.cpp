@@ -4,7 +4,9 @@
 
 #include "Diagnostics.h"
 
+#include <algorithm>
 #include <set>
+#include <utility>
 
 namespace HeaderTool
 {
@@ -17,11 +19,14 @@ namespace HeaderTool
 			Unknown, // compiled in some configurations
 		};
 
+		constexpr size_t None = static_cast<size_t>(-1);
+
 		struct FCondition
 		{
 			std::string Text; // as written, for messages
 			FPlace Place;
 			EBranch Branch = EBranch::On;
+			size_t FirstUnknown = None; // of the conditions around and this one, from outside, whose branch is unknown
 			bool bTaken = false; // a branch of this condition has been kept already
 			bool bKeeping = false;
 		};
@@ -113,13 +118,10 @@ namespace HeaderTool
 				}
 				if (Token.IsIdentifier() && IsReflectionMacro(Token.Text))
 				{
-					for (const FCondition& Condition : Stack)
+					if (!Stack.empty() && Stack.back().FirstUnknown != None)
 					{
-						if (Condition.Branch == EBranch::Unknown)
-						{
-							Diagnostics.Error(Path, Token.Place, Token.Text + " must not stand inside '#" + Condition.Text + "' (line " + std::to_string(Condition.Place.Line) + "): reflected code may only be surrounded by '#if WITH_EDITOR' or '#if WITH_EDITORONLY_DATA'; move it out.");
-							break;
-						}
+						const FCondition& Condition = Stack[Stack.back().FirstUnknown];
+						Diagnostics.Error(Path, Token.Place, Token.Text + " must not stand inside '#" + Condition.Text + "' (line " + std::to_string(Condition.Place.Line) + "): reflected code may only be surrounded by '#if WITH_EDITOR' or '#if WITH_EDITORONLY_DATA'; move it out.");
 					}
 				}
 				if (IsKeeping())
@@ -162,7 +164,7 @@ namespace HeaderTool
 				Condition.Branch = IsIncludeGuard(Keyword, Rest) ? EBranch::On : Evaluate(Keyword, Rest);
 				Condition.bKeeping = IsKeeping() && Condition.Branch != EBranch::Off;
 				Condition.bTaken = Condition.Branch != EBranch::Off;
-				Stack.push_back(Condition);
+				Push(Condition);
 			}
 
 			void Alternative(const FToken& Token, const std::string& Keyword, const std::string& Rest)
@@ -181,7 +183,15 @@ namespace HeaderTool
 				}
 				Condition.bKeeping = IsKeeping() && !Condition.bTaken && Condition.Branch != EBranch::Off;
 				Condition.bTaken |= Condition.Branch != EBranch::Off;
-				Stack.push_back(Condition);
+				Push(Condition);
+			}
+
+			void Push(FCondition Condition)
+			{
+				const size_t Above = Stack.empty() ? None : Stack.back().FirstUnknown;
+				const size_t Own = Condition.Branch == EBranch::Unknown ? Stack.size() : None;
+				Condition.FirstUnknown = std::min(Above, Own);
+				Stack.push_back(std::move(Condition));
 			}
 
 			/** `#ifndef X` directly followed by `#define X`, before any code. */

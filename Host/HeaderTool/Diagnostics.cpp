@@ -2,6 +2,8 @@
 
 #include "Diagnostics.h"
 
+#include "TerminalText.h"
+
 #include <algorithm>
 #include <map>
 #include <ostream>
@@ -38,7 +40,7 @@ namespace HeaderTool
 			Text += ": error: " + Diagnostic.Message;
 			if (Printed.insert(Text).second)
 			{
-				Out << Text << "\n";
+				Out << TerminalText::Escape(Text, TerminalText::ELineFeeds::Keep) << "\n";
 			}
 		}
 	}

@@ -282,10 +282,18 @@ namespace HeaderTool
 			}
 
 			/** Letters count, not the bytes they take. */
-			FPlace Here() const
+			/** Goes on counting columns where it was last: a line may be a whole file. */
+			FPlace Here()
 			{
 				const auto IsLetter = [](char C) { return (static_cast<unsigned char>(C) & 0xC0) != 0x80; };
-				return {Line, 1 + static_cast<int>(std::count_if(Source.begin() + static_cast<std::ptrdiff_t>(LineStart), Source.begin() + static_cast<std::ptrdiff_t>(Position), IsLetter))};
+				if (CountedUpTo < LineStart || CountedUpTo > Position)
+				{
+					CountedUpTo = LineStart;
+					LettersBefore = 0;
+				}
+				LettersBefore += static_cast<int>(std::count_if(Source.begin() + static_cast<std::ptrdiff_t>(CountedUpTo), Source.begin() + static_cast<std::ptrdiff_t>(Position), IsLetter));
+				CountedUpTo = Position;
+				return {Line, 1 + LettersBefore};
 			}
 
 			void Push(ETokenKind Kind, const std::string& Text, const FPlace& Place)
@@ -312,6 +320,8 @@ namespace HeaderTool
 			FDiagnostics& Diagnostics;
 			size_t Position = 0;
 			size_t LineStart = 0; // where Line begins
+			size_t CountedUpTo = 0; // of Line
+			int LettersBefore = 0; // from LineStart to CountedUpTo
 			int Line = 1;
 			int LastTokenLine = 0;
 			int LastCommentLine = 0;

@@ -46,12 +46,12 @@ namespace HeaderTool
 		}
 
 		/** Behind a type there is a place where the argument ends; anything else is raw text such as a function signature. */
-		FTypeUse ParseArgument(FTokenCursor& Cursor)
+		FTypeUse ParseArgument(FTokenCursor& Cursor, int Depth)
 		{
 			const size_t Start = Cursor.GetPosition();
 			if (Cursor.Peek().IsIdentifier() || Cursor.Is("::"))
 			{
-				const FTypeUse Type = ParseType(Cursor);
+				const FTypeUse Type = ParseType(Cursor, Depth + 1);
 				if (Cursor.Is(",") || Cursor.Is(">"))
 				{
 					return Type;
@@ -61,7 +61,7 @@ namespace HeaderTool
 			FTypeUse Raw;
 			Raw.Place = Cursor.Peek().Place;
 			Raw.bUnparsed = true;
-			for (int Depth = 0; !Cursor.AtEnd() && !(Depth == 0 && (Cursor.Is(",") || Cursor.Is(">"))) && !Cursor.Is(";");)
+			for (int Angles = 0; !Cursor.AtEnd() && !(Angles == 0 && (Cursor.Is(",") || Cursor.Is(">"))) && !Cursor.Is(";");)
 			{
 				if (Cursor.Is("(") || Cursor.Is("["))
 				{
@@ -70,18 +70,18 @@ namespace HeaderTool
 					Raw.Name += Cursor.SkipBalanced() + Close;
 					continue;
 				}
-				Depth += Cursor.Is("<") - Cursor.Is(">");
+				Angles += Cursor.Is("<") - Cursor.Is(">");
 				AppendToken(Raw.Name, Cursor.Next());
 			}
 			return Raw;
 		}
 
-		void ParseArguments(FTokenCursor& Cursor, FTypeUse& Type)
+		void ParseArguments(FTokenCursor& Cursor, FTypeUse& Type, int Depth)
 		{
 			Cursor.Expect("<", "in the type");
 			while (!Cursor.Is(">"))
 			{
-				Type.Arguments.push_back(ParseArgument(Cursor));
+				Type.Arguments.push_back(ParseArgument(Cursor, Depth));
 				if (!Cursor.Accept(",") && !Cursor.Is(">"))
 				{
 					throw FSyntaxError{Type.Place, "the template arguments of '" + Type.Name + "' are never closed; add the missing '>'."};
@@ -113,10 +113,14 @@ namespace HeaderTool
 		}
 	}
 
-	FTypeUse ParseType(FTokenCursor& Cursor)
+	FTypeUse ParseType(FTokenCursor& Cursor, int Depth)
 	{
 		FTypeUse Type;
 		Type.Place = Cursor.Peek().Place;
+		if (Depth > MaxTypeDepth)
+		{
+			throw FSyntaxError{Type.Place, "template arguments are nested more than " + std::to_string(MaxTypeDepth) + " deep; give a part of the type a name of its own."};
+		}
 		for (;;)
 		{
 			if (Cursor.Accept("const"))
@@ -131,7 +135,7 @@ namespace HeaderTool
 		Type.Name = TypeParser::ParseQualifiedName(Cursor);
 		if (Cursor.Is("<"))
 		{
-			TypeParser::ParseArguments(Cursor, Type);
+			TypeParser::ParseArguments(Cursor, Type, Depth);
 			if (Cursor.Is("::"))
 			{
 				throw FSyntaxError{Type.Place, "type '" + Type.Spell() + "::…' is not supported here; name the type directly."};

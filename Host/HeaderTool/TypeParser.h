@@ -8,7 +8,9 @@
 namespace HeaderTool
 {
 	/** Reads a type where a declaration begins; throws FSyntaxError when there is none. */
-	FTypeUse ParseType(FTokenCursor& Cursor);
+	FTypeUse ParseType(FTokenCursor& Cursor, int Depth = 0);
+
+	constexpr int MaxTypeDepth = 64; // of template arguments in each other; each is parsed and checked within the one around
 
 	/**
 	 * Reads `(Type Name = Default, …)`. Default arguments are kept as text; parameter names may be missing (then "").

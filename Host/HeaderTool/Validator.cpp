@@ -8,6 +8,9 @@
 #include "TypeChecker.h"
 #include "TypeTable.h"
 
+#include <string>
+#include <unordered_map>
+
 namespace HeaderTool
 {
 	namespace Validator
@@ -232,31 +235,28 @@ namespace HeaderTool
 
 			void CheckProperties(FClass& Class)
 			{
+				std::unordered_map<std::string, const FClass*> Owners; // by name in lower case: the class nearest to this one that has it
+				for (const FClass* Owner : Types.GetChain(Class))
+				{
+					for (const FProperty& Property : Owner->Properties)
+					{
+						if (Owner != &Class)
+						{
+							Owners.emplace(ToLower(Property.Name), Owner);
+						}
+					}
+				}
 				for (FProperty& Property : Class.Properties)
 				{
 					FTypeContext Context{Header.Path, "UPROPERTY type", ETypePlace::Member, &Class, Property.Flags.Has("CPF_BlueprintVisible")};
 					CheckType(Property.Type, Context, Types, Diagnostics);
-					CheckPropertyName(Class, Property);
-					CheckPropertyFlags(Property);
-				}
-			}
-
-			void CheckPropertyName(const FClass& Class, const FProperty& Property)
-			{
-				for (const FClass* Owner : Types.GetChain(Class))
-				{
-					for (const FProperty& Other : Owner->Properties)
+					const FClass*& Owner = Owners[ToLower(Property.Name)];
+					if (Owner != nullptr)
 					{
-						if (&Other == &Property)
-						{
-							break; // a later one of the same name is reported at its own place
-						}
-						if (EqualsIgnoringCase(Other.Name, Property.Name))
-						{
-							Error(Property.Place, "UPROPERTY '" + Property.Name + "' has the name of a UPROPERTY of '" + Owner->CppName + "' (case does not count); rename one of the two.");
-							return;
-						}
+						Error(Property.Place, "UPROPERTY '" + Property.Name + "' has the name of a UPROPERTY of '" + Owner->CppName + "' (case does not count); rename one of the two.");
 					}
+					Owner = &Class;
+					CheckPropertyFlags(Property);
 				}
 			}
 

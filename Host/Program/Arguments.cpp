@@ -57,6 +57,7 @@ namespace Arguments
 		bool bDryRun = false;
 		bool bWithTests = false;
 		bool bForce = false;
+		bool bAllowToolkitContent = false;
 
 		FEditorArguments GetEditor() const { return {ToText(Platform), bUnattended, bCommandlet, bNullRhi, bNoNotifications}; }
 	};
@@ -114,6 +115,7 @@ namespace Arguments
 		Run->add_option("--service", Raw.Service, "The data file that the toolkit's service answers from; - for the standard input")->type_name("FILE");
 		AddEditor(*Run, Raw);
 		Run->add_flag("--json", Raw.bJson, "Report each step as a JSON object in a line of its own");
+		Run->add_flag("--allow-toolkit-content", Raw.bAllowToolkitContent, "Let the script change the toolkit's own content, not only the project");
 		Run->footer("Ends with 0 when all went well, 1 when an expectation did not hold, 2 for bad usage or\nno such project, 3 when the script is wrong or could not go on, a file or the service's data\ncould not be read or written, or the output could not be written.");
 		return Run;
 	}
@@ -240,7 +242,7 @@ namespace Arguments
 		std::ostringstream Errors;
 		if (App.exit(Error, Output, Errors) == 0)
 		{
-			Console::Print(ToText(Output.str()).TrimEnd());
+			Console::PrintLines(ToText(Output.str()).TrimEnd());
 			return EExitStatus::Done;
 		}
 		TArray<FString> Lines;
@@ -309,7 +311,7 @@ namespace Arguments
 		}
 		else if (Run->parsed())
 		{
-			OutArguments.Run = FRunArguments{ToText(Raw.Project), Raw.GetEditor(), ToText(Raw.Script), ServiceFile::MakeInputs(ToText(Raw.Service)), Raw.bJson};
+			OutArguments.Run = FRunArguments{ToText(Raw.Project), Raw.GetEditor(), ToText(Raw.Script), ServiceFile::MakeInputs(ToText(Raw.Service)), Raw.bJson, Raw.bAllowToolkitContent};
 		}
 		else if (Install->parsed())
 		{

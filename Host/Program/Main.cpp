@@ -57,7 +57,7 @@ namespace VelmorantMain
 		}
 		catch (const std::exception& Fault) // of the editor, or memory that ran out
 		{
-			Console::PrintError(FString(TEXT("velmorant: ")) + ProgramFault::Describe(Fault));
+			Console::PrintErrorLines(FString(TEXT("velmorant: ")) + ProgramFault::Describe(Fault));
 		}
 		return EExitStatus::Trouble;
 	}

@@ -225,7 +225,7 @@ TEST_F(CheckReports, DifferencesAreThoseThatPatchReads)
 	for (const auto& Case : Cases)
 	{
 		SCOPED_TRACE(Case.Behaviour);
-		EXPECT_EQ(UnifiedDifference::Make("f", Case.Old ? &*Case.Old : nullptr, Case.New ? &*Case.New : nullptr), Case.Difference);
+		EXPECT_EQ(UnifiedDifference::Make("f", Case.Old, Case.New), Case.Difference);
 		FFileText Before{TEXT("/f"), Case.Old.has_value(), Case.Old.value_or("")};
 		const FFileText After{TEXT("/f"), Case.New.has_value(), Case.New.value_or("")};
 		const FFileChange Change = FileChanges::Compare(Before, After);
@@ -237,8 +237,8 @@ TEST_F(CheckReports, DifferencesAreThoseThatPatchReads)
 	}
 	for (const auto& [Path, Name] : {std::pair("/p/Config/f", "Config/f"), std::pair("/pq/f", "/pq/f"), std::pair("/P/f", "/P/f")})
 	{
-		const FFileText File{FString(Path), true, "a\n"};
-		EXPECT_EQ(FileChanges::Describe(TEXT("/p/"), FFileText{FString(Path), true, ""}, File), std::string("--- ") + Name + "\n+++ " + Name + "\n@@ -0,0 +1 @@\n+a\n");
+		const FFileText File{FString(Path), true, std::string("a\n")};
+		EXPECT_EQ(FileChanges::Describe(TEXT("/p/"), FFileText{FString(Path), true, {}}, File), std::string("--- ") + Name + "\n+++ " + Name + "\n@@ -0,0 +1 @@\n+a\n");
 	}
 	const TArray<FString> Extra = LineDifference::GetAdded("a\nb\nb\r\n", "b\na\na\r\nc\nb\nb\na");
 	EXPECT_EQ(TCHAR_TO_UTF8(*FString::Join(Extra, TEXT(","))), std::string("a,c,b,a")) << "a second copy is one more line";

@@ -2,13 +2,19 @@
 
 #include "ProgramRun.h"
 
+#include "Canary.h"
+
+#include <algorithm>
+#include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
 #include <fstream>
+#include <gtest/gtest.h>
 #include <iterator>
 #include <pty.h>
 #include <stdexcept>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -38,11 +44,28 @@ namespace ProgramRun
 		}
 	}
 
+	std::string ReadScript(const std::vector<std::string>& Arguments)
+	{
+		const auto Script = std::find_if(Arguments.begin(), Arguments.end(), [](const std::string& Argument) { return Argument.ends_with(".velscript"); });
+		return Script != Arguments.end() ? ReadAll(*Script) : std::string();
+	}
+
+	void ExpectNoLeaks(const FProgramResult& Result, const std::string& Script)
+	{
+		for (const std::string& Leak : Canary::FindLeaks(Result.Output + Result.Errors, Script))
+		{
+			ADD_FAILURE() << Leak << ":\n"
+						  << Result.Output << Result.Errors;
+		}
+	}
+
 	FProgramResult WaitFor(pid_t Process)
 	{
 		int Status = 0;
-		waitpid(Process, &Status, 0);
+		struct rusage Usage = {};
+		wait4(Process, &Status, 0, &Usage);
 		FProgramResult Result;
+		Result.PeakKilobytes = Usage.ru_maxrss;
 		Result.ExitStatus = WIFEXITED(Status) ? WEXITSTATUS(Status) : -1;
 		return Result;
 	}
@@ -77,6 +100,7 @@ FProgramRun::FProgramRun(const std::vector<std::string>& Arguments, const FEnvir
 	}
 	Folder = Template;
 	std::ofstream(Folder + "/in", std::ios::binary) << Input;
+	Script = ProgramRun::ReadScript(Arguments);
 	Process = fork();
 	if (Process == 0)
 	{
@@ -101,12 +125,18 @@ FProgramRun::~FProgramRun()
 	std::filesystem::remove_all(Folder, Ignored);
 }
 
+void FProgramRun::Kill() const
+{
+	kill(Process, SIGKILL);
+}
+
 FProgramResult FProgramRun::Wait()
 {
 	FProgramResult Result = ProgramRun::WaitFor(Process);
 	Process = -1;
 	Result.Output = ProgramRun::ReadAll(Folder + "/out");
 	Result.Errors = ProgramRun::ReadAll(Folder + "/err");
+	ProgramRun::ExpectNoLeaks(Result, Script);
 	return Result;
 }
 
@@ -142,5 +172,6 @@ FProgramResult FProgramRun::RunOnTerminal(const std::vector<std::string>& Argume
 	close(Terminal);
 	FProgramResult Result = ProgramRun::WaitFor(Process);
 	Result.Output = Shown;
+	ProgramRun::ExpectNoLeaks(Result, ProgramRun::ReadScript(Arguments));
 	return Result;
 }

@@ -13,9 +13,10 @@ struct FProgramResult
 	int ExitStatus = -1; // -1 when a signal ended it
 	std::string Output;
 	std::string Errors;
+	long PeakKilobytes = 0; // of memory, resident
 };
 
-/** The velmorant program as a process of its own. */
+/** The velmorant program as a process of its own. What it prints must not give the sample's secrets away (Canary). */
 class FProgramRun
 {
 public:
@@ -43,6 +44,9 @@ public:
 	/** Starts it, with Input on its standard input, and waits. */
 	static FProgramResult RunWithInput(const std::vector<std::string>& Arguments, const FEnvironment& Environment, const std::string& Input);
 
+	/** Ends it at once, or does nothing when it has ended. */
+	void Kill() const;
+
 	/** Starts it and waits. */
 	static FProgramResult Run(const std::vector<std::string>& Arguments, const FEnvironment& Environment = {}, EOutput Output = EOutput::Kept);
 
@@ -51,5 +55,6 @@ public:
 
 private:
 	std::string Folder;
+	std::string Script; // text of the script that it runs, if any
 	pid_t Process = -1;
 };

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "Canary.h"
 #include "ProgramRun.h"
 #include "TemporaryFolder.h"
 
@@ -40,10 +41,14 @@ protected:
 	static inline const std::filesystem::path Sample = VELMORANT_SOURCE_DIR "/Samples/HarborTower";
 	static inline const std::string IniFile = "Project/Config/DefaultEngine.ini";
 
-	/** An empty project, nothing but a descriptor. */
+	/** Secrets are nowhere but where they belong. */
+	void TearDown() override { EXPECT_EQ(Canary::FindLeaksIn(Folder.GetNative()), std::vector<std::string>{}); }
+
+	/** An empty project: a descriptor, and a key that the editor saved. */
 	void MakeProject() const
 	{
 		Folder.Write("Project/Test.uproject", "{ \"FileVersion\": 3, \"EngineAssociation\": \"5.6\" }\n");
+		Folder.Write("Project/Saved/Config/LinuxEditor/Game.ini", "[/Script/VelmorantSDK.VelmorantSDKSettings]\nApiKey=" + Canary::Key + "\n");
 	}
 
 	void CopySample() const
@@ -56,7 +61,11 @@ protected:
 
 	std::string GetProject() const { return Folder.GetNative("Project").string(); }
 
-	FProgramRun::FEnvironment GetEnvironment() const { return {{"XDG_CONFIG_HOME", Folder.GetNative("UserConfig").string()}, {"XDG_STATE_HOME", Folder.GetNative("UserState").string()}}; }
+	/** A password stands in it that scripts may ask for. */
+	FProgramRun::FEnvironment GetEnvironment() const
+	{
+		return {{"XDG_CONFIG_HOME", Folder.GetNative("UserConfig").string()}, {"XDG_STATE_HOME", Folder.GetNative("UserState").string()}, {"HARBOR_PASSWORD", Canary::Password}};
+	}
 
 	FProgramResult Check(const std::vector<std::string>& Options = {}) const
 	{

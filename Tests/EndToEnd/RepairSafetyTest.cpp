@@ -64,6 +64,42 @@ TEST_F(RepairSafety, ACrashBeforeTheRenameLeavesTheOldFile)
 	EXPECT_EQ(Folder.Count("Project/Config"), 1u) << "what the crash left is cleared away";
 }
 
+TEST_F(RepairSafety, WhatOtherProgramsPutInThePlaceOfTheFileIsRepairedInstead)
+{
+	static int NumLeft = 0;
+	static std::string Theirs;
+	const struct
+	{
+		const char* Behaviour;
+		void (*Between)(const char* Temporary, const char* Target);
+		std::string Theirs;
+	} Cases[] = {
+		{"another file under its name", [](const char*, const char* Target) { std::ofstream(std::string(Target) + ".new") << Theirs; std::filesystem::rename(std::string(Target) + ".new", Target); }, "[Foreign]\nKey=1\n" + SectionLine + GlassLine},
+		{"as many bytes, in the same file", [](const char*, const char* Target) { std::ofstream(Target) << Theirs; }, Replace(SectionLine + GlassLine, "Balustrades", "balustrades")},
+		{"as many bytes, and the old time", [](const char*, const char* Target) { const auto Time = std::filesystem::last_write_time(Target); std::ofstream(Target) << Theirs; std::filesystem::last_write_time(Target, Time); }, Replace(SectionLine + GlassLine, "Balustrades", "balustrades")},
+	};
+	for (const auto& Case : Cases)
+	{
+		SCOPED_TRACE(Case.Behaviour);
+		WriteIni(SectionLine + GlassLine);
+		Theirs = Case.Theirs;
+		NumLeft = 1;
+		static void (*Between)(const char*, const char*) = nullptr;
+		Between = Case.Between;
+		HostFiles::SetBeforeRename([](const char* Temporary, const char* Target) {
+			if (NumLeft-- > 0)
+			{
+				Between(Temporary, Target);
+			}
+		});
+		const FCheckReport Report = CollisionCheck::Repair(Folder.Get("Project/Test.uproject"), FEditorArguments());
+		HostFiles::SetBeforeRename(nullptr);
+		EXPECT_EQ(Report.Status, ECheckStatus::Repaired);
+		EXPECT_TRUE(Report.Problems.IsEmpty());
+		EXPECT_EQ(ReadIni(), Theirs + ProfileLine + ChannelLine);
+	}
+}
+
 TEST_F(RepairSafety, WhatComesBetweenCheckAndWriteIsTold)
 {
 	const struct
@@ -73,8 +109,10 @@ TEST_F(RepairSafety, WhatComesBetweenCheckAndWriteIsTold)
 		ECheckStatus Status;
 		const char* Problem;
 	} Cases[] = {
-		{"the write fails", [](const char*, const char* Target) { std::filesystem::remove(Target); std::filesystem::create_directory(Target); }, ECheckStatus::Trouble,
-			"the file cannot be written and is as it was: Is a directory"},
+		{"a folder takes its place", [](const char*, const char* Target) { std::filesystem::remove(Target); std::filesystem::create_directory(Target); }, ECheckStatus::Trouble,
+			"a folder stands where a file is to be read"},
+		{"another program never stops", [](const char*, const char* Target) { std::ofstream(Target, std::ios::app) << "; more\n"; }, ECheckStatus::Trouble,
+			"the file was not written: another program keeps changing it"},
 		{"others write over it", [](const char* Temporary, const char*) { std::ofstream(Temporary) << "[Other]\n"; }, ECheckStatus::Repaired,
 			"the repair changed other lines as well, so that --undo cannot take it back"},
 	};

@@ -154,3 +154,17 @@ TEST_F(Secrets, WhatKilledProgramsLeftGoesAtTheNextStart)
 	Do("wait 1\n");
 	EXPECT_FALSE(Folder.Exists(Live));
 }
+
+TEST(Leaks, AreFoundInOutputAndFiles)
+{
+	EXPECT_EQ(Canary::FindLeaks("log: " + Canary::Password, "").size(), 1u);
+	EXPECT_EQ(Canary::FindLeaks("key: " + Canary::Key, "print log\n").size(), 1u);
+	EXPECT_TRUE(Canary::FindLeaks("key: " + Canary::Key, "print property default:VelmorantSDKSettings ApiKey\n").empty());
+	const FTemporaryFolder Folder;
+	Folder.Write("Project/Config/DefaultGame.ini", Canary::Key);
+	Folder.Write("UserConfig/velmorant/VelmorantUser.json", Canary::Password);
+	EXPECT_TRUE(Canary::FindLeaksIn(Folder.GetNative()).empty());
+	Folder.Write("Project/Content/Level.umap.json", Canary::Key + Canary::Password);
+	Folder.Write("UserState/velmorant/repair.json", Canary::Password);
+	EXPECT_EQ(Canary::FindLeaksIn(Folder.GetNative()).size(), 3u);
+}

@@ -6,6 +6,11 @@
 #include "Misc/Paths.h"
 #include "ServiceDataReader.h"
 
+#include <algorithm>
+#include <filesystem>
+#include <string>
+#include <system_error>
+
 const FServiceData* FServiceDataFile::Read(const FString& Path, FString& OutError)
 {
 	return ReadData(Path, OutError) && ReadPictures(OutError) ? &Data.GetValue() : nullptr;
@@ -35,12 +40,34 @@ bool FServiceDataFile::ReadData(const FString& Path, FString& OutError)
 	return Data.IsSet();
 }
 
+namespace ServiceDataFile
+{
+	std::filesystem::path Resolve(const FString& Path)
+	{
+		std::error_code Error;
+		return std::filesystem::weakly_canonical(std::filesystem::path(std::string(TCHAR_TO_UTF8(*Path))), Error);
+	}
+
+	/** Data files come from others, and are not to name any file of this machine. */
+	bool IsBeside(const FString& DataFile, const FString& File)
+	{
+		const std::filesystem::path Folder = Resolve(FPaths::GetPath(DataFile));
+		const std::filesystem::path Resolved = Resolve(File);
+		return std::mismatch(Folder.begin(), Folder.end(), Resolved.begin(), Resolved.end()).first == Folder.end();
+	}
+}
+
 bool FServiceDataFile::ReadPictures(FString& OutError)
 {
 	TArray<FServiceUser>& Users = Data.GetValue().Users;
 	for (int32 Index = 0; Index < Users.Num(); ++Index)
 	{
 		FServiceUser& User = Users[Index];
+		if (!User.PictureFile.IsEmpty() && !ServiceDataFile::IsBeside(LastPath, User.PictureFile))
+		{
+			OutError = FString::Printf(TEXT("%s: /users/%d/picture: the file %s is not in the folder of this data file, nor below it"), *LastPath, Index, *User.PictureFile);
+			return false;
+		}
 		if (!User.PictureFile.IsEmpty() && !FFileHelper::LoadFileToArray(User.LoginInfo.Picture.Data, *User.PictureFile))
 		{
 			OutError = FString::Printf(TEXT("%s: /users/%d/picture: the file %s cannot be read"), *LastPath, Index, *User.PictureFile);

@@ -54,7 +54,7 @@ void FJsonScriptReport::TellStep(const FStepRecord& Record)
 	Json["log"] = JsonText::Make(Record.Events.Log);
 	Json["urls"] = JsonText::Make(Record.Events.Urls);
 	Json["problems"] = JsonText::Make(Record.Events.Problems);
-	Console::PrintUtf8(JsonText::Print(Json, -1));
+	Console::PrintExact(JsonText::Print(Json, -1));
 	Console::PrintProblems(Record.Events.Problems);
 	if (Record.Result.Outcome != EStepOutcome::Done)
 	{
@@ -71,7 +71,7 @@ void FJsonScriptReport::TellEnd(const FRunSummary& Summary)
 	}
 	const FJson Json = {{"status", static_cast<int>(Summary.Status)}, {"steps", Summary.NumSteps}, {"writtenFiles", JsonText::Make(Summary.WrittenFiles)},
 		{"unsaved", JsonText::Make(Summary.Unsaved)}, {"unusedAnswers", UnusedAnswers}};
-	Console::PrintUtf8(JsonText::Print(Json, -1));
+	Console::PrintExact(JsonText::Print(Json, -1));
 }
 
 void FJsonScriptReport::TellStopped(int32 Line, const FString& Reason)

@@ -20,7 +20,9 @@ FProjectFiles::FProjectFiles(const FString& InProjectDir)
 FString FProjectFiles::Find(const FString& Relative) const
 {
 	const FString Full = FPaths::ConvertRelativePathToFull(FPaths::IsRelative(Relative) ? ProjectDir + Relative : Relative);
-	return Full.StartsWith(ProjectDir, ESearchCase::CaseSensitive) ? Full : FString();
+	const bool bInProject = Full.StartsWith(ProjectDir, ESearchCase::CaseSensitive);
+	const bool bLeadsOut = !HostFiles::Resolve(Full).StartsWith(HostFiles::Resolve(ProjectDir) + TEXT("/"), ESearchCase::CaseSensitive);
+	return bInProject && !bLeadsOut ? Full : FString();
 }
 
 FString FProjectFiles::MakeRelative(const FString& Path) const

@@ -3,6 +3,7 @@
 #include "Run/RunCommand.h"
 
 #include "HostFiles.h"
+#include "HostPaths.h"
 #include "HostProblems.h"
 #include "Misc/Paths.h"
 #include "ProjectArgument.h"
@@ -22,11 +23,22 @@ namespace RunCommand
 			const HostFiles::EKind Kind = HostFiles::GetKind(Input.Path);
 			if (Kind != HostFiles::EKind::File)
 			{
-				HostProblems::Report(FPaths::ConvertRelativePathToFull(Input.Path), 0, Kind == HostFiles::EKind::Missing ? *Input.Missing : TEXT("this is no ordinary file, and nothing is read from it"), *Input.Remedy);
+				HostProblems::Report(FPaths::ConvertRelativePathToFull(Input.Path), 0, Kind == HostFiles::EKind::Missing ? HostFiles::ExplainMissing(Input.Path, Input.Missing) : FString(TEXT("this is no ordinary file, and nothing is read from it")), Input.Remedy);
 			}
 		}
 		Refusal::PrintProblems(EExitStatus::Trouble, Arguments.bJson);
 		return HostProblems::GetAll().IsEmpty();
+	}
+
+	/** What a script does, nobody watches: it writes in its project only. */
+	void LimitWrites(FEditorHostOptions& Options, bool bAllowToolkitContent)
+	{
+		Options.WriteFolders = {FPaths::GetPath(Options.Project)};
+		Options.WriteRemedy = TEXT("Scripts write in their project only. Content of the toolkit can be written with --allow-toolkit-content.");
+		if (bAllowToolkitContent)
+		{
+			Options.WriteFolders.Append(HostFiles::FindDirectories(HostPaths::FindProgramData(TEXT("Plugins")))); // links, in a build tree
+		}
 	}
 
 	FEditorHostOptions MakeOptions(const FString& Project, const FRunArguments& Arguments)
@@ -68,7 +80,9 @@ namespace RunCommand
 			return EExitStatus::Trouble;
 		}
 		const TUniquePtr<IScriptReport> Report = ScriptReport::Make(Arguments.Script, Arguments.bJson);
-		FScriptSession Session(MakeOptions(Project, Arguments));
+		FEditorHostOptions Options = MakeOptions(Project, Arguments);
+		LimitWrites(Options, Arguments.bAllowToolkitContent);
+		FScriptSession Session(Options);
 		FScriptRunner Runner(Session, *Report);
 		return Runner.Run(Script);
 	}

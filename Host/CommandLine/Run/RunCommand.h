@@ -21,6 +21,7 @@ struct FRunArguments
 	FString Script;
 	TArray<FRunInput> Inputs;
 	bool bJson = false;
+	bool bAllowToolkitContent = false; // to be written
 };
 
 /** velmorant run: does in a project what a script says. */

@@ -15,7 +15,7 @@ FString ScriptFile::ReadText(const FString& Path)
 	std::string Text;
 	if (HostTextFiles::ReadUtf8(Path, Text) == HostFiles::ERead::Missing)
 	{
-		HostProblems::Report(FPaths::ConvertRelativePathToFull(Path), 0, TEXT("there is no such script"));
+		HostProblems::Report(FPaths::ConvertRelativePathToFull(Path), 0, HostFiles::ExplainMissing(Path, TEXT("there is no such script")));
 	}
 	return UTF8_TO_TCHAR(Text.c_str());
 }

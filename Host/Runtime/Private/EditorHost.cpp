@@ -120,19 +120,9 @@ void FEditorHost::BringUpEngine(const FEditorHostOptions& Options)
 	}
 	if (Options.bWriteOverlay)
 	{
-		HostFiles::BeginOverlay();
-		for (const HostFiles::FPendingWrite& Pending : Options.OverlayWrites)
-		{
-			if (Pending.bDeleted)
-			{
-				HostFiles::Delete(Pending.Path);
-			}
-			else
-			{
-				HostFiles::Write(Pending.Path, Pending.Bytes);
-			}
-		}
+		HostFiles::RestoreOverlay(Options.OverlayWrites);
 	}
+	HostFiles::LimitWrites(Options.WriteFolders, Options.WriteRemedy);
 
 	FCommandLine::Set(*Options.CommandLine);
 	if (!Options.Platform.IsEmpty())

@@ -38,6 +38,12 @@ struct FEditorHostOptions
 	/** With an overlay: what it holds from the beginning, as an earlier editor left its own (HostFiles::GetPendingWrites). */
 	TArray<HostFiles::FPendingWrite> OverlayWrites;
 
+	/** Where the editor may write, beside the user's own settings; empty: everywhere. */
+	TArray<FString> WriteFolders;
+
+	/** What a person is told to do who wants to write elsewhere. */
+	FString WriteRemedy;
+
 	/** Collect garbage in every tick: finds objects that somebody holds without saying so. */
 	bool bCollectEveryTick = ShouldCollectEveryTick();
 

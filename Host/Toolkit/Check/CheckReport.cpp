@@ -186,6 +186,6 @@ namespace CheckReport
 			{"linesToAdd", JsonText::Make(Report.LinesToAdd)},
 			{"reason", JsonText::Make(Report.Reason)},
 		};
-		Console::PrintUtf8(JsonText::Print(Json, 2));
+		Console::PrintExact(JsonText::Print(Json, 2));
 	}
 }

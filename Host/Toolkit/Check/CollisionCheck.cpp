@@ -60,21 +60,29 @@ namespace CollisionCheck
 		}
 	}
 
-	/** @return false when a file could not be written (reported). */
-	bool WriteToDisk(FCheckReport& Report, const FCheckRun& Run)
+	HostFiles::EWrite Write(const HostFiles::FPendingWrite& Pending)
 	{
-		bool bDone = true;
-		for (int32 Index = 0; bDone && Index < Run.Writes.Num(); ++Index)
+		if (Pending.bDeleted)
 		{
-			const HostFiles::FPendingWrite& Write = Run.Writes[Index];
+			return HostFiles::Delete(Pending.Path) ? HostFiles::EWrite::Done : HostFiles::EWrite::Failed;
+		}
+		return HostFiles::WriteOver(Pending.Path, Pending.Bytes, Pending.Basis);
+	}
+
+	/** Done when all was written. Failures are reported. */
+	HostFiles::EWrite WriteToDisk(FCheckReport& Report, const FCheckRun& Run)
+	{
+		HostFiles::EWrite Result = HostFiles::EWrite::Done;
+		for (int32 Index = 0; Result == HostFiles::EWrite::Done && Index < Run.Writes.Num(); ++Index)
+		{
 			const FFileChange Change = CompareWithDisk(Run, Run.Files[Index]);
-			bDone = Write.bDeleted ? HostFiles::Delete(Write.Path) : HostFiles::Write(Write.Path, Write.Bytes);
-			if (bDone)
+			Result = Write(Run.Writes[Index]);
+			if (Result == HostFiles::EWrite::Done)
 			{
 				Report.WrittenFiles.Add(Change);
 			}
 		}
-		return bDone;
+		return Result;
 	}
 
 	/** What goes wrong is told, but the repair is as good as it was: it does not count for the status. */
@@ -86,7 +94,7 @@ namespace CollisionCheck
 		}
 		FRepairRecord Repair;
 		Repair.bCreated = !Before.bExists;
-		if (!RepairRecord::Make(Before.Text, After.Text, Repair))
+		if (!RepairRecord::Make(Before.Text.Get(), After.Text.Get(), Repair))
 		{
 			HostProblems::Report(After.Path, 0, TEXT("the repair changed other lines as well, so that --undo cannot take it back"), TEXT("Compare the file with the one in version control."));
 			RepairRecord::Forget(ProjectDir);
@@ -97,12 +105,17 @@ namespace CollisionCheck
 		}
 	}
 
-	/** Makes the repair that was rehearsed. */
-	void Make(FCheckReport& Report, const FCheckRun& Run, const FFileText& Before)
+	/** Makes the repair that was rehearsed. @return Changed, and nothing is done, when the file is not as it was rehearsed on */
+	HostFiles::EWrite Make(FCheckReport& Report, const FCheckRun& Run, const FFileText& Before)
 	{
 		const FString ProjectDir = FPaths::GetPath(Report.Project);
 		Report.Messages = Run.Messages;
-		if (!WriteToDisk(Report, Run))
+		const HostFiles::EWrite Result = WriteToDisk(Report, Run);
+		if (Result == HostFiles::EWrite::Changed)
+		{
+			return Result;
+		}
+		if (Result == HostFiles::EWrite::Failed)
 		{
 			Report.Status = ECheckStatus::Trouble;
 		}
@@ -110,6 +123,7 @@ namespace CollisionCheck
 		Report.Difference = FileChanges::Describe(ProjectDir, Before, After);
 		Record(ProjectDir, Before, After);
 		Report.Problems.Append(HostProblems::GetAll());
+		return Result;
 	}
 
 	FCheckReport Look(const FString& Project, const FEditorArguments& Editor)
@@ -132,6 +146,27 @@ namespace CollisionCheck
 		return Report;
 	}
 
+	/** In the locked folder. @return Changed when another program changed the file between the rehearsal and the write: nothing is done then */
+	HostFiles::EWrite TryRepair(const FEditorArguments& Editor, FCheckReport& Report)
+	{
+		const FFileText Before = FFileText::Read(GetIniFile(Report.Project));
+		const FCheckRun Run = CheckRun::Rehearse(Report.Project, Editor);
+		Report.Messages = Run.CheckMessages;
+		Report.SpoiledBy = Run.SpoiledBy;
+		Report.Problems = Run.Problems;
+		Report.Status = Judge(Run, Run.bRepaired ? ECheckStatus::Repaired : ECheckStatus::Sound, ECheckStatus::StillMissing);
+		if (Report.Status == ECheckStatus::Repaired)
+		{
+			return Make(Report, Run, Before);
+		}
+		if (Report.Status == ECheckStatus::StillMissing)
+		{
+			Report.SpoiledBy = RepairObstacle::NumberAsOnDisk(Run.SpoiledBy, Before, FileChanges::Find(Run.Files, Before));
+			RepairObstacle::Explain(Run, Before, Report);
+		}
+		return HostFiles::EWrite::Done;
+	}
+
 	FCheckReport Repair(const FString& Project, const FEditorArguments& Editor)
 	{
 		FCheckReport Report;
@@ -143,21 +178,19 @@ namespace CollisionCheck
 			return Report;
 		}
 		const HostFiles::FLock Lock(IniFile); // until the repair is recorded
-		const FFileText Before = FFileText::Read(IniFile);
-		const FCheckRun Run = CheckRun::Rehearse(Project, Editor);
-		Report.Messages = Run.CheckMessages;
-		Report.SpoiledBy = Run.SpoiledBy;
-		Report.Problems = Run.Problems;
-		Report.Status = Judge(Run, Run.bRepaired ? ECheckStatus::Repaired : ECheckStatus::Sound, ECheckStatus::StillMissing);
-		if (Report.Status == ECheckStatus::Repaired)
+		constexpr int32 MaxAttempts = 5;
+		for (int32 Attempt = 0; Attempt < MaxAttempts; ++Attempt)
 		{
-			Make(Report, Run, Before);
+			Report = FCheckReport();
+			Report.Project = Project;
+			if (TryRepair(Editor, Report) != HostFiles::EWrite::Changed)
+			{
+				return Report;
+			}
 		}
-		else if (Report.Status == ECheckStatus::StillMissing)
-		{
-			Report.SpoiledBy = RepairObstacle::NumberAsOnDisk(Run.SpoiledBy, Before, FileChanges::Find(Run.Files, Before));
-			RepairObstacle::Explain(Run, Before, Report);
-		}
+		HostProblems::ReportNotWritten(HostFiles::Resolve(IniFile), TEXT("the file was not written: another program keeps changing it"), TEXT("Try again; the file is as the other one left it."));
+		Report.Status = ECheckStatus::Trouble;
+		Report.Problems = HostProblems::GetAll();
 		return Report;
 	}
 }

@@ -5,8 +5,10 @@
 #include "Check/UnifiedDifference.h"
 #include "Containers/StringConv.h"
 #include "HostFiles.h"
-#include "HostTextFiles.h"
 #include "LineDifference.h"
+
+#include <optional>
+#include <string_view>
 
 namespace FileChanges
 {
@@ -38,8 +40,11 @@ FFileChange FileChanges::Compare(const FFileText& Before, const FFileText& After
 	FFileChange Change;
 	Change.Path = After.Path;
 	Change.bDeleted = Before.bExists && !After.bExists;
-	const LineDifference::FLines Old = LineDifference::Split(Before.Text);
-	const LineDifference::FLines New = LineDifference::Split(After.Text);
+	std::string_view OldText = Before.Text.Get();
+	std::string_view NewText = After.Text.Get();
+	LineDifference::DropCommonEnds(OldText, NewText);
+	const LineDifference::FLines Old = LineDifference::Split(OldText);
+	const LineDifference::FLines New = LineDifference::Split(NewText);
 	for (const LineDifference::FEdit& Edit : LineDifference::FindEdits(Old, New))
 	{
 		Append(Old, Edit.OldBegin, Edit.OldEnd, Change.RemovedLines);
@@ -53,5 +58,6 @@ std::string FileChanges::Describe(const FString& ProjectDir, const FFileText& Be
 	const FString Folder = HostFiles::Resolve(ProjectDir) + TEXT("/");
 	const bool bInProject = After.Path.StartsWith(Folder, ESearchCase::CaseSensitive);
 	const std::string Name(TCHAR_TO_UTF8(*(bInProject ? After.Path.RightChop(Folder.Len()) : After.Path)));
-	return UnifiedDifference::Make(Name, Before.bExists ? &Before.Text : nullptr, After.bExists ? &After.Text : nullptr);
+	using FOptionalText = std::optional<std::string_view>;
+	return UnifiedDifference::Make(Name, Before.bExists ? FOptionalText(Before.Text.Get()) : FOptionalText(), After.bExists ? FOptionalText(After.Text.Get()) : FOptionalText());
 }

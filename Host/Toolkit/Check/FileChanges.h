@@ -4,6 +4,7 @@
 
 #include "Containers/Array.h"
 #include "Containers/UnrealString.h"
+#include "HostTextFiles.h"
 
 #include <string>
 
@@ -15,7 +16,7 @@ struct FFileText
 
 	FString Path; // full, without links
 	bool bExists = false;
-	std::string Text; // UTF-8, line ends as in the file
+	FHostText Text;
 };
 
 /** A file, and what a write put into it and took out of it, or would have. */

@@ -52,7 +52,7 @@ namespace RepairObstacle
 
 	TArray<FString> FindLinesToAdd(const FCheckRun& Run, const FFileText& IniFile)
 	{
-		const FLines Lines = LineDifference::Split(IniFile.Text);
+		const FLines Lines = LineDifference::Split(IniFile.Text.Get());
 		TArray<FString> Missing;
 		for (const FString& Line : CollisionLines::Make(FPaths::GetPath(FPaths::GetPath(IniFile.Path))))
 		{
@@ -70,8 +70,8 @@ namespace RepairObstacle
 	{
 		const FFileText& Checked = FileChanges::Find(Run.CheckFiles, IniFile);
 		const FFileText& Repaired = FileChanges::Find(Run.Files, IniFile);
-		const FLines Lines = LineDifference::Split(Repaired.Text);
-		const std::vector<FEdit> Edits = LineDifference::FindEdits(LineDifference::Split(Checked.Text), Lines);
+		const FLines Lines = LineDifference::Split(Repaired.Text.Get());
+		const std::vector<FEdit> Edits = LineDifference::FindEdits(LineDifference::Split(Checked.Text.Get()), Lines);
 		const FString Rule = TEXT("the toolkit adds its lines behind the last line that begins with +Profiles=");
 		if (Edits.empty())
 		{
@@ -106,7 +106,14 @@ namespace RepairObstacle
 
 	TArray<FSpoiler> NumberAsOnDisk(const TArray<FSpoiler>& Spoilers, const FFileText& OnDisk, const FFileText& InOverlay)
 	{
-		const std::vector<FEdit> Edits = LineDifference::FindEdits(LineDifference::Split(OnDisk.Text), LineDifference::Split(InOverlay.Text));
+		if (Spoilers.IsEmpty())
+		{
+			return Spoilers;
+		}
+		std::string_view Old = OnDisk.Text.Get();
+		std::string_view New = InOverlay.Text.Get();
+		const size_t NumAbove = LineDifference::Split(LineDifference::DropCommonEnds(Old, New)).size();
+		const std::vector<FEdit> Edits = LineDifference::FindEdits(LineDifference::Split(Old), LineDifference::Split(New));
 		TArray<FSpoiler> Numbered = Spoilers;
 		for (FSpoiler& Spoiler : Numbered)
 		{
@@ -114,7 +121,7 @@ namespace RepairObstacle
 			const size_t Line = static_cast<size_t>(Spoiler.Line); // in the overlay
 			for (const FEdit& Edit : Edits)
 			{
-				if (bSameFile && Edit.NewEnd < Line)
+				if (bSameFile && NumAbove + Edit.NewEnd < Line)
 				{
 					Spoiler.Line -= static_cast<int32>(Edit.NewEnd - Edit.NewBegin) - static_cast<int32>(Edit.OldEnd - Edit.OldBegin);
 				}

@@ -74,6 +74,7 @@ namespace RepairRecord
 
 	bool Make(std::string_view Before, std::string_view After, FRepairRecord& OutRecord)
 	{
+		LineDifference::DropCommonEnds(Before, After);
 		const LineDifference::FLines New = LineDifference::Split(After);
 		for (const LineDifference::FEdit& Edit : LineDifference::FindEdits(LineDifference::Split(Before), New))
 		{

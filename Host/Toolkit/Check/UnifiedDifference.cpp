@@ -46,12 +46,12 @@ namespace UnifiedDifference
 		}
 	}
 
-	/** Edits [First, Last] and the lines around them. */
-	void AddHunk(const FLines& Old, const FLines& New, const FEdit* First, const FEdit* Last, std::string& Out)
+	/** Edits [First, Last] and the lines around them. @param NumAbove lines of the file above Old and New */
+	void AddHunk(const FLines& Old, const FLines& New, size_t NumAbove, const FEdit* First, const FEdit* Last, std::string& Out)
 	{
 		const size_t Before = std::min(Context, First->OldBegin);
 		const size_t Behind = std::min(Context, Old.size() - Last->OldEnd);
-		Out += "@@ -" + DescribeRange(First->OldBegin - Before, Last->OldEnd + Behind) + " +" + DescribeRange(First->NewBegin - Before, Last->NewEnd + Behind) + " @@\n";
+		Out += "@@ -" + DescribeRange(NumAbove + First->OldBegin - Before, NumAbove + Last->OldEnd + Behind) + " +" + DescribeRange(NumAbove + First->NewBegin - Before, NumAbove + Last->NewEnd + Behind) + " @@\n";
 		size_t At = First->OldBegin - Before;
 		for (const FEdit* Edit = First; Edit <= Last; ++Edit)
 		{
@@ -63,10 +63,14 @@ namespace UnifiedDifference
 		AddLines(' ', Old, At, At + Behind, Out);
 	}
 
-	std::string Make(const std::string& Name, const std::string* Old, const std::string* New)
+	std::string Make(const std::string& Name, std::optional<std::string_view> Old, std::optional<std::string_view> New)
 	{
-		const FLines OldLines = SplitWithEnds(Old != nullptr ? *Old : std::string_view());
-		const FLines NewLines = SplitWithEnds(New != nullptr ? *New : std::string_view());
+		std::string_view OldText = Old.value_or(std::string_view());
+		std::string_view NewText = New.value_or(std::string_view());
+		const std::string_view Above = LineDifference::DropCommonEnds(OldText, NewText, Context);
+		const size_t NumAbove = static_cast<size_t>(std::count(Above.begin(), Above.end(), '\n'));
+		const FLines OldLines = SplitWithEnds(OldText);
+		const FLines NewLines = SplitWithEnds(NewText);
 		const std::vector<FEdit> Edits = LineDifference::FindEdits(OldLines, NewLines);
 		std::string Out;
 		for (size_t First = 0; First < Edits.size();)
@@ -76,10 +80,10 @@ namespace UnifiedDifference
 			{
 				++Last;
 			}
-			AddHunk(OldLines, NewLines, &Edits[First], &Edits[Last], Out);
+			AddHunk(OldLines, NewLines, NumAbove, &Edits[First], &Edits[Last], Out);
 			First = Last + 1;
 		}
 		const std::string Missing = "/dev/null";
-		return Out.empty() ? Out : "--- " + (Old != nullptr ? Name : Missing) + "\n+++ " + (New != nullptr ? Name : Missing) + "\n" + Out;
+		return Out.empty() ? Out : "--- " + (Old.has_value() ? Name : Missing) + "\n+++ " + (New.has_value() ? Name : Missing) + "\n" + Out;
 	}
 }

@@ -13,6 +13,9 @@
 #include "ProgressLine.h"
 #include "Refusal.h"
 
+#include <optional>
+#include <string_view>
+
 namespace InstallCommand
 {
 	void PrintList(const TCHAR* Heading, const TArray<FString>& Lines)
@@ -33,8 +36,8 @@ namespace InstallCommand
 		{
 			const std::string Name(TCHAR_TO_UTF8(*File.Path));
 			const bool bText = !File.Text.empty();
-			const std::string& Old = bText ? File.OldText : File.OldBytes;
-			const std::string Difference = UnifiedDifference::Make(Name, File.bExists ? &Old : nullptr, bText ? &File.Text : &File.Bytes);
+			const std::string_view Old = bText ? File.OldText : File.OldBytes;
+			const std::string Difference = UnifiedDifference::Make(Name, File.bExists ? std::optional(Old) : std::nullopt, bText ? File.Text : File.Bytes);
 			Console::PrintDifference(Difference);
 		}
 	}

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <ctime>
 #include <random>
 
 /** Real headers with something missing: the tool must always come to an end, with output or with a message, never with both. */
@@ -70,4 +71,68 @@ TEST_F(DamagedHeaders, AreSurvivedWhateverIsMissing)
 			Survives(Name, Damaged);
 		}
 	}
+}
+
+/** Headers that no person writes, out of parts that repeat. */
+class OversizedHeaders : public testing::Test
+{
+protected:
+	/** @param Behind follows the number of each repetition, where it is given */
+	static std::string Repeat(const std::string& Part, int Number, const std::string& Behind = {})
+	{
+		std::string Text;
+		for (int Index = 0; Index < Number; ++Index)
+		{
+			Text += Behind.empty() ? Part : Part + std::to_string(Index) + Behind;
+		}
+		return Text;
+	}
+
+	static std::string MakeStruct(const std::string& Members)
+	{
+		return "#pragma once\n#include \"Big.generated.h\"\nUSTRUCT()\nstruct FBig\n{\n\tGENERATED_BODY()\n" + Members + "};\n";
+	}
+
+	static FHeaderToolRun::FResult Run(const std::string& Source)
+	{
+		FHeaderToolRun Tool;
+		Tool.AddHeader("Module", "Big.h", Source);
+		return Tool.Generate("Module");
+	}
+
+	/** The least processor time of three runs. */
+	static double Measure(const std::string& Source)
+	{
+		double Least = 1e9;
+		for (int Attempt = 0; Attempt < 3; ++Attempt)
+		{
+			const std::clock_t Start = std::clock();
+			EXPECT_EQ(Run(Source).Errors, "");
+			Least = std::min(Least, static_cast<double>(std::clock() - Start));
+		}
+		return Least;
+	}
+};
+
+TEST_F(OversizedHeaders, NestedTooDeepAreRefusedWithTheirLine)
+{
+	const auto MakeNested = [](int Depth) { return MakeStruct("\tUPROPERTY()\n\t" + Repeat("TArray<", Depth) + "int32" + Repeat(">", Depth) + " Value;\n"); };
+	EXPECT_EQ(Run(MakeNested(60)).Errors.find("nested more than"), std::string::npos);
+	for (const int Depth : {70, 100'000})
+	{
+		EXPECT_NE(Run(MakeNested(Depth)).Errors.find("Big.h(8,"), std::string::npos);
+		EXPECT_NE(Run(MakeNested(Depth)).Errors.find("template arguments are nested more than 64 deep"), std::string::npos);
+	}
+	const int Many = 100'000;
+	EXPECT_EQ(Run(MakeStruct("\tint32 Value = " + Repeat("(", Many) + "1" + Repeat(")", Many) + ";\n")).Errors, "") << "brackets need no calls";
+	EXPECT_EQ(Run(MakeStruct(Repeat("struct A {", Many) + Repeat("};", Many))).Errors, "");
+}
+
+TEST_F(OversizedHeaders, TakeTwiceAsLongWhenTheyAreTwiceAsLarge)
+{
+	const auto MakeProperties = [](int Number) { return MakeStruct(Repeat("\tUPROPERTY()\n\tint32 Value", Number, ";\n")); };
+	const auto MakeConditions = [](int Number) { return Repeat("#if WITH_EDITOR\n", Number) + MakeStruct(Repeat("\tUPROPERTY()\n\tint32 Value", Number, ";\n")) + Repeat("#endif\n", Number); };
+	constexpr double Quadratic = 4.0;
+	EXPECT_LT(Measure(MakeProperties(8000)), Measure(MakeProperties(4000)) * (Quadratic - 1.0));
+	EXPECT_LT(Measure(MakeConditions(4000)), Measure(MakeConditions(2000)) * (Quadratic - 1.0));
 }

@@ -18,7 +18,7 @@ namespace FileTopic
 		const FString Path = Context.Session.GetFiles().Find(Relative);
 		if (Path.IsEmpty())
 		{
-			OutError = TEXT("files are named relative to the project's folder and stand in it");
+			OutError = TEXT("files are named relative to the project's folder and stand in it; links that lead out are not followed");
 			return false;
 		}
 		const bool bRead = HostTextFiles::ReadUtf8(Path, OutText) == HostFiles::ERead::Done;

@@ -6,6 +6,7 @@
 #include "Containers/Array.h"
 #include "Containers/UnrealString.h"
 
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -46,8 +47,17 @@ namespace HostFiles
 	/** The full path without links: where a read or write of Path ends up. */
 	FString Resolve(const FString& Path);
 
+	/** What a file holds, in common with others who look at it: large files are held once. Never null. */
+	using FSharedBytes = std::shared_ptr<const std::string>;
+
+	/** Why nothing is found at Path, as half a sentence: Usually, unless the path itself cannot be looked for. */
+	FString ExplainMissing(const FString& Path, const FString& Usually);
+
 	/** Regular files of up to 256 MB only: a pipe or device may never end. OutBytes is empty unless the result is Done. */
 	ERead Read(const FString& Path, std::string& OutBytes);
+
+	/** The same. Whoever read or wrote the same bytes of the file this way, and still has them, shares them with the caller. */
+	ERead ReadShared(const FString& Path, FSharedBytes& OutBytes);
 
 	/** From now on, until the program ends, reading Path gives these bytes, whatever the disk has: what came out of a pipe. */
 	void GiveContents(const FString& Path, std::string Bytes);
@@ -59,6 +69,25 @@ namespace HostFiles
 	 * @return false when refused or failed; the old file is whole then.
 	 */
 	bool Write(const FString& Path, std::string_view Bytes, EReadOnly ReadOnly = EReadOnly::Refuse);
+
+	enum class EWrite : uint8
+	{
+		Done,
+		Failed, // reported
+		Changed // by another program; not reported: callers begin anew with what stands there now
+	};
+
+	/**
+	 * Puts Bytes in the place of the file if that still holds what they were made of, looked at right before the new file gets its name.
+	 * @param Basis what ReadShared() gave; nothing for a file that was missing
+	 */
+	EWrite WriteOver(const FString& Path, const FSharedBytes& Bytes, const FSharedBytes& Basis, EReadOnly ReadOnly = EReadOnly::Refuse);
+
+	/**
+	 * From now on and until the editor goes down, nothing is written, deleted or created outside of these folders, the user's settings and
+	 * state folders excepted. Links count as what they lead to. Remedy is told with each refusal.
+	 */
+	void LimitWrites(const TArray<FString>& Folders, const FString& Remedy);
 
 	/** True when the file is gone afterwards, also when it never was there. */
 	bool Delete(const FString& Path, EReadOnly ReadOnly = EReadOnly::Refuse);
@@ -94,7 +123,8 @@ namespace HostFiles
 	{
 		FString Path; // full path, links resolved
 		bool bDeleted = false;
-		std::string Bytes; // empty when deleted
+		FSharedBytes Bytes; // empty when deleted
+		FSharedBytes Basis; // what the file held when it was read for this; null when nobody said
 	};
 
 	/** What would have been written, sorted by path; a file whose overlay content equals the disk is not listed. */
@@ -115,6 +145,12 @@ namespace HostFiles
 	private:
 		std::string Directory; // empty when nothing is held
 	};
+
+	/** Lays these over the disk, in a new overlay. */
+	void RestoreOverlay(const TArray<FPendingWrite>& Writes);
+
+	/** Takes the file away that is just being written under a temporary name. For handlers of signals that end the process. */
+	void RemoveUnfinished();
 
 	/** Called when the new file is complete and the old one still in place; tests end the process here. Null switches it off. */
 	void SetBeforeRename(void (*Hook)(const char* TemporaryFile, const char* TargetFile));

@@ -17,7 +17,7 @@ namespace HostProject
 			const bool bProject = HostFiles::FileExists(Full) && FPaths::GetExtension(Full) == TEXT("uproject");
 			if (!bProject)
 			{
-				HostProblems::Report(Full, 0, HostFiles::FileExists(Full) ? TEXT("the file is no .uproject") : TEXT("there is no such project"), TEXT("Name a .uproject file or the folder that holds one."));
+				HostProblems::Report(Full, 0, HostFiles::FileExists(Full) ? FString(TEXT("the file is no .uproject")) : HostFiles::ExplainMissing(FileOrFolder, TEXT("there is no such project")), TEXT("Name a .uproject file or the folder that holds one."));
 			}
 			return bProject ? Full : FString();
 		}

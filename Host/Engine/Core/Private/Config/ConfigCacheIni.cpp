@@ -56,7 +56,7 @@ namespace ConfigCacheIni
 		bool HasSection(const FString& Section) const
 		{
 			const std::string Name = FIniFile::FoldName(Section);
-			for (const std::unique_ptr<FIniFile>& Layer : Layers)
+			for (const std::shared_ptr<const FIniFile>& Layer : Layers)
 			{
 				if (Layer->HasSection(Name))
 				{

@@ -6,6 +6,8 @@
 #include "Config/IniMerge.h"
 #include "Config/IniSyntax.h"
 #include "Containers/StringConv.h"
+#include "HostFiles.h"
+#include "HostProblems.h"
 #include "HostState.h"
 #include "Misc/ConfigCacheIni.h"
 #include "Misc/Paths.h"
@@ -61,8 +63,20 @@ namespace HostConfig
 		return Platform->Name;
 	}
 
+	/** Else all of the project's configuration would count as missing. */
+	void CheckFolder()
+	{
+		const FString Folder = FPaths::ProjectConfigDir().LeftChop(1);
+		const HostFiles::EKind Kind = HostFiles::GetKind(Folder);
+		if (Kind == HostFiles::EKind::File || Kind == HostFiles::EKind::Other)
+		{
+			HostProblems::Report(FPaths::ConvertRelativePathToFull(Folder), 0, TEXT("a file stands where the folder of the project's configuration is to be"), TEXT("Move it away."));
+		}
+	}
+
 	void Boot()
 	{
+		CheckFolder();
 		Booted.Get();
 	}
 
@@ -86,11 +100,11 @@ namespace HostConfig
 		FPlace Found;
 		const std::string FoldedKey = FIniFile::FoldName(Key);
 		const std::string ValueText(TCHAR_TO_UTF8(*Value));
-		for (const std::unique_ptr<FIniFile>& Layer : IniMerge::ReadLayers(GetLayers(Name)))
+		for (const std::shared_ptr<const FIniFile>& Layer : IniMerge::ReadLayers(GetLayers(Name)))
 		{
 			for (const FIniFile::FEntry& Entry : Layer->ReadSection(FIniFile::FoldName(Section)))
 			{
-				if (Entry.Value == ValueText && IniSyntax::Fold(IniSyntax::WithoutPrefix(std::string_view(Entry.Key))) == FoldedKey)
+				if (Entry.Value == ValueText && IniSyntax::Fold(IniSyntax::WithoutPrefix(Entry.Key)) == FoldedKey)
 				{
 					Found = FPlace{Layer->GetPath(), Entry.Line.Number};
 				}

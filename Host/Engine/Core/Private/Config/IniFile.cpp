@@ -2,122 +2,54 @@
 
 #include "Config/IniFile.h"
 
+#include "Config/IniEntries.h"
 #include "Config/IniSyntax.h"
+#include "Containers/StringConv.h"
 #include "Files/TextCoding.h"
-#include "HostTextFiles.h"
-
-#include <algorithm>
-
-namespace IniFile
-{
-	/** Walks lines that end with CRLF, LF or a lone CR. */
-	class FLines
-	{
-	public:
-		FLines(std::string_view InText, FIniFile::FLine First)
-			: Text(InText)
-			, Start(First.Begin)
-			, Next(First.Begin)
-			, Number(First.Number - 1)
-		{
-		}
-
-		bool Advance()
-		{
-			if (Next >= Text.size())
-			{
-				return false;
-			}
-			Start = Next;
-			++Number;
-			const size_t End = std::min(Text.find('\n', Start), Text.size());
-			Next = std::min(End + 1, Text.size());
-			Line = Text.substr(Start, End - Start);
-			const size_t Return = Line.find('\r');
-			if (Return != std::string_view::npos)
-			{
-				Next = Start + Return + 1 < End ? Start + Return + 1 : Next;
-				Line = Line.substr(0, Return);
-			}
-			return true;
-		}
-
-		std::string_view Get() const { return Line; }
-		FIniFile::FLine GetPlace() const { return {Number, Start}; }
-		FIniFile::FLine GetNextPlace() const { return {Number + 1, Next}; }
-
-	private:
-		std::string_view Text;
-		std::string_view Line;
-		size_t Start;
-		size_t Next;
-		int32 Number; // of the current line
-	};
-
-	/** The current line with those that continue it. @param Joined holds the result when there are any */
-	std::string_view JoinContinued(FLines& Lines, std::string& Joined)
-	{
-		if (!IniSyntax::IsContinued(Lines.Get()))
-		{
-			return Lines.Get();
-		}
-		Joined = Lines.Get();
-		bool bContinued = true;
-		while (bContinued)
-		{
-			Joined.pop_back(); // the backslash
-			bContinued = Lines.Advance();
-			Joined += bContinued ? Lines.Get() : std::string_view();
-			bContinued = bContinued && IniSyntax::IsContinued(Lines.Get());
-		}
-		return Joined;
-	}
-}
 
 std::string FIniFile::FoldName(const FString& Name)
 {
 	std::string Utf8;
 	TextCoding::EncodeUtf8(std::u16string_view(*Name, static_cast<size_t>(Name.Len())), Utf8);
-	return IniSyntax::Fold(std::string_view(Utf8));
+	return IniSyntax::Fold(Utf8);
 }
 
-std::unique_ptr<FIniFile> FIniFile::Read(const FString& File)
+std::shared_ptr<const FIniFile> FIniFile::Read(const FString& File)
 {
-	std::unique_ptr<FIniFile> Result = std::make_unique<FIniFile>();
+	static std::unordered_map<std::string, std::weak_ptr<const FIniFile>> Known; // longer than an editor: the next one reads the same files
+	std::shared_ptr<FIniFile> Result = std::make_shared<FIniFile>();
 	Result->Path = File;
-	switch (HostTextFiles::ReadUtf8(File, Result->Text))
+	if (HostTextFiles::ReadUtf8(File, Result->Text) == HostFiles::ERead::Missing)
 	{
-		case HostFiles::ERead::Missing:
-			return nullptr;
-		case HostFiles::ERead::Failed:
-			Result->Text.clear();
-			break;
-		case HostFiles::ERead::Done:
-			Result->FindSections();
-			break;
+		return nullptr;
 	}
+	std::weak_ptr<const FIniFile>& Before = Known[TCHAR_TO_UTF8(*File)];
+	const std::shared_ptr<const FIniFile> Same = Before.lock();
+	if (Same != nullptr && Same->Text.IsShared(Result->Text))
+	{
+		return Same;
+	}
+	Result->FindSections();
+	Before = Result;
 	return Result;
 }
 
 void FIniFile::FindSections()
 {
 	FRange* Open = nullptr;
-	bool bContinued = false;
-	for (IniFile::FLines Lines(Text, FLine{1, 0}); Lines.Advance();)
+	for (FIniEntries Entries(GetText(), FLine{1, 0}); Entries.Advance();)
 	{
-		const std::string_view Line = Lines.Get();
 		std::string_view Name;
-		if (!bContinued && IniSyntax::ParseHeader(Line, Name))
+		if (IniSyntax::ParseHeader(Entries.GetFirstLine(), Name))
 		{
 			if (Open != nullptr)
 			{
-				Open->End = Lines.GetPlace().Begin;
+				Open->End = Entries.GetPlace().Begin;
 			}
 			std::vector<FRange>& Ranges = Sections[IniSyntax::Fold(Name)];
-			Ranges.push_back(FRange{Lines.GetNextPlace(), Text.size()});
+			Ranges.push_back(FRange{Entries.GetNextPlace(), GetText().size()});
 			Open = &Ranges.back();
 		}
-		bContinued = IniSyntax::IsContinued(Line);
 	}
 }
 
@@ -131,15 +63,13 @@ std::vector<FIniFile::FEntry> FIniFile::ReadSection(const std::string& Section) 
 	}
 	for (const FRange& Range : Found->second)
 	{
-		std::string Joined;
-		IniFile::FLines Lines(std::string_view(Text).substr(0, Range.End), Range.First);
-		while (Lines.Advance())
+		FIniEntries Entries(GetText().substr(0, Range.End), Range.First);
+		while (Entries.Advance())
 		{
-			const FLine Place = Lines.GetPlace();
-			IniSyntax::TEntry<char> Entry;
-			if (IniSyntax::ParseEntry(IniFile::JoinContinued(Lines, Joined), Entry))
+			IniSyntax::FEntry Entry;
+			if (IniSyntax::ParseEntry(Entries.GetWhole(), Entry))
 			{
-				Result.push_back(FEntry{std::string(Entry.Key), IniSyntax::Unquote(Entry.Value), Place});
+				Result.push_back(FEntry{std::string(Entry.Key), IniSyntax::Unquote(Entry.Value), Entries.GetPlace()});
 			}
 		}
 	}
@@ -148,6 +78,6 @@ std::vector<FIniFile::FEntry> FIniFile::ReadSection(const std::string& Section) 
 
 std::string_view FIniFile::GetText(const FLine& Line) const
 {
-	IniFile::FLines Lines(Text, Line);
+	FTextLines Lines(GetText(), Line.Begin);
 	return Lines.Advance() ? Lines.Get() : std::string_view();
 }

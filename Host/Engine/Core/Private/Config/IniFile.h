@@ -2,8 +2,10 @@
 
 #pragma once
 
+#include "Config/IniEntries.h"
 #include "Containers/UnrealString.h"
 #include "CoreTypes.h"
+#include "HostTextFiles.h"
 
 #include <memory>
 #include <string>
@@ -18,12 +20,7 @@
 class FIniFile
 {
 public:
-	/** A line of the file. */
-	struct FLine
-	{
-		int32 Number = 0; // one-based
-		size_t Begin = 0; // for GetText()
-	};
+	using FLine = FIniLine;
 
 	struct FEntry
 	{
@@ -35,8 +32,11 @@ public:
 	/** A name of a section as HasSection() and ReadSection() want it: folded (see IniSyntax::Fold) UTF-8. */
 	static std::string FoldName(const FString& Name);
 
-	/** Null for a missing file. One that cannot be read or is no text is reported and has no sections. */
-	static std::unique_ptr<FIniFile> Read(const FString& File);
+	/**
+	 * Null for a missing file. One that cannot be read or is no text is reported and has no sections. Whoever still holds what was read of
+	 * the unchanged file shares it with the caller.
+	 */
+	static std::shared_ptr<const FIniFile> Read(const FString& File);
 
 	const FString& GetPath() const { return Path; }
 
@@ -55,9 +55,10 @@ private:
 		size_t End = 0;
 	};
 
+	std::string_view GetText() const { return Text.Get(); }
 	void FindSections();
 
 	FString Path;
-	std::string Text; // UTF-8, without byte-order mark
+	FHostText Text;
 	std::unordered_map<std::string, std::vector<FRange>> Sections;
 };

@@ -28,7 +28,7 @@ namespace IniMerge
 		{
 			Current = FOrigin{&Layer, Entry.Line};
 			const char Operation = IniSyntax::IsPrefix(Entry.Key.front()) ? Entry.Key.front() : '=';
-			const std::string_view Name = IniSyntax::WithoutPrefix(std::string_view(Entry.Key));
+			const std::string_view Name = IniSyntax::WithoutPrefix(Entry.Key);
 			if (Name.empty() || Operation == '@')
 			{
 				return;
@@ -130,7 +130,7 @@ namespace IniMerge
 	FSectionBuilder ApplyAll(const FLayers& Layers, const std::string& Section)
 	{
 		FSectionBuilder Builder;
-		for (const std::unique_ptr<FIniFile>& Layer : Layers)
+		for (const std::shared_ptr<const FIniFile>& Layer : Layers)
 		{
 			for (const FIniFile::FEntry& Entry : Layer->ReadSection(Section))
 			{
@@ -148,7 +148,7 @@ namespace IniMerge
 		FLayers Layers;
 		for (const FString& File : Files)
 		{
-			if (std::unique_ptr<FIniFile> Layer = FIniFile::Read(File))
+			if (std::shared_ptr<const FIniFile> Layer = FIniFile::Read(File))
 			{
 				Layers.push_back(std::move(Layer));
 			}
@@ -175,7 +175,7 @@ namespace IniMerge
 
 	std::unique_ptr<FConfigSection> Merge(const FLayers& Layers, const std::string& Section)
 	{
-		const auto HasSection = [&Section](const std::unique_ptr<FIniFile>& Layer) { return Layer->HasSection(Section); };
+		const auto HasSection = [&Section](const std::shared_ptr<const FIniFile>& Layer) { return Layer->HasSection(Section); };
 		if (std::none_of(Layers.begin(), Layers.end(), HasSection))
 		{
 			return nullptr;

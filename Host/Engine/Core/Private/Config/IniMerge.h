@@ -13,7 +13,7 @@
 /** A section out of the files it is spread over. */
 namespace IniMerge
 {
-	using FLayers = std::vector<std::unique_ptr<FIniFile>>; // lowest first; those that are not there are left out
+	using FLayers = std::vector<std::shared_ptr<const FIniFile>>; // lowest first; those that are not there are left out
 
 	/** Those of the files that are there. */
 	FLayers ReadLayers(const TArray<FString>& Files);

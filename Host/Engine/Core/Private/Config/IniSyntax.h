@@ -5,25 +5,18 @@
 #include <string>
 #include <string_view>
 
-/**
- * What a line of an ini file means. Works on UTF-8 and on UTF-16 alike: the readers keep big files as UTF-8, the writer works on UTF-16.
- */
+/** What a line of an ini file, in UTF-8, means. */
 namespace IniSyntax
 {
-	template<typename CharType>
-	using TView = std::basic_string_view<CharType>;
-
-	template<typename CharType>
-	struct TEntry
+	struct FEntry
 	{
-		TView<CharType> Key; // with its prefix
-		TView<CharType> Value;
+		std::string_view Key; // with its prefix
+		std::string_view Value;
 	};
 
-	template<typename CharType>
-	TView<CharType> Trim(TView<CharType> Text)
+	inline std::string_view Trim(std::string_view Text)
 	{
-		const auto IsBlank = [](CharType Character) { return Character == CharType(' ') || (Character >= CharType('\t') && Character <= CharType('\r')); };
+		const auto IsBlank = [](char Character) { return Character == ' ' || (Character >= '\t' && Character <= '\r'); };
 		while (!Text.empty() && IsBlank(Text.front()))
 		{
 			Text.remove_prefix(1);
@@ -36,11 +29,10 @@ namespace IniSyntax
 	}
 
 	/** "[Name]", blanks around it allowed. */
-	template<typename CharType>
-	bool ParseHeader(TView<CharType> Line, TView<CharType>& OutName)
+	inline bool ParseHeader(std::string_view Line, std::string_view& OutName)
 	{
-		const TView<CharType> Trimmed = Trim(Line);
-		if (Trimmed.size() < 2 || Trimmed.front() != CharType('[') || Trimmed.back() != CharType(']'))
+		const std::string_view Trimmed = Trim(Line);
+		if (Trimmed.size() < 2 || Trimmed.front() != '[' || Trimmed.back() != ']')
 		{
 			return false;
 		}
@@ -48,19 +40,17 @@ namespace IniSyntax
 		return true;
 	}
 
-	template<typename CharType>
-	bool IsComment(TView<CharType> Line)
+	inline bool IsComment(std::string_view Line)
 	{
-		const TView<CharType> Trimmed = Trim(Line);
-		return !Trimmed.empty() && Trimmed.front() == CharType(';');
+		const std::string_view Trimmed = Trim(Line);
+		return !Trimmed.empty() && Trimmed.front() == ';';
 	}
 
 	/** "Key=Value"; not comments and not lines without '=' or without a key. The value is as written, quotes included. */
-	template<typename CharType>
-	bool ParseEntry(TView<CharType> Line, TEntry<CharType>& OutEntry)
+	inline bool ParseEntry(std::string_view Line, FEntry& OutEntry)
 	{
-		const size_t Equals = Line.find(CharType('='));
-		if (Equals == TView<CharType>::npos || IsComment(Line))
+		const size_t Equals = Line.find('=');
+		if (Equals == std::string_view::npos || IsComment(Line))
 		{
 			return false;
 		}
@@ -70,39 +60,35 @@ namespace IniSyntax
 	}
 
 	/** A backslash at the end of a line that is no comment joins the next line to it. */
-	template<typename CharType>
-	bool IsContinued(TView<CharType> Line)
+	inline bool IsContinued(std::string_view Line)
 	{
-		return !Line.empty() && Line.back() == CharType('\\') && !IsComment(Line);
+		return !Line.empty() && Line.back() == '\\' && !IsComment(Line);
 	}
 
-	template<typename CharType>
-	bool IsPrefix(CharType Character)
+	inline bool IsPrefix(char Character)
 	{
-		return Character == CharType('+') || Character == CharType('-') || Character == CharType('.') || Character == CharType('!') || Character == CharType('@') || Character == CharType('*');
+		return Character == '+' || Character == '-' || Character == '.' || Character == '!' || Character == '@' || Character == '*';
 	}
 
 	/** The key without the operation in front of it. */
-	template<typename CharType>
-	TView<CharType> WithoutPrefix(TView<CharType> Key)
+	inline std::string_view WithoutPrefix(std::string_view Key)
 	{
 		return !Key.empty() && IsPrefix(Key.front()) ? Trim(Key.substr(1)) : Key;
 	}
 
 	/** Takes quotes away when the whole value begins with one; \" \\ and \n stand for what they say then. */
-	template<typename CharType>
-	std::basic_string<CharType> Unquote(TView<CharType> Value)
+	inline std::string Unquote(std::string_view Value)
 	{
-		if (Value.empty() || Value.front() != CharType('"'))
+		if (Value.empty() || Value.front() != '"')
 		{
-			return std::basic_string<CharType>(Value);
+			return std::string(Value);
 		}
-		std::basic_string<CharType> Result;
-		for (size_t At = 1; At < Value.size() && Value[At] != CharType('"'); ++At)
+		std::string Result;
+		for (size_t At = 1; At < Value.size() && Value[At] != '"'; ++At)
 		{
-			const CharType Next = At + 1 < Value.size() ? Value[At + 1] : CharType(0);
-			const bool bEscape = Value[At] == CharType('\\') && (Next == CharType('"') || Next == CharType('\\') || Next == CharType('n'));
-			const CharType Escaped = Next == CharType('n') ? CharType('\n') : Next;
+			const char Next = At + 1 < Value.size() ? Value[At + 1] : '\0';
+			const bool bEscape = Value[At] == '\\' && (Next == '"' || Next == '\\' || Next == 'n');
+			const char Escaped = Next == 'n' ? '\n' : Next;
 			Result.push_back(bEscape ? Escaped : Value[At]);
 			At += bEscape ? 1 : 0;
 		}
@@ -110,16 +96,15 @@ namespace IniSyntax
 	}
 
 	/** How a value must be written to be read back: in quotes when blanks at its ends, line breaks or its first character need them. */
-	std::u16string Quote(std::u16string_view Value);
+	std::string Quote(std::string_view Value);
 
 	/** For comparing names of sections and keys: ASCII letters in lower case; names beyond ASCII compare as they are. */
-	template<typename CharType>
-	std::basic_string<CharType> Fold(TView<CharType> Name)
+	inline std::string Fold(std::string_view Name)
 	{
-		std::basic_string<CharType> Result(Name);
-		for (CharType& Character : Result)
+		std::string Result(Name);
+		for (char& Character : Result)
 		{
-			Character = Character >= CharType('A') && Character <= CharType('Z') ? static_cast<CharType>(Character + ('a' - 'A')) : Character;
+			Character = Character >= 'A' && Character <= 'Z' ? static_cast<char>(Character + ('a' - 'A')) : Character;
 		}
 		return Result;
 	}

@@ -1,6 +1,7 @@
 // Copyright Velmorant. All Rights Reserved.
 
 #include "Config/IniSyntax.h"
+#include "Files/TextCoding.h"
 #include "Files/TextFile.h"
 #include "HostConfig.h"
 #include "HostFiles.h"
@@ -14,20 +15,27 @@
 
 namespace LineRemoval
 {
-	using FView = std::u16string_view;
+	using FView = std::string_view;
 	using FPlaces = std::vector<size_t>; // indices of lines, ascending
 
-	FView ToView(const FString& Text)
+	using FBlock = std::vector<std::string>;
+
+	FBlock ToUtf8(const TArray<FString>& Lines)
 	{
-		return FView(*Text, static_cast<size_t>(Text.Len()));
+		FBlock Block;
+		for (const FString& Line : Lines)
+		{
+			TextCoding::EncodeUtf8(std::u16string_view(*Line, static_cast<size_t>(Line.Len())), Block.emplace_back(), TextCoding::EHalfPairs::Keep);
+		}
+		return Block;
 	}
 
 	/** In quotes and not too long for a message. */
 	FString Quote(FView Text)
 	{
-		constexpr size_t MaxLength = 80;
-		const FString Shown(static_cast<int32>(std::min(Text.size(), MaxLength)), Text.data());
-		return TEXT("\"") + Shown + (Text.size() > MaxLength ? TEXT("...\"") : TEXT("\""));
+		constexpr int32 MaxLength = 80;
+		const FString Shown = TextCoding::ToFString(Text);
+		return TEXT("\"") + Shown.Left(MaxLength) + (Shown.Len() > MaxLength ? TEXT("...\"") : TEXT("\""));
 	}
 
 	bool IsBlank(FView Line)
@@ -39,20 +47,24 @@ namespace LineRemoval
 	class FRemoval
 	{
 	public:
-		FRemoval(const std::vector<FTextLine>& InLines, const TArray<TArray<FString>>& Blocks)
-			: Lines(InLines)
-			, Goes(InLines.size(), false)
+		FRemoval(const FTextDocument& InDocument, const std::vector<FBlock>& Blocks)
+			: Document(InDocument)
 		{
-			for (const TArray<FString>& Block : Blocks)
+			for (FTextLines Walk(Document.GetText()); Walk.Advance();)
 			{
-				for (const FString& Line : Block)
+				Lines.push_back(Walk.Get());
+			}
+			Goes.resize(Lines.size(), false);
+			for (const FBlock& Block : Blocks)
+			{
+				for (const std::string& Line : Block)
 				{
-					Places[ToView(Line)];
+					Places[Line];
 				}
 			}
 			for (size_t Index = 0; Index < Lines.size(); ++Index)
 			{
-				const auto Wanted = Places.find(Lines[Index].Text);
+				const auto Wanted = Places.find(Lines[Index]);
 				if (Wanted != Places.end())
 				{
 					Wanted->second.push_back(Index);
@@ -61,15 +73,15 @@ namespace LineRemoval
 		}
 
 		/** Block is one of those given at the beginning. @return false with a reason when it is not there. */
-		bool Take(const TArray<FString>& Block, FString& OutReason)
+		bool Take(const FBlock& Block, FString& OutReason)
 		{
 			std::vector<FView> Wanted;
 			size_t NumBlanksInFront = 0;
-			for (const FString& Line : Block)
+			for (const std::string& Line : Block)
 			{
-				if (!IsBlank(ToView(Line)))
+				if (!IsBlank(Line))
 				{
-					Wanted.push_back(ToView(Line));
+					Wanted.push_back(Line);
 				}
 				NumBlanksInFront += Wanted.empty() ? 1 : 0;
 			}
@@ -83,7 +95,7 @@ namespace LineRemoval
 			{
 				Goes[Place] = true;
 			}
-			for (size_t Above = Found.empty() ? 0 : Found.front(); Above > 0 && NumBlanksInFront > 0 && IsBlank(Lines[Above - 1].Text); --Above, --NumBlanksInFront)
+			for (size_t Above = Found.empty() ? 0 : Found.front(); Above > 0 && NumBlanksInFront > 0 && IsBlank(Lines[Above - 1]); --Above, --NumBlanksInFront)
 			{
 				Goes[Above - 1] = true;
 			}
@@ -93,14 +105,14 @@ namespace LineRemoval
 		/** @return false with a reason when an entry that stays would find itself in another section. */
 		bool LeavesSectionsAlone(FString& OutReason) const
 		{
-			std::u16string Section;
-			std::u16string SectionOfRest;
+			std::string Section;
+			std::string SectionOfRest;
 			bool bContinued = false;
 			for (size_t Index = 0; Index < Lines.size(); ++Index)
 			{
-				const FView Line = Lines[Index].Text;
+				const FView Line = Lines[Index];
 				FView Name;
-				IniSyntax::TEntry<char16_t> Entry;
+				IniSyntax::FEntry Entry;
 				if (!bContinued && IniSyntax::ParseHeader(Line, Name))
 				{
 					Section = IniSyntax::Fold(Name);
@@ -116,17 +128,18 @@ namespace LineRemoval
 			return true;
 		}
 
-		std::vector<FTextLine> GetRest() const
+		std::string GetRest() const
 		{
-			std::vector<FTextLine> Rest;
-			for (size_t Index = 0; Index < Lines.size(); ++Index)
+			FTextComposer Rest(Document);
+			FTextLines Walk(Document.GetText());
+			for (size_t Index = 0; Walk.Advance(); ++Index)
 			{
 				if (!Goes[Index])
 				{
-					Rest.push_back(Lines[Index]);
+					Rest.Keep(Walk.GetBegin(), Walk.GetNextBegin());
 				}
 			}
-			return Rest;
+			return Rest.Finish();
 		}
 
 	private:
@@ -168,39 +181,47 @@ namespace LineRemoval
 										   : FString::Printf(TEXT("the lines from %s on do not stand in their order any more"), *Quote(Wanted.front()));
 		}
 
-		const std::vector<FTextLine>& Lines;
-		std::vector<bool> Goes;
+		const FTextDocument& Document;
+		std::vector<FView> Lines;
+		std::vector<bool> Goes; // by line
 		std::unordered_map<FView, FPlaces> Places; // of the lines of all blocks, by their text
 	};
+
+	/** What is to be left of the text. @return false with a reason when what was to go does not stand there as it was put in. */
+	bool Remove(const FTextDocument& Document, const std::vector<FBlock>& Blocks, std::string& OutRest, FString& OutReason)
+	{
+		FRemoval Removal(Document, Blocks);
+		const auto Take = [&](const FBlock& Block) { return Removal.Take(Block, OutReason); };
+		if (!std::all_of(Blocks.begin(), Blocks.end(), Take) || !Removal.LeavesSectionsAlone(OutReason))
+		{
+			return false;
+		}
+		OutRest = Removal.GetRest();
+		return true;
+	}
 }
 
 HostConfig::ERemoval HostConfig::RemoveLines(const FString& File, const TArray<TArray<FString>>& Blocks, FString& OutReason)
 {
 	const HostFiles::FLock Lock(File);
-	FTextDocument Document;
-	std::string Bytes;
-	switch (TextFile::Load(File, Document, Bytes))
-	{
-		case HostFiles::ERead::Failed:
-			return ERemoval::Failed;
-		case HostFiles::ERead::Missing:
-			OutReason = TEXT("the file is not there any more");
-			return ERemoval::NotThere;
-		case HostFiles::ERead::Done:
-			break;
-	}
-	LineRemoval::FRemoval Removal(Document.GetLines(), Blocks);
+	std::vector<LineRemoval::FBlock> Wanted;
 	for (const TArray<FString>& Block : Blocks)
 	{
-		if (!Removal.Take(Block, OutReason))
-		{
-			return ERemoval::NotThere;
-		}
+		Wanted.push_back(LineRemoval::ToUtf8(Block));
 	}
-	if (!Removal.LeavesSectionsAlone(OutReason))
+	bool bThere = true;
+	const auto Edit = [&] {
+		FTextDocument Document;
+		std::string Rest;
+		const HostFiles::ERead Read = TextFile::Load(File, Document);
+		OutReason = Read == HostFiles::ERead::Missing ? TEXT("the file is not there any more") : TEXT("");
+		bThere = Read == HostFiles::ERead::Done && LineRemoval::Remove(Document, Wanted, Rest, OutReason);
+		return bThere ? TextFile::Save(File, Document, std::move(Rest), Document.GetEncoding()) : HostFiles::EWrite::Failed;
+	};
+	const bool bSaved = TextFile::SaveSurely(File, Edit);
+	if (bSaved)
 	{
-		return ERemoval::NotThere;
+		return ERemoval::Done;
 	}
-	Document.SetLines(Removal.GetRest());
-	return TextFile::Save(File, Document, HostFiles::EReadOnly::Refuse, Bytes) ? ERemoval::Done : ERemoval::Failed;
+	return bThere || OutReason.IsEmpty() ? ERemoval::Failed : ERemoval::NotThere;
 }

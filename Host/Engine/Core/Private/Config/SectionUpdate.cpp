@@ -1,24 +1,27 @@
 // Copyright Velmorant. All Rights Reserved.
 
+#include "Config/IniEntries.h"
 #include "Config/IniSyntax.h"
+#include "Files/TextCoding.h"
 #include "Files/TextFile.h"
 #include "HostConfig.h"
 #include "HostFiles.h"
 
 #include <cstddef>
-#include <deque>
 #include <map>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
 namespace SectionUpdate
 {
-	using FView = std::u16string_view;
-
-	FView ToView(const FString& Text)
+	/** Halves of surrogate pairs are found out when the file's encoding is known. */
+	std::string ToUtf8(const FString& Text)
 	{
-		return FView(*Text, static_cast<size_t>(Text.Len()));
+		std::string Utf8;
+		TextCoding::EncodeUtf8(std::u16string_view(*Text, static_cast<size_t>(Text.Len())), Utf8, TextCoding::EHalfPairs::Keep);
+		return Utf8;
 	}
 
 	/** Lines that wait for their place, by folded key without prefix. */
@@ -26,8 +29,8 @@ namespace SectionUpdate
 	{
 		struct FLine
 		{
-			FView Key; // with prefix
-			FView Value;
+			std::string Key; // with prefix
+			std::string Value;
 		};
 
 		std::vector<FLine> Lines;
@@ -38,65 +41,47 @@ namespace SectionUpdate
 	class FUpdate
 	{
 	public:
-		FUpdate(const FString& InSection, const TArray<TPair<FString, FString>>& Wanted, const TArray<FString>& OwnedKeys)
-			: Section(InSection)
-			, FoldedSection(IniSyntax::Fold(ToView(InSection)))
+		FUpdate(const FTextDocument& InDocument, const FString& InSection, const TArray<TPair<FString, FString>>& Wanted, const TArray<FString>& OwnedKeys)
+			: Text(InDocument.GetText())
+			, Section(ToUtf8(InSection))
+			, FoldedSection(IniSyntax::Fold(Section))
+			, Result(InDocument)
 		{
 			for (const FString& Key : OwnedKeys)
 			{
-				Pending[IniSyntax::Fold(ToView(Key))];
+				Pending[IniSyntax::Fold(ToUtf8(Key))];
 			}
 			for (const TPair<FString, FString>& Line : Wanted)
 			{
-				std::u16string Name = IniSyntax::Fold(IniSyntax::WithoutPrefix(ToView(Line.Key)));
+				FPendingKey::FLine Converted{ToUtf8(Line.Key), ToUtf8(Line.Value)};
+				std::string Name = IniSyntax::Fold(IniSyntax::WithoutPrefix(Converted.Key));
 				Order.push_back(Name);
-				Pending[std::move(Name)].Lines.push_back(FPendingKey::FLine{ToView(Line.Key), ToView(Line.Value)});
+				Pending[std::move(Name)].Lines.push_back(std::move(Converted));
 			}
 		}
 
-		/** The texts of new lines belong to this update. */
-		std::vector<FTextLine> Run(const std::vector<FTextLine>& Lines)
+		/** The new text. */
+		std::string Run()
 		{
-			FindLastLines(Lines);
-			for (size_t Index = 0; Index < Lines.size(); Index = EndOfEntry(Lines, Index))
+			FindLastLines();
+			for (FIniEntries Entries(Text); Entries.Advance();)
 			{
-				CopyEntry(Lines, Index);
+				CopyEntry(Entries);
 			}
 			if (SectionEnd == NoLine)
 			{
 				AddSection();
 			}
-			return std::move(Result);
+			return Result.Finish();
 		}
 
 	private:
 		static constexpr size_t NoLine = static_cast<size_t>(-1);
 
-		/** Index behind an entry that begins here and the lines that continue it. */
-		static size_t EndOfEntry(const std::vector<FTextLine>& Lines, size_t Index)
-		{
-			while (Index + 1 < Lines.size() && IniSyntax::IsContinued(Lines[Index].Text))
-			{
-				++Index;
-			}
-			return Index + 1;
-		}
-
-		static std::u16string Join(const std::vector<FTextLine>& Lines, size_t Index)
-		{
-			std::u16string Whole;
-			for (const size_t End = EndOfEntry(Lines, Index); Index < End; ++Index)
-			{
-				const FView Text = Lines[Index].Text;
-				Whole += Index + 1 < End ? Text.substr(0, Text.size() - 1) : Text;
-			}
-			return Whole;
-		}
-
 		/** Null for lines that are none of the caller's business. */
-		FPendingKey* FindOwner(FView Line)
+		FPendingKey* FindOwner(std::string_view Line)
 		{
-			IniSyntax::TEntry<char16_t> Entry;
+			IniSyntax::FEntry Entry;
 			if (!bInSection || !IniSyntax::ParseEntry(Line, Entry))
 			{
 				return nullptr;
@@ -105,9 +90,9 @@ namespace SectionUpdate
 			return Found != Pending.end() ? &Found->second : nullptr;
 		}
 
-		bool UpdateSectionState(FView Line)
+		bool UpdateSectionState(std::string_view Line)
 		{
-			FView Name;
+			std::string_view Name;
 			if (!IniSyntax::ParseHeader(Line, Name))
 			{
 				return false;
@@ -117,64 +102,65 @@ namespace SectionUpdate
 		}
 
 		/** Where each key and the section itself have their last line: more lines go behind it. */
-		void FindLastLines(const std::vector<FTextLine>& Lines)
+		void FindLastLines()
 		{
-			for (size_t Index = 0; Index < Lines.size(); Index = EndOfEntry(Lines, Index))
+			for (FIniEntries Entries(Text); Entries.Advance();)
 			{
-				const FView Line = Lines[Index].Text;
+				const std::string_view Line = Entries.GetFirstLine();
+				const size_t Begin = Entries.GetPlace().Begin;
 				const bool bHeader = UpdateSectionState(Line);
 				if (bInSection && (bHeader || !IniSyntax::Trim(Line).empty()))
 				{
-					SectionEnd = Index;
+					SectionEnd = Begin;
 				}
 				if (const FPendingKey* Key = FindOwner(Line))
 				{
-					LastLines[Key] = Index;
+					LastLines[Key] = Begin;
 				}
 			}
 			bInSection = false;
 		}
 
-		void CopyEntry(const std::vector<FTextLine>& Lines, size_t Index)
+		void CopyEntry(FIniEntries& Entries)
 		{
-			UpdateSectionState(Lines[Index].Text);
-			FPendingKey* Owner = FindOwner(Lines[Index].Text);
+			const std::string_view Line = Entries.GetFirstLine();
+			const size_t Begin = Entries.GetPlace().Begin;
+			UpdateSectionState(Line);
+			FPendingKey* Owner = FindOwner(Line);
 			if (Owner == nullptr)
 			{
-				Result.insert(Result.end(), Lines.begin() + static_cast<std::ptrdiff_t>(Index), Lines.begin() + static_cast<std::ptrdiff_t>(EndOfEntry(Lines, Index)));
+				Result.Keep(Begin, Entries.GetNextPlace().Begin);
 			}
 			else
 			{
-				Replace(Lines, Index, *Owner);
-				if (LastLines[Owner] == Index)
+				Replace(Entries, *Owner);
+				if (LastLines[Owner] == Begin)
 				{
 					PlaceRest(*Owner);
 				}
 			}
-			if (SectionEnd == Index)
+			if (SectionEnd == Begin)
 			{
 				PlaceNewKeys();
 			}
 		}
 
-		void Replace(const std::vector<FTextLine>& Lines, size_t Index, FPendingKey& Owner)
+		void Replace(FIniEntries& Entries, FPendingKey& Owner)
 		{
 			if (Owner.NumPlaced == Owner.Lines.size())
 			{
 				return; // one line too many: it goes
 			}
 			const FPendingKey::FLine& Wanted = Owner.Lines[Owner.NumPlaced++];
-			const std::u16string Whole = Join(Lines, Index);
-			IniSyntax::TEntry<char16_t> Entry;
-			const bool bSame = IniSyntax::ParseEntry(FView(Whole), Entry) && IniSyntax::Fold(Entry.Key) == IniSyntax::Fold(Wanted.Key) && IniSyntax::Unquote(Entry.Value) == Wanted.Value;
-			const size_t End = EndOfEntry(Lines, Index);
+			IniSyntax::FEntry Entry;
+			const bool bSame = IniSyntax::ParseEntry(Entries.GetWhole(), Entry) && IniSyntax::Fold(Entry.Key) == IniSyntax::Fold(Wanted.Key) && IniSyntax::Unquote(Entry.Value) == Wanted.Value;
 			if (bSame)
 			{
-				Result.insert(Result.end(), Lines.begin() + static_cast<std::ptrdiff_t>(Index), Lines.begin() + static_cast<std::ptrdiff_t>(End));
+				Result.Keep(Entries.GetPlace().Begin, Entries.GetNextPlace().Begin);
 			}
 			else
 			{
-				Result.push_back(FTextLine{MakeText(Wanted), Lines[End - 1].End});
+				Result.Add(MakeText(Wanted), Entries.GetLineEnd());
 			}
 		}
 
@@ -182,14 +168,14 @@ namespace SectionUpdate
 		{
 			for (; Key.NumPlaced < Key.Lines.size(); ++Key.NumPlaced)
 			{
-				Result.push_back(FTextLine{MakeText(Key.Lines[Key.NumPlaced]), ELineEnd::None});
+				Result.Add(MakeText(Key.Lines[Key.NumPlaced]));
 			}
 		}
 
 		/** Keys that have no line yet, in the caller's order. */
 		void PlaceNewKeys()
 		{
-			for (const std::u16string& Name : Order)
+			for (const std::string& Name : Order)
 			{
 				FPendingKey& Key = Pending[Name];
 				if (!LastLines.contains(&Key))
@@ -205,51 +191,49 @@ namespace SectionUpdate
 			{
 				return;
 			}
-			if (!Result.empty() && !IniSyntax::Trim(Result.back().Text).empty())
+			if (!Result.IsEmpty() && !Result.EndsWithBlankLine())
 			{
-				Result.push_back(FTextLine{});
+				Result.Add({});
 			}
-			Result.push_back(FTextLine{Texts.emplace_back(u"[" + std::u16string(ToView(Section)) + u"]"), ELineEnd::None});
+			Result.Add("[" + Section + "]");
 			PlaceNewKeys();
 		}
 
-		FView MakeText(const FPendingKey::FLine& Line)
-		{
-			return Texts.emplace_back(std::u16string(Line.Key) + u"=" + IniSyntax::Quote(Line.Value));
-		}
+		static std::string MakeText(const FPendingKey::FLine& Line) { return Line.Key + "=" + IniSyntax::Quote(Line.Value); }
 
-		FString Section;
-		std::u16string FoldedSection;
-		std::map<std::u16string, FPendingKey> Pending; // all keys of the caller
-		std::vector<std::u16string> Order; // their names as the caller's lines come
-		std::map<const FPendingKey*, size_t> LastLines; // of those that have lines in the file
-		size_t SectionEnd = NoLine; // the last line of the section that is not blank
+		std::string_view Text;
+		std::string Section;
+		std::string FoldedSection;
+		std::map<std::string, FPendingKey> Pending; // all keys of the caller
+		std::vector<std::string> Order; // their names as the caller's lines come
+		std::map<const FPendingKey*, size_t> LastLines; // of those that have lines in the file: where they begin
+		size_t SectionEnd = NoLine; // where the last line of the section that is not blank begins
 		bool bInSection = false;
-		std::deque<std::u16string> Texts; // of new lines; a deque, because lines point into it
-		std::vector<FTextLine> Result;
+		FTextComposer Result;
 	};
+
+	/** Under the file's lock. */
+	HostFiles::EWrite TryUpdate(const FString& File, const FString& Section, const TArray<TPair<FString, FString>>& Lines, const TArray<FString>& OwnedKeys)
+	{
+		FTextDocument Document;
+		const HostFiles::ERead Read = TextFile::Load(File, Document);
+		if (Read == HostFiles::ERead::Failed)
+		{
+			TextFile::ReportUnreadable(File);
+			return HostFiles::EWrite::Failed;
+		}
+		if (Read == HostFiles::ERead::Missing && Lines.IsEmpty())
+		{
+			return HostFiles::EWrite::Done;
+		}
+		std::string Text = FUpdate(Document, Section, Lines, OwnedKeys).Run();
+		const ETextEncoding Encoding = TextFile::ChooseEncoding(Document, Text);
+		return TextFile::Save(File, Document, std::move(Text), Encoding);
+	}
 }
 
 bool HostConfig::UpdateSection(const FString& File, const FString& Section, const TArray<TPair<FString, FString>>& Lines, const TArray<FString>& OwnedKeys)
 {
 	const HostFiles::FLock Lock(File);
-	FTextDocument Document;
-	std::string Bytes;
-	const HostFiles::ERead Read = TextFile::Load(File, Document, Bytes);
-	if (Read == HostFiles::ERead::Failed)
-	{
-		TextFile::ReportUnreadable(File);
-		return false;
-	}
-	if (Read == HostFiles::ERead::Missing && Lines.IsEmpty())
-	{
-		return true;
-	}
-	SectionUpdate::FUpdate Update(Section, Lines, OwnedKeys);
-	Document.SetLines(Update.Run(Document.GetLines()));
-	if (Bytes.empty())
-	{
-		Document.SetEncoding(TextFile::ChooseForNewFile(Document));
-	}
-	return TextFile::Save(File, Document, HostFiles::EReadOnly::Refuse, Bytes);
+	return TextFile::SaveSurely(File, [&] { return SectionUpdate::TryUpdate(File, Section, Lines, OwnedKeys); });
 }

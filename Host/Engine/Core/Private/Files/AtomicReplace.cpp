@@ -2,14 +2,18 @@
 
 #include "Files/AtomicReplace.h"
 
+#include "Files/DiskFile.h"
 #include "Files/NativePath.h"
 
 #include <algorithm>
 #include <cerrno>
+#include <climits>
 #include <cstdio>
+#include <cstring>
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 #include <utility>
 
@@ -73,12 +77,32 @@ namespace AtomicReplace
 		return fchmod(File, Existing->st_mode & 07777) == 0 ? 0 : errno;
 	}
 
+	/** The file that is being written just now, for handlers of signals: without allocation, and empty while there is none. */
+	char Unfinished[PATH_MAX] = "";
+
+	void SetUnfinished(const std::string& Name)
+	{
+		if (Name.size() < sizeof(Unfinished))
+		{
+			std::memcpy(Unfinished, Name.c_str(), Name.size() + 1);
+		}
+	}
+
+	void RemoveUnfinished()
+	{
+		if (Unfinished[0] != '\0')
+		{
+			unlink(Unfinished);
+		}
+	}
+
 	/** Locked for as long as it is open, which tells others that it is no leftover. @return 0 or an errno */
 	int CreateTemporary(const std::string& Folder, std::string& OutName, FDescriptor& OutFile)
 	{
 		for (;;)
 		{
 			const std::string Name = MakeTemporaryName(Folder);
+			SetUnfinished(Name);
 			FDescriptor File{open(Name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600)};
 			if (File.Value < 0 && errno != EEXIST) // a leftover of a process that had this one's number
 			{
@@ -95,10 +119,34 @@ namespace AtomicReplace
 		}
 	}
 
-	int WriteTemporary(int File, std::string_view Bytes, const struct stat* Existing, mode_t NewMode)
+	/** Names and values of what users, systems and access lists attach to a file. What this user may not set, or the file system not hold, is left out. */
+	int CopyAttributes(const std::string& From, const struct stat& Existing, int To)
+	{
+		const bool bOwnerOnly = (Existing.st_mode & 077) == 0; // no access list of before is to let others in
+		std::string Names(std::max<ssize_t>(listxattr(From.c_str(), nullptr, 0), 0), '\0');
+		Names.resize(static_cast<size_t>(std::max<ssize_t>(listxattr(From.c_str(), Names.data(), Names.size()), 0)));
+		for (size_t At = 0; At < Names.size(); At += std::strlen(Names.c_str() + At) + 1)
+		{
+			const char* const Name = Names.c_str() + At;
+			if (bOwnerOnly && std::string_view(Name).starts_with("system."))
+			{
+				continue;
+			}
+			std::string Value(static_cast<size_t>(std::max<ssize_t>(getxattr(From.c_str(), Name, nullptr, 0), 0)), '\0');
+			const ssize_t Length = getxattr(From.c_str(), Name, Value.data(), Value.size());
+			if (Length >= 0 && fsetxattr(To, Name, Value.data(), static_cast<size_t>(Length), 0) != 0 && errno != EPERM && errno != EACCES && errno != ENOTSUP)
+			{
+				return errno;
+			}
+		}
+		return 0;
+	}
+
+	int WriteTemporary(int File, std::string_view Bytes, const std::string& Target, const struct stat* Existing, mode_t NewMode)
 	{
 		int Error = WriteAll(File, Bytes);
 		Error = Error != 0 ? Error : SetOwnerAndMode(File, Existing, NewMode);
+		Error = Error != 0 || Existing == nullptr ? Error : CopyAttributes(Target, *Existing, File);
 		if (Error == 0 && fsync(File) != 0)
 		{
 			Error = errno;
@@ -106,11 +154,33 @@ namespace AtomicReplace
 		return Error;
 	}
 
-	int Rename(const std::string& From, const std::string& Target)
+	bool IsSame(const struct stat& A, const struct stat& B)
+	{
+		return A.st_dev == B.st_dev && A.st_ino == B.st_ino && A.st_size == B.st_size && A.st_mtim.tv_sec == B.st_mtim.tv_sec && A.st_mtim.tv_nsec == B.st_mtim.tv_nsec;
+	}
+
+	/** Reads the file: two writes may fall into one tick of the clock. The look at its status afterwards is for what comes meanwhile. */
+	bool StillHolds(const std::string& Target, std::string_view Basis)
+	{
+		struct stat Before;
+		if (stat(Target.c_str(), &Before) != 0)
+		{
+			return errno == ENOENT && Basis.empty();
+		}
+		struct stat After;
+		return DiskFile::Holds(Target, Before, Basis) && stat(Target.c_str(), &After) == 0 && IsSame(Before, After);
+	}
+
+	/** @param Basis as of Replace() */
+	int Rename(const std::string& From, const std::string& Target, const std::string* Basis)
 	{
 		if (BeforeRename != nullptr)
 		{
 			BeforeRename(From.c_str(), Target.c_str());
+		}
+		if (Basis != nullptr && !StillHolds(Target, *Basis))
+		{
+			return ESTALE;
 		}
 		return rename(From.c_str(), Target.c_str()) == 0 ? 0 : errno;
 	}
@@ -128,7 +198,6 @@ namespace AtomicReplace
 		return File.Value >= 0 && fstat(File.Value, &Status) == 0 && S_ISREG(Status.st_mode) && Status.st_uid == geteuid() && flock(File.Value, LOCK_EX | LOCK_NB) == 0;
 	}
 
-	/** Makes the rename itself last. A file system that cannot do this has done all it can. */
 	void FlushFolder(const std::string& Folder)
 	{
 		const FDescriptor Directory{open(Folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)};
@@ -167,7 +236,7 @@ namespace AtomicReplace
 		closedir(Directory);
 	}
 
-	int Replace(const std::string& Target, std::string_view Bytes, const struct stat* Existing, mode_t NewMode)
+	int Replace(const std::string& Target, std::string_view Bytes, const struct stat* Existing, mode_t NewMode, const std::string* Basis)
 	{
 		const std::string Folder = NativePath::FolderOf(Target);
 		std::string Temporary;
@@ -175,17 +244,21 @@ namespace AtomicReplace
 		int Error = CreateTemporary(Folder, Temporary, File);
 		if (Error != 0)
 		{
+			SetUnfinished({});
 			return Error;
 		}
-		Error = WriteTemporary(File.Value, Bytes, Existing, NewMode);
-		Error = Error != 0 ? Error : Rename(Temporary, Target);
+		Error = WriteTemporary(File.Value, Bytes, Target, Existing, NewMode);
+		Error = Error != 0 ? Error : Rename(Temporary, Target, Basis);
 		if (Error != 0)
 		{
 			unlink(Temporary.c_str());
-			return Error;
 		}
-		FlushFolder(Folder);
-		return 0;
+		SetUnfinished({});
+		if (Error == 0)
+		{
+			FlushFolder(Folder);
+		}
+		return Error;
 	}
 
 	int Move(const std::string& From, const std::string& Target, const struct stat* Existing)
@@ -196,7 +269,7 @@ namespace AtomicReplace
 			const FDescriptor File{open(From.c_str(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC)};
 			Error = File.Value >= 0 ? SetOwnerAndMode(File.Value, Existing, 0) : errno;
 		}
-		Error = Error != 0 ? Error : Rename(From, Target);
+		Error = Error != 0 ? Error : Rename(From, Target, nullptr);
 		if (Error == 0)
 		{
 			FlushFolder(NativePath::FolderOf(Target));

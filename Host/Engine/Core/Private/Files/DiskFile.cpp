@@ -2,11 +2,14 @@
 
 #include "Files/DiskFile.h"
 
+#include "Files/AtomicReplace.h"
 #include "Files/NativePath.h"
 
 #include <cerrno>
 #include <fcntl.h>
+#include <memory>
 #include <unistd.h>
+#include <utility>
 
 namespace DiskFile
 {
@@ -19,28 +22,42 @@ namespace DiskFile
 		return Status.st_size > MaxFileSize ? EFBIG : 0;
 	}
 
+	/** Closed with this object. */
+	struct FOpenFile
+	{
+		FOpenFile() = default;
+		FOpenFile(const FOpenFile&) = delete;
+		FOpenFile& operator=(const FOpenFile&) = delete;
+
+		~FOpenFile()
+		{
+			if (Descriptor >= 0)
+			{
+				close(Descriptor);
+			}
+		}
+
+		int Descriptor = -1;
+		struct stat Status;
+	};
+
 	/**
 	 * What is no file is not even opened: that alone would wake who waits at the other end of a pipe, or rewind a tape. O_NONBLOCK is
 	 * for what takes the file's place between the two looks.
 	 */
-	int OpenToRead(const std::string& Path, struct stat& OutStatus, int& OutFile)
+	int OpenToRead(const std::string& Path, FOpenFile& Out)
 	{
-		int Error = stat(Path.c_str(), &OutStatus) == 0 ? CheckReadable(OutStatus) : errno;
+		const int Error = stat(Path.c_str(), &Out.Status) == 0 ? CheckReadable(Out.Status) : errno;
 		if (Error != 0)
 		{
 			return Error;
 		}
-		OutFile = open(Path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
-		if (OutFile < 0)
+		Out.Descriptor = open(Path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+		if (Out.Descriptor < 0)
 		{
 			return errno;
 		}
-		Error = fstat(OutFile, &OutStatus) == 0 ? CheckReadable(OutStatus) : errno;
-		if (Error != 0)
-		{
-			close(OutFile);
-		}
-		return Error;
+		return fstat(Out.Descriptor, &Out.Status) == 0 ? CheckReadable(Out.Status) : errno;
 	}
 
 	int ReadToEnd(int File, size_t ExpectedSize, std::string& OutBytes)
@@ -74,26 +91,64 @@ namespace DiskFile
 	int Read(const std::string& Path, std::string& OutBytes)
 	{
 		OutBytes.clear();
-		struct stat Status;
-		int File;
-		int Error = OpenToRead(Path, Status, File);
-		if (Error != 0)
-		{
-			return Error;
-		}
-		Error = ReadToEnd(File, static_cast<size_t>(Status.st_size), OutBytes);
+		FOpenFile File;
+		int Error = OpenToRead(Path, File);
+		Error = Error != 0 ? Error : ReadToEnd(File.Descriptor, static_cast<size_t>(File.Status.st_size), OutBytes);
 		if (Error != 0)
 		{
 			OutBytes.clear();
 		}
-		close(File);
+		return Error;
+	}
+
+	/** Reads from the beginning on for as long as Bytes hold. No memory is taken for the file. */
+	bool HoldsOpen(const FOpenFile& File, std::string_view Bytes)
+	{
+		if (static_cast<size_t>(File.Status.st_size) != Bytes.size())
+		{
+			return false;
+		}
+		char Buffer[64 * 1024];
+		for (;;)
+		{
+			const ssize_t Count = read(File.Descriptor, Buffer, sizeof(Buffer));
+			if (Count < 0 && errno == EINTR)
+			{
+				continue;
+			}
+			if (Count <= 0)
+			{
+				return Count == 0 && Bytes.empty();
+			}
+			if (!Bytes.starts_with(std::string_view(Buffer, static_cast<size_t>(Count))))
+			{
+				return false;
+			}
+			Bytes.remove_prefix(static_cast<size_t>(Count));
+		}
+	}
+
+	int ReadShared(const std::string& Path, const HostFiles::FSharedBytes& Known, HostFiles::FSharedBytes& OutBytes)
+	{
+		OutBytes = nullptr;
+		FOpenFile File;
+		int Error = OpenToRead(Path, File);
+		if (Error == 0 && Known != nullptr && HoldsOpen(File, *Known))
+		{
+			OutBytes = Known;
+			return 0;
+		}
+		std::string Bytes;
+		Error = Error == 0 && lseek(File.Descriptor, 0, SEEK_SET) != 0 ? errno : Error;
+		Error = Error != 0 ? Error : ReadToEnd(File.Descriptor, static_cast<size_t>(File.Status.st_size), Bytes);
+		OutBytes = Error == 0 ? std::make_shared<const std::string>(std::move(Bytes)) : nullptr;
 		return Error;
 	}
 
 	bool Holds(const std::string& Path, const struct stat& Status, std::string_view Bytes)
 	{
-		std::string Current;
-		return S_ISREG(Status.st_mode) && static_cast<size_t>(Status.st_size) == Bytes.size() && Read(Path, Current) == 0 && Current == Bytes;
+		FOpenFile File;
+		return static_cast<size_t>(Status.st_size) == Bytes.size() && OpenToRead(Path, File) == 0 && HoldsOpen(File, Bytes);
 	}
 
 	bool IsReadOnly(const std::string& Path, const struct stat& Status)
@@ -113,7 +168,12 @@ namespace DiskFile
 		{
 			return Error;
 		}
-		return mkdir(Path.c_str(), Mode) == 0 || errno == EEXIST ? 0 : errno;
+		if (mkdir(Path.c_str(), Mode) != 0)
+		{
+			return errno == EEXIST ? 0 : errno;
+		}
+		AtomicReplace::FlushFolder(NativePath::FolderOf(Path)); // what is written in it is to last
+		return 0;
 	}
 
 	mode_t GetNewFileMode()

@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "HostFiles.h"
+
 #include <string>
 #include <string_view>
 #include <sys/stat.h>
@@ -17,6 +19,9 @@ namespace DiskFile
 	 * empty on failure.
 	 */
 	int Read(const std::string& Path, std::string& OutBytes);
+
+	/** The same. While the file holds just what Known holds (which may be null), OutBytes is that. Null on failure. */
+	int ReadShared(const std::string& Path, const HostFiles::FSharedBytes& Known, HostFiles::FSharedBytes& OutBytes);
 
 	/** Whether the file, whose status this is, has exactly these bytes. */
 	bool Holds(const std::string& Path, const struct stat& Status, std::string_view Bytes);

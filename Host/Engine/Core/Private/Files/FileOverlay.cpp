@@ -2,6 +2,9 @@
 
 #include "Files/FileOverlay.h"
 
+#include <memory>
+#include <utility>
+
 const FFileOverlay::FEntry* FFileOverlay::Find(const std::string& Path) const
 {
 	const auto Found = Entries.find(Path);
@@ -21,16 +24,21 @@ bool FFileOverlay::HasDirectory(const std::string& Path) const
 	return false;
 }
 
-void FFileOverlay::Write(const std::string& Path, std::string_view Bytes)
+void FFileOverlay::Write(const std::string& Path, HostFiles::FSharedBytes Bytes, HostFiles::FSharedBytes Basis)
 {
-	FEntry& Entry = Entries[Path];
+	const auto [Place, bNew] = Entries.try_emplace(Path);
+	FEntry& Entry = Place->second;
+	if (bNew)
+	{
+		Entry.Basis = std::move(Basis);
+	}
 	Entry.bDeleted = false;
-	Entry.Bytes = Bytes;
+	Entry.Bytes = std::move(Bytes);
 }
 
 void FFileOverlay::Delete(const std::string& Path)
 {
 	FEntry& Entry = Entries[Path];
 	Entry.bDeleted = true;
-	Entry.Bytes.clear();
+	Entry.Bytes = std::make_shared<const std::string>();
 }

@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "HostFiles.h"
+
 #include <map>
 #include <string>
 #include <string_view>
@@ -13,7 +15,8 @@ public:
 	struct FEntry
 	{
 		bool bDeleted = false;
-		std::string Bytes;
+		HostFiles::FSharedBytes Bytes; // empty when deleted
+		HostFiles::FSharedBytes Basis; // as of HostFiles::FPendingWrite
 	};
 
 	using FEntries = std::map<std::string, FEntry, std::less<>>;
@@ -24,7 +27,8 @@ public:
 	/** Whether a folder stands at Path because something was created in it. */
 	bool HasDirectory(const std::string& Path) const;
 
-	void Write(const std::string& Path, std::string_view Bytes);
+	/** @param Basis counts with the first write of a file */
+	void Write(const std::string& Path, HostFiles::FSharedBytes Bytes, HostFiles::FSharedBytes Basis);
 	void Delete(const std::string& Path);
 
 	/** Sorted by path. */

@@ -9,10 +9,12 @@
 #include "Files/FolderListing.h"
 #include "Files/NativePath.h"
 #include "Files/ReadOnlyFiles.h"
+#include "Files/TextCoding.h"
 #include "Files/WriteRules.h"
 #include "HostProblems.h"
 #include "HostState.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <memory>
 #include <set>
@@ -32,6 +34,8 @@ namespace HostFiles
 		std::set<std::string> WrittenLookup; // the same paths
 		std::set<std::string> TidiedFolders; // leftovers are looked for once in each
 		std::unordered_map<std::string, uint32> NumChanges; // by resolved path
+		std::vector<std::string> WriteFolders; // resolved; none for all
+		FString LimitsRemedy;
 	};
 
 	THostState<FState> State;
@@ -74,7 +78,7 @@ namespace HostFiles
 	 */
 	const struct stat* GetStatusToKeep(const std::string& Path, FOnDisk& OnDisk)
 	{
-		if (IsPrivate(Path))
+		if (IsForOwnerOnly(Path))
 		{
 			OnDisk.Status.st_mode = (OnDisk.Status.st_mode & S_IFMT) | GetModeOfNewFile(Path);
 		}
@@ -82,7 +86,7 @@ namespace HostFiles
 	}
 
 	/** In the locked folder of Path. */
-	bool WriteDisk(const std::string& Path, std::string_view Bytes, FOnDisk OnDisk)
+	EWrite WriteDisk(const std::string& Path, std::string_view Bytes, const FSharedBytes& Basis, FOnDisk OnDisk)
 	{
 		const std::string Folder = NativePath::FolderOf(Path);
 		FState& Own = State.Get();
@@ -90,23 +94,54 @@ namespace HostFiles
 		{
 			AtomicReplace::RemoveLeftovers(Folder);
 		}
-		const int Error = AtomicReplace::Replace(Path, Bytes, GetStatusToKeep(Path, OnDisk), GetModeOfNewFile(Path));
+		const int Error = AtomicReplace::Replace(Path, Bytes, GetStatusToKeep(Path, OnDisk), GetModeOfNewFile(Path), Basis.get());
+		if (Error == ESTALE)
+		{
+			return EWrite::Changed;
+		}
 		if (Error != 0)
 		{
 			ReportNotWritten(Path, Describe(TEXT("the file cannot be written and is as it was"), Error), TEXT("Check free space and the permissions of its folder."));
-			return false;
+			return EWrite::Failed;
 		}
 		if (Own.WrittenLookup.insert(Path).second)
 		{
 			Own.Written.push_back(Path);
 		}
-		return true;
+		return EWrite::Done;
 	}
 
-	bool CountChange(const std::string& Path)
+	/** What this process last read or wrote of a file in the shared way; holds nothing itself. Longer than an editor lives: the next one asks. */
+	std::weak_ptr<const std::string>& GetKnown(const std::string& Path)
+	{
+		static std::unordered_map<std::string, std::weak_ptr<const std::string>> Known;
+		return Known[Path];
+	}
+
+	void CountChange(const std::string& Path)
 	{
 		++State.Get().NumChanges[Path];
-		return true;
+	}
+
+	bool IsBelow(const std::string& Path, const std::string& Folder)
+	{
+		return Path == Folder || Path.starts_with(Folder == "/" ? Folder : Folder + "/");
+	}
+
+	bool IsWithinLimits(const std::string& Path)
+	{
+		const std::vector<std::string>& Folders = State.Get().WriteFolders;
+		return Folders.empty() || IsPrivate(Path) || std::any_of(Folders.begin(), Folders.end(), [&Path](const std::string& Folder) { return IsBelow(Path, Folder); });
+	}
+
+	bool CheckLimits(const std::string& Path)
+	{
+		const bool bWithin = IsWithinLimits(Path);
+		if (!bWithin)
+		{
+			ReportNotWritten(Path, TEXT("the file is not in the project and was left as it is"), *State.Get().LimitsRemedy);
+		}
+		return bWithin;
 	}
 
 	void ReportNotRead(const std::string& Path, int Error)
@@ -128,6 +163,17 @@ namespace HostFiles
 		}
 	}
 
+	/** A result of DiskFile's; failures are reported. */
+	ERead Judge(const std::string& Path, int Error)
+	{
+		if (Error == 0 || Error == ENOENT || Error == ENOTDIR)
+		{
+			return Error == 0 ? ERead::Done : ERead::Missing;
+		}
+		ReportNotRead(Path, Error);
+		return ERead::Failed;
+	}
+
 	TArray<FString> ToStrings(const std::vector<std::string>& Paths)
 	{
 		TArray<FString> Result;
@@ -137,6 +183,21 @@ namespace HostFiles
 			Result.Add(NativePath::ToString(Path));
 		}
 		return Result;
+	}
+
+	/** Files that cannot be named here are left out; told where files of that kind are looked for. */
+	TArray<FString> ToNames(std::vector<std::string> Paths, bool bTell)
+	{
+		const auto IsNameless = [bTell](const std::string& Path) {
+			const bool bNameless = TextCoding::FindInvalidUtf8(Path) != Path.size();
+			if (bNameless && bTell)
+			{
+				HostProblems::Report(NativePath::ToString(Path), 0, TEXT("the path of this file is no UTF-8, and the file is left out"), TEXT("Rename what is not."));
+			}
+			return bNameless;
+		};
+		std::erase_if(Paths, IsNameless);
+		return ToStrings(Paths);
 	}
 
 	EKind GetKind(const FString& Path)
@@ -159,13 +220,25 @@ namespace HostFiles
 		return NativePath::ToString(NativePath::Resolve(Path));
 	}
 
+	FString ExplainMissing(const FString& Path, const FString& Usually)
+	{
+		const std::string Native = NativePath::FromString(Path);
+		if (!Native.starts_with('/') && !NativePath::HasWorkingDirectory())
+		{
+			return TEXT("the working directory is not there any more, and the path counts from it");
+		}
+		int32 Lost = INDEX_NONE;
+		const bool bLost = NativePath::ToString(NativePath::MakeFull(Path)).FindChar(TextCoding::Replacement, Lost);
+		return bLost ? FString(TEXT("the path is no UTF-8, and files with such paths cannot be opened; rename what is not")) : Usually;
+	}
+
 	ERead Read(const FString& Path, std::string& OutBytes)
 	{
 		if (const FFileOverlay* Overlay = GetOverlay())
 		{
 			if (const FFileOverlay::FEntry* Entry = Overlay->Find(NativePath::Resolve(Path)))
 			{
-				OutBytes = Entry->Bytes;
+				OutBytes = *Entry->Bytes;
 				return Entry->bDeleted ? ERead::Missing : ERead::Done;
 			}
 		}
@@ -176,13 +249,88 @@ namespace HostFiles
 			return ERead::Done;
 		}
 		const std::string Full = NativePath::MakeFull(Path);
-		const int Error = DiskFile::Read(Full, OutBytes);
-		if (Error == 0 || Error == ENOENT || Error == ENOTDIR)
+		return Judge(Full, DiskFile::Read(Full, OutBytes));
+	}
+
+	ERead ReadShared(const FString& Path, FSharedBytes& OutBytes)
+	{
+		const std::string Resolved = NativePath::Resolve(Path);
+		if (const FFileOverlay* Overlay = GetOverlay())
 		{
-			return Error == 0 ? ERead::Done : ERead::Missing;
+			if (const FFileOverlay::FEntry* Entry = Overlay->Find(Resolved))
+			{
+				OutBytes = Entry->Bytes;
+				return Entry->bDeleted ? ERead::Missing : ERead::Done;
+			}
 		}
-		ReportNotRead(Full, Error);
-		return ERead::Failed;
+		std::weak_ptr<const std::string>& Known = GetKnown(Resolved);
+		const ERead Result = Judge(NativePath::MakeFull(Path), DiskFile::ReadShared(Resolved, Known.lock(), OutBytes));
+		Known = OutBytes;
+		OutBytes = OutBytes != nullptr ? OutBytes : std::make_shared<const std::string>();
+		return Result;
+	}
+
+	/** What is to be written. */
+	struct FContent
+	{
+		std::string_view Bytes;
+		FSharedBytes Shared; // the same, or null
+		FSharedBytes Basis; // null: whatever stands there gives way
+
+		FSharedBytes Share() const { return Shared != nullptr ? Shared : std::make_shared<const std::string>(Bytes); }
+	};
+
+	/** On disk, in the locked folder. */
+	EWrite WriteResolved(const std::string& Resolved, const FContent& Content, EReadOnly ReadOnly)
+	{
+		FOnDisk OnDisk(Resolved);
+		if (OnDisk.bExists && DiskFile::Holds(Resolved, OnDisk.Status, Content.Bytes))
+		{
+			return EWrite::Done;
+		}
+		FFileOverlay* Overlay = GetOverlay();
+		const bool bAsk = Overlay == nullptr && ReadOnly == EReadOnly::Refuse;
+		if ((bAsk && !ReadOnlyFiles::AskToOpen(Resolved, OnDisk)) || !MayReplace(Resolved, OnDisk, ReadOnly))
+		{
+			return EWrite::Failed;
+		}
+		if (Overlay != nullptr)
+		{
+			Overlay->Write(Resolved, Content.Share(), Content.Basis);
+		}
+		else if (!MakeFolderOrReport(NativePath::FolderOf(Resolved), Resolved))
+		{
+			return EWrite::Failed;
+		}
+		const EWrite Result = Overlay != nullptr ? EWrite::Done : WriteDisk(Resolved, Content.Bytes, Content.Basis, OnDisk);
+		if (Result == EWrite::Done)
+		{
+			CountChange(Resolved);
+		}
+		return Result;
+	}
+
+	EWrite WriteContent(const FString& Path, const FContent& Content, EReadOnly ReadOnly)
+	{
+		const std::string Resolved = NativePath::Resolve(Path);
+		if (!CheckLimits(Resolved))
+		{
+			return EWrite::Failed;
+		}
+		const FLock Lock(Path);
+		FFileOverlay* Overlay = GetOverlay();
+		if (Overlay != nullptr && Overlay->Find(Resolved) != nullptr)
+		{
+			Overlay->Write(Resolved, Content.Share(), nullptr); // the disk had its say the first time
+			CountChange(Resolved);
+			return EWrite::Done;
+		}
+		const EWrite Result = WriteResolved(Resolved, Content, ReadOnly);
+		if (Result == EWrite::Done && Content.Shared != nullptr && Overlay == nullptr)
+		{
+			GetKnown(Resolved) = Content.Shared;
+		}
+		return Result;
 	}
 
 	void GiveContents(const FString& Path, std::string Bytes)
@@ -192,34 +340,12 @@ namespace HostFiles
 
 	bool Write(const FString& Path, std::string_view Bytes, EReadOnly ReadOnly)
 	{
-		const FLock Lock(Path);
-		const std::string Resolved = NativePath::Resolve(Path);
-		FFileOverlay* Overlay = GetOverlay();
-		if (Overlay != nullptr && Overlay->Find(Resolved) != nullptr)
-		{
-			Overlay->Write(Resolved, Bytes); // the disk had its say the first time
-			return CountChange(Resolved);
-		}
-		FOnDisk OnDisk(Resolved);
-		if (OnDisk.bExists && DiskFile::Holds(Resolved, OnDisk.Status, Bytes))
-		{
-			return true;
-		}
-		const bool bAsk = Overlay == nullptr && ReadOnly == EReadOnly::Refuse;
-		if (bAsk && !ReadOnlyFiles::AskToOpen(Resolved, OnDisk))
-		{
-			return false;
-		}
-		if (!MayReplace(Resolved, OnDisk, ReadOnly))
-		{
-			return false;
-		}
-		if (Overlay != nullptr)
-		{
-			Overlay->Write(Resolved, Bytes);
-			return CountChange(Resolved);
-		}
-		return MakeFolderOrReport(NativePath::FolderOf(Resolved), Resolved) && WriteDisk(Resolved, Bytes, OnDisk) && CountChange(Resolved);
+		return WriteContent(Path, FContent{Bytes, nullptr, nullptr}, ReadOnly) == EWrite::Done;
+	}
+
+	EWrite WriteOver(const FString& Path, const FSharedBytes& Bytes, const FSharedBytes& Basis, EReadOnly ReadOnly)
+	{
+		return WriteContent(Path, FContent{*Bytes, Bytes, Basis}, ReadOnly);
 	}
 
 	bool Delete(const FString& Path, EReadOnly ReadOnly)
@@ -234,6 +360,10 @@ namespace HostFiles
 		{
 			return true;
 		}
+		if (!CheckLimits(Resolved))
+		{
+			return false;
+		}
 		const FLock Lock(Path);
 		const bool bOnlyInOverlay = Overlay != nullptr && Overlay->Find(Resolved) != nullptr;
 		if (!bOnlyInOverlay && !MayReplace(Resolved, FOnDisk(Resolved), ReadOnly))
@@ -243,24 +373,27 @@ namespace HostFiles
 		if (Overlay != nullptr)
 		{
 			Overlay->Delete(Resolved);
-			return CountChange(Resolved);
+			CountChange(Resolved);
+			return true;
 		}
 		if (unlink(Resolved.c_str()) != 0 && errno != ENOENT)
 		{
 			ReportNotWritten(Resolved, Describe(TEXT("the file cannot be deleted"), errno), TEXT("Check the permissions of its folder."));
 			return false;
 		}
-		return CountChange(Resolved);
+		AtomicReplace::FlushFolder(NativePath::FolderOf(Resolved)); // a password that was forgotten is not to come back
+		CountChange(Resolved);
+		return true;
 	}
 
 	TArray<FString> FindFiles(const FString& Directory, const FString& Suffix)
 	{
-		return ToStrings(FolderListing::FindFiles(NativePath::MakeFull(Directory), NativePath::FromString(Suffix), FolderListing::EDepth::All, GetOverlay()));
+		return ToNames(FolderListing::FindFiles(NativePath::MakeFull(Directory), NativePath::FromString(Suffix), FolderListing::EDepth::All, GetOverlay()), !Suffix.IsEmpty());
 	}
 
 	TArray<FString> FindFilesIn(const FString& Directory, const FString& Suffix)
 	{
-		return ToStrings(FolderListing::FindFiles(NativePath::MakeFull(Directory), NativePath::FromString(Suffix), FolderListing::EDepth::ThisFolder, GetOverlay()));
+		return ToNames(FolderListing::FindFiles(NativePath::MakeFull(Directory), NativePath::FromString(Suffix), FolderListing::EDepth::ThisFolder, GetOverlay()), !Suffix.IsEmpty());
 	}
 
 	TArray<FString> FindDirectories(const FString& Directory)
@@ -271,7 +404,7 @@ namespace HostFiles
 	bool CheckWritable(const FString& Path)
 	{
 		const std::string Resolved = NativePath::Resolve(Path);
-		if (!MayReplace(Resolved, FOnDisk(Resolved), EReadOnly::Refuse))
+		if (!CheckLimits(Resolved) || !MayReplace(Resolved, FOnDisk(Resolved), EReadOnly::Refuse))
 		{
 			return false;
 		}
@@ -321,23 +454,53 @@ namespace HostFiles
 			for (const auto& [Path, Entry] : Overlay->GetEntries())
 			{
 				const FOnDisk OnDisk(Path);
-				const bool bSame = Entry.bDeleted ? !OnDisk.bExists : OnDisk.bExists && DiskFile::Holds(Path, OnDisk.Status, Entry.Bytes);
+				const bool bSame = Entry.bDeleted ? !OnDisk.bExists : OnDisk.bExists && DiskFile::Holds(Path, OnDisk.Status, *Entry.Bytes);
 				if (!bSame)
 				{
-					Result.Add(FPendingWrite{NativePath::ToString(Path), Entry.bDeleted, Entry.Bytes});
+					Result.Add(FPendingWrite{NativePath::ToString(Path), Entry.bDeleted, Entry.Bytes, Entry.Basis});
 				}
 			}
 		}
 		return Result;
 	}
 
+	void RestoreOverlay(const TArray<FPendingWrite>& Writes)
+	{
+		BeginOverlay();
+		for (const FPendingWrite& Pending : Writes)
+		{
+			const std::string Path = NativePath::Resolve(Pending.Path);
+			GetOverlay()->Write(Path, Pending.Bytes, Pending.Basis);
+			if (Pending.bDeleted)
+			{
+				GetOverlay()->Delete(Path);
+			}
+		}
+	}
+
+	void LimitWrites(const TArray<FString>& Folders, const FString& Remedy)
+	{
+		FState& Own = State.Get();
+		Own.LimitsRemedy = Remedy;
+		Own.WriteFolders.clear();
+		for (const FString& Folder : Folders)
+		{
+			Own.WriteFolders.push_back(NativePath::Resolve(Folder));
+		}
+	}
+
+	void RemoveUnfinished()
+	{
+		AtomicReplace::RemoveUnfinished();
+	}
+
 	FLock::FLock(const FString& Path)
 	{
-		if (HasOverlay())
+		const std::string Folder = NativePath::FolderOf(NativePath::Resolve(Path));
+		if (HasOverlay() || !IsWithinLimits(Folder))
 		{
 			return;
 		}
-		const std::string Folder = NativePath::FolderOf(NativePath::Resolve(Path));
 		// A missing folder is about to be written in; that write reports it when the folder cannot be created.
 		if (MakeFolder(Folder) == 0 && DirectoryLock::Acquire(Folder))
 		{

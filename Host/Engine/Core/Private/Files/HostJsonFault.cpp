@@ -71,6 +71,33 @@ namespace HostJsonFault
 		std::string_view Text;
 	};
 
+	bool IsTooDeep(std::string_view Text, FHostJsonFault& OutFault)
+	{
+		int32 Depth = 0;
+		bool bInString = false;
+		for (size_t At = 0; At < Text.size(); ++At)
+		{
+			const char Letter = Text[At];
+			if (bInString)
+			{
+				At += Letter == '\\' ? 1 : 0;
+				bInString = Letter != '"';
+				continue;
+			}
+			bInString = Letter == '"';
+			Depth += Letter == '{' || Letter == '[' ? 1 : 0;
+			Depth -= Letter == '}' || Letter == ']' ? 1 : 0;
+			if (Depth > MaxDepth)
+			{
+				const std::string_view Before = Text.substr(0, At);
+				OutFault.Line = 1 + static_cast<int32>(std::count(Before.begin(), Before.end(), '\n'));
+				OutFault.Message = FString::Printf(TEXT("objects and arrays are nested more than %d deep"), MaxDepth);
+				return true;
+			}
+		}
+		return false;
+	}
+
 	FHostJsonFault Find(std::string_view Text)
 	{
 		FFaultFinder Finder(Text);

@@ -14,7 +14,7 @@ namespace LineMerge
 	{
 		size_t Begin = 0;
 		size_t End = 0;
-		std::span<const std::u16string_view> Lines;
+		std::span<const std::string_view> Lines;
 
 		bool IsEmpty() const { return Begin == End && Lines.empty(); }
 		bool IsInsertion() const { return Begin == End; }
@@ -40,7 +40,7 @@ namespace LineMerge
 		return FEdit{Front, Base.size() - Back, std::span(Changed).subspan(Front, Changed.size() - Back - Front)};
 	}
 
-	void Append(std::span<const std::u16string_view> Lines, FLines& Out)
+	void Append(std::span<const std::string_view> Lines, FLines& Out)
 	{
 		Out.insert(Out.end(), Lines.begin(), Lines.end());
 	}
@@ -68,7 +68,7 @@ namespace LineMerge
 		}
 		const FEdit& First = bTheirsFirst ? TheirEdit : MyEdit;
 		const FEdit& Second = bTheirsFirst ? MyEdit : TheirEdit;
-		const std::span<const std::u16string_view> All(Base);
+		const std::span<const std::string_view> All(Base);
 		FLines Merged;
 		Merged.reserve(Mine.size() + Theirs.size());
 		Append(All.first(First.Begin), Merged);

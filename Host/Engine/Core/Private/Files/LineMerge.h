@@ -8,7 +8,7 @@
 /** Two edits of the same text, brought together. */
 namespace LineMerge
 {
-	using FLines = std::vector<std::u16string_view>;
+	using FLines = std::vector<std::string_view>;
 
 	/**
 	 * Each edit counts as one replaced run of lines. Equal edits count once; two insertions in one place both stay, Theirs first.

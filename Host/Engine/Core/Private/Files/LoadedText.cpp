@@ -18,14 +18,14 @@ namespace LoadedText
 		return Found != Records.Get().end() ? Found->second : Unknown;
 	}
 
-	void RememberSeen(const std::string& Path, std::string Bytes)
+	void RememberSeen(const std::string& Path, HostFiles::FSharedBytes Bytes)
 	{
 		Records.Get()[Path] = FRecord{EState::Seen, std::move(Bytes)};
 	}
 
 	void RememberFailure(const std::string& Path)
 	{
-		Records.Get()[Path] = FRecord{EState::Failed, std::string()};
+		Records.Get()[Path] = FRecord{EState::Failed, nullptr};
 	}
 
 	void Forget(const std::string& Path)

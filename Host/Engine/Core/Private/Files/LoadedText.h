@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "HostFiles.h"
+
 #include <string>
 
 /**
@@ -20,13 +22,13 @@ namespace LoadedText
 	struct FRecord
 	{
 		EState State = EState::Unknown;
-		std::string Bytes;
+		HostFiles::FSharedBytes Bytes;
 	};
 
 	/** Path is resolved. The reference is good until the next change. */
 	const FRecord& Find(const std::string& Path);
 
-	void RememberSeen(const std::string& Path, std::string Bytes);
+	void RememberSeen(const std::string& Path, HostFiles::FSharedBytes Bytes);
 	void RememberFailure(const std::string& Path);
 	void Forget(const std::string& Path);
 }

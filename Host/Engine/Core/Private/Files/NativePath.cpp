@@ -19,6 +19,12 @@ namespace NativePath
 		return getcwd(Buffer, sizeof(Buffer)) != nullptr ? std::string(Buffer) : std::string("/");
 	}
 
+	bool HasWorkingDirectory()
+	{
+		char Buffer[PATH_MAX];
+		return getcwd(Buffer, sizeof(Buffer)) != nullptr;
+	}
+
 	std::string MakeFullNative(std::string_view Path)
 	{
 		const std::string Absolute = Path.starts_with('/') ? std::string(Path) : WorkingDirectory() + "/" + std::string(Path);

@@ -13,6 +13,9 @@ namespace NativePath
 	std::string FromString(const FString& Path);
 	FString ToString(std::string_view Path);
 
+	/** It may have been deleted under the process; relative paths count from the root then, and lead nowhere. */
+	bool HasWorkingDirectory();
+
 	/** Full path without "." and ".." parts and without a slash at its end; symbolic links stay. */
 	std::string MakeFull(const FString& Path);
 

@@ -33,7 +33,7 @@ namespace TextCoding
 	}
 
 	/** Number of bytes of the character that starts here, and its code point; 0 when it is not well-formed. */
-	size_t DecodeOne(std::string_view Bytes, size_t At, char32_t& OutCode)
+	size_t DecodeOne(std::string_view Bytes, size_t At, char32_t& OutCode, EHalfPairs HalfPairs = EHalfPairs::Refuse)
 	{
 		const auto ByteAt = [&](size_t Index) { return static_cast<unsigned char>(Bytes[Index]); };
 		const unsigned char First = ByteAt(At);
@@ -57,7 +57,7 @@ namespace TextCoding
 			Code = (Code << 6) | (ByteAt(Index) & 0x3F);
 		}
 		const bool bOverlong = (Length == 3 && Code < 0x800) || (Length == 4 && Code < 0x10000);
-		const bool bSurrogate = Code >= 0xD800 && Code <= 0xDFFF;
+		const bool bSurrogate = HalfPairs == EHalfPairs::Refuse && Code >= 0xD800 && Code <= 0xDFFF;
 		OutCode = Code;
 		return bOverlong || bSurrogate || Code > 0x10FFFF ? 0 : Length;
 	}
@@ -122,7 +122,7 @@ namespace TextCoding
 		return Bytes.size();
 	}
 
-	bool DecodeUtf8(std::string_view Bytes, std::vector<char16_t>& Out, size_t& OutBadOffset)
+	bool DecodeUtf8(std::string_view Bytes, std::vector<char16_t>& Out, size_t& OutBadOffset, EHalfPairs HalfPairs)
 	{
 		Out.resize(Bytes.size()); // never fewer bytes than units
 		char16_t* Unit = Out.data();
@@ -140,7 +140,7 @@ namespace TextCoding
 				continue;
 			}
 			char32_t Code = 0;
-			const size_t Length = DecodeOne(Bytes, At, Code);
+			const size_t Length = DecodeOne(Bytes, At, Code, HalfPairs);
 			if (Length == 0)
 			{
 				break;
@@ -161,7 +161,7 @@ namespace TextCoding
 		return At == Bytes.size();
 	}
 
-	bool EncodeUtf8(std::u16string_view Text, std::string& Out)
+	bool EncodeUtf8(std::u16string_view Text, std::string& Out, EHalfPairs HalfPairs)
 	{
 		for (size_t At = AppendAscii(Text, 0, Out); At < Text.size(); At = AppendAscii(Text, At + 1, Out))
 		{
@@ -174,7 +174,12 @@ namespace TextCoding
 			const bool bPair = Unit < 0xDC00 && At + 1 < Text.size() && Text[At + 1] >= 0xDC00 && Text[At + 1] <= 0xDFFF;
 			if (!bPair)
 			{
-				return false;
+				if (HalfPairs == EHalfPairs::Refuse)
+				{
+					return false;
+				}
+				AppendCode(Unit, Out);
+				continue;
 			}
 			AppendCode(0x10000 + ((char32_t(Unit) - 0xD800) << 10) + (char32_t(Text[At + 1]) - 0xDC00), Out);
 			++At;
@@ -182,12 +187,12 @@ namespace TextCoding
 		return true;
 	}
 
-	bool IsAscii(std::u16string_view Text)
+	bool IsAscii(std::string_view Text)
 	{
-		char16_t All = 0;
-		for (const char16_t Unit : Text)
+		unsigned char All = 0;
+		for (const char Byte : Text)
 		{
-			All = static_cast<char16_t>(All | Unit);
+			All = static_cast<unsigned char>(All | static_cast<unsigned char>(Byte));
 		}
 		return All < 0x80;
 	}
@@ -198,7 +203,7 @@ namespace TextCoding
 		size_t BadOffset = 0;
 		if (!DecodeUtf8(Utf8, Units, BadOffset))
 		{
-			Units.push_back(u'\uFFFD');
+			Units.push_back(Replacement);
 		}
 		return FString(static_cast<int32>(Units.size()), Units.data());
 	}

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace TextDocument
 {
@@ -37,41 +38,49 @@ namespace TextDocument
 		return Encoding == ETextEncoding::Utf16LittleEndian || Encoding == ETextEncoding::Utf16BigEndian;
 	}
 
-	void DecodeUtf16(std::string_view Bytes, ETextEncoding Encoding, std::vector<char16_t>& Out)
+	/** To UTF-8. Half of a pair stays what it is. */
+	std::string DecodeUtf16(std::string_view Bytes, ETextEncoding Encoding)
 	{
 		const size_t Low = Encoding == ETextEncoding::Utf16LittleEndian ? 0 : 1;
-		Out.resize(Bytes.size() / 2);
-		for (size_t Index = 0; Index < Out.size(); ++Index)
+		std::vector<char16_t> Units(Bytes.size() / 2);
+		for (size_t Index = 0; Index < Units.size(); ++Index)
 		{
 			const auto ByteAt = [&](size_t Offset) { return static_cast<unsigned char>(Bytes[Index * 2 + Offset]); };
-			Out[Index] = static_cast<char16_t>(ByteAt(Low) | (ByteAt(1 - Low) << 8));
+			Units[Index] = static_cast<char16_t>(ByteAt(Low) | (ByteAt(1 - Low) << 8));
 		}
+		std::string Text;
+		Text.reserve(Units.size());
+		TextCoding::EncodeUtf8(std::u16string_view(Units.data(), Units.size()), Text, TextCoding::EHalfPairs::Keep);
+		return Text;
 	}
 
-	void AppendUtf16(std::u16string_view Text, ETextEncoding Encoding, std::string& Out)
+	void AppendUtf16(std::string_view Text, ETextEncoding Encoding, std::string& Out)
 	{
+		std::vector<char16_t> Units;
+		size_t BadOffset = 0;
+		TextCoding::DecodeUtf8(Text, Units, BadOffset, TextCoding::EHalfPairs::Keep);
 		const size_t Low = Encoding == ETextEncoding::Utf16LittleEndian ? 0 : 1;
 		const size_t Before = Out.size();
-		Out.resize(Before + Text.size() * 2);
-		for (size_t Index = 0; Index < Text.size(); ++Index)
+		Out.resize(Before + Units.size() * 2);
+		for (size_t Index = 0; Index < Units.size(); ++Index)
 		{
-			Out[Before + Index * 2 + Low] = static_cast<char>(static_cast<unsigned char>(Text[Index] & 0xFF));
-			Out[Before + Index * 2 + 1 - Low] = static_cast<char>(static_cast<unsigned char>(Text[Index] >> 8));
+			Out[Before + Index * 2 + Low] = static_cast<char>(static_cast<unsigned char>(Units[Index] & 0xFF));
+			Out[Before + Index * 2 + 1 - Low] = static_cast<char>(static_cast<unsigned char>(Units[Index] >> 8));
 		}
 	}
 
-	std::u16string_view ToText(ELineEnd End)
+	std::string_view ToText(ELineEnd End)
 	{
 		switch (End)
 		{
 			case ELineEnd::Lf:
-				return u"\n";
+				return "\n";
 			case ELineEnd::CrLf:
-				return u"\r\n";
+				return "\r\n";
 			case ELineEnd::Cr:
-				return u"\r";
+				return "\r";
 			default:
-				return u"";
+				return {};
 		}
 	}
 
@@ -91,11 +100,15 @@ namespace TextDocument
 	}
 
 	/** One-based line in which the character stands. */
-	template<typename CharType>
-	int32 LineOf(std::basic_string_view<CharType> Text, size_t At)
+	int32 LineOf(std::string_view Text, size_t At)
 	{
-		const std::basic_string_view<CharType> Before = Text.substr(0, At);
-		return 1 + static_cast<int32>(std::count(Before.begin(), Before.end(), CharType('\n')));
+		const std::string_view Before = Text.substr(0, At);
+		return 1 + static_cast<int32>(std::count(Before.begin(), Before.end(), '\n'));
+	}
+
+	bool EndsWithLineEnd(std::string_view Text)
+	{
+		return Text.ends_with('\n') || Text.ends_with('\r');
 	}
 
 	constexpr const char* OddLength = "begins as UTF-16 but has an odd number of bytes";
@@ -103,88 +116,44 @@ namespace TextDocument
 	constexpr const char* NullCharacters = "holds null characters and so is no text (UTF-16 needs a byte-order mark)";
 }
 
-bool FTextDocument::Decode(std::string_view Bytes, std::string& OutFault, int32& OutFaultLine)
+bool FTextDocument::Decode(HostFiles::FSharedBytes InBytes, std::string& OutFault, int32& OutFaultLine)
 {
-	Encoding = TextDocument::Detect(Bytes);
-	Lines.clear();
+	Bytes = std::move(InBytes);
+	Text = *Bytes;
+	Encoding = TextDocument::Detect(Text);
 	OutFaultLine = 0;
-	if (TextDocument::IsUtf16(Encoding))
+	if (IsConverted())
 	{
-		TextDocument::DecodeUtf16(Bytes, Encoding, Units);
-		if (Bytes.size() % 2 != 0)
+		if (Text.size() % 2 != 0)
 		{
 			OutFault = TextDocument::OddLength;
 			return false;
 		}
+		Converted = TextDocument::DecodeUtf16(Text, Encoding);
+		Text = Converted;
 	}
-	else
-	{
-		size_t BadOffset = 0;
-		if (!TextCoding::DecodeUtf8(Bytes, Units, BadOffset))
-		{
-			OutFault = TextDocument::UnknownEncoding;
-			OutFaultLine = TextDocument::LineOf(Bytes, BadOffset);
-			return false;
-		}
-	}
-	const size_t Null = GetText().find(u'\0');
-	if (Null != std::u16string_view::npos)
-	{
-		OutFault = TextDocument::NullCharacters;
-		OutFaultLine = TextDocument::LineOf(GetText(), Null);
-		return false;
-	}
-	Lines = SplitLines(GetText());
-	return true;
-}
-
-bool FTextDocument::CheckUtf8(std::string_view Bytes, std::string_view& OutUtf8, std::string& OutFault, int32& OutFaultLine)
-{
-	OutUtf8 = Bytes;
-	if (TextDocument::IsUtf16(TextDocument::Detect(OutUtf8)))
-	{
-		OutFault.clear();
-		return false;
-	}
-	const size_t Bad = TextCoding::FindInvalidUtf8(OutUtf8);
-	const size_t Fault = std::min(Bad, OutUtf8.find('\0'));
-	if (Fault != OutUtf8.size())
+	const size_t Bad = IsConverted() ? Text.size() : TextCoding::FindInvalidUtf8(Text);
+	const size_t Fault = std::min(Bad, Text.find('\0'));
+	if (Fault != Text.size())
 	{
 		OutFault = Fault == Bad ? TextDocument::UnknownEncoding : TextDocument::NullCharacters;
-		OutFaultLine = TextDocument::LineOf(OutUtf8, Fault);
+		OutFaultLine = TextDocument::LineOf(Text, Fault);
 		return false;
 	}
 	return true;
 }
 
-bool FTextDocument::Encode(std::string& OutBytes) const
+bool FTextDocument::IsConverted() const
 {
-	OutBytes = TextDocument::ToMark(Encoding);
-	const bool bUtf16 = TextDocument::IsUtf16(Encoding);
-	OutBytes.reserve(Units.size() * (bUtf16 ? 2 : 1));
-	for (const FTextLine& Line : Lines)
-	{
-		for (const std::u16string_view Text : {Line.Text, TextDocument::ToText(Line.End)})
-		{
-			if (bUtf16)
-			{
-				TextDocument::AppendUtf16(Text, Encoding, OutBytes);
-			}
-			else if (!TextCoding::EncodeUtf8(Text, OutBytes))
-			{
-				return false;
-			}
-		}
-	}
-	return true;
+	return TextDocument::IsUtf16(Encoding);
 }
 
 ELineEnd FTextDocument::GetUsualEnd() const
 {
 	size_t Counts[4] = {};
-	for (const FTextLine& Line : Lines)
+	for (FTextLines Lines(Text); Lines.Advance();)
 	{
-		++Counts[static_cast<size_t>(Line.End)];
+		++Counts[static_cast<size_t>(Lines.GetLine().End)];
 	}
 	ELineEnd Usual = ELineEnd::Lf;
 	for (const ELineEnd Candidate : {ELineEnd::CrLf, ELineEnd::Cr})
@@ -194,72 +163,73 @@ ELineEnd FTextDocument::GetUsualEnd() const
 	return Usual;
 }
 
-void FTextDocument::SetLines(std::vector<FTextLine> NewLines)
+FTextComposer::FTextComposer(const FTextDocument& InOld)
+	: Old(InOld)
+	, UsualEnd(InOld.GetUsualEnd())
+	, bLastLineEnds(InOld.GetText().empty() || TextDocument::EndsWithLineEnd(InOld.GetText()))
 {
-	const ELineEnd Usual = GetUsualEnd();
-	const bool bLastEnds = Lines.empty() || Lines.back().End != ELineEnd::None;
-	Lines = std::move(NewLines);
-	for (FTextLine& Line : Lines)
-	{
-		Line.End = Line.End == ELineEnd::None ? Usual : Line.End;
-	}
-	SetLastLineEnds(bLastEnds);
+	constexpr size_t Room = 16 * 1024; // for what is usually added
+	Text.reserve(Old.GetText().size() + Room);
 }
 
-void FTextDocument::SetLastLineEnds(bool bEnds)
+void FTextComposer::EndLine()
 {
-	if (!Lines.empty() && bEnds != (Lines.back().End != ELineEnd::None))
+	if (!Text.empty() && LastEndLength == 0)
 	{
-		Lines.back().End = bEnds ? GetUsualEnd() : ELineEnd::None;
+		Text += TextDocument::ToText(UsualEnd);
 	}
 }
 
-std::vector<FTextLine> FTextDocument::KeepLineEnds(const std::vector<std::u16string_view>& Texts) const
+void FTextComposer::Keep(size_t Begin, size_t End)
 {
-	std::vector<FTextLine> Result(Texts.size());
-	for (size_t Index = 0; Index < Texts.size(); ++Index)
+	if (Begin == End)
 	{
-		Result[Index].Text = Texts[Index];
+		return;
 	}
-	const size_t MaxCommon = std::min(Texts.size(), Lines.size());
-	size_t Front = 0;
-	while (Front < MaxCommon && Lines[Front].Text == Texts[Front])
-	{
-		Result[Front].End = Lines[Front].End;
-		++Front;
-	}
-	for (size_t Back = 1; Back <= MaxCommon - Front; ++Back)
-	{
-		const FTextLine& Old = Lines[Lines.size() - Back];
-		if (Old.Text != Texts[Texts.size() - Back])
-		{
-			break;
-		}
-		Result[Texts.size() - Back].End = Old.End;
-	}
-	return Result;
+	EndLine();
+	Text += Old.GetText().substr(Begin, End - Begin);
+	const size_t Single = TextDocument::EndsWithLineEnd(Text) ? 1 : 0;
+	LastEndLength = Text.ends_with("\r\n") ? 2 : Single;
 }
 
-std::vector<FTextLine> FTextDocument::SplitLines(std::u16string_view Text)
+void FTextComposer::Add(std::string_view Line, ELineEnd End)
 {
-	std::vector<FTextLine> Result;
-	size_t Start = 0;
-	for (size_t At = 0; At < Text.size(); ++At)
+	EndLine();
+	const std::string_view EndText = TextDocument::ToText(End == ELineEnd::None ? UsualEnd : End);
+	Text += Line;
+	Text += EndText;
+	LastEndLength = EndText.size();
+}
+
+bool FTextComposer::EndsWithBlankLine() const
+{
+	FTextLines Lines = FTextLines::FromEnd(Text);
+	return Lines.StepBack() && Lines.Get().find_first_not_of(" \t\v\f") == std::string_view::npos;
+}
+
+std::string FTextComposer::Finish()
+{
+	if (bLastLineEnds)
 	{
-		const char16_t Unit = Text[At];
-		if (Unit != u'\n' && Unit != u'\r')
-		{
-			continue;
-		}
-		const bool bPair = Unit == u'\r' && At + 1 < Text.size() && Text[At + 1] == u'\n';
-		const ELineEnd Single = Unit == u'\n' ? ELineEnd::Lf : ELineEnd::Cr;
-		Result.push_back(FTextLine{Text.substr(Start, At - Start), bPair ? ELineEnd::CrLf : Single});
-		At += bPair ? 1 : 0;
-		Start = At + 1;
+		EndLine();
 	}
-	if (Start < Text.size())
+	else
 	{
-		Result.push_back(FTextLine{Text.substr(Start), ELineEnd::None});
+		Text.resize(Text.size() - LastEndLength);
 	}
-	return Result;
+	return std::move(Text);
+}
+
+bool TextEncoding::Encode(std::string Text, ETextEncoding Encoding, std::string& OutBytes)
+{
+	if (TextDocument::IsUtf16(Encoding))
+	{
+		OutBytes = TextDocument::ToMark(Encoding);
+		TextDocument::AppendUtf16(Text, Encoding, OutBytes);
+		return true;
+	}
+	OutBytes = std::move(Text);
+	const bool bExpressible = TextCoding::FindInvalidUtf8(OutBytes) == OutBytes.size();
+	OutBytes.insert(0, TextDocument::ToMark(Encoding));
+	return bExpressible;
 }

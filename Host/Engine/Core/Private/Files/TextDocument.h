@@ -3,10 +3,11 @@
 #pragma once
 
 #include "CoreTypes.h"
+#include "HostFiles.h"
+#include "HostLines.h"
 
 #include <string>
 #include <string_view>
-#include <vector>
 
 enum class ETextEncoding : uint8
 {
@@ -16,73 +17,77 @@ enum class ETextEncoding : uint8
 	Utf16BigEndian
 };
 
-enum class ELineEnd : uint8
-{
-	None, // the end of the text ends the line; as input to SetLines(): whatever is usual in this file
-	Lf,
-	CrLf,
-	Cr
-};
-
-struct FTextLine
-{
-	std::u16string_view Text; // without its end
-	ELineEnd End = ELineEnd::None;
-};
-
-/** A text file taken apart into lines such that putting it together again gives the same bytes. Lines point into it. */
+/** A text file as one UTF-8 text. Ranges of it that an edit keeps become the same bytes again (FTextComposer). */
 class FTextDocument
 {
 public:
 	/** An empty file in the encoding of plain new files. */
 	FTextDocument() = default;
-	FTextDocument(FTextDocument&&) = default;
-	FTextDocument& operator=(FTextDocument&&) = default;
+	FTextDocument(const FTextDocument&) = delete;
+	FTextDocument& operator=(const FTextDocument&) = delete;
 
 	/**
-	 * Takes over what the bytes hold.
+	 * Takes over what the bytes hold. Files that are UTF-8 already, which may be large, are not copied.
 	 * @param OutFault what is wrong with them, as the end of a sentence; OutFaultLine is one-based
 	 * @return false when no supported encoding explains the bytes, or when they hold null characters and so are no text.
 	 */
-	bool Decode(std::string_view Bytes, std::string& OutFault, int32& OutFaultLine);
+	bool Decode(HostFiles::FSharedBytes InBytes, std::string& OutFault, int32& OutFaultLine);
 
-	/**
-	 * Where the bytes are UTF-8, with or without a mark, checks them like Decode() and leaves it at that: most readers of big files look at
-	 * a small part of them.
-	 * @param OutUtf8 the bytes without mark
-	 * @return false, with the fault, when they are not sound. Other encodings count as a fault without a description.
-	 */
-	static bool CheckUtf8(std::string_view Bytes, std::string_view& OutUtf8, std::string& OutFault, int32& OutFaultLine);
+	/** Without byte-order mark. Half of a surrogate pair, which a UTF-16 file can hold, is three bytes. */
+	std::string_view GetText() const { return Text; }
 
-	/** False when UTF-8 is wanted and a line holds half of a surrogate pair. */
-	bool Encode(std::string& OutBytes) const;
+	/** What was decoded; never null. */
+	const HostFiles::FSharedBytes& GetBytes() const { return Bytes; }
 
-	const std::vector<FTextLine>& GetLines() const { return Lines; }
-	std::u16string_view GetText() const { return std::u16string_view(Units.data(), Units.size()); }
+	/** Whether the text stands apart from the bytes, because these are UTF-16. */
+	bool IsConverted() const;
 
 	ETextEncoding GetEncoding() const { return Encoding; }
-	void SetEncoding(ETextEncoding InEncoding) { Encoding = InEncoding; }
 
 	/** The line end that most lines have; LF when none has one. */
 	ELineEnd GetUsualEnd() const;
 
-	/**
-	 * Replaces the lines; their texts must live as long as this document does. Lines without an end get the usual one. The last line has
-	 * an end exactly if the last line had one before; in a document without lines it gets one.
-	 */
-	void SetLines(std::vector<FTextLine> NewLines);
+private:
+	HostFiles::FSharedBytes Bytes = std::make_shared<const std::string>();
+	std::string Converted; // of UTF-16
+	std::string_view Text; // into one of them
+	ETextEncoding Encoding = ETextEncoding::Utf8;
+};
 
-	/** The same texts with line ends: lines in common with this document, at the beginning and at the end, keep theirs. */
-	std::vector<FTextLine> KeepLineEnds(const std::vector<std::u16string_view>& Texts) const;
+/** Makes the next text of a document from ranges of the old one, and new lines. */
+class FTextComposer
+{
+public:
+	explicit FTextComposer(const FTextDocument& InOld);
 
-	/** As the last line's end would not follow from the lines before: overrides it. Does nothing without lines. */
-	void SetLastLineEnds(bool bEnds);
+	/** Whole lines of the old text, as they are; but a last line without end gets the usual one when more follows. */
+	void Keep(size_t Begin, size_t End);
 
-	/** Splits at CRLF, LF and lone CR; an end at the very end starts no further line. */
-	static std::vector<FTextLine> SplitLines(std::u16string_view Text);
+	void Add(std::string_view Line, ELineEnd End = ELineEnd::None);
+
+	bool IsEmpty() const { return Text.empty(); }
+
+	/** Whether the last line is empty or nothing but blanks. */
+	bool EndsWithBlankLine() const;
+
+	/** Whether the last line is to have an end. As in the old text unless it is said; in one without lines it has one. */
+	void SetLastLineEnds(bool bEnds) { bLastLineEnds = bEnds; }
+
+	/** The new text. Nothing can be done with the composer afterwards. */
+	std::string Finish();
 
 private:
-	ETextEncoding Encoding = ETextEncoding::Utf8;
-	std::vector<char16_t> Units; // a vector, because lines point into it and moving a vector leaves its elements where they are
-	std::vector<FTextLine> Lines;
+	void EndLine();
+
+	const FTextDocument& Old;
+	ELineEnd UsualEnd;
+	bool bLastLineEnds;
+	std::string Text;
+	size_t LastEndLength = 0; // of the last line's end, in bytes
 };
+
+namespace TextEncoding
+{
+	/** What a file with this text holds. False when UTF-8 is wanted and the text has half of a surrogate pair. */
+	bool Encode(std::string Text, ETextEncoding Encoding, std::string& OutBytes);
+}

@@ -7,6 +7,7 @@
 #include "Files/TextCoding.h"
 #include "HostPaths.h"
 #include "HostProblems.h"
+#include "Misc/Paths.h"
 
 #include <cstring>
 
@@ -16,13 +17,20 @@ namespace WriteRules
 	constexpr mode_t PrivateFolderMode = 0700;
 	constexpr mode_t SharedFolderMode = 0777; // less what the umask takes
 
+	bool IsIn(const std::string& Path, const FString& Directory)
+	{
+		const std::string Folder = NativePath::Resolve(Directory);
+		return Path == Folder || Path.starts_with(Folder + "/");
+	}
+
 	bool IsPrivate(const std::string& Path)
 	{
-		const auto IsIn = [&Path](const FString& Directory) {
-			const std::string Folder = NativePath::Resolve(Directory);
-			return Path == Folder || Path.starts_with(Folder + "/");
-		};
-		return IsIn(HostPaths::GetUserSettingsDir()) || IsIn(HostPaths::GetUserStateDir());
+		return IsIn(Path, HostPaths::GetUserSettingsDir()) || IsIn(Path, HostPaths::GetUserStateDir());
+	}
+
+	bool IsForOwnerOnly(const std::string& Path)
+	{
+		return IsPrivate(Path) || IsIn(Path, FPaths::GeneratedConfigDir());
 	}
 
 	void ReportNotWritten(const std::string& Path, const FString& Message, const TCHAR* Remedy)
@@ -61,7 +69,7 @@ namespace WriteRules
 
 	mode_t GetModeOfNewFile(const std::string& Path)
 	{
-		return IsPrivate(Path) ? PrivateFileMode : DiskFile::GetNewFileMode();
+		return IsForOwnerOnly(Path) ? PrivateFileMode : DiskFile::GetNewFileMode();
 	}
 
 	int MakeFolder(const std::string& Folder)

@@ -35,7 +35,10 @@ namespace WriteRules
 	/** Whether it lies in the user's settings or state folder: that is for its owner only. */
 	bool IsPrivate(const std::string& Path);
 
-	/** Anything that is not private follows the umask. */
+	/** Private files, and those in which the editor saves settings of the project: an API key may be one. Folders are not meant. */
+	bool IsForOwnerOnly(const std::string& Path);
+
+	/** Anything that is not for the owner only follows the umask. */
 	mode_t GetModeOfNewFile(const std::string& Path);
 
 	/** Creates the folder and those above it. @return 0 or an errno, which is not reported */

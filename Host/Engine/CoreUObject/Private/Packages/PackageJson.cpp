@@ -158,6 +158,12 @@ FString FJsonPlace::ToString() const
 
 bool PackageJson::Parse(const std::string& Text, FJson& OutDocument, FJsonProblem& OutProblem)
 {
+	FHostJsonFault Fault;
+	if (HostJsonFault::IsTooDeep(Text, Fault))
+	{
+		OutProblem = {Fault.Line, FString(), Fault.Message, TEXT("Make it flatter.")};
+		return false;
+	}
 	FDocumentBuilder Builder(Text, OutDocument);
 	if (!FJson::sax_parse(Text, &Builder))
 	{

@@ -58,7 +58,10 @@ bool FProperty::ExportText_Direct(FString& ValueStr, const void* Data, const voi
 
 const TCHAR* FProperty::ImportText_Direct(const TCHAR* Buffer, void* PropertyPtr, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
 {
-	return Buffer ? ImportText_Internal(Buffer, PropertyPtr, OwnerObject, PortFlags, ErrorText) : nullptr;
+	constexpr int32 MaxDepth = 256; // of values in each other, in a type that can hold values of its own kind
+	static int32 Depth = 0;
+	TGuardValue<int32> Deeper(Depth, Depth + 1);
+	return Buffer && Depth <= MaxDepth ? ImportText_Internal(Buffer, PropertyPtr, OwnerObject, PortFlags, ErrorText) : nullptr;
 }
 
 const TCHAR* FProperty::ImportText_InContainer(const TCHAR* Buffer, void* Container, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const

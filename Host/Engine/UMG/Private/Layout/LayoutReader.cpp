@@ -118,10 +118,16 @@ TOptional<FString> FLayoutReader::ReadString(const FJson& Json, const char* Key,
 TSharedPtr<FWidgetLayout> FLayoutReader::Read(const FString& Text)
 {
 	const std::string Utf8(TCHAR_TO_UTF8(*Text));
+	FHostJsonFault Fault;
+	if (HostJsonFault::IsTooDeep(Utf8, Fault))
+	{
+		Complain(FString(), FString::Printf(TEXT("line %d: %s"), Fault.Line, *Fault.Message));
+		return nullptr;
+	}
 	const FJson Document = FJson::parse(Utf8, nullptr, false);
 	if (Document.is_discarded())
 	{
-		const FHostJsonFault Fault = HostJsonFault::Find(Utf8);
+		Fault = HostJsonFault::Find(Utf8);
 		Complain(FString(), FString::Printf(TEXT("this is not JSON: line %d, %s"), Fault.Line, *Fault.Message));
 		return nullptr;
 	}
