@@ -177,7 +177,7 @@ TEST_F(DetailsHandle, ReachesElementsOfContainers)
 	EXPECT_EQ(First->Icons[1].IconName, FName(TEXT("anchor")));
 	EXPECT_EQ(View.FindHandle(TEXT("IconsByName[Oak].Font"))->SetValue(FName(TEXT("Hill"))), FPropertyAccess::Success);
 	EXPECT_EQ(First->IconsByName.FindRef(TEXT("Oak")).Font, FName(TEXT("Hill")));
-	EXPECT_EQ(Children(View.FindHandle(TEXT("Tags"))), "red=red green=green ");
+	EXPECT_EQ(Children(View.FindHandle(TEXT("Tags"))), "Tags=red Tags=green ");
 	EXPECT_EQ(View.FindHandle(TEXT("Tags[red]"))->SetValue(FString(TEXT("blue"))), FPropertyAccess::Fail) << "a set finds its elements by value";
 	EXPECT_FALSE(View.FindHandle(TEXT("Icons[2]")).IsValid());
 

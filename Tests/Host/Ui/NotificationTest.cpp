@@ -178,6 +178,7 @@ TEST_F(Notification, PressesTheNewestOfTwoEqualButtons)
 TEST_F(Notification, AButtonMayTakeItsOwnNotificationAway)
 {
 	FNotificationInfo Info = MakeInfo(0.0f, 0.0f);
+	Info.bFireAndForget = false;
 	TSharedPtr<SNotificationItem> Item;
 	Info.ButtonDetails.Add(FNotificationButtonInfo(FText::FromString(TEXT("Close")), FText::GetEmpty(), FSimpleDelegate::CreateLambda([&Item] {
 		Item->ExpireAndFadeout();
