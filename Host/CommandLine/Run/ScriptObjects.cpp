@@ -139,10 +139,10 @@ namespace ScriptObjects
 
 	TArray<FString> GetClassNames()
 	{
-		TArray<UClass*> Classes;
-		GetDerivedClasses(UObject::StaticClass(), Classes);
+		TArray<UObject*> Classes;
+		GetObjectsOfClass(UClass::StaticClass(), Classes);
 		TArray<FString> Names;
-		for (const UClass* Class : Classes)
+		for (const UObject* Class : Classes)
 		{
 			Names.Add(Class->GetName());
 		}

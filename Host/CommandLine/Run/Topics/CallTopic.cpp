@@ -28,8 +28,11 @@ namespace CallTopic
 		{
 			const UClass* Class = ScriptObjects::FindClass(Text, OutReason);
 			Object = Class != nullptr ? Class->GetDefaultObject() : nullptr;
-			OutReason = FString::Printf(TEXT("%s is neither an open panel nor a class"), *Text);
-			OutReason = Suggestions::Append(OutReason, Text, ScriptObjects::GetClassNames(), Suggestions::EList::No);
+			if (Object == nullptr)
+			{
+				OutReason = FString::Printf(TEXT("%s is neither an open panel nor a class"), *Text);
+				OutReason = Suggestions::Append(OutReason, Text, ScriptObjects::GetClassNames(), Suggestions::EList::No);
+			}
 		}
 		return Object;
 	}

@@ -74,7 +74,7 @@ void GetObjectsWithOuter(const UObject* Outer, TArray<UObject*>& Results, bool b
 void GetDerivedClasses(const UClass* ClassToLookFor, TArray<UClass*>& Results, bool bRecursive)
 {
 	TArray<UObject*> Classes;
-	GetObjectsOfClass(UClass::StaticClass(), Classes, true, RF_NoFlags);
+	GetObjectsOfClass(UClass::StaticClass(), Classes); // not the default object of UClass itself: it is no class and has no parents
 	for (UObject* Object : Classes)
 	{
 		UClass* Class = static_cast<UClass*>(Object);
