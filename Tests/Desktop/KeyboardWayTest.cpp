@@ -122,6 +122,7 @@ TEST_F(KeyboardWay, LeadsFromTheMissingProfileToThePlacedVariants)
 	Let(0.5);
 	TabTo(QStringLiteral("ConfiguratorList"));
 	Press(Qt::Key_Down);
+	Press(Qt::Key_Space);
 	Let(0.5);
 	TabTo(QStringLiteral("CreateAsset"));
 	WhenAsked([](QDialog& Dialog) { QTest::keyClick(&Dialog, Qt::Key_Return); });

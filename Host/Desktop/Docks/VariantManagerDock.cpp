@@ -26,8 +26,8 @@ namespace VariantManagerDock
 		NumColumns,
 	};
 
-	static const int NameWidth = 230;
-	static const int StateWidth = 90;
+	static const int NameWidth = 190;
+	static const int StateWidth = 84;
 	static const int DiffersRole = Qt::UserRole;
 
 	struct FStateLook

@@ -232,6 +232,12 @@ void FItemsArea::keyPressEvent(QKeyEvent* Event)
 		OnMoved(Step);
 		return;
 	}
+	const bool bPress = Event->key() == Qt::Key_Space || Event->key() == Qt::Key_Return || Event->key() == Qt::Key_Enter;
+	if (bPress && OnPressed)
+	{
+		OnPressed();
+		return;
+	}
 	QAbstractScrollArea::keyPressEvent(Event);
 }
 
@@ -243,6 +249,7 @@ FItemsView::FItemsView(IViewHost& InHost, QWidget& Parent)
 	GetArea().SetWithinRow(ItemsView::IsWithinRow(Parent));
 	GetArea().OnScrolled = [this] { Host.RequestFrame(); };
 	GetArea().OnMoved = [this](int Step) { MoveSelection(Step); };
+	GetArea().OnPressed = [this] { PressSelected(); };
 }
 
 /** The area outlives its view a little. */
@@ -250,6 +257,7 @@ FItemsView::~FItemsView()
 {
 	GetArea().OnScrolled = nullptr;
 	GetArea().OnMoved = nullptr;
+	GetArea().OnPressed = nullptr;
 }
 
 void FItemsView::Refresh(FSeenWidget& Seen)
@@ -300,6 +308,24 @@ void FItemsView::MoveSelection(int Step)
 	Input.Kind = EHostInput::Move;
 	Input.Index = Step;
 	Give(Input);
+}
+
+/** Moving selects a row, but some lists wait for it to be clicked. */
+void FItemsView::PressSelected()
+{
+	const TSharedPtr<SWidget> List = GetWidget();
+	if (!List.IsValid())
+	{
+		return;
+	}
+	for (const TSharedRef<SWidget>& Row : FHostWidgetAccess::ChildrenOf(*List))
+	{
+		if (FHostWidgetAccess::Describe(*Row).bSelected)
+		{
+			Host.Give(Row, FHostInput());
+			return;
+		}
+	}
 }
 
 FItemView::FItemView(IViewHost& InHost, QWidget& Parent)

@@ -34,6 +34,7 @@ public:
 
 	std::function<void()> OnScrolled;
 	std::function<void(int Step)> OnMoved; // by the keyboard, from the row that is selected
+	std::function<void()> OnPressed; // by the keyboard, the row that is selected
 
 	/** Within a row of another list, which says what there is: an empty one takes no room then. */
 	void SetWithinRow(bool bInWithinRow) { bWithinRow = bInWithinRow; }
@@ -75,6 +76,7 @@ private:
 	/** Has the list make the rows that are to be seen. */
 	void AskForRows(FSeenWidget& Seen);
 	void MoveSelection(int Step);
+	void PressSelected();
 
 	FSlateLayout* Layout;
 	FChildViews Rows;
