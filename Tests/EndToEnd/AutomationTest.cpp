@@ -4,6 +4,7 @@
 #include "ProjectOnDisk.h"
 
 #include <gmock/gmock.h>
+#include <set>
 
 using testing::HasSubstr;
 using testing::Not;
@@ -42,7 +43,7 @@ TEST_F(AutomationRuns, RunsTheSuiteAndLeavesTheProjectAsItWas)
 {
 	CopySample();
 	const FFolderState Before = LookAtFolder(Folder.GetNative("Project"));
-	const FProgramResult Result = Run({GetProject(), "--with-repair"});
+	const FProgramResult Result = Run({GetProject(), "--with-repair", "--report", Folder.GetNative("Report").string()});
 	EXPECT_EQ(Result.ExitStatus, 0) << Result.Output << Result.Errors;
 	EXPECT_THAT(Result.Output, HasSubstr("  Velmorant.Module.Collision.Repair\n"));
 	EXPECT_EQ(Result.Errors, "");
@@ -50,6 +51,29 @@ TEST_F(AutomationRuns, RunsTheSuiteAndLeavesTheProjectAsItWas)
 	{
 		ASSERT_TRUE(Before.contains(Path)) << Path;
 		EXPECT_EQ(State.first, Before.at(Path).first) << Path;
+	}
+}
+
+TEST_F(AutomationRuns, LeavesOutNothingInEveryProject)
+{
+	const auto FindLeftOut = [this](std::vector<std::string> Arguments) {
+		Arguments.insert(Arguments.end(), {"--report", Folder.GetNative("Report").string()});
+		EXPECT_EQ(Run(Arguments).ExitStatus, 0);
+		std::set<std::string> LeftOut;
+		const std::string Report = Folder.Read("Report/index.json");
+		for (size_t At = Report.find("Left out: "); At != std::string::npos; At = Report.find("Left out: ", At + 1))
+		{
+			LeftOut.insert(Report.substr(At, Report.find('"', At) - At));
+		}
+		return LeftOut;
+	};
+	MakeProject();
+	const std::set<std::string> InAnEmptyLevel = FindLeftOut({GetProject(), "Velmorant.Module"});
+	std::filesystem::remove_all(Folder.GetNative("Project"));
+	CopySample();
+	for (const std::string& Reason : FindLeftOut({GetProject(), "Velmorant.Module", "--with-repair"}))
+	{
+		EXPECT_FALSE(InAnEmptyLevel.contains(Reason)) << Reason;
 	}
 }
 

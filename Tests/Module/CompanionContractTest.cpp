@@ -5,6 +5,7 @@
 #include "Containers/StringConv.h"
 #include "Contract/CompanionTables.h"
 #include "SourceText.h"
+#include "SpecifierTable.h"
 #include "TemporaryFolder.h"
 
 #include <cstdio>
@@ -152,6 +153,39 @@ namespace CompanionContractTest
 		return Names;
 	}
 
+	/** "FProject BlueprintType": what the details panel, Blueprints of the panels and the factories need. */
+	FNames FindNeededSpecifiers(const std::string& Module)
+	{
+		FNames OfBlueprints;
+		for (const std::string& Declaration : SourceText::FindAll(Module, std::regex("(?:UFUNCTION|UPROPERTY)\\(Blueprint[^\n]*\n([^\n]*)")))
+		{
+			OfBlueprints.merge(AsSet(SourceText::FindAll(Declaration, Word)));
+		}
+		const FNames InDetails = AsSet(SourceText::FindAll(Module, std::regex("GetChildHandle\\(\"(\\w+)\"\\)")));
+		FNames Factories = AsSet(SourceText::FindAll(Module, std::regex("class (\\w+) : public UVelmorantBlueprintFactory")));
+		FNames Needs;
+		for (const FExpectedName& Name : ReadExpected())
+		{
+			const bool bPicked = Name.Type == "FFontIconHandler" || Name.Type == "FVelmorantColorHandler";
+			if (bPicked && InDetails.contains(Name.Member))
+			{
+				Needs.insert(Name.GetName() + " EditAnywhere");
+			}
+			const bool bValue = Name.Text.starts_with("struct") || Name.Text.starts_with("enum");
+			if (bValue && Name.Member.empty() && OfBlueprints.contains(Name.Type))
+			{
+				Needs.insert(Name.Type + " BlueprintType");
+			}
+		}
+		for (const std::string& Factory : Factories)
+		{
+			const std::vector<std::string> Made = SourceText::FindAll(Module, std::regex(Factory + "::" + Factory + "\\(\\)\\s*\\{\\s*SupportedClass = (\\w+)::"));
+			EXPECT_EQ(Made.size(), 1u) << Factory;
+			Needs.insert((Made.empty() ? "" : Made[0]) + " Blueprintable");
+		}
+		return Needs;
+	}
+
 	/** The same as FindNeeds() returns, of what is listed. */
 	FNames ReadListed()
 	{
@@ -232,6 +266,23 @@ TEST(CompanionContract, TellsOfGivenNamesWhichPartsAreGiven)
 		}
 	}
 	EXPECT_GT(NumParts, 15u);
+}
+
+TEST(CompanionContract, ListsTheSpecifiersThatTheModuleNeeds)
+{
+	FNames Listed;
+	for (const FExpectedName& Name : ReadExpected())
+	{
+		for (const std::string& Specifier : Name.Specifiers)
+		{
+			const std::string Known = Specifier.substr(0, Specifier.find('='));
+			EXPECT_NE(HeaderTool::FindSpecifier(Known, Name.Member.empty() ? HeaderTool::InClass : HeaderTool::InProperty, false), nullptr) << Specifier << " of " << Name.GetName();
+			Listed.insert(Name.GetName() + " " + Known);
+		}
+	}
+	const FNames Needs = FindNeededSpecifiers(ReadModule());
+	EXPECT_GE(Needs.size(), 13u);
+	EXPECT_EQ(Without(Needs, Listed), "") << "Docs/Companions.md does not list these";
 }
 
 TEST(CompanionContract, ListsWhatTheModuleNamesInTexts)

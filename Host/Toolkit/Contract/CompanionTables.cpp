@@ -15,6 +15,7 @@ namespace CompanionTables
 {
 	const std::string NamesHeading = "| Header | Type | Given | Chosen | For |";
 	const std::string PartsHeading = "| Declaration | Given parts |";
+	const std::string SpecifiersHeading = "| Declaration | Specifiers | For |";
 
 	std::vector<std::string> FindAll(const std::string& Text, const std::regex& Pattern)
 	{
@@ -71,8 +72,8 @@ namespace CompanionTables
 			}
 			for (FExpectedName& Name : Names)
 			{
-				const auto Found = Parts.find(Name.GetName());
-				Name.GivenParts = Found != Parts.end() ? Found->second : std::set<std::string>();
+				Name.GivenParts = Parts[Name.GetName()];
+				Name.Specifiers = Specifiers[Name.GetName()];
 			}
 		}
 
@@ -84,7 +85,7 @@ namespace CompanionTables
 			{
 				Module = Line.substr(3);
 			}
-			if (!Line.starts_with("|") || Line == NamesHeading || Line == PartsHeading)
+			if (!Line.starts_with("|") || Line == NamesHeading || Line == PartsHeading || Line == SpecifiersHeading)
 			{
 				Table = Line;
 			}
@@ -95,6 +96,10 @@ namespace CompanionTables
 			else if (!Line.starts_with("|---") && Table == PartsHeading)
 			{
 				AddParts(FindAll(Line, CellPattern));
+			}
+			else if (!Line.starts_with("|---") && Table == SpecifiersHeading)
+			{
+				AddSpecifiers(FindAll(Line, CellPattern));
 			}
 		}
 
@@ -109,7 +114,7 @@ namespace CompanionTables
 				throw std::out_of_range(Cells[1]);
 			}
 			const std::string Text = CodeIn(Cells[1]).at(0);
-			FExpectedName Name{Module, Header, NameOfType(Text), "", Text, Origin[1] == "given", {}};
+			FExpectedName Name{Module, Header, NameOfType(Text), "", Text, Origin[1] == "given", {}, {}};
 			Names.push_back(Name);
 			for (const size_t Column : {2, 3})
 			{
@@ -133,8 +138,18 @@ namespace CompanionTables
 			}
 		}
 
+		void AddSpecifiers(const std::vector<std::string>& Cells)
+		{
+			const std::vector<std::string> Needed = CodeIn(Cells.at(1));
+			for (const std::string& Name : CodeIn(Cells.at(0)))
+			{
+				Specifiers[Name].insert(Needed.begin(), Needed.end());
+			}
+		}
+
 		std::vector<FExpectedName>& Names;
 		std::map<std::string, std::set<std::string>> Parts; // by name
+		std::map<std::string, std::set<std::string>> Specifiers; // by name
 		std::string Module;
 		std::string Header;
 		std::string Table; // heading of the table that the last line was in

@@ -18,6 +18,7 @@ struct FExpectedName
 	std::string Text; // "bool HasValidToken() const": without body, initial value and export macro
 	bool bGiven = false; // the toolkit's own name; otherwise the real companions may call it something else
 	std::set<std::string> GivenParts; // of the declaration of a given name: "base class", "parameters", "result", "static"
+	std::set<std::string> Specifiers; // that the module cannot do without: "EditAnywhere", "Config=Game"
 
 	std::string GetName() const { return Member.empty() ? Type : Type + "::" + Member; }
 	bool IsConstructor() const { return Member == Type; }

@@ -2,6 +2,7 @@
 
 #include "Contract/Declaration.h"
 
+#include "SpecifierTable.h"
 #include "TextTools.h"
 
 #include <algorithm>
@@ -13,13 +14,18 @@ namespace Declaration
 	using HeaderTool::EAccess;
 	using HeaderTool::EClassKind;
 	using HeaderTool::EEnumForm;
+	using HeaderTool::EMacro;
+	using HeaderTool::ERole;
 	using HeaderTool::FClass;
 	using HeaderTool::FDelegateType;
 	using HeaderTool::FEnum;
 	using HeaderTool::FEnumerator;
+	using HeaderTool::FFlagNames;
 	using HeaderTool::FFunction;
 	using HeaderTool::FHeader;
+	using HeaderTool::FMetaData;
 	using HeaderTool::FProperty;
+	using HeaderTool::FSpecifierRow;
 	using HeaderTool::Join;
 	using HeaderTool::Trim;
 
@@ -61,9 +67,48 @@ namespace Declaration
 		return "(" + Join(Spelled, ", ") + ")";
 	}
 
+	bool Holds(const FSpecifierRow& Row, const FFlagNames& Flags, const FMetaData& Meta)
+	{
+		const bool bFlags = std::all_of(Row.Flags.begin(), Row.Flags.end(), [&Flags](const char* Flag) { return Flags.Has(Flag); });
+		const auto* Entry = Row.Key != nullptr ? Meta.Find(Row.Key) : nullptr;
+		const bool bKey = Row.Key == nullptr || (Entry != nullptr && (Row.KeyValue == nullptr || Entry->Value == Row.KeyValue));
+		return bFlags && bKey && !(Row.Flags.empty() && Row.Key == nullptr);
+	}
+
+	/** VisibleAnywhere sets a flag of EditAnywhere's and another one: then it is not the latter. */
+	bool IsNarrower(const FSpecifierRow& Row, const FSpecifierRow& Than)
+	{
+		return Row.Flags.size() > Than.Flags.size() && !Than.Flags.empty() && std::all_of(Than.Flags.begin(), Than.Flags.end(), [&Row](const char* Flag) {
+			return std::any_of(Row.Flags.begin(), Row.Flags.end(), [Flag](const char* Other) { return std::string(Other) == Flag; });
+		});
+	}
+
+	std::set<std::string> FindSpecifiers(EMacro Macro, const FFlagNames& Flags, const FMetaData& Meta)
+	{
+		std::vector<const FSpecifierRow*> Rows;
+		for (const FSpecifierRow& Row : HeaderTool::GetSpecifierTable())
+		{
+			if ((Row.Macros & Macro) && Row.Role != ERole::Key && Holds(Row, Flags, Meta))
+			{
+				Rows.push_back(&Row);
+			}
+		}
+		std::set<std::string> Result;
+		for (const FSpecifierRow* Row : Rows)
+		{
+			if (std::none_of(Rows.begin(), Rows.end(), [Row](const FSpecifierRow* Other) { return IsNarrower(*Other, *Row); }))
+			{
+				Result.insert(Row->Name);
+			}
+		}
+		return Result;
+	}
+
 	FDeclaration OfProperty(const FProperty& Property)
 	{
-		return {Property.Place, Property.Type.Spell() + " " + Property.Name, {{"type", Property.Type.Spell()}, {"access", SpellAccess(Property.Access)}}};
+		FDeclaration Result{Property.Place, Property.Type.Spell() + " " + Property.Name, {{"type", Property.Type.Spell()}, {"access", SpellAccess(Property.Access)}}, {}};
+		Result.Specifiers = FindSpecifiers(EMacro::InProperty, Property.Flags, Property.Meta);
+		return Result;
 	}
 
 	FDeclaration OfFunction(const FFunction& Function)
@@ -72,6 +117,7 @@ namespace Declaration
 		Result.Place = Function.Place;
 		Result.Text = std::string(Function.bStatic ? "static " : "") + (Function.bVirtual ? "virtual " : "") + Function.Return.Spell() + " " + Function.Name + SpellParameters(Function.Parameters) + (Function.bConst ? " const" : "");
 		Result.Parts = {{"result", Function.Return.Spell()}, {"parameters", SpellTypes(Function.Parameters)}, {"static", SpellFlag(Function.bStatic, "static")}, {"const", SpellFlag(Function.bConst, "const")}, {"virtual", SpellFlag(Function.bVirtual, "virtual")}, {"access", SpellAccess(Function.Access)}};
+		Result.Specifiers = FindSpecifiers(EMacro::InFunction, Function.Flags, Function.Meta);
 		return Result;
 	}
 
@@ -79,27 +125,32 @@ namespace Declaration
 	{
 		const std::string Kind = Delegate.bMulticast ? "dynamic multicast delegate" : "dynamic delegate";
 		const std::string Result = Delegate.Return.Spell();
-		return {Delegate.Place, Kind + " " + Result + " " + Delegate.Name + SpellParameters(Delegate.Parameters), {{"kind", Kind}, {"result", Result}, {"parameters", SpellTypes(Delegate.Parameters)}}};
+		return {Delegate.Place, Kind + " " + Result + " " + Delegate.Name + SpellParameters(Delegate.Parameters), {{"kind", Kind}, {"result", Result}, {"parameters", SpellTypes(Delegate.Parameters)}}, {}};
 	}
 
 	FDeclaration OfClass(const FClass& Class)
 	{
 		const std::string Kind = Class.Kind == EClassKind::Struct ? "struct" : "class";
-		FDeclaration Result{Class.Place, Kind + " " + Class.CppName, {{"kind", Kind}, {"base class", Class.SuperName()}}};
+		FDeclaration Result{Class.Place, Kind + " " + Class.CppName, {{"kind", Kind}, {"base class", Class.SuperName()}}, {}};
 		Result.Text += Class.Bases.empty() ? "" : " : public " + Class.SuperName();
+		Result.Specifiers = FindSpecifiers(Class.Kind == EClassKind::Struct ? EMacro::InStruct : EMacro::InClass, Class.Flags, Class.Meta);
+		if (!Class.ConfigName.empty())
+		{
+			Result.Specifiers.insert("Config=" + Class.ConfigName);
+		}
 		return Result;
 	}
 
 	FDeclaration OfEnum(const FEnum& Enum)
 	{
 		const std::string Kind = Enum.Form == EEnumForm::Scoped ? "enum class" : "enum";
-		return {Enum.Place, Kind + " " + Enum.CppType() + (Enum.Underlying.empty() ? "" : " : " + Enum.Underlying), {{"kind", Kind}, {"type", Enum.Underlying}}};
+		return {Enum.Place, Kind + " " + Enum.CppType() + (Enum.Underlying.empty() ? "" : " : " + Enum.Underlying), {{"kind", Kind}, {"type", Enum.Underlying}}, FindSpecifiers(EMacro::InEnum, {}, Enum.Meta)};
 	}
 
 	/** What is written as anything but a number, and what follows from that, has no known value. */
 	FDeclaration OfEnumerator(const FEnum& Enum, const FEnumerator& Enumerator)
 	{
-		FDeclaration Result{Enumerator.Place, Enumerator.Name, {}};
+		FDeclaration Result{Enumerator.Place, Enumerator.Name, {}, {}};
 		long Value = -1;
 		bool bKnown = true;
 		for (const FEnumerator* Each = Enum.Enumerators.data(); Each <= &Enumerator; ++Each)

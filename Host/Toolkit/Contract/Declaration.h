@@ -6,6 +6,7 @@
 
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 
 /** A reflected declaration in parts that can be compared, whatever it declares. */
@@ -16,6 +17,9 @@ struct FDeclaration
 
 	/** "type", "result", "parameters" (types only), "static", "const", "virtual", "access", "value", "kind", "base class"; what it has of them. */
 	std::map<std::string, std::string> Parts;
+
+	/** Those that are in force, by the names that the engine gives them; of several that say the same, the narrowest. "Config=Game", too. */
+	std::set<std::string> Specifiers;
 };
 
 namespace Declaration

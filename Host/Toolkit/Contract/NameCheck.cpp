@@ -110,6 +110,7 @@ void FNameCheck::Compare(const FExpectedName& Name, const FTypePlace& Owner, int
 {
 	const std::optional<FDeclaration> Wanted = NameCheck::GetExpected(Expected, Name);
 	const std::optional<FDeclaration> Found = Declaration::Find(Owner.Header->Model, Owner.Type->Name, Name.Member);
+	CompareSpecifiers(Name, Owner, Line, Found);
 	if (!Wanted.has_value() || !Found.has_value() || Name.IsConstructor())
 	{
 		return; // by its name alone, which is there
@@ -126,6 +127,26 @@ void FNameCheck::Compare(const FExpectedName& Name, const FTypePlace& Owner, int
 		const bool bStops = Name.bGiven && std::any_of(Parts.begin(), Parts.end(), [&Name](const std::string& Part) { return Name.GivenParts.count(Part) > 0; });
 		const bool bAccess = Parts == std::vector<std::string>{"access"};
 		Report(bStops, Name, Owner.Header->Path, Line, NameCheck::Quote(Found->Text) + (bAccess ? ", which is " + Found->Parts.at("access") : ""));
+	}
+}
+
+/** How a name is marked was chosen here for all of them. What a base class is marked with holds for those below it. */
+void FNameCheck::CompareSpecifiers(const FExpectedName& Name, const FTypePlace& Owner, int Line, const std::optional<FDeclaration>& Found)
+{
+	if (!Found.has_value() && Owner.Header->Diagnostics.HasErrors())
+	{
+		return; // perhaps it is what could not be read
+	}
+	std::set<std::string> Missing = Name.Specifiers;
+	for (const FTypePlace& Type : Name.Member.empty() ? Companions.GetChain(Owner) : std::vector<FTypePlace>{Owner})
+	{
+		const std::optional<FDeclaration> Each = Declaration::Find(Type.Header->Model, Type.Type->Name, Name.Member);
+		std::erase_if(Missing, [&Each](const std::string& Specifier) { return Each.has_value() && Each->Specifiers.count(Specifier) > 0; });
+	}
+	if (!Missing.empty())
+	{
+		const std::string Text = Found.has_value() ? Found->Text : Owner.Header->GetDeclaration(Line);
+		Report(false, Name, Owner.Header->Path, Line, NameCheck::Quote(Text) + ", which is not " + HeaderTool::Join({Missing.begin(), Missing.end()}, ", "));
 	}
 }
 

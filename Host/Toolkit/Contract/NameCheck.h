@@ -27,6 +27,7 @@ private:
 	void CheckType(const FExpectedName& Name, const FTypePlace& Place);
 	void CheckMember(const FExpectedName& Name, const FTypePlace& Type);
 	void Compare(const FExpectedName& Name, const FTypePlace& Owner, int Line);
+	void CompareSpecifiers(const FExpectedName& Name, const FTypePlace& Owner, int Line, const std::optional<FDeclaration>& Found);
 	void ReportTypeMissing(const std::vector<FExpectedName>& Type);
 	void ReportMissing(const FExpectedName& Name, const FTypePlace& Type);
 	std::string FindRenamed(const FExpectedName& Name, const FTypePlace& Type) const;

@@ -29,9 +29,9 @@ public:
 
 	bool DerivesFrom(const FTypePlace& Type, const std::string& Base) const;
 
-private:
 	/** Type and its bases, nearest first, as far as headers declare them. */
 	std::vector<FTypePlace> GetChain(const FTypePlace& Type) const;
 
+private:
 	std::multimap<std::string, FTypePlace> Types;
 };

@@ -126,14 +126,11 @@ namespace FileHelperTest
 		};
 		using EOptions = FFileHelper::EEncodingOptions;
 		const FCase Cases[] = {
-			{"ASCII is single-byte, every line with an end", EOptions::AutoDetect, {"a", "b"}, "a\nb\n"},
 			{"anything else is UTF-16, little endian, with mark", EOptions::AutoDetect, {"a", "\xC3\xBC"}, "\xFF\xFE" + Utf16("a\n") + "\xFC\0"s + Utf16("\n")},
 			{"the last ASCII character is one", EOptions::AutoDetect, {"\x7F"}, "\x7F\n"},
 			{"the next one is not", EOptions::AutoDetect, {"\xC2\x80"}, "\xFF\xFE\x80\0"s + Utf16("\n")},
 			{"ASCII that is forced", EOptions::ForceAnsi, {"a"}, "a\n"},
-			{"no lines make an empty file", EOptions::AutoDetect, {}, ""},
 			{"forced UTF-8 has a mark", EOptions::ForceUTF8, {"\xC3\xBC"}, "\xEF\xBB\xBF\xC3\xBC\n"},
-			{"forced UTF-8 without mark has none", EOptions::ForceUTF8WithoutBOM, {"\xC3\xBC"}, "\xC3\xBC\n"},
 			{"forced Unicode is UTF-16", EOptions::ForceUnicode, {"a"}, "\xFF\xFE" + Utf16("a\n")},
 		};
 		for (const FCase& Case : Cases)

@@ -88,28 +88,6 @@ TEST_F(Questions, AChoiceThatIsNotOfferedIsReportedAndNotTaken)
 	EXPECT_TRUE(HostLog::GetLines().ContainsByPredicate([](const FHostLogLine& Line) { return Line.Verbosity == ELogVerbosity::Warning && Line.Text.Contains(TEXT("'Maybe'")); }));
 }
 
-TEST_F(MessageDialogs, ReturnTheCautiousAnswerWhenNobodyIsThere)
-{
-	struct FCase
-	{
-		EAppMsgType::Type Type;
-		EAppReturnType::Type Expected;
-	};
-	const FCase Cases[] = {
-		{EAppMsgType::Ok, EAppReturnType::Ok},
-		{EAppMsgType::YesNo, EAppReturnType::No},
-		{EAppMsgType::OkCancel, EAppReturnType::Cancel},
-		{EAppMsgType::YesNoCancel, EAppReturnType::Cancel},
-		{EAppMsgType::CancelRetryContinue, EAppReturnType::Cancel},
-		{EAppMsgType::YesNoYesAllNoAll, EAppReturnType::No},
-	};
-	for (const FCase& Case : Cases)
-	{
-		EXPECT_EQ(FMessageDialog::Open(Case.Type, FText::FromString(TEXT("Go on?"))), Case.Expected) << "type " << Case.Type;
-	}
-	EXPECT_EQ(FMessageDialog::Open(EAppMsgType::YesNo, EAppReturnType::Yes, FText::FromString(TEXT("Go on?"))), EAppReturnType::Yes);
-}
-
 TEST_F(MessageDialogs, AskWithTitleTextAndButtonsAndLogTheResult)
 {
 	HostLog::Clear();

@@ -32,20 +32,6 @@ TEST(Name, ComparesIgnoringCaseAndPrintsAsWritten)
 	EXPECT_FALSE(Lower == TEXT("turmchen n"));
 }
 
-TEST(Name, IsNoneForEmptyTextAndNoneInAnyCase)
-{
-	for (const FName Name : {FName(), FName(NAME_None), FName(TEXT("")), FName(static_cast<const TCHAR*>(nullptr)), FName(TEXT("none")), FName("NONE")})
-	{
-		EXPECT_TRUE(Name.IsNone());
-		EXPECT_TRUE(Name == NAME_None);
-		EXPECT_TRUE(Name.IsValid()) << "None is a valid name too";
-	}
-	EXPECT_EQ(FName().ToString(), TEXT("None"));
-	EXPECT_TRUE(FName() == TEXT("none"));
-	EXPECT_FALSE(FName() == TEXT("A name that nobody has made"));
-	EXPECT_FALSE(FName(TEXT("None_1")).IsNone());
-}
-
 TEST(Name, FindDoesNotAdd)
 {
 	EXPECT_TRUE(FName(TEXT("NameThatOnlyThisTestAsksFor_3"), FNAME_Find).IsNone());

@@ -131,16 +131,6 @@ TEST(String, SearchAgreesWithComparingAtEveryPlace)
 	}
 }
 
-TEST(String, StartsAndEndsIgnoreCaseUnlessTold)
-{
-	const FString Line(TEXT("+Profiles=(Name)"));
-	EXPECT_TRUE(Line.StartsWith(TEXT("+PROFILES")));
-	EXPECT_FALSE(Line.StartsWith(TEXT("+PROFILES"), ESearchCase::CaseSensitive));
-	EXPECT_TRUE(Line.EndsWith(TEXT("name)")));
-	EXPECT_FALSE(Line.EndsWith(TEXT("name)"), ESearchCase::CaseSensitive));
-	EXPECT_FALSE(FString(TEXT("ab")).StartsWith(TEXT("abc")));
-}
-
 TEST(String, ReplacesFromLeftToRightWithoutOverlap)
 {
 	struct FCase

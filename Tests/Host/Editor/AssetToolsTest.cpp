@@ -62,9 +62,6 @@ TEST_F(AssetTools, MakesNamesThatNothingHasYet)
 		std::string Expected;
 	};
 	const FCase Cases[] = {
-		{"a free name is taken as it is", {}, {}, TEXT("/Game/D/Configurator"), TEXT("_X"), "/Game/D/Configurator_X"},
-		{"the first number is 1", {TEXT("/Game/D/Configurator_X")}, {}, TEXT("/Game/D/Configurator"), TEXT("_X"), "/Game/D/Configurator_X1"},
-		{"numbers go on", {TEXT("/Game/D/A_X"), TEXT("/Game/D/A_X1")}, {}, TEXT("/Game/D/A"), TEXT("_X"), "/Game/D/A_X2"},
 		{"a file takes a name", {}, {"D/A_X.uasset.json"}, TEXT("/Game/D/A"), TEXT("_X"), "/Game/D/A_X1"},
 		{"a level takes a name", {}, {"D/A_X.umap.json"}, TEXT("/Game/D/A"), TEXT("_X"), "/Game/D/A_X1"},
 		{"a binary asset takes a name", {}, {"D/A_X.uasset"}, TEXT("/Game/D/A"), TEXT("_X"), "/Game/D/A_X1"},

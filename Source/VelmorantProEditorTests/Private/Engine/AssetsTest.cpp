@@ -4,6 +4,7 @@
 #include "AssetRegistry/AssetRegistryModule.h"
 #include "AssetToolsModule.h"
 #include "CoreMinimal.h"
+#include "EditorAssetLibrary.h"
 #include "IAssetTools.h"
 #include "LevelVariantSets.h"
 #include "Misc/App.h"
@@ -94,6 +95,17 @@ bool FVelmorantAssetRegistryTest::RunTest(const FString&)
 		Names.Add(Asset.AssetName.ToString());
 	}
 	VelmorantTests::RecordBelief(*this, TEXT("order of assets in memory only, made as Second, First"), FString::Join(Names, TEXT(", ")));
+	return true;
+}
+
+IMPLEMENT_CUSTOM_SIMPLE_AUTOMATION_TEST(FVelmorantLoadMissingAssetTest, FVelmorantQuietTest, "Velmorant.Engine.Assets.LoadMissing", VelmorantTests::Flags)
+
+bool FVelmorantLoadMissingAssetTest::RunTest(const FString&)
+{
+	for (const TCHAR* Path : {TEXT("/VelmorantPro/VelmorantNowhere"), TEXT("/VelmorantNowhere/Panel.Panel"), TEXT("Panel"), TEXT("")})
+	{
+		TestNull(*FString::Printf(TEXT("'%s' is not there, and no failure"), Path), UEditorAssetLibrary::LoadAsset(Path));
+	}
 	return true;
 }
 

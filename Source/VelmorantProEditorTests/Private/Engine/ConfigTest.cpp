@@ -55,6 +55,8 @@ bool FVelmorantConfigSectionTest::RunTest(const FString&)
 	TestEqualSensitive(TEXT("quotes around a whole value go"), *File.Read(TEXT("Other")), TEXT("Name=quoted"));
 	TestEqualSensitive(TEXT("what is not there"), *File.Read(TEXT("Missing")), TEXT("no section"));
 	TestTrue(TEXT("a section that is there exists"), GConfig->DoesSectionExist(TEXT("Other"), File.Path));
+	const ConfigTest::FFile Joined(Folder, TEXT("Joined.ini"), "[A]\nKey=one\\\nOther=two\n");
+	VelmorantTests::RecordBelief(*this, TEXT("a line that ends with a backslash, and the next"), Joined.Read(TEXT("A")));
 	TestFalse(TEXT("a missing file has no section"), GConfig->DoesSectionExist(TEXT("Other"), Folder.GetFile(TEXT("Missing.ini"))));
 	return true;
 }

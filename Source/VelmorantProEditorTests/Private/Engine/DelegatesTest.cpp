@@ -101,6 +101,17 @@ bool FVelmorantDynamicBroadcastTest::RunTest(const FString&)
 	TestEqual(TEXT("both are called"), Diary.Num(), 2);
 	VelmorantTests::RecordBelief(*this, TEXT("order of a dynamic broadcast"), FString::Join(Diary, TEXT(", ")));
 
+	// Each silences the other: whoever comes first, the second is called or not.
+	UVelmorantTestListener* Quarrel = NewObject<UVelmorantTestListener>();
+	UVelmorantTestListener* First = NewObject<UVelmorantTestListener>(Quarrel);
+	UVelmorantTestListener* Second = NewObject<UVelmorantTestListener>(Quarrel);
+	First->Friend = Second;
+	Second->Friend = First;
+	Quarrel->Signal.AddDynamic(First, &UVelmorantTestListener::HearAndSilence);
+	Quarrel->Signal.AddDynamic(Second, &UVelmorantTestListener::HearAndSilence);
+	Quarrel->Signal.Broadcast(1);
+	VelmorantTests::RecordBelief(*this, TEXT("a dynamic handler that is removed during the broadcast is called"), First->NumHeard + Second->NumHeard == 2);
+
 	UVelmorantTestListener* Once = NewObject<UVelmorantTestListener>();
 	Once->Signal.AddDynamic(Once, &UVelmorantTestListener::HearOnce);
 	Once->Signal.Broadcast(1);

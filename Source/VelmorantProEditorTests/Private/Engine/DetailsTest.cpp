@@ -1,12 +1,8 @@
 // Copyright Velmorant. All Rights Reserved.
 
 #include "CoreMinimal.h"
-#include "DetailWidgetRow.h"
 #include "Editor.h"
-#include "IDetailChildrenBuilder.h"
 #include "IDetailTreeNode.h"
-#include "IPropertyTypeCustomization.h"
-#include "Misc/ScopeExit.h"
 #include "Modules/ModuleManager.h"
 #include "PropertyEditorModule.h"
 #include "PropertyHandle.h"
@@ -15,56 +11,11 @@
 #include "Support/EditorState.h"
 #include "Support/TestFlags.h"
 #include "Support/TestListener.h"
-#include "Widgets/Text/STextBlock.h"
 
 #if WITH_DEV_AUTOMATION_TESTS
 
 namespace DetailsTest
 {
-	/** Counts what is asked of it, and puts a row of its own below. */
-	class FCustomization final : public IPropertyTypeCustomization
-	{
-	public:
-		virtual void CustomizeHeader(TSharedRef<IPropertyHandle> PropertyHandle, FDetailWidgetRow& HeaderRow, IPropertyTypeCustomizationUtils&) override
-		{
-			++NumHeaders;
-			HeaderRow.NameContent()[PropertyHandle->CreatePropertyNameWidget()];
-		}
-
-		virtual void CustomizeChildren(TSharedRef<IPropertyHandle> PropertyHandle, IDetailChildrenBuilder& ChildBuilder, IPropertyTypeCustomizationUtils&) override
-		{
-			++NumChildren;
-			ChildBuilder.AddProperty(PropertyHandle->GetChildHandle("Kind").ToSharedRef());
-			ChildBuilder.AddCustomRow(INVTEXT("Velmorant filter")).NameContent()[SNew(STextBlock).Text(INVTEXT("Velmorant row"))];
-		}
-
-		static inline int32 NumHeaders = 0;
-		static inline int32 NumChildren = 0;
-	};
-
-	/** Registered for the length of a scope. */
-	class FRegistration
-	{
-	public:
-		FRegistration()
-		{
-			FCustomization::NumHeaders = 0;
-			FCustomization::NumChildren = 0;
-			GetModule().RegisterCustomPropertyTypeLayout("VelmorantTestChoice", FOnGetPropertyTypeCustomizationInstance::CreateLambda([] { return MakeShared<FCustomization>(); }));
-		}
-		~FRegistration() { GetModule().UnregisterCustomPropertyTypeLayout("VelmorantTestChoice"); }
-
-	private:
-		static FPropertyEditorModule& GetModule() { return FModuleManager::LoadModuleChecked<FPropertyEditorModule>("PropertyEditor"); }
-	};
-
-	UVelmorantTestListener* MakeObject(const TCHAR* Name)
-	{
-		UVelmorantTestListener* Object = NewObject<UVelmorantTestListener>(GetTransientPackage(), NAME_None, RF_Transactional);
-		Object->Choice.Name = Name;
-		return Object;
-	}
-
 	/** Of a property that has a row; null without one. */
 	TSharedPtr<IPropertyHandle> FindRowHandle(const FVelmorantDetailRows& Rows, const char* Property)
 	{
@@ -79,30 +30,13 @@ namespace DetailsTest
 	}
 }
 
-IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantCustomizationTest, "Velmorant.Engine.Details.Customization", VelmorantTests::Flags)
-
-bool FVelmorantCustomizationTest::RunTest(const FString&)
-{
-	const DetailsTest::FRegistration Registration;
-	const FVelmorantDetailRows Rows({DetailsTest::MakeObject(TEXT("Oak")), DetailsTest::MakeObject(TEXT("Ash"))});
-	TestEqual(TEXT("several objects have one customization of their struct, named without its F"), DetailsTest::FCustomization::NumHeaders, 1);
-	const TSharedPtr<IDetailTreeNode> Row = Rows.Find("Choice");
-	if (!TestValid(TEXT("the struct has a row"), Row))
-	{
-		return false;
-	}
-	TestEqualSensitive(TEXT("with the rows that the customization adds, in its order"), *FString::Join(FVelmorantDetailRows::CollectNames(Row.ToSharedRef()), TEXT(", ")), TEXT("Kind, Velmorant row"));
-	TestEqual(TEXT("asked for once"), DetailsTest::FCustomization::NumChildren, 1);
-	return true;
-}
-
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantSeveralObjectsTest, "Velmorant.Engine.Details.SeveralObjects", VelmorantTests::Flags)
 
 bool FVelmorantSeveralObjectsTest::RunTest(const FString&)
 {
 	const FVelmorantEditorState State;
-	UVelmorantTestListener* First = DetailsTest::MakeObject(TEXT("Oak"));
-	UVelmorantTestListener* Second = DetailsTest::MakeObject(TEXT("Ash"));
+	UVelmorantTestListener* First = UVelmorantTestListener::Make(TEXT("Oak"));
+	UVelmorantTestListener* Second = UVelmorantTestListener::Make(TEXT("Ash"));
 	const FVelmorantDetailRows Rows({First, Second});
 	const TSharedPtr<IPropertyHandle> Name = DetailsTest::FindHandle(Rows, TEXT("Name"));
 	if (!TestValid(TEXT("members have handles"), Name))
@@ -128,12 +62,66 @@ bool FVelmorantSeveralObjectsTest::RunTest(const FString&)
 	return true;
 }
 
+IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantDeletedObjectTest, "Velmorant.Engine.Details.DeletedObject", VelmorantTests::Flags)
+
+bool FVelmorantDeletedObjectTest::RunTest(const FString&)
+{
+	const FVelmorantEditorState State;
+	UVelmorantTestListener* Kept = UVelmorantTestListener::Make(TEXT("Oak"));
+	UVelmorantTestListener* Deleted = UVelmorantTestListener::Make(TEXT("Ash"));
+	const FVelmorantDetailRows Rows({Kept, Deleted});
+	const TSharedPtr<IPropertyHandle> Name = DetailsTest::FindHandle(Rows, TEXT("Name"));
+	if (!TestValid(TEXT("members have handles"), Name))
+	{
+		return false;
+	}
+	Deleted->MarkAsGarbage();
+	FName Value;
+	const FPropertyAccess::Result Read = Name->GetValue(Value);
+	VelmorantTests::RecordBelief(*this, TEXT("reading a value of two objects of which one is garbage"), Read == FPropertyAccess::Success ? Value.ToString() : FString(Read == FPropertyAccess::Fail ? TEXT("fails") : TEXT("several values")));
+	Name->SetValue(FName(TEXT("Birch")));
+	VelmorantTests::RecordBelief(*this, TEXT("writing to two objects of which one is garbage leaves the other"), Kept->Choice.Name.ToString());
+	return true;
+}
+
+IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantContainerRowsTest, "Velmorant.Engine.Details.Containers", VelmorantTests::Flags)
+
+bool FVelmorantContainerRowsTest::RunTest(const FString&)
+{
+	const FVelmorantEditorState State;
+	UVelmorantTestListener* First = UVelmorantTestListener::Make(TEXT("Oak"));
+	UVelmorantTestListener* Second = UVelmorantTestListener::Make(TEXT("Ash"));
+	First->Numbers = {1, 2, 3};
+	Second->Numbers = {1, 5};
+	First->Counts = {{TEXT("Hall"), 1}};
+	Second->Counts = {{TEXT("Attic"), 1}};
+	First->Tags = {TEXT("New")};
+	Second->Tags = First->Tags;
+	const FVelmorantDetailRows Rows({First, Second});
+	const auto CountElements = [&Rows](const char* Property) {
+		uint32 Number = 0;
+		const TSharedPtr<IPropertyHandle> Handle = DetailsTest::FindRowHandle(Rows, Property);
+		return Handle.IsValid() && Handle->GetNumChildren(Number) == FPropertyAccess::Success ? FString::FromInt(static_cast<int32>(Number)) : FString(TEXT("fails"));
+	};
+	VelmorantTests::RecordBelief(*this, TEXT("elements of arrays of three and two elements"), CountElements("Numbers"));
+	VelmorantTests::RecordBelief(*this, TEXT("elements of two maps with other keys"), CountElements("Counts"));
+	Second->Counts = First->Counts;
+	const FVelmorantDetailRows Again({First, Second});
+	const TSharedPtr<IPropertyHandle> Counts = DetailsTest::FindRowHandle(Again, "Counts");
+	uint32 Number = 0;
+	VelmorantTests::RecordBelief(*this, TEXT("two maps with the same key show it"), Counts.IsValid() && Counts->GetNumChildren(Number) == FPropertyAccess::Success && Number == 1);
+	const TSharedPtr<IPropertyHandle> Tags = DetailsTest::FindRowHandle(Again, "Tags");
+	const TSharedPtr<IPropertyHandle> Tag = Tags.IsValid() ? Tags->GetChildHandle(0) : nullptr;
+	VelmorantTests::RecordBelief(*this, TEXT("an element of a set can be written in place"), Tag.IsValid() && Tag->SetValue(FName(TEXT("Old"))) == FPropertyAccess::Success);
+	return true;
+}
+
 IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantHandleTypesTest, "Velmorant.Engine.Details.ValueTypes", VelmorantTests::Flags)
 
 bool FVelmorantHandleTypesTest::RunTest(const FString&)
 {
 	const FVelmorantEditorState State;
-	UVelmorantTestListener* Object = DetailsTest::MakeObject(TEXT("Oak"));
+	UVelmorantTestListener* Object = UVelmorantTestListener::Make(TEXT("Oak"));
 	Object->Choice.Kind = EVelmorantTestKind::Special;
 	Object->Choice.Tint = FLinearColor(0.25f, 0.5f, 0.75f, 1.0f);
 	const FVelmorantDetailRows Rows({Object});
@@ -161,7 +149,7 @@ IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantHandleEventsTest, "Velmorant.Engine.D
 bool FVelmorantHandleEventsTest::RunTest(const FString&)
 {
 	const FVelmorantEditorState State;
-	UVelmorantTestListener* Object = DetailsTest::MakeObject(TEXT("Oak"));
+	UVelmorantTestListener* Object = UVelmorantTestListener::Make(TEXT("Oak"));
 	const FVelmorantDetailRows Rows({Object});
 	const TSharedPtr<IPropertyHandle> Struct = DetailsTest::FindRowHandle(Rows, "Choice");
 	const TSharedPtr<IPropertyHandle> Name = DetailsTest::FindHandle(Rows, TEXT("Name"));
@@ -188,7 +176,7 @@ IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantHandleWritesTest, "Velmorant.Engine.D
 bool FVelmorantHandleWritesTest::RunTest(const FString&)
 {
 	const FVelmorantEditorState State;
-	UVelmorantTestListener* Object = DetailsTest::MakeObject(TEXT("Oak"));
+	UVelmorantTestListener* Object = UVelmorantTestListener::Make(TEXT("Oak"));
 	const FVelmorantDetailRows Rows({Object});
 	const TSharedPtr<IPropertyHandle> Amount = DetailsTest::FindRowHandle(Rows, "Amount");
 	if (!TestValid(TEXT("a number has a handle"), Amount))
@@ -218,7 +206,7 @@ IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantWholeStructTest, "Velmorant.Engine.De
 bool FVelmorantWholeStructTest::RunTest(const FString&)
 {
 	const FVelmorantEditorState State;
-	UVelmorantTestListener* Object = DetailsTest::MakeObject(TEXT("Oak"));
+	UVelmorantTestListener* Object = UVelmorantTestListener::Make(TEXT("Oak"));
 	const FVelmorantDetailRows Rows({Object});
 	const TSharedPtr<IPropertyHandle> Struct = DetailsTest::FindRowHandle(Rows, "Choice");
 	const TSharedPtr<IPropertyHandle> Name = DetailsTest::FindHandle(Rows, TEXT("Name"));

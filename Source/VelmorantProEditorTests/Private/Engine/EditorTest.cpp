@@ -24,9 +24,9 @@ bool FVelmorantModulesTest::RunTest(const FString&)
 {
 	TestTrue(TEXT("a loaded module is given again"), FModuleManager::Get().LoadModule("PropertyEditor") == FModuleManager::GetModulePtr<FPropertyEditorModule>("PropertyEditor"));
 	TestFalse(TEXT("an unknown one is not loaded"), FModuleManager::Get().IsModuleLoaded("VelmorantNowhere"));
-	int32 NumRuns = 0;
-	const FDelayedAutoRegisterHelper Late(EDelayedRegisterRunPhase::EndOfEngineInit, [&NumRuns] { ++NumRuns; });
-	TestEqual(TEXT("a registration for a phase that has passed runs at once"), NumRuns, 1);
+	const TSharedRef<int32> NumRuns = MakeShared<int32>(0); // where it waits instead, it outlives the test
+	const FDelayedAutoRegisterHelper Late(EDelayedRegisterRunPhase::EndOfEngineInit, [NumRuns] { ++*NumRuns; });
+	TestEqual(TEXT("a registration for a phase that has passed runs at once"), *NumRuns, 1);
 	const TSharedPtr<IPlugin> Plugin = IPluginManager::Get().FindPlugin(TEXT("velmorantPRO"));
 	if (TestValid(TEXT("plugins are found without regard to case"), Plugin))
 	{

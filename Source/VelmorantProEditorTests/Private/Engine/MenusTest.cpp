@@ -1,6 +1,8 @@
 // Copyright Velmorant. All Rights Reserved.
 
 #include "CoreMinimal.h"
+#include "Framework/Commands/InputBindingManager.h"
+#include "Framework/Commands/UICommandInfo.h"
 #include "Framework/Commands/UICommandList.h"
 #include "Framework/MultiBox/MultiBoxBuilder.h"
 #include "Misc/ScopeExit.h"
@@ -82,9 +84,9 @@ IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantMenuStartupTest, "Velmorant.Engine.Me
 
 bool FVelmorantMenuStartupTest::RunTest(const FString&)
 {
-	int32 NumCalls = 0;
-	UToolMenus::RegisterStartupCallback(FSimpleMulticastDelegate::FDelegate::CreateLambda([&NumCalls] { ++NumCalls; }));
-	TestEqual(TEXT("once the menus are there, a start-up callback runs at once"), NumCalls, 1);
+	const TSharedRef<int32> NumCalls = MakeShared<int32>(0); // where it is kept instead, it outlives the test
+	UToolMenus::RegisterStartupCallback(FSimpleMulticastDelegate::FDelegate::CreateLambda([NumCalls] { ++*NumCalls; }));
+	TestEqual(TEXT("once the menus are there, a start-up callback runs at once"), *NumCalls, 1);
 	return true;
 }
 
@@ -108,6 +110,27 @@ bool FVelmorantMenuBuilderTest::RunTest(const FString&)
 	const int32 LastEntry = Texts.Find(TEXT("Velmorant last entry"), ESearchCase::CaseSensitive);
 	TestTrue(TEXT("headings stand above their entries, sections in their order"), First != INDEX_NONE && First < Entry && Entry < Last && Last < LastEntry);
 	VelmorantTests::RecordBelief(*this, TEXT("the heading of a section without entries shows"), Texts.Contains(TEXT("VELMORANT EMPTY")));
+	return true;
+}
+
+IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantMenuCommandsTest, "Velmorant.Engine.Menus.Commands", VelmorantTests::Flags)
+
+bool FVelmorantMenuCommandsTest::RunTest(const FString&)
+{
+	const TSharedPtr<FUICommandInfo> Mapped = FInputBindingManager::Get().FindCommandInContext("VelmorantProEdCommands", "VelmorantPro_OpenProSettings");
+	const TSharedPtr<FUICommandInfo> Other = FInputBindingManager::Get().FindCommandInContext("VelmorantProEdCommands", "VelmorantSDK_OpenSDKSettings");
+	if (!TestValid(TEXT("a command of the module"), Mapped) || !TestValid(TEXT("another"), Other))
+	{
+		return false;
+	}
+	const TSharedRef<FUICommandList> List = MakeShared<FUICommandList>();
+	List->MapAction(Mapped, FExecuteAction::CreateLambda([] {}), FCanExecuteAction());
+	FMenuBuilder Builder(true, List);
+	Builder.AddMenuEntry(Mapped);
+	Builder.AddMenuEntry(Other);
+	const TSharedRef<SWidget> Menu = Builder.MakeWidget();
+	TestTrue(TEXT("an entry reads like its command, and can be chosen when the menu's list maps it"), VelmorantTests::IsTextEnabled(Menu, *Mapped->GetLabel().ToString()));
+	VelmorantTests::RecordBelief(*this, TEXT("a menu entry for a command that its list does not map"), VelmorantTests::IsTextEnabled(Menu, *Other->GetLabel().ToString()) ? TEXT("enabled") : TEXT("disabled or not there"));
 	return true;
 }
 

@@ -17,8 +17,10 @@ bool FVelmorantNameComparisonTest::RunTest(const FString&)
 	TestEqualSensitive(TEXT("each instance shows its own case"), *FName(TEXT("VELMORANTharbortower")).ToString(), TEXT("VELMORANTharbortower"));
 	TestTrue(TEXT("hashes ignore case"), GetTypeHash(Name) == GetTypeHash(FName(TEXT("VELMORANTHARBORTOWER"))));
 	VelmorantTests::RecordBelief(*this, TEXT("names ignore case beyond ASCII"), FName(TEXT("VelmorantT\u00DCR")) == FName(TEXT("VelmorantT\u00FCr")));
-	TestTrue(TEXT("no text is no name"), FName(TEXT("")).IsNone());
+	TestTrue(TEXT("no text is no name"), FName(TEXT("")).IsNone() && FName(static_cast<const TCHAR*>(nullptr)).IsNone());
 	TestTrue(TEXT("the word None is no name, in any case"), FName(TEXT("nOnE")).IsNone());
+	TestFalse(TEXT("with a number it is one"), FName(TEXT("None_1")).IsNone());
+	TestTrue(TEXT("no name reads, and compares, as that word"), FName().ToString().Equals(TEXT("None")) && FName() == TEXT("none"));
 	TestTrue(TEXT("NAME_None passes for valid"), FName(NAME_None).IsValid());
 	TestTrue(TEXT("names that nobody made are not found"), FName(TEXT("VelmorantNobodyMadeThisOne"), FNAME_Find).IsNone());
 	return true;

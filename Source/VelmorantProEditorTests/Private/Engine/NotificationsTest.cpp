@@ -49,6 +49,37 @@ bool FVelmorantNotificationDefaultsTest::RunTest(const FString&)
 	VelmorantTests::RecordBelief(*this, TEXT("seconds that a notification fades out"), FString::Printf(TEXT("%.2f"), Info.FadeOutDuration.Get()));
 	VelmorantTests::RecordBelief(*this, TEXT("seconds that a notification stays"), FString::Printf(TEXT("%.2f"), Info.ExpireDuration.Get()));
 	VelmorantTests::RecordBelief(*this, TEXT("notifications fire and forget unless told otherwise"), Info.bFireAndForget);
+	const bool bPlain = !Info.bUseThrobber && !Info.bUseSuccessFailIcons && !Info.bUseLargeFont && !Info.bUseCopyToClipboard;
+	VelmorantTests::RecordBelief(*this, TEXT("look flags of a notification that nobody set"), bPlain ? TEXT("off") : TEXT("some are on"));
+	return true;
+}
+
+IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantNotificationTimesTest, "Velmorant.Engine.Notifications.Times", VelmorantTests::Flags)
+
+bool FVelmorantNotificationTimesTest::RunTest(const FString&)
+{
+	TWeakPtr<SNotificationItem> Fading;
+	TWeakPtr<SNotificationItem> Waiting;
+	{
+		const FVelmorantNotificationsAllowed Allowed(true);
+		FNotificationInfo Info(INVTEXT("Velmorant test"));
+		Info.FadeInDuration = 0.4f;
+		Info.ExpireDuration = 0.4f;
+		Info.FadeOutDuration = 0.1f;
+		Fading = FSlateNotificationManager::Get().AddNotification(Info);
+		Info.bFireAndForget = false;
+		Waiting = FSlateNotificationManager::Get().AddNotification(Info);
+	}
+	// One after the other, fading in, staying and fading out last 0.9 seconds; 0.5 when staying begins at once.
+	ADD_LATENT_AUTOMATION_COMMAND(FDelayedFunctionLatentCommand([this, Fading] { VelmorantTests::RecordBelief(*this, TEXT("fade-in and expire time run at the same time"), !Fading.IsValid()); }, 0.7f));
+	ADD_LATENT_AUTOMATION_COMMAND(FDelayedFunctionLatentCommand([this, Waiting] {
+		const TSharedPtr<SNotificationItem> Item = Waiting.Pin();
+		if (TestValid(TEXT("one that is not forgotten stays until it is told to go"), Item))
+		{
+			Item->ExpireAndFadeout();
+		}
+	},
+		0.7f));
 	return true;
 }
 
@@ -61,9 +92,14 @@ bool FVelmorantDialogDefaultsTest::RunTest(const FString&)
 		AddInfo(TEXT("Left out: somebody would be asked. Run with -unattended."));
 		return true;
 	}
-	TestTrue(TEXT("a message is taken as read"), FMessageDialog::Open(EAppMsgType::Ok, INVTEXT("Velmorant test")) == EAppReturnType::Ok);
-	TestTrue(TEXT("yes or no is answered with no"), FMessageDialog::Open(EAppMsgType::YesNo, INVTEXT("Velmorant test")) == EAppReturnType::No);
-	TestTrue(TEXT("what can be cancelled is"), FMessageDialog::Open(EAppMsgType::OkCancel, INVTEXT("Velmorant test")) == EAppReturnType::Cancel);
+	const auto Ask = [](EAppMsgType::Type Type) { return FMessageDialog::Open(Type, INVTEXT("Velmorant test")); };
+	TestTrue(TEXT("a message is taken as read"), Ask(EAppMsgType::Ok) == EAppReturnType::Ok);
+	TestTrue(TEXT("yes or no is answered with no"), Ask(EAppMsgType::YesNo) == EAppReturnType::No);
+	for (const EAppMsgType::Type Type : {EAppMsgType::OkCancel, EAppMsgType::YesNoCancel, EAppMsgType::CancelRetryContinue})
+	{
+		TestTrue(TEXT("what can be cancelled is"), Ask(Type) == EAppReturnType::Cancel);
+	}
+	VelmorantTests::RecordBelief(*this, TEXT("yes or no, to all or not, is answered with no"), Ask(EAppMsgType::YesNoYesAllNoAll) == EAppReturnType::No);
 	TestTrue(TEXT("a default that is given counts"), FMessageDialog::Open(EAppMsgType::YesNo, EAppReturnType::Yes, INVTEXT("Velmorant test")) == EAppReturnType::Yes);
 	return true;
 }

@@ -1,13 +1,20 @@
 // Copyright Velmorant. All Rights Reserved.
 
+#include "AssetRegistry/AssetRegistryModule.h"
 #include "Containers/Ticker.h"
 #include "CoreMinimal.h"
+#include "Engine/DataTable.h"
+#include "FontIconData.h"
 #include "Support/Beliefs.h"
+#include "Support/QuietTest.h"
 #include "Support/TestFlags.h"
 #include "Support/TestListener.h"
 #include "Support/TestPackage.h"
+#include "UObject/PropertyPortFlags.h"
+#include "UObject/SoftObjectPath.h"
 #include "UObject/StrongObjectPtr.h"
 #include "VelmorantConfiguratorDataAsset.h"
+#include "VelmorantConfiguratorTypes.h"
 
 #if WITH_DEV_AUTOMATION_TESTS
 
@@ -40,6 +47,74 @@ bool FVelmorantCollectionTest::RunTest(const FString&)
 	TestFalse(TEXT("a weak pointer to it reads as null"), TWeakObjectPtr<UVelmorantTestListener>(Held.Get()).IsValid());
 	CollectGarbage(GARBAGE_COLLECTION_KEEPFLAGS);
 	TestFalse(TEXT("nobody holds it: it is gone"), Lost.IsValid());
+	return true;
+}
+
+IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantDeletedAssetTest, "Velmorant.Engine.Objects.DeletedAssets", VelmorantTests::Flags)
+
+bool FVelmorantDeletedAssetTest::RunTest(const FString&)
+{
+	const FVelmorantTestContent Content;
+	const TStrongObjectPtr<UVelmorantTestListener> Holder(NewObject<UVelmorantTestListener>());
+	UObject* Asset = Content.Make<UVelmorantConfiguratorDataAsset>(TEXT("Data"));
+	const FSoftObjectPath Path(Asset);
+	Holder->Friend = Asset;
+	FAssetRegistryModule::AssetDeleted(Asset);
+	Asset->ClearFlags(RF_Public | RF_Standalone);
+	Asset->MarkAsGarbage();
+	Asset = nullptr;
+	TestFalse(TEXT("the registry no longer knows it"), IAssetRegistry::GetChecked().GetAssetByObjectPath(Path).IsValid());
+	VelmorantTests::RecordBelief(*this, TEXT("a soft path leads to garbage until a collection"), Path.ResolveObject() != nullptr);
+	CollectGarbage(GARBAGE_COLLECTION_KEEPFLAGS);
+	VelmorantTests::RecordBelief(*this, TEXT("what a property that referred to garbage has after a collection"), Holder->Friend ? TEXT("the object") : TEXT("nothing"));
+	Holder->Friend = nullptr;
+	CollectGarbage(GARBAGE_COLLECTION_KEEPFLAGS);
+	TestNull(TEXT("once it is gone, a soft path leads nowhere"), Path.ResolveObject());
+	TestFalse(TEXT("and stays as it is"), Path.IsNull());
+	return true;
+}
+
+IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantStructsTest, "Velmorant.Engine.Objects.Structs", VelmorantTests::Flags)
+
+bool FVelmorantStructsTest::RunTest(const FString&)
+{
+	// A refresh tells by these two whether the service's data has changed.
+	const UScriptStruct& Struct = *FVelmorantConfigUnit::StaticStruct();
+	FVelmorantConfigUnit Left;
+	Left.Rooms.AddDefaulted_GetRef().Name = TEXT("Hall");
+	FVelmorantConfigUnit Right = Left;
+	const auto Export = [&Struct](const FVelmorantConfigUnit& Unit) {
+		FString Text;
+		Struct.ExportText(Text, &Unit, nullptr, nullptr, PPF_None, nullptr);
+		return Text;
+	};
+	TestTrue(TEXT("a copy is the same"), Struct.CompareScriptStruct(&Left, &Right, PPF_None) && Export(Left).Equals(Export(Right)));
+	Right.Rooms[0].Name = TEXT("HALL");
+	VelmorantTests::RecordBelief(*this, TEXT("structs compare the case of their texts"), !Struct.CompareScriptStruct(&Left, &Right, PPF_None));
+	TestFalse(TEXT("their texts tell another letter case"), Export(Left).Equals(Export(Right)));
+	Right = Left;
+	Right.Rooms[0].Groups.AddDefaulted();
+	TestFalse(TEXT("an element more, however deep, is a difference"), Struct.CompareScriptStruct(&Left, &Right, PPF_None));
+	return true;
+}
+
+IMPLEMENT_CUSTOM_SIMPLE_AUTOMATION_TEST(FVelmorantDataTableTest, FVelmorantQuietTest, "Velmorant.Engine.Objects.DataTables", VelmorantTests::Flags)
+
+bool FVelmorantDataTableTest::RunTest(const FString&)
+{
+	UDataTable* Table = NewObject<UDataTable>();
+	Table->RowStruct = FFontIconRow::StaticStruct();
+	for (const TCHAR* Name : {TEXT("boat"), TEXT("anchor")})
+	{
+		FFontIconRow Row;
+		Row.Character = Name;
+		Table->AddRow(Name, Row);
+	}
+	TestTrue(TEXT("rows come in the order in which they were added"), Table->GetRowNames() == TArray<FName>{TEXT("boat"), TEXT("anchor")});
+	const FFontIconRow* Row = Table->FindRow<FFontIconRow>("ANCHOR", TEXT("Velmorant test"));
+	TestTrue(TEXT("and are found whatever the case of their names"), Row && Row->Character.Equals(TEXT("anchor")));
+	TestNull(TEXT("one that is not there is null"), Table->FindRow<FFontIconRow>("door", TEXT("Velmorant test")));
+	TestNull(TEXT("so is one of another struct"), Table->FindRow<FVelmorantTestRow>("boat", TEXT("Velmorant test")));
 	return true;
 }
 

@@ -10,6 +10,7 @@
 #include "Support/Beliefs.h"
 #include "Support/EditorState.h"
 #include "Support/TestFlags.h"
+#include "UObject/Package.h"
 #include "UnitVolumeActor.h"
 
 #if WITH_DEV_AUTOMATION_TESTS

@@ -2,6 +2,7 @@
 
 #include "CoreMinimal.h"
 #include "Support/Beliefs.h"
+#include "SSearchableComboBox.h"
 #include "Support/TestFlags.h"
 #include "Widgets/Input/SComboBox.h"
 #include "Widgets/Input/SSearchBox.h"
@@ -18,6 +19,11 @@ namespace SlateTest
 	TSharedRef<ITableRow> MakeTile(FItem Item, const TSharedRef<STableViewBase>& Owner)
 	{
 		return SNew(STableRow<FItem>, Owner)[SNew(STextBlock).Text(FText::FromString(*Item))];
+	}
+
+	FString Describe(const FItem& Item, ESelectInfo::Type Info)
+	{
+		return (Item ? *Item : FString(TEXT("nothing"))) + (Info == ESelectInfo::Direct ? TEXT(" directly") : TEXT(" by somebody"));
 	}
 
 	TArray<FItem> MakeItems(std::initializer_list<const TCHAR*> Names)
@@ -60,9 +66,7 @@ bool FVelmorantTileSelectionTest::RunTest(const FString&)
 	using namespace SlateTest;
 	TArray<FItem> Items = MakeItems({TEXT("anchor"), TEXT("boat")});
 	TArray<FString> Heard;
-	const auto Hear = [&Heard](FItem Item, ESelectInfo::Type Info) {
-		Heard.Add((Item ? *Item : FString(TEXT("nothing"))) + (Info == ESelectInfo::Direct ? TEXT(" directly") : TEXT(" by somebody")));
-	};
+	const auto Hear = [&Heard](FItem Item, ESelectInfo::Type Info) { Heard.Add(Describe(Item, Info)); };
 	// clang-format off
 	const TSharedRef<STileView<FItem>> View =
 		SNew(STileView<FItem>)
@@ -79,6 +83,12 @@ bool FVelmorantTileSelectionTest::RunTest(const FString&)
 	Heard.Empty();
 	View->ClearSelection();
 	VelmorantTests::RecordBelief(*this, TEXT("clearing an empty selection of a tile view tells"), Heard.Num() > 0);
+	Heard.Empty();
+	View->SetSelection(Items[1], ESelectInfo::OnMouseClick);
+	TestEqualSensitive(TEXT("who selects is told apart"), *FString::Join(Heard, TEXT(", ")), TEXT("boat by somebody"));
+	Heard.Empty();
+	View->SetSelection(Items[1], ESelectInfo::OnMouseClick);
+	VelmorantTests::RecordBelief(*this, TEXT("picking the selected tile again tells"), Heard.Num() > 0);
 	return true;
 }
 
@@ -94,17 +104,52 @@ bool FVelmorantComboBoxTest::RunTest(const FString&)
 		SNew(SComboBox<FItem>)
 		.OptionsSource(&Options)
 		.OnGenerateWidget_Lambda([](FItem Item) { return SNew(STextBlock).Text(FText::FromString(*Item)); })
-		.OnSelectionChanged_Lambda([&Heard](FItem Item, ESelectInfo::Type) { Heard.Add(Item ? *Item : FString(TEXT("nothing"))); });
+		.OnSelectionChanged_Lambda([&Heard](FItem Item, ESelectInfo::Type Info) { Heard.Add(Describe(Item, Info)); });
 	// clang-format on
 	TestInvalid(TEXT("nothing is selected at first"), Box->GetSelectedItem());
-	Box->SetSelectedItem(Options[1]);
+	Box->SetSelectedItem(Options[1], ESelectInfo::Direct);
 	TestTrue(TEXT("an option can be selected"), Box->GetSelectedItem() == Options[1]);
 	Options = MakeItems({TEXT("Round")});
 	Box->RefreshOptions();
 	TestTrue(TEXT("other options leave the selected item"), Box->GetSelectedItem().IsValid() && Box->GetSelectedItem()->Equals(TEXT("Thin")));
-	Box->SetSelectedItem(Options[0]);
+	Box->SetSelectedItem(Options[0], ESelectInfo::OnMouseClick);
 	TestTrue(TEXT("an option of another array can be selected then"), Box->GetSelectedItem() == Options[0]);
-	VelmorantTests::RecordBelief(*this, TEXT("what a combo box tells when code selects"), FString::Join(Heard, TEXT(", ")));
+	TestEqualSensitive(TEXT("who selects is told apart"), *FString::Join(Heard, TEXT(", ")), TEXT("Thin directly, Round by somebody"));
+	Heard.Empty();
+	Box->SetSelectedItem(Options[0], ESelectInfo::OnMouseClick);
+	VelmorantTests::RecordBelief(*this, TEXT("picking the chosen option of a combo box again tells"), Heard.Num() > 0);
+	Box->ClearSelection();
+	VelmorantTests::RecordBelief(*this, TEXT("what a combo box tells when its selection goes"), FString::Join(Heard, TEXT(", ")));
+	return true;
+}
+
+IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantSearchableComboBoxTest, "Velmorant.Engine.Slate.SearchableComboBox", VelmorantTests::Flags)
+
+bool FVelmorantSearchableComboBoxTest::RunTest(const FString&)
+{
+	using namespace SlateTest;
+	TArray<FItem> Options = MakeItems({TEXT("Oak"), TEXT("Ash")});
+	TArray<FString> Heard;
+	// clang-format off
+	const TSharedRef<SSearchableComboBox> Box =
+		SNew(SSearchableComboBox)
+		.OptionsSource(&Options)
+		.OnGenerateWidget_Lambda([](FItem Item) { return SNew(STextBlock).Text(FText::FromString(*Item)); })
+		.OnSelectionChanged_Lambda([&Heard](FItem Item, ESelectInfo::Type Info) { Heard.Add(Describe(Item, Info)); });
+	// clang-format on
+	TestInvalid(TEXT("nothing is selected at first"), Box->GetSelectedItem());
+	Box->SetSelectedItem(Options[1], ESelectInfo::Direct);
+	Options = MakeItems({TEXT("Oak"), TEXT("Ash"), TEXT("Birch")});
+	Box->RefreshOptions();
+	TestTrue(TEXT("other options leave the selected item"), Box->GetSelectedItem().IsValid() && Box->GetSelectedItem()->Equals(TEXT("Ash")));
+	Box->SetSelectedItem(Options[2], ESelectInfo::OnMouseClick);
+	TestTrue(TEXT("one of them can be selected then"), Box->GetSelectedItem() == Options[2]);
+	TestEqualSensitive(TEXT("who selects is told apart"), *FString::Join(Heard, TEXT(", ")), TEXT("Ash directly, Birch by somebody"));
+	Heard.Empty();
+	Box->SetSelectedItem(Options[2], ESelectInfo::OnMouseClick);
+	VelmorantTests::RecordBelief(*this, TEXT("picking the chosen option of a searchable combo box again tells"), Heard.Num() > 0);
+	Box->ClearSelection();
+	TestInvalid(TEXT("a selection can be cleared"), Box->GetSelectedItem());
 	return true;
 }
 

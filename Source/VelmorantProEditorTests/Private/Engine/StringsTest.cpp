@@ -19,11 +19,13 @@ bool FVelmorantStringComparisonTest::RunTest(const FString&)
 	TestFalse(TEXT("Equals does not"), Text.Equals(TEXT("living room")));
 	TestTrue(TEXT("unless told to"), Text.Equals(TEXT("living room"), ESearchCase::IgnoreCase));
 	TestTrue(TEXT("Contains ignores case"), Text.Contains(TEXT("ROOM")));
-	TestTrue(TEXT("StartsWith ignores case"), Text.StartsWith(TEXT("LIVING")));
+	TestTrue(TEXT("StartsWith and EndsWith ignore case"), Text.StartsWith(TEXT("LIVING")) && Text.EndsWith(TEXT("ROOM")));
+	TestFalse(TEXT("unless told not to"), Text.StartsWith(TEXT("LIVING"), ESearchCase::CaseSensitive) || Text.EndsWith(TEXT("ROOM"), ESearchCase::CaseSensitive));
+	TestFalse(TEXT("no text begins with a longer one"), Text.StartsWith(TEXT("Living Rooms")));
 	TestTrue(TEXT("every text contains no text"), Text.Contains(TEXT("")));
 	TSet<FString> Names;
 	Names.Add(TEXT("Oak"));
-	TestTrue(TEXT("sets of strings ignore case"), Names.Contains(TEXT("OAK")));
+	TestTrue(TEXT("sets of strings ignore case, and have whole ones"), Names.Contains(TEXT("OAK")) && !Names.Contains(TEXT("Oa")));
 	TestEqualSensitive(TEXT("Replace ignores case"), *Text.Replace(TEXT("ROOM"), TEXT("Hall")), TEXT("Living Hall"));
 	TestEqualSensitive(TEXT("and takes every occurrence"), *FString(TEXT("a b c")).Replace(TEXT(" "), TEXT("_")), TEXT("a_b_c"));
 	return true;

@@ -46,9 +46,11 @@ bool FVelmorantTextCategoryTest::RunTest(const FString&)
 {
 	// The module's definitions stand in five name spaces; the menu must have one category of them.
 	const FAssetCategoryPath First(NSLOCTEXT("VelmorantTestsA", "Cat", "VelmorantAsset"), NSLOCTEXT("VelmorantTestsA", "Sub", "Configurator"));
-	const FAssetCategoryPath Second(NSLOCTEXT("VelmorantTestsB", "Other", "VelmorantAsset"), NSLOCTEXT("VelmorantTestsB", "Sub", "UI"));
+	const FAssetCategoryPath Plain(NSLOCTEXT("VelmorantTestsB", "Other", "VelmorantAsset"));
+	const FAssetCategoryPath Second(Plain, NSLOCTEXT("VelmorantTestsB", "Sub", "UI"));
 	TestTrue(TEXT("categories are told apart by their source text alone"), First.GetCategory() == Second.GetCategory());
 	TestFalse(TEXT("and so are those below"), First.GetSubCategory() == Second.GetSubCategory());
+	TestTrue(TEXT("of which there may be none"), Second.HasSubCategory() && !Plain.HasSubCategory());
 	return true;
 }
 

@@ -4,12 +4,14 @@
 #include "Editor.h"
 #include "Editor/Transactor.h"
 #include "Engine/World.h"
+#include "Misc/ScopeExit.h"
 #include "ScopedTransaction.h"
 #include "Selection.h"
 #include "Support/Beliefs.h"
 #include "Support/EditorState.h"
 #include "Support/TestFlags.h"
 #include "Support/TestListener.h"
+#include "UObject/Package.h"
 #include "UnitVolumeActor.h"
 
 #if WITH_DEV_AUTOMATION_TESTS
@@ -42,11 +44,19 @@ bool FVelmorantUndoTest::RunTest(const FString&)
 	{
 		return false;
 	}
+	int32 NumUndone = 0;
+	const FDelegateHandle Handle = FEditorDelegates::PostUndoRedo.AddLambda([&NumUndone] { ++NumUndone; });
+	ON_SCOPE_EXIT
+	{
+		FEditorDelegates::PostUndoRedo.Remove(Handle);
+	};
 	TestTrue(TEXT("a step can be undone"), GEditor->UndoTransaction());
+	TestTrue(TEXT("the object is told, and so is everybody"), Object->NumUndone == 1 && NumUndone == 1);
 	TestEqual(TEXT("what was written in it is as before"), Object->Amount, 1);
 	TestEqual(TEXT("what is not reflected stays"), Object->NotReflected, 2);
 	GEditor->RedoTransaction();
 	TestEqual(TEXT("and redone"), Object->Amount, 2);
+	TestTrue(TEXT("which is told as well"), Object->NumUndone == 2 && NumUndone == 2);
 	GEditor->UndoTransaction();
 	UndoTest::Change(*Object, 3, INVTEXT("Velmorant three"));
 	TestFalse(TEXT("after a new step there is nothing to redo"), GEditor->RedoTransaction());

@@ -69,17 +69,19 @@ bool FVelmorantModuleRepairTest::RunTest(const FString&)
 		return true;
 	}
 	const FString BackupFile = File + TEXT(".velmorant-backup");
-	if (!TestTrue(TEXT("the file is backed up"), FFileHelper::SaveArrayToFile(Backup, *BackupFile)))
-	{
-		return false;
-	}
+	bool bMayBeEdited = false;
 	ON_SCOPE_EXIT
 	{
-		if (FFileHelper::SaveArrayToFile(Backup, *File))
+		if (!bMayBeEdited || FFileHelper::SaveArrayToFile(Backup, *File))
 		{
 			IFileManager::Get().Delete(*BackupFile);
 		}
 	};
+	if (!TestTrue(TEXT("the file is backed up"), FFileHelper::SaveArrayToFile(Backup, *BackupFile)))
+	{
+		return false;
+	}
+	bMayBeEdited = true;
 	TArray<FString> Before;
 	TArray<FString> After;
 	FFileHelper::LoadFileToStringArray(Before, *File);

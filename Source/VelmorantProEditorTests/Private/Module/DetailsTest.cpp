@@ -6,6 +6,7 @@
 #include "Support/DetailRows.h"
 #include "Support/EditorState.h"
 #include "Support/TestFlags.h"
+#include "UObject/Package.h"
 #include "VelmorantLevelActors.h"
 
 #if WITH_DEV_AUTOMATION_TESTS

@@ -1,12 +1,16 @@
 // Copyright Velmorant. All Rights Reserved.
 
 #include "CoreMinimal.h"
+#include "Engine/DeveloperSettings.h"
 #include "Framework/Commands/InputBindingManager.h"
 #include "Framework/Commands/UICommandInfo.h"
 #include "Support/TestFlags.h"
 #include "Support/WidgetText.h"
 #include "ToolMenus.h"
 #include "VelmorantEditorUtilitiesLibrary.h"
+#include "VelmorantProSettings.h"
+#include "VelmorantProUISettings.h"
+#include "VelmorantSDKSettings.h"
 
 #if WITH_DEV_AUTOMATION_TESTS
 
@@ -79,6 +83,20 @@ bool FVelmorantModuleMenuTest::RunTest(const FString&)
 		const int32 Index = Texts.IndexOfByPredicate([&Text](const FString& Each) { return Each.Equals(Text, ESearchCase::IgnoreCase); });
 		TestTrue(*(Text + TEXT(" is there, and in its place")), Index > Last);
 		Last = FMath::Max(Last, Index);
+	}
+	return true;
+}
+
+IMPLEMENT_SIMPLE_AUTOMATION_TEST(FVelmorantModuleSettingsTest, "Velmorant.Module.SettingsPages", VelmorantTests::Flags)
+
+bool FVelmorantModuleSettingsTest::RunTest(const FString&)
+{
+	// The menu opens the pages by these names. What a viewer shows for others is not tried: it would open a window.
+	for (const UClass* Class : {UVelmorantProSettings::StaticClass(), UVelmorantProUISettings::StaticClass(), UVelmorantSDKSettings::StaticClass()})
+	{
+		const UDeveloperSettings* Settings = CastChecked<UDeveloperSettings>(Class->GetDefaultObject());
+		const FString Page = Settings->GetContainerName().ToString() + TEXT(" ") + Settings->GetCategoryName().ToString() + TEXT(" ") + Settings->GetSectionName().ToString();
+		TestEqualSensitive(TEXT("the settings have a page among the project's plugins, named like their class"), *Page, *(TEXT("Project Plugins ") + Class->GetName()));
 	}
 	return true;
 }

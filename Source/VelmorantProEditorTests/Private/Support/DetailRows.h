@@ -7,7 +7,10 @@
 class IDetailTreeNode;
 class IPropertyRowGenerator;
 
-/** The rows that a details panel has for some objects. */
+/**
+ * The rows that a details panel has for some objects, laid out by the generator that panels have, too. A panel itself would not do: it makes
+ * its rows' widgets when it is drawn, which needs a window on a screen, and gives nobody its rows.
+ */
 class FVelmorantDetailRows
 {
 public:

@@ -35,6 +35,21 @@ TArray<FString> VelmorantTests::CollectTexts(const TSharedRef<SWidget>& Widget)
 	return Texts;
 }
 
+bool VelmorantTests::IsTextEnabled(const TSharedRef<SWidget>& Widget, const TCHAR* Text)
+{
+	if (!Widget->IsEnabled())
+	{
+		return false;
+	}
+	bool bFound = Widget->GetType() == FName(TEXT("STextBlock")) && StaticCastSharedRef<STextBlock>(Widget)->GetText().ToString().Equals(Text);
+	FChildren* Children = Widget->GetChildren();
+	for (int32 Index = 0; Children && Index < Children->Num() && !bFound; ++Index)
+	{
+		bFound = IsTextEnabled(Children->GetChildAt(Index), Text);
+	}
+	return bFound;
+}
+
 int32 VelmorantTests::CountWidgets(const TSharedRef<SWidget>& Widget, const TCHAR* Class)
 {
 	int32 Number = 0;
