@@ -62,23 +62,26 @@ TEST_F(Installation, IsFoundThroughALink)
 	EXPECT_EQ(Check({"--repair"}).ExitStatus, 0);
 }
 
-/** What a shell prints; nothing where that shell is not installed. */
-static std::string AskShell(const std::string& Shell, const std::string& Script, bool& bOutThere)
+namespace InstallationTest
 {
-	bOutThere = std::filesystem::exists("/usr/bin/" + Shell);
-	std::string Output;
-	if (!bOutThere)
+	/** What a shell prints; nothing where that shell is not installed. */
+	std::string AskShell(const std::string& Shell, const std::string& Script, bool& bOutThere)
 	{
+		bOutThere = std::filesystem::exists("/usr/bin/" + Shell);
+		std::string Output;
+		if (!bOutThere)
+		{
+			return Output;
+		}
+		FILE* const Pipe = popen(("HOME=/nonexistent '" + Shell + "' -c '" + Script + "' 2>&1").c_str(), "r");
+		std::array<char, 4096> Buffer;
+		for (size_t Count = 0; (Count = fread(Buffer.data(), 1, Buffer.size(), Pipe)) > 0;)
+		{
+			Output.append(Buffer.data(), Count);
+		}
+		EXPECT_EQ(pclose(Pipe), 0) << Output;
 		return Output;
 	}
-	FILE* const Pipe = popen(("HOME=/nonexistent '" + Shell + "' -c '" + Script + "' 2>&1").c_str(), "r");
-	std::array<char, 4096> Buffer;
-	for (size_t Count = 0; (Count = fread(Buffer.data(), 1, Buffer.size(), Pipe)) > 0;)
-	{
-		Output.append(Buffer.data(), Count);
-	}
-	EXPECT_EQ(pclose(Pipe), 0) << Output;
-	return Output;
 }
 
 TEST_F(Installation, ShellsCompleteItsArguments)
@@ -104,7 +107,7 @@ TEST_F(Installation, ShellsCompleteItsArguments)
 	for (const auto& Case : Cases)
 	{
 		bool bThere = false;
-		const std::string Output = AskShell(Case.Shell, Case.Script, bThere);
+		const std::string Output = InstallationTest::AskShell(Case.Shell, Case.Script, bThere);
 		EXPECT_TRUE(!bThere || Output.find(Case.Part) != std::string::npos) << Case.Script << "\n"
 																			<< Output;
 	}

@@ -47,7 +47,7 @@ namespace ProgramRun
 	std::string ReadScript(const std::vector<std::string>& Arguments)
 	{
 		const auto Script = std::find_if(Arguments.begin(), Arguments.end(), [](const std::string& Argument) { return Argument.ends_with(".velscript"); });
-		return Script != Arguments.end() ? ReadAll(*Script) : std::string();
+		return Script != Arguments.end() && std::filesystem::is_regular_file(*Script) ? ReadAll(*Script) : std::string(); // a pipe may never end
 	}
 
 	void ExpectNoLeaks(const FProgramResult& Result, const std::string& Script)

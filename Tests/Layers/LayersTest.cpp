@@ -203,7 +203,7 @@ TEST(Layers, RefuseToCompileAWrongInclude)
 		{"VelmorantProEditor", "HostWidget.h", false},
 		{"VelmorantPro", "HostWidget.h", false},
 		{"Runtime", "HostWidget.h", true},
-		{"CommandLine", "WidgetBlueprint.h", false}, // the runtime's own affair
+		{"CommandLine", "EditorUtilitySubsystem.h", false}, // the runtime's own affair
 		{"CommandLine", "VelmorantUISubsystem.h", false}, // scripts run without the toolkit
 		{"Runtime", "Check/CollisionCheck.h", false},
 	};
