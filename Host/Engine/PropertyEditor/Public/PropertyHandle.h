@@ -49,6 +49,8 @@ public:
 	virtual TSharedPtr<IPropertyHandle> GetChildHandle(FName ChildName, bool bRecurse = true) const = 0;
 	/** By place: members of structs, elements of containers; a map's elements have the key as name. Null when there is none. */
 	virtual TSharedPtr<IPropertyHandle> GetChildHandle(uint32 Index) const = 0;
+	/** Members or elements; 0 for plain values. Objects with containers of different lengths have those in common. */
+	virtual FPropertyAccess::Result GetNumChildren(uint32& OutNumChildren) const = 0;
 
 	virtual FPropertyAccess::Result GetValue(float& OutValue) const = 0;
 	virtual FPropertyAccess::Result GetValue(double& OutValue) const = 0;

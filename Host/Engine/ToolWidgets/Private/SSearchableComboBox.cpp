@@ -31,6 +31,11 @@ void SSearchableComboBox::Construct(const FArguments& InArgs)
 	RefreshOptions();
 }
 
+void SSearchableComboBox::ClearSelection()
+{
+	SetSelectedItem(nullptr, ESelectInfo::Direct);
+}
+
 void SSearchableComboBox::SetSelectedItem(TSharedPtr<FString> InSelectedItem, ESelectInfo::Type InSelectInfo)
 {
 	if (SelectedItem != InSelectedItem)

@@ -41,6 +41,8 @@ public:
 	void Construct(const FArguments& InArgs);
 
 	/** Tells the listener with no option, unless none is selected. */
+	void ClearSelection();
+
 	/** Tells the listener when the option is another one. It need not be among the options. */
 	void SetSelectedItem(TSharedPtr<FString> InSelectedItem, ESelectInfo::Type InSelectInfo = ESelectInfo::OnNavigation);
 

@@ -123,6 +123,16 @@ TSharedPtr<IPropertyHandle> FPropertyHandle::GetChildHandle(uint32 Index) const
 	return Index < static_cast<uint32>(Children.Num()) ? Make(Children[static_cast<int32>(Index)]) : nullptr;
 }
 
+FPropertyAccess::Result FPropertyHandle::GetNumChildren(uint32& OutNumChildren) const
+{
+	if (!Node->HasValues())
+	{
+		return FPropertyAccess::Fail;
+	}
+	OutNumChildren = static_cast<uint32>(Node->GetChildren().Num());
+	return FPropertyAccess::Success;
+}
+
 FPropertyAccess::Result FPropertyHandle::GetValue(UObject*& OutValue) const
 {
 	return Node->GetKind().ReadObject(*Node, OutValue);

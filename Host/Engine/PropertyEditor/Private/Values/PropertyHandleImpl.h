@@ -32,6 +32,7 @@ public:
 	virtual bool IsValidHandle() const override { return Node->HasValues(); }
 	virtual TSharedPtr<IPropertyHandle> GetChildHandle(FName ChildName, bool bRecurse) const override;
 	virtual TSharedPtr<IPropertyHandle> GetChildHandle(uint32 Index) const override;
+	virtual FPropertyAccess::Result GetNumChildren(uint32& OutNumChildren) const override;
 	FOR_EACH_PLAIN_VALUE_TYPE(DECLARE_HANDLE_VALUE)
 	virtual FPropertyAccess::Result GetValue(UObject*& OutValue) const override;
 	virtual FPropertyAccess::Result GetValue(const UObject*& OutValue) const override;
