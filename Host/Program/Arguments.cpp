@@ -272,7 +272,7 @@ namespace Arguments
 
 	EExitStatus Tell(const std::string& Text)
 	{
-		Console::PrintUtf8(std::string_view(Text).substr(0, Text.size() - 1)); // less its last line end
+		Console::PrintExact(std::string_view(Text).substr(0, Text.size() - 1)); // less its last line end
 		return EExitStatus::Done;
 	}
 

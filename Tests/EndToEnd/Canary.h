@@ -15,10 +15,10 @@ namespace Canary
 	inline const std::string Password = "harbor-2026"; // of the sample's user
 	inline const std::string Key = "ht-7f3c-91d2-demo"; // of the sample's project
 
-	/** What the test itself wrote: scripts that type the password, and the service's data. */
+	/** What the test itself wrote: scripts that type the password, the service's data, and what an installed program brings. */
 	inline bool IsInput(const std::string& File)
 	{
-		return File.ends_with(".velscript") || File.ends_with("Service.json") || File.ends_with("Data.json");
+		return File.find("/share/") != std::string::npos || File.ends_with(".velscript") || File.ends_with("Service.json") || File.ends_with("Data.json");
 	}
 
 	/** Whether a script asks for the key: by the name of the setting, of the files or of the clipboard, or by itself. */

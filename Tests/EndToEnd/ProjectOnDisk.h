@@ -44,11 +44,10 @@ protected:
 	/** Secrets are nowhere but where they belong. */
 	void TearDown() override { EXPECT_EQ(Canary::FindLeaksIn(Folder.GetNative()), std::vector<std::string>{}); }
 
-	/** An empty project: a descriptor, and a key that the editor saved. */
+	/** An empty project: a descriptor. */
 	void MakeProject() const
 	{
 		Folder.Write("Project/Test.uproject", "{ \"FileVersion\": 3, \"EngineAssociation\": \"5.6\" }\n");
-		Folder.Write("Project/Saved/Config/LinuxEditor/Game.ini", "[/Script/VelmorantSDK.VelmorantSDKSettings]\nApiKey=" + Canary::Key + "\n");
 	}
 
 	void CopySample() const
@@ -61,10 +60,9 @@ protected:
 
 	std::string GetProject() const { return Folder.GetNative("Project").string(); }
 
-	/** A password stands in it that scripts may ask for. */
 	FProgramRun::FEnvironment GetEnvironment() const
 	{
-		return {{"XDG_CONFIG_HOME", Folder.GetNative("UserConfig").string()}, {"XDG_STATE_HOME", Folder.GetNative("UserState").string()}, {"HARBOR_PASSWORD", Canary::Password}};
+		return {{"XDG_CONFIG_HOME", Folder.GetNative("UserConfig").string()}, {"XDG_STATE_HOME", Folder.GetNative("UserState").string()}};
 	}
 
 	FProgramResult Check(const std::vector<std::string>& Options = {}) const

@@ -48,7 +48,7 @@ protected:
 		std::vector<std::string> Files;
 		for (size_t Index = 0; Index < NumCases; ++Index)
 		{
-			const std::string Name = "Case" + std::to_string(Index) + ".json";
+			const std::string Name = "Case" + std::to_string(Index) + "Data.json";
 			Folder.Write(Name, Cases[Index].Document);
 			Files.push_back(Folder.GetNative(Name).string());
 		}

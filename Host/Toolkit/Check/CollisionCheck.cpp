@@ -178,6 +178,7 @@ namespace CollisionCheck
 			return Report;
 		}
 		const HostFiles::FLock Lock(IniFile); // until the repair is recorded
+		RepairRecord::RemoveLeftovers(IniFile);
 		constexpr int32 MaxAttempts = 5;
 		for (int32 Attempt = 0; Attempt < MaxAttempts; ++Attempt)
 		{

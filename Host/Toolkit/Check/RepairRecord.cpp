@@ -2,10 +2,12 @@
 
 #include "Check/RepairRecord.h"
 
+#include "HostLeftovers.h"
 #include "HostPaths.h"
 #include "HostProblems.h"
 #include "JsonText.h"
 #include "LineDifference.h"
+#include "Misc/Paths.h"
 
 #include <algorithm>
 #include <cinttypes>
@@ -89,6 +91,12 @@ namespace RepairRecord
 			}
 		}
 		return true;
+	}
+
+	void RemoveLeftovers(const FString& IniFile)
+	{
+		HostLeftovers::RemoveBelow(FPaths::GetPath(IniFile));
+		HostLeftovers::RemoveBelow(HostPaths::GetUserStateDir());
 	}
 
 	bool Save(const FString& ProjectDir, const FRepairRecord& Record)

@@ -24,6 +24,9 @@ namespace RepairRecord
 	/** From the text before and after the repair, UTF-8. @return false when the repair did more than add lines, which it never should. */
 	bool Make(std::string_view Before, std::string_view After, FRepairRecord& OutRecord);
 
+	/** Of repairs that were ended half way, beside the configuration file and beside the records. */
+	void RemoveLeftovers(const FString& IniFile);
+
 	/** Takes the place of the project's last record. Readable by the user only. @return false when it cannot be written (reported). */
 	bool Save(const FString& ProjectDir, const FRepairRecord& Record);
 

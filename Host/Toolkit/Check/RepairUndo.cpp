@@ -43,6 +43,7 @@ namespace RepairUndo
 		FRepairRecord Record;
 		FCheckReport Report;
 		Report.Project = Project;
+		RepairRecord::RemoveLeftovers(File);
 		switch (RepairRecord::Load(ProjectDir, Record))
 		{
 			case HostFiles::ERead::Missing:
