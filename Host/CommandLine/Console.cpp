@@ -23,7 +23,7 @@ namespace Console
 
 	bool Put(std::FILE* File, std::string_view Text)
 	{
-		return std::fwrite(Text.data(), 1, Text.size(), File) == Text.size();
+		return Text.empty() || std::fwrite(Text.data(), 1, Text.size(), File) == Text.size();
 	}
 
 	bool Write(std::FILE* File, std::string_view Line, ETextStyle Style)

@@ -101,7 +101,7 @@ TEST_F(EditorWindow, KeepsTheToolsAsWideAsTheyWereWhenPanelsComeAndGo)
 			Panel = Each->objectName().startsWith(QStringLiteral("Tab.")) ? Each : Panel;
 		}
 		ASSERT_NE(Panel, nullptr);
-		EXPECT_GE(Panel->width(), 380);
+		EXPECT_GE(Panel->width(), 320);
 		EXPECT_NEAR(FindDock("Details").width(), Before, 8) << "with the panel, round " << Round;
 		Panel->close();
 		Let(0.0);

@@ -114,7 +114,7 @@ TEST_F(UntrustedInput, ScriptsWriteInTheirProjectOnly)
 
 	// A picture out of the data file's folder.
 	Replace("Project/VelmorantService.json", "\"Lucia.png\"", "\"../secret.txt\"");
-	const FProgramResult Picture = RunScript("open /VelmorantPro/EditorHelpers/DeveloperPanel/LoginPanel as Login\ntype Login UserName lucia\ntype Login UserPassword env:HARBOR_PASSWORD\nclick Login SummitButton\nwait 1\n");
+	const FProgramResult Picture = RunScript("open /VelmorantPro/EditorHelpers/DeveloperPanel/LoginPanel as Login\ntype Login UserName lucia\ntype Login UserPassword harbor-2026\nclick Login SummitButton\nwait 1\n");
 	EXPECT_EQ(Picture.ExitStatus, 3);
 	EXPECT_NE(Picture.Errors.find("/users/0/picture: the file "), std::string::npos) << Picture.Errors;
 	EXPECT_NE(Picture.Errors.find(" is not in the folder of this data file, nor below it"), std::string::npos) << Picture.Errors;
@@ -199,7 +199,7 @@ TEST_F(UntrustedInput, RepairsKeepWhatIsAttachedToFiles)
 TEST_F(UntrustedInput, SavedSettingsAreForTheirOwnerOnly)
 {
 	CopySample();
-	Do("open /VelmorantPro/EditorHelpers/DeveloperPanel/VelmorantDeveloperPanel as Dev\ntype Dev UserName lucia\ntype Dev UserPassword env:HARBOR_PASSWORD\nclick Dev SummitButton\nwait 1\n"
+	Do("open /VelmorantPro/EditorHelpers/DeveloperPanel/VelmorantDeveloperPanel as Dev\ntype Dev UserName lucia\ntype Dev UserPassword harbor-2026\nclick Dev SummitButton\nwait 1\n"
 	   "choose Dev ProjectSelection \"Harbor Tower\"\nclick Dev SetAsDefault\nwait 1\nsave\n");
 	size_t NumFiles = 0;
 	for (const auto& Entry : std::filesystem::recursive_directory_iterator(Folder.GetNative("Project/Saved")))

@@ -41,31 +41,14 @@ protected:
 
 	std::vector<FScenario> MakeScenarios() const
 	{
-		const std::string Script = GetScript();
 		const auto MakeRepaired = [this] {
 			MakeBroken();
 			Check({"--repair"});
-		};
-		const auto MakeSigningIn = [this] {
-			CopySample();
-			Folder.Write("test.velscript",
-				"open /VelmorantPro/EditorHelpers/DeveloperPanel/VelmorantDeveloperPanel as Developer\n"
-				"type Developer UserName lucia\n"
-				"type Developer UserPassword harbor-2026\n"
-				"check Developer RememberUserCheckBox\n"
-				"click Developer SummitButton\n"
-				"wait 1\n"
-				"choose Developer ProjectSelection \"Harbor Tower\"\n"
-				"click Developer SetAsDefault\n"
-				"wait 0.5\n"
-				"answer ReplaceAsset Yes\n"
-				"save level /Game/Maps/Second\n");
 		};
 		return {
 			{"repair", [this] { MakeBroken(); }, {"check", GetProject(), "--repair"}, {0}},
 			{"repair of a new file", [this] { MakeProject(); }, {"check", GetProject(), "--repair"}, {0}},
 			{"undo", MakeRepaired, {"check", GetProject(), "--undo"}, {0, 1, 2}}, // it may have been done
-			{"sign-in, settings and saving", MakeSigningIn, {"run", GetProject(), Script}, {0, 3}}, // what was done may be in the way of doing it again
 		};
 	}
 
