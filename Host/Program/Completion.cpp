@@ -77,14 +77,14 @@ namespace Completion
 	{
 		std::string Description = ArgumentTable::Replace(Option.get_description(), "[", "\\[");
 		Description = ArgumentTable::Replace(Description, "]", "\\]");
-		std::string Spec = ArgumentTable::GetSwitch(Option) + "[" + Description + "]";
+		std::string Argument = ArgumentTable::GetSwitch(Option) + "[" + Description + "]";
 		const std::string Value = ArgumentTable::GetValueName(Option);
 		const std::vector<std::string> Choices = ArgumentTable::GetChoices(Option);
 		if (!Value.empty())
 		{
-			Spec += ":" + Value + ":" + (Choices.empty() ? "_files" : "(" + ArgumentTable::Join(Choices, " ") + ")");
+			Argument += ":" + Value + ":" + (Choices.empty() ? "_files" : "(" + ArgumentTable::Join(Choices, " ") + ")");
 		}
-		return Quote(Spec);
+		return Quote(Argument);
 	}
 
 	std::string MakeZsh(const CLI::App& App)
