@@ -198,7 +198,7 @@ TEST_P(Kills, AtAnyTimeLeaveTheOldOrTheNewFile)
 		return static_cast<long>(std::chrono::duration_cast<std::chrono::microseconds>(std::chrono::steady_clock::now() - Start).count());
 	};
 	long Whole = Measure([this] { FProgramRun::Run(GetArguments(), GetEnvironment()); });
-	static std::mt19937 Random(20260101); // other times when the test is repeated
+	static std::mt19937 Random(static_cast<unsigned>(GetNumber("VELMORANT_FAULT_SEED", 20260101))); // other times when the test is repeated
 	long NumInTime = 0;
 	for (long Kill = 0; Kill < NumKills && !HasFailure(); ++Kill)
 	{
