@@ -106,6 +106,7 @@ endfunction()
 #   DEPENDS          the modules that its Public and Internal headers include; who uses it sees them too
 #   PRIVATE_DEPENDS  the modules that only its sources include, or that must be there when it runs
 #   LIBRARIES        packages that only its own sources use
+#   MEASURED         it is optimised more than others in release builds
 #   FLAT             it is a part of a program and has no Public, Internal and Private folders: users see all of its folder
 # velmorant_module: the same for what is outside the engine, which sees no Internal folder.
 function(velmorant_engine_module Name)
@@ -124,7 +125,7 @@ function(velmorant_own_folders Name bFlat)
 endfunction()
 
 function(velmorant_module Name)
-	cmake_parse_arguments(Arg "SEES_INTERNAL;FLAT" "" "DEPENDS;PRIVATE_DEPENDS;LIBRARIES" ${ARGN})
+	cmake_parse_arguments(Arg "SEES_INTERNAL;FLAT;MEASURED" "" "DEPENDS;PRIVATE_DEPENDS;LIBRARIES" ${ARGN})
 	if(Arg_FLAT)
 		file(GLOB_RECURSE Sources CONFIGURE_DEPENDS *.cpp)
 		file(GLOB_RECURSE Headers CONFIGURE_DEPENDS *.h)
@@ -169,7 +170,12 @@ function(velmorant_module Name)
 	endif()
 	velmorant_record_layer(${Name} "$<IF:$<BOOL:${Arg_FLAT}>,part,module>" "${Arg_DEPENDS}" "${Arg_PRIVATE_DEPENDS}" "${Sources};${Headers}")
 	velmorant_use_unity(${Name})
-	velmorant_use_pch(${Name} "${Visible}")
+	if(Arg_MEASURED AND CMAKE_BUILD_TYPE STREQUAL "Release")
+		target_compile_options(${Name} PRIVATE ${VELMORANT_MEASURED})
+		velmorant_use_pch(${Name} "${Visible}" MeasuredPCH)
+	else()
+		velmorant_use_pch(${Name} "${Visible}")
+	endif()
 endfunction()
 
 # Sources compile in batches, as the engine's build tool has it: those of a batch read their headers once.
@@ -177,16 +183,19 @@ function(velmorant_use_unity Name)
 	set_target_properties(${Name} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 12)
 endfunction()
 
-# One precompiled header for everything above CoreUObject. It is made in a target of its own: the compiler takes a precompiled
-# header only where no macro differs that was there when it was made, and UE_MODULE_NAME differs in each module.
+# One precompiled header for everything above CoreUObject that is optimised alike. It is made in a target of its own: the compiler takes
+# a precompiled header only where no macro differs that was there when it was made, and UE_MODULE_NAME differs in each module.
 function(velmorant_use_pch Name Visible)
 	set(From SharedPCH ${ARGN})
 	list(GET From -1 From)
 	if(NOT VELMORANT_PCH OR NOT "CoreUObject" IN_LIST Visible)
 		return()
 	endif()
-	if(NOT TARGET SharedPCH)
-		velmorant_add_pch(SharedPCH)
+	if(NOT TARGET ${From})
+		velmorant_add_pch(${From})
+		if(From STREQUAL "MeasuredPCH")
+			target_compile_options(${From} PRIVATE ${VELMORANT_MEASURED})
+		endif()
 	endif()
 	target_precompile_headers(${Name} REUSE_FROM ${From})
 endfunction()

@@ -10,6 +10,8 @@
 #include <nlohmann/json.hpp>
 #include <string>
 
+extern template class nlohmann::basic_json<nlohmann::ordered_map>; // compiled once, in JsonText.cpp
+
 /** The engine's strings as JSON. Members keep their order. */
 using FJson = nlohmann::ordered_json;
 
@@ -45,8 +47,8 @@ namespace JsonText
 	}
 
 	/** In one line for an indent of -1. What is not valid Unicode is replaced: output must not fail. */
-	inline std::string Print(const FJson& Json, int Indent)
-	{
-		return Json.dump(Indent, ' ', false, FJson::error_handler_t::replace);
-	}
+	std::string Print(const FJson& Json, int Indent);
+
+	/** A discarded value for what is no JSON. @param Text UTF-8 */
+	FJson Parse(const std::string& Text);
 }

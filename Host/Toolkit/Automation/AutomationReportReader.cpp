@@ -124,7 +124,7 @@ TOptional<FAutomationReport> AutomationReport::Read(const FString& FileOrFolder)
 	{
 		return TOptional<FAutomationReport>();
 	}
-	const FJson Root = FJson::parse(Text, nullptr, false);
+	const FJson Root = JsonText::Parse(Text);
 	if (Root.is_discarded())
 	{
 		const FHostJsonFault Fault = HostJsonFault::Find(Text);

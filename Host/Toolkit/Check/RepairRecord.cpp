@@ -115,7 +115,7 @@ namespace RepairRecord
 		{
 			return Read;
 		}
-		const FJson Json = FJson::parse(Text, nullptr, false);
+		const FJson Json = JsonText::Parse(Text);
 		if (!FromJson(Json, OutRecord))
 		{
 			HostProblems::Report(File, 0, TEXT("the file is no record of a repair"), TEXT("Delete it; that repair can only be taken back by hand."));
