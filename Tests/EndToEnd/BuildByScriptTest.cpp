@@ -68,3 +68,18 @@ TEST_F(BuildByScript, NothingIsDeletedUnlessAllOfItIsThere)
 	EXPECT_EQ(Result.ExitStatus, 3);
 	Do("open level /Game/Maps/Own\nexpect actors UnitVolumeActor 1\n");
 }
+
+TEST_F(BuildByScript, LevelsByNameStayInTheirAssetWhenItIsRenamed)
+{
+	Folder.Write("Project/Content/Levels.uasset.json", R"({"Class": "/Script/VelmorantPro.VelmorantMapsLinkerConfig", "Format": 1, "Objects": [
+		{"Name": "Levels", "Class": "/Script/VelmorantPro.VelmorantMapsLinkerConfig", "Properties": {"Maps": [
+			{"Key": "Lobby", "Value": "/Game/Maps/Lobby.Lobby"}, {"Key": "Roof", "Value": "/Game/Maps/Roof.Roof"}]}}]})");
+	const std::string Maps = R"x("((\"Lobby\", \"/Game/Maps/Lobby.Lobby\"),(\"Roof\", \"/Game/Maps/Roof.Roof\"))")x";
+	Do("press Skip\n"
+	   "expect property /Game/Levels Maps " + Maps + "\n"
+	   "rename asset /Game/Levels /Game/Linked/All\n"
+	   "save\n"
+	   "restart\n"
+	   "expect property /Game/Linked/All Maps " + Maps + "\n");
+	EXPECT_FALSE(Folder.Exists("Project/Content/Levels.uasset.json"));
+}
