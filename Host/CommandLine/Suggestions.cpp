@@ -11,8 +11,8 @@ namespace Suggestions
 	constexpr int32 LettersPerError = 3; // of the shorter text; more of them mistyped is another word
 	constexpr int32 MinPart = 3; // letters by which a name is known that are only a part of it
 
-	/** How many letters were left out, put in, mistaken or swapped with their neighbour. */
-	int32 CountErrors(const FString& A, const FString& B)
+	/** How many letters were left out, put in, mistaken or swapped with their neighbour; more than Most when they are more. */
+	int32 CountErrors(FStringView A, FStringView B, int32 Most)
 	{
 		std::vector<int32> BeforeLast(static_cast<size_t>(B.Len()) + 1);
 		std::vector<int32> Last(BeforeLast.size());
@@ -24,6 +24,7 @@ namespace Suggestions
 		for (int32 Line = 1; Line <= A.Len(); ++Line)
 		{
 			Row[0] = Line;
+			int32 Least = Line;
 			for (int32 Column = 1; Column <= B.Len(); ++Column)
 			{
 				const size_t Place = static_cast<size_t>(Column);
@@ -33,6 +34,11 @@ namespace Suggestions
 				{
 					Row[Place] = std::min(Row[Place], BeforeLast[Place - 2] + 1);
 				}
+				Least = std::min(Least, Row[Place]);
+			}
+			if (Least > Most)
+			{
+				return Least;
 			}
 			std::swap(BeforeLast, Last);
 			std::swap(Last, Row);
@@ -46,7 +52,7 @@ namespace Suggestions
 		const int32 Shorter = std::min(Text.Len(), Name.Len());
 		const int32 Allowed = std::max(1, Shorter / LettersPerError);
 		const bool bNear = Shorter > 1 && std::max(Text.Len(), Name.Len()) - Shorter <= Allowed;
-		const int32 Errors = bNear ? CountErrors(Text.ToLower(), Name.ToLower()) : Allowed + 1;
+		const int32 Errors = bNear ? CountErrors(Text.ToLower(), Name.ToLower(), Allowed) : Allowed + 1;
 		if (Errors <= Allowed)
 		{
 			return Errors;

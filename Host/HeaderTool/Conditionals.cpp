@@ -75,7 +75,7 @@ namespace HeaderTool
 		class FConditionals
 		{
 		public:
-			FConditionals(const std::string& InPath, const std::vector<FToken>& InTokens, FDiagnostics& InDiagnostics)
+			FConditionals(const std::string& InPath, std::vector<FToken>& InTokens, FDiagnostics& InDiagnostics)
 				: Path(InPath)
 				, Tokens(InTokens)
 				, Diagnostics(InDiagnostics)
@@ -84,9 +84,10 @@ namespace HeaderTool
 
 			FConditionedSource Run()
 			{
+				Result.Tokens.reserve(Tokens.size());
 				for (Index = 0; Index < Tokens.size(); ++Index)
 				{
-					const FToken& Token = Tokens[Index];
+					FToken& Token = Tokens[Index];
 					if (Token.Kind == ETokenKind::Directive)
 					{
 						Directive(Token);
@@ -100,7 +101,7 @@ namespace HeaderTool
 				{
 					Diagnostics.Error(Path, Condition.Place, "'#" + Condition.Text + "' is never closed; add the missing '#endif'.");
 				}
-				return Result;
+				return std::move(Result);
 			}
 
 		private:
@@ -109,11 +110,11 @@ namespace HeaderTool
 				return Stack.empty() || Stack.back().bKeeping;
 			}
 
-			void Code(const FToken& Token)
+			void Code(FToken& Token)
 			{
 				if (Token.Kind == ETokenKind::End)
 				{
-					Result.Tokens.push_back(Token);
+					Result.Tokens.push_back(std::move(Token));
 					return;
 				}
 				if (Token.IsIdentifier() && IsReflectionMacro(Token.Text))
@@ -126,7 +127,7 @@ namespace HeaderTool
 				}
 				if (IsKeeping())
 				{
-					Result.Tokens.push_back(Token);
+					Result.Tokens.push_back(std::move(Token));
 				}
 			}
 
@@ -211,7 +212,7 @@ namespace HeaderTool
 			}
 
 			const std::string& Path;
-			const std::vector<FToken>& Tokens;
+			std::vector<FToken>& Tokens; // those up to Index may have gone to Result
 			FDiagnostics& Diagnostics;
 			FConditionedSource Result;
 			std::vector<FCondition> Stack;
@@ -227,7 +228,7 @@ namespace HeaderTool
 		return Names.count(Text) > 0;
 	}
 
-	FConditionedSource ResolveConditionals(const std::string& Path, const std::vector<FToken>& Tokens, FDiagnostics& Diagnostics)
+	FConditionedSource ResolveConditionals(const std::string& Path, std::vector<FToken> Tokens, FDiagnostics& Diagnostics)
 	{
 		return Conditionals::FConditionals(Path, Tokens, Diagnostics).Run();
 	}

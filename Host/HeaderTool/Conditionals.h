@@ -29,5 +29,5 @@ namespace HeaderTool
 	 * Takes the directives out: code under WITH_EDITOR and WITH_EDITORONLY_DATA stays, so does the first branch of any other condition,
 	 * as long as nothing reflected is in it (an error: the generated code could not follow the condition).
 	 */
-	FConditionedSource ResolveConditionals(const std::string& Path, const std::vector<FToken>& Tokens, FDiagnostics& Diagnostics);
+	FConditionedSource ResolveConditionals(const std::string& Path, std::vector<FToken> Tokens, FDiagnostics& Diagnostics);
 }

@@ -2,6 +2,7 @@
 
 #include "FunctionValidator.h"
 
+#include "ClassNames.h"
 #include "Diagnostics.h"
 #include "TextTools.h"
 #include "TypeChecker.h"
@@ -14,9 +15,10 @@ namespace HeaderTool
 		class FFunctionValidator
 		{
 		public:
-			FFunctionValidator(FClass& InClass, FFunction& InFunction, const FTypeTable& InTypes, FDiagnostics& InDiagnostics)
+			FFunctionValidator(FClass& InClass, FFunction& InFunction, const FClassNames& InNames, const FTypeTable& InTypes, FDiagnostics& InDiagnostics)
 				: Class(InClass)
 				, Function(InFunction)
+				, Names(InNames)
 				, Types(InTypes)
 				, Diagnostics(InDiagnostics)
 				, Name("'" + InFunction.Name + "'")
@@ -43,51 +45,28 @@ namespace HeaderTool
 			/** Functions are looked up by name alone, so a name means one function. */
 			void CheckName()
 			{
-				for (const FFunction& Other : Class.Functions)
+				const FFunction* First = Names.FindFunction(Function.Name);
+				if (First != &Function)
 				{
-					if (&Other == &Function)
-					{
-						return;
-					}
-					if (EqualsIgnoringCase(Other.Name, Function.Name))
-					{
-						Error("UFUNCTION " + Name + " has the name of the UFUNCTION in line " + std::to_string(Other.Place.Line) + " (case does not count): reflected functions cannot be overloaded; rename one, or reflect only one.");
-						return;
-					}
+					Error("UFUNCTION " + Name + " has the name of the UFUNCTION in line " + std::to_string(First->Place.Line) + " (case does not count): reflected functions cannot be overloaded; rename one, or reflect only one.");
 				}
 			}
 
 			void CheckInherited()
 			{
-				for (const FClass* Owner : Types.GetChain(Class))
+				const FClassNames::FInheritedFunction* Inherited = Names.FindInherited(Function.Name);
+				if (Inherited == nullptr)
 				{
-					if (Owner != &Class && Has(*Owner))
-					{
-						Error("UFUNCTION " + Name + " is a UFUNCTION of '" + Owner->CppName + "' already; remove the macro here, overrides are found through the first declaration.");
-						return;
-					}
-					for (const FBaseSpecifier& Base : Owner->Bases)
-					{
-						const FClass* Interface = Types.FindInterface(Base.Name);
-						if (Interface && Has(*Interface))
-						{
-							Error("UFUNCTION " + Name + " belongs to the interface '" + Base.Name + "'; do not declare it again, override " + Function.Name + "_Implementation().");
-							return;
-						}
-					}
+					return;
 				}
-			}
-
-			bool Has(const FClass& Owner) const
-			{
-				for (const FFunction& Other : Owner.Functions)
+				if (Inherited->Interface.empty())
 				{
-					if (EqualsIgnoringCase(Other.Name, Function.Name))
-					{
-						return true;
-					}
+					Error("UFUNCTION " + Name + " is a UFUNCTION of '" + Inherited->Owner->CppName + "' already; remove the macro here, overrides are found through the first declaration.");
 				}
-				return false;
+				else
+				{
+					Error("UFUNCTION " + Name + " belongs to the interface '" + Inherited->Interface + "'; do not declare it again, override " + Function.Name + "_Implementation().");
+				}
 			}
 
 			void CheckEvent()
@@ -147,7 +126,7 @@ namespace HeaderTool
 
 			void CheckParameterNames()
 			{
-				std::set<std::string> Names = {"returnvalue"};
+				std::set<std::string> Taken = {"returnvalue"};
 				for (const FProperty& Parameter : Function.Parameters)
 				{
 					if (Parameter.Name.empty())
@@ -158,7 +137,7 @@ namespace HeaderTool
 					{
 						Error("parameter '" + Parameter.Name + "' of " + Name + " has the name that is kept for the result; rename it.", Parameter.Place);
 					}
-					else if (!Names.insert(ToLower(Parameter.Name)).second)
+					else if (!Taken.insert(ToLower(Parameter.Name)).second)
 					{
 						Error("UFUNCTION " + Name + " has two parameters named '" + Parameter.Name + "' (case does not count); rename one.", Parameter.Place);
 					}
@@ -168,15 +147,9 @@ namespace HeaderTool
 
 			void CheckShadowing(const FProperty& Parameter)
 			{
-				for (const FClass* Owner : Types.GetChain(Class))
+				for (const auto& [Owner, Property] : Names.FindProperties(Parameter.Name))
 				{
-					for (const FProperty& Property : Owner->Properties)
-					{
-						if (EqualsIgnoringCase(Property.Name, Parameter.Name))
-						{
-							Error("parameter '" + Parameter.Name + "' of " + Name + " has the name of the UPROPERTY '" + Owner->CppName + "::" + Property.Name + "'; rename it, to 'In" + Parameter.Name + "' for example.", Parameter.Place);
-						}
-					}
+					Error("parameter '" + Parameter.Name + "' of " + Name + " has the name of the UPROPERTY '" + Owner->CppName + "::" + Property->Name + "'; rename it, to 'In" + Parameter.Name + "' for example.", Parameter.Place);
 				}
 			}
 
@@ -244,6 +217,7 @@ namespace HeaderTool
 
 			FClass& Class;
 			FFunction& Function;
+			const FClassNames& Names;
 			const FTypeTable& Types;
 			FDiagnostics& Diagnostics;
 			const std::string Name; // in quotes, for messages
@@ -253,9 +227,14 @@ namespace HeaderTool
 
 	void ValidateFunctions(FClass& Class, const FTypeTable& Types, FDiagnostics& Diagnostics)
 	{
+		if (Class.Functions.empty())
+		{
+			return;
+		}
+		const FClassNames Names(Class, Types);
 		for (FFunction& Function : Class.Functions)
 		{
-			FunctionValidator::FFunctionValidator(Class, Function, Types, Diagnostics).Run();
+			FunctionValidator::FFunctionValidator(Class, Function, Names, Types, Diagnostics).Run();
 		}
 	}
 }

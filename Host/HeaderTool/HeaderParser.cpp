@@ -13,6 +13,8 @@
 #include "TextTools.h"
 #include "TypeParser.h"
 
+#include <utility>
+
 namespace HeaderTool
 {
 	namespace HeaderParser
@@ -259,7 +261,7 @@ namespace HeaderTool
 		{
 			return;
 		}
-		const FConditionedSource Conditioned = ResolveConditionals(Header.Path, Tokens, Diagnostics);
+		const FConditionedSource Conditioned = ResolveConditionals(Header.Path, std::move(Tokens), Diagnostics);
 		HeaderParser::NoteIncludes(Conditioned.Includes, Header);
 		if (CheckBrackets(Header.Path, Conditioned.Tokens, Diagnostics))
 		{

@@ -51,3 +51,29 @@ TEST_F(Launcher, SaysWhichCommandWasMeant)
 		EXPECT_NE(Result.Errors.find(Case.Message), std::string::npos) << Result.Errors;
 	}
 }
+
+TEST_F(Launcher, RefusesWhatItCannotFuzz)
+{
+	std::filesystem::create_directories(Folder.GetNative("Tests/Fuzz/Inputs/ini"));
+	std::filesystem::create_directories(Folder.GetNative("Tests/Fuzz/Inputs/text"));
+	EXPECT_EQ(FProgramRun::Run({"fuzz", "--list"}).Output, "ini\ntext\n");
+	const struct
+	{
+		std::vector<std::string> Arguments;
+		const char* Message;
+	} Cases[] = {
+		{{"fuzz", "txt"}, "there is no target txt. There are: ini, text"},
+		{{"fuzz", "ini/../text"}, "there is no target ini/../text."},
+		{{"fuzz", ""}, "there is no target ."},
+		{{"fuzz", "--seconds"}, "--seconds takes a number from 1 to 999999, not \"\""},
+		{{"fuzz", "ini", "--seconds", "0"}, "not \"0\""},
+		{{"fuzz", "--seconds", "1e3"}, "not \"1e3\""},
+		{{"fuzz", "--secs", "3"}, "fuzz has no option --secs"},
+	};
+	for (const auto& Case : Cases)
+	{
+		const FProgramResult Result = FProgramRun::Run(Case.Arguments);
+		EXPECT_EQ(Result.ExitStatus, 2);
+		EXPECT_NE(Result.Errors.find(Case.Message), std::string::npos) << Result.Errors;
+	}
+}

@@ -30,11 +30,11 @@ namespace FuzzTargets
 	/** Null for a name that no target has. */
 	const FFuzzTarget* Find(std::string_view Name);
 
-	inline void Promise(bool bKept, const std::string& What)
+	inline void Promise(bool bKept, std::string_view What)
 	{
 		if (!bKept)
 		{
-			throw FBrokenPromise(What);
+			throw FBrokenPromise(std::string(What));
 		}
 	}
 

@@ -15,33 +15,44 @@ namespace Script
 		return Line.Words.IsValidIndex(Index) && Line.Words[Index].Text.Equals(Word);
 	}
 
+	/** Takes the first word off a text whose words are apart by one blank. */
+	FStringView TakeWord(FStringView& Rest)
+	{
+		int32 Blank = INDEX_NONE;
+		const bool bLast = !Rest.FindChar(TEXT(' '), Blank);
+		const FStringView Word = bLast ? Rest : Rest.Left(Blank);
+		Rest = bLast ? FStringView() : Rest.RightChop(Blank + 1);
+		return Word;
+	}
+
 	/** How many words of the line, from First on, are the name; 0 when they are not. */
 	int32 MatchName(const FScriptLine& Line, int32 First, FStringView Name)
 	{
 		int32 NumWords = 0;
 		while (!Name.IsEmpty())
 		{
-			int32 Blank = INDEX_NONE;
-			const bool bLast = !Name.FindChar(TEXT(' '), Blank);
-			const FStringView Word = bLast ? Name : Name.Left(Blank);
-			if (!Line.Words.IsValidIndex(First + NumWords) || !FStringView(Line.Words[First + NumWords].Text).Equals(Word))
+			if (!Line.Words.IsValidIndex(First + NumWords) || !TakeWord(Name).Equals(FStringView(Line.Words[First + NumWords].Text)))
 			{
 				return 0;
 			}
-			Name = bLast ? FStringView() : Name.RightChop(Blank + 1);
 			++NumWords;
 		}
 		return NumWords;
+	}
+
+	const TArray<FScriptTopic>& GetTopics()
+	{
+		static const TArray<FScriptTopic> Topics = ScriptTopics::GetAll();
+		return Topics;
 	}
 
 	/** The entry with the longest matching name; null when there is none. */
 	template<typename EntryType>
 	const EntryType* FindEntry(const FScriptLine& Line, int32 First, TConstArrayView<EntryType> (*GetEntries)(const FScriptTopic&), int32& OutNumWords)
 	{
-		static const TArray<FScriptTopic> Topics = ScriptTopics::GetAll();
 		const EntryType* Best = nullptr;
 		OutNumWords = 0;
-		for (const FScriptTopic& Topic : Topics)
+		for (const FScriptTopic& Topic : GetTopics())
 		{
 			for (const EntryType& Entry : GetEntries(Topic))
 			{
@@ -69,7 +80,7 @@ namespace Script
 	TArray<FString> GetNames(bool bExpectations)
 	{
 		TArray<FString> Names;
-		for (const FScriptTopic& Topic : ScriptTopics::GetAll())
+		for (const FScriptTopic& Topic : GetTopics())
 		{
 			if (bExpectations)
 			{
@@ -104,9 +115,15 @@ namespace Script
 
 	bool IsOption(const FScriptSyntax& Syntax, const FString& Word)
 	{
-		TArray<FString> Options;
-		FString(Syntax.Options).ParseIntoArrayWS(Options);
-		return Options.ContainsByPredicate([&Word](const FString& Option) { return Option.Equals(Word); });
+		FStringView Options = Syntax.Options;
+		while (!Options.IsEmpty())
+		{
+			if (TakeWord(Options).Equals(FStringView(Word)))
+			{
+				return true;
+			}
+		}
+		return false;
 	}
 
 	/** Options come in pairs behind the arguments. */

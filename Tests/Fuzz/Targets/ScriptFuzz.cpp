@@ -36,7 +36,7 @@ void FuzzTargets::CheckScript(std::string_view Input)
 	{
 		ScriptFuzz::CheckWords(Step.Line);
 		const bool bKnown = (Step.Command != nullptr) != (Step.Expectation != nullptr);
-		const bool bTold = Problems.ContainsByPredicate([&Step](const FScriptProblem& Problem) { return Problem.Line == Step.Line.Number; });
-		Promise(bKnown || bTold, "a step that nobody knows is a problem");
+		const auto IsTold = [&Step](const FScriptProblem& Problem) { return Problem.Line == Step.Line.Number; };
+		Promise(bKnown || Problems.ContainsByPredicate(IsTold), "a step that nobody knows is a problem");
 	}
 }

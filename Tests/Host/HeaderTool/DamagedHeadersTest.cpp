@@ -132,7 +132,12 @@ TEST_F(OversizedHeaders, TakeTwiceAsLongWhenTheyAreTwiceAsLarge)
 {
 	const auto MakeProperties = [](int Number) { return MakeStruct(Repeat("\tUPROPERTY()\n\tint32 Value", Number, ";\n")); };
 	const auto MakeConditions = [](int Number) { return Repeat("#if WITH_EDITOR\n", Number) + MakeStruct(Repeat("\tUPROPERTY()\n\tint32 Value", Number, ";\n")) + Repeat("#endif\n", Number); };
+	const auto MakeFunctions = [](int Number) {
+		const std::string Members = Repeat("\tUPROPERTY()\n\tint32 Value", Number, ";\n") + Repeat("\tUFUNCTION()\n\tvoid Function", Number, "(int32 First, int32 Second);\n");
+		return "#pragma once\n#include \"Big.generated.h\"\nUCLASS()\nclass UBig : public UObject\n{\n\tGENERATED_BODY()\n" + Members + "};\n";
+	};
 	constexpr double Quadratic = 4.0;
 	EXPECT_LT(Measure(MakeProperties(8000)), Measure(MakeProperties(4000)) * (Quadratic - 1.0));
+	EXPECT_LT(Measure(MakeFunctions(6000)), Measure(MakeFunctions(3000)) * (Quadratic - 1.0));
 	EXPECT_LT(Measure(MakeConditions(4000)), Measure(MakeConditions(2000)) * (Quadratic - 1.0));
 }
