@@ -19,6 +19,7 @@ struct FFaultScenario
 	std::vector<std::string> Arguments; // those that begin with "./" lie in the folder
 	std::vector<int> LaterStatus = {0}; // what the next run may end with
 	bool bKills = false; // ended at random times as well
+	bool bMayRefuse = false; // the next run leaves it to people what was left
 };
 
 /** Projects to write in. */
@@ -104,6 +105,7 @@ namespace FaultScenarios
 			{"Settings", [](FProject Project) { Project.MakeSample(Settings + "my-own-key\n", Remember + Choose); }, RunScript, {0}, true},
 			{"Icons", [](FProject Project) { Project.MakeIcons(); }, RunScript},
 			{"Report", [](FProject Project) { Project.MakeProject(); }, {"automation", "./Project", "Engine.Delegates", "--report", "./Report"}},
+			{"TestOfTheRepair", [](FProject Project) { Project.MakeBroken(); }, {"automation", "./Project", "Module.Collision", "--with-repair"}, {0, 1}, false, true},
 			{"Installation", [](FProject Project) { Project.MakeOutdatedPlugin(); }, {"install", "./Plugin", "--force"}},
 		};
 	}

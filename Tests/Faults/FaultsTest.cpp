@@ -111,7 +111,8 @@ protected:
 		EXPECT_EQ(Faultless.FindForeign(Found, false), "") << "after the next run";
 		// The user's own settings need not repeat what the project's say by now.
 		const std::vector<std::string> Ignored = {"UserState/", "Project/Saved/"};
-		EXPECT_EQ(FolderContents::TellDifference(Found, Faultless.After, Ignored), "") << "the next run ends with something else";
+		const bool bRefused = GetParam().bMayRefuse && Later.ExitStatus != 0;
+		EXPECT_TRUE(bRefused || FolderContents::TellDifference(Found, Faultless.After, Ignored).empty()) << "the next run ends with something else: " << FolderContents::TellDifference(Found, Faultless.After, Ignored);
 	}
 
 	void ExpectTold(const FProgramResult& Result, const FFileCall& Call) const
@@ -155,7 +156,7 @@ TEST_P(Faults, OfEveryCallLeaveTheOldOrTheNewFile)
 	const long Stride = GetNumber("VELMORANT_FAULT_STRIDE", 97);
 	const FFaultlessRun Faultless = RunFaultless();
 	ASSERT_GT(Faultless.Calls.size(), 5u);
-	ASSERT_NE(Faultless.Before, Faultless.After);
+	ASSERT_TRUE(std::any_of(Faultless.Calls.begin(), Faultless.Calls.end(), [](const FFileCall& Call) { return Call.Name == "rename" || Call.Name == "unlink"; }));
 	long NumPossible = 0;
 	long NumRuns = 0;
 	long NumFailures = 0;

@@ -69,6 +69,12 @@ bool FVelmorantModuleRepairTest::RunTest(const FString&)
 		return true;
 	}
 	const FString BackupFile = File + TEXT(".velmorant-backup");
+	TArray<uint8> Earlier;
+	if (FPaths::FileExists(BackupFile) && (!FFileHelper::LoadFileToArray(Earlier, *BackupFile) || Earlier != Backup))
+	{
+		AddError(FString::Printf(TEXT("%s is what the file was before a run that was ended too early to put it back. Compare the two, keep what is right, and delete the copy."), *BackupFile));
+		return false;
+	}
 	bool bMayBeEdited = false;
 	ON_SCOPE_EXIT
 	{
