@@ -6,6 +6,7 @@
 #include "EditorWidgets/VlmEWMinimapTool.h"
 #include "EditorWidgets/VlmEWProjectSelector.h"
 #include "EditorWidgets/VlmEWUnitVolumeDuplicationList.h"
+#include "FileBytes.h"
 #include "TestPanel.h"
 #include "ToolkitTest.h"
 #include "UObject/UnrealType.h"
@@ -13,7 +14,6 @@
 #include "VelmorantProjectRequestManager.h"
 
 #include <filesystem>
-#include <fstream>
 
 using testing::AllOf;
 using testing::ElementsAre;
@@ -448,16 +448,12 @@ TEST_F(DeveloperPanel, MakesADataAssetOfTheConfiguratorThatIsClicked)
 TEST_F(DeveloperPanel, EveryFunctionForDesignersIsReachedByALayoutOrTheDocumentationSaysWhyNot)
 {
 	StartEditor();
-	const auto ReadAll = [](const std::filesystem::path& Path) {
-		std::ifstream Stream(Path, std::ios::binary);
-		return std::string(std::istreambuf_iterator<char>(Stream), {});
-	};
 	std::string Layouts;
 	for (const auto& Entry : std::filesystem::recursive_directory_iterator(VELMORANT_SOURCE_DIR "/Companions/VelmorantPro/Content/EditorHelpers"))
 	{
-		Layouts += Entry.is_regular_file() ? ReadAll(Entry.path()) : std::string();
+		Layouts += Entry.is_regular_file() ? ReadBytes(Entry.path()) : std::string();
 	}
-	const std::string Documentation = ReadAll(VELMORANT_SOURCE_DIR "/Docs/Layouts.md");
+	const std::string Documentation = ReadBytes(VELMORANT_SOURCE_DIR "/Docs/Layouts.md");
 	int32 NumFunctions = 0;
 	for (const UClass* Class : {UVlmEWLoginUser::StaticClass(), UVlmEWDevInfo::StaticClass(), UVlmEWProjectSelector::StaticClass(), UVlmEWListDisplayer::StaticClass(), UListDisplayerItemBase::StaticClass(),
 			 UVlmEWMinimapTool::StaticClass(), UVlmEWUnitVolumeDuplicationList::StaticClass()})

@@ -1,6 +1,7 @@
 // Copyright Velmorant. All Rights Reserved.
 // The icon font as users have it, if it has been downloaded.
 
+#include "FileBytes.h"
 #include "FontPackage.h"
 #include "HostPackages.h"
 #include "Icons/FontIconImporter.h"
@@ -111,8 +112,6 @@ TEST_F(FontIconPackage, EachStyleHasItsFontFile)
 	EXPECT_EQ(UVelmorantUISubsystem::Get()->GetAllFontIconsStylesNames(TEXT("FontAwesome")).Num(), 3);
 	for (const auto& [Style, File] : {std::pair("Solid", "fa-solid-900.ttf"), std::pair("Regular", "fa-regular-400.ttf"), std::pair("Brands", "fa-brands-400.ttf")})
 	{
-		std::ifstream Stream(FontPackage / "webfonts" / File, std::ios::binary);
-		const std::string Bytes{std::istreambuf_iterator<char>(Stream), std::istreambuf_iterator<char>()};
-		EXPECT_TRUE(ReadProjectFile(std::string("Content/FontIcons/FontAwesome-") + Style + ".ttf") == Bytes) << Style;
+		EXPECT_TRUE(ReadProjectFile(std::string("Content/FontIcons/FontAwesome-") + Style + ".ttf") == ReadBytes(FontPackage / "webfonts" / File)) << Style;
 	}
 }

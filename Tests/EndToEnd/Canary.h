@@ -2,10 +2,10 @@
 
 #pragma once
 
+#include "FileBytes.h"
+
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
 #include <vector>
 
@@ -57,8 +57,7 @@ namespace Canary
 			{
 				continue;
 			}
-			std::ifstream Stream(Path, std::ios::binary);
-			const std::string Bytes((std::istreambuf_iterator<char>(Stream)), std::istreambuf_iterator<char>());
+			const std::string Bytes = ReadBytes(Path);
 			const auto IsIn = [&Path](const char* Part) { return Path.find(Part) != std::string::npos; };
 			if (Bytes.find(Password) != std::string::npos && !IsIn("/VelmorantUser"))
 			{

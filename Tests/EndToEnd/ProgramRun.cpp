@@ -3,6 +3,7 @@
 #include "ProgramRun.h"
 
 #include "Canary.h"
+#include "FileBytes.h"
 
 #include <algorithm>
 #include <csignal>
@@ -11,7 +12,6 @@
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
-#include <iterator>
 #include <pty.h>
 #include <stdexcept>
 #include <sys/resource.h>
@@ -20,12 +20,6 @@
 
 namespace ProgramRun
 {
-	std::string ReadAll(const std::string& Path)
-	{
-		std::ifstream Stream(Path, std::ios::binary);
-		return std::string(std::istreambuf_iterator<char>(Stream), std::istreambuf_iterator<char>());
-	}
-
 	void Redirect(const std::string& Path, int Target)
 	{
 		const int File = open(Path.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
@@ -47,7 +41,7 @@ namespace ProgramRun
 	std::string ReadScript(const std::vector<std::string>& Arguments)
 	{
 		const auto Script = std::find_if(Arguments.begin(), Arguments.end(), [](const std::string& Argument) { return Argument.ends_with(".velscript"); });
-		return Script != Arguments.end() && std::filesystem::is_regular_file(*Script) ? ReadAll(*Script) : std::string(); // a pipe may never end
+		return Script != Arguments.end() && std::filesystem::is_regular_file(*Script) ? ReadBytes(*Script) : std::string(); // a pipe may never end
 	}
 
 	void ExpectNoLeaks(const FProgramResult& Result, const std::string& Script)
@@ -134,8 +128,8 @@ FProgramResult FProgramRun::Wait()
 {
 	FProgramResult Result = ProgramRun::WaitFor(Process);
 	Process = -1;
-	Result.Output = ProgramRun::ReadAll(Folder + "/out");
-	Result.Errors = ProgramRun::ReadAll(Folder + "/err");
+	Result.Output = ReadBytes(Folder + "/out");
+	Result.Errors = ReadBytes(Folder + "/err");
 	ProgramRun::ExpectNoLeaks(Result, Script);
 	return Result;
 }

@@ -3,23 +3,16 @@
 #pragma once
 
 #include "Canary.h"
+#include "FileBytes.h"
 #include "ProgramRun.h"
 #include "TemporaryFolder.h"
 
 #include <chrono>
 #include <filesystem>
-#include <fstream>
 #include <gtest/gtest.h>
-#include <iterator>
 #include <map>
 #include <string>
 #include <utility>
-
-inline std::string ReadBytes(const std::filesystem::path& File)
-{
-	std::ifstream Stream(File, std::ios::binary);
-	return std::string(std::istreambuf_iterator<char>(Stream), std::istreambuf_iterator<char>());
-}
 
 /** Every file below a folder, with its bytes and the time it was changed last. */
 using FFolderState = std::map<std::string, std::pair<std::string, std::filesystem::file_time_type>>;

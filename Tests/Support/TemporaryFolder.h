@@ -4,11 +4,11 @@
 
 #include "Containers/StringConv.h"
 #include "Containers/UnrealString.h"
+#include "FileBytes.h"
 
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -52,8 +52,7 @@ public:
 	/** Empty for a missing file. */
 	std::string Read(std::string_view Relative) const
 	{
-		std::ifstream Stream(GetNative(Relative), std::ios::binary);
-		return std::string(std::istreambuf_iterator<char>(Stream), std::istreambuf_iterator<char>());
+		return ReadBytes(GetNative(Relative));
 	}
 
 	bool Exists(std::string_view Relative) const { return std::filesystem::exists(GetNative(Relative)); }

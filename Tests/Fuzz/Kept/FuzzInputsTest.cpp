@@ -1,23 +1,16 @@
 // Copyright Velmorant. All Rights Reserved.
 // The kept inputs of all fuzz targets, in every run of the tests: seeds, and whatever once broke a promise.
 
+#include "FileBytes.h"
 #include "FuzzTarget.h"
 
 #include <filesystem>
-#include <fstream>
 #include <gtest/gtest.h>
-#include <iterator>
 
 class FuzzInputs : public testing::TestWithParam<FFuzzTarget>
 {
 protected:
 	static inline const std::filesystem::path Root = VELMORANT_SOURCE_DIR "/Tests/Fuzz/Inputs";
-
-	static std::string Read(const std::filesystem::path& File)
-	{
-		std::ifstream Stream(File, std::ios::binary);
-		return std::string(std::istreambuf_iterator<char>(Stream), std::istreambuf_iterator<char>());
-	}
 
 	static void Check(const std::string& Input)
 	{
@@ -42,7 +35,7 @@ TEST_P(FuzzInputs, KeepWhatIsPromisedWhereverTheyEnd)
 			continue;
 		}
 		SCOPED_TRACE(Entry.path().string());
-		const std::string Whole = Read(Entry.path());
+		const std::string Whole = ReadBytes(Entry.path());
 		Check(Whole);
 		for (size_t Cut = 1; Cut < 24; ++Cut)
 		{

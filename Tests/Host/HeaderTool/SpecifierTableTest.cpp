@@ -1,5 +1,6 @@
 // Copyright Velmorant. All Rights Reserved.
 
+#include "FileBytes.h"
 #include "HeaderToolRun.h"
 #include "SpecifierTable.h"
 
@@ -65,8 +66,7 @@ namespace SpecifierTableTest
 			const std::string Name = Entry.path().filename().string();
 			if (Entry.is_regular_file() && Name != "SpecifierTable.cpp")
 			{
-				std::ifstream Stream(Entry.path());
-				Sources[Name] += std::string(std::istreambuf_iterator<char>(Stream), {});
+				Sources[Name] += ReadBytes(Entry.path());
 			}
 		}
 		return Sources;
