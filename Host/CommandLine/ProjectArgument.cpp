@@ -10,11 +10,12 @@
 TOptional<EExitStatus> ProjectArgument::Find(const FString& FileOrFolder, FString& OutProject, bool bJson)
 {
 	TOptional<EExitStatus> End;
-	OutProject = HostProject::Find(FileOrFolder);
+	bool bUnread = false;
+	OutProject = HostProject::Find(FileOrFolder, &bUnread);
 	FHostProject Descriptor;
 	if (OutProject.IsEmpty())
 	{
-		End = EExitStatus::Usage;
+		End = bUnread ? EExitStatus::Trouble : EExitStatus::Usage;
 	}
 	else if (!HostProject::Read(OutProject, Descriptor))
 	{

@@ -17,6 +17,7 @@
 #include "Session/ProjectLock.h"
 #include "Session/ScriptPlayer.h"
 #include "Window/MainWindow.h"
+#include "Window/SharedProjectQuestion.h"
 
 #include <exception>
 
@@ -50,24 +51,13 @@ namespace DesktopMain
 		return TOptional<EExitStatus>();
 	}
 
-	/** Whether to open a project that another window has open. */
-	bool MayShare(const FProjectLock& Lock, const QString& Project)
-	{
-		QMessageBox Box(QMessageBox::Warning, QObject::tr("Open already"),
-			QObject::tr("%1 is open in another window already (%2).\n\nWhat one of them saves, the other does not see before it reads it again, and the last one to save wins.").arg(Project, Lock.DescribeOwner()));
-		const QPushButton* const Share = Box.addButton(QObject::tr("Open it here as well"), QMessageBox::AcceptRole);
-		Box.setDefaultButton(Box.addButton(QMessageBox::Cancel));
-		Box.exec();
-		return Box.clickedButton() == Share;
-	}
-
 	int Run(const FDesktopArguments& Arguments, const FEditorHostOptions& Options)
 	{
 		FDesktopEditor Editor(Options);
 		Editor.OnBroken = [](const FString& Reason) { Console::PrintErrorLines(FString(TEXT("velmorant-editor: ")) + Reason); };
 		const bool bPlays = !Arguments.Script.IsEmpty(); // then starting is a step of its own
 		FProjectLock Lock;
-		if (!bPlays && !Lock.Take(QtText::From(FPaths::GetPath(Options.Project))) && !MayShare(Lock, QtText::From(FPaths::GetBaseFilename(Options.Project))))
+		if (!bPlays && !Lock.Take(QtText::From(FPaths::GetPath(Options.Project))) && !SharedProjectQuestion::MayShare(Lock, QtText::From(FPaths::GetBaseFilename(Options.Project))))
 		{
 			return static_cast<int>(EExitStatus::Done);
 		}

@@ -62,6 +62,10 @@ namespace HeaderTool
 		{
 			return "put the values into a USTRUCT.";
 		}
+		if (Plain == "FGuid" || Plain == "FDateTime" || Plain == "FTimespan")
+		{
+			return "the engine reflects it, this host does not; keep it as FString or int64.";
+		}
 		return "";
 	}
 }

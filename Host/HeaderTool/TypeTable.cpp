@@ -100,7 +100,7 @@ namespace HeaderTool
 	bool FTypeTable::IsBuiltInStruct(const std::string& CppName)
 	{
 		static const std::set<std::string> Names = {
-			"FVector", "FVector2D", "FRotator", "FTransform", "FLinearColor", "FColor", "FGuid", "FDateTime", "FTimespan",
+			"FVector", "FVector2D", "FRotator", "FTransform", "FLinearColor", "FColor",
 			"FSoftObjectPath", "FSoftClassPath", "FTopLevelAssetPath"};
 		return Names.count(CppName) > 0;
 	}

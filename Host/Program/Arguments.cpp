@@ -246,12 +246,14 @@ namespace Arguments
 			return EExitStatus::Done;
 		}
 		TArray<FString> Lines;
+		FString Told = ToText(Errors.str()).TrimEnd();
 		if (App.get_subcommands().empty() && Error.get_exit_code() == static_cast<int>(CLI::ExitCodes::RequiredError) && Count > 1)
 		{
 			const FString Unknown = ToText(Values[1]);
 			Lines.Add(Suggestions::Append(FString::Printf(TEXT("There is no command %s."), *Unknown), Unknown, GetCommandNames(App)));
+			Told = TEXT("Run with --help for more information."); // the library would say that a subcommand is missing
 		}
-		Lines.Add(ToText(Errors.str()).TrimEnd());
+		Lines.Add(Told);
 		if (!App.get_subcommands().empty() && Error.get_exit_code() == static_cast<int>(CLI::ExitCodes::ExtrasError))
 		{
 			ExplainSwitches(*App.get_subcommands().front(), Lines);

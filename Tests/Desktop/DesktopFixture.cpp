@@ -2,6 +2,7 @@
 
 #include "DesktopFixture.h"
 
+#include "Level/LevelActors.h"
 #include "Look/Theme.h"
 #include "QtText.h"
 #include "Widgets/ButtonView.h"
@@ -107,4 +108,40 @@ void FDesktopTest::WhenAsked(std::function<void(QDialog&)> Act)
 		ASSERT_NE(Dialog, nullptr) << "nothing was asked";
 		Act(*Dialog);
 	});
+}
+
+void FDesktopTest::Answer(const QString& Button, const QString& Name)
+{
+	WhenAsked([Button, Name](QDialog& Dialog) {
+		EXPECT_EQ(Dialog.objectName(), Name);
+		for (QPushButton* const Each : Dialog.findChildren<QPushButton*>())
+		{
+			if (Each->text() == Button)
+			{
+				Each->click();
+				return;
+			}
+		}
+		ADD_FAILURE() << "the message has no button " << Button.toStdString();
+		Dialog.reject();
+	});
+}
+
+QDockWidget& FDesktopTest::FindDock(const QString& Name)
+{
+	QDockWidget* const Found = GetWindow().findChild<QDockWidget*>(Name);
+	if (Found == nullptr)
+	{
+		throw std::runtime_error("no dock is called " + Name.toStdString());
+	}
+	return *Found;
+}
+
+void FDesktopTest::Change()
+{
+	AActor* const Actor = LevelActors::GetAll()[0];
+	Actor->Modify();
+	Actor->SetActorLabel(TEXT("Renamed"));
+	Let(0.0);
+	ASSERT_EQ(Find<QLabel>("StatusUnsaved").text(), QStringLiteral("1 unsaved"));
 }

@@ -70,6 +70,14 @@ protected:
 	/** Does something while the dialog that comes next is open. */
 	void WhenAsked(std::function<void(QDialog&)> Act);
 
+	/** Presses a button of the message box of that name, which comes next. */
+	void Answer(const QString& Button, const QString& Name);
+
+	QDockWidget& FindDock(const QString& Name);
+
+	/** Changes the level, so that there is something to lose. */
+	void Change();
+
 	FTemporaryFolder Folder;
 
 private:

@@ -10,7 +10,6 @@
 #include "HostPaths.h"
 #include "Level/LevelActors.h"
 #include "QtText.h"
-#include "Session/ProjectLock.h"
 #include "Widgets/Notifications/SNotificationList.h"
 
 #include <filesystem>
@@ -18,8 +17,6 @@
 class EditorWindow : public FDesktopTest
 {
 protected:
-	QDockWidget& FindDock(const char* Name) { return *GetWindow().findChild<QDockWidget*>(QLatin1String(Name)); }
-
 	/** The tab of that title, wherever it is. */
 	std::pair<QTabBar*, int> FindTab(const QString& Title)
 	{
@@ -36,61 +33,33 @@ protected:
 		throw std::runtime_error("no tab is called " + Title.toStdString());
 	}
 
-	/** Changes the level, so that there is something to lose. */
-	void Change()
-	{
-		AActor* const Actor = LevelActors::GetAll()[0];
-		Actor->Modify();
-		Actor->SetActorLabel(TEXT("Renamed"));
-		Let(0.0);
-		ASSERT_TRUE(Find<QLabel>("StatusUnsaved").text().contains(QStringLiteral("1"))) << Find<QLabel>("StatusUnsaved").text().toStdString();
-	}
-
-	/** Presses a button of the message that comes next. */
-	void Answer(const QString& Text, const QString& Message)
-	{
-		WhenAsked([Text, Message](QDialog& Dialog) {
-			EXPECT_EQ(Dialog.objectName(), Message);
-			for (QPushButton* const Button : Dialog.findChildren<QPushButton*>())
-			{
-				if (Button->text() == Text)
-				{
-					Button->click();
-					return;
-				}
-			}
-			ADD_FAILURE() << "the message has no button " << Text.toStdString();
-			Dialog.reject();
-		});
-	}
-
 	std::string Level() const { return "HarborTower/Content/Maps/HarborTower.umap.json"; }
 };
 
 TEST_F(EditorWindow, ShowsOneTitleForEachDockAndClosesTabsByTheirCross)
 {
 	Open();
-	ASSERT_FALSE(GetWindow().tabifiedDockWidgets(&FindDock("Outliner")).isEmpty());
-	EXPECT_NE(FindDock("Outliner").titleBarWidget(), nullptr) << "the tab says it";
-	EXPECT_EQ(FindDock("Plan").titleBarWidget(), nullptr) << "alone, it has its title";
+	ASSERT_FALSE(GetWindow().tabifiedDockWidgets(&FindDock(QStringLiteral("Outliner"))).isEmpty());
+	EXPECT_NE(FindDock(QStringLiteral("Outliner")).titleBarWidget(), nullptr) << "the tab says it";
+	EXPECT_EQ(FindDock(QStringLiteral("Plan")).titleBarWidget(), nullptr) << "alone, it has its title";
 
 	const auto [Bar, Index] = FindTab(QStringLiteral("Placement"));
 	QWidget* const Cross = Bar->tabButton(Index, QTabBar::RightSide);
 	ASSERT_NE(Cross, nullptr);
 	QTest::mouseClick(Cross, Qt::LeftButton);
 	Let(0.0);
-	EXPECT_TRUE(FindDock("Placement").isHidden());
-	EXPECT_FALSE(FindDock("Outliner").isHidden()) << "only the one whose cross was clicked";
-	EXPECT_EQ(FindDock("Outliner").titleBarWidget(), nullptr) << "it stands alone now";
-	FindDock("Placement").toggleViewAction()->trigger();
+	EXPECT_TRUE(FindDock(QStringLiteral("Placement")).isHidden());
+	EXPECT_FALSE(FindDock(QStringLiteral("Outliner")).isHidden()) << "only the one whose cross was clicked";
+	EXPECT_EQ(FindDock(QStringLiteral("Outliner")).titleBarWidget(), nullptr) << "it stands alone now";
+	FindDock(QStringLiteral("Placement")).toggleViewAction()->trigger();
 	Let(0.0);
-	EXPECT_NE(FindDock("Outliner").titleBarWidget(), nullptr);
+	EXPECT_NE(FindDock(QStringLiteral("Outliner")).titleBarWidget(), nullptr);
 }
 
 TEST_F(EditorWindow, KeepsTheToolsAsWideAsTheyWereWhenPanelsComeAndGo)
 {
 	Open();
-	const int Before = FindDock("Details").width();
+	const int Before = FindDock(QStringLiteral("Details")).width();
 	for (int Round = 0; Round < 3; ++Round)
 	{
 		Click("VelmorantMenu");
@@ -102,20 +71,20 @@ TEST_F(EditorWindow, KeepsTheToolsAsWideAsTheyWereWhenPanelsComeAndGo)
 		}
 		ASSERT_NE(Panel, nullptr);
 		EXPECT_GE(Panel->width(), 320);
-		EXPECT_NEAR(FindDock("Details").width(), Before, 8) << "with the panel, round " << Round;
+		EXPECT_NEAR(FindDock(QStringLiteral("Details")).width(), Before, 8) << "with the panel, round " << Round;
 		Panel->close();
 		Let(0.0);
-		EXPECT_NEAR(FindDock("Details").width(), Before, 8) << "without it again, round " << Round;
+		EXPECT_NEAR(FindDock(QStringLiteral("Details")).width(), Before, 8) << "without it again, round " << Round;
 	}
 }
 
 TEST_F(EditorWindow, BringsTheContentBrowserBackWhenAnAssetIsMade)
 {
 	Open();
-	FindDock("ContentBrowser").close();
+	FindDock(QStringLiteral("ContentBrowser")).close();
 	Let(0.0);
 	Click("VelmorantMenu");
-	EXPECT_TRUE(FindDock("ContentBrowser").isHidden()) << "nothing was made yet";
+	EXPECT_TRUE(FindDock(QStringLiteral("ContentBrowser")).isHidden()) << "nothing was made yet";
 	QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
 	HostContentBrowser::SetSelection({});
 	WhenAsked([](QDialog& Dialog) { QTest::keyClick(&Dialog, Qt::Key_Return); });
@@ -128,7 +97,7 @@ TEST_F(EditorWindow, BringsTheContentBrowserBackWhenAnAssetIsMade)
 		}
 	}
 	Let(0.0);
-	EXPECT_FALSE(FindDock("ContentBrowser").isHidden());
+	EXPECT_FALSE(FindDock(QStringLiteral("ContentBrowser")).isHidden());
 }
 
 TEST_F(EditorWindow, AsksBeforeUnsavedWorkIsLostAndSaysWhatCannotBeSaved)
@@ -195,18 +164,6 @@ TEST_F(EditorWindow, OffersToReadAgainWhatOthersHaveChanged)
 	EXPECT_EQ(FindShown("Notice"), nullptr);
 }
 
-TEST_F(EditorWindow, TellsASecondOneAboutTheFirst)
-{
-	const QString Project = QString::fromStdString(Folder.GetNative("HarborTower").string());
-	std::optional<FProjectLock> First(std::in_place);
-	EXPECT_TRUE(First->Take(Project));
-	FProjectLock Second;
-	EXPECT_FALSE(Second.Take(Project));
-	EXPECT_TRUE(Second.DescribeOwner().contains(QString::number(QCoreApplication::applicationPid()))) << Second.DescribeOwner().toStdString();
-	First.reset();
-	EXPECT_TRUE(Second.Take(Project)) << "once the first is closed";
-}
-
 TEST_F(EditorWindow, ReachesNotificationsByKeysAndSaysWhenThereIsNone)
 {
 	Open();
@@ -221,4 +178,15 @@ TEST_F(EditorWindow, ReachesNotificationsByKeysAndSaysWhenThereIsNone)
 	Let(0.0);
 	Go.trigger();
 	EXPECT_EQ(GetWindow().statusBar()->currentMessage(), QStringLiteral("There is no notification to answer"));
+}
+
+TEST_F(EditorWindow, TellsWhatWasClickedInVain)
+{
+	Open();
+	Let(1.0);
+	QAbstractButton& Skip = FindButton(QStringLiteral("Skip"));
+	Skip.click();
+	EXPECT_EQ(GetWindow().statusBar()->currentMessage(), QString());
+	Skip.click(); // before the window shows that it is gone
+	EXPECT_TRUE(GetWindow().statusBar()->currentMessage().startsWith(QStringLiteral("Not done: Skip "))) << GetWindow().statusBar()->currentMessage().toStdString();
 }

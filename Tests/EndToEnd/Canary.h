@@ -9,7 +9,10 @@
 #include <string>
 #include <vector>
 
-/** A password and an API key that every project of these tests holds, and the places where they may be found when all is over. */
+/**
+ * A password and an API key that every run of these tests has in its environment, the key in its project as well, and the places where they
+ * may be found when all is over.
+ */
 namespace Canary
 {
 	inline const std::string Password = "harbor-2026"; // of the sample's user

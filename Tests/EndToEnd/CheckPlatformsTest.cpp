@@ -85,5 +85,5 @@ TEST_F(CheckPlatforms, ScriptsRunWithAPlatformsConfigurationToo)
 {
 	Folder.Write("Project/Config/Windows/WindowsGame.ini", "[/Script/VelmorantSDK.VelmorantSDKSettings]\nApiKey=for-windows\n");
 	Do("expect property default:VelmorantSDKSettings ApiKey for-windows\n", {"--platform", "Windows"});
-	Do("expect property default:VelmorantSDKSettings ApiKey \"\"\n");
+	Do("expect property default:VelmorantSDKSettings ApiKey " + Canary::Key + "\n");
 }

@@ -153,7 +153,7 @@ TEST_F(CheckUndo, TheRecordIsTheUsersOwnAndNotInTheProject)
 {
 	RepairFrom(Usual);
 	EXPECT_EQ(Folder.Count("Project"), 2u) << "descriptor and configuration";
-	EXPECT_EQ(Folder.Count("Project/Config"), 1u);
+	EXPECT_EQ(Folder.Count("Project/Config"), 2u);
 	const std::filesystem::path Record = FindRecord();
 	ASSERT_EQ(Record.parent_path(), Folder.GetNative("UserState/velmorant"));
 	EXPECT_EQ(std::filesystem::status(Record).permissions(), std::filesystem::perms(0600));

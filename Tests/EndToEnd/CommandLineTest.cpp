@@ -24,6 +24,7 @@ TEST_F(CommandLineUse, BadUsageEndsWithTwo)
 	} Cases[] = {
 		{"nothing at all", {}, "subcommand"},
 		{"an unknown command", {"chek", GetProject()}, "There is no command chek. Did you mean \"check\"? There are: check, run, "},
+		{"an unknown command, with what to do", {"chek", GetProject()}, "completion, manual\nRun with --help"},
 		{"no project named", {"check"}, "PROJECT"},
 		{"an unknown option", {"check", GetProject(), "--fix"}, "There is no --fix. There are: "},
 		{"a mistyped option", {"run", GetProject(), GetScript(), "--platfrom=Linux"}, "Did you mean \"--platform\"?"},

@@ -4,25 +4,39 @@
 
 #include "ProjectOnDisk.h"
 
-/** A made-up plugin of the toolkit in a folder of its own: the companions' headers, the images, a descriptor. */
-class FPluginOnDisk : public testing::Test
+/** A made-up plugin of the toolkit: the companions' headers, the images, a descriptor. */
+namespace PluginOnDisk
 {
-protected:
-	FPluginOnDisk()
-	{
-		for (const char* Module : {"VelmorantSDK", "VelmorantPro", "VelmorantProUI"})
-		{
-			Copy(std::filesystem::path("Companions") / Module / "Public", std::filesystem::path(Plugin) / "Source" / Module / "Public");
-		}
-		Copy("Companions/VelmorantPro/Resources", std::filesystem::path(Plugin) / "Resources");
-		WriteDescriptor(Descriptor);
-	}
+	inline const std::filesystem::path Sources = VELMORANT_SOURCE_DIR;
+	inline const std::string Descriptor = "{\n\t\"FileVersion\": 3,\n\t\"Modules\": [\n\t\t{ \"Name\": \"VelmorantPro\", \"Type\": \"Runtime\", \"LoadingPhase\": \"PreDefault\" }\n\t]\n}\n";
 
-	static void Copy(const std::filesystem::path& From, const std::filesystem::path& To, const FTemporaryFolder& Where)
+	inline void Copy(const std::filesystem::path& From, const std::filesystem::path& To, const FTemporaryFolder& Where)
 	{
 		std::filesystem::create_directories(Where.GetNative(To.string()).parent_path());
 		std::filesystem::copy(Sources / From, Where.GetNative(To.string()), std::filesystem::copy_options::recursive);
 	}
+
+	inline void Make(const FTemporaryFolder& Where, const std::filesystem::path& Plugin)
+	{
+		for (const char* Module : {"VelmorantSDK", "VelmorantPro", "VelmorantProUI"})
+		{
+			Copy(std::filesystem::path("Companions") / Module / "Public", Plugin / "Source" / Module / "Public", Where);
+		}
+		Copy("Companions/VelmorantPro/Resources", Plugin / "Resources", Where);
+		Where.Write((Plugin / "VelmorantPro.uplugin").string(), Descriptor);
+	}
+}
+
+/** Such a plugin in a folder of its own. */
+class FPluginOnDisk : public testing::Test
+{
+protected:
+	FPluginOnDisk() { PluginOnDisk::Make(Folder, Plugin); }
+
+	/** Secrets are nowhere but where they belong. */
+	void TearDown() override { EXPECT_EQ(Canary::FindLeaksIn(Folder.GetNative()), std::vector<std::string>{}); }
+
+	static void Copy(const std::filesystem::path& From, const std::filesystem::path& To, const FTemporaryFolder& Where) { PluginOnDisk::Copy(From, To, Where); }
 
 	void Copy(const std::filesystem::path& From, const std::filesystem::path& To) const { Copy(From, To, Folder); }
 
@@ -78,10 +92,10 @@ protected:
 
 	FFolderState Look() const { return LookAtFolder(GetPath()); }
 
-	static inline const std::filesystem::path Sources = VELMORANT_SOURCE_DIR;
+	static inline const std::filesystem::path Sources = PluginOnDisk::Sources;
 	static inline const std::string Plugin = "Plugins/VelmorantPro";
 	static inline const std::string ModuleFile = "Source/VelmorantProEditor/Private/VelmorantProEditor.cpp";
-	static inline const std::string Descriptor = "{\n\t\"FileVersion\": 3,\n\t\"Modules\": [\n\t\t{ \"Name\": \"VelmorantPro\", \"Type\": \"Runtime\", \"LoadingPhase\": \"PreDefault\" }\n\t]\n}\n";
+	static inline const std::string Descriptor = PluginOnDisk::Descriptor;
 
 	FTemporaryFolder Folder;
 };

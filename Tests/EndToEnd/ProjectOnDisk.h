@@ -37,10 +37,14 @@ protected:
 	/** Secrets are nowhere but where they belong. */
 	void TearDown() override { EXPECT_EQ(Canary::FindLeaksIn(Folder.GetNative()), std::vector<std::string>{}); }
 
-	/** An empty project: a descriptor. */
+	/** A descriptor, nothing else. */
+	void MakeBareProject() const { Folder.Write("Project/Test.uproject", "{ \"FileVersion\": 3, \"EngineAssociation\": \"5.6\" }\n"); }
+
+	/** An empty project: a descriptor, and the API key that somebody has chosen. */
 	void MakeProject() const
 	{
-		Folder.Write("Project/Test.uproject", "{ \"FileVersion\": 3, \"EngineAssociation\": \"5.6\" }\n");
+		MakeBareProject();
+		Folder.Write("Project/Config/DefaultGame.ini", "[/Script/VelmorantSDK.VelmorantSDKSettings]\nApiKey=" + Canary::Key + "\n");
 	}
 
 	void CopySample() const

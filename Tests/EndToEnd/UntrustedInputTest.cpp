@@ -139,6 +139,7 @@ TEST_F(UntrustedInput, PathsThatCannotBeLookedForAreTold)
 	EXPECT_NE(Relative.Errors.find("the working directory is not there any more"), std::string::npos) << Relative.Errors;
 	EXPECT_EQ(Full.ExitStatus, 1) << Full.Errors;
 
+	std::filesystem::remove_all(Folder.GetNative("Project/Config"));
 	Folder.Write("Project/Config", "a file");
 	for (const std::vector<std::string>& Options : {std::vector<std::string>{}, {"--repair"}})
 	{
@@ -162,7 +163,7 @@ TEST_F(UntrustedInput, LimitsAndSignalsEndWritesCleanly)
 	EXPECT_EQ(Limited.ExitStatus, 3) << Limited.Errors;
 	EXPECT_NE(Limited.Errors.find("the file cannot be written and is as it was: File too large"), std::string::npos) << Limited.Errors;
 	EXPECT_EQ(ReadIni(), Before);
-	EXPECT_EQ(Folder.Count("Project/Config"), 1u);
+	EXPECT_EQ(Folder.Count("Project/Config"), 2u);
 
 	const auto EndSoon = [](const char*, const char*) { raise(SIGTERM); };
 	WriteIni(SectionLine + GlassLine);
@@ -178,7 +179,7 @@ TEST_F(UntrustedInput, LimitsAndSignalsEndWritesCleanly)
 	waitpid(Child, &Status, 0);
 	EXPECT_EQ(Status & 0x7F, SIGTERM) << "the signal ends it";
 	EXPECT_EQ(ReadIni(), SectionLine + GlassLine);
-	EXPECT_EQ(Folder.Count("Project/Config"), 1u) << "nothing is left half written";
+	EXPECT_EQ(Folder.Count("Project/Config"), 2u) << "nothing is left half written";
 }
 
 TEST_F(UntrustedInput, RepairsKeepWhatIsAttachedToFiles)

@@ -2,19 +2,23 @@
 // Preloaded into a program: lets one of its calls on files below a folder fail, ends the process there, or lets the power go.
 //
 // VELMORANT_FAULT_FOLDER  the folder, with real path
-// VELMORANT_FAULT_AT      which call, from 1 on: opens for writing and of folders, writes, flushes, renames, closes, locks and so on, and last
-//                         the process's end; none without it
-// VELMORANT_FAULT_KIND    an errno by its number, "short" (a write takes half), "kill", "power" (what was written and not flushed is lost) or
-//                         "powerAndNames" (so are new names, and deletions, whose folder was not flushed)
-// VELMORANT_FAULT_LOG     gets the name of each call, a line each
+// VELMORANT_FAULT_AT      which call, from 1 on: opens, reads, writes, flushes, renames, closes of what was written, locks and so on, and
+//                         last the process's end; none without it
+// VELMORANT_FAULT_KIND    an errno by its number, the same with "+" (the file cannot be read from then on), "short" (a write takes half),
+//                         "kill", "power" (what was written and not flushed is lost) or "powerAndNames" (so are new names, and deletions,
+//                         whose folder was not flushed)
+// VELMORANT_FAULT_LOG     a folder. "calls" in it gets each call, a line with its name and path; files "1", "2" and so on what each path held
+//                         once it got its name, below a line with the path, or nothing but the path when that was deleted
 
 #include <cerrno>
 #include <csignal>
 #include <cstdarg>
 #include <cstdlib>
 #include <cstring>
+#include <dirent.h>
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <fstream>
 #include <map>
 #include <string>
 #include <sys/stat.h>
@@ -41,11 +45,12 @@ namespace FaultyFiles
 		return Path.substr(0, Path.rfind('/'));
 	}
 
-	/** A file that is open for writing, or a folder. */
+	/** A file that is open, or a folder. */
 	struct FOpen
 	{
 		std::string Path;
 		bool bFolder = false;
+		bool bRead = false;
 	};
 
 	/** A name that came or went, and how it was before. */
@@ -64,6 +69,8 @@ namespace FaultyFiles
 		const std::string Log = GetSetting("VELMORANT_FAULT_LOG");
 		const long At = std::atol(GetSetting("VELMORANT_FAULT_AT").c_str());
 		long Calls = 0;
+		long Remembered = 0;
+		std::string Unreadable; // a path
 		std::map<int, FOpen> Open; // by descriptor
 		std::map<std::string, off_t> Unflushed; // by path: so many bytes are sure
 		std::vector<FNameChange> NameChanges; // not flushed
@@ -131,19 +138,44 @@ namespace FaultyFiles
 		}
 	}
 
+	/** What a path holds, or that it is gone. */
+	void Remember(const std::string& Path)
+	{
+		FState& State = Get();
+		struct stat Status;
+		const bool bThere = stat(Path.c_str(), &Status) == 0;
+		if (State.Log.empty() || (bThere && !S_ISREG(Status.st_mode)))
+		{
+			return;
+		}
+		std::ofstream Out(State.Log + "/" + std::to_string(++State.Remembered), std::ios::binary);
+		Out << Path;
+		if (bThere)
+		{
+			Out << "\n";
+			if (Status.st_size > 0)
+			{
+				Out << std::ifstream(Path, std::ios::binary).rdbuf();
+			}
+		}
+	}
+
+	bool IsOfReading(const char* Name)
+	{
+		return std::strcmp(Name, "openRead") == 0 || std::strcmp(Name, "read") == 0 || std::strcmp(Name, "opendir") == 0;
+	}
+
 	/** Counts a call. @return whether it is the one; errno is set to what it fails with, 0 for a short write */
-	bool Comes(const char* Name)
+	bool Comes(const char* Name, const std::string& Path)
 	{
 		FState& State = Get();
 		++State.Calls;
 		if (!State.Log.empty())
 		{
-			const int File = static_cast<int>(syscall(SYS_open, State.Log.c_str(), O_WRONLY | O_CREAT | O_APPEND, 0600));
-			const std::string Line = std::string(Name) + "\n";
-			(void)!syscall(SYS_write, File, Line.data(), Line.size());
-			syscall(SYS_close, File);
+			std::ofstream(State.Log + "/calls", std::ios::app) << Name << ' ' << Path << '\n';
 		}
-		if (State.Calls != State.At)
+		const bool bUnreadable = IsOfReading(Name) && Path == State.Unreadable;
+		if (State.Calls != State.At && !bUnreadable)
 		{
 			return false;
 		}
@@ -155,6 +187,10 @@ namespace FaultyFiles
 		{
 			raise(SIGKILL);
 		}
+		if (State.Kind.ends_with('+'))
+		{
+			State.Unreadable = Path;
+		}
 		errno = std::atoi(State.Kind.c_str());
 		return true;
 	}
@@ -163,8 +199,9 @@ namespace FaultyFiles
 	{
 		const std::string Full = MakeFull(At, Path);
 		const bool bFolder = (Flags & O_DIRECTORY) != 0;
-		const bool bCounts = IsMeant(Full) && (bFolder || (Flags & O_ACCMODE) != O_RDONLY);
-		if (bCounts && Comes("open") && errno != 0)
+		const bool bRead = !bFolder && (Flags & O_ACCMODE) == O_RDONLY;
+		const bool bCounts = IsMeant(Full);
+		if (bCounts && Comes(bRead ? "openRead" : "open", Full) && errno != 0)
 		{
 			return -1;
 		}
@@ -173,7 +210,7 @@ namespace FaultyFiles
 		const int File = std::strcmp(Real, "openat") == 0 ? GetReal<int(int, const char*, int, ...)>(Real)(At, Path, Flags, Mode) : GetReal<int(const char*, int, ...)>(Real)(Path, Flags, Mode);
 		if (bCounts && File >= 0)
 		{
-			Get().Open[File] = {Full, bFolder};
+			Get().Open[File] = {Full, bFolder, bRead};
 			if (bNew)
 			{
 				Get().NameChanges.push_back({Full, "", "", false});
@@ -182,16 +219,24 @@ namespace FaultyFiles
 		return File;
 	}
 
+	/** Null for what counts nowhere. */
 	FOpen* Find(int File)
 	{
 		const auto Found = Get().Open.find(File);
 		return Found != Get().Open.end() ? &Found->second : nullptr;
 	}
 
-	int Flush(const char* Real, int File)
+	/** The same for what is written. */
+	FOpen* FindWritten(int File)
 	{
 		FOpen* Found = Find(File);
-		if (Found != nullptr && Comes("fsync") && errno != 0)
+		return Found != nullptr && !Found->bRead ? Found : nullptr;
+	}
+
+	int Flush(const char* Real, int File)
+	{
+		FOpen* Found = FindWritten(File);
+		if (Found != nullptr && Comes("fsync", Found->Path) && errno != 0)
 		{
 			return -1;
 		}
@@ -218,7 +263,7 @@ namespace FaultyFiles
 	template<typename... ArgumentTypes>
 	int OnPath(const char* Real, const std::string& Full, ArgumentTypes... Arguments)
 	{
-		if (IsMeant(Full) && Comes(Real) && errno != 0)
+		if (IsMeant(Full) && Comes(Real, Full) && errno != 0)
 		{
 			return -1;
 		}
@@ -228,7 +273,8 @@ namespace FaultyFiles
 	template<typename... ArgumentTypes>
 	int OnFile(const char* Real, int File, ArgumentTypes... Arguments)
 	{
-		if (Find(File) != nullptr && Comes(Real) && errno != 0)
+		const FOpen* Found = FindWritten(File);
+		if (Found != nullptr && Comes(Real, Found->Path) && errno != 0)
 		{
 			return -1;
 		}
@@ -244,14 +290,29 @@ namespace FaultyFiles
 		{
 			Get().NameChanges.push_back({Full, "", Backup, false});
 		}
+		if (Result == 0 && IsMeant(Full))
+		{
+			Remember(Full);
+		}
 		return Result;
+	}
+
+	/** A folder's files, or the file itself, have another path now. */
+	void MoveUnflushed(const std::string& From, const std::string& To)
+	{
+		std::map<std::string, off_t> Moved;
+		for (const auto& [Path, Length] : Get().Unflushed)
+		{
+			Moved[Path == From || Path.starts_with(From + "/") ? To + Path.substr(From.size()) : Path] = Length;
+		}
+		Get().Unflushed = std::move(Moved);
 	}
 
 	__attribute__((destructor)) void End()
 	{
 		if (!Get().Folder.empty())
 		{
-			Comes("end");
+			Comes("end", Get().Folder);
 			for (const FNameChange& Change : Get().NameChanges)
 			{
 				syscall(SYS_unlink, Change.Backup.c_str());
@@ -292,13 +353,13 @@ extern "C"
 	ssize_t write(int File, const void* Bytes, size_t Count)
 	{
 		using namespace FaultyFiles;
-		FOpen* Found = Find(File);
+		const FOpen* const Found = FindWritten(File);
 		if (Found != nullptr)
 		{
 			struct stat Status;
 			const off_t Sure = fstat(File, &Status) == 0 ? Status.st_size : 0;
 			Get().Unflushed.emplace(Found->Path, Sure);
-			const bool bComes = Comes("write");
+			const bool bComes = Comes("write", Found->Path);
 			if (bComes && errno != 0)
 			{
 				return -1;
@@ -306,6 +367,39 @@ extern "C"
 			Count = bComes && Count > 1 ? Count / 2 : Count;
 		}
 		return GetReal<ssize_t(int, const void*, size_t)>("write")(File, Bytes, Count);
+	}
+
+	ssize_t read(int File, void* Bytes, size_t Count)
+	{
+		using namespace FaultyFiles;
+		const FOpen* const Found = Find(File);
+		if (Found != nullptr && Found->bRead && Comes("read", Found->Path) && errno != 0)
+		{
+			return -1;
+		}
+		return GetReal<ssize_t(int, void*, size_t)>("read")(File, Bytes, Count);
+	}
+
+	DIR* opendir(const char* Path)
+	{
+		using namespace FaultyFiles;
+		const std::string Full = MakeFull(AT_FDCWD, Path);
+		if (IsMeant(Full) && Comes("opendir", Full) && errno != 0)
+		{
+			return nullptr;
+		}
+		DIR* const Directory = GetReal<DIR*(const char*)>("opendir")(Path);
+		if (Directory != nullptr && IsMeant(Full))
+		{
+			Get().Open[dirfd(Directory)] = {Full, true, true};
+		}
+		return Directory;
+	}
+
+	int closedir(DIR* Directory)
+	{
+		FaultyFiles::Get().Open.erase(dirfd(Directory));
+		return FaultyFiles::GetReal<int(DIR*)>("closedir")(Directory);
 	}
 
 	int fsync(int File)
@@ -328,7 +422,8 @@ extern "C"
 	int close(int File)
 	{
 		using namespace FaultyFiles;
-		const bool bComes = Find(File) != nullptr && Comes("close");
+		const FOpen* const Found = FindWritten(File);
+		const bool bComes = Found != nullptr && Comes("close", Found->Path);
 		const int Fault = errno;
 		Get().Open.erase(File);
 		const int Result = GetReal<int(int)>("close")(File); // closed in any case, as the system does it
@@ -345,11 +440,8 @@ extern "C"
 		const int Result = OnPath("rename", FullTo, From, To);
 		if (IsMeant(FullTo) && Result == 0)
 		{
-			auto Moved = Get().Unflushed.extract(FullFrom);
-			if (!Moved.empty())
-			{
-				Get().Unflushed[FullTo] = Moved.mapped();
-			}
+			MoveUnflushed(FullFrom, FullTo);
+			Remember(FullTo);
 			Get().NameChanges.push_back({FullTo, FullFrom, Backup, false});
 		}
 		else if (!Backup.empty())
@@ -366,6 +458,11 @@ extern "C"
 	int unlink(const char* Path)
 	{
 		return FaultyFiles::Remove("unlink", FaultyFiles::MakeFull(AT_FDCWD, Path), Path);
+	}
+
+	int unlinkat(int At, const char* Path, int Flags)
+	{
+		return FaultyFiles::Remove("unlinkat", FaultyFiles::MakeFull(At, Path), At, Path, Flags);
 	}
 
 	int mkdir(const char* Path, mode_t Mode)

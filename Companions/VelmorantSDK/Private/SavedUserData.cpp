@@ -31,12 +31,27 @@ namespace SavedUserData
 		return nlohmann::json::parse(Text, nullptr, false);
 	}
 
-	bool ReadFile(nlohmann::json& OutDocument)
+	enum class ERead
+	{
+		Done,
+		Missing,
+		Failed
+	};
+
+	ERead ReadFile(nlohmann::json& OutDocument)
 	{
 		FString Text;
-		const bool bRead = FPaths::FileExists(GetPath()) && FFileHelper::LoadFileToString(Text, *GetPath());
-		OutDocument = bRead ? Parse(TCHAR_TO_UTF8(*Text)) : nlohmann::json();
-		return bRead;
+		OutDocument = nlohmann::json();
+		if (!FPaths::FileExists(GetPath()))
+		{
+			return ERead::Missing;
+		}
+		if (!FFileHelper::LoadFileToString(Text, *GetPath()))
+		{
+			return ERead::Failed;
+		}
+		OutDocument = Parse(TCHAR_TO_UTF8(*Text));
+		return ERead::Done;
 	}
 
 	bool WriteFile(const nlohmann::json& Document)
@@ -85,7 +100,7 @@ namespace SavedUserData
 bool SavedUserData::Load(FVelmorantUserInformation& OutUserInformation)
 {
 	nlohmann::json Document;
-	if (!ReadFile(Document))
+	if (ReadFile(Document) != ERead::Done)
 	{
 		return false;
 	}
@@ -104,7 +119,12 @@ bool SavedUserData::Load(FVelmorantUserInformation& OutUserInformation)
 bool SavedUserData::Save(const FVelmorantUserInformation& UserInformation)
 {
 	nlohmann::json Document;
-	ReadFile(Document);
+	if (ReadFile(Document) == ERead::Failed)
+	{
+		// It may tell of an item in the store, which nobody would remove any more.
+		UE_LOG(LogVelmorantSDK, Error, TEXT("The user could not be remembered: %s is there and cannot be read."), *GetPath());
+		return false;
+	}
 	const bool bWasInSecretStore = IsInSecretStore(Document);
 
 	const nlohmann::json Kept = {{UserNameMember, TCHAR_TO_UTF8(*UserInformation.UserName)}, {PasswordMember, TCHAR_TO_UTF8(*UserInformation.Password)}};

@@ -4,6 +4,7 @@
 
 #include "HostSearchWords.h"
 #include "Look/Brushes.h"
+#include "Look/Icons.h"
 #include "QtText.h"
 #include "Session/DesktopEditor.h"
 #include "Window/WindowServices.h"
@@ -48,6 +49,7 @@ FOutlinerDock::FOutlinerDock(IWindowServices& InServices, QWidget* Parent)
 	Empty->setEnabled(false);
 	Count->setEnabled(false);
 	Count->setObjectName(QStringLiteral("OutlinerCount"));
+	Empty->setObjectName(QStringLiteral("OutlinerEmpty"));
 	connect(Search, &QLineEdit::textChanged, this, [this] { Act([this] { Fill(); }); });
 	connect(Tree, &QTreeWidget::itemSelectionChanged, this, [this] { SelectMarked(); });
 	connect(Tree, &QTreeWidget::itemChanged, this, [this](QTreeWidgetItem* Item) { Rename(*Item); });
@@ -137,10 +139,8 @@ QTreeWidgetItem* FOutlinerDock::FindGroup(AActor& Actor)
 	{
 		Group = new QTreeWidgetItem(Tree, {Class});
 		Group->setFlags(Qt::ItemIsEnabled);
-		if (const FSlateBrush* const Icon = LevelActors::FindClassIcon(*Actor.GetClass()))
-		{
-			Group->setIcon(0, Services.GetBrushes().FindIcon(*Icon));
-		}
+		const FSlateBrush* const Icon = LevelActors::FindClassIcon(*Actor.GetClass());
+		Group->setIcon(0, Icon != nullptr ? Services.GetBrushes().FindIcon(*Icon) : Icons::Find("Class.Blueprint"));
 	}
 	return Group;
 }

@@ -58,6 +58,11 @@ namespace PlacementDock
 	}
 
 	/** Without a resource when there is none. */
+	QString DescribeUse()
+	{
+		return QObject::tr("Drag into the plan, or press Enter to place it where the camera looks.");
+	}
+
 	FSlateBrush FindIcon(const FPlaceableItem& Item)
 	{
 		const FName Own = Item.ClassIconBrushOverride;
@@ -105,7 +110,7 @@ FPlacementDock::FPlacementDock(IWindowServices& InServices, QWidget* Parent)
 	Hint->setObjectName(QStringLiteral("PlacementHint"));
 	Hint->setWordWrap(true);
 	Hint->setEnabled(false);
-	Hint->setText(tr("Drag into the plan, or press Enter to place it where the camera looks."));
+	Hint->setText(PlacementDock::DescribeUse());
 	connect(Search, &QLineEdit::textChanged, this, [this] { Filter(); });
 	connect(List, &QTreeWidget::itemActivated, this, [this](const QTreeWidgetItem* Item) { Place(Item->data(0, PlacementDock::KeyRole).toString()); });
 }
@@ -150,6 +155,7 @@ void FPlacementDock::Fill()
 void FPlacementDock::Filter()
 {
 	const FHostSearchWords Words(QtText::ToEditor(Search->text()));
+	bool bAny = false;
 	for (int Index = 0; Index < List->topLevelItemCount(); ++Index)
 	{
 		QTreeWidgetItem& Group = *List->topLevelItem(Index);
@@ -161,7 +167,9 @@ void FPlacementDock::Filter()
 			NumShown += bMeant ? 1 : 0;
 		}
 		Group.setHidden(NumShown == 0);
+		bAny |= NumShown > 0;
 	}
+	Hint->setText(bAny ? PlacementDock::DescribeUse() : tr("Nothing that can be placed is called like that. Clear the search to see everything."));
 }
 
 void FPlacementDock::Place(const QString& Key)

@@ -3,6 +3,7 @@
 #include "Docks/PlanView.h"
 
 #include "Docks/PlanPainter.h"
+#include "HostClock.h"
 #include "Level/LevelPlacement.h"
 
 #include <algorithm>
@@ -18,7 +19,7 @@ namespace PlanView
 	static const double RoomAround = 2000.0; // centimetres that show around what is selected
 	static const double LeastRoom = 500.0; // centimetres
 	static const double ReachPixels = 9.0; // of a click at a marker
-	static const int MarkMilliseconds = 900;
+	static const double MarkSeconds = 0.9;
 }
 
 FPlanView::FPlanView(QWidget* Parent)
@@ -127,7 +128,7 @@ void FPlanView::PanTo(QPointF Place)
 	Centre = Place;
 	bArranged = true;
 	Mark = Place;
-	SinceMark.start();
+	MarkedAt = HostClock::Now();
 	update();
 }
 
@@ -151,9 +152,10 @@ void FPlanView::paintEvent(QPaintEvent*)
 	{
 		Plotter.DrawDrop(*DropPlace);
 	}
-	if (SinceMark.isValid() && SinceMark.elapsed() < PlanView::MarkMilliseconds)
+	const double Age = MarkedAt.IsSet() ? (HostClock::Now() - MarkedAt.GetValue()) / PlanView::MarkSeconds : 1.0;
+	if (Age >= 0.0 && Age < 1.0) // after a restart, the clock begins anew
 	{
-		Plotter.DrawMark(Mark, static_cast<double>(SinceMark.elapsed()) / PlanView::MarkMilliseconds);
+		Plotter.DrawMark(Mark, Age);
 		QTimer::singleShot(16, this, [this] { update(); });
 	}
 	if (hasFocus())

@@ -90,6 +90,6 @@ private:
 	bool bPressed = false;
 	bool bDragging = false;
 	QPointF Mark; // in the level
-	QElapsedTimer SinceMark;
+	TOptional<double> MarkedAt; // seconds of the editor's clock
 	std::optional<QPointF> DropPlace; // in the level
 };

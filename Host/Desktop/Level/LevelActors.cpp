@@ -108,7 +108,9 @@ namespace LevelActors
 
 	QString GetClassTitle(const UClass& Class)
 	{
-		return QtText::From(Class.GetDisplayNameText());
+		const QString Title = QtText::From(Class.GetDisplayNameText());
+		const bool bGenerated = Class.GetName().EndsWith(TEXT("_C")) && Title.endsWith(QLatin1String(" C")); // of an asset; people know it without that
+		return bGenerated ? Title.chopped(2) : Title;
 	}
 
 	const FSlateBrush* FindClassIcon(const UClass& Class)

@@ -31,7 +31,7 @@ QPixmap FBrushes::Find(const FSlateBrush& Brush, QSize Size, double Scale)
 		return *Known;
 	}
 	const QByteArray File = Source ? Source(Name) : QByteArray();
-	QPixmap Picture = QPixmap::fromImage(File.isEmpty() ? Read(Name, Pixels) : Brushes::Fit(QImage::fromData(File), Pixels));
+	QPixmap Picture = File.isEmpty() ? Read(Name, Pixels) : QPixmap::fromImage(Brushes::Fit(QImage::fromData(File), Pixels));
 	Picture.setDevicePixelRatio(Scale);
 	if (File.isEmpty())
 	{
@@ -40,19 +40,19 @@ QPixmap FBrushes::Find(const FSlateBrush& Brush, QSize Size, double Scale)
 	return Picture;
 }
 
-QImage FBrushes::Read(const QString& Name, QSize Pixels)
+QPixmap FBrushes::Read(const QString& Name, QSize Pixels)
 {
 	const QString Own = Icons::FindFile(Name);
-	QImageReader Reader(Own.isEmpty() ? Name : Own);
-	if (!Reader.canRead())
-	{
-		return QImage();
-	}
 	if (!Own.isEmpty())
 	{
-		Reader.setScaledSize(Reader.size().scaled(Pixels, Qt::KeepAspectRatio)); // drawn in that size, not scaled to it
+		return Icons::Draw(Own, Pixels);
 	}
-	return Brushes::Fit(Reader.read(), Pixels);
+	if (!QFile::exists(Name))
+	{
+		return QPixmap(); // asked for it, the reader would try every ending that it knows
+	}
+	QImageReader Reader(Name);
+	return QPixmap::fromImage(Brushes::Fit(Reader.read(), Pixels));
 }
 
 QIcon FBrushes::FindIcon(const FSlateBrush& Brush)

@@ -26,7 +26,7 @@ public:
 	void Forget() { Pictures.clear(); }
 
 private:
-	QImage Read(const QString& Name, QSize Pixels);
+	QPixmap Read(const QString& Name, QSize Pixels);
 
 	QHash<QString, QPixmap> Pictures; // by name and size
 	FSource Source;

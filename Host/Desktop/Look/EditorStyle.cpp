@@ -11,6 +11,7 @@ namespace EditorStyle
 	static const int TitleMargin = 12;
 	static const int RoomForDockButtons = 48;
 	static const int AccentHeight = 2; // of the line above the tab that shows
+	static const int LeastTabWidth = 120; // of a tab whose title is shortened, so that it still says which one it is
 
 	void DrawTick(QPainter& Painter, const QRect& Rect, const QPalette& Palette, QStyle::State State)
 	{
@@ -225,7 +226,7 @@ QRect FEditorStyle::subControlRect(ComplexControl Control, const QStyleOptionCom
 QIcon FEditorStyle::standardIcon(StandardPixmap Icon, const QStyleOption* Option, const QWidget* Widget) const
 {
 	// Layouts of docks ask again and again, so both are drawn once. A style lasts as long as its theme.
-	if (Icon == SP_TitleBarCloseButton || Icon == SP_DockWidgetCloseButton)
+	if (Icon == SP_TitleBarCloseButton || Icon == SP_DockWidgetCloseButton || Icon == SP_LineEditClearButton)
 	{
 		return CloseIcon;
 	}
@@ -276,6 +277,16 @@ namespace EditorStyle
 	}
 }
 
+namespace EditorStyle
+{
+	/** Asking how narrow a tab may become, the bar leaves two letters of its title. */
+	bool IsShortenedTab(const QStyleOption& Option)
+	{
+		const QStyleOptionTab* const Tab = qstyleoption_cast<const QStyleOptionTab*>(&Option);
+		return Tab != nullptr && Tab->text.endsWith(QLatin1String("..."));
+	}
+}
+
 QSize FEditorStyle::sizeFromContents(ContentsType Type, const QStyleOption* Option, const QSize& Size, const QWidget* Widget) const
 {
 	const QSize Wanted = QProxyStyle::sizeFromContents(Type, Option, Size, Widget);
@@ -285,6 +296,7 @@ QSize FEditorStyle::sizeFromContents(ContentsType Type, const QStyleOption* Opti
 		case CT_LineEdit: return QSize(Wanted.width(), EditorStyle::ControlHeight);
 		case CT_HeaderSection: return QSize(Wanted.width(), EditorStyle::ControlHeight);
 		case CT_MenuItem: return QSize(Wanted.width(), qMax(Wanted.height(), EditorStyle::ControlHeight - 2));
+		case CT_TabBarTab: return Option != nullptr && EditorStyle::IsShortenedTab(*Option) ? Wanted.expandedTo(QSize(EditorStyle::LeastTabWidth, 0)) : Wanted;
 		case CT_ItemViewItem: return EditorStyle::IsPickedFrom(Widget) ? Wanted.expandedTo(QSize(0, EditorStyle::RowHeight)) : Wanted;
 		default: return Wanted;
 	}

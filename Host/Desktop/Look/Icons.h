@@ -12,4 +12,7 @@ namespace Icons
 
 	/** Of a name that may not be there, or empty: the names of the editor's own icons, such as "Icons.Settings", are among them. */
 	QString FindFile(const QString& Name);
+
+	/** As large as fits, in pixels of the screen. @param File from FindFile() */
+	QPixmap Draw(const QString& File, QSize Pixels);
 }

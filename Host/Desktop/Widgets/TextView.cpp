@@ -33,6 +33,7 @@ namespace TextView
 FTextLabel::FTextLabel(QWidget* Parent)
 	: QWidget(Parent)
 {
+	Line.setTextFormat(Qt::PlainText);
 }
 
 void FTextLabel::SetText(const QString& InText)
@@ -40,10 +41,22 @@ void FTextLabel::SetText(const QString& InText)
 	if (Text != InText)
 	{
 		Text = InText;
-		KnownHint = QSize();
-		updateGeometry();
+		Forget();
 		update();
 	}
+}
+
+void FTextLabel::Forget()
+{
+	KnownHint = QSize();
+	KnownSize = QSize();
+	Line.setText(IsOneLine() ? Text : QString());
+	updateGeometry();
+}
+
+bool FTextLabel::IsOneLine() const
+{
+	return !bWraps && !Text.contains(QLatin1Char('\n'));
 }
 
 void FTextLabel::SetWraps(bool bInWraps)
@@ -54,7 +67,7 @@ void FTextLabel::SetWraps(bool bInWraps)
 		QSizePolicy Policy = sizePolicy();
 		Policy.setHeightForWidth(bWraps);
 		setSizePolicy(Policy);
-		updateGeometry();
+		Forget();
 	}
 }
 
@@ -100,15 +113,47 @@ QSize FTextLabel::minimumSizeHint() const
 
 int FTextLabel::heightForWidth(int Width) const
 {
-	return std::max(sizeHint().height(), fontMetrics().boundingRect(QRect(0, 0, std::max(1, Width), 100000), GetTextFlags(), Text).height());
+	if (!KnownSize.isValid() || KnownSize.width() != Width)
+	{
+		const int Broken = fontMetrics().boundingRect(QRect(0, 0, std::max(1, Width), 100000), GetTextFlags(), Text).height();
+		KnownSize = QSize(Width, std::max(sizeHint().height(), Broken));
+	}
+	return KnownSize.height();
+}
+
+/** Where a text of that size stands. */
+QPointF FTextLabel::FindPlace(QSizeF Size) const
+{
+	const double Room = width() - Size.width();
+	double Left = 0.0;
+	if (Alignment.testFlag(Qt::AlignRight))
+	{
+		Left = Room;
+	}
+	else if (Alignment.testFlag(Qt::AlignHCenter))
+	{
+		Left = Room / 2.0;
+	}
+	return QPointF(Left, (height() - Size.height()) / 2.0);
 }
 
 void FTextLabel::paintEvent(QPaintEvent*)
 {
 	QPainter Painter(this);
 	Painter.setPen(Color.isValid() && isEnabled() ? Color : palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
-	const bool bFits = bWraps || sizeHint().width() <= width() + 1 || Text.contains(QLatin1Char('\n'));
-	Painter.drawText(rect(), GetTextFlags(), bFits ? Text : fontMetrics().elidedText(Text, Qt::ElideRight, width()));
+	if (!IsOneLine())
+	{
+		Painter.drawText(rect(), GetTextFlags(), Text);
+	}
+	else if (sizeHint().width() > width() + 1)
+	{
+		Painter.drawText(rect(), GetTextFlags(), fontMetrics().elidedText(Text, Qt::ElideRight, width()));
+	}
+	else if (!Text.isEmpty())
+	{
+		Line.prepare(QTransform(), Painter.font());
+		Painter.drawStaticText(FindPlace(Line.size()), Line);
+	}
 }
 
 bool FTextLabel::event(QEvent* Event)
@@ -126,8 +171,7 @@ void FTextLabel::changeEvent(QEvent* Event)
 {
 	if (Event->type() == QEvent::FontChange || Event->type() == QEvent::ApplicationFontChange)
 	{
-		KnownHint = QSize();
-		updateGeometry();
+		Forget();
 	}
 	QWidget::changeEvent(Event);
 }

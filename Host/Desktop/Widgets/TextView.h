@@ -6,6 +6,8 @@
 
 #include "Widgets/WidgetView.h"
 
+#include <QStaticText>
+
 /** Draws a text: on one line, with an ellipsis where there is too little room, or broken into lines. */
 class FTextLabel : public QWidget
 {
@@ -33,12 +35,17 @@ protected:
 
 private:
 	int GetTextFlags() const;
+	bool IsOneLine() const;
+	void Forget();
+	QPointF FindPlace(QSizeF Size) const;
 
 	QString Text;
 	QColor Color;
 	Qt::Alignment Alignment = Qt::AlignLeft | Qt::AlignVCenter;
 	bool bWraps = false;
+	QStaticText Line; // of a text on one line: letters are put together once, not with each painting
 	mutable QSize KnownHint;
+	mutable QSize KnownSize; // the last answer of heightForWidth(), and what for
 };
 
 /** A text of the editor. */

@@ -2,13 +2,15 @@
 
 #include "Widgets/ThrobberView.h"
 
+#include "HostClock.h"
+
 #include <cmath>
 
 namespace Throbber
 {
 	static const int NumDots = 3;
 	static const int StepMilliseconds = 80;
-	static const int StepsPerRound = 12;
+	static const double RoundSeconds = 0.96;
 }
 
 FThrobber::FThrobber(QWidget* Parent)
@@ -22,9 +24,10 @@ void FThrobber::paintEvent(QPaintEvent*)
 	Painter.setRenderHint(QPainter::Antialiasing);
 	Painter.setPen(Qt::NoPen);
 	Painter.setBrush(palette().color(QPalette::Highlight));
+	const double Round = HostClock::Now() / Throbber::RoundSeconds; // where the editor's time stands, so does this
 	for (int Dot = 0; Dot < Throbber::NumDots; ++Dot)
 	{
-		const double Phase = 2.0 * M_PI * (static_cast<double>(Step) / Throbber::StepsPerRound - static_cast<double>(Dot) / Throbber::NumDots / 2.0);
+		const double Phase = 2.0 * M_PI * (Round - static_cast<double>(Dot) / Throbber::NumDots / 2.0);
 		const double Radius = 3.0 + 1.6 * std::cos(Phase);
 		Painter.drawEllipse(QPointF(8.0 + Dot * 14.0, height() / 2.0), Radius, Radius);
 	}
@@ -32,7 +35,6 @@ void FThrobber::paintEvent(QPaintEvent*)
 
 void FThrobber::timerEvent(QTimerEvent*)
 {
-	Step = (Step + 1) % Throbber::StepsPerRound;
 	update();
 }
 

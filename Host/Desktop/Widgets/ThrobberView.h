@@ -23,7 +23,6 @@ protected:
 
 private:
 	int Timer = 0;
-	int Step = 0;
 };
 
 /** Shows that something is going on. */

@@ -199,6 +199,11 @@ void FCommandPalette::Search(const QString& Text)
 			Shown.push_back(Index);
 		}
 	}
+	if (Shown.empty())
+	{
+		QListWidgetItem* const Item = new QListWidgetItem(tr("No command, panel or asset is called like that"), List);
+		Item->setFlags(Qt::NoItemFlags);
+	}
 	List->setCurrentRow(Shown.empty() ? -1 : 0);
 }
 
@@ -220,7 +225,7 @@ bool FCommandPalette::eventFilter(QObject* Watched, QEvent* Event)
 void FCommandPalette::DoCurrent()
 {
 	const int Row = List->currentRow();
-	if (Row < 0)
+	if (Row < 0 || Shown.empty())
 	{
 		return;
 	}

@@ -2,7 +2,6 @@
 
 #include "Window/MainWindow.h"
 
-#include "Docks/DetailsDock.h"
 #include "HostContentBrowser.h"
 #include "HostPaths.h"
 #include "QtText.h"
@@ -10,8 +9,6 @@
 #include "UnrealEdMisc.h"
 #include "VlmImage.h"
 #include "Widgets/WidgetRoot.h"
-#include "Window/DockView.h"
-#include "Window/DockViews.h"
 #include "Window/EditorMenus.h"
 #include "Window/NoticeBar.h"
 #include "Window/QuestionDialog.h"
@@ -20,7 +17,6 @@
 #include "Window/UnsavedQuestion.h"
 
 #include <algorithm>
-#include <map>
 #include <utility>
 
 namespace MainWindow
@@ -31,8 +27,6 @@ namespace MainWindow
 	static const int TellingMilliseconds = 8000;
 	static const int ArrangementVersion = 2; // another one forgets how the docks were arranged
 	static const QSize FirstSize(1440, 900);
-	static const int SideWidth = 430;
-	static const int BottomHeight = 300;
 
 	/** Pictures that the service sent, such as that of the developer, are in the toolkit's images alone. */
 	QByteArray FindPictureFile(const QString& Name)
@@ -69,6 +63,7 @@ namespace MainWindow
 
 FMainWindow::FMainWindow(FDesktopEditor& InEditor)
 	: Editor(InEditor)
+	, Docks(*this, *this)
 	, Panels(*this, *this)
 	, Tabs(*this)
 	, Toasts(*this, *this)
@@ -95,6 +90,11 @@ FMainWindow::FMainWindow(FDesktopEditor& InEditor)
 	Editor.OnBroken = [this](const FString& Reason) { TellBroken(Reason); };
 	resize(MainWindow::FirstSize);
 	RestoreArrangement();
+	if (!bArranged)
+	{
+		Docks.FillFirst();
+	}
+	Tabs.Refresh(); // their places change with it: before they are laid out
 	connect(&Timer, &QTimer::timeout, this, [this] { Frame(); });
 	Refresh();
 }
@@ -107,10 +107,7 @@ FMainWindow::~FMainWindow()
 	Editor.OnBroken = nullptr;
 	LetGo();
 	// Roots take their leave of this window: they must go before it is half gone.
-	for (const FFixedDock& Each : Docks)
-	{
-		delete Each.Dock;
-	}
+	Docks.Drop();
 	while (!Roots.empty())
 	{
 		delete Roots.back();
@@ -145,53 +142,11 @@ TSharedPtr<SWidget> FMainWindow::FindToolbar()
 
 void FMainWindow::MakeDocks()
 {
-	std::map<std::pair<int, int>, QDockWidget*> Firsts; // by area and stack
-	for (const DockViews::FKind& Kind : DockViews::GetAll())
+	Docks.Make();
+	for (QDockWidget* const Dock : Docks.GetAll())
 	{
-		QDockWidget* const Dock = new QDockWidget(tr(Kind.Title), this);
-		Dock->setObjectName(QLatin1String(Kind.Name));
-		FDockView* const View = Kind.Make(*this, Dock);
-		Dock->setWidget(View);
-		addDockWidget(Kind.Area, Dock);
-		const auto [First, bFirst] = Firsts.try_emplace({Kind.Area, Kind.Stack}, Dock);
-		if (!bFirst)
-		{
-			tabifyDockWidget(First->second, Dock);
-		}
-		Dock->setVisible(Kind.bOpenAtFirst);
-		Docks.push_back({QLatin1String(Kind.Name), Dock, View});
 		Menus->AddDock(*Dock);
 	}
-	for (const auto& First : Firsts)
-	{
-		First.second->raise();
-	}
-}
-
-/** Wide middle, tools around it; what a person arranged takes its place. */
-void FMainWindow::ArrangeAtFirst()
-{
-	QList<QDockWidget*> Across;
-	QList<int> Widths;
-	QList<QDockWidget*> Down;
-	QList<int> Heights;
-	for (const FFixedDock& Each : Docks)
-	{
-		const Qt::DockWidgetArea Area = dockWidgetArea(Each.Dock);
-		if (!Each.Dock->isVisible())
-		{
-			continue; // behind another tab, or closed
-		}
-		Across.append(Each.Dock);
-		Widths.append(Area == Qt::RightDockWidgetArea || Area == Qt::LeftDockWidgetArea ? MainWindow::SideWidth : width() - MainWindow::SideWidth);
-		if (Area == Qt::TopDockWidgetArea || Area == Qt::BottomDockWidgetArea)
-		{
-			Down.append(Each.Dock);
-			Heights.append(Area == Qt::BottomDockWidgetArea ? MainWindow::BottomHeight : height() - MainWindow::BottomHeight);
-		}
-	}
-	resizeDocks(Across, Widths, Qt::Horizontal);
-	resizeDocks(Down, Heights, Qt::Vertical);
 }
 
 void FMainWindow::Welcome()
@@ -263,13 +218,7 @@ void FMainWindow::RefreshAll()
 				Root->Refresh();
 			}
 		}
-		for (const FFixedDock& Each : Docks)
-		{
-			if (Each.View->isVisible())
-			{
-				Each.View->Refresh();
-			}
-		}
+		Docks.Refresh();
 		Toasts.Refresh();
 		Status->Refresh();
 		Menus->Refresh();
@@ -373,26 +322,12 @@ void FMainWindow::RemoveRoot(FWidgetRoot& Root)
 
 void FMainWindow::ShowDock(const QString& Name)
 {
-	for (const FFixedDock& Each : Docks)
-	{
-		if (Each.Name == Name)
-		{
-			Each.Dock->show();
-			Each.Dock->raise();
-		}
-	}
-	RequestFrame();
+	Docks.Show(Name);
 }
 
 void FMainWindow::Inspect(const TArray<UObject*>& Objects)
 {
-	for (const FFixedDock& Each : Docks)
-	{
-		if (FDetailsDock* const Details = dynamic_cast<FDetailsDock*>(Each.View))
-		{
-			Details->Inspect(Objects);
-		}
-	}
+	Docks.Inspect(Objects);
 }
 
 /** The editor is in the middle of something, so neither it nor what shows it goes on until there is an answer. */
@@ -423,14 +358,13 @@ void FMainWindow::resizeEvent(QResizeEvent* Event)
 	RequestFrame();
 }
 
-/** Docks take sizes once they have their place. */
 void FMainWindow::showEvent(QShowEvent* Event)
 {
 	QMainWindow::showEvent(Event);
 	if (!bArranged)
 	{
 		bArranged = true;
-		ArrangeAtFirst();
+		Docks.ArrangeAtFirst();
 	}
 }
 
@@ -442,10 +376,7 @@ void FMainWindow::LetGo()
 	NumShown = 0;
 	Panels.LetGo();
 	Toasts.LetGo();
-	for (const FFixedDock& Each : Docks)
-	{
-		Each.View->LetGo();
-	}
+	Docks.LetGo();
 }
 
 void FMainWindow::TellLost(const TArray<FString>& Lost)

@@ -8,13 +8,13 @@
 #include "Session/DesktopEditor.h"
 #include "Session/OutsideChanges.h"
 #include "Window/DockTabs.h"
+#include "Window/FixedDocks.h"
 #include "Window/PanelDocks.h"
 #include "Window/Toasts.h"
 #include "Window/WindowServices.h"
 
 #include <vector>
 
-class FDockView;
 class FEditorMenus;
 class FNoticeBar;
 class FStatusLine;
@@ -71,16 +71,8 @@ protected:
 	virtual void showEvent(QShowEvent* Event) override;
 
 private:
-	struct FFixedDock
-	{
-		QString Name;
-		QDockWidget* Dock = nullptr;
-		FDockView* View = nullptr;
-	};
-
 	void MakeToolbar();
 	void MakeDocks();
-	void ArrangeAtFirst();
 	void Refresh();
 	void RefreshAll();
 	TSharedPtr<SWidget> FindToolbar();
@@ -96,7 +88,7 @@ private:
 	FDesktopEditor& Editor;
 	FBrushes Brushes;
 	std::vector<FWidgetRoot*> Roots;
-	std::vector<FFixedDock> Docks;
+	FFixedDocks Docks;
 	FPanelDocks Panels;
 	FDockTabs Tabs;
 	FToasts Toasts;

@@ -16,6 +16,7 @@
 namespace PanelDocks
 {
 	static const int PanelMargin = 16;
+	static const int SettingsMargin = 6; // around a grid that has margins of its own
 	static const int FirstWidth = 420;
 
 	/** Whoever opened a panel goes on in it. */
@@ -112,6 +113,7 @@ void FPanelDocks::AddSettings(std::vector<FOpen>& InOutOpen) const
 	{
 		FOpen Open;
 		Open.Name = QStringLiteral("Settings");
+		Open.Margin = PanelDocks::SettingsMargin;
 		Open.Title = tr("Settings: %1").arg(QtText::MakeTitle(QtText::From(Page->Address.Section)));
 		Open.Find = [] {
 			const TOptional<HostSettings::FOpenPage> Shown = HostSettings::GetOpenPage();

@@ -37,9 +37,9 @@ namespace SaveSteps
 		const int32 FirstProblem = HostProblems::GetAll().Num();
 		QProgressDialog Progress(QString(), QObject::tr("Cancel"), 0, Packages.Num(), &Window);
 		Progress.setObjectName(QStringLiteral("SaveProgress"));
-		Progress.setWindowTitle(QObject::tr("Saving"));
 		Progress.setWindowModality(Qt::WindowModal);
 		Progress.setMinimumDuration(PatienceMilliseconds);
+		Progress.setWindowTitle(QObject::tr("Saving"));
 		for (int32 Index = 0; Index < Packages.Num(); ++Index)
 		{
 			Progress.setLabelText(QtText::From(Packages[Index]));

@@ -55,6 +55,7 @@ namespace AutomationCommand
 			Print(Report.Tests.Last());
 		}
 		Console::PrintProblems(HostProblems::GetAll());
+		Report.bTrouble = !HostProblems::GetAll().IsEmpty();
 		return Report;
 	}
 
@@ -73,6 +74,10 @@ namespace AutomationCommand
 		if (!Folder.IsEmpty() && !AutomationReport::Write(Report, Folder))
 		{
 			Console::PrintProblems(HostProblems::GetAll());
+			return EExitStatus::Trouble;
+		}
+		if (Report.bTrouble)
+		{
 			return EExitStatus::Trouble;
 		}
 		return Report.CountPassed() == Report.Tests.Num() ? EExitStatus::Done : EExitStatus::Failed;

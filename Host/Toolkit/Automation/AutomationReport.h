@@ -28,6 +28,7 @@ struct FAutomationReport
 {
 	FString Origin; // the machine and when, for people
 	TArray<FReportedTest> Tests;
+	bool bTrouble = false; // files could not be read or written, which has been told
 
 	const FReportedTest* Find(const FString& Path) const;
 	int32 CountPassed() const;

@@ -115,7 +115,7 @@ namespace CollisionCheck
 		{
 			return Result;
 		}
-		if (Result == HostFiles::EWrite::Failed)
+		if (Result == HostFiles::EWrite::Failed || !HostProblems::GetAll().IsEmpty()) // a disk that fails may not keep what was written
 		{
 			Report.Status = ECheckStatus::Trouble;
 		}

@@ -33,7 +33,7 @@ namespace RepairUndo
 				break;
 		}
 		const bool bDone = (!Record.bCreated || DeleteIfEmpty(File)) && RepairRecord::Forget(ProjectDir);
-		return bDone ? ECheckStatus::Undone : ECheckStatus::Trouble;
+		return bDone && HostProblems::GetAll().IsEmpty() ? ECheckStatus::Undone : ECheckStatus::Trouble;
 	}
 
 	TOptional<FCheckReport> Run(const FString& Project)

@@ -35,6 +35,12 @@ namespace HostConfig
 	/** The files of a branch as listed above, lowest first. */
 	TArray<FString> GetLayers(const FString& Name);
 
+	/**
+	 * A file of the branch that could not be read when somebody asked for it, empty for none. What the editor believes of these settings is
+	 * not what they are, and is not to be saved, until it is restarted.
+	 */
+	FString FindUnread(const FString& Name);
+
 	/** A value that one line of a branch brings and a later one takes away. */
 	struct FRemovedValue
 	{

@@ -9,7 +9,7 @@
 
 namespace HostProject
 {
-	FString Find(const FString& FileOrFolder)
+	FString Find(const FString& FileOrFolder, bool* OutUnread)
 	{
 		const FString Full = FPaths::ConvertRelativePathToFull(FileOrFolder);
 		if (!HostFiles::DirectoryExists(Full))
@@ -21,7 +21,17 @@ namespace HostProject
 			}
 			return bProject ? Full : FString();
 		}
+		const int32 NumProblems = HostProblems::GetAll().Num();
 		const TArray<FString> Projects = HostFiles::FindFilesIn(Full, TEXT(".uproject"));
+		const bool bUnread = HostProblems::GetAll().Num() > NumProblems;
+		if (OutUnread != nullptr)
+		{
+			*OutUnread = bUnread;
+		}
+		if (bUnread)
+		{
+			return FString();
+		}
 		if (Projects.Num() != 1)
 		{
 			HostProblems::Report(Full, 0, Projects.IsEmpty() ? TEXT("there is no .uproject in this folder") : TEXT("there is more than one .uproject in this folder"), TEXT("Name the .uproject file itself."));

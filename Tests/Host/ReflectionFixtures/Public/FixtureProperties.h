@@ -7,8 +7,6 @@
 #include "CoreMinimal.h"
 #include "FixtureEnums.h"
 #include "FixtureStructs.h"
-#include "Misc/DateTime.h"
-#include "Misc/Guid.h"
 #include "UObject/Object.h"
 #include "UObject/SoftObjectPath.h"
 #include "FixtureProperties.generated.h"
@@ -77,10 +75,6 @@ public:
 	FVector Vector = FVector(1.0, 2.0, 3.0);
 	UPROPERTY()
 	FLinearColor Colour;
-	UPROPERTY()
-	FGuid Guid;
-	UPROPERTY()
-	FDateTime Date;
 	UPROPERTY()
 	FSoftObjectPath SoftPath;
 	UPROPERTY()

@@ -7,7 +7,6 @@
 #include "Containers/EnumAsByte.h"
 #include "CoreMinimal.h"
 #include "Factories/Factory.h"
-#include "Misc/Guid.h"
 #include "Templates/SubclassOf.h"
 #include "UObject/Object.h"
 #include "UObject/SoftObjectPath.h"
@@ -129,9 +128,6 @@ public:
 
 	UPROPERTY()
 	FLinearColor Tint = FLinearColor(1, 1, 1, 1);
-
-	UPROPERTY()
-	FGuid Guid;
 
 	UPROPERTY()
 	FSoftObjectPath Path;

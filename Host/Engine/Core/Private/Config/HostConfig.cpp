@@ -95,6 +95,13 @@ namespace HostConfig
 		return ConfigBranch::GetLayers(Name);
 	}
 
+	FString FindUnread(const FString& Name)
+	{
+		const TArray<FString> Layers = GetLayers(Name);
+		const FString* const Found = Layers.FindByPredicate([](const FString& Layer) { return FIniFile::HasFailed(Layer); });
+		return Found != nullptr ? *Found : FString();
+	}
+
 	FPlace FindLine(const FString& Name, const FString& Section, const FString& Key, const FString& Value)
 	{
 		FPlace Found;

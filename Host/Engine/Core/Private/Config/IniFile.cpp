@@ -5,7 +5,16 @@
 #include "Config/IniEntries.h"
 #include "Config/IniSyntax.h"
 #include "Containers/StringConv.h"
+#include "Files/NativePath.h"
 #include "Files/TextCoding.h"
+#include "HostState.h"
+
+#include <set>
+
+namespace IniFile
+{
+	THostState<std::set<std::string>> Failed; // resolved paths
+}
 
 std::string FIniFile::FoldName(const FString& Name)
 {
@@ -19,9 +28,15 @@ std::shared_ptr<const FIniFile> FIniFile::Read(const FString& File)
 	static std::unordered_map<std::string, std::weak_ptr<const FIniFile>> Known; // longer than an editor: the next one reads the same files
 	std::shared_ptr<FIniFile> Result = std::make_shared<FIniFile>();
 	Result->Path = File;
-	if (HostTextFiles::ReadUtf8(File, Result->Text) == HostFiles::ERead::Missing)
+	switch (HostTextFiles::ReadUtf8(File, Result->Text))
 	{
-		return nullptr;
+		case HostFiles::ERead::Missing:
+			return nullptr;
+		case HostFiles::ERead::Failed:
+			IniFile::Failed->insert(NativePath::Resolve(File));
+			break;
+		case HostFiles::ERead::Done:
+			break;
 	}
 	std::weak_ptr<const FIniFile>& Before = Known[TCHAR_TO_UTF8(*File)];
 	const std::shared_ptr<const FIniFile> Same = Before.lock();
@@ -32,6 +47,11 @@ std::shared_ptr<const FIniFile> FIniFile::Read(const FString& File)
 	Result->FindSections();
 	Before = Result;
 	return Result;
+}
+
+bool FIniFile::HasFailed(const FString& File)
+{
+	return IniFile::Failed->contains(NativePath::Resolve(File));
 }
 
 void FIniFile::FindSections()

@@ -38,6 +38,9 @@ public:
 	 */
 	static std::shared_ptr<const FIniFile> Read(const FString& File);
 
+	/** Whether it could not be read at least once since the editor came up. */
+	static bool HasFailed(const FString& File);
+
 	const FString& GetPath() const { return Path; }
 
 	bool HasSection(const std::string& Section) const { return Sections.contains(Section); }

@@ -104,32 +104,31 @@ namespace StringSearch
 	{
 		const auto HashPair = [](const TCHAR* Second) { return static_cast<uint8>(Second[0] + (Second[-1] << 3)); };
 
-		// By pair: how far its last place in Sub is from Sub's end, plus one. 0 for pairs that do not occur.
-		uint8 Skips[256] = {};
+		// By pair: how far its last place in Sub is from Sub's end, the most for pairs that do not occur. Always a step, so that the
+		// processor need not guess which: only where the pair is Sub's last is there none, and something to compare.
+		std::array<uint8, 256> Steps;
+		Steps.fill(static_cast<uint8>(SubLen - 1));
 		for (int32 Index = 1; Index < SubLen; ++Index)
 		{
-			Skips[HashPair(Sub + Index)] = static_cast<uint8>(SubLen - Index);
+			Steps[HashPair(Sub + Index)] = static_cast<uint8>(SubLen - 1 - Index);
 		}
 
 		const TCHAR* const LastEnd = Last + SubLen - 1;
-		for (const TCHAR* End = Begin + SubLen - 1; End <= LastEnd;)
+		for (const TCHAR* End = Begin + SubLen - 1; End <= LastEnd; ++End)
 		{
-			const uint8 Skip = Skips[HashPair(End)];
-			if (Skip == 0)
+			uint8 Step = Steps[HashPair(End)];
+			while (Step != 0)
 			{
-				End += SubLen - 1;
+				End += Step;
+				if (End > LastEnd)
+				{
+					return nullptr;
+				}
+				Step = Steps[HashPair(End)];
 			}
-			else if (Skip > 1)
-			{
-				End += Skip - 1;
-			}
-			else if (std::memcmp(End - (SubLen - 1), Sub, static_cast<std::size_t>(SubLen) * sizeof(TCHAR)) == 0)
+			if (std::memcmp(End - (SubLen - 1), Sub, static_cast<std::size_t>(SubLen) * sizeof(TCHAR)) == 0)
 			{
 				return End - (SubLen - 1);
-			}
-			else
-			{
-				++End;
 			}
 		}
 		return nullptr;

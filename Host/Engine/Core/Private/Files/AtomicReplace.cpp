@@ -4,6 +4,8 @@
 
 #include "Files/DiskFile.h"
 #include "Files/NativePath.h"
+#include "Files/WriteRules.h"
+#include "HostProblems.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -142,16 +144,23 @@ namespace AtomicReplace
 		return 0;
 	}
 
+	/** @return 0 or an errno */
+	int Flush(int File)
+	{
+		int Result = 0;
+		do
+		{
+			Result = fsync(File);
+		} while (Result != 0 && errno == EINTR);
+		return Result == 0 ? 0 : errno;
+	}
+
 	int WriteTemporary(int File, std::string_view Bytes, const std::string& Target, const struct stat* Existing, mode_t NewMode)
 	{
 		int Error = WriteAll(File, Bytes);
 		Error = Error != 0 ? Error : SetOwnerAndMode(File, Existing, NewMode);
 		Error = Error != 0 || Existing == nullptr ? Error : CopyAttributes(Target, *Existing, File);
-		if (Error == 0 && fsync(File) != 0)
-		{
-			Error = errno;
-		}
-		return Error;
+		return Error != 0 ? Error : Flush(File);
 	}
 
 	bool IsSame(const struct stat& A, const struct stat& B)
@@ -201,9 +210,11 @@ namespace AtomicReplace
 	void FlushFolder(const std::string& Folder)
 	{
 		const FDescriptor Directory{open(Folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)};
-		if (Directory.Value >= 0)
+		const int Error = Directory.Value >= 0 ? Flush(Directory.Value) : errno;
+		// A disk that fails, or is full. The others are those of a file system, or a user, that cannot do this.
+		if (Error == EIO || Error == ENOSPC || Error == EDQUOT)
 		{
-			fsync(Directory.Value);
+			HostProblems::Report(NativePath::ToString(Folder), 0, WriteRules::Describe(TEXT("what was written in this folder may not outlast a power loss"), Error), TEXT("Check the disk and write it again."));
 		}
 	}
 

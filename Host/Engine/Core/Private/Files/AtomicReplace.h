@@ -30,7 +30,7 @@ namespace AtomicReplace
 	 */
 	int Replace(const std::string& Target, std::string_view Bytes, const struct stat* Existing, mode_t NewMode, const std::string* Basis);
 
-	/** Makes names in the folder last that came or went. A file system that cannot do this has done all it can. */
+	/** Makes names in the folder last that came or went. A disk that fails is reported; a file system that cannot do this has done all it can. */
 	void FlushFolder(const std::string& Folder);
 
 	/** The same as Replace() with a file that is complete, or a folder where none stands. */

@@ -4,8 +4,12 @@
 
 #include "Files/AtomicReplace.h"
 #include "Files/FileOverlay.h"
+#include "Files/NativePath.h"
+#include "Files/WriteRules.h"
+#include "HostProblems.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <climits>
 #include <cstdlib>
 #include <dirent.h>
@@ -32,12 +36,22 @@ namespace FolderListing
 		return stat(Path.c_str(), &Status) == 0 && S_ISDIR(Status.st_mode);
 	}
 
+	/** Files of a folder that cannot be read would count as missing. */
+	void ReportNotRead(const std::string& Folder, int Error)
+	{
+		HostProblems::Report(NativePath::ToString(Folder), 0, WriteRules::Describe(TEXT("the folder cannot be read"), Error), TEXT("Check its permissions."));
+	}
+
 	std::vector<FEntry> ReadFolder(const std::string& Folder)
 	{
 		std::vector<FEntry> Result;
 		DIR* Directory = opendir(Folder.c_str());
 		if (Directory == nullptr)
 		{
+			if (errno != ENOENT && errno != ENOTDIR)
+			{
+				ReportNotRead(Folder, errno);
+			}
 			return Result;
 		}
 		while (const dirent* Entry = readdir(Directory))

@@ -17,8 +17,6 @@ struct FDateTime
 		: Ticks(InTicks)
 	{
 	}
-	/** Fatal when there is no such day or time. */
-	FDateTime(int32 Year, int32 Month, int32 Day, int32 Hour = 0, int32 Minute = 0, int32 Second = 0, int32 Millisecond = 0);
 
 	/** Host: the machine's time when the editor first asks, and from there on the host's clock, which tests step. */
 	static FDateTime UtcNow();
@@ -28,7 +26,6 @@ struct FDateTime
 
 	static bool IsLeapYear(int32 Year);
 	static int32 DaysInMonth(int32 Year, int32 Month);
-	static bool Validate(int32 Year, int32 Month, int32 Day, int32 Hour, int32 Minute, int32 Second, int32 Millisecond);
 
 	constexpr int64 GetTicks() const { return Ticks; }
 	void GetDate(int32& OutYear, int32& OutMonth, int32& OutDay) const;
@@ -47,8 +44,6 @@ struct FDateTime
 
 	/** "2024.05.31-23.59.59" */
 	FString ToString() const;
-	/** Reads "2024-05-31T23:59:59.000Z", with or without milliseconds and 'Z', or a date alone. */
-	static bool ParseIso8601(const TCHAR* DateTimeString, FDateTime& OutDateTime);
 
 private:
 	int64 Ticks = 0;

@@ -9,10 +9,6 @@
 enum class EGuidFormats
 {
 	Digits, // 32 hexadecimal digits
-	DigitsLower, // the same in lower case
-	DigitsWithHyphens, // 8-4-4-4-12
-	DigitsWithHyphensLower,
-	DigitsWithHyphensInBraces, // {8-4-4-4-12}
 };
 
 /** A globally unique identifier. The default constructor gives the invalid one, all zeros. */
@@ -33,7 +29,6 @@ struct FGuid
 	}
 
 	static FGuid NewGuid();
-	static bool Parse(const FString& GuidString, FGuid& OutGuid);
 
 	constexpr bool IsValid() const { return (A | B | C | D) != 0; }
 	constexpr void Invalidate() { *this = FGuid(); }

@@ -232,6 +232,17 @@ namespace ObjectConfig
 		const FProperty* OnlyProperty; // null: all
 	};
 
+	/** What could not be read would be lost: the object has defaults in its place. */
+	bool CheckRead(const FString& Config, const FString& File)
+	{
+		const FString Unread = HostConfig::FindUnread(Config);
+		if (!Unread.IsEmpty())
+		{
+			HostProblems::ReportNotWritten(File, FString::Printf(TEXT("the settings were not written: %s could not be read, and they are not known"), *Unread), TEXT("Put that file right and restart the editor."));
+		}
+		return Unread.IsEmpty();
+	}
+
 	/** One section: that of SectionClass, which owns its values or is the object's class. */
 	bool WriteSection(const FRequest& Request, const UClass* SectionClass)
 	{
@@ -260,7 +271,8 @@ namespace ObjectConfig
 			}
 		}
 		const FString LayerFile = Request.Layer == ELayer::Default ? HostConfig::GetDefaultFile(Config) : HostConfig::GetBranchFile(Config);
-		const bool bWritten = HostConfig::UpdateSection(Request.SpecificFile.IsEmpty() ? LayerFile : Request.SpecificFile, Section, Lines, OwnedKeys);
+		const FString File = Request.SpecificFile.IsEmpty() ? LayerFile : Request.SpecificFile;
+		const bool bWritten = CheckRead(Config, File) && HostConfig::UpdateSection(File, Section, Lines, OwnedKeys);
 		HostConfig::ReloadBranch(Config);
 		return bWritten;
 	}

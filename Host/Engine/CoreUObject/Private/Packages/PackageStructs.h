@@ -7,15 +7,13 @@
 class FProperty;
 class UScriptStruct;
 
-/** Structs that are one JSON string instead of an object of their fields: paths, identifiers, points in time. */
+/** Structs that are one JSON string instead of an object of their fields: paths. Any text will do, as with the engine: a path may lead nowhere. */
 struct FPackageStructFormat
 {
 	FString (*Write)(const void* Value);
 
-	/** False when the text is no value of the type. Value may be null: then the text is only checked. */
-	bool (*Read)(const FString& Text, void* Value);
-
-	const TCHAR* Example; // for the message to whoever wrote something else
+	/** Value may be null: then the text is only looked at. */
+	void (*Read)(const FString& Text, void* Value);
 
 	/** Null for structs that are stored field by field. */
 	static const FPackageStructFormat* Find(const UScriptStruct* Struct);

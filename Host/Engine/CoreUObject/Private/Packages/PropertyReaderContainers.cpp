@@ -47,7 +47,8 @@ bool FPropertyReader::ReadStruct(const UScriptStruct* Struct, void* Value, const
 		{
 			return false;
 		}
-		return Format->Read(Text, Value) || RefuseType(Place, Json, *FString::Printf(TEXT("a %s such as \"%s\""), *Struct->GetName(), Format->Example));
+		Format->Read(Text, Value);
+		return true;
 	}
 	if (Value != nullptr)
 	{

@@ -9,9 +9,6 @@
 #include "Math/Transform.h"
 #include "Math/Vector.h"
 #include "Math/Vector2D.h"
-#include "Misc/DateTime.h"
-#include "Misc/Guid.h"
-#include "Misc/Timespan.h"
 #include "Properties/PropertyText.h"
 #include "Reflection/RootTypes.h"
 #include "Reflection/TypeBuilder.h"
@@ -93,12 +90,6 @@ namespace UE::Reflection
 		Member<uint8>("R", STRUCT_OFFSET(FColor, R)), Member<uint8>("A", STRUCT_OFFSET(FColor, A))};
 	static FStructRecord GColorRecord = BaseStructures::Record<FColor>("FColor", &ZeroedOps<FColor>, GColorMembers, 4);
 
-	static constexpr FPropertyRecord GGuidMembers[] = {Member<uint32>("A", STRUCT_OFFSET(FGuid, A)), Member<uint32>("B", STRUCT_OFFSET(FGuid, B)),
-		Member<uint32>("C", STRUCT_OFFSET(FGuid, C)), Member<uint32>("D", STRUCT_OFFSET(FGuid, D))};
-	static FStructRecord GGuidRecord = BaseStructures::Record<FGuid>("FGuid", &ComparedOps<FGuid>, GGuidMembers, 4);
-
-	static FStructRecord GDateTimeRecord = BaseStructures::Record<FDateTime>("FDateTime", &ComparedOps<FDateTime>, nullptr, 0);
-	static FStructRecord GTimespanRecord = BaseStructures::Record<FTimespan>("FTimespan", &ComparedOps<FTimespan>, nullptr, 0);
 	static FStructRecord GTopLevelAssetPathRecord = BaseStructures::Record<FTopLevelAssetPath>("FTopLevelAssetPath", &ComparedOps<FTopLevelAssetPath>, nullptr, 0);
 	static FStructRecord GSoftObjectPathRecord = BaseStructures::Record<FSoftObjectPath>("FSoftObjectPath", &ComparedOps<FSoftObjectPath>, nullptr, 0);
 	static FStructRecord GSoftClassPathRecord = BaseStructures::Record<FSoftClassPath>("FSoftClassPath", &ComparedOps<FSoftClassPath>, nullptr, 0);
@@ -110,14 +101,14 @@ namespace UE::Reflection
 
 	namespace BaseStructures
 	{
-		/** Values that are one piece of text; quoted inside other values where commas or blanks could end them. */
-		template<typename T, FString (*ToText)(const T&), bool (*FromText)(const FString&, T&), bool bQuoted>
+		/** Values that are one piece of text; quoted inside other values, where commas or blanks could end them. */
+		template<typename T, FString (*ToText)(const T&), bool (*FromText)(const FString&, T&)>
 		const FStructTextOps& TextOps()
 		{
 			static constexpr FStructTextOps Ops = {
 				[](FString& Out, const void* Value, int32 PortFlags) {
 					const FString Text = ToText(*static_cast<const T*>(Value));
-					if (bQuoted && (PortFlags & PPF_Delimited))
+					if (PortFlags & PPF_Delimited)
 					{
 						PropertyText::AppendQuoted(Out, Text);
 					}
@@ -134,31 +125,6 @@ namespace UE::Reflection
 			return Ops;
 		}
 
-		FString GuidToText(const FGuid& Guid)
-		{
-			return Guid.ToString();
-		}
-		FString DateToText(const FDateTime& Date)
-		{
-			return Date.ToString();
-		}
-		bool DateFromText(const FString& Text, FDateTime& Date)
-		{
-			// "2024.05.31-18.30.00" is ISO 8601 with other separators.
-			const FString Iso = Text.Left(10).Replace(TEXT("."), TEXT("-")) + TEXT("T") + Text.RightChop(11).Replace(TEXT("."), TEXT(":"));
-			return FDateTime::ParseIso8601(*Iso, Date);
-		}
-		FString TimespanToText(const FTimespan& Span)
-		{
-			return LexToString(Span.GetTicks());
-		}
-		bool TimespanFromText(const FString& Text, FTimespan& Span)
-		{
-			int64 Ticks = 0;
-			const bool bNumber = PropertyText::ParseInteger(Text, Ticks);
-			Span = FTimespan(Ticks);
-			return bNumber;
-		}
 		FString AssetPathToText(const FTopLevelAssetPath& Path)
 		{
 			return Path.ToString();
@@ -187,12 +153,9 @@ namespace UE::Reflection
 		{
 			GetStruct(*Record);
 		}
-		FTypeBuilder::SetTextOps(GetStruct(GGuidRecord), TextOps<FGuid, &GuidToText, &FGuid::Parse, false>());
-		FTypeBuilder::SetTextOps(GetStruct(GDateTimeRecord), TextOps<FDateTime, &DateToText, &DateFromText, false>());
-		FTypeBuilder::SetTextOps(GetStruct(GTimespanRecord), TextOps<FTimespan, &TimespanToText, &TimespanFromText, false>());
-		FTypeBuilder::SetTextOps(GetStruct(GTopLevelAssetPathRecord), TextOps<FTopLevelAssetPath, &AssetPathToText, &AssetPathFromText, true>());
-		FTypeBuilder::SetTextOps(GetStruct(GSoftObjectPathRecord), TextOps<FSoftObjectPath, &SoftPathToText, &SoftPathFromText, true>());
-		FTypeBuilder::SetTextOps(GetStruct(GSoftClassPathRecord), TextOps<FSoftObjectPath, &SoftPathToText, &SoftPathFromText, true>());
+		FTypeBuilder::SetTextOps(GetStruct(GTopLevelAssetPathRecord), TextOps<FTopLevelAssetPath, &AssetPathToText, &AssetPathFromText>());
+		FTypeBuilder::SetTextOps(GetStruct(GSoftObjectPathRecord), TextOps<FSoftObjectPath, &SoftPathToText, &SoftPathFromText>());
+		FTypeBuilder::SetTextOps(GetStruct(GSoftClassPathRecord), TextOps<FSoftObjectPath, &SoftPathToText, &SoftPathFromText>());
 	}
 
 	UScriptStruct* GetBaseStructure(FStructRecord& Record)
@@ -212,15 +175,12 @@ namespace UE::Reflection
 	}
 HOST_BASE_STRUCTURE_GETTER(FAssetData, GAssetDataRecord)
 HOST_BASE_STRUCTURE_GETTER(FColor, GColorRecord)
-HOST_BASE_STRUCTURE_GETTER(FDateTime, GDateTimeRecord)
-HOST_BASE_STRUCTURE_GETTER(FGuid, GGuidRecord)
 HOST_BASE_STRUCTURE_GETTER(FIntPoint, GIntPointRecord)
 HOST_BASE_STRUCTURE_GETTER(FLinearColor, GLinearColorRecord)
 HOST_BASE_STRUCTURE_GETTER(FQuat, GQuatRecord)
 HOST_BASE_STRUCTURE_GETTER(FRotator, GRotatorRecord)
 HOST_BASE_STRUCTURE_GETTER(FSoftClassPath, GSoftClassPathRecord)
 HOST_BASE_STRUCTURE_GETTER(FSoftObjectPath, GSoftObjectPathRecord)
-HOST_BASE_STRUCTURE_GETTER(FTimespan, GTimespanRecord)
 HOST_BASE_STRUCTURE_GETTER(FTopLevelAssetPath, GTopLevelAssetPathRecord)
 HOST_BASE_STRUCTURE_GETTER(FTransform, GTransformRecord)
 HOST_BASE_STRUCTURE_GETTER(FVector, GVectorRecord)

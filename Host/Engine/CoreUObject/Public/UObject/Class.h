@@ -343,11 +343,8 @@ struct TBaseStructure
 };
 
 struct FAssetData;
-struct FDateTime;
-struct FGuid;
 struct FSoftClassPath;
 struct FSoftObjectPath;
-struct FTimespan;
 
 #define HOST_BASE_STRUCTURE(Type) \
 	template<> \
@@ -357,15 +354,12 @@ struct FTimespan;
 	};
 HOST_BASE_STRUCTURE(FAssetData)
 HOST_BASE_STRUCTURE(FColor)
-HOST_BASE_STRUCTURE(FDateTime)
-HOST_BASE_STRUCTURE(FGuid)
 HOST_BASE_STRUCTURE(FIntPoint)
 HOST_BASE_STRUCTURE(FLinearColor)
 HOST_BASE_STRUCTURE(FQuat)
 HOST_BASE_STRUCTURE(FRotator)
 HOST_BASE_STRUCTURE(FSoftClassPath)
 HOST_BASE_STRUCTURE(FSoftObjectPath)
-HOST_BASE_STRUCTURE(FTimespan)
 HOST_BASE_STRUCTURE(FTopLevelAssetPath)
 HOST_BASE_STRUCTURE(FTransform)
 HOST_BASE_STRUCTURE(FVector)
