@@ -127,8 +127,8 @@ QWidget* FOutputLogDock::MakeBar()
 	Search->setClearButtonEnabled(true);
 	Category->setObjectName(QStringLiteral("OutputLogCategory"));
 	Category->setAccessibleName(tr("Category"));
-	Category->setMinimumWidth(150);
-	Search->setMinimumWidth(140);
+	Category->setMinimumWidth(110);
+	Search->setMinimumWidth(90);
 	Category->addItem(tr("All categories"));
 	Verbosity->setObjectName(QStringLiteral("OutputLogVerbosity"));
 	Verbosity->setAccessibleName(tr("Verbosity"));

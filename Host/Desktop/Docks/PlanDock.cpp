@@ -279,6 +279,7 @@ void FPlanDock::LetGo()
 {
 	Watch.Forget();
 	View->SetPlan(FVolumePlan());
+	View->ForgetMark();
 	bMinimapRead = false;
 	NumCameraMoves = -1;
 }

@@ -153,7 +153,7 @@ void FPlanView::paintEvent(QPaintEvent*)
 		Plotter.DrawDrop(*DropPlace);
 	}
 	const double Age = MarkedAt.IsSet() ? (HostClock::Now() - MarkedAt.GetValue()) / PlanView::MarkSeconds : 1.0;
-	if (Age >= 0.0 && Age < 1.0) // after a restart, the clock begins anew
+	if (Age < 1.0)
 	{
 		Plotter.DrawMark(Mark, Age);
 		QTimer::singleShot(16, this, [this] { update(); });

@@ -35,6 +35,9 @@ public:
 	/** Moves the place to the middle of the view and marks it for a moment. */
 	void PanTo(QPointF Place);
 
+	/** The editor goes down, and its clock begins anew. */
+	void ForgetMark() { MarkedAt.Reset(); }
+
 	/** What to say while there are no volumes. */
 	void SetEmptyText(const QString& Text);
 

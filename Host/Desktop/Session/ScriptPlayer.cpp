@@ -29,6 +29,16 @@ namespace ScriptPlayer
 		return Name.endsWith(QLatin1Char('-')) ? Name.chopped(1) : Name;
 	}
 
+	/** What comes up in rows changes the height of what they stand in, which shows one frame later, and so on outwards. */
+	void Settle(FMainWindow& Window)
+	{
+		static const int NumFrames = 4;
+		for (int Frame = 0; Frame < NumFrames; ++Frame)
+		{
+			Window.ShowNow();
+		}
+	}
+
 	/** The window with the menus that are open over it. */
 	QPixmap Draw(FMainWindow& Window)
 	{
@@ -79,12 +89,14 @@ namespace ScriptPlayer
 			}
 			if (Is(Step, TEXT("print snapshot")))
 			{
+				Settle(Window);
 				KeepPanel(Step.GetArguments()[0]);
 			}
 			bCleared = bCleared ? Is(Step, TEXT("save")) || Step.Command == nullptr || ClearsWindow(Step) : ClearsWindow(Step);
 			const bool bEnds = Next == nullptr || Next->IsHeading();
 			if (!bCleared && !Name.isEmpty() && (bEnds || ClearsWindow(*Next)))
 			{
+				Settle(Window);
 				Save(QString(), Draw(Window));
 			}
 		}

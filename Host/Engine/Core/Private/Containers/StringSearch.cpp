@@ -99,36 +99,39 @@ namespace StringSearch
 	/**
 	 * As FindForward(), case counts. Looks at one pair of neighbours, skips ahead to the next place where it could stand in Sub, and so on;
 	 * most pairs do not occur in Sub at all. Quick in long texts. Sub has 2 to 255 units.
+	 *
+	 * The branches are meant: guessing the long step, the processor reads ahead. A table of steps without branches took half as long again.
 	 */
 	const TCHAR* FindBySkipping(const TCHAR* Begin, const TCHAR* Last, const TCHAR* Sub, int32 SubLen)
 	{
 		const auto HashPair = [](const TCHAR* Second) { return static_cast<uint8>(Second[0] + (Second[-1] << 3)); };
 
-		// By pair: how far its last place in Sub is from Sub's end, the most for pairs that do not occur. Always a step, so that the
-		// processor need not guess which: only where the pair is Sub's last is there none, and something to compare.
-		std::array<uint8, 256> Steps;
-		Steps.fill(static_cast<uint8>(SubLen - 1));
+		// By pair: how far its last place in Sub is from Sub's end, plus one. 0 for pairs that do not occur.
+		uint8 Skips[256] = {};
 		for (int32 Index = 1; Index < SubLen; ++Index)
 		{
-			Steps[HashPair(Sub + Index)] = static_cast<uint8>(SubLen - 1 - Index);
+			Skips[HashPair(Sub + Index)] = static_cast<uint8>(SubLen - Index);
 		}
 
 		const TCHAR* const LastEnd = Last + SubLen - 1;
-		for (const TCHAR* End = Begin + SubLen - 1; End <= LastEnd; ++End)
+		for (const TCHAR* End = Begin + SubLen - 1; End <= LastEnd;)
 		{
-			uint8 Step = Steps[HashPair(End)];
-			while (Step != 0)
+			const uint8 Skip = Skips[HashPair(End)];
+			if (Skip == 0)
 			{
-				End += Step;
-				if (End > LastEnd)
-				{
-					return nullptr;
-				}
-				Step = Steps[HashPair(End)];
+				End += SubLen - 1;
 			}
-			if (std::memcmp(End - (SubLen - 1), Sub, static_cast<std::size_t>(SubLen) * sizeof(TCHAR)) == 0)
+			else if (Skip > 1)
+			{
+				End += Skip - 1;
+			}
+			else if (std::memcmp(End - (SubLen - 1), Sub, static_cast<std::size_t>(SubLen) * sizeof(TCHAR)) == 0)
 			{
 				return End - (SubLen - 1);
+			}
+			else
+			{
+				++End;
 			}
 		}
 		return nullptr;
