@@ -76,10 +76,12 @@ TEST_F(BuildByScript, LevelsByNameStayInTheirAssetWhenItIsRenamed)
 			{"Key": "Lobby", "Value": "/Game/Maps/Lobby.Lobby"}, {"Key": "Roof", "Value": "/Game/Maps/Roof.Roof"}]}}]})");
 	const std::string Maps = R"x("((\"Lobby\", \"/Game/Maps/Lobby.Lobby\"),(\"Roof\", \"/Game/Maps/Roof.Roof\"))")x";
 	Do("press Skip\n"
-	   "expect property /Game/Levels Maps " + Maps + "\n"
-	   "rename asset /Game/Levels /Game/Linked/All\n"
-	   "save\n"
-	   "restart\n"
-	   "expect property /Game/Linked/All Maps " + Maps + "\n");
+	   "expect property /Game/Levels Maps " +
+		Maps + "\n"
+			   "rename asset /Game/Levels /Game/Linked/All\n"
+			   "save\n"
+			   "restart\n"
+			   "expect property /Game/Linked/All Maps " +
+		Maps + "\n");
 	EXPECT_FALSE(Folder.Exists("Project/Content/Levels.uasset.json"));
 }
