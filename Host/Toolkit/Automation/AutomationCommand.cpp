@@ -71,7 +71,8 @@ namespace AutomationCommand
 	EExitStatus TellAndExport(const FAutomationReport& Report, const FString& Folder)
 	{
 		AutomationText::PrintTotals(Report);
-		if (!Folder.IsEmpty() && !AutomationReport::Write(Report, Folder))
+		HostProblems::Clear(); // those of the tests are told
+		if (!Folder.IsEmpty() && (!AutomationReport::Write(Report, Folder) || !HostProblems::GetAll().IsEmpty()))
 		{
 			Console::PrintProblems(HostProblems::GetAll());
 			return EExitStatus::Trouble;

@@ -76,6 +76,10 @@ namespace InstallCommand
 		{
 			return Tell(TEXT("Not installed completely. Once that is put right, another run completes it."), EExitStatus::Trouble);
 		}
+		if (!HostProblems::GetAll().IsEmpty())
+		{
+			return Tell(TEXT("Installed, but a power loss may take it away."), EExitStatus::Trouble);
+		}
 		return Tell(TEXT("Installed."), EExitStatus::Done);
 	}
 }
